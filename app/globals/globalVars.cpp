@@ -1,0 +1,65 @@
+#include "globalVars.h"
+
+int g_connect_with = 0;
+std::string g_cur_wifi_IP;
+std::string g_cur_wifi_port;
+bool g_metric_units = false;
+bool g_log_runs = false;
+int g_this_delta = 0;
+int g_cur_task = 0;
+int g_cur_mode = 0;
+int next_step_idx = 0;
+int g_retries = 0;
+int g_obd_msg_state = 0;
+int g_replies_expected = 0;
+bounded_text<20> cur_cmd;
+std::string odb_curReplyBuffyMsg;
+std::string odb_curReplyMsg;
+bool connected_2_WIFI_interface = false;
+bool connected_2_BT_interface = false;
+bool connected_2_KS_interface = false;
+bool KS_did_connect_2_car = false;
+bounded_text<40> g_cur_interface;
+bounded_text<80> g_cur_protocol;
+bounded_text<16> g_Supported_obd_mask_0;
+bounded_text<16> g_Supported_obd_mask_1;
+bounded_text<16> g_Supported_obd_mask_2;
+bounded_text<12> g_Supported_obd_mask_3;
+bounded_text<20> p_cur_01_pid;
+int g_cur_barom_press = 0;
+int g_BT_cur_status = 0;
+int g_vehicle_idx = 0;
+bool connecting_2_car_port = false;
+
+void reset_global_vars() {
+    g_connect_with = 0;
+    g_cur_wifi_IP.clear();
+    g_cur_wifi_port.clear();
+    g_metric_units = false;
+    g_log_runs = false;
+    g_this_delta = 0;
+    g_cur_task = 0;
+    g_cur_mode = 0;
+    next_step_idx = 0;
+    g_retries = 0;
+    g_obd_msg_state = 0;
+    g_replies_expected = 0;
+    cur_cmd.clear();
+    odb_curReplyBuffyMsg.clear();
+    odb_curReplyMsg.clear();
+    connected_2_WIFI_interface = false;
+    connected_2_BT_interface = false;
+    connected_2_KS_interface = false;
+    KS_did_connect_2_car = false;
+    g_cur_interface.clear();
+    g_cur_protocol.clear();
+    g_Supported_obd_mask_0.clear();
+    g_Supported_obd_mask_1.clear();
+    g_Supported_obd_mask_2.clear();
+    g_Supported_obd_mask_3.clear();
+    p_cur_01_pid.clear();
+    g_cur_barom_press = 0;
+    g_BT_cur_status = 0;
+    g_vehicle_idx = 0;
+    connecting_2_car_port = false;
+}

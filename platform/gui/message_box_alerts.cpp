@@ -1,0 +1,31 @@
+#include "message_box_alerts.h"
+
+#include "display_text.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+void message_box_alerts::beep() { QApplication::beep(); }
+
+int message_box_alerts::run_modal(const alert_request& request) {
+    QMessageBox box(QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.setWindowTitle(request.title.empty() ? QApplication::applicationDisplayName()
+                                             : display_text(request.title));
+    box.setText(display_text(request.message));
+    box.setInformativeText(display_text(request.informative));
+    constexpr QMessageBox::Icon ICONS[] = {QMessageBox::Warning, QMessageBox::Information,
+                                           QMessageBox::Critical};
+    box.setIcon(ICONS[static_cast<int>(request.style)]);
+    QList<QPushButton*> buttons;
+    for (const std::string& text : request.buttons)
+        buttons.append(box.addButton(display_text(text), QMessageBox::AcceptRole));
+    box.setDefaultButton(buttons.first());
+    box.setEscapeButton(buttons.last());
+    box.exec();
+    for (qsizetype i = 0; i < buttons.size(); ++i)
+        if (box.clickedButton() == buttons[i])
+            return static_cast<int>(i);
+    return static_cast<int>(buttons.size()) - 1;
+}

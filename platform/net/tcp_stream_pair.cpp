@@ -1,0 +1,106 @@
+#include "tcp_stream_pair.h"
+
+#include <QByteArray>
+#include <QNetworkProxy>
+
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/socket.h>
+
+tcp_stream_pair::tcp_stream_pair(run_loop& loop, std::string host, long port)
+    : loop_(loop), host_(std::move(host)), port_(port) {}
+
+tcp_stream_pair::~tcp_stream_pair() { close(); }
+
+void tcp_stream_pair::open(event_handler handler) {
+    handler_ = std::move(handler);
+    if (port_ < 0 || port_ > 65535) {
+        error_ = "Port " + std::to_string(port_) + " is not between 0 and 65535";
+        raise(stream_side::input, STREAM_ERROR);
+        return;
+    }
+    connect(&socket_, &QTcpSocket::connected, this, &tcp_stream_pair::connected);
+    connect(&socket_, &QTcpSocket::readyRead, this, &tcp_stream_pair::received);
+    connect(&socket_, &QTcpSocket::errorOccurred, this, &tcp_stream_pair::failed);
+    connect(&socket_, &QTcpSocket::disconnected, this, &tcp_stream_pair::disconnected);
+    // A proxy of the desktop's has no business between the program and the adapter.
+    socket_.setProxy(QNetworkProxy::NoProxy);
+    socket_.connectToHost(QString::fromStdString(host_), static_cast<quint16>(port_));
+}
+
+void tcp_stream_pair::connected() {
+    socket_.setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    acknowledge_at_once();
+    raise(stream_side::input, STREAM_OPEN_COMPLETED);
+    raise(stream_side::output, STREAM_OPEN_COMPLETED);
+    raise(stream_side::output, STREAM_SPACE_AVAILABLE);
+}
+
+// Some adapters write a reply in pieces with Nagle's algorithm on; a delayed acknowledgement would then cost
+// 40 ms a request. The kernel drops the option now and then, so it is set again around each read.
+void tcp_stream_pair::acknowledge_at_once() {
+    const int on = 1;
+    ::setsockopt(static_cast<int>(socket_.socketDescriptor()), IPPROTO_TCP, TCP_QUICKACK, &on, sizeof on);
+}
+
+void tcp_stream_pair::received() {
+    acknowledge_at_once();
+    if (bytes_announced_ || ended_)
+        return;
+    bytes_announced_ = true;
+    raise(stream_side::input, STREAM_BYTES_AVAILABLE);
+}
+
+std::string tcp_stream_pair::read(std::size_t most) {
+    bytes_announced_ = false;
+    const QByteArray bytes = socket_.read(static_cast<qint64>(most));
+    if (socket_.socketDescriptor() != -1)
+        acknowledge_at_once();
+    // What is left raises no signal of the socket's: announce it here.
+    if (socket_.bytesAvailable() > 0) {
+        bytes_announced_ = true;
+        raise(stream_side::input, STREAM_BYTES_AVAILABLE);
+    } else if (ended_) {
+        raise(stream_side::input, STREAM_END);
+    }
+    return bytes.toStdString();
+}
+
+void tcp_stream_pair::write(std::string_view bytes) {
+    if (socket_.state() != QAbstractSocket::ConnectedState)
+        return;
+    socket_.write(bytes.data(), static_cast<qint64>(bytes.size()));
+    socket_.flush();
+}
+
+void tcp_stream_pair::failed(QAbstractSocket::SocketError error) {
+    if (error == QAbstractSocket::RemoteHostClosedError)
+        return; // disconnected() tells it as the end
+    error_ = socket_.errorString().toStdString();
+    raise(stream_side::input, STREAM_ERROR);
+}
+
+void tcp_stream_pair::disconnected() {
+    if (socket_.error() != QAbstractSocket::RemoteHostClosedError || ended_)
+        return;
+    ended_ = true;
+    if (!bytes_announced_)
+        raise(stream_side::input, STREAM_END);
+}
+
+void tcp_stream_pair::close() {
+    alive_.reset();
+    handler_ = nullptr;
+    socket_.disconnect(this);
+    socket_.abort();
+}
+
+void tcp_stream_pair::raise(stream_side side, int event_code) {
+    loop_.after(run_loop::milliseconds(0),
+                [this, alive = std::weak_ptr<bool>(alive_), side, event_code] {
+                    if (alive.expired())
+                        return;
+                    const event_handler call = handler_; // the pair may be replaced meanwhile
+                    call(side, event_code);
+                });
+}

@@ -1,0 +1,47 @@
+#include "run_loop.h"
+
+#include <utility>
+
+run_loop::timer_id run_loop::after(milliseconds delay, std::function<void()> call) {
+    const timer_id id = ++last_id_;
+    calls_.emplace(id, std::move(call));
+    arm(id, delay);
+    return id;
+}
+
+void run_loop::cancel(timer_id id) {
+    // A call that waits in due_ is found missing when its turn comes.
+    if (calls_.erase(id) > 0)
+        disarm(id);
+}
+
+void run_loop::fall_due(timer_id id) {
+    due_.push_back(id);
+    deliver_due();
+}
+
+void run_loop::deliver_due() {
+    if (delivering_)
+        return;
+    struct delivery_guard {
+        bool& flag;
+        explicit delivery_guard(bool& f) : flag(f) { flag = true; }
+        ~delivery_guard() { flag = false; }
+    } guard(delivering_);
+    while (!held() && !due_.empty()) {
+        const timer_id id = due_.front();
+        due_.pop_front();
+        const auto found = calls_.find(id);
+        if (found == calls_.end())
+            continue;
+        const auto call = std::move(found->second);
+        calls_.erase(found);
+        call();
+    }
+}
+
+modal_hold::~modal_hold() {
+    // Never deliver from here: the operation that opened the dialog has not finished.
+    if (--loop_.holds_ == 0 && !loop_.due_.empty())
+        loop_.wake();
+}

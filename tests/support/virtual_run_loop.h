@@ -1,0 +1,46 @@
+// A run loop on a virtual clock: no test waits in real time.
+#pragma once
+
+#include "run_loop.h"
+
+#include <map>
+#include <utility>
+
+class virtual_run_loop final : public run_loop {
+  public:
+    milliseconds now() const override { return now_; }
+
+    // Lets `span` pass; what falls due is delivered at its own moment, in order.
+    void advance(milliseconds span) {
+        const milliseconds end = now_ + span;
+        while (!armed_.empty() && armed_.begin()->first.first <= end) {
+            const auto [when, id] = armed_.begin()->first;
+            armed_.erase(armed_.begin());
+            now_ = std::max(now_, when);
+            fall_due(id);
+        }
+        now_ = end;
+        deliver_due();
+    }
+    // Delivers what is due now.
+    void settle() { advance(milliseconds(0)); }
+    bool anything_armed() const { return !armed_.empty(); }
+    // When the next call falls due.
+    milliseconds next_due() const { return armed_.begin()->first.first; }
+
+  protected:
+    void arm(timer_id id, milliseconds delay) override {
+        const milliseconds due = now_ + std::max(delay, milliseconds(0));
+        armed_[{due, id}] = true;
+    }
+    void disarm(timer_id id) override {
+        std::erase_if(armed_, [id](const auto& entry) { return entry.first.second == id; });
+    }
+    void wake() override {
+        // advance() and settle() deliver what waited behind a dialog.
+    }
+
+  private:
+    milliseconds now_{0};
+    std::map<std::pair<milliseconds, timer_id>, bool> armed_;
+};

@@ -1,0 +1,139 @@
+// The decoding toolkit: turns adapter replies into bytes, values and display text. It keeps no state of its
+// own; one shared instance exists (sharedManager) and some screens create one for themselves. The doors it
+// looks through (resources, settings, message boxes, notifications) are handed to it and outlive it.
+//
+// Replies are text. The adapter ends lines with "\r", may add line feeds, may print a search notice ending in
+// "..." before the first line and ends every reply with ">". Marks in answers: "~" unusable reply, "N/A" missing
+// table entry or unit, "NOT FOUND" unknown PID name.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+class alerts;
+class bundle;
+class notification_center;
+class user_defaults;
+
+struct toolkit_doors {
+    const bundle* resources = nullptr;
+    const user_defaults* defaults = nullptr;
+    alerts* message_boxes = nullptr;
+    notification_center* notifications = nullptr;
+};
+
+struct text_hash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>{}(text); }
+};
+using text_dictionary = std::unordered_map<std::string, std::string, text_hash, std::equal_to<>>;
+
+// One row of the readiness table.
+struct readiness_flag {
+    std::string state;   // "N/A", "OK" or "X"
+    std::string monitor; // label
+    std::string kind;    // "Continous" or "Non-Continous"
+    bool operator==(const readiness_flag&) const = default;
+};
+
+class mac_toolies {
+  public:
+    explicit mac_toolies(const toolkit_doors& doors) : doors_(doors) {}
+
+    // Makes the shared instance; called once by the start-up code (and by each test for itself).
+    static void initialize(const toolkit_doors& doors);
+    static mac_toolies& sharedManager();
+
+    // --- reply_text.cpp: normalising, hex, splitting, padding -------------------------------------------
+    static std::string clean_a_reply(std::string_view reply);
+    // The reply from its first "..." on, the dots included; unchanged without one.
+    static std::string fix_3dots(std::string_view reply);
+    // The reply, or "~" when it is no reply to that two-digit PID. The third text plays no part.
+    static std::string check_bad_reply(std::string_view reply, std::string_view this_pid,
+                                       std::string_view this_bad_char = {});
+    static int charToNibble(char c); // 0 for anything but a hex digit
+    // Nothing for text of odd length.
+    static std::optional<std::vector<std::uint8_t>> fromHexString(std::string_view text);
+    // Reads as C's "%x": leading white space, a sign and "0x" are accepted, reading stops at the first other
+    // character, no digits give 0; more than 32 bits saturate.
+    static std::uint32_t convertStr2Byte(std::string_view text);
+    static std::string convertByte2HexStr(unsigned value);
+    // Every piece, empty ones too.
+    static std::vector<std::string> Pull_line_into_array(std::string_view text, std::string_view this_token,
+                                                         int no_of_items = 0);
+    // Non-empty pieces between any of the separator characters, of the first 299 bytes.
+    static int count_items_in_Str(std::string_view text, std::string_view this_token);
+    static std::string myReplace(std::string_view text, std::string_view this_str,
+                                 std::string_view with_this_str);
+    static std::string padLeft(std::string_view text, int padded_size, std::string_view padChar);
+    static std::string padRight(std::string_view text, int padded_size, std::string_view pdChar);
+    static std::string padString(std::string_view text, char this_pad_char, int this_padded_len, bool onRight);
+    static std::string formatStringWithDouble(std::string_view text, int no_of_decs);
+
+    // --- message_boxes.cpp ------------------------------------------------------------------------------
+    void myMsgBox(std::string_view text) const;
+    // True when the first button was chosen. An empty other_btn_txt: one button.
+    bool myMsgBox(std::string_view title, std::string_view this_msg, std::string_view cancel_btn_txt,
+                  std::string_view other_btn_txt) const;
+
+    // --- controllers.cpp: several control units in one reply --------------------------------------------
+    static std::string pull_ECU(std::string_view line);
+    static std::optional<std::string> pull_PID_msg(std::string_view line, std::string_view this_PID,
+                                                   std::string_view for_this_ECU);
+    static std::optional<std::vector<std::string>> Pull_ECU_msg(std::string_view reply);
+    static std::string grab_CAN_msg(std::string_view reply);
+
+    // --- supported_pids.cpp -----------------------------------------------------------------------------
+    static void handle_00_replies(std::string_view reply, int this_pid_group);
+    static bool is_this_code_available(std::string_view mask, std::string_view this_pid, int this_pid_set);
+
+    // --- trouble_codes.cpp ------------------------------------------------------------------------------
+    // Whether the reply is in CAN form is taken from g_cur_protocol.
+    static std::vector<std::string> work_reply_to_error_codes_pid(std::string_view mode,
+                                                                  std::string_view this_reply);
+    static std::vector<std::string> decode_trouble_codes(std::string_view mode, std::string_view this_reply,
+                                                         bool is_can);
+    static std::string pull_DTC_code(std::string_view four_digits);
+
+    // --- readiness.cpp ----------------------------------------------------------------------------------
+    // Empties and refills `these_flags` from bytes B, C, D of "01 01" as hex text (SAE J1979). Throws
+    // std::out_of_range at the first missing label line; the rows built so far stay.
+    void handle_readiness_codes(std::string_view flags_text, std::vector<readiness_flag>& these_flags) const;
+
+    // --- tables.cpp: shipped text tables ----------------------------------------------------------------
+    std::optional<std::vector<std::string>> get_array_from_resource(std::string_view name,
+                                                                    std::string_view this_type) const;
+    std::optional<text_dictionary> get_dictionary_from_resource(std::string_view name,
+                                                                std::string_view this_type,
+                                                                std::string_view this_delim) const;
+
+    // --- catalogue.cpp: names, units and ranges of parameters -------------------------------------------
+    std::string get_pid_name(std::string_view pid, bool with_pid) const;
+    std::string get_units(std::string_view pid) const;
+    double get_PID_min_max(std::string_view pid, bool get_max) const;
+    std::string encode_to_OBD(double value, std::string_view this_pid) const;
+
+    // --- translation.cpp --------------------------------------------------------------------------------
+    std::string translateResponse(std::string_view reply) const;
+    double get_OBDVal(std::string_view reply) const; // NaN when the reply is unusable
+
+    // --- mode6.cpp, vin.cpp -----------------------------------------------------------------------------
+    static std::string CAN_scale_and_units(std::string_view identifier, std::string_view this_value,
+                                           bool with_units);
+    std::string grab_CAN_mode6_OBDMID_TESTID_description(std::string_view identifier, bool is_OBDMID) const;
+    static std::string work_out_vin(std::string_view reply);
+
+    // --- canned_adapter.cpp -----------------------------------------------------------------------------
+    // Posts the canned answer to `command` as "OBDevent" before it returns.
+    void emulate_OBD(std::string_view command) const;
+
+    const toolkit_doors& doors() const { return doors_; }
+
+  private:
+    toolkit_doors doors_;
+};

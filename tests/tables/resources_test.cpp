@@ -2,12 +2,12 @@
 #include "bundle.h"
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QXmlStreamReader>
 
 #include <cctype>
 #include <gtest/gtest.h>
 #include <map>
-#include <regex>
 #include <set>
 #include <vector>
 
@@ -41,9 +41,11 @@ string_table read_strings(const std::string& language) {
 // "%1", "%d", "%@" and the like in a text, sorted: translators may move them but neither drop nor
 // change them.
 std::multiset<std::string> placeholders(const std::string& text) {
-    static const std::regex form("%(L?[0-9]+|@|[-0-9.]*l*[a-zA-Z%])");
-    return {std::sregex_token_iterator(text.begin(), text.end(), form),
-            std::sregex_token_iterator()};
+    static const QRegularExpression form(QStringLiteral("%(L?[0-9]+|@|[-0-9.]*l*[a-zA-Z%])"));
+    std::multiset<std::string> result;
+    for (auto matches = form.globalMatch(QString::fromStdString(text)); matches.hasNext();)
+        result.insert(matches.next().captured().toStdString());
+    return result;
 }
 
 // The letter behind "&" in lower case; NUL without one.

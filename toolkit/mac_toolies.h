@@ -7,12 +7,12 @@
 // table entry or unit, "NOT FOUND" unknown PID name.
 #pragma once
 
+#include "text_dictionary.h"
+
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 class alerts;
@@ -26,12 +26,6 @@ struct toolkit_doors {
     alerts* message_boxes = nullptr;
     notification_center* notifications = nullptr;
 };
-
-struct text_hash {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>{}(text); }
-};
-using text_dictionary = std::unordered_map<std::string, std::string, text_hash, std::equal_to<>>;
 
 // One row of the readiness table.
 struct readiness_flag {

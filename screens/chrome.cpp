@@ -9,10 +9,12 @@
 #include <QFile>
 #include <QFont>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QIconEngine>
 #include <QLabel>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <QTableView>
 #include <QVBoxLayout>
 
 #include <memory>
@@ -64,6 +66,16 @@ QString ui_text(Ks_lite_delegate& delegate, std::string_view key) {
     return display_text(delegate.doors().resources.localized(key));
 }
 
+void give_room(QTableView* table) {
+    table->setStyleSheet(QStringLiteral(
+        "QTableView::item { padding: 4px 8px; }"
+        "QHeaderView::section { padding: 4px 8px; border: none; border-bottom: 1px solid palette(mid);"
+        " background: palette(button); }"));
+    table->setTabKeyNavigation(false);
+    table->verticalHeader()->hide();
+    table->horizontalHeader()->setHighlightSections(false);
+}
+
 screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view title_key, bool with_status) {
     screen_bones bones;
     bones.root = new QWidget;
@@ -94,8 +106,8 @@ screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view titl
         bones.waity->setAccessibleName(ui_text(delegate, "ui_busy"));
         bones.status = new status_line(bones.root);
         bones.status->setAccessibleName(ui_text(delegate, "ui_status"));
-        foot->addWidget(bones.waity);
         foot->addWidget(bones.status, 1);
+        foot->addWidget(bones.waity);
         column->addLayout(foot);
     }
     return bones;

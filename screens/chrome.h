@@ -12,6 +12,7 @@
 class busy_indicator;
 class Ks_lite_delegate;
 class QHBoxLayout;
+class QTableView;
 class QVBoxLayout;
 class status_line;
 
@@ -23,6 +24,9 @@ QIcon drawn_icon(std::string_view name, const QPalette& palette);
 
 // A text of the strings table as a widget shows it.
 QString ui_text(Ks_lite_delegate& delegate, std::string_view key);
+
+// Cells and headings with air around their text; no row numbers.
+void give_room(QTableView* table);
 
 struct screen_bones {
     QWidget* root = nullptr; // owned by the screen

@@ -28,11 +28,8 @@ QTableView* make_table(const char* name, QWidget* parent) {
     table->setShowGrid(false);
     table->setAlternatingRowColors(true);
     table->setWordWrap(true);
-    table->setTabKeyNavigation(false);
-    table->verticalHeader()->hide();
+    give_room(table);
     table->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    table->verticalHeader()->setMinimumSectionSize(table->fontMetrics().height() + GRID);
-    table->horizontalHeader()->setHighlightSections(false);
     return table;
 }
 

@@ -152,10 +152,8 @@ QWidget* prefs_view::build_parameters() {
     table->setSelectionMode(QAbstractItemView::NoSelection);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setShowGrid(false);
-    table->setTabKeyNavigation(false);
-    table->verticalHeader()->hide();
+    give_room(table);
     table->verticalHeader()->setDefaultSectionSize(CHECK_SIDE + GRID + GRID / 2);
-    table->horizontalHeader()->setHighlightSections(false);
     table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     QObject::connect(table, &QTableView::clicked, root(),

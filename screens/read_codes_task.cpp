@@ -96,7 +96,7 @@ void readCodes::headers_answered(std::string_view next_command, int next_step) {
 
 // A lost confirmation of "AT H0" repeats the whole status exchange as well.
 void readCodes::retry_headers() {
-    cur_cmd = "AT H1\r";
+    cur_cmd = std::string_view("AT H1\r");
     next_step_idx = HEADERS_ON_ANSWERED;
     g_replies_expected = 1;
     const int before = g_retries;

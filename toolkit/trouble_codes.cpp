@@ -4,6 +4,9 @@
 #include "system_log.h"
 #include "text.h"
 
+#include <array>
+#include <set>
+
 namespace {
 
 constexpr std::size_t CODE_DIGITS = 4;
@@ -13,59 +16,63 @@ constexpr std::size_t CODE_DIGITS = 4;
 struct unit_answer {
     std::string text;
     bool in_frames = false;
-    std::uint32_t bytes_announced = 0;
+    std::size_t bytes_announced = 0;
     std::size_t bytes_received = 0;
-    int next_frame = 0; // 0 to 15, then 0 again
-
-    bool awaits(int number) const {
-        return bytes_received > 0 && bytes_received < bytes_announced && next_frame == number;
-    }
-    void take(std::string_view frame, int number) {
-        text.append("\r").append(frame);
-        bytes_received += (frame.size() - 2) / 2;
-        next_frame = (number + 1) % 16;
-    }
 };
 
 bool is_frame(std::string_view line) {
     return slice(line, 1, 1) == ":" && is_hex(line.substr(0, 1));
 }
 
-bool is_length_line(std::string_view line, std::string_view answer) {
-    return line.size() <= 4 && is_hex(line) && !(line.starts_with(answer) && line.size() % 2 == 0);
+bool is_length_line(std::string_view line, std::string_view expected) {
+    const bool is_answer = line.starts_with(expected) && line.size() % 2 == 0;
+    return line.size() <= 4 && is_hex(line) && !is_answer;
 }
 
-// Gathers a reply's lines into the answers of the units, in the order in which these began. The
-// adapter prints a unit's length line and frame 0 together; of the units that await the same later
-// frame, the one that began first gets it. A frame that nobody awaits is dropped, for the bytes
-// behind a gap would be misread.
-std::vector<unit_answer> gather_answers(const std::vector<std::string>& lines,
-                                        std::string_view answer) {
-    std::vector<unit_answer> answers;
-    bool just_opened = false;
-    for (const std::string& line : lines) {
+// Gathers a reply's lines into the answers of the units, in the order in which these began.
+class answer_gatherer {
+  public:
+    explicit answer_gatherer(std::string_view expected) : expected_(expected) {}
+
+    void take(const std::string& line) {
         if (is_frame(line)) {
-            const int number = mac_toolies::charToNibble(line.front());
-            if (just_opened && number == 0) {
-                answers.back().take(line, number);
-            } else {
-                for (unit_answer& candidate : answers)
-                    if (candidate.awaits(number)) {
-                        candidate.take(line, number);
-                        break;
-                    }
-            }
-            just_opened = false;
-        } else if (is_length_line(line, answer)) {
+            take_frame(line, mac_toolies::convertStr2Byte(line.substr(0, 1)));
+        } else if (is_length_line(line, expected_)) {
+            opened_.push_back(answers.size());
             answers.push_back({line, true, mac_toolies::convertStr2Byte(line)});
-            just_opened = true;
-        } else if (line.starts_with(answer)) {
+        } else if (line.starts_with(expected_)) {
             answers.push_back({line});
-            just_opened = false;
         }
     }
-    return answers;
-}
+
+    std::vector<unit_answer> answers;
+
+  private:
+    // The adapter prints a unit's length line and frame 0 together. Of the units that await the
+    // same later frame, the one that began first gets it. Nobody gets a frame behind a gap: its
+    // bytes would be misread.
+    void take_frame(std::string_view frame, std::size_t number) {
+        std::size_t receiver = 0;
+        if (number == 0 && !opened_.empty()) {
+            receiver = opened_.back();
+            opened_.pop_back();
+        } else if (auto& waiting = awaiting_[number]; !waiting.empty()) {
+            receiver = *waiting.begin();
+            waiting.erase(waiting.begin());
+        } else {
+            return;
+        }
+        unit_answer& answer = answers[receiver];
+        answer.text.append("\r").append(frame);
+        answer.bytes_received += (frame.size() - 2) / 2;
+        if (answer.bytes_received < answer.bytes_announced)
+            awaiting_[(number + 1) % awaiting_.size()].insert(receiver);
+    }
+
+    std::string_view expected_;
+    std::vector<std::size_t> opened_;                // length line seen, frame 0 not yet
+    std::array<std::set<std::size_t>, 16> awaiting_; // by the number of the next frame
+};
 
 // What is not hex (a line broken on the bus) is no code.
 void add_code(std::string_view digits, std::vector<std::string>& codes) {
@@ -108,7 +115,7 @@ std::vector<std::string>
 mac_toolies::decode_trouble_codes(std::string_view mode, std::string_view this_reply, bool is_can) {
     std::vector<std::string> lines = reply_lines(this_reply);
     std::erase(lines, mode); // the echo
-    const std::string answer = replace_all(mode, "0", "4");
+    const std::string expected = replace_all(mode, "0", "4");
     bool in_frames = false;
     for (const std::string& line : lines)
         in_frames = in_frames || is_frame(line);
@@ -116,14 +123,17 @@ mac_toolies::decode_trouble_codes(std::string_view mode, std::string_view this_r
     std::vector<std::string> codes;
     try {
         if (in_frames || is_can) {
-            for (const unit_answer& unit : gather_answers(lines, answer)) {
+            answer_gatherer gatherer(expected);
+            for (const std::string& line : lines)
+                gatherer.take(line);
+            for (const unit_answer& unit : gatherer.answers) {
                 const std::string message = unit.in_frames ? grab_CAN_msg(unit.text) : unit.text;
-                if (message.starts_with(answer))
+                if (message.starts_with(expected))
                     decode_CAN_message(message, codes);
             }
         } else {
             for (const std::string& line : lines)
-                if (line.starts_with(answer))
+                if (line.starts_with(expected))
                     decode_line(line, codes);
         }
     } catch (const std::exception& failure) {

@@ -18,7 +18,7 @@ namespace {
 constexpr char GEOMETRY_KEY[] = "window_geometry";
 constexpr QSize DEFAULT_SIZE{1100, 720};
 constexpr QSize SMALLEST_SIZE{800, 560};
-constexpr int RAIL_WIDTH = 112;
+constexpr int RAIL_WIDTH = 128;
 
 } // namespace
 
@@ -51,6 +51,14 @@ main_window::main_window(Ks_lite_delegate& delegate) : delegate_(delegate) {
     setMinimumSize(SMALLEST_SIZE);
     restore_place();
     follow_screen();
+}
+
+main_window::~main_window() {
+    // The screen owns its view; this window must not destroy it as a child.
+    if (screen_controller* screen = delegate_.current_screen())
+        screen->view()->setParent(nullptr);
+    delegate_.set_main_view(nullptr);
+    delegate_.screen_changed = nullptr;
 }
 
 QWidget* main_window::build_rail() {

@@ -11,6 +11,7 @@ class QVBoxLayout;
 class main_window final : public QMainWindow {
   public:
     explicit main_window(Ks_lite_delegate& delegate);
+    ~main_window() override;
 
   protected:
     void closeEvent(QCloseEvent* event) override;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "alerts.h"
+#include "report_printer.h"
 
 #include <cstdio>
 #include <string>
@@ -18,18 +19,12 @@ class console_alerts final : public alerts {
 
   protected:
     int run_modal(const alert_request& request) override {
-        std::string text = request.title.empty() ? request.message : request.title + ": " + request.message;
+        repeated_ = !messages_.empty() && messages_.back() == request.message ? repeated_ + 1 : 1;
+        messages_.push_back(request.message);
+        std::string printed = request.message;
         if (!request.informative.empty())
-            text += "\n" + request.informative;
-        repeated_ = !messages_.empty() && messages_.back() == text ? repeated_ + 1 : 1;
-        std::string printed = text; // an adapter's bytes must not drive the terminal
-        for (char& c : printed)
-            if (c == '\r')
-                c = '\n';
-            else if (static_cast<unsigned char>(c) < 0x20 && c != '\n' && c != '\t')
-                c = ' ';
-        std::fprintf(stderr, "%s\n", printed.c_str());
-        messages_.push_back(std::move(text));
+            printed += "\n" + request.informative;
+        std::fprintf(stderr, "%s\n", printable(printed).c_str());
         return 0;
     }
 

@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QFont>
+#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QIconEngine>
@@ -17,6 +18,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -74,6 +76,16 @@ void give_room(QTableView* table) {
     table->setTabKeyNavigation(false);
     table->verticalHeader()->hide();
     table->horizontalHeader()->setHighlightSections(false);
+}
+
+void fit_column(QTableView* table, int column, const QString& widest) {
+    QHeaderView* header = table->horizontalHeader();
+    header->setSectionResizeMode(column, QHeaderView::Fixed);
+    const QString title = table->model()->headerData(column, Qt::Horizontal).toString();
+    const QFontMetrics text(table->font());
+    const QFontMetrics fixed(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    header->resizeSection(column, 4 * GRID + std::max({text.horizontalAdvance(widest), fixed.horizontalAdvance(widest),
+                                                       text.horizontalAdvance(title)}));
 }
 
 screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view title_key, bool with_status) {

@@ -28,6 +28,9 @@ QString ui_text(Ks_lite_delegate& delegate, std::string_view key);
 // Cells and headings with air around their text; no row numbers.
 void give_room(QTableView* table);
 
+// Makes the column just wide enough for `widest` in the table's font, with that air.
+void fit_column(QTableView* table, int column, const QString& widest);
+
 struct screen_bones {
     QWidget* root = nullptr; // owned by the screen
     QHBoxLayout* title_row = nullptr;

@@ -120,7 +120,7 @@ void codes_view::build_tables(QVBoxLayout* column) {
     };
     codesReadTableView_->setModel(codes_model_);
     codesReadTableView_->setAccessibleName(ui_text(delegate_, "ui_codes_table"));
-    codesReadTableView_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    fit_column(codesReadTableView_, 0, QStringLiteral("U0100"));
     codesReadTableView_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     new empty_hint(codesReadTableView_, ui_text(delegate_, "ui_codes_empty"));
 
@@ -138,10 +138,9 @@ void codes_view::build_tables(QVBoxLayout* column) {
         readinessCodesTableView_);
     readinessCodesTableView_->setModel(readiness_model_);
     readinessCodesTableView_->setAccessibleName(ui_text(delegate_, "ui_readiness_table"));
-    auto* header = readinessCodesTableView_->horizontalHeader();
-    header->setSectionResizeMode(0, QHeaderView::ResizeToContents);
-    header->setSectionResizeMode(1, QHeaderView::Stretch);
-    header->setSectionResizeMode(2, QHeaderView::ResizeToContents);
+    fit_column(readinessCodesTableView_, 0, QStringLiteral("\u2013  N/A"));
+    readinessCodesTableView_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+    fit_column(readinessCodesTableView_, 2, QStringLiteral("Non-Continous"));
     new empty_hint(readinessCodesTableView_, ui_text(delegate_, "ui_readiness_empty"));
 
     split->setStretchFactor(0, 3);

@@ -154,7 +154,7 @@ QWidget* prefs_view::build_parameters() {
     table->setShowGrid(false);
     give_room(table);
     table->verticalHeader()->setDefaultSectionSize(CHECK_SIDE + GRID + GRID / 2);
-    table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    fit_column(table, 0, QString());
     table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     QObject::connect(table, &QTableView::clicked, root(),
                      [this](const QModelIndex& cell) { on_row(cell.row()); });

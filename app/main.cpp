@@ -1,5 +1,6 @@
 // Starts Kestrom: the window, or one command without a display.
 #include "bundle.h"
+#include "car_library.h"
 #include "command_line.h"
 #include "command_runner.h"
 #include "console_alerts.h"
@@ -50,7 +51,7 @@ std::unique_ptr<tcp_adapter_server> start_demo_car(const std::string& name) {
 }
 
 // The store to use. A demo or a named adapter works on a copy in `scratch`, so that nothing of the user's changes.
-std::string settings_path(const command_line& asked, const QTemporaryDir& scratch) {
+std::string settings_path(const cli_request& asked, const QTemporaryDir& scratch) {
     const std::string path = asked.settings.value_or(user_defaults::default_path());
     if (!asked.demo && !asked.adapter_host)
         return path;
@@ -86,7 +87,7 @@ bool save_screenshot(main_window& window, const std::string& path) {
     return false;
 }
 
-int run(QApplication& application, const command_line& asked) {
+int run(QApplication& application, const cli_request& asked) {
     const QTemporaryDir scratch;
     std::unique_ptr<tcp_adapter_server> car;
     user_defaults defaults(settings_path(asked, scratch));

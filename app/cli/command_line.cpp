@@ -45,7 +45,7 @@ class argument_reader {
     }
 
     void take_option(const std::string& argument) {
-        command_line& asked = result_.asked;
+        cli_request& asked = result_.asked;
         const std::size_t equals = argument.find('=');
         const std::string name = argument.substr(0, equals);
         given_ = equals == std::string::npos ? std::nullopt : std::optional(argument.substr(equals + 1));
@@ -116,7 +116,7 @@ class argument_reader {
     }
 
     void check() {
-        const command_line& asked = result_.asked;
+        const cli_request& asked = result_.asked;
         if (asked.help || asked.version)
             return;
         static const std::set<std::string, std::less<>> SCREENS{"", "codes", "live", "prefs", "expert"};

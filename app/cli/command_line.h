@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-struct command_line {
+struct cli_request {
     bool demo = false;
     std::string demo_car;               // empty: the default car
     std::optional<std::string> adapter_host; // with adapter_port, as typed
@@ -27,7 +27,7 @@ struct command_line {
 
 // Either what was asked for or, with `error` filled, why it makes no sense.
 struct parsed_command_line {
-    command_line asked;
+    cli_request asked;
     std::string error;
 };
 

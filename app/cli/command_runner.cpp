@@ -14,7 +14,7 @@ namespace {
 constexpr int LOOK_EVERY_MS = 5;
 }
 
-command_runner::command_runner(const command_line& asked, Ks_lite_delegate& delegate, console_alerts& messages)
+command_runner::command_runner(const cli_request& asked, Ks_lite_delegate& delegate, console_alerts& messages)
     : asked_(asked), delegate_(delegate), messages_(messages) {
     delegate_.status_shown = [this](const std::string& text) {
         if (!text.empty())

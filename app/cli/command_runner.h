@@ -18,7 +18,7 @@ class readCodes;
 
 class command_runner final : public QObject {
   public:
-    command_runner(const command_line& asked, Ks_lite_delegate& delegate, console_alerts& messages);
+    command_runner(const cli_request& asked, Ks_lite_delegate& delegate, console_alerts& messages);
 
     // Begins; `done` is told the exit status from the event loop.
     void start(std::function<void(int exit_status)> done);
@@ -33,7 +33,7 @@ class command_runner final : public QObject {
     void take_reply(const std::string& chunk);
     void end(bool succeeded, const std::string& why);
 
-    const command_line& asked_;
+    const cli_request& asked_;
     Ks_lite_delegate& delegate_;
     console_alerts& messages_;
     std::function<void(int)> done_;

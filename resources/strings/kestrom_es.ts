@@ -61,5 +61,249 @@ Compruebe que:
         <source></source>
         <translation>Presión de sobrealimentación</translation>
     </message>
+    <message id="tcp_no_answer_yet_MSG">
+        <source></source>
+        <translation>El adaptador aún no ha respondido. Compruebe que este equipo está en la red inalámbrica del adaptador y que la dirección y el puerto son correctos.</translation>
+    </message>
+    <message id="bluetooth_not_built_MSG">
+        <source></source>
+        <translation>Los adaptadores Bluetooth aún no se admiten. Elija Wi-Fi en las preferencias.</translation>
+    </message>
+    <message id="ui_where_to_begin">
+        <source></source>
+        <translation>Elija Preferencias para configurar su adaptador y después Códigos de avería para leer el coche.</translation>
+    </message>
+    <message id="ui_rail_codes">
+        <source></source>
+        <translation>&amp;Códigos de avería</translation>
+    </message>
+    <message id="ui_rail_live">
+        <source></source>
+        <translation>&amp;Datos en vivo</translation>
+    </message>
+    <message id="ui_rail_logs">
+        <source></source>
+        <translation>Re&amp;gistros</translation>
+    </message>
+    <message id="ui_rail_logs_hint">
+        <source></source>
+        <translation>Los registros los escribe Datos en vivo</translation>
+    </message>
+    <message id="ui_rail_expert">
+        <source></source>
+        <translation>&amp;Experto</translation>
+    </message>
+    <message id="ui_rail_prefs">
+        <source></source>
+        <translation>&amp;Preferencias</translation>
+    </message>
+    <message id="ui_rail_help">
+        <source></source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message id="ui_busy">
+        <source></source>
+        <translation>Ocupado</translation>
+    </message>
+    <message id="ui_status">
+        <source></source>
+        <translation>Estado</translation>
+    </message>
+    <message id="ui_codes_title">
+        <source></source>
+        <translation>Códigos de avería</translation>
+    </message>
+    <message id="ui_read_codes">
+        <source></source>
+        <translation>&amp;Leer códigos</translation>
+    </message>
+    <message id="ui_read_codes_hint">
+        <source></source>
+        <translation>Leer el testigo, los códigos guardados y el estado de los monitores</translation>
+    </message>
+    <message id="ui_clear_codes">
+        <source></source>
+        <translation>&amp;Borrar códigos…</translation>
+    </message>
+    <message id="ui_clear_codes_hint">
+        <source></source>
+        <translation>Borrar los códigos guardados y apagar el testigo</translation>
+    </message>
+    <message id="ui_lamp">
+        <source></source>
+        <translation>Testigo de avería</translation>
+    </message>
+    <message id="ui_count">
+        <source></source>
+        <translation>Códigos de avería</translation>
+    </message>
+    <message id="ui_read_on">
+        <source></source>
+        <translation>Leído el</translation>
+    </message>
+    <message id="ui_adapter">
+        <source></source>
+        <translation>Adaptador</translation>
+    </message>
+    <message id="ui_protocol">
+        <source></source>
+        <translation>Protocolo</translation>
+    </message>
+    <message id="ui_units">
+        <source></source>
+        <translation>Unidades de control</translation>
+    </message>
+    <message id="ui_col_code">
+        <source></source>
+        <translation>Código</translation>
+    </message>
+    <message id="ui_col_description">
+        <source></source>
+        <translation>Descripción</translation>
+    </message>
+    <message id="ui_codes_table">
+        <source></source>
+        <translation>Códigos de avería guardados</translation>
+    </message>
+    <message id="ui_codes_empty">
+        <source></source>
+        <translation>Los códigos de avería guardados aparecen aquí después de «Leer códigos».</translation>
+    </message>
+    <message id="ui_col_state">
+        <source></source>
+        <translation>Estado</translation>
+    </message>
+    <message id="ui_col_monitor">
+        <source></source>
+        <translation>Monitor</translation>
+    </message>
+    <message id="ui_col_kind">
+        <source></source>
+        <translation>Tipo</translation>
+    </message>
+    <message id="ui_readiness_table">
+        <source></source>
+        <translation>Estado de los monitores</translation>
+    </message>
+    <message id="ui_readiness_empty">
+        <source></source>
+        <translation>El estado de los monitores aparece aquí después de «Leer códigos».</translation>
+    </message>
+    <message id="ui_live_title">
+        <source></source>
+        <translation>Datos en vivo</translation>
+    </message>
+    <message id="ui_live_not_yet">
+        <source></source>
+        <translation>Los datos en vivo están en construcción. Mientras tanto, la pantalla Experto puede pedir cualquier parámetro, por ejemplo 01 0C para el régimen del motor.</translation>
+    </message>
+    <message id="ui_expert_title">
+        <source></source>
+        <translation>Experto</translation>
+    </message>
+    <message id="ui_transcript">
+        <source></source>
+        <translation>Transcripción</translation>
+    </message>
+    <message id="ui_transcript_empty">
+        <source></source>
+        <translation>Aquí aparecen las órdenes y las respuestas sin tratar del adaptador.</translation>
+    </message>
+    <message id="ui_command">
+        <source></source>
+        <translation>Orden</translation>
+    </message>
+    <message id="ui_command_label">
+        <source></source>
+        <translation>&amp;Orden:</translation>
+    </message>
+    <message id="ui_command_hint">
+        <source></source>
+        <translation>AT I, 01 0C, 03 …</translation>
+    </message>
+    <message id="ui_command_too_long">
+        <source></source>
+        <translation>Una orden tiene como máximo 38 caracteres. No se ha enviado nada.</translation>
+    </message>
+    <message id="ui_send">
+        <source></source>
+        <translation>En&amp;viar</translation>
+    </message>
+    <message id="ui_prefs_title">
+        <source></source>
+        <translation>Preferencias</translation>
+    </message>
+    <message id="ui_adapter_group">
+        <source></source>
+        <translation>Adaptador</translation>
+    </message>
+    <message id="ui_bluetooth">
+        <source></source>
+        <translation>&amp;Bluetooth</translation>
+    </message>
+    <message id="ui_wifi">
+        <source></source>
+        <translation>&amp;Wi-Fi</translation>
+    </message>
+    <message id="ui_address">
+        <source></source>
+        <translation>Di&amp;rección:</translation>
+    </message>
+    <message id="ui_port">
+        <source></source>
+        <translation>Puer&amp;to:</translation>
+    </message>
+    <message id="ui_last_bt">
+        <source></source>
+        <translation>Volver a usar el último adaptador</translation>
+    </message>
+    <message id="ui_last_bt_hint">
+        <source></source>
+        <translation>Los adaptadores Bluetooth aún no se admiten</translation>
+    </message>
+    <message id="ui_units_group">
+        <source></source>
+        <translation>Unidades y registro</translation>
+    </message>
+    <message id="ui_metric">
+        <source></source>
+        <translation>Unidades &amp;métricas</translation>
+    </message>
+    <message id="ui_metric_hint">
+        <source></source>
+        <translation>km/h, °C y kPa en lugar de mph, °F y psi</translation>
+    </message>
+    <message id="ui_log_runs">
+        <source></source>
+        <translation>Regi&amp;strar las sesiones</translation>
+    </message>
+    <message id="ui_log_runs_hint">
+        <source></source>
+        <translation>Guardar cada sesión de Datos en vivo en un archivo</translation>
+    </message>
+    <message id="ui_pids_group">
+        <source></source>
+        <translation>Parámetros de una sesión</translation>
+    </message>
+    <message id="ui_pids_table">
+        <source></source>
+        <translation>Parámetros</translation>
+    </message>
+    <message id="ui_col_show">
+        <source></source>
+        <translation>Mostrar</translation>
+    </message>
+    <message id="ui_col_parameter">
+        <source></source>
+        <translation>Parámetro</translation>
+    </message>
+    <message id="ui_prefs_saved_on_leaving">
+        <source></source>
+        <translation>Los cambios se guardan al salir de esta pantalla.</translation>
+    </message>
+    <message id="ui_defaults">
+        <source></source>
+        <translation>V&amp;alores predeterminados</translation>
+    </message>
 </context>
 </TS>

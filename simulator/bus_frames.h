@@ -1,0 +1,36 @@
+// From the units' messages to what travels on the bus, frame by frame, and to the lines that the
+// adapter shows of it. Headers and checksums: SAE J1850, ISO 9141-2, ISO 14230-2; frames of long
+// messages: ISO 15765-2.
+#pragma once
+
+#include "adapter_state.h"
+#include "vehicle.h"
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+struct bus_frame {
+    std::chrono::milliseconds at{0}; // after the request
+    std::uint32_t address = 0;       // of the unit
+    byte_string data; // CAN: with its protocol control bytes; else service data alone
+    bool ends_message = true;
+    bool damaged = false;
+    std::uint8_t fill = 0; // what the unit fills its CAN frames up with
+};
+
+// In order of time, continuation frames filled up. Without flow control a long CAN message ends
+// after its first frame.
+std::vector<bus_frame> frames_on_bus(const std::vector<unit_answer>& answers,
+                                     const bus_protocol& bus, std::uint8_t fill, bool flow_control);
+
+// The whole message as it stands on the bus, header and checksum included.
+byte_string raw_frame(const bus_frame& frame, const bus_protocol& bus, int can_priority);
+
+// The frame's lines as shown under the settings, parted by "\r" (a first frame without headers has
+// two).
+std::string shown_frame(const bus_frame& frame, const bus_protocol& bus,
+                        const adapter_settings& settings, bool padding);
+
+// SAE J1850: polynomial 1D, start FF, result inverted.
+std::uint8_t j1850_crc(const byte_string& bytes);

@@ -1,0 +1,35 @@
+// One client's connection to a virtual adapter: carries bytes between socket and adapter and wakes
+// when the adapter has something to say. Owned by the server; deletes itself never, says when it is
+// over.
+#pragma once
+
+#include "virtual_adapter.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTcpSocket>
+#include <QTimer>
+
+class adapter_connection : public QObject {
+    Q_OBJECT
+
+  public:
+    // Takes over the socket. `clock` is the server's: one time for all connections.
+    adapter_connection(QTcpSocket* socket, virtual_adapter& adapter, const QElapsedTimer& clock,
+                       QObject* parent);
+
+    bool is_open() const { return socket_->state() == QAbstractSocket::ConnectedState; }
+
+  Q_SIGNALS:
+    void over();
+
+  private:
+    std::chrono::milliseconds now() const { return std::chrono::milliseconds(clock_.elapsed()); }
+    void read();
+    void write_due();
+
+    QTcpSocket* socket_;
+    virtual_adapter& adapter_;
+    const QElapsedTimer& clock_;
+    QTimer timer_;
+};

@@ -1,0 +1,44 @@
+// A virtual car and its Wi-Fi adapter behind a TCP port. One client at a time, as on a genuine
+// adapter: a further one waits until the first has gone. All meet the same car, so codes cleared
+// stay cleared.
+#pragma once
+
+#include "virtual_adapter.h"
+
+#include <QElapsedTimer>
+#include <QTcpServer>
+
+#include <memory>
+#include <string>
+
+class adapter_connection;
+
+class tcp_adapter_server : public QObject {
+    Q_OBJECT
+
+  public:
+    explicit tcp_adapter_server(car the_car, adapter_options options = {},
+                                QObject* parent = nullptr);
+    ~tcp_adapter_server() override;
+
+    // Port 0 takes any that is free. No: error() says why. Under the fault "refuse" the port is
+    // taken and every connection to it is refused.
+    bool listen(const std::string& address, int port);
+    int port() const { return port_; }
+    const std::string& error() const { return error_; }
+
+    const car& the_car() const { return car_; }
+
+  private:
+    bool refuse_at(const std::string& address, int port);
+    void serve_next();
+
+    car car_;
+    virtual_adapter adapter_;
+    QElapsedTimer clock_;
+    QTcpServer server_;
+    std::unique_ptr<QTcpSocket> refusing_;
+    adapter_connection* connection_ = nullptr;
+    int port_ = 0;
+    std::string error_;
+};

@@ -1,0 +1,23 @@
+// A reply on its way out, and what faults do to it before it leaves.
+#pragma once
+
+#include "faults.h"
+#include "seeded_random.h"
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+struct reply_piece {
+    std::chrono::milliseconds after; // the command
+    std::string text;
+};
+
+// In order of time; the last piece ends in the prompt.
+using reply = std::vector<reply_piece>;
+
+// `number` counts the replies of an adapter from 1.
+void apply_reply_faults(reply& pieces, const fault_set& faults, long number, seeded_random& random);
+
+// Whether the `number`th of something, counted from 1, is hit by a fault that strikes every Nth.
+bool every_nth(const fault_set& faults, fault_kind kind, long number);

@@ -1,0 +1,20 @@
+// Sorts a command line: the adapter's own command, a request to the car, or nonsense.
+#pragma once
+
+#include "car.h"
+
+#include <string>
+#include <string_view>
+
+struct command_line {
+    enum class kind { empty, at, request, nonsense };
+
+    kind type = kind::nonsense;
+    std::string at_command; // without "AT"
+    byte_string request;
+    int expected_replies = 0; // an odd digit at a request's end; 0: as many as come
+};
+
+// `text` without its carriage return. Blanks and control characters do not count, letters may be
+// small.
+command_line read_command(std::string_view text);

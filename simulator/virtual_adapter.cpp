@@ -1,0 +1,180 @@
+// The adapter's dialogue: characters in, commands, replies out. How it asks the car is in
+// car_dialogue.cpp.
+#include "virtual_adapter.h"
+
+#include "at_commands.h"
+
+#include <algorithm>
+
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr std::size_t LONGEST_COMMAND = 254;
+constexpr milliseconds TYPING_TIME{20000};
+constexpr milliseconds RESTART_TIME{650};
+
+} // namespace
+
+virtual_adapter::virtual_adapter(car& the_car, adapter_options options)
+    : options_(std::move(options)), vehicle_(the_car, options_.seed, options_.speed),
+      random_(options_.seed) {
+    state_.clone = options_.faults.has(fault_kind::clone);
+    if (options_.faults.has(fault_kind::one_byte_chunks))
+        output_.send_single_bytes();
+}
+
+void virtual_adapter::connection_opened(milliseconds now) {
+    vehicle_.seconds(now);
+    output_.drop_waiting();
+    typed_.clear();
+    typing_ends_.reset();
+    busy_until_ = now;
+    commands_ = 0;
+    closing_ = false;
+}
+
+void virtual_adapter::receive(std::string_view bytes, milliseconds now) {
+    vehicle_.seconds(now);
+    for (const char c : bytes) {
+        // The chip passes over NUL, and over line feeds, which some terminals send with each
+        // return.
+        if (c == '\0' || c == '\n')
+            continue;
+        if (interrupted_by(c, now))
+            return;
+        echo(c, now);
+        if (c == '\r')
+            finish_command(now);
+        else if (c == '\b' && !typed_.empty())
+            typed_.pop_back();
+        else if (typed_.size() <= LONGEST_COMMAND)
+            typed_ += c;
+        typing_ends_ = typed_.empty() ? std::nullopt : std::optional(now + TYPING_TIME);
+    }
+}
+
+// A character while the car is being asked stops that; it and what came with it are lost.
+bool virtual_adapter::interrupted_by(char, milliseconds now) {
+    if (now >= busy_until_)
+        return false;
+    if (restarting_)
+        return true;
+    output_.drop_waiting();
+    output_.push(now, end_of_line() + "STOPPED" + end_of_line() + end_of_line() + ">");
+    busy_until_ = now;
+    return true;
+}
+
+void virtual_adapter::echo(char c, milliseconds now) {
+    if (state_.settings.echo || options_.faults.has(fault_kind::echo_stuck))
+        output_.push(now, c == '\r' ? end_of_line() : std::string(1, c));
+}
+
+void virtual_adapter::finish_command(milliseconds now) {
+    std::string text;
+    text.swap(typed_);
+    ++commands_;
+    const auto close_after = options_.faults.value(fault_kind::close_after);
+    const auto stall_after = options_.faults.value(fault_kind::stall_after);
+    if (close_after && commands_ > *close_after) {
+        closing_ = true;
+        output_.drop_waiting();
+        return;
+    }
+    if (stall_after && commands_ > *stall_after) {
+        output_.drop_waiting();
+        return;
+    }
+    command_line line = read_command(text);
+    if (line.type == command_line::kind::empty)
+        line = read_command(last_command_);
+    else
+        last_command_ = text;
+    send(answer(text.size() > LONGEST_COMMAND ? command_line{} : line, now), now);
+}
+
+void virtual_adapter::send(reply pieces, milliseconds now) {
+    busy_until_ = now + end_of(pieces);
+    apply_reply_faults(pieces, options_.faults, ++replies_, random_);
+    for (const reply_piece& piece : pieces)
+        output_.push(now + piece.after, piece.text);
+    if (const auto held = options_.faults.value(fault_kind::merge_replies))
+        output_.hold_until(now + end_of(pieces) + milliseconds(*held));
+}
+
+reply virtual_adapter::answer(const command_line& line, milliseconds now) {
+    reply pieces;
+    restarting_ = false;
+    switch (line.type) {
+    case command_line::kind::empty:
+        pieces.push_back({milliseconds(0), ""});
+        break;
+    case command_line::kind::nonsense:
+        add_line(pieces, milliseconds(0), "?");
+        break;
+    case command_line::kind::at:
+        pieces = answer_at(line, now);
+        break;
+    case command_line::kind::request:
+        pieces = answer_request(line, now);
+        break;
+    }
+    // A line of its own between answer and prompt.
+    pieces.back().text += end_of_line() + ">";
+    return pieces;
+}
+
+reply virtual_adapter::answer_at(const command_line& line, milliseconds now) {
+    const bool ignition = car_is_there(now);
+    const at_surroundings car{ignition ? vehicle_.battery_volts(now) : 12.2, ignition};
+    const std::string eol_before = end_of_line();
+    const std::optional<std::string> told = run_at_command(state_, car, line.at_command);
+    reply pieces;
+    if (told && is_restart(line.at_command)) {
+        restarting_ = true;
+        pieces.push_back({scaled(RESTART_TIME), eol_before + eol_before});
+    }
+    add_line(pieces, milliseconds(0), told.value_or("?"));
+    return pieces;
+}
+
+std::optional<virtual_adapter::milliseconds> virtual_adapter::next_output() const {
+    const std::optional<milliseconds> due = output_.next();
+    return due && typing_ends_ ? std::min(*due, *typing_ends_) : due ? due : typing_ends_;
+}
+
+std::string virtual_adapter::take_output(milliseconds now) {
+    if (typing_ends_ && now >= *typing_ends_) {
+        typed_.clear();
+        typing_ends_.reset();
+        output_.push(now, end_of_line() + "?" + end_of_line() + end_of_line() + ">");
+    }
+    return output_.take(now);
+}
+
+bool virtual_adapter::wants_close(milliseconds) const {
+    return closing_;
+}
+
+std::string virtual_adapter::end_of_line() const {
+    return state_.settings.line_feeds || options_.faults.has(fault_kind::crlf) ? "\r\n" : "\r";
+}
+
+milliseconds virtual_adapter::scaled(milliseconds genuine) const {
+    if (options_.latency)
+        return milliseconds(0);
+    return milliseconds(static_cast<milliseconds::rep>(double(genuine.count()) * options_.timing));
+}
+
+milliseconds virtual_adapter::end_of(const reply& pieces) {
+    return pieces.empty() ? milliseconds(0) : pieces.back().after;
+}
+
+// The lines of `line`, which are parted by "\r", `later` than what has been said before.
+void virtual_adapter::add_line(reply& pieces, milliseconds later, std::string_view line) const {
+    std::string text;
+    for (const char c : line)
+        text += c == '\r' ? end_of_line() : std::string(1, c);
+    pieces.push_back({end_of(pieces) + later, text + end_of_line()});
+}

@@ -1,0 +1,90 @@
+// An ELM327-type adapter (v1.5) plugged into a virtual car. It has neither clock, event loop nor
+// sockets: its owner tells it what arrived and when, and asks what is due. Same car, options, bytes
+// and times give the same output. Clearing codes changes the car, which belongs to somebody else
+// and must live longer.
+#pragma once
+
+#include "adapter_state.h"
+#include "faults.h"
+#include "output_queue.h"
+#include "reply_faults.h"
+#include "request_reader.h"
+#include "vehicle.h"
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+
+struct adapter_options {
+    fault_set faults;
+    std::uint64_t seed = 1;
+    // How long each request takes, 0 at once; absent: as long as on the genuine bus, times
+    // `timing`.
+    std::optional<std::chrono::milliseconds> latency;
+    double timing = 1;
+    double speed = 1; // of the car's drive against the clock
+};
+
+class virtual_adapter {
+  public:
+    using milliseconds = std::chrono::milliseconds;
+
+    virtual_adapter(car& the_car, adapter_options options = {});
+
+    // A client has connected: what the last one left half said is gone; settings stay, as on a
+    // genuine one.
+    void connection_opened(milliseconds now);
+    void receive(std::string_view bytes, milliseconds now);
+
+    // When something is due; nothing when there is nothing to say.
+    std::optional<milliseconds> next_output() const;
+    // What is due by now. Under the fault one_byte_chunks one byte a call.
+    std::string take_output(milliseconds now);
+
+    // What faults ask of the transport.
+    bool refuses() const { return options_.faults.has(fault_kind::refuse); }
+    bool wants_close(milliseconds now) const;
+    bool sends_without_delay() const {
+        return !options_.faults.has(fault_kind::nagle);
+    } // TCP_NODELAY
+
+  private:
+    bool interrupted_by(char c, milliseconds now);
+    void echo(char c, milliseconds now);
+    void finish_command(milliseconds now);
+    void send(reply pieces, milliseconds now);
+    reply answer(const command_line& line, milliseconds now);
+    reply answer_at(const command_line& line, milliseconds now);
+    reply answer_request(const command_line& line, milliseconds now);
+
+    bool connect(reply& pieces, milliseconds now);
+    bool connect_to_only(const bus_protocol* wanted, bool present, reply& pieces);
+    void announce_init(const bus_protocol& bus, bool works, reply& pieces);
+    bool car_is_there(milliseconds now);
+    std::optional<byte_string> service_data(const byte_string& request) const;
+    std::optional<std::uint32_t> addressed_unit() const;
+    bool passes_filter(std::uint32_t address) const;
+    void damage(std::vector<unit_answer>& answers);
+    void show_frames(const std::vector<unit_answer>& answers, int expected, reply& pieces);
+    milliseconds wait_for_more(const bus_protocol& bus) const;
+
+    std::string end_of_line() const;
+    milliseconds scaled(milliseconds genuine) const;
+    void add_line(reply& pieces, milliseconds later, std::string_view line) const;
+    static milliseconds end_of(const reply& pieces);
+
+    adapter_options options_;
+    vehicle vehicle_;
+    adapter_state state_;
+    seeded_random random_;
+    output_queue output_;
+    std::string typed_;
+    std::string last_command_;
+    std::optional<milliseconds> typing_ends_; // a command that is not finished by then is given up
+    milliseconds busy_until_{0};
+    bool restarting_ = false;
+    bool closing_ = false;
+    long commands_ = 0; // of this connection
+    long replies_ = 0, requests_ = 0, values_ = 0, messages_ = 0;
+};

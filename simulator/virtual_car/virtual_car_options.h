@@ -1,0 +1,27 @@
+// The command line of kestrom-virtual-car.
+#pragma once
+
+#include "virtual_adapter.h"
+
+#include <span>
+#include <stdexcept>
+#include <string>
+
+struct virtual_car_options {
+    std::string car = "can11";
+    std::string address = "127.0.0.1";
+    int port = 35000;
+    std::string protocol; // empty: the car's own
+    bool stdio = false;
+    bool list = false;
+    bool help = false;
+    adapter_options adapter;
+};
+
+class usage_error : public std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+// Throws usage_error.
+virtual_car_options read_options(std::span<const std::string> arguments);
+std::string usage();

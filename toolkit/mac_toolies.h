@@ -10,7 +10,6 @@
 #include "text_dictionary.h"
 
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <optional>
 #include <span>

@@ -11,12 +11,12 @@ class comma_locale {
   public:
     comma_locale() {
         // Made on the spot: few systems have a foreign locale installed.
-        const QString path = folder_.filePath(QStringLiteral("de_DE.UTF-8"));
+        const QString path = folder_.filePath(QStringLiteral("comma"));
         const QStringList made{QStringLiteral("-i"), QStringLiteral("de_DE"), QStringLiteral("-f"),
-                               QStringLiteral("UTF-8"), path};
+                               QStringLiteral("ISO-8859-1"), path};
         QProcess::execute(QStringLiteral("localedef"), made);
         qputenv("LOCPATH", folder_.path().toUtf8());
-        std::setlocale(LC_ALL, "de_DE.UTF-8");
+        std::setlocale(LC_ALL, "comma");
     }
     ~comma_locale() {
         qunsetenv("LOCPATH");

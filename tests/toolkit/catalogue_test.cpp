@@ -90,7 +90,7 @@ TEST_F(catalogue_test, values_encode_as_reply_text) {
         std::string imperial;
         std::string metric;
     } cases[] = {
-        {12.5, "10", "411024a9", "411004e2"},
+        {12.5, "10", "4110249f", "411004e2"},
         {700, "10", "41E4FFFF", "41E4FFFF"},
         {655.34, "10", "41E4FFFF", "4110fffe"},
         {0, "10", "41100000", "41100000"},

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 using toolkit = mac_toolies;
+using namespace std::string_view_literals;
 using codes = std::vector<std::string>;
 
 namespace {
@@ -44,13 +45,14 @@ TEST(trouble_codes, older_buses_tell_three_codes_a_line) {
         {"notice on the line", "SEARCHING...43 01 33 00 00 00 00\r\r>", {"P0133"}},
         {"bus notice", "BUS INIT: ...OK\r43 01 33 00 00 00 00\r\r>", {"P0133"}},
         {"bus notice without dots", "BUS INIT: OK\r\n43 01 33 00 00 00 00\r\r>", {"P0133"}},
+        {"bus notice on the line", "BUS INIT: ...OK43 01 33 00 00 00 00\r\r>", {"P0133"}},
         {"failed bus", "BUS INIT: ...ERROR\r\r>", {}},
         {"echo", "03\r43 01 33 00 00 00 00\r\r>", {"P0133"}},
         {"no data", "NO DATA\r\r>", {}},
         {"refused", "7F 03 11\r\r>", {}},
         {"one unit refuses", "7F 03 11\r43 01 33 00 00 00 00\r\r>", {"P0133"}},
         {"broken line", "43 01 33 <DATA ERROR\r\r>", {"P0133"}},
-        {"stray nul", std::string_view("43 01 3\0003 00 00\r\r>", 20), {"P0133"}},
+        {"stray nul", "43 01 3\0003 00 00\r\r>"sv, {"P0133"}},
         {"rubbish", "43\xFF\x01:..>>\r\xC3\r:\r", {}},
         {"empty", "", {}},
     };
@@ -100,6 +102,11 @@ TEST(trouble_codes, numbered_frames_are_gathered_unit_by_unit) {
          "1:07010000000000\r\r>",
          {"P0133", "P0220", "P0300", "P0420", "P0001", "P0102", "P0103", "P0201", "P0402", "U0100",
           "P0700", "P0701"}},
+        {"a shorter first, a longer second",
+         "008\r0:430301330220\r012\r0:4308C1000700\r1:03000000000000\r1:07010702070307\r"
+         "2:04070507060000\r\r>",
+         {"P0133", "P0220", "P0300", "U0100", "P0700", "P0701", "P0702", "P0703", "P0704", "P0705",
+          "P0706"}},
         {"nothing behind a lost frame",
          "012\r0:430801330220\r2:03000420000101\r\r>",
          {"P0133", "P0220"}},
@@ -114,7 +121,7 @@ TEST(trouble_codes, numbered_frames_are_gathered_unit_by_unit) {
 }
 
 TEST(trouble_codes, frame_numbers_start_again_after_15) {
-    std::string reply = "07A\r0:433C01000100\r";
+    std::string reply = "03\r07A\r0:433C01000100\r"; // behind an echo
     const char* const DIGITS = "0123456789ABCDEF";
     for (int frame = 1; frame <= 17; ++frame)
         reply += std::string(1, DIGITS[frame % 16]) + ":01000100010001\r";

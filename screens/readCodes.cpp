@@ -117,7 +117,7 @@ void readCodes::load_the_codes() {
 
 std::string readCodes::look_upCode(std::string_view code, const text_dictionary& this_dict) {
     const auto found = this_dict.find(code);
-    return found == this_dict.end() ? "Code nofound in our DB" : found->second;
+    return std::string(found == this_dict.end() ? "Code nofound in our DB" : found->second);
 }
 
 codes_report readCodes::report() const {

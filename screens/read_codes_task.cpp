@@ -37,6 +37,14 @@ bool names_a_bus(std::string_view protocol) {
            contains(protocol, "CAN");
 }
 
+// Whether a "43" answer looks like CAN, when nothing else tells the bus: the older buses always fill their seven
+// bytes, CAN sends two and two more for each code.
+bool looks_like_can(std::string_view spaceless_reply) {
+    const std::size_t answer = spaceless_reply.find("43");
+    const std::string_view line = slice(spaceless_reply, answer);
+    return answer != std::string_view::npos && line.substr(0, line.find_first_of("\r\n>")).size() != 14;
+}
+
 } // namespace
 
 void readCodes::work_out_read_codes(int step) {
@@ -181,8 +189,9 @@ void readCodes::decode_status(const std::string& screened_reply) {
 std::vector<std::string> readCodes::work_reply_to_error_codes_pid(std::string_view mode,
                                                                   std::string_view this_reply) const {
     // The protocol text is the first answer to "AT DP", which may be "AUTO" from before the bus was found.
-    const bool is_can = g_cur_protocol.contains("CAN") ||
-                        (!names_a_bus(g_cur_protocol) && status_answer_was_can_);
+    const bool is_can = names_a_bus(g_cur_protocol) ? g_cur_protocol.contains("CAN")
+                        : status_told_              ? status_answer_was_can_
+                                                    : looks_like_can(this_reply);
     return mac_toolies::decode_trouble_codes(mode, this_reply, is_can);
 }
 

@@ -3,9 +3,13 @@
 #include "globalVars.h"
 #include "system_log.h"
 
+#include <algorithm>
+#include <iterator>
+
 bool accumulate_reply(std::string_view chunk) {
     std::string& gathered = odb_curReplyBuffyMsg;
-    gathered += chunk;
+    // Adapters now and then put zero bytes into a reply; they mean nothing, and would shift positions.
+    std::ranges::copy_if(chunk, std::back_inserter(gathered), [](char c) { return c != '\0'; });
     if (gathered.find('>') == std::string::npos) {
         if (gathered.size() > LONGEST_REPLY) {
             qCWarning(log_screens, "no prompt within %zu bytes: dropped", gathered.size());

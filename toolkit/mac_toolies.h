@@ -7,14 +7,14 @@
 // table entry or unit, "NOT FOUND" unknown PID name.
 #pragma once
 
+#include "text_dictionary.h"
+
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 class alerts;
@@ -28,12 +28,6 @@ struct toolkit_doors {
     alerts* message_boxes = nullptr;
     notification_center* notifications = nullptr;
 };
-
-struct text_hash {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>{}(text); }
-};
-using text_dictionary = std::unordered_map<std::string, std::string, text_hash, std::equal_to<>>;
 
 // A reply's display text and its number (translateResponse and get_OBDVal).
 struct translated {

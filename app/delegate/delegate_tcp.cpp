@@ -75,7 +75,7 @@ void Ks_lite_delegate::stream(stream_side, int handleEvent) {
 }
 
 void Ks_lite_delegate::stream_opened() {
-    qCInfo(log_link, "Connected\n");
+    qCDebug(log_link, "Connected\n");
     connected_2_WIFI_interface = true;
     attempt_state_ = attempt_state::opened;
     l_set_status_msg("TCP Connected!! ... Sending intial request");

@@ -118,8 +118,8 @@ class console : public testing::Test {
 TEST_F(console, return_in_an_empty_field_says_so_once_and_sends_nothing) {
     QTest::keyClick(field(), Qt::Key_Return);
     ASSERT_EQ(app.messages.shown.size(), 1u);
-    EXPECT_EQ(app.messages.shown[0].message, "Missing");
-    EXPECT_EQ(app.messages.shown[0].informative, app.resources.localized("blank_input_MSG"));
+    EXPECT_EQ(app.messages.shown[0].title, "Missing");
+    EXPECT_EQ(app.messages.shown[0].message, app.resources.localized("blank_input_MSG"));
     EXPECT_TRUE(app.wires.empty());
 }
 
@@ -151,7 +151,7 @@ TEST_F(console, chunks_are_shown_as_they_come_and_never_as_rich_text) {
     EXPECT_FALSE(app.find("waity")->isHidden());
     app.receive("<i>x</i>\r");
     EXPECT_TRUE(app.find("waity")->isHidden());
-    app.receive(std::string("\xff\x01\0y\r\r>", 8));
+    app.receive(std::string("\xff\x01\0y\r\r>", 7));
     EXPECT_EQ(transcript(), "<b>AT</b>\n<i>x</i>\n\xEF\xBF\xBD  y\n\n>");
 }
 

@@ -21,6 +21,7 @@ TEST(reply_accumulation, a_reply_is_complete_when_its_prompt_has_come) {
         {"text, reply and a third begun", {"A>B>C"}, {"A>"}, "B"},
         {"prompts before the text", {">>A>B"}, {"A>"}, "B"},
         {"a prompt before a reply that is not complete", {">A", "B>"}, {"AB>"}, ""},
+        {"zero bytes, which clones send", {std::string("\0\0OK\r\0\r>", 9)}, {"OK\r\r>"}, ""},
         {"a prompt alone", {">"}, {">"}, ""},
         {"nothing", {""}, {}, ""},
     };

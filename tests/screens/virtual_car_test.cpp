@@ -68,6 +68,8 @@ class car_on_the_bench {
     }
     static adapter_options options(std::vector<fault> faults) {
         adapter_options chosen;
+        if (!faults.empty()) // a slow bus with a fault on top would time out by itself
+            chosen.latency = std::chrono::milliseconds(0);
         chosen.faults = fault_set(std::move(faults));
         return chosen;
     }
@@ -156,9 +158,8 @@ TEST(adapter_faults, never_show_a_code_that_the_car_does_not_have) {
             const truth told = truth_of(bench.the_car);
             const bool may_invent = row.kind == fault_kind::garbage || row.kind == fault_kind::drop_bytes ||
                                     row.kind == fault_kind::data_error; // bytes changed on the way look like codes
-            if (!may_invent)
-                for (const code_row& code : bench.screen().report().codes)
-                    EXPECT_TRUE(told.codes.contains(code[0])) << code[0];
+            for (const code_row& code : bench.screen().report().codes)
+                EXPECT_TRUE(may_invent || told.codes.contains(code[0])) << code[0];
         }
 }
 

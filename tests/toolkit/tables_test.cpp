@@ -1,13 +1,10 @@
 #include "toolkit_fixture.h"
 
 #include <gmock/gmock.h>
-#include <numeric>
-
 using testing::ElementsAre;
+using testing::ElementsAreArray;
 using testing::IsEmpty;
 using testing::Optional;
-using testing::Pair;
-using testing::UnorderedElementsAre;
 
 class shipped_tables : public toolkit_test {
   protected:
@@ -32,7 +29,7 @@ TEST_F(shipped_tables, a_line_table_keeps_everything_between_line_feeds) {
 TEST_F(shipped_tables, a_dictionary_ends_at_the_first_line_without_delimiter) {
     const struct {
         std::string_view name, text, delimiter;
-        std::vector<std::pair<std::string, std::string>> expected;
+        std::vector<text_dictionary::entry> expected;
     } cases[] = {
         {"blank line",
          "P0001 a b\nP0002 c\n\nP0003 d\n",
@@ -40,6 +37,7 @@ TEST_F(shipped_tables, a_dictionary_ends_at_the_first_line_without_delimiter) {
          {{"P0001", " a b"}, {"P0002", " c"}}},
         {"crlf", "P0001 a\r\nP0002\nP0003 d", " ", {{"P0001", " a\r"}}},
         {"same key", "P0001 a\nP0001 b", " ", {{"P0001", " b"}}},
+        {"out of order", "B a\nA b\nC c\nB d\n", " ", {{"A", " b"}, {"B", " d"}, {"C", " c"}}},
         {"leading blank", "  P0001 a", " ", {{"", "  P0001 a"}}},
         {"long delimiter", "\tA \t=> b => c", "=>", {{"A", "=> b => c"}}},
         {"empty", "", " ", {}},
@@ -47,10 +45,24 @@ TEST_F(shipped_tables, a_dictionary_ends_at_the_first_line_without_delimiter) {
     };
     for (const auto& row : cases) {
         write_table("codes", row.text);
-        EXPECT_EQ(toolies.get_dictionary_from_resource("codes", "txt", row.delimiter),
-                  text_dictionary(row.expected.begin(), row.expected.end()))
+        const text_dictionary table =
+            toolies.get_dictionary_from_resource("codes", "txt", row.delimiter).value();
+        EXPECT_THAT(std::vector(table.begin(), table.end()), ElementsAreArray(row.expected))
             << row.name;
     }
+}
+
+TEST_F(shipped_tables, a_key_finds_its_text_and_no_other) {
+    write_table("codes", "P0003 c\nP0001 a\nP0002 b");
+    const text_dictionary table = toolies.get_dictionary_from_resource("codes", "txt", " ").value();
+    for (const auto& [key, text] : {std::pair{"P0001", " a"}, {"P0002", " b"}, {"P0003", " c"}}) {
+        ASSERT_NE(table.find(key), table.end()) << key;
+        EXPECT_EQ(table.find(key)->second, text);
+    }
+    for (const char* const key : {"", "P000", "P00015", "P0004"})
+        EXPECT_EQ(table.find(key), table.end()) << key;
+    const text_dictionary empty;
+    EXPECT_EQ(empty.find("P0001"), empty.end());
 }
 
 TEST_F(shipped_tables, names_come_from_the_table_of_their_group) {

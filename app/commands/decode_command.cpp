@@ -97,8 +97,8 @@ int run_vin(std::span<const std::string> arguments, const mac_toolies& toolies, 
     return 0;
 }
 
-int run_mode6(std::span<const std::string> arguments, const mac_toolies& toolies,
-              std::ostream& out, std::ostream& err) {
+int run_mode6(std::span<const std::string> arguments, const mac_toolies& toolies, std::ostream& out,
+              std::ostream& err) {
     if (arguments.size() != 2)
         return refuse(err, "mode6 takes an identifier and a value", MODE6_USAGE);
     const std::string& identifier = arguments[0];

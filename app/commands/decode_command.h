@@ -1,0 +1,25 @@
+// Commands that decode replies given on the command line: decode, vin and mode6. Each is handed its
+// own arguments, prints a line per answer to `out` and returns the exit status: 0, or 2 with a
+// message on `err` when the arguments make no sense. A reply may write its line ends as \r and \n.
+#pragma once
+
+#include <iosfwd>
+#include <span>
+#include <string>
+
+class mac_toolies;
+class user_defaults;
+
+// REPLY... [--units metric|imperial]: the display text, a tab and the number of each reply. The
+// units go to `units`, the store that `toolies` reads; without the option they stay as they are
+// there.
+int run_decode(std::span<const std::string> arguments, const mac_toolies& toolies,
+               user_defaults& units, std::ostream& out, std::ostream& err);
+
+// REPLY: the vehicle identification number, or "N/A".
+int run_vin(std::span<const std::string> arguments, const mac_toolies& toolies, std::ostream& out,
+            std::ostream& err);
+
+// ID VALUE: a test result in hex, scaled by its unit-and-scaling identifier, with its unit.
+int run_mode6(std::span<const std::string> arguments, const mac_toolies& toolies, std::ostream& out,
+              std::ostream& err);

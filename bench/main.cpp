@@ -1,0 +1,21 @@
+// kestrom-bench: runs the rows (all, or those that --benchmark_filter=REGEX chooses) and prints
+// them with their targets. Exit status 1 when a target was missed.
+#include "ratio_table.h"
+#include "rows.h"
+
+#include <QGuiApplication>
+
+#include <benchmark/benchmark.h>
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 2;
+    ratio_table table;
+    add_decoding_rows(table);
+    benchmark::RunSpecifiedBenchmarks();
+    return table.print() ? 0 : 1;
+}

@@ -1,0 +1,53 @@
+// The speed promises: what each row measures, against which yardstick, and how far it may go. Every
+// ratio is taken within one run, work and yardstick in turns, in processor time of the one thread
+// that does them.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+// Something to time. One call of `run` does `operations` operations; the ratio compares single
+// ones.
+struct timed_work {
+    std::function<void()> run;
+    std::size_t operations = 1;
+};
+
+enum class reach { at_most, at_least };
+
+// The median over all turns, and the lowest and the highest of them.
+struct measured {
+    double middle = 0;
+    double lowest = 0;
+    double highest = 0;
+};
+
+class ratio_table {
+  public:
+    // work / yardstick, in time; with reach::at_least yardstick / work: how many times faster it
+    // is. Fewer turns for what takes long.
+    void add_ratio(const std::string& what, timed_work work, const std::string& against,
+                   timed_work yardstick, reach kind, double target, int turns = 31);
+    // A number measured once, such as bytes a sample; no yardstick.
+    void add_figure(const std::string& what, std::function<double()> measure, reach kind,
+                    double target);
+
+    // Prints what ran and returns whether every target was met.
+    bool print() const;
+
+  private:
+    struct row {
+        std::string what;
+        std::string against;
+        reach kind;
+        double target;
+        bool ran = false;
+        measured result;
+    };
+    row& new_row(const std::string& what, const std::string& against, reach kind, double target);
+
+    std::vector<std::unique_ptr<row>> rows_;
+};

@@ -1,0 +1,6 @@
+// Who fills the table: one function per subject, in a file of its own.
+#pragma once
+
+class ratio_table;
+
+void add_decoding_rows(ratio_table& table);

@@ -144,7 +144,7 @@ void drive_cycle::run_engine(double wheel_watts) {
     // throttle.
     const double kilo_rpm = state_.rpm / 1000;
     const double cold = 1 + std::clamp((70 - state_.oil_celsius) / 150, 0.0, 0.6);
-    const double friction = (0.97 + 0.12 * kilo_rpm + 0.05 * kilo_rpm * kilo_rpm) * cold;
+    const double friction = (0.9 + 0.12 * kilo_rpm + 0.05 * kilo_rpm * kilo_rpm) * cold;
     const double pumping =
         engine_.fuel == fuel_kind::diesel
             ? 0.15
@@ -163,7 +163,9 @@ void drive_cycle::breathe(double indicated_watts) {
     const double most_air =
         0.88 * swept_m3_s * density * (diesel ? 2.0 : 1.0); // a diesel is turbocharged
     const double heat = diesel ? DIESEL_JOULE_GRAM : PETROL_JOULE_GRAM;
-    double fuel = state_.running ? indicated_watts / (diesel ? 0.43 : 0.37) / heat : 0;
+    // Throttled, the cylinders burn less well.
+    const double efficiency = diesel ? 0.43 : 0.37 * (0.72 + 0.28 * std::min(1.0, state_.load / 45));
+    double fuel = state_.running ? indicated_watts / efficiency / heat : 0;
     if (state_.fuel_cut)
         fuel = 0;
     double air = 0;

@@ -164,7 +164,8 @@ void drive_cycle::breathe(double indicated_watts) {
         0.88 * swept_m3_s * density * (diesel ? 2.0 : 1.0); // a diesel is turbocharged
     const double heat = diesel ? DIESEL_JOULE_GRAM : PETROL_JOULE_GRAM;
     // Throttled, the cylinders burn less well.
-    const double efficiency = diesel ? 0.43 : 0.37 * (0.72 + 0.28 * std::min(1.0, state_.load / 45));
+    const double efficiency =
+        diesel ? 0.43 : 0.37 * (0.72 + 0.28 * std::min(1.0, state_.load / 45));
     double fuel = state_.running ? indicated_watts / efficiency / heat : 0;
     if (state_.fuel_cut)
         fuel = 0;
@@ -194,7 +195,7 @@ void drive_cycle::breathe(double indicated_watts) {
                          : filling * 100;
     state_.absolute_load = swept_m3_s > 0 ? air / (swept_m3_s * 1184) * 100 : 0;
     state_.manifold_kpa =
-        most_air > 0 ? state_.barometer_kpa * filling * (diesel ? 2 : 1) : state_.barometer_kpa;
+        air > 0 ? state_.barometer_kpa * filling * (diesel ? 2 : 1) : state_.barometer_kpa;
     // The plate opens with the air that must pass, wider as the pressure across it falls.
     const double full_flow = most_air > 0 ? air / (most_air / state_.rpm * 6000) : 0;
     const double opening = std::min(1.0, full_flow * (1 + filling * filling));

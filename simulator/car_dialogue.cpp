@@ -89,7 +89,7 @@ bool virtual_adapter::connect(reply& pieces, milliseconds now) {
 std::optional<byte_string> virtual_adapter::service_data(const byte_string& request) const {
     if (!state_.bus()->is_can() || state_.settings.can_formatting)
         return request;
-    if (request.empty() || request[0] == 0 || request[0] >= request.size() + 0u)
+    if (request.empty() || request[0] == 0 || request[0] >= request.size())
         return std::nullopt;
     return byte_string(request.begin() + 1, request.begin() + 1 + request[0]);
 }

@@ -41,7 +41,7 @@ void virtual_adapter::receive(std::string_view bytes, milliseconds now) {
         // return.
         if (c == '\0' || c == '\n')
             continue;
-        if (interrupted_by(c, now))
+        if (interrupted(now))
             return;
         echo(c, now);
         if (c == '\r')
@@ -55,7 +55,7 @@ void virtual_adapter::receive(std::string_view bytes, milliseconds now) {
 }
 
 // A character while the car is being asked stops that; it and what came with it are lost.
-bool virtual_adapter::interrupted_by(char, milliseconds now) {
+bool virtual_adapter::interrupted(milliseconds now) {
     if (now >= busy_until_)
         return false;
     if (restarting_)

@@ -50,7 +50,7 @@ class virtual_adapter {
     } // TCP_NODELAY
 
   private:
-    bool interrupted_by(char c, milliseconds now);
+    bool interrupted(milliseconds now);
     void echo(char c, milliseconds now);
     void finish_command(milliseconds now);
     void send(reply pieces, milliseconds now);

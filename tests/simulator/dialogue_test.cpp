@@ -1,6 +1,7 @@
 // Time and interruption in the dialogue with the adapter.
 #include "adapter_harness.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -116,6 +117,28 @@ TEST(dialogue_test, same_seed_bytes_and_times_give_the_same_output) {
     };
     EXPECT_EQ(talk(7), talk(7));
     EXPECT_NE(talk(7), talk(8));
+}
+
+// Whatever is typed, each line gets one prompt and the adapter stays usable.
+TEST(dialogue_test, any_mixture_of_commands_gets_one_prompt_each) {
+    const std::vector<std::string> parts = {"AT", "SP ", "SH ", "CRA", "CF ", "CAF",  "H",   "S",
+                                            "D",  "PP",  "0",   "1",   "2",   "7E0",  "18",  "DA",
+                                            "F1", "01",  "03",  "09",  "02",  "00",   "20",  "FF",
+                                            "A",  "SV ", "ON",  "TP",  "PC",  "ST ",  "BD",  "KW",
+                                            "@3", "6",   "3",   "E",   "L",   "7DF ", "CP ", "CM "};
+    seeded_random random(3);
+    for (const std::string& name : car_names()) {
+        adapter_harness car(name);
+        for (int i = 0; i < 400; ++i) {
+            std::string command = random.happens(60) ? "AT" : "";
+            for (auto left = int(random.between(1, 5)); left > 0; --left)
+                command += parts[std::size_t(random.between(0, double(parts.size())))];
+            const std::string reply = car.say(command);
+            EXPECT_EQ(std::count(reply.begin(), reply.end(), '>'), 1) << name << ": " << command;
+        }
+        car.say("AT Z");
+        EXPECT_NE(car.say("AT I").find("ELM327 v1.5"), std::string::npos) << name;
+    }
 }
 
 } // namespace

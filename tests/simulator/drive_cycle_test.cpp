@@ -27,7 +27,8 @@ TEST(drive_cycle_test, a_petrol_engines_values_agree_with_each_other) {
         EXPECT_GE(s.load, 0);
         EXPECT_LE(s.load, 100);
         EXPECT_LE(std::abs(s.speed_kmh - last_speed), 9) << t; // km/h in a second
-        const double burnt_air = s.fuel_cut ? s.air_gram_s : s.fuel_gram_s * 14.7 * s.equivalence_ratio;
+        const double burnt_air =
+            s.fuel_cut ? s.air_gram_s : s.fuel_gram_s * 14.7 * s.equivalence_ratio;
         EXPECT_NEAR(s.air_gram_s, burnt_air, 0.01) << t;
         if (s.speed_kmh == 0 && s.coolant_celsius > 80) {
             idled = true;

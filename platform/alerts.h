@@ -11,8 +11,8 @@ enum class alert_style { warning = 0, informational = 1, critical = 2 };
 
 struct alert_request {
     std::string message;                    // the sentence in bold; plain text
-    std::string informative;                // further text; plain text
-    std::string title;                      // window title; empty: the program's name
+    std::string informative{};              // further text; plain text
+    std::string title{};                    // window title; empty: the program's name
     std::vector<std::string> buttons{"OK"}; // the first is the default
     alert_style style = alert_style::warning;
 };

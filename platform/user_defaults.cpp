@@ -37,6 +37,8 @@ void user_defaults::load() {
     if (file.status() != QSettings::NoError)
         qCWarning(log_platform, "settings file %s could not be read whole", path_.c_str());
     for (const QString& key : file.allKeys()) {
+        if (key.isEmpty())
+            continue; // a damaged line
         const QVariant v = file.value(key);
         // An empty list is written as an invalid value; one entry comes back as plain text.
         if (!v.isValid() || v.typeId() == QMetaType::QStringList) {

@@ -7,12 +7,14 @@
 // table entry or unit, "NOT FOUND" unknown PID name.
 #pragma once
 
+#include "text_dictionary.h"
+
 #include <cstdint>
-#include <functional>
+#include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 class alerts;
@@ -27,11 +29,11 @@ struct toolkit_doors {
     notification_center* notifications = nullptr;
 };
 
-struct text_hash {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>{}(text); }
+// A reply's display text and its number (translateResponse and get_OBDVal).
+struct translated {
+    std::string text;
+    double value;
 };
-using text_dictionary = std::unordered_map<std::string, std::string, text_hash, std::equal_to<>>;
 
 // One row of the readiness table.
 struct readiness_flag {
@@ -112,19 +114,33 @@ class mac_toolies {
                                                                 std::string_view this_type,
                                                                 std::string_view this_delim) const;
 
-    // --- catalogue.cpp: names, units and ranges of parameters -------------------------------------------
+    // --- pid_names.cpp, catalogue.cpp: names, units and ranges of parameters ----------------------------
+    // A PID is hex text of any case; text that is not hex is PID 0.
     std::string get_pid_name(std::string_view pid, bool with_pid) const;
+    // In the user's units; "N/A" for a PID without any.
     std::string get_units(std::string_view pid) const;
+    // The chart's maximum or minimum in the user's units; both 0 for a PID without a span.
     double get_PID_min_max(std::string_view pid, bool get_max) const;
+    // Spaceless reply text that carries a value in the user's units (PID 10) or miles per US gallon
+    // (PID E4); empty for any other PID.
     std::string encode_to_OBD(double value, std::string_view this_pid) const;
 
     // --- translation.cpp --------------------------------------------------------------------------------
+    // The display text of a service 01 reply of any length and any bytes (SAE J1979), in the user's units;
+    // "~" when it cannot be read. Only the first line counts.
     std::string translateResponse(std::string_view reply) const;
-    double get_OBDVal(std::string_view reply) const; // NaN when the reply is unusable
+    // The number that the display text begins with, so rounded as it is: 0 for a text without one, NaN for
+    // an unusable reply.
+    double get_OBDVal(std::string_view reply) const;
+    // Both of the above for the cost of one.
+    translated translate_once(std::string_view reply) const;
 
     // --- mode6.cpp, vin.cpp -----------------------------------------------------------------------------
+    // A test value (hex text) scaled by its unit-and-scaling identifier, six decimals; with_units appends a
+    // blank and the unit, which may be empty (SAE J1979 service 06 on CAN).
     static std::string CAN_scale_and_units(std::string_view identifier, std::string_view this_value,
                                            bool with_units);
+    // The name of a monitor or test identifier; "N/A" outside the table.
     std::string grab_CAN_mode6_OBDMID_TESTID_description(std::string_view identifier, bool is_OBDMID) const;
     static std::string work_out_vin(std::string_view reply);
 
@@ -135,5 +151,12 @@ class mac_toolies {
     const toolkit_doors& doors() const { return doors_; }
 
   private:
+    // A view of constant text, of a line table or of `room`, where numbers are written.
+    std::string_view display_text(std::string_view reply, std::span<char> room) const;
+    // The text of a code, 1 being the first line; "N/A" outside the table.
+    std::string_view table_text(std::string_view table, std::uint32_t code) const;
+
     toolkit_doors doors_;
+    // Line tables that translation has asked for; what the program ships with does not change under it.
+    mutable std::map<std::string, std::vector<std::string>, std::less<>> line_tables_;
 };

@@ -39,6 +39,8 @@ void expect_warning(const std::string& part) { expected_warnings.push_back(part)
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // also when CTest only asks for the names
     const application app(argc, argv);
     qInstallMessageHandler(judge_message);
     testing::UnitTest::GetInstance()->listeners().Append(new warning_reset);

@@ -1,0 +1,191 @@
+#include "command_line.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <set>
+#include <string_view>
+
+namespace {
+
+constexpr std::size_t LONGEST_COMMAND = 38; // what the console's command buffer takes
+
+// The commands and how many arguments each takes.
+struct verb {
+    std::string_view name;
+    std::size_t least, most;
+};
+constexpr verb VERBS[] = {
+    {"codes", 0, 0}, {"clear", 0, 0}, {"send", 1, 10'000},
+};
+
+class argument_reader {
+  public:
+    explicit argument_reader(std::span<const std::string> arguments) : arguments_(arguments) {}
+
+    parsed_command_line read() {
+        while (at_ < arguments_.size() && result_.error.empty())
+            take(arguments_[at_++]);
+        if (result_.error.empty())
+            check();
+        return result_;
+    }
+
+  private:
+    void take(const std::string& argument) {
+        // A command's own arguments may begin with anything but "--".
+        if (argument.size() > 1 && argument.starts_with("--"))
+            take_option(argument);
+        else if (argument == "-h")
+            result_.asked.help = true;
+        else if (result_.asked.command.empty())
+            result_.asked.command = argument;
+        else
+            result_.asked.arguments.push_back(argument);
+    }
+
+    void take_option(const std::string& argument) {
+        cli_request& asked = result_.asked;
+        const std::size_t equals = argument.find('=');
+        const std::string name = argument.substr(0, equals);
+        given_ = equals == std::string::npos ? std::nullopt : std::optional(argument.substr(equals + 1));
+        if (name == "--demo") {
+            asked.demo = true;
+            asked.demo_car = given_.value_or("");
+            given_.reset();
+        } else if (name == "--adapter") {
+            take_adapter(value(name));
+        } else if (name == "--settings") {
+            asked.settings = value(name);
+        } else if (name == "--screen") {
+            asked.screen = value(name);
+        } else if (name == "--screenshot") {
+            asked.screenshot = value(name);
+        } else if (name == "--timeout") {
+            take_timeout(value(name));
+        } else if (name == "--json") {
+            asked.json = true;
+        } else if (name == "--yes") {
+            asked.yes = true;
+        } else if (name == "--help") {
+            asked.help = true;
+        } else if (name == "--version") {
+            asked.version = true;
+        } else {
+            fail("unknown option " + name);
+        }
+        if (given_)
+            fail("option " + name + " takes no value");
+    }
+
+    // The option's value, behind "=" or as the next argument.
+    std::string value(const std::string& name) {
+        if (given_) {
+            const std::string text = *given_;
+            given_.reset();
+            return text;
+        }
+        if (at_ < arguments_.size())
+            return arguments_[at_++];
+        fail("option " + name + " needs a value");
+        return {};
+    }
+
+    // HOST:PORT; an IPv6 address may stand in brackets.
+    void take_adapter(const std::string& text) {
+        const std::size_t colon = text.rfind(':');
+        if (colon == std::string::npos || colon == 0) {
+            fail("--adapter needs HOST:PORT, such as 192.168.0.10:35000");
+            return;
+        }
+        std::string host = text.substr(0, colon);
+        if (host.size() > 2 && host.front() == '[' && host.back() == ']')
+            host = host.substr(1, host.size() - 2);
+        result_.asked.adapter_host = host;
+        result_.asked.adapter_port = text.substr(colon + 1);
+    }
+
+    void take_timeout(const std::string& text) {
+        double seconds = 0;
+        const auto read = std::from_chars(text.data(), text.data() + text.size(), seconds);
+        if (read.ec != std::errc() || read.ptr != text.data() + text.size() || !(seconds > 0) ||
+            seconds > 1e6)
+            fail("--timeout needs a number of seconds above 0");
+        else
+            result_.asked.timeout_seconds = seconds;
+    }
+
+    void check() {
+        const cli_request& asked = result_.asked;
+        if (asked.help || asked.version)
+            return;
+        static const std::set<std::string, std::less<>> SCREENS{"", "codes", "live", "prefs", "expert"};
+        if (!SCREENS.contains(asked.screen))
+            fail("--screen is one of codes, live, prefs, expert");
+        if (asked.demo && asked.adapter_host)
+            fail("--demo and --adapter exclude each other");
+        if (asked.command.empty()) {
+            if (asked.json)
+                fail("--json needs a command");
+            return;
+        }
+        const auto found = std::ranges::find(VERBS, asked.command, &verb::name);
+        if (found == std::end(VERBS))
+            fail("unknown command " + asked.command);
+        else if (asked.arguments.size() < found->least)
+            fail("command " + asked.command + " needs an argument");
+        else if (asked.arguments.size() > found->most)
+            fail("command " + asked.command + " takes no argument " + asked.arguments[found->most]);
+        if (asked.command == "clear" && !asked.yes)
+            fail("clear erases codes and test results in the car: repeat it with --yes");
+        if (asked.command == "send")
+            for (const std::string& text : asked.arguments)
+                if (text.empty() || text.size() > LONGEST_COMMAND)
+                    fail("a command has 1 to 38 bytes: '" + text + "'");
+    }
+
+    void fail(std::string why) {
+        if (result_.error.empty())
+            result_.error = std::move(why);
+    }
+
+    std::span<const std::string> arguments_;
+    std::size_t at_ = 0;
+    std::optional<std::string> given_;
+    parsed_command_line result_;
+};
+
+} // namespace
+
+parsed_command_line parse_command_line(std::span<const std::string> arguments) {
+    return argument_reader(arguments).read();
+}
+
+std::string usage_text() {
+    return R"(Usage: kestrom [OPTIONS] [COMMAND]
+
+Reads a car's on-board diagnostics through an ELM327-type adapter. Without a command the window opens.
+
+Commands
+  codes                 read lamp, trouble codes and readiness monitors
+  clear --yes           clear the trouble codes
+  send COMMAND...       send each command and print the raw reply
+
+Options
+  --demo[=CAR]          talk to the built-in virtual car
+  --adapter HOST:PORT   talk to this Wi-Fi adapter instead of the one in the settings
+  --settings FILE       use this settings file
+  --screen NAME         open with codes, live, prefs or expert
+  --screenshot FILE     save a picture of the window (PNG) and leave
+  --json                print one JSON object
+  --timeout SECONDS     bound for the whole command (default 60)
+  --help, --version
+
+Exit status: 0 success, 1 the task failed or timed out, 2 the arguments make no sense.
+
+Examples
+  kestrom --demo codes
+  kestrom --adapter 192.168.0.10:35000 codes --json
+  kestrom --adapter 192.168.0.10:35000 send "AT RV" "01 0C"
+)";
+}

@@ -1,0 +1,36 @@
+// The command line: what was asked for, read from the arguments without side effects.
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+struct cli_request {
+    bool demo = false;
+    std::string demo_car;               // empty: the default car
+    std::optional<std::string> adapter_host; // with adapter_port, as typed
+    std::string adapter_port;
+    std::optional<std::string> settings;
+    std::string screen; // "codes", "live", "prefs", "expert" or empty
+    std::optional<std::string> screenshot;
+    std::string command; // empty: the window
+    std::vector<std::string> arguments; // of the command
+    bool yes = false;
+    bool json = false;
+    double timeout_seconds = 60;
+    bool help = false;
+    bool version = false;
+
+    bool without_display() const { return !command.empty() || screenshot; }
+};
+
+// Either what was asked for or, with `error` filled, why it makes no sense.
+struct parsed_command_line {
+    cli_request asked;
+    std::string error;
+};
+
+parsed_command_line parse_command_line(std::span<const std::string> arguments);
+
+std::string usage_text();

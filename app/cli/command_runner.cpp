@@ -1,0 +1,119 @@
+#include "command_runner.h"
+
+#include "console_alerts.h"
+#include "expertCtrlr.h"
+#include "Ks_lite_delegate.h"
+#include "readCodes.h"
+#include "report_printer.h"
+#include "text.h"
+
+#include <cstdio>
+#include <unistd.h>
+
+namespace {
+constexpr int LOOK_EVERY_MS = 5;
+}
+
+command_runner::command_runner(const cli_request& asked, Ks_lite_delegate& delegate, console_alerts& messages)
+    : asked_(asked), delegate_(delegate), messages_(messages) {
+    delegate_.status_shown = [this](const std::string& text) {
+        if (!text.empty())
+            statuses_.push_back(text);
+    };
+    connect(&look_timer_, &QTimer::timeout, this, [this] { look(); });
+    bound_.setSingleShot(true);
+    connect(&bound_, &QTimer::timeout, this, [this] { end(false, "the time limit has passed"); });
+}
+
+void command_runner::start(std::function<void(int)> done) {
+    done_ = std::move(done);
+    bound_.start(static_cast<int>(std::min(asked_.timeout_seconds * 1000, 2e9)));
+    look_timer_.start(LOOK_EVERY_MS);
+    if (asked_.command == "send")
+        start_send();
+    else
+        start_codes();
+}
+
+void command_runner::start_codes() {
+    delegate_.do_read_codes();
+    codes_ = static_cast<readCodes*>(delegate_.current_screen());
+    if (asked_.command == "clear")
+        codes_->clearCodes_clicked();
+    else
+        codes_->readCodes_clicked();
+}
+
+void command_runner::start_send() {
+    delegate_.do_expert();
+    expert_ = static_cast<expertCtrlr*>(delegate_.current_screen());
+    expert_->received = [this](const std::string& chunk) { take_reply(chunk); };
+    next_send();
+}
+
+void command_runner::next_send() {
+    reply_.clear();
+    reply_complete_ = false;
+    expert_->set_command(asked_.arguments[sent_++]);
+    expert_->clickSend();
+}
+
+void command_runner::take_reply(const std::string& chunk) {
+    reply_ += chunk;
+    if (const std::size_t prompt = reply_.find('>'); prompt != std::string::npos) {
+        reply_.resize(prompt + 1);
+        reply_complete_ = true;
+    }
+}
+
+bool command_runner::over() const {
+    if (codes_ && !codes_->task_running())
+        return true;
+    return reply_complete_ || messages_.endless() || !delegate_.anything_outstanding();
+}
+
+void command_runner::look() {
+    // An alert that is up is part of the task.
+    if (delegate_.doors().loop.held() || !over())
+        return;
+    if (codes_) {
+        finish_codes();
+        return;
+    }
+    if (!reply_complete_) {
+        end(false, "no reply to '" + asked_.arguments[sent_ - 1] + "'");
+        return;
+    }
+    replies_.push_back(reply_);
+    if (!asked_.json)
+        print_raw_reply(reply_);
+    if (sent_ < asked_.arguments.size())
+        next_send();
+    else
+        end(true, "");
+}
+
+void command_runner::finish_codes() {
+    end(codes_->succeeded(), statuses_.empty() ? "nothing happened" : statuses_.back());
+}
+
+void command_runner::end(bool succeeded, const std::string& why) {
+    look_timer_.stop();
+    bound_.stop();
+    if (asked_.json) {
+        const conversation_log log{delegate_.current_screen() && codes_ ? codes_->status() : expert_->status(),
+                                   messages_.messages(), statuses_};
+        if (codes_)
+            print_codes_json(codes_->report(), log);
+        else
+            print_replies_json(asked_.arguments, replies_, log);
+    } else if (codes_ && succeeded && asked_.command == "codes") {
+        print_codes_text(codes_->report());
+    } else if (codes_ && succeeded) {
+        std::printf("%s\n", codes_->status().c_str());
+    }
+    std::fflush(stdout);
+    if (!succeeded)
+        std::fprintf(stderr, "kestrom: %s failed: %s\n", asked_.command.c_str(), printable(why).c_str());
+    done_(succeeded ? 0 : 1);
+}

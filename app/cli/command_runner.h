@@ -1,0 +1,50 @@
+// Runs one command of the command line on the screens themselves, without a display: presses the button, waits until the
+// task is over, and prints what the screen found. Owned by main.
+#pragma once
+
+#include "command_line.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+class console_alerts;
+class expertCtrlr;
+class Ks_lite_delegate;
+class readCodes;
+
+class command_runner final : public QObject {
+  public:
+    command_runner(const cli_request& asked, Ks_lite_delegate& delegate, console_alerts& messages);
+
+    // Begins; `done` is told the exit status from the event loop.
+    void start(std::function<void(int exit_status)> done);
+
+  private:
+    void start_codes();
+    void start_send();
+    void look();
+    bool over() const;
+    void finish_codes();
+    void next_send();
+    void take_reply(const std::string& chunk);
+    void end(bool succeeded, const std::string& why);
+
+    const cli_request& asked_;
+    Ks_lite_delegate& delegate_;
+    console_alerts& messages_;
+    std::function<void(int)> done_;
+    QTimer look_timer_;
+    QTimer bound_;
+    std::vector<std::string> statuses_;
+
+    readCodes* codes_ = nullptr;
+    expertCtrlr* expert_ = nullptr;
+    std::size_t sent_ = 0;
+    std::string reply_;
+    bool reply_complete_ = false;
+    std::vector<std::string> replies_;
+};

@@ -1,0 +1,35 @@
+// Alerts for the command line: printed to standard error, remembered, answered with the first button.
+#pragma once
+
+#include "alerts.h"
+#include "report_printer.h"
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+class console_alerts final : public alerts {
+  public:
+    using alerts::alerts;
+
+    void beep() override {}
+    const std::vector<std::string>& messages() const { return messages_; }
+    // The same alert over and over: nobody is there to leave the screen.
+    bool endless() const { return repeated_ >= MOST_REPEATED; }
+
+  protected:
+    int run_modal(const alert_request& request) override {
+        repeated_ = !messages_.empty() && messages_.back() == request.message ? repeated_ + 1 : 1;
+        messages_.push_back(request.message);
+        std::string printed = request.message;
+        if (!request.informative.empty())
+            printed += "\n" + request.informative;
+        std::fprintf(stderr, "%s\n", printable(printed).c_str());
+        return 0;
+    }
+
+  private:
+    static constexpr int MOST_REPEATED = 10;
+    std::vector<std::string> messages_;
+    int repeated_ = 0;
+};

@@ -1,0 +1,97 @@
+#include "Ks_lite_delegate.h"
+
+#include "alerts.h"
+#include "bundle.h"
+#include "globalVars.h"
+#include "system_log.h"
+#include "user_defaults.h"
+
+#include <QLayout>
+#include <QWidget>
+
+Ks_lite_delegate::Ks_lite_delegate(app_doors doors, screen_factories factories)
+    : doors_(std::move(doors)), factories_(std::move(factories)) {
+    observer_ = doors_.notifications.add_observer(
+        OBD_EVENT, [this](const std::string& text) { handleOBDRcvdNotification(text); });
+    load_settings();
+    g_cur_protocol.clear();
+    connected_2_WIFI_interface = false;
+    connected_2_BT_interface = false;
+    g_this_delta = 3;
+}
+
+Ks_lite_delegate::~Ks_lite_delegate() { doors_.notifications.remove_observer(observer_); }
+
+void Ks_lite_delegate::load_settings() {
+    user_defaults& store = doors_.defaults;
+    const int stored = store.integer(KS_INTERFACE_KEY);
+    if (stored == 0) { // first run
+        store.set_integer(KS_INTERFACE_KEY, KS_USE_BT);
+        store.set_string(WIFI_IP_KEY, "192.168.0.10");
+        store.set_string(WIFI_PORT_KEY, "35000");
+        store.set_boolean(KS_METRIC_UNITS_KEY, false);
+        store.set_boolean(LOG_RUNS_KEY, false);
+        store.set_string_array(PIDS_ARRAY_KEY, {"0D", "11", "0C", "05"});
+        g_connect_with = KS_USE_BT;
+        g_cur_wifi_IP = "192.168.0.10";
+        g_cur_wifi_port = "35000";
+        g_metric_units = false;
+        g_log_runs = false;
+        store.synchronize();
+        return;
+    }
+    if (stored == KS_USE_BT) {
+        g_connect_with = KS_USE_BT;
+    } else { // any other value counts as Wi-Fi
+        g_connect_with = KS_USE_WIFI;
+        g_cur_wifi_IP = store.string(WIFI_IP_KEY);
+        g_cur_wifi_port = store.string(WIFI_PORT_KEY);
+    }
+    g_metric_units = store.boolean(KS_METRIC_UNITS_KEY);
+    g_log_runs = store.boolean(LOG_RUNS_KEY);
+}
+
+void Ks_lite_delegate::show_screen(std::string_view interface_file, bool save_first) {
+    if (mainViewController && save_first)
+        mainViewController->save_before_leaving();
+    release_current_screen();
+    const auto factory = factories_.find(interface_file);
+    if (factory != factories_.end())
+        mainViewController = factory->second(*this);
+    screen_name_ = mainViewController ? std::string(interface_file) : std::string();
+    if (!mainViewController)
+        qCWarning(log_screens, "no screen for %s", std::string(interface_file).c_str());
+    else if (mainView && mainView->layout())
+        mainView->layout()->addWidget(mainViewController->view());
+    if (screen_changed)
+        screen_changed();
+}
+
+void Ks_lite_delegate::release_current_screen() {
+    if (!mainViewController)
+        return;
+    mainViewController->view()->hide();
+    mainViewController->view()->setParent(nullptr);
+    // One of the screen's own operations may be running: let it go only from the run loop.
+    doors_.loop.after(run_loop::milliseconds(0),
+                      [old = std::shared_ptr<screen_controller>(std::move(mainViewController))] {});
+}
+
+void Ks_lite_delegate::do_help_button() {
+    alert_request help;
+    help.message = "Kestrom - 1.11";
+    help.informative = doors_.resources.localized("KS_help");
+    doors_.message_boxes.show(help);
+}
+
+void Ks_lite_delegate::applicationWillTerminate() {
+    if (mainViewController)
+        mainViewController->save_before_leaving();
+    wrap_leave();
+}
+
+void Ks_lite_delegate::wrap_leave() {
+    // An open Bluetooth channel is left to its own closing; the socket is closed here.
+    if (!connected_2_BT_interface)
+        disconnect();
+}

@@ -1,0 +1,129 @@
+// The one application-wide object: loads the settings into the shared state, swaps the screens in and out of the
+// main window, and owns the single link to the adapter. Created once by main, outlives window and screens.
+//
+// Shell half: Ks_lite_delegate.cpp. Link half: delegate_link.cpp over delegate_tcp.cpp and
+// delegate_bluetooth.cpp. The link neither interprets replies nor waits for prompts: it sends one command, arms
+// the reply time-out, and hands every received chunk, or "Timeout", to the screen that is showing.
+#pragma once
+
+#include "notification_center.h"
+#include "run_loop.h"
+#include "screen_controller.h"
+#include "stream_pair.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+class alerts;
+class bundle;
+class user_defaults;
+class QWidget;
+class Ks_lite_delegate;
+
+// The outside world, as the program's start-up code or a test provides it.
+struct app_doors {
+    run_loop& loop;
+    alerts& message_boxes;
+    user_defaults& defaults;
+    const bundle& resources;
+    notification_center& notifications;
+    stream_pair_factory make_streams;
+};
+
+// Makes the controller of an interface file; nothing when it cannot be loaded.
+using screen_factory = std::function<std::unique_ptr<screen_controller>(Ks_lite_delegate&)>;
+using screen_factories = std::map<std::string, screen_factory, std::less<>>;
+
+inline constexpr char READ_CODES_VIEW[] = "read_codes_view";
+inline constexpr char ACTIONS_VIEW[] = "actions_view";
+inline constexpr char PREFS_VIEW[] = "prefs";
+inline constexpr char EXPERT_VIEW[] = "expertView";
+
+class Ks_lite_delegate {
+  public:
+    Ks_lite_delegate(app_doors doors, screen_factories factories);
+    ~Ks_lite_delegate();
+    Ks_lite_delegate(const Ks_lite_delegate&) = delete;
+    Ks_lite_delegate& operator=(const Ks_lite_delegate&) = delete;
+
+    app_doors& doors() { return doors_; }
+
+    // --- shell ------------------------------------------------------------------------------------------
+    void do_read_codes() { show_screen(READ_CODES_VIEW, true); }
+    void do_actions() { show_screen(ACTIONS_VIEW, true); }
+    // Choosing the preferences again while they show discards their unsaved edits.
+    void do_prefs() { show_screen(PREFS_VIEW, false); }
+    void do_expert() { show_screen(EXPERT_VIEW, true); }
+    void do_logs() {}
+    void do_help_button();
+    void applicationWillTerminate();
+    void wrap_leave();
+
+    // Where a screen's view is placed; the window owns it.
+    void set_main_view(QWidget* view) { mainView = view; }
+    screen_controller* current_screen() { return mainViewController.get(); }
+    const std::string& current_screen_name() const { return screen_name_; }
+    std::function<void()> screen_changed;
+    // Told every status text, whatever the screen does with it.
+    std::function<void(const std::string&)> status_shown;
+
+    // --- link -------------------------------------------------------------------------------------------
+    // Yes: the link is usable now. No: it is being opened (or could not be) and starts the screen's work
+    // itself once it is up.
+    bool openInterfaceConnection();
+    void sendOBDcmd(std::string_view command);
+    void l_work_current_task(const std::string* message);
+    void l_set_status_msg(const std::string& message);
+    void disconnect();
+    // The settings name another adapter: closes an open link and forgets what the old adapter said.
+    void adapter_changed();
+    // A reply, a connection or a deferred call is still to come.
+    bool anything_outstanding() const;
+    // Since when the last command waits for its prompt; zero when none does.
+    run_loop::milliseconds waiting_since() const { return reply_awaited_since_; }
+
+  private:
+    // shell
+    void load_settings();
+    void show_screen(std::string_view interface_file, bool save_first);
+    void release_current_screen();
+
+    // link
+    void obdTimedOutHandler();
+    void handleOBDRcvdNotification(const std::string& text);
+    void post_received(const std::string& text);
+
+    // TCP
+    bool openTCP_socky();
+    void connectToServerUsingCFStream(const std::string& host, long portNo);
+    void stream(stream_side side, int handleEvent);
+    void stream_opened();
+    void bytes_available();
+    void sendOBDcmd_TCP(std::string_view command);
+    void tcpTimeOutHandler(std::uint64_t attempt);
+
+    // Bluetooth
+    bool openSerialPortProfile();
+    void sendOBDcmd_BT(std::string_view command);
+
+    app_doors doors_;
+    screen_factories factories_;
+    notification_center::observer_id observer_ = 0;
+
+    QWidget* mainView = nullptr;
+    std::unique_ptr<screen_controller> mainViewController;
+    std::string screen_name_;
+
+    run_loop::timer_id obdTimeOutTimer = 0;
+    run_loop::milliseconds reply_awaited_since_{0};
+    std::uint64_t commands_sent_ = 0;
+
+    std::unique_ptr<stream_pair> streams_;
+    std::uint64_t attempt_ = 0; // counts connection attempts, so that old timers know they are stale
+    enum class attempt_state { none, connecting, opened, failed } attempt_state_ = attempt_state::none;
+    bool sent_1st_cmd = false;
+    run_loop::timer_id deferred_call_ = 0;
+};

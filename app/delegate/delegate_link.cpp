@@ -1,0 +1,64 @@
+// The link half of the delegate: one command out, chunks and time-outs in.
+#include "Ks_lite_delegate.h"
+#include "globalVars.h"
+#include "system_log.h"
+
+void Ks_lite_delegate::sendOBDcmd(std::string_view command) {
+    // The timer armed before is left running on purpose: if it belongs to a command that is still unanswered, it
+    // will report that.
+    obdTimeOutTimer =
+        doors_.loop.after(std::chrono::seconds(g_this_delta), [this] { obdTimedOutHandler(); });
+    if (g_connect_with == KS_USE_BT)
+        sendOBDcmd_BT(command);
+    else
+        sendOBDcmd_TCP(command);
+}
+
+void Ks_lite_delegate::obdTimedOutHandler() {
+    g_obd_msg_state = S_FAIL;
+    odb_curReplyMsg.clear();
+    reply_awaited_since_ = {};
+    doors_.notifications.post(OBD_EVENT, "Timeout");
+}
+
+void Ks_lite_delegate::handleOBDRcvdNotification(const std::string& text) {
+    doors_.loop.cancel(obdTimeOutTimer);
+    obdTimeOutTimer = 0;
+    qCDebug(log_link, "delegate:handleOBD got the stuff%s", text.c_str());
+    if (mainViewController)
+        mainViewController->handleOBDRcvdMsg(text);
+}
+
+void Ks_lite_delegate::post_received(const std::string& text) {
+    if (text.find('>') != std::string::npos)
+        reply_awaited_since_ = {};
+    doors_.notifications.post(OBD_EVENT, text);
+}
+
+bool Ks_lite_delegate::openInterfaceConnection() {
+    return g_connect_with == KS_USE_BT ? openSerialPortProfile() : openTCP_socky();
+}
+
+void Ks_lite_delegate::l_work_current_task(const std::string* message) {
+    if (message)
+        l_set_status_msg(*message);
+    if (mainViewController)
+        mainViewController->work_current_task();
+}
+
+void Ks_lite_delegate::l_set_status_msg(const std::string& message) {
+    if (mainViewController)
+        mainViewController->set_status_msg(message);
+}
+
+void Ks_lite_delegate::adapter_changed() {
+    connected_2_KS_interface = false;
+    g_cur_protocol.clear();
+    connected_2_WIFI_interface = false;
+    disconnect(); // an attempt that still runs is to the old address as well
+}
+
+bool Ks_lite_delegate::anything_outstanding() const {
+    return reply_awaited_since_.count() != 0 || deferred_call_ != 0 ||
+           attempt_state_ == attempt_state::connecting;
+}

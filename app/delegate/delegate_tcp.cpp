@@ -1,0 +1,129 @@
+// The Wi-Fi transport: a TCP connection to the adapter. A lost connection still counts as open; only another
+// address or port in the preferences, or a restart, connects again.
+#include "Ks_lite_delegate.h"
+#include "bundle.h"
+#include "globalVars.h"
+#include "system_log.h"
+
+#include <charconv>
+#include <exception>
+
+namespace {
+
+constexpr std::size_t READ_SIZE = 1024;
+constexpr std::chrono::seconds FIRST_COMMAND_DELAY{1};
+
+// Decimal value of the leading digits; no number: 0. A number beyond long is beyond every port too.
+long decimal_value(const std::string& text) {
+    const std::size_t start = text.find_first_not_of(" \t");
+    if (start == std::string::npos)
+        return 0;
+    long number = 0;
+    const auto read = std::from_chars(text.data() + start, text.data() + text.size(), number);
+    return read.ec == std::errc::result_out_of_range ? 65536 : number;
+}
+
+} // namespace
+
+bool Ks_lite_delegate::openTCP_socky() {
+    if (connected_2_WIFI_interface)
+        return true;
+    const long port = decimal_value(g_cur_wifi_port);
+    connectToServerUsingCFStream(g_cur_wifi_IP, port);
+    doors_.loop.after(TCP_TIME_OUT, [this, attempt = attempt_] { tcpTimeOutHandler(attempt); });
+    sent_1st_cmd = false;
+    l_set_status_msg("Trying: " + g_cur_wifi_IP + ":" + std::to_string(port) + " ");
+    return false;
+}
+
+void Ks_lite_delegate::connectToServerUsingCFStream(const std::string& host, long portNo) {
+    ++attempt_;
+    attempt_state_ = attempt_state::none;
+    streams_ = doors_.make_streams(host, portNo); // a pair before this one is closed with it
+    if (!streams_)
+        return;
+    attempt_state_ = attempt_state::connecting;
+    streams_->open([this](stream_side side, int event_code) { stream(side, event_code); });
+}
+
+void Ks_lite_delegate::stream(stream_side, int handleEvent) {
+    switch (handleEvent) {
+    case STREAM_OPEN_COMPLETED:
+        stream_opened();
+        break;
+    case STREAM_BYTES_AVAILABLE:
+        bytes_available();
+        break;
+    case STREAM_SPACE_AVAILABLE:
+        qCDebug(log_link, "NSStreamEventHasSpaceAvailable");
+        break;
+    case STREAM_ERROR: {
+        const std::string why = streams_->error_description();
+        qCWarning(log_link, "Error %s", why.c_str());
+        attempt_state_ = attempt_state::failed;
+        reply_awaited_since_ = {};
+        l_set_status_msg("Couldn't connect...Please Check\n\n" + why);
+        break;
+    }
+    case STREAM_END:
+        qCWarning(log_link, "Disconected");
+        l_set_status_msg("Disconnected");
+        break;
+    default:
+        break;
+    }
+}
+
+void Ks_lite_delegate::stream_opened() {
+    qCDebug(log_link, "Connected\n");
+    connected_2_WIFI_interface = true;
+    attempt_state_ = attempt_state::opened;
+    l_set_status_msg("TCP Connected!! ... Sending intial request");
+    if (sent_1st_cmd)
+        return;
+    sent_1st_cmd = true;
+    doors_.loop.cancel(deferred_call_);
+    deferred_call_ = doors_.loop.after(FIRST_COMMAND_DELAY, [this, sent = commands_sent_] {
+        deferred_call_ = 0;
+        if (commands_sent_ != sent)
+            return; // the screen has begun by itself
+        const std::string message = "Connected!  Querying ...";
+        l_work_current_task(&message);
+    });
+}
+
+void Ks_lite_delegate::bytes_available() {
+    try {
+        const std::string data = streams_->read(READ_SIZE);
+        if (data.empty())
+            qCDebug(log_link, "No data.");
+        qCDebug(log_link, "%s", data.c_str());
+        post_received(data);
+    } catch (const std::exception& failure) {
+        l_set_status_msg(std::string("Failed receiving data [ ") + failure.what() + " ]");
+    }
+}
+
+void Ks_lite_delegate::sendOBDcmd_TCP(std::string_view command) {
+    if (!openTCP_socky())
+        return; // dropped; the open event starts the screen's work again
+    ++commands_sent_;
+    reply_awaited_since_ = std::max(doors_.loop.now(), run_loop::milliseconds(1));
+    if (streams_)
+        streams_->write(command);
+}
+
+void Ks_lite_delegate::tcpTimeOutHandler(std::uint64_t attempt) {
+    if (attempt == attempt_ && attempt_state_ == attempt_state::connecting)
+        l_set_status_msg(doors_.resources.localized("tcp_no_answer_yet_MSG"));
+}
+
+void Ks_lite_delegate::disconnect() {
+    if (streams_)
+        streams_->close();
+    attempt_state_ = attempt_state::none;
+    reply_awaited_since_ = {};
+    // Whatever was to begin on this connection begins on the next.
+    doors_.loop.cancel(deferred_call_);
+    deferred_call_ = 0;
+}

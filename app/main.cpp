@@ -1,0 +1,173 @@
+// Starts Kestrom: the window, or one command without a display.
+#include "bundle.h"
+#include "car_library.h"
+#include "command_line.h"
+#include "command_runner.h"
+#include "console_alerts.h"
+#include "globalVars.h"
+#include "Ks_lite_delegate.h"
+#include "mac_toolies.h"
+#include "main_window.h"
+#include "message_box_alerts.h"
+#include "qt_run_loop.h"
+#include "quit_signals.h"
+#include "screen_factories.h"
+#include "tcp_adapter_server.h"
+#include "tcp_stream_pair.h"
+#include "user_defaults.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int USAGE_STATUS = 2;
+constexpr int FAILURE_STATUS = 1;
+constexpr char DEFAULT_DEMO_CAR[] = "can11";
+
+bool display_there() {
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        if (const char* value = std::getenv(name); value && *value)
+            return true;
+    return false;
+}
+
+// The built-in virtual car, listening on loopback.
+std::unique_ptr<tcp_adapter_server> start_demo_car(const std::string& name) {
+    auto server = std::make_unique<tcp_adapter_server>(load_car(name.empty() ? DEFAULT_DEMO_CAR : name),
+                                                       adapter_options());
+    if (!server->listen("127.0.0.1", 0))
+        throw std::runtime_error("the virtual car cannot listen on 127.0.0.1");
+    return server;
+}
+
+// The store to use. A demo or a named adapter works on a copy in `scratch`, so that nothing of the user's changes.
+std::string settings_path(const cli_request& asked, const QTemporaryDir& scratch) {
+    const std::string path = asked.settings.value_or(user_defaults::default_path());
+    if (!asked.demo && !asked.adapter_host)
+        return path;
+    const QString copy = scratch.filePath(QStringLiteral("kestrom.conf"));
+    if (asked.settings)
+        QFile::copy(QString::fromStdString(path), copy);
+    return copy.toStdString();
+}
+
+void use_adapter(user_defaults& store, const std::string& host, const std::string& port) {
+    store.set_integer(KS_INTERFACE_KEY, KS_USE_WIFI);
+    store.set_string(WIFI_IP_KEY, host);
+    store.set_string(WIFI_PORT_KEY, port);
+    if (!store.contains(PIDS_ARRAY_KEY))
+        store.set_string_array(PIDS_ARRAY_KEY, {"0D", "11", "0C", "05"});
+}
+
+void open_screen(Ks_lite_delegate& delegate, const std::string& name) {
+    if (name == "codes")
+        delegate.do_read_codes();
+    else if (name == "live")
+        delegate.do_actions();
+    else if (name == "prefs")
+        delegate.do_prefs();
+    else if (name == "expert")
+        delegate.do_expert();
+}
+
+bool save_screenshot(main_window& window, const std::string& path) {
+    if (window.grab().save(QString::fromStdString(path), "PNG"))
+        return true;
+    std::fprintf(stderr, "kestrom: cannot write %s\n", path.c_str());
+    return false;
+}
+
+int run(QApplication& application, const cli_request& asked) {
+    const QTemporaryDir scratch;
+    std::unique_ptr<tcp_adapter_server> car;
+    user_defaults defaults(settings_path(asked, scratch));
+    if (asked.demo) {
+        car = start_demo_car(asked.demo_car);
+        use_adapter(defaults, "127.0.0.1", std::to_string(car->port()));
+    } else if (asked.adapter_host) {
+        use_adapter(defaults, *asked.adapter_host, asked.adapter_port);
+    }
+
+    qt_run_loop loop;
+    const bundle resources;
+    notification_center notifications;
+    console_alerts printed_alerts(loop);
+    message_box_alerts shown_alerts(loop);
+    alerts& message_boxes = asked.without_display() ? static_cast<alerts&>(printed_alerts) : shown_alerts;
+    mac_toolies::initialize({&resources, &defaults, &message_boxes, &notifications});
+    Ks_lite_delegate delegate(
+        {loop, message_boxes, defaults, resources, notifications,
+         [&loop](const std::string& host, long port) -> std::unique_ptr<stream_pair> {
+             return std::make_unique<tcp_stream_pair>(loop, host, port);
+         }},
+        all_screens());
+    main_window window(delegate);
+    const quit_signals signals([&window] { window.close(); });
+
+    int status = 0;
+    std::unique_ptr<command_runner> runner;
+    const auto leave = [&](int exit_status) {
+        status = exit_status;
+        if (asked.screenshot && !save_screenshot(window, *asked.screenshot))
+            status = FAILURE_STATUS;
+        window.close();
+        application.exit(status);
+    };
+    if (asked.command.empty() || asked.screenshot)
+        window.show();
+    if (!asked.command.empty()) {
+        runner = std::make_unique<command_runner>(asked, delegate, printed_alerts);
+        QTimer::singleShot(0, &application, [&] { runner->start(leave); });
+    } else {
+        open_screen(delegate, asked.screen);
+        if (asked.screenshot) // once the window has been laid out
+            QTimer::singleShot(200, &application, [&] { leave(0); });
+    }
+    const int ended = application.exec();
+    return status ? status : ended;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    const auto [asked, error] = parse_command_line(arguments);
+    if (!error.empty()) {
+        std::fprintf(stderr, "kestrom: %s\nTry 'kestrom --help'.\n", error.c_str());
+        return USAGE_STATUS;
+    }
+    if (asked.help) {
+        std::fputs(usage_text().c_str(), stdout);
+        return 0;
+    }
+    if (asked.version) {
+        std::puts("kestrom " KESTROM_VERSION);
+        return 0;
+    }
+    if (asked.without_display())
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!display_there()) {
+        std::fputs("kestrom: there is no display; give a command, such as 'kestrom --demo codes'\n", stderr);
+        return FAILURE_STATUS;
+    }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("kestrom"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Kestrom"));
+    QApplication::setDesktopFileName(QStringLiteral("kestrom"));
+    try {
+        return run(application, asked);
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "kestrom: %s\n", failure.what());
+        return USAGE_STATUS;
+    }
+}

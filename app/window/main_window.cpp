@@ -1,0 +1,126 @@
+#include "main_window.h"
+
+#include "background_picture.h"
+#include "bundle.h"
+#include "chrome.h"
+#include "Ks_lite_delegate.h"
+#include "rail_button.h"
+#include "user_defaults.h"
+
+#include <QAction>
+#include <QButtonGroup>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr char GEOMETRY_KEY[] = "window_geometry";
+constexpr QSize DEFAULT_SIZE{1100, 720};
+constexpr QSize SMALLEST_SIZE{800, 560};
+constexpr int RAIL_WIDTH = 128;
+
+} // namespace
+
+main_window::main_window(Ks_lite_delegate& delegate) : delegate_(delegate) {
+    setWindowTitle(QStringLiteral("Kestrom"));
+    setWindowIcon(QIcon(QStringLiteral(":/kestrom/images/kestrom.svg")));
+    auto* whole = new QWidget(this);
+    auto* row = new QHBoxLayout(whole);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(build_rail());
+
+    mainView = new QWidget(whole);
+    mainView->setObjectName(QStringLiteral("mainView"));
+    auto* holder = new QVBoxLayout(mainView);
+    holder->setContentsMargins(0, 0, 0, 0);
+    back_pic = new background_picture(ui_text(delegate, "ui_where_to_begin"), mainView);
+    back_pic->setObjectName(QStringLiteral("back_pic"));
+    holder->addWidget(back_pic);
+    row->addWidget(mainView, 1);
+    setCentralWidget(whole);
+
+    auto* quit = new QAction(this);
+    quit->setShortcut(QKeySequence::Quit);
+    connect(quit, &QAction::triggered, this, &QWidget::close);
+    addAction(quit);
+
+    delegate_.set_main_view(mainView);
+    delegate_.screen_changed = [this] { follow_screen(); };
+    setMinimumSize(SMALLEST_SIZE);
+    restore_place();
+    follow_screen();
+}
+
+main_window::~main_window() {
+    // The screen owns its view; this window must not destroy it as a child.
+    if (screen_controller* screen = delegate_.current_screen())
+        screen->view()->setParent(nullptr);
+    delegate_.set_main_view(nullptr);
+    delegate_.screen_changed = nullptr;
+}
+
+QWidget* main_window::build_rail() {
+    auto* rail = new QWidget(this);
+    rail->setObjectName(QStringLiteral("rail"));
+    rail->setAutoFillBackground(true);
+    QPalette quiet = rail->palette();
+    const bool dark = quiet.color(QPalette::Window).lightness() < 128;
+    quiet.setColor(QPalette::Window, quiet.color(QPalette::Window).darker(dark ? 120 : 106));
+    rail->setPalette(quiet);
+    rail->setFixedWidth(RAIL_WIDTH);
+    auto* column = new QVBoxLayout(rail);
+    column->setContentsMargins(GRID, GRID, GRID, GRID);
+    column->setSpacing(GRID);
+
+    switches_ = new QButtonGroup(this);
+    auto make = [&](const char* name, const char* icon, std::string_view key) {
+        auto* button = new rail_button(drawn_icon(icon, quiet), ui_text(delegate_, key), rail);
+        button->setObjectName(QLatin1String(name));
+        column->addWidget(button);
+        return button;
+    };
+    auto make_switch = [&](const char* name, const char* icon, std::string_view key, auto choose) {
+        auto* button = make(name, icon, key);
+        button->setCheckable(true);
+        switches_->addButton(button);
+        connect(button, &QToolButton::clicked, this, [this, choose] { (delegate_.*choose)(); });
+    };
+    make_switch(READ_CODES_VIEW, "codes", "ui_rail_codes", &Ks_lite_delegate::do_read_codes);
+    make_switch(ACTIONS_VIEW, "live", "ui_rail_live", &Ks_lite_delegate::do_actions);
+    auto* logs = make("logs", "logs", "ui_rail_logs");
+    logs->setEnabled(false);
+    logs->setToolTip(ui_text(delegate_, "ui_rail_logs_hint"));
+    connect(logs, &QToolButton::clicked, this, [this] { delegate_.do_logs(); });
+    make_switch(EXPERT_VIEW, "expert", "ui_rail_expert", &Ks_lite_delegate::do_expert);
+    make_switch(PREFS_VIEW, "prefs", "ui_rail_prefs", &Ks_lite_delegate::do_prefs);
+    column->addStretch(1);
+    auto* help = make("help", "help", "ui_rail_help");
+    help->setShortcut(QKeySequence::HelpContents);
+    connect(help, &QToolButton::clicked, this, [this] { delegate_.do_help_button(); });
+    return rail;
+}
+
+void main_window::follow_screen() {
+    screen_controller* screen = delegate_.current_screen();
+    back_pic->setVisible(!screen);
+    const QString name = QString::fromStdString(delegate_.current_screen_name());
+    for (QAbstractButton* button : switches_->buttons())
+        button->setChecked(screen && button->objectName() == name);
+    if (screen && screen->view()->focusProxy())
+        screen->view()->setFocus();
+}
+
+void main_window::restore_place() {
+    const std::string stored = delegate_.doors().defaults.string(GEOMETRY_KEY);
+    if (stored.empty() || !restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(stored))))
+        resize(DEFAULT_SIZE);
+}
+
+void main_window::closeEvent(QCloseEvent* event) {
+    delegate_.doors().defaults.set_string(GEOMETRY_KEY, saveGeometry().toBase64().toStdString());
+    delegate_.doors().defaults.synchronize();
+    delegate_.applicationWillTerminate();
+    event->accept();
+}

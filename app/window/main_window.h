@@ -1,0 +1,28 @@
+// The main window: a rail of switches at the left, the chosen screen beside it, the background picture while nothing is
+// chosen. Created by main over the delegate, which outlives it.
+#pragma once
+
+#include <QMainWindow>
+
+class Ks_lite_delegate;
+class QButtonGroup;
+class QVBoxLayout;
+
+class main_window final : public QMainWindow {
+  public:
+    explicit main_window(Ks_lite_delegate& delegate);
+    ~main_window() override;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    QWidget* build_rail();
+    void follow_screen();
+    void restore_place();
+
+    Ks_lite_delegate& delegate_;
+    QWidget* mainView = nullptr;
+    QWidget* back_pic = nullptr;
+    QButtonGroup* switches_ = nullptr;
+};

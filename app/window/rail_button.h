@@ -1,0 +1,33 @@
+// A switch of the rail: icon above word. The chosen one is marked by a bar at its side and a heavier word.
+#pragma once
+
+#include <QPainter>
+#include <QToolButton>
+
+class rail_button final : public QToolButton {
+  public:
+    rail_button(const QIcon& icon, const QString& text, QWidget* parent) : QToolButton(parent) {
+        setIcon(icon);
+        setIconSize({28, 28});
+        setText(text);
+        setAccessibleName(QString(text).remove(u'&'));
+        setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+        setAutoRaise(true);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        setMinimumHeight(64);
+        connect(this, &QToolButton::toggled, this, [this](bool on) {
+            QFont face = font();
+            face.setWeight(on ? QFont::DemiBold : QFont::Normal);
+            setFont(face);
+        });
+    }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override {
+        QToolButton::paintEvent(event);
+        if (!isChecked())
+            return;
+        QPainter painter(this);
+        painter.fillRect(0, 8, 3, height() - 16, palette().color(QPalette::Highlight));
+    }
+};

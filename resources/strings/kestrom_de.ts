@@ -1,0 +1,309 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name></name>
+    <message id="KS_help">
+        <source></source>
+        <translation>Kestrom liest die On-Board-Diagnose (OBD-II) Ihres Autos über einen Adapter der Bauart ELM327.
+
+Verbinden: Stecken Sie den Adapter in die Diagnosebuchse des Autos, meist unter dem Lenkrad, und schalten Sie die Zündung ein. Bei einem WLAN-Adapter verbinden Sie diesen Rechner zuerst mit dem Funknetz des Adapters, wählen dann in den Einstellungen WLAN und tragen Adresse und Port ein (meist 192.168.0.10 und 35000). Bei einem Bluetooth-Adapter wählen Sie Bluetooth; die erste Aufgabe, die Sie starten, fragt nach dem Gerät.
+
+Fehlercodes: „Codes lesen“ zeigt die gespeicherten Codes mit ihrer Bedeutung, die Motorkontrollleuchte und den Stand der Abgasüberwachung. „Codes löschen“ löscht die Codes, schaltet die Leuchte aus und setzt die Überwachung zurück; tun Sie das bei stehendem Motor und erst, wenn Sie die Codes notiert haben.
+
+Live-Daten: Wählen Sie die Art der Aufzeichnung und drücken Sie auf Start. Jeder Messwert hat ein kleines Diagramm; ein Klick zeigt ihn groß und auf dem Rundinstrument, mit Strg wählen Sie einen weiteren für das zweite Instrument. Die Liste der Messwerte und die Einheiten stehen in den Einstellungen.
+
+Aufzeichnungen: Ist die Aufzeichnung in den Einstellungen eingeschaltet, wird jede Fahrt in eine eigene Datei im Ordner „loggies“ geschrieben; wo er liegt, sagt der Schalter Aufzeichnungen.
+
+Experte: Geben Sie einen beliebigen Adapterbefehl (AT I) oder eine Anfrage (01 0C) ein und lesen Sie die unveränderte Antwort.
+
+Keine Antwort? Prüfen Sie Zündung, Stecker und Funkverbindung und schließen Sie andere Programme, die den Adapter benutzen.</translation>
+    </message>
+    <message id="no_reply_from_car_MSG">
+        <source></source>
+        <translation>Das Auto hat nicht geantwortet. Schalten Sie die Zündung ein und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message id="no_reply_from_car_MSG_BT">
+        <source></source>
+        <translation>Der Adapter arbeitet, aber das Auto hat nicht geantwortet.
+
+Bitte prüfen Sie:
+• Die Zündung ist eingeschaltet oder der Motor läuft.
+• Der Adapter sitzt fest in der Diagnosebuchse.
+• Der in der Bluetooth-Liste gewählte Adapter ist der in diesem Auto.
+• Kein Telefon und kein anderes Programm benutzt den Adapter zur selben Zeit.
+• Das Auto unterstützt OBD-II.</translation>
+    </message>
+    <message id="no_reply_from_car_MSG_TCP">
+        <source></source>
+        <translation>Der Adapter arbeitet, aber das Auto hat nicht geantwortet.
+
+Bitte prüfen Sie:
+• Die Zündung ist eingeschaltet oder der Motor läuft.
+• Der Adapter sitzt fest in der Diagnosebuchse.
+• Dieser Rechner ist mit dem WLAN des Adapters in diesem Auto verbunden.
+• Kein Telefon und kein anderes Programm benutzt den Adapter zur selben Zeit.
+• Das Auto unterstützt OBD-II.</translation>
+    </message>
+    <message id="init_OBD_error_MSG">
+        <source></source>
+        <translation>Der Adapter konnte den Diagnosebus des Autos nicht starten. Schalten Sie die Zündung aus und wieder ein, prüfen Sie, dass der Adapter fest in der Diagnosebuchse sitzt, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message id="blank_input_MSG">
+        <source></source>
+        <translation>Geben Sie zuerst einen Befehl ein, zum Beispiel AT I oder 01 0C.</translation>
+    </message>
+    <message id="FIELD_ENGINE_MPG">
+        <source></source>
+        <translation>Kraftstoffeffizienz</translation>
+    </message>
+    <message id="FIELD_ENGINE_BOOST">
+        <source></source>
+        <translation>Ladedruck</translation>
+    </message>
+    <message id="tcp_no_answer_yet_MSG">
+        <source></source>
+        <translation>Der Adapter hat noch nicht geantwortet. Prüfen Sie, ob dieser Rechner im Funknetz des Adapters ist und ob Adresse und Port stimmen.</translation>
+    </message>
+    <message id="bluetooth_not_built_MSG">
+        <source></source>
+        <translation>Bluetooth-Adapter werden noch nicht unterstützt. Bitte wählen Sie in den Einstellungen WLAN.</translation>
+    </message>
+    <message id="ui_where_to_begin">
+        <source></source>
+        <translation>Richten Sie unter Einstellungen Ihren Adapter ein und lesen Sie dann unter Fehlercodes das Auto aus.</translation>
+    </message>
+    <message id="ui_rail_codes">
+        <source></source>
+        <translation>Fehler&amp;codes</translation>
+    </message>
+    <message id="ui_rail_live">
+        <source></source>
+        <translation>&amp;Live-Daten</translation>
+    </message>
+    <message id="ui_rail_logs">
+        <source></source>
+        <translation>Aufzeichn&amp;ungen</translation>
+    </message>
+    <message id="ui_rail_logs_hint">
+        <source></source>
+        <translation>Aufzeichnungen entstehen unter Live-Daten</translation>
+    </message>
+    <message id="ui_rail_expert">
+        <source></source>
+        <translation>&amp;Experte</translation>
+    </message>
+    <message id="ui_rail_prefs">
+        <source></source>
+        <translation>E&amp;instellungen</translation>
+    </message>
+    <message id="ui_rail_help">
+        <source></source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message id="ui_busy">
+        <source></source>
+        <translation>Beschäftigt</translation>
+    </message>
+    <message id="ui_status">
+        <source></source>
+        <translation>Status</translation>
+    </message>
+    <message id="ui_codes_title">
+        <source></source>
+        <translation>Fehlercodes</translation>
+    </message>
+    <message id="ui_read_codes">
+        <source></source>
+        <translation>Codes le&amp;sen</translation>
+    </message>
+    <message id="ui_read_codes_hint">
+        <source></source>
+        <translation>Kontrollleuchte, gespeicherte Codes und Stand der Überwachung lesen</translation>
+    </message>
+    <message id="ui_clear_codes">
+        <source></source>
+        <translation>Co&amp;des löschen…</translation>
+    </message>
+    <message id="ui_clear_codes_hint">
+        <source></source>
+        <translation>Gespeicherte Codes löschen und die Kontrollleuchte ausschalten</translation>
+    </message>
+    <message id="ui_lamp">
+        <source></source>
+        <translation>Motorkontrollleuchte</translation>
+    </message>
+    <message id="ui_count">
+        <source></source>
+        <translation>Fehlercodes</translation>
+    </message>
+    <message id="ui_read_on">
+        <source></source>
+        <translation>Gelesen am</translation>
+    </message>
+    <message id="ui_adapter">
+        <source></source>
+        <translation>Adapter</translation>
+    </message>
+    <message id="ui_protocol">
+        <source></source>
+        <translation>Protokoll</translation>
+    </message>
+    <message id="ui_units">
+        <source></source>
+        <translation>Steuergeräte</translation>
+    </message>
+    <message id="ui_col_code">
+        <source></source>
+        <translation>Code</translation>
+    </message>
+    <message id="ui_col_description">
+        <source></source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message id="ui_codes_table">
+        <source></source>
+        <translation>Gespeicherte Fehlercodes</translation>
+    </message>
+    <message id="ui_codes_empty">
+        <source></source>
+        <translation>Nach „Codes lesen“ stehen hier die gespeicherten Fehlercodes.</translation>
+    </message>
+    <message id="ui_col_state">
+        <source></source>
+        <translation>Stand</translation>
+    </message>
+    <message id="ui_col_monitor">
+        <source></source>
+        <translation>Überwachung</translation>
+    </message>
+    <message id="ui_col_kind">
+        <source></source>
+        <translation>Art</translation>
+    </message>
+    <message id="ui_readiness_table">
+        <source></source>
+        <translation>Stand der Überwachung</translation>
+    </message>
+    <message id="ui_readiness_empty">
+        <source></source>
+        <translation>Nach „Codes lesen“ steht hier der Stand der Überwachung.</translation>
+    </message>
+    <message id="ui_live_title">
+        <source></source>
+        <translation>Live-Daten</translation>
+    </message>
+    <message id="ui_live_not_yet">
+        <source></source>
+        <translation>Die Live-Daten sind noch im Bau. Bis dahin fragt der Bildschirm Experte jeden Messwert ab, zum Beispiel mit 01 0C die Motordrehzahl.</translation>
+    </message>
+    <message id="ui_expert_title">
+        <source></source>
+        <translation>Experte</translation>
+    </message>
+    <message id="ui_transcript">
+        <source></source>
+        <translation>Mitschrift</translation>
+    </message>
+    <message id="ui_transcript_empty">
+        <source></source>
+        <translation>Hier erscheinen die Befehle und die unveränderten Antworten des Adapters.</translation>
+    </message>
+    <message id="ui_command">
+        <source></source>
+        <translation>Befehl</translation>
+    </message>
+    <message id="ui_command_label">
+        <source></source>
+        <translation>&amp;Befehl:</translation>
+    </message>
+    <message id="ui_command_hint">
+        <source></source>
+        <translation>AT I, 01 0C, 03 …</translation>
+    </message>
+    <message id="ui_command_too_long">
+        <source></source>
+        <translation>Ein Befehl hat höchstens 38 Zeichen. Es wurde nichts gesendet.</translation>
+    </message>
+    <message id="ui_send">
+        <source></source>
+        <translation>&amp;Senden</translation>
+    </message>
+    <message id="ui_prefs_title">
+        <source></source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="ui_adapter_group">
+        <source></source>
+        <translation>Adapter</translation>
+    </message>
+    <message id="ui_bluetooth">
+        <source></source>
+        <translation>&amp;Bluetooth</translation>
+    </message>
+    <message id="ui_wifi">
+        <source></source>
+        <translation>&amp;WLAN</translation>
+    </message>
+    <message id="ui_address">
+        <source></source>
+        <translation>&amp;Adresse:</translation>
+    </message>
+    <message id="ui_port">
+        <source></source>
+        <translation>Por&amp;t:</translation>
+    </message>
+    <message id="ui_last_bt">
+        <source></source>
+        <translation>Den letzten Adapter wieder verwenden</translation>
+    </message>
+    <message id="ui_last_bt_hint">
+        <source></source>
+        <translation>Bluetooth-Adapter werden noch nicht unterstützt</translation>
+    </message>
+    <message id="ui_units_group">
+        <source></source>
+        <translation>Einheiten und Aufzeichnung</translation>
+    </message>
+    <message id="ui_metric">
+        <source></source>
+        <translation>&amp;Metrische Einheiten</translation>
+    </message>
+    <message id="ui_metric_hint">
+        <source></source>
+        <translation>km/h, °C und kPa statt mph, °F und psi</translation>
+    </message>
+    <message id="ui_log_runs">
+        <source></source>
+        <translation>&amp;Fahrten aufzeichnen</translation>
+    </message>
+    <message id="ui_log_runs_hint">
+        <source></source>
+        <translation>Jede Fahrt unter Live-Daten in eine Datei schreiben</translation>
+    </message>
+    <message id="ui_pids_group">
+        <source></source>
+        <translation>Messwerte einer Fahrt</translation>
+    </message>
+    <message id="ui_pids_table">
+        <source></source>
+        <translation>Messwerte</translation>
+    </message>
+    <message id="ui_col_show">
+        <source></source>
+        <translation>Zeigen</translation>
+    </message>
+    <message id="ui_col_parameter">
+        <source></source>
+        <translation>Messwert</translation>
+    </message>
+    <message id="ui_prefs_saved_on_leaving">
+        <source></source>
+        <translation>Änderungen werden gespeichert, wenn Sie diesen Bildschirm verlassen.</translation>
+    </message>
+    <message id="ui_defaults">
+        <source></source>
+        <translation>Standardwe&amp;rte</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,309 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<context>
+    <name></name>
+    <message id="KS_help">
+        <source></source>
+        <translation>Kestrom reads your car's on-board diagnostics (OBD-II) through an ELM327-type adapter.
+
+Connect: plug the adapter into the car's diagnostic port, usually below the steering wheel, and switch the ignition on. For a Wi-Fi adapter, join the adapter's own wireless network first, then choose Wi-Fi in Preferences and enter its address and port (most use 192.168.0.10 and 35000). For a Bluetooth adapter, choose Bluetooth; the first task you start asks which device to use.
+
+Trouble codes: “Read codes” shows the stored codes with their meaning, the malfunction lamp and the readiness monitors. “Clear codes” erases the codes, switches the lamp off and resets the monitors; do it with the engine off, and only after writing the codes down.
+
+Live data: choose a kind of run and press start. Each parameter has a small chart; click one to see it large and on the dial, hold Ctrl to pick a second one for the second dial. Preferences holds the list of parameters and the units.
+
+Logs: with run logging switched on in Preferences, every run is written to a file of its own in the folder “loggies”; the Logs switch says where that folder is.
+
+Expert: type any adapter command (AT I) or request (01 0C) and read the raw reply.
+
+No answer? Check the ignition, the plug and the wireless connection, and close other programs that use the adapter.</translation>
+    </message>
+    <message id="no_reply_from_car_MSG">
+        <source></source>
+        <translation>The car did not answer. Switch the ignition on and try again.</translation>
+    </message>
+    <message id="no_reply_from_car_MSG_BT">
+        <source></source>
+        <translation>The adapter works, but the car did not answer.
+
+Please check:
+• The ignition is on, or the engine is running.
+• The adapter sits firmly in the diagnostic port.
+• The adapter chosen in the Bluetooth list is the one in this car.
+• No phone or other program uses the adapter at the same time.
+• The car supports OBD-II.</translation>
+    </message>
+    <message id="no_reply_from_car_MSG_TCP">
+        <source></source>
+        <translation>The adapter works, but the car did not answer.
+
+Please check:
+• The ignition is on, or the engine is running.
+• The adapter sits firmly in the diagnostic port.
+• This computer is joined to the Wi-Fi network of the adapter in this car.
+• No phone or other program uses the adapter at the same time.
+• The car supports OBD-II.</translation>
+    </message>
+    <message id="init_OBD_error_MSG">
+        <source></source>
+        <translation>The adapter could not start the car's diagnostic bus. Switch the ignition off and on again, make sure that the adapter sits firmly in the diagnostic port, and try once more.</translation>
+    </message>
+    <message id="blank_input_MSG">
+        <source></source>
+        <translation>Type a command first, for example AT I or 01 0C.</translation>
+    </message>
+    <message id="FIELD_ENGINE_MPG">
+        <source></source>
+        <translation>Fuel Economy</translation>
+    </message>
+    <message id="FIELD_ENGINE_BOOST">
+        <source></source>
+        <translation>Boost Pressure</translation>
+    </message>
+    <message id="tcp_no_answer_yet_MSG">
+        <source></source>
+        <translation>The adapter has not answered yet. Check that this computer is in the adapter's wireless network and that address and port are right.</translation>
+    </message>
+    <message id="bluetooth_not_built_MSG">
+        <source></source>
+        <translation>Bluetooth adapters are not supported yet. Please choose Wi-Fi in Preferences.</translation>
+    </message>
+    <message id="ui_where_to_begin">
+        <source></source>
+        <translation>Choose Preferences to set up your adapter, then Trouble codes to read the car.</translation>
+    </message>
+    <message id="ui_rail_codes">
+        <source></source>
+        <translation>Trouble &amp;codes</translation>
+    </message>
+    <message id="ui_rail_live">
+        <source></source>
+        <translation>&amp;Live data</translation>
+    </message>
+    <message id="ui_rail_logs">
+        <source></source>
+        <translation>L&amp;ogs</translation>
+    </message>
+    <message id="ui_rail_logs_hint">
+        <source></source>
+        <translation>Run logs are written by Live data</translation>
+    </message>
+    <message id="ui_rail_expert">
+        <source></source>
+        <translation>&amp;Expert</translation>
+    </message>
+    <message id="ui_rail_prefs">
+        <source></source>
+        <translation>&amp;Preferences</translation>
+    </message>
+    <message id="ui_rail_help">
+        <source></source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message id="ui_busy">
+        <source></source>
+        <translation>Busy</translation>
+    </message>
+    <message id="ui_status">
+        <source></source>
+        <translation>Status</translation>
+    </message>
+    <message id="ui_codes_title">
+        <source></source>
+        <translation>Trouble codes</translation>
+    </message>
+    <message id="ui_read_codes">
+        <source></source>
+        <translation>&amp;Read codes</translation>
+    </message>
+    <message id="ui_read_codes_hint">
+        <source></source>
+        <translation>Read lamp, stored codes and readiness monitors</translation>
+    </message>
+    <message id="ui_clear_codes">
+        <source></source>
+        <translation>Cle&amp;ar codes…</translation>
+    </message>
+    <message id="ui_clear_codes_hint">
+        <source></source>
+        <translation>Erase stored codes and switch the lamp off</translation>
+    </message>
+    <message id="ui_lamp">
+        <source></source>
+        <translation>MIL lamp</translation>
+    </message>
+    <message id="ui_count">
+        <source></source>
+        <translation>Trouble codes</translation>
+    </message>
+    <message id="ui_read_on">
+        <source></source>
+        <translation>Read on</translation>
+    </message>
+    <message id="ui_adapter">
+        <source></source>
+        <translation>Adapter</translation>
+    </message>
+    <message id="ui_protocol">
+        <source></source>
+        <translation>Protocol</translation>
+    </message>
+    <message id="ui_units">
+        <source></source>
+        <translation>Control units</translation>
+    </message>
+    <message id="ui_col_code">
+        <source></source>
+        <translation>Code</translation>
+    </message>
+    <message id="ui_col_description">
+        <source></source>
+        <translation>Description</translation>
+    </message>
+    <message id="ui_codes_table">
+        <source></source>
+        <translation>Stored trouble codes</translation>
+    </message>
+    <message id="ui_codes_empty">
+        <source></source>
+        <translation>Stored trouble codes appear here after “Read codes”.</translation>
+    </message>
+    <message id="ui_col_state">
+        <source></source>
+        <translation>State</translation>
+    </message>
+    <message id="ui_col_monitor">
+        <source></source>
+        <translation>Monitor</translation>
+    </message>
+    <message id="ui_col_kind">
+        <source></source>
+        <translation>Kind</translation>
+    </message>
+    <message id="ui_readiness_table">
+        <source></source>
+        <translation>Readiness monitors</translation>
+    </message>
+    <message id="ui_readiness_empty">
+        <source></source>
+        <translation>The readiness monitors appear here after “Read codes”.</translation>
+    </message>
+    <message id="ui_live_title">
+        <source></source>
+        <translation>Live data</translation>
+    </message>
+    <message id="ui_live_not_yet">
+        <source></source>
+        <translation>Live data is being built. Until then, the Expert screen can ask for any parameter, such as 01 0C for the engine speed.</translation>
+    </message>
+    <message id="ui_expert_title">
+        <source></source>
+        <translation>Expert</translation>
+    </message>
+    <message id="ui_transcript">
+        <source></source>
+        <translation>Transcript</translation>
+    </message>
+    <message id="ui_transcript_empty">
+        <source></source>
+        <translation>Commands and the adapter's raw replies appear here.</translation>
+    </message>
+    <message id="ui_command">
+        <source></source>
+        <translation>Command</translation>
+    </message>
+    <message id="ui_command_label">
+        <source></source>
+        <translation>Co&amp;mmand:</translation>
+    </message>
+    <message id="ui_command_hint">
+        <source></source>
+        <translation>AT I, 01 0C, 03 …</translation>
+    </message>
+    <message id="ui_command_too_long">
+        <source></source>
+        <translation>A command has at most 38 characters. Nothing was sent.</translation>
+    </message>
+    <message id="ui_send">
+        <source></source>
+        <translation>&amp;Send</translation>
+    </message>
+    <message id="ui_prefs_title">
+        <source></source>
+        <translation>Preferences</translation>
+    </message>
+    <message id="ui_adapter_group">
+        <source></source>
+        <translation>Adapter</translation>
+    </message>
+    <message id="ui_bluetooth">
+        <source></source>
+        <translation>&amp;Bluetooth</translation>
+    </message>
+    <message id="ui_wifi">
+        <source></source>
+        <translation>&amp;Wi-Fi</translation>
+    </message>
+    <message id="ui_address">
+        <source></source>
+        <translation>Add&amp;ress:</translation>
+    </message>
+    <message id="ui_port">
+        <source></source>
+        <translation>Por&amp;t:</translation>
+    </message>
+    <message id="ui_last_bt">
+        <source></source>
+        <translation>Reuse the last adapter</translation>
+    </message>
+    <message id="ui_last_bt_hint">
+        <source></source>
+        <translation>Bluetooth adapters are not supported yet</translation>
+    </message>
+    <message id="ui_units_group">
+        <source></source>
+        <translation>Units and logging</translation>
+    </message>
+    <message id="ui_metric">
+        <source></source>
+        <translation>&amp;Metric units</translation>
+    </message>
+    <message id="ui_metric_hint">
+        <source></source>
+        <translation>km/h, °C and kPa instead of mph, °F and psi</translation>
+    </message>
+    <message id="ui_log_runs">
+        <source></source>
+        <translation>Lo&amp;g runs</translation>
+    </message>
+    <message id="ui_log_runs_hint">
+        <source></source>
+        <translation>Write every live-data run to a file</translation>
+    </message>
+    <message id="ui_pids_group">
+        <source></source>
+        <translation>Parameters of a live-data run</translation>
+    </message>
+    <message id="ui_pids_table">
+        <source></source>
+        <translation>Parameters</translation>
+    </message>
+    <message id="ui_col_show">
+        <source></source>
+        <translation>Show</translation>
+    </message>
+    <message id="ui_col_parameter">
+        <source></source>
+        <translation>Parameter</translation>
+    </message>
+    <message id="ui_prefs_saved_on_leaving">
+        <source></source>
+        <translation>Changes are saved when you leave this screen.</translation>
+    </message>
+    <message id="ui_defaults">
+        <source></source>
+        <translation>&amp;Defaults</translation>
+    </message>
+</context>
+</TS>

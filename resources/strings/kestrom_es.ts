@@ -1,0 +1,309 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es">
+<context>
+    <name></name>
+    <message id="KS_help">
+        <source></source>
+        <translation>Kestrom lee el diagnóstico de a bordo (OBD-II) de su coche mediante un adaptador de tipo ELM327.
+
+Conexión: enchufe el adaptador en la toma de diagnóstico del coche, normalmente bajo el volante, y dé el contacto. Con un adaptador Wi-Fi, conecte primero este equipo a la red inalámbrica del adaptador, elija después Wi-Fi en las preferencias y escriba su dirección y su puerto (casi siempre 192.168.0.10 y 35000). Con un adaptador Bluetooth, elija Bluetooth; la primera tarea que inicie preguntará qué dispositivo usar.
+
+Códigos de avería: «Leer códigos» muestra los códigos guardados con su significado, el testigo de avería y el estado de los monitores. «Borrar códigos» borra los códigos, apaga el testigo y pone a cero los monitores; hágalo con el motor parado y solo después de anotar los códigos.
+
+Datos en vivo: elija el tipo de registro y pulse el botón de inicio. Cada parámetro tiene una gráfica pequeña; haga clic en ella para verla en grande y en el indicador, y mantenga Ctrl para elegir otra para el segundo indicador. La lista de parámetros y las unidades están en las preferencias.
+
+Registros: con el registro activado en las preferencias, cada sesión se guarda en su propio archivo de la carpeta «loggies»; el botón Registros indica dónde está.
+
+Experto: escriba una orden del adaptador (AT I) o una petición (01 0C) y lea la respuesta sin tratar.
+
+¿No hay respuesta? Compruebe el contacto, el enchufe y la conexión inalámbrica, y cierre otros programas que usen el adaptador.</translation>
+    </message>
+    <message id="no_reply_from_car_MSG">
+        <source></source>
+        <translation>El coche no ha respondido. Dé el contacto e inténtelo de nuevo.</translation>
+    </message>
+    <message id="no_reply_from_car_MSG_BT">
+        <source></source>
+        <translation>El adaptador funciona, pero el coche no ha respondido.
+
+Compruebe que:
+• El contacto está dado o el motor está en marcha.
+• El adaptador está bien enchufado en la toma de diagnóstico.
+• El adaptador elegido en la lista de Bluetooth es el de este coche.
+• Ningún teléfono ni otro programa usa el adaptador al mismo tiempo.
+• El coche admite OBD-II.</translation>
+    </message>
+    <message id="no_reply_from_car_MSG_TCP">
+        <source></source>
+        <translation>El adaptador funciona, pero el coche no ha respondido.
+
+Compruebe que:
+• El contacto está dado o el motor está en marcha.
+• El adaptador está bien enchufado en la toma de diagnóstico.
+• Este equipo está conectado a la red Wi-Fi del adaptador de este coche.
+• Ningún teléfono ni otro programa usa el adaptador al mismo tiempo.
+• El coche admite OBD-II.</translation>
+    </message>
+    <message id="init_OBD_error_MSG">
+        <source></source>
+        <translation>El adaptador no ha podido iniciar el bus de diagnóstico del coche. Quite el contacto y vuelva a darlo, compruebe que el adaptador está bien enchufado en la toma de diagnóstico e inténtelo otra vez.</translation>
+    </message>
+    <message id="blank_input_MSG">
+        <source></source>
+        <translation>Escriba antes una orden, por ejemplo AT I o 01 0C.</translation>
+    </message>
+    <message id="FIELD_ENGINE_MPG">
+        <source></source>
+        <translation>Rendimiento de combustible</translation>
+    </message>
+    <message id="FIELD_ENGINE_BOOST">
+        <source></source>
+        <translation>Presión de sobrealimentación</translation>
+    </message>
+    <message id="tcp_no_answer_yet_MSG">
+        <source></source>
+        <translation>El adaptador aún no ha respondido. Compruebe que este equipo está en la red inalámbrica del adaptador y que la dirección y el puerto son correctos.</translation>
+    </message>
+    <message id="bluetooth_not_built_MSG">
+        <source></source>
+        <translation>Los adaptadores Bluetooth aún no se admiten. Elija Wi-Fi en las preferencias.</translation>
+    </message>
+    <message id="ui_where_to_begin">
+        <source></source>
+        <translation>Elija Preferencias para configurar su adaptador y después Códigos de avería para leer el coche.</translation>
+    </message>
+    <message id="ui_rail_codes">
+        <source></source>
+        <translation>&amp;Códigos de avería</translation>
+    </message>
+    <message id="ui_rail_live">
+        <source></source>
+        <translation>&amp;Datos en vivo</translation>
+    </message>
+    <message id="ui_rail_logs">
+        <source></source>
+        <translation>Re&amp;gistros</translation>
+    </message>
+    <message id="ui_rail_logs_hint">
+        <source></source>
+        <translation>Los registros los escribe Datos en vivo</translation>
+    </message>
+    <message id="ui_rail_expert">
+        <source></source>
+        <translation>&amp;Experto</translation>
+    </message>
+    <message id="ui_rail_prefs">
+        <source></source>
+        <translation>&amp;Preferencias</translation>
+    </message>
+    <message id="ui_rail_help">
+        <source></source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message id="ui_busy">
+        <source></source>
+        <translation>Ocupado</translation>
+    </message>
+    <message id="ui_status">
+        <source></source>
+        <translation>Estado</translation>
+    </message>
+    <message id="ui_codes_title">
+        <source></source>
+        <translation>Códigos de avería</translation>
+    </message>
+    <message id="ui_read_codes">
+        <source></source>
+        <translation>&amp;Leer códigos</translation>
+    </message>
+    <message id="ui_read_codes_hint">
+        <source></source>
+        <translation>Leer el testigo, los códigos guardados y el estado de los monitores</translation>
+    </message>
+    <message id="ui_clear_codes">
+        <source></source>
+        <translation>&amp;Borrar códigos…</translation>
+    </message>
+    <message id="ui_clear_codes_hint">
+        <source></source>
+        <translation>Borrar los códigos guardados y apagar el testigo</translation>
+    </message>
+    <message id="ui_lamp">
+        <source></source>
+        <translation>Testigo de avería</translation>
+    </message>
+    <message id="ui_count">
+        <source></source>
+        <translation>Códigos de avería</translation>
+    </message>
+    <message id="ui_read_on">
+        <source></source>
+        <translation>Leído el</translation>
+    </message>
+    <message id="ui_adapter">
+        <source></source>
+        <translation>Adaptador</translation>
+    </message>
+    <message id="ui_protocol">
+        <source></source>
+        <translation>Protocolo</translation>
+    </message>
+    <message id="ui_units">
+        <source></source>
+        <translation>Unidades de control</translation>
+    </message>
+    <message id="ui_col_code">
+        <source></source>
+        <translation>Código</translation>
+    </message>
+    <message id="ui_col_description">
+        <source></source>
+        <translation>Descripción</translation>
+    </message>
+    <message id="ui_codes_table">
+        <source></source>
+        <translation>Códigos de avería guardados</translation>
+    </message>
+    <message id="ui_codes_empty">
+        <source></source>
+        <translation>Los códigos de avería guardados aparecen aquí después de «Leer códigos».</translation>
+    </message>
+    <message id="ui_col_state">
+        <source></source>
+        <translation>Estado</translation>
+    </message>
+    <message id="ui_col_monitor">
+        <source></source>
+        <translation>Monitor</translation>
+    </message>
+    <message id="ui_col_kind">
+        <source></source>
+        <translation>Tipo</translation>
+    </message>
+    <message id="ui_readiness_table">
+        <source></source>
+        <translation>Estado de los monitores</translation>
+    </message>
+    <message id="ui_readiness_empty">
+        <source></source>
+        <translation>El estado de los monitores aparece aquí después de «Leer códigos».</translation>
+    </message>
+    <message id="ui_live_title">
+        <source></source>
+        <translation>Datos en vivo</translation>
+    </message>
+    <message id="ui_live_not_yet">
+        <source></source>
+        <translation>Los datos en vivo están en construcción. Mientras tanto, la pantalla Experto puede pedir cualquier parámetro, por ejemplo 01 0C para el régimen del motor.</translation>
+    </message>
+    <message id="ui_expert_title">
+        <source></source>
+        <translation>Experto</translation>
+    </message>
+    <message id="ui_transcript">
+        <source></source>
+        <translation>Transcripción</translation>
+    </message>
+    <message id="ui_transcript_empty">
+        <source></source>
+        <translation>Aquí aparecen las órdenes y las respuestas sin tratar del adaptador.</translation>
+    </message>
+    <message id="ui_command">
+        <source></source>
+        <translation>Orden</translation>
+    </message>
+    <message id="ui_command_label">
+        <source></source>
+        <translation>&amp;Orden:</translation>
+    </message>
+    <message id="ui_command_hint">
+        <source></source>
+        <translation>AT I, 01 0C, 03 …</translation>
+    </message>
+    <message id="ui_command_too_long">
+        <source></source>
+        <translation>Una orden tiene como máximo 38 caracteres. No se ha enviado nada.</translation>
+    </message>
+    <message id="ui_send">
+        <source></source>
+        <translation>En&amp;viar</translation>
+    </message>
+    <message id="ui_prefs_title">
+        <source></source>
+        <translation>Preferencias</translation>
+    </message>
+    <message id="ui_adapter_group">
+        <source></source>
+        <translation>Adaptador</translation>
+    </message>
+    <message id="ui_bluetooth">
+        <source></source>
+        <translation>&amp;Bluetooth</translation>
+    </message>
+    <message id="ui_wifi">
+        <source></source>
+        <translation>&amp;Wi-Fi</translation>
+    </message>
+    <message id="ui_address">
+        <source></source>
+        <translation>Di&amp;rección:</translation>
+    </message>
+    <message id="ui_port">
+        <source></source>
+        <translation>Puer&amp;to:</translation>
+    </message>
+    <message id="ui_last_bt">
+        <source></source>
+        <translation>Volver a usar el último adaptador</translation>
+    </message>
+    <message id="ui_last_bt_hint">
+        <source></source>
+        <translation>Los adaptadores Bluetooth aún no se admiten</translation>
+    </message>
+    <message id="ui_units_group">
+        <source></source>
+        <translation>Unidades y registro</translation>
+    </message>
+    <message id="ui_metric">
+        <source></source>
+        <translation>Unidades &amp;métricas</translation>
+    </message>
+    <message id="ui_metric_hint">
+        <source></source>
+        <translation>km/h, °C y kPa en lugar de mph, °F y psi</translation>
+    </message>
+    <message id="ui_log_runs">
+        <source></source>
+        <translation>Regi&amp;strar las sesiones</translation>
+    </message>
+    <message id="ui_log_runs_hint">
+        <source></source>
+        <translation>Guardar cada sesión de Datos en vivo en un archivo</translation>
+    </message>
+    <message id="ui_pids_group">
+        <source></source>
+        <translation>Parámetros de una sesión</translation>
+    </message>
+    <message id="ui_pids_table">
+        <source></source>
+        <translation>Parámetros</translation>
+    </message>
+    <message id="ui_col_show">
+        <source></source>
+        <translation>Mostrar</translation>
+    </message>
+    <message id="ui_col_parameter">
+        <source></source>
+        <translation>Parámetro</translation>
+    </message>
+    <message id="ui_prefs_saved_on_leaving">
+        <source></source>
+        <translation>Los cambios se guardan al salir de esta pantalla.</translation>
+    </message>
+    <message id="ui_defaults">
+        <source></source>
+        <translation>V&amp;alores predeterminados</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,309 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+    <name></name>
+    <message id="KS_help">
+        <source></source>
+        <translation>Kestrom lit le diagnostic embarqué (OBD-II) de votre voiture au moyen d'un adaptateur de type ELM327.
+
+Connexion : branchez l'adaptateur sur la prise de diagnostic de la voiture, en général sous le volant, et mettez le contact. Avec un adaptateur Wi-Fi, connectez d'abord cet ordinateur au réseau sans fil de l'adaptateur, puis choisissez Wi-Fi dans les préférences et saisissez l'adresse et le port (le plus souvent 192.168.0.10 et 35000). Avec un adaptateur Bluetooth, choisissez Bluetooth ; la première tâche que vous lancez demande quel appareil utiliser.
+
+Codes défaut : « Lire les codes » affiche les codes enregistrés avec leur signification, le témoin d'anomalie et l'état des moniteurs. « Effacer les codes » efface les codes, éteint le témoin et remet les moniteurs à zéro ; faites-le moteur arrêté, et seulement après avoir noté les codes.
+
+Données en direct : choisissez le type d'enregistrement et appuyez sur le bouton de départ. Chaque paramètre a son petit graphique ; cliquez dessus pour le voir en grand et sur le cadran, maintenez Ctrl pour en choisir un autre pour le second cadran. La liste des paramètres et les unités se règlent dans les préférences.
+
+Journaux : lorsque l'enregistrement est activé dans les préférences, chaque session est écrite dans son propre fichier du dossier « loggies » ; le bouton Journaux indique où il se trouve.
+
+Expert : tapez une commande de l'adaptateur (AT I) ou une requête (01 0C) et lisez la réponse brute.
+
+Pas de réponse ? Vérifiez le contact, la prise et la liaison sans fil, et fermez les autres programmes qui utilisent l'adaptateur.</translation>
+    </message>
+    <message id="no_reply_from_car_MSG">
+        <source></source>
+        <translation>La voiture n'a pas répondu. Mettez le contact et réessayez.</translation>
+    </message>
+    <message id="no_reply_from_car_MSG_BT">
+        <source></source>
+        <translation>L'adaptateur fonctionne, mais la voiture n'a pas répondu.
+
+Veuillez vérifier que :
+• le contact est mis ou le moteur tourne ;
+• l'adaptateur est bien enfoncé dans la prise de diagnostic ;
+• l'adaptateur choisi dans la liste Bluetooth est celui de cette voiture ;
+• aucun téléphone ni autre programme n'utilise l'adaptateur en même temps ;
+• la voiture prend en charge OBD-II.</translation>
+    </message>
+    <message id="no_reply_from_car_MSG_TCP">
+        <source></source>
+        <translation>L'adaptateur fonctionne, mais la voiture n'a pas répondu.
+
+Veuillez vérifier que :
+• le contact est mis ou le moteur tourne ;
+• l'adaptateur est bien enfoncé dans la prise de diagnostic ;
+• cet ordinateur est connecté au réseau Wi-Fi de l'adaptateur de cette voiture ;
+• aucun téléphone ni autre programme n'utilise l'adaptateur en même temps ;
+• la voiture prend en charge OBD-II.</translation>
+    </message>
+    <message id="init_OBD_error_MSG">
+        <source></source>
+        <translation>L'adaptateur n'a pas pu initialiser le bus de diagnostic de la voiture. Coupez puis remettez le contact, vérifiez que l'adaptateur est bien enfoncé dans la prise de diagnostic, et réessayez.</translation>
+    </message>
+    <message id="blank_input_MSG">
+        <source></source>
+        <translation>Tapez d'abord une commande, par exemple AT I ou 01 0C.</translation>
+    </message>
+    <message id="FIELD_ENGINE_MPG">
+        <source></source>
+        <translation>Économie de carburant</translation>
+    </message>
+    <message id="FIELD_ENGINE_BOOST">
+        <source></source>
+        <translation>Pression de suralimentation</translation>
+    </message>
+    <message id="tcp_no_answer_yet_MSG">
+        <source></source>
+        <translation>L'adaptateur n'a pas encore répondu. Vérifiez que cet ordinateur est connecté au réseau sans fil de l'adaptateur et que l'adresse et le port sont corrects.</translation>
+    </message>
+    <message id="bluetooth_not_built_MSG">
+        <source></source>
+        <translation>Les adaptateurs Bluetooth ne sont pas encore pris en charge. Veuillez choisir Wi-Fi dans les préférences.</translation>
+    </message>
+    <message id="ui_where_to_begin">
+        <source></source>
+        <translation>Choisissez Préférences pour configurer votre adaptateur, puis Codes défaut pour lire la voiture.</translation>
+    </message>
+    <message id="ui_rail_codes">
+        <source></source>
+        <translation>&amp;Codes défaut</translation>
+    </message>
+    <message id="ui_rail_live">
+        <source></source>
+        <translation>&amp;Données en direct</translation>
+    </message>
+    <message id="ui_rail_logs">
+        <source></source>
+        <translation>&amp;Journaux</translation>
+    </message>
+    <message id="ui_rail_logs_hint">
+        <source></source>
+        <translation>Les journaux sont écrits par Données en direct</translation>
+    </message>
+    <message id="ui_rail_expert">
+        <source></source>
+        <translation>&amp;Expert</translation>
+    </message>
+    <message id="ui_rail_prefs">
+        <source></source>
+        <translation>&amp;Préférences</translation>
+    </message>
+    <message id="ui_rail_help">
+        <source></source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message id="ui_busy">
+        <source></source>
+        <translation>Occupé</translation>
+    </message>
+    <message id="ui_status">
+        <source></source>
+        <translation>État</translation>
+    </message>
+    <message id="ui_codes_title">
+        <source></source>
+        <translation>Codes défaut</translation>
+    </message>
+    <message id="ui_read_codes">
+        <source></source>
+        <translation>&amp;Lire les codes</translation>
+    </message>
+    <message id="ui_read_codes_hint">
+        <source></source>
+        <translation>Lire le témoin, les codes enregistrés et l'état des moniteurs</translation>
+    </message>
+    <message id="ui_clear_codes">
+        <source></source>
+        <translation>E&amp;ffacer les codes…</translation>
+    </message>
+    <message id="ui_clear_codes_hint">
+        <source></source>
+        <translation>Effacer les codes enregistrés et éteindre le témoin</translation>
+    </message>
+    <message id="ui_lamp">
+        <source></source>
+        <translation>Témoin d'anomalie</translation>
+    </message>
+    <message id="ui_count">
+        <source></source>
+        <translation>Codes défaut</translation>
+    </message>
+    <message id="ui_read_on">
+        <source></source>
+        <translation>Lu le</translation>
+    </message>
+    <message id="ui_adapter">
+        <source></source>
+        <translation>Adaptateur</translation>
+    </message>
+    <message id="ui_protocol">
+        <source></source>
+        <translation>Protocole</translation>
+    </message>
+    <message id="ui_units">
+        <source></source>
+        <translation>Calculateurs</translation>
+    </message>
+    <message id="ui_col_code">
+        <source></source>
+        <translation>Code</translation>
+    </message>
+    <message id="ui_col_description">
+        <source></source>
+        <translation>Description</translation>
+    </message>
+    <message id="ui_codes_table">
+        <source></source>
+        <translation>Codes défaut enregistrés</translation>
+    </message>
+    <message id="ui_codes_empty">
+        <source></source>
+        <translation>Les codes défaut enregistrés apparaissent ici après « Lire les codes ».</translation>
+    </message>
+    <message id="ui_col_state">
+        <source></source>
+        <translation>État</translation>
+    </message>
+    <message id="ui_col_monitor">
+        <source></source>
+        <translation>Moniteur</translation>
+    </message>
+    <message id="ui_col_kind">
+        <source></source>
+        <translation>Type</translation>
+    </message>
+    <message id="ui_readiness_table">
+        <source></source>
+        <translation>État des moniteurs</translation>
+    </message>
+    <message id="ui_readiness_empty">
+        <source></source>
+        <translation>L'état des moniteurs apparaît ici après « Lire les codes ».</translation>
+    </message>
+    <message id="ui_live_title">
+        <source></source>
+        <translation>Données en direct</translation>
+    </message>
+    <message id="ui_live_not_yet">
+        <source></source>
+        <translation>Les données en direct sont en cours de réalisation. En attendant, l'écran Expert peut demander n'importe quel paramètre, par exemple 01 0C pour le régime moteur.</translation>
+    </message>
+    <message id="ui_expert_title">
+        <source></source>
+        <translation>Expert</translation>
+    </message>
+    <message id="ui_transcript">
+        <source></source>
+        <translation>Transcription</translation>
+    </message>
+    <message id="ui_transcript_empty">
+        <source></source>
+        <translation>Les commandes et les réponses brutes de l'adaptateur apparaissent ici.</translation>
+    </message>
+    <message id="ui_command">
+        <source></source>
+        <translation>Commande</translation>
+    </message>
+    <message id="ui_command_label">
+        <source></source>
+        <translation>Co&amp;mmande :</translation>
+    </message>
+    <message id="ui_command_hint">
+        <source></source>
+        <translation>AT I, 01 0C, 03 …</translation>
+    </message>
+    <message id="ui_command_too_long">
+        <source></source>
+        <translation>Une commande compte au plus 38 caractères. Rien n'a été envoyé.</translation>
+    </message>
+    <message id="ui_send">
+        <source></source>
+        <translation>En&amp;voyer</translation>
+    </message>
+    <message id="ui_prefs_title">
+        <source></source>
+        <translation>Préférences</translation>
+    </message>
+    <message id="ui_adapter_group">
+        <source></source>
+        <translation>Adaptateur</translation>
+    </message>
+    <message id="ui_bluetooth">
+        <source></source>
+        <translation>&amp;Bluetooth</translation>
+    </message>
+    <message id="ui_wifi">
+        <source></source>
+        <translation>&amp;Wi-Fi</translation>
+    </message>
+    <message id="ui_address">
+        <source></source>
+        <translation>Ad&amp;resse :</translation>
+    </message>
+    <message id="ui_port">
+        <source></source>
+        <translation>Por&amp;t :</translation>
+    </message>
+    <message id="ui_last_bt">
+        <source></source>
+        <translation>Réutiliser le dernier adaptateur</translation>
+    </message>
+    <message id="ui_last_bt_hint">
+        <source></source>
+        <translation>Les adaptateurs Bluetooth ne sont pas encore pris en charge</translation>
+    </message>
+    <message id="ui_units_group">
+        <source></source>
+        <translation>Unités et enregistrement</translation>
+    </message>
+    <message id="ui_metric">
+        <source></source>
+        <translation>Unités &amp;métriques</translation>
+    </message>
+    <message id="ui_metric_hint">
+        <source></source>
+        <translation>km/h, °C et kPa au lieu de mph, °F et psi</translation>
+    </message>
+    <message id="ui_log_runs">
+        <source></source>
+        <translation>Enre&amp;gistrer les sessions</translation>
+    </message>
+    <message id="ui_log_runs_hint">
+        <source></source>
+        <translation>Écrire chaque session de Données en direct dans un fichier</translation>
+    </message>
+    <message id="ui_pids_group">
+        <source></source>
+        <translation>Paramètres d'une session</translation>
+    </message>
+    <message id="ui_pids_table">
+        <source></source>
+        <translation>Paramètres</translation>
+    </message>
+    <message id="ui_col_show">
+        <source></source>
+        <translation>Afficher</translation>
+    </message>
+    <message id="ui_col_parameter">
+        <source></source>
+        <translation>Paramètre</translation>
+    </message>
+    <message id="ui_prefs_saved_on_leaving">
+        <source></source>
+        <translation>Les modifications sont enregistrées quand vous quittez cet écran.</translation>
+    </message>
+    <message id="ui_defaults">
+        <source></source>
+        <translation>Valeurs par défa&amp;ut</translation>
+    </message>
+</context>
+</TS>

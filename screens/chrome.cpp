@@ -1,0 +1,114 @@
+#include "chrome.h"
+
+#include "bundle.h"
+#include "busy_indicator.h"
+#include "display_text.h"
+#include "Ks_lite_delegate.h"
+#include "status_line.h"
+
+#include <QFile>
+#include <QFont>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QIconEngine>
+#include <QLabel>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <memory>
+
+namespace {
+
+// Renders the drawing at whatever size is asked for and tints it.
+class drawn_icon_engine final : public QIconEngine {
+  public:
+    drawn_icon_engine(QString path, QPalette palette)
+        : path_(std::move(path)), palette_(std::move(palette)),
+          drawing_(std::make_shared<QSvgRenderer>(path_)) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+        const double ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
+        painter->drawPixmap(rect, tinted(rect.size() * ratio, mode));
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
+        return tinted(size, mode);
+    }
+    QIconEngine* clone() const override { return new drawn_icon_engine(path_, palette_); }
+
+  private:
+    QPixmap tinted(const QSize& size, QIcon::Mode mode) const {
+        QPixmap image(size);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        drawing_->render(&painter);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
+        painter.fillRect(image.rect(), palette_.color(group, role));
+        return image;
+    }
+
+    QString path_;
+    QPalette palette_;
+    std::shared_ptr<QSvgRenderer> drawing_;
+};
+
+} // namespace
+
+QIcon drawn_icon(std::string_view name, const QPalette& palette) {
+    const QString path = QStringLiteral(":/kestrom/icons/") + display_text(name) + QStringLiteral(".svg");
+    return QFile::exists(path) ? QIcon(new drawn_icon_engine(path, palette)) : QIcon();
+}
+
+QString ui_text(Ks_lite_delegate& delegate, std::string_view key) {
+    return display_text(delegate.doors().resources.localized(key));
+}
+
+void give_room(QTableView* table) {
+    table->setStyleSheet(QStringLiteral(
+        "QTableView::item { padding: 4px 8px; }"
+        "QHeaderView::section { padding: 4px 8px; border: none; border-bottom: 1px solid palette(mid);"
+        " background: palette(button); }"));
+    table->setTabKeyNavigation(false);
+    table->verticalHeader()->hide();
+    table->horizontalHeader()->setHighlightSections(false);
+}
+
+screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view title_key, bool with_status) {
+    screen_bones bones;
+    bones.root = new QWidget;
+    auto* column = new QVBoxLayout(bones.root);
+    column->setContentsMargins(2 * GRID, 2 * GRID, 2 * GRID, GRID);
+    column->setSpacing(2 * GRID);
+
+    bones.title_row = new QHBoxLayout;
+    bones.title_row->setSpacing(GRID);
+    auto* title = new QLabel(ui_text(delegate, title_key), bones.root);
+    title->setObjectName(QStringLiteral("titleLbl"));
+    QFont font = title->font();
+    font.setPointSizeF(font.pointSizeF() * 1.5);
+    font.setWeight(QFont::DemiBold);
+    title->setFont(font);
+    bones.title_row->addWidget(title);
+    bones.title_row->addStretch(1);
+    column->addLayout(bones.title_row);
+
+    bones.content = new QVBoxLayout;
+    bones.content->setSpacing(2 * GRID);
+    column->addLayout(bones.content, 1);
+
+    if (with_status) {
+        auto* foot = new QHBoxLayout;
+        foot->setSpacing(GRID);
+        bones.waity = new busy_indicator(bones.root, [&delegate] { return delegate.anything_outstanding(); });
+        bones.waity->setAccessibleName(ui_text(delegate, "ui_busy"));
+        bones.status = new status_line(bones.root);
+        bones.status->setAccessibleName(ui_text(delegate, "ui_status"));
+        foot->addWidget(bones.status, 1);
+        foot->addWidget(bones.waity);
+        column->addLayout(foot);
+    }
+    return bones;
+}

@@ -1,0 +1,39 @@
+// The bones that every screen shares: a title row with the main buttons at its right, the content, and at the foot the
+// status line with the busy indicator beside it.
+#pragma once
+
+#include <QIcon>
+#include <QString>
+#include <QWidget>
+
+#include <string>
+#include <string_view>
+
+class busy_indicator;
+class Ks_lite_delegate;
+class QHBoxLayout;
+class QTableView;
+class QVBoxLayout;
+class status_line;
+
+// Spacing goes in steps of this many pixels.
+inline constexpr int GRID = 8;
+
+// The drawing icons/NAME.svg in the colour of the palette's text, sharp at every scale.
+QIcon drawn_icon(std::string_view name, const QPalette& palette);
+
+// A text of the strings table as a widget shows it.
+QString ui_text(Ks_lite_delegate& delegate, std::string_view key);
+
+// Cells and headings with air around their text; no row numbers.
+void give_room(QTableView* table);
+
+struct screen_bones {
+    QWidget* root = nullptr; // owned by the screen
+    QHBoxLayout* title_row = nullptr;
+    QVBoxLayout* content = nullptr;
+    status_line* status = nullptr; // null for a screen without one
+    busy_indicator* waity = nullptr;
+};
+
+screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view title_key, bool with_status);

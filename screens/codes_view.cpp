@@ -1,0 +1,190 @@
+#include "codes_view.h"
+
+#include "busy_indicator.h"
+#include "chrome.h"
+#include "display_text.h"
+#include "empty_hint.h"
+#include "fact_card.h"
+#include "rows_model.h"
+#include "status_line.h"
+#include "text.h"
+
+#include <QAction>
+#include <QFontDatabase>
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace {
+
+QTableView* make_table(const char* name, QWidget* parent) {
+    auto* table = new QTableView(parent);
+    table->setObjectName(QLatin1String(name));
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setShowGrid(false);
+    table->setAlternatingRowColors(true);
+    table->setWordWrap(true);
+    give_room(table);
+    table->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    return table;
+}
+
+// A mark before the word, so that nobody needs colour to tell the states apart.
+QString readiness_mark(const std::string& state) {
+    if (state == "OK")
+        return QStringLiteral("\u2713  OK");
+    if (state == "X")
+        return QStringLiteral("\u2717  X");
+    return QStringLiteral("\u2013  N/A");
+}
+
+} // namespace
+
+codes_view::codes_view(Ks_lite_delegate& delegate) : delegate_(delegate) {
+    const screen_bones bones = make_screen_bones(delegate, "ui_codes_title", true);
+    bones_root_.reset(bones.root);
+    statusLbl_ = bones.status;
+    waity_ = bones.waity;
+    build_buttons(bones.title_row);
+    build_cards(bones.content);
+    build_tables(bones.content);
+    reset_labels();
+    set_interface("");
+    set_protocol("");
+}
+
+codes_view::~codes_view() = default;
+
+void codes_view::build_buttons(QHBoxLayout* row) {
+    auto make = [&](const char* name, const char* icon, std::string_view key, std::function<void()>& call) {
+        auto* button = new QPushButton(drawn_icon(icon, root()->palette()), ui_text(delegate_, key), root());
+        button->setObjectName(QLatin1String(name));
+        QObject::connect(button, &QPushButton::clicked, root(), [&call] { call(); });
+        row->addWidget(button);
+        return button;
+    };
+    auto* read = make("readCodes", "read", "ui_read_codes", on_read);
+    read->setToolTip(ui_text(delegate_, "ui_read_codes_hint"));
+    read->setDefault(true);
+    make("clearCodes", "clear", "ui_clear_codes", on_clear)
+        ->setToolTip(ui_text(delegate_, "ui_clear_codes_hint"));
+    auto* diagnose = new QAction(root());
+    diagnose->setObjectName(QStringLiteral("obd_sim"));
+    diagnose->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_D);
+    QObject::connect(diagnose, &QAction::triggered, root(), [this] { on_diagnose(); });
+    root()->addAction(diagnose);
+}
+
+void codes_view::build_cards(QVBoxLayout* column) {
+    auto* cards = new QGridLayout;
+    cards->setSpacing(GRID);
+    int at = 0;
+    auto make = [&](const char* name, std::string_view caption, int stretch) {
+        auto* card = new fact_card(QLatin1String(name), ui_text(delegate_, caption), root());
+        cards->addWidget(card, 0, at);
+        cards->setColumnStretch(at++, stretch);
+        return card;
+    };
+    lamp_card_ = make("MILLbl", "ui_lamp", 2);
+    count_card_ = make("noOfCodesLbl", "ui_count", 2);
+    read_on_card_ = make("readOnLbl", "ui_read_on", 3);
+    interface_card_ = make("interfaceLbl", "ui_adapter", 4);
+    protocol_card_ = make("protocolLbl", "ui_protocol", 4);
+    extra_card_ = make("xtraInfoLbl", "ui_units", 3);
+    column->addLayout(cards);
+}
+
+void codes_view::build_tables(QVBoxLayout* column) {
+    auto* split = new QSplitter(Qt::Horizontal, root());
+    split->setChildrenCollapsible(false);
+
+    codesReadTableView_ = make_table("codesReadTableView", split);
+    codes_model_ = new rows_model(
+        {{QStringLiteral("Codes"), ui_text(delegate_, "ui_col_code")},
+         {QStringLiteral("Description"), ui_text(delegate_, "ui_col_description")}},
+        [this](int row, const QString& identifier) {
+            const code_row& codes = codes_[static_cast<std::size_t>(row)];
+            return display_text(identifier == QLatin1String("Codes") ? codes[0] : codes[1]).trimmed();
+        },
+        codesReadTableView_);
+    codes_model_->decorate = [](int, const QString& identifier, int role) -> QVariant {
+        if (role == Qt::FontRole && identifier == QLatin1String("Codes"))
+            return QFontDatabase::systemFont(QFontDatabase::FixedFont);
+        if (role == Qt::TextAlignmentRole)
+            return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+        return {};
+    };
+    codesReadTableView_->setModel(codes_model_);
+    codesReadTableView_->setAccessibleName(ui_text(delegate_, "ui_codes_table"));
+    codesReadTableView_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    codesReadTableView_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+    new empty_hint(codesReadTableView_, ui_text(delegate_, "ui_codes_empty"));
+
+    readinessCodesTableView_ = make_table("readinessCodesTableView", split);
+    readiness_model_ = new rows_model(
+        {{QStringLiteral("State"), ui_text(delegate_, "ui_col_state")},
+         {QStringLiteral("Description"), ui_text(delegate_, "ui_col_monitor")},
+         {QStringLiteral("Kind"), ui_text(delegate_, "ui_col_kind")}},
+        [this](int row, const QString& identifier) {
+            const readiness_flag& flag = readiness_[static_cast<std::size_t>(row)];
+            if (identifier == QLatin1String("State"))
+                return readiness_mark(flag.state);
+            return display_text(identifier == QLatin1String("Description") ? flag.monitor : flag.kind);
+        },
+        readinessCodesTableView_);
+    readinessCodesTableView_->setModel(readiness_model_);
+    readinessCodesTableView_->setAccessibleName(ui_text(delegate_, "ui_readiness_table"));
+    auto* header = readinessCodesTableView_->horizontalHeader();
+    header->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(1, QHeaderView::Stretch);
+    header->setSectionResizeMode(2, QHeaderView::ResizeToContents);
+    new empty_hint(readinessCodesTableView_, ui_text(delegate_, "ui_readiness_empty"));
+
+    split->setStretchFactor(0, 3);
+    split->setStretchFactor(1, 2);
+    column->addWidget(split, 1);
+}
+
+void codes_view::show_codes(const std::vector<code_row>& rows) {
+    codes_ = rows;
+    codes_model_->reload(static_cast<int>(rows.size()));
+}
+
+void codes_view::show_readiness(const std::vector<readiness_flag>& rows) {
+    readiness_ = rows;
+    readiness_model_->reload(static_cast<int>(rows.size()));
+}
+
+void codes_view::show_waity(bool visible) { waity_->setVisible(visible); }
+
+void codes_view::set_lamp(const std::string& text) {
+    lamp_ = text;
+    lamp_card_->set_value(text);
+    lamp_card_->show_lamp(text == "ON");
+}
+
+void codes_view::set_count(const std::string& text) { count_card_->set_value(text); }
+
+void codes_view::set_read_on(const std::string& text) {
+    read_on_ = text;
+    read_on_card_->set_value(text);
+}
+
+void codes_view::set_interface(const std::string& text) {
+    interface_card_->set_value(without(text, ">"));
+}
+void codes_view::set_protocol(const std::string& text) { protocol_card_->set_value(text); }
+void codes_view::set_extra_info(const std::string& text) { extra_card_->set_value(text); }
+
+void codes_view::reset_labels() {
+    lamp_.clear();
+    read_on_.clear();
+    lamp_card_->set_resting("MIL Lamp:");
+    count_card_->set_resting("No of DTC Codes:");
+    read_on_card_->set_resting("Read on");
+    extra_card_->set_resting("");
+}

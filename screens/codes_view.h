@@ -1,0 +1,68 @@
+// The widgets of the trouble-codes screen. Owned by readCodes, which tells it what to show.
+#pragma once
+
+#include "readCodes.h"
+
+#include <QPointer>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+class empty_hint;
+class fact_card;
+class rows_model;
+class QTableView;
+
+class codes_view {
+  public:
+    explicit codes_view(Ks_lite_delegate& delegate);
+    ~codes_view();
+
+    QWidget* root() { return bones_root_.get(); }
+    status_line& statusLbl() { return *statusLbl_; }
+
+    std::function<void()> on_read, on_clear, on_diagnose;
+
+    void show_codes(const std::vector<code_row>& rows);
+    void show_readiness(const std::vector<readiness_flag>& rows);
+    void show_waity(bool visible);
+
+    void set_lamp(const std::string& text);
+    void set_count(const std::string& text);
+    void set_read_on(const std::string& text);
+    void set_interface(const std::string& text);
+    void set_protocol(const std::string& text);
+    void set_extra_info(const std::string& text);
+    // As after a clear.
+    void reset_labels();
+
+    std::string lamp() const { return lamp_; }
+    std::string read_on() const { return read_on_; }
+
+  private:
+    void build_buttons(class QHBoxLayout* row);
+    void build_cards(class QVBoxLayout* column);
+    void build_tables(class QVBoxLayout* column);
+
+    Ks_lite_delegate& delegate_;
+    std::unique_ptr<QWidget> bones_root_;
+    status_line* statusLbl_ = nullptr;
+    busy_indicator* waity_ = nullptr;
+
+    std::vector<code_row> codes_;
+    std::vector<readiness_flag> readiness_;
+    rows_model* codes_model_ = nullptr;
+    rows_model* readiness_model_ = nullptr;
+    QTableView* codesReadTableView_ = nullptr;
+    QTableView* readinessCodesTableView_ = nullptr;
+
+    fact_card* lamp_card_ = nullptr;
+    fact_card* count_card_ = nullptr;
+    fact_card* read_on_card_ = nullptr;
+    fact_card* interface_card_ = nullptr;
+    fact_card* protocol_card_ = nullptr;
+    fact_card* extra_card_ = nullptr;
+    std::string lamp_, read_on_;
+};

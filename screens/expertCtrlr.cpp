@@ -1,0 +1,151 @@
+#include "expertCtrlr.h"
+
+#include "busy_indicator.h"
+#include "chrome.h"
+#include "command_recall.h"
+#include "display_text.h"
+#include "globalVars.h"
+#include "status_line.h"
+#include "system_log.h"
+#include "text.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTextCursor>
+
+namespace {
+
+constexpr int ECHO_POINT_SIZE = 14;
+constexpr int TRANSCRIPT_LINES = 20'000; // a monitored bus must not eat the memory
+
+// Blue that can be read on the ground it stands on.
+QColor echo_blue(const QPalette& palette) {
+    return palette.color(QPalette::Base).lightness() < 128 ? QColor(110, 160, 255) : QColor(Qt::blue);
+}
+
+void append(QPlainTextEdit* view, const QString& text, const QTextCharFormat& format) {
+    QTextCursor end(view->document());
+    end.movePosition(QTextCursor::End);
+    end.beginEditBlock();
+    end.insertText(text, format);
+    end.endEditBlock();
+    view->verticalScrollBar()->setValue(view->verticalScrollBar()->maximum());
+}
+
+} // namespace
+
+expertCtrlr::expertCtrlr(Ks_lite_delegate& delegate) : obd_screen(delegate) {
+    const screen_bones bones = make_screen_bones(delegate, "ui_expert_title", true);
+    root_.reset(bones.root);
+    waity = bones.waity;
+    use_status_line(*bones.status);
+
+    replyTxt = new QPlainTextEdit(root_.get());
+    replyTxt->setObjectName(QStringLiteral("replyTxt"));
+    replyTxt->setReadOnly(true);
+    replyTxt->setMaximumBlockCount(TRANSCRIPT_LINES);
+    replyTxt->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    replyTxt->setPlaceholderText(ui_text(delegate, "ui_transcript_empty"));
+    replyTxt->setAccessibleName(ui_text(delegate, "ui_transcript"));
+    replyTxt->setTabChangesFocus(true);
+    bones.content->addWidget(replyTxt, 1);
+
+    auto* row = new QHBoxLayout;
+    row->setSpacing(GRID);
+    cmdTxt = new QLineEdit(root_.get());
+    cmdTxt->setObjectName(QStringLiteral("cmdTxt"));
+    cmdTxt->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    cmdTxt->setPlaceholderText(ui_text(delegate, "ui_command_hint"));
+    cmdTxt->setAccessibleName(ui_text(delegate, "ui_command"));
+    recall_ = std::make_unique<command_recall>(cmdTxt);
+    auto* label = new QLabel(ui_text(delegate, "ui_command_label"), root_.get());
+    label->setBuddy(cmdTxt);
+    auto* send = new QPushButton(drawn_icon("send", root_->palette()), ui_text(delegate, "ui_send"), root_.get());
+    send->setObjectName(QStringLiteral("sendBtn"));
+    row->addWidget(label);
+    row->addWidget(cmdTxt, 1);
+    row->addWidget(send);
+    bones.content->addLayout(row);
+    root_->setFocusProxy(cmdTxt);
+
+    QObject::connect(send, &QPushButton::clicked, root_.get(), [this] { clickSend(); });
+    QObject::connect(cmdTxt, &QLineEdit::returnPressed, root_.get(), [this] { enterKey(); });
+    awakeFromNib();
+}
+
+expertCtrlr::~expertCtrlr() = default;
+
+void expertCtrlr::awakeFromNib() {
+    g_BT_cur_status = BT_DISCONNECTED;
+    g_retries = 0;
+    odb_curReplyBuffyMsg.clear();
+    odb_curReplyMsg.clear();
+    g_cur_mode = MODE_HANDSHAKE;
+    next_step_idx = 0;
+    waity->hide();
+}
+
+void expertCtrlr::set_command(const std::string& text) { cmdTxt->setText(display_text(text)); }
+
+void expertCtrlr::handle_a_send() {
+    const std::string command = cmdTxt->text().toStdString();
+    if (command.empty()) {
+        toolies.myMsgBox("Missing", localized("blank_input_MSG"), "OK", "");
+        return;
+    }
+    if (command.size() > LONGEST_CONSOLE_COMMAND) { // refused whole: half a command may mean another one
+        set_status_msg(localized("ui_command_too_long"));
+        return;
+    }
+    recall_->remember(cmdTxt->text());
+    append_echo(command);
+    cmdTxt->selectAll();
+    cmdTxt->setFocus();
+    if (!KS_delegate.openInterfaceConnection())
+        return; // the transport calls work_current_task once the link is up
+    set_status_msg("");
+    work_current_task();
+}
+
+void expertCtrlr::work_current_task() {
+    const std::string command = cmdTxt->text().toStdString();
+    // A lone carriage return would make the adapter repeat its last command.
+    if (command.empty() || command.size() > LONGEST_CONSOLE_COMMAND)
+        return;
+    waity->show();
+    sendOBDcmd(command + "\r");
+}
+
+void expertCtrlr::handleOBDRcvdMsg(const std::string& text) {
+    qCDebug(log_screens, "expertC:handleOBDRcvdMsg got the stuff%s", text.c_str());
+    if (contains(text, "Timeout")) {
+        beep();
+        set_status_msg("Cur op timed out... Please Check/retry");
+        return; // the indicator stays until the next reply
+    }
+    append_reply(text);
+    waity->hide();
+    if (received)
+        received(text);
+}
+
+void expertCtrlr::append_echo(const std::string& command) {
+    QTextCharFormat format;
+    QFont font = QApplication::font();
+    font.setPointSize(ECHO_POINT_SIZE);
+    format.setFont(font);
+    format.setForeground(echo_blue(replyTxt->palette()));
+    append(replyTxt, display_text(command) + u'\n', format);
+}
+
+void expertCtrlr::append_reply(const std::string& chunk) {
+    QTextCharFormat format;
+    format.setFont(replyTxt->font());
+    append(replyTxt, display_text(chunk), format);
+}

@@ -1,0 +1,25 @@
+// A small card with one fact: a quiet caption over its value. While there is no value the card shows only its
+// resting text.
+#pragma once
+
+#include <QFrame>
+#include <QLabel>
+
+#include <string>
+
+class fact_card final : public QFrame {
+  public:
+    fact_card(const QString& value_name, const QString& caption, QWidget* parent);
+
+    void set_value(const std::string& text);
+    void set_resting(const std::string& text);
+    // A lamp beside the value: dark or amber.
+    void show_lamp(bool lit);
+    void hide_lamp();
+
+  private:
+    class lamp;
+    QLabel* caption_;
+    QLabel* value_;
+    lamp* lamp_;
+};

@@ -1,0 +1,55 @@
+// What the screens that talk to the adapter share: the delegate, the toolkit, the status line and the small verbs of
+// a step ("put the command in cur_cmd, note the next step, send").
+#pragma once
+
+#include "Ks_lite_delegate.h"
+#include "mac_toolies.h"
+
+#include <string>
+#include <string_view>
+
+class busy_indicator;
+class status_line;
+
+class obd_screen : public screen_controller {
+  public:
+    explicit obd_screen(Ks_lite_delegate& delegate);
+
+    void set_status_msg(const std::string& message) override;
+    const std::string& status() const { return status_; }
+
+    void sendOBDcmd(std::string_view command) { KS_delegate.sendOBDcmd(command); }
+    // Puts `command` into cur_cmd, expects one reply, notes the step that the reply runs, and sends.
+    void send_and_go_to(std::string_view command, int next_step);
+
+    // Sets cur_err_msg and shows it on the status line.
+    void show_err_msg(std::string message);
+    void beep();
+    std::string localized(std::string_view key) const;
+
+    // What the handshake finds out; a screen shows what it has labels for.
+    virtual void show_interface(const std::string& text) { (void)text; }
+    virtual void show_protocol(const std::string& text) { (void)text; }
+    virtual void show_control_units(int count) { (void)count; }
+
+    Ks_lite_delegate& KS_delegate;
+    mac_toolies toolies;
+    std::string cur_err_msg;
+
+    // A task of this screen runs. Replies and deferred calls that meet a screen without one belong to somebody
+    // else and are dropped.
+    bool task_running() const { return task_running_; }
+
+  protected:
+    void use_status_line(status_line& line) { statusLbl = &line; }
+    void begin_task() { task_running_ = true; }
+
+  public:
+    // For the ends that say nothing and reset nothing.
+    void end_task() { task_running_ = false; }
+
+  private:
+    status_line* statusLbl = nullptr;
+    std::string status_;
+    bool task_running_ = false;
+};

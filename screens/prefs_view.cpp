@@ -1,0 +1,200 @@
+#include "prefs_view.h"
+
+#include "bundle.h"
+#include "chrome.h"
+#include "display_text.h"
+#include "Ks_lite_delegate.h"
+#include "rows_model.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyledItemDelegate>
+#include <QSvgRenderer>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int CHECK_SIDE = 20;
+
+// Draws the check images over the "Value" column.
+class check_painter final : public QStyledItemDelegate {
+  public:
+    check_painter(const bundle& resources, QObject* parent)
+        : QStyledItemDelegate(parent), on_(display_text(resources.image_path("chk_on.svg"))),
+          off_(display_text(resources.image_path("chk_off.svg"))) {}
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QStyleOptionViewItem ground = option;
+        initStyleOption(&ground, index);
+        ground.text.clear();
+        ground.widget->style()->drawControl(QStyle::CE_ItemViewItem, &ground, painter, ground.widget);
+        QRectF box(0, 0, CHECK_SIDE, CHECK_SIDE);
+        box.moveCenter(QRectF(option.rect).center());
+        const bool selected = index.data().toString() == QLatin1String("YES");
+        (selected ? on_ : off_).render(painter, box);
+    }
+
+  private:
+    mutable QSvgRenderer on_, off_;
+};
+
+} // namespace
+
+prefs_view::prefs_view(Ks_lite_delegate& delegate) : delegate_(delegate) {
+    const screen_bones bones = make_screen_bones(delegate, "ui_prefs_title", false);
+    root_.reset(bones.root);
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(2 * GRID);
+    auto* left = new QVBoxLayout;
+    left->setSpacing(2 * GRID);
+    left->addWidget(build_adapter());
+    left->addWidget(build_display());
+    left->addStretch(1);
+    columns->addLayout(left, 1);
+    columns->addWidget(build_parameters(), 1);
+    bones.content->addLayout(columns, 1);
+
+    auto* foot = new QHBoxLayout;
+    auto* note = new QLabel(ui_text(delegate, "ui_prefs_saved_on_leaving"), root());
+    note->setWordWrap(true);
+    note->setForegroundRole(QPalette::PlaceholderText);
+    auto* defaults = new QPushButton(ui_text(delegate, "ui_defaults"), root());
+    defaults->setObjectName(QStringLiteral("setDefaultsBtn"));
+    QObject::connect(defaults, &QPushButton::clicked, root(), [this] { on_defaults(); });
+    foot->addWidget(note, 1);
+    foot->addWidget(defaults);
+    bones.content->addLayout(foot);
+}
+
+prefs_view::~prefs_view() = default;
+
+QWidget* prefs_view::build_adapter() {
+    auto* group = new QGroupBox(ui_text(delegate_, "ui_adapter_group"), root());
+    auto* column = new QVBoxLayout(group);
+    column->setSpacing(GRID);
+    bluetooth_ = new QRadioButton(ui_text(delegate_, "ui_bluetooth"), group);
+    bluetooth_->setObjectName(QStringLiteral("interfaceBluetooth"));
+    wifi_ = new QRadioButton(ui_text(delegate_, "ui_wifi"), group);
+    wifi_->setObjectName(QStringLiteral("interfaceWifi"));
+    QObject::connect(bluetooth_, &QRadioButton::clicked, root(), [this] { on_bluetooth(); });
+    QObject::connect(wifi_, &QRadioButton::clicked, root(), [this] { on_wifi(); });
+
+    lastBTCheck_ = new QCheckBox(ui_text(delegate_, "ui_last_bt"), group);
+    lastBTCheck_->setObjectName(QStringLiteral("lastBTCheck"));
+    lastBTCheck_->setEnabled(false);
+    lastBTCheck_->setToolTip(ui_text(delegate_, "ui_last_bt_hint"));
+
+    wifiTabView_ = new QWidget(group);
+    wifiTabView_->setObjectName(QStringLiteral("wifiTabView"));
+    auto* form = new QFormLayout(wifiTabView_);
+    form->setContentsMargins(3 * GRID, 0, 0, 0);
+    form->setSpacing(GRID);
+    ipLbl_ = new QLineEdit(wifiTabView_);
+    ipLbl_->setObjectName(QStringLiteral("ipLbl"));
+    portsLbl_ = new QLineEdit(wifiTabView_);
+    portsLbl_->setObjectName(QStringLiteral("portsLbl"));
+    form->addRow(ui_text(delegate_, "ui_address"), ipLbl_);
+    form->addRow(ui_text(delegate_, "ui_port"), portsLbl_);
+
+    column->addWidget(bluetooth_);
+    column->addWidget(lastBTCheck_);
+    column->addWidget(wifi_);
+    column->addWidget(wifiTabView_);
+    return group;
+}
+
+QWidget* prefs_view::build_display() {
+    auto* group = new QGroupBox(ui_text(delegate_, "ui_units_group"), root());
+    auto* column = new QVBoxLayout(group);
+    column->setSpacing(GRID);
+    unitsCheck_ = new QCheckBox(ui_text(delegate_, "ui_metric"), group);
+    unitsCheck_->setObjectName(QStringLiteral("unitsCheck"));
+    unitsCheck_->setToolTip(ui_text(delegate_, "ui_metric_hint"));
+    QObject::connect(unitsCheck_, &QCheckBox::clicked, root(), [this] { on_metric(); });
+    logRunsCheck_ = new QCheckBox(ui_text(delegate_, "ui_log_runs"), group);
+    logRunsCheck_->setObjectName(QStringLiteral("logRunsCheck"));
+    logRunsCheck_->setToolTip(ui_text(delegate_, "ui_log_runs_hint"));
+    column->addWidget(unitsCheck_);
+    column->addWidget(logRunsCheck_);
+    return group;
+}
+
+QWidget* prefs_view::build_parameters() {
+    auto* group = new QGroupBox(ui_text(delegate_, "ui_pids_group"), root());
+    auto* column = new QVBoxLayout(group);
+    column->setSpacing(GRID);
+    pid_availableTableView_ = new QTableView(group);
+    QTableView* table = pid_availableTableView_;
+    table->setObjectName(QStringLiteral("_pid_availableTableView"));
+    table->setAccessibleName(ui_text(delegate_, "ui_pids_table"));
+    pids_model_ = new rows_model({{QStringLiteral("Value"), ui_text(delegate_, "ui_col_show")},
+                                  {QStringLiteral("Name"), ui_text(delegate_, "ui_col_parameter")}},
+                                 [this](int row, const QString& identifier) {
+                                     const pid_row& entry = pids_[static_cast<std::size_t>(row)];
+                                     if (identifier == QLatin1String("Value"))
+                                         return entry.selected ? QStringLiteral("YES") : QStringLiteral("NO");
+                                     return display_text(entry.name);
+                                 },
+                                 table);
+    table->setModel(pids_model_);
+    table->setItemDelegateForColumn(0, new check_painter(delegate_.doors().resources, table));
+    // A click toggles the row; nothing stays selected, so there is no selection to change in turn.
+    table->setSelectionMode(QAbstractItemView::NoSelection);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setShowGrid(false);
+    give_room(table);
+    table->verticalHeader()->setDefaultSectionSize(CHECK_SIDE + GRID + GRID / 2);
+    table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+    QObject::connect(table, &QTableView::clicked, root(),
+                     [this](const QModelIndex& cell) { on_row(cell.row()); });
+    auto* toggle = new QAction(table);
+    toggle->setShortcuts({Qt::Key_Space, Qt::Key_Return});
+    toggle->setShortcutContext(Qt::WidgetShortcut);
+    QObject::connect(toggle, &QAction::triggered, root(),
+                     [this] { on_row(pid_availableTableView_->currentIndex().row()); });
+    table->addAction(toggle);
+
+    pidsStatus_ = new QLabel(group);
+    pidsStatus_->setObjectName(QStringLiteral("pidsStatus"));
+    pidsStatus_->setTextFormat(Qt::PlainText);
+    column->addWidget(table, 1);
+    column->addWidget(pidsStatus_);
+    return group;
+}
+
+void prefs_view::select_wifi(bool wifi) { (wifi ? wifi_ : bluetooth_)->setChecked(true); }
+bool prefs_view::wifi_selected() const { return wifi_->isChecked(); }
+
+void prefs_view::show_wifi_panel(bool visible) { wifiTabView_->setVisible(visible); }
+
+void prefs_view::set_address(const std::string& address, const std::string& port) {
+    ipLbl_->setText(display_text(address));
+    portsLbl_->setText(display_text(port));
+}
+
+std::string prefs_view::address() const { return ipLbl_->text().toStdString(); }
+std::string prefs_view::port() const { return portsLbl_->text().toStdString(); }
+void prefs_view::set_metric_units(bool on) { unitsCheck_->setChecked(on); }
+bool prefs_view::metric_units() const { return unitsCheck_->isChecked(); }
+void prefs_view::set_log_runs(bool on) { logRunsCheck_->setChecked(on); }
+bool prefs_view::log_runs() const { return logRunsCheck_->isChecked(); }
+void prefs_view::set_pids_status(const std::string& text) { pidsStatus_->setText(display_text(text)); }
+
+void prefs_view::show_pids(std::vector<pid_row> rows) {
+    const int current = pid_availableTableView_->currentIndex().row();
+    pids_ = std::move(rows);
+    pids_model_->reload(static_cast<int>(pids_.size()));
+    if (current >= 0) // keeps the keyboard's place
+        pid_availableTableView_->setCurrentIndex(pids_model_->index(current, 1));
+}

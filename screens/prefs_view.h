@@ -1,0 +1,66 @@
+// The widgets of the preferences screen. Owned by prefs, which fills and reads them.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+class Ks_lite_delegate;
+class rows_model;
+class QCheckBox;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QRadioButton;
+class QTableView;
+class QWidget;
+
+class prefs_view {
+  public:
+    struct pid_row {
+        bool selected;
+        std::string name;
+    };
+
+    explicit prefs_view(Ks_lite_delegate& delegate);
+    ~prefs_view();
+
+    QWidget* root() { return root_.get(); }
+
+    std::function<void()> on_wifi, on_bluetooth, on_metric, on_defaults;
+    std::function<void(int row)> on_row;
+
+    void select_wifi(bool wifi);
+    bool wifi_selected() const;
+    void show_wifi_panel(bool visible);
+    void set_address(const std::string& address, const std::string& port);
+    std::string address() const;
+    std::string port() const;
+    void set_metric_units(bool on);
+    bool metric_units() const;
+    void set_log_runs(bool on);
+    bool log_runs() const;
+    void set_pids_status(const std::string& text);
+    void show_pids(std::vector<pid_row> rows);
+
+  private:
+    QWidget* build_adapter();
+    QWidget* build_display();
+    QWidget* build_parameters();
+
+    Ks_lite_delegate& delegate_;
+    std::unique_ptr<QWidget> root_;
+    QRadioButton* bluetooth_ = nullptr;
+    QRadioButton* wifi_ = nullptr;
+    QWidget* wifiTabView_ = nullptr;
+    QLineEdit* ipLbl_ = nullptr;
+    QLineEdit* portsLbl_ = nullptr;
+    QCheckBox* lastBTCheck_ = nullptr;
+    QCheckBox* unitsCheck_ = nullptr;
+    QCheckBox* logRunsCheck_ = nullptr;
+    QLabel* pidsStatus_ = nullptr;
+    QTableView* pid_availableTableView_ = nullptr;
+    rows_model* pids_model_ = nullptr;
+    std::vector<pid_row> pids_;
+};

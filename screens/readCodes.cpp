@@ -1,0 +1,135 @@
+#include "readCodes.h"
+
+#include "alerts.h"
+#include "codes_view.h"
+#include "globalVars.h"
+#include "reply_accumulator.h"
+#include "system_log.h"
+#include "text.h"
+
+readCodes::readCodes(Ks_lite_delegate& delegate) : obd_screen(delegate), handshake_(*this) {
+    view_ = std::make_unique<codes_view>(delegate);
+    use_status_line(view_->statusLbl());
+    awakeFromNib();
+}
+
+readCodes::~readCodes() = default;
+
+QWidget* readCodes::view() { return view_->root(); }
+
+void readCodes::awakeFromNib() {
+    g_BT_cur_status = BT_DISCONNECTED;
+    g_retries = 0;
+    odb_curReplyBuffyMsg.clear();
+    odb_curReplyMsg.clear();
+    g_cur_mode = MODE_HANDSHAKE;
+    next_step_idx = 0;
+    view_->on_read = [this] { readCodes_clicked(); };
+    view_->on_clear = [this] { clearCodes_clicked(); };
+    view_->on_diagnose = [this] { obd_sim(); };
+    view_->show_codes(codesReadArray);
+    view_->show_readiness(readinessFlagsArray);
+    view_->show_waity(true);
+    set_status_msg("");
+}
+
+void readCodes::readCodes_clicked() {
+    codesReadArray.clear();
+    view_->show_codes(codesReadArray);
+    start_task(TASK_READ_CODES, "Starting Read Codes");
+}
+
+void readCodes::clearCodes_clicked() {
+    alert_request question;
+    question.message = "Are you sure you want clear DTC Codes ";
+    question.informative = "Will clear DTC, freeze data,O2 sensor test data and the like. Will need  few driving "
+                           "cycles to get back some of the data";
+    question.buttons = {"Yes", "No"};
+    if (KS_delegate.doors().message_boxes.show(question) != 0)
+        return;
+    start_task(TASK_CLEAR_CODES, "starting out");
+}
+
+void readCodes::start_task(int task, const std::string& status) {
+    g_cur_task = task;
+    g_cur_mode = task;
+    next_step_idx = 0;
+    succeeded_ = false;
+    longer_timeout_asked_for_ = false;
+    begin_task();
+    set_status_msg(status);
+    if (!KS_delegate.openInterfaceConnection())
+        return; // the transport starts the work once the link is up
+    view_->show_waity(true);
+    if (g_connect_with == KS_USE_BT && !connected_2_BT_interface)
+        return;
+    work_current_task();
+}
+
+void readCodes::work_current_task() {
+    if (!task_running())
+        return;
+    switch (g_cur_mode) {
+    case MODE_HANDSHAKE:
+        handshake_.connect_2_interface(next_step_idx);
+        break;
+    case TASK_READ_CODES:
+        work_out_read_codes(next_step_idx);
+        break;
+    case TASK_CLEAR_CODES:
+        work_out_clear_codes(next_step_idx);
+        break;
+    default:
+        break;
+    }
+}
+
+void readCodes::handleOBDRcvdMsg(const std::string& text) {
+    qCDebug(log_screens, "readDTC:handleOBDRcvdMsg got the stuff%s", text.c_str());
+    if (contains(text, "Timeout")) {
+        beep();
+        set_status_msg("Cur op timed out... Please Check/retry");
+        return; // no clean-up: the user retries with a button
+    }
+    if (accumulate_reply(text))
+        work_current_task();
+}
+
+void readCodes::leave_cur_op_gracefully(const std::string&) {
+    view_->show_waity(false);
+    end_task();
+}
+
+void readCodes::show_interface(const std::string& text) { view_->set_interface(text); }
+void readCodes::show_protocol(const std::string& text) { view_->set_protocol(text); }
+
+void readCodes::show_control_units(int count) {
+    units_answered_ = count;
+    view_->set_extra_info(cur_err_msg);
+}
+
+void readCodes::obd_sim() { set_status_msg("value is [" + odb_curReplyMsg + "]"); }
+
+void readCodes::load_the_codes() {
+    if (P0_Codes.empty())
+        P0_Codes = toolies.get_dictionary_from_resource("P0_Codes", "txt", " ").value_or(text_dictionary{});
+}
+
+std::string readCodes::look_upCode(std::string_view code, const text_dictionary& this_dict) {
+    const auto found = this_dict.find(code);
+    return std::string(found == this_dict.end() ? "Code nofound in our DB" : found->second);
+}
+
+codes_report readCodes::report() const {
+    codes_report found;
+    found.lamp = view_->lamp();
+    if (status_told_)
+        found.count = no_of_codes;
+    found.read_on = view_->read_on();
+    found.interface = trimmed(std::string_view(g_cur_interface), " \r\n>");
+    found.protocol = trimmed(std::string_view(g_cur_protocol), " \r\n>");
+    found.ecus = units_answered_;
+    found.codes = codesReadArray;
+    found.readiness = readinessFlagsArray;
+    return found;
+}

@@ -1,0 +1,232 @@
+// Reading trouble codes: lamp, count and readiness with headers on ("01 01"), then the codes ("03").
+#include "globalVars.h"
+#include "codes_view.h"
+#include "readCodes.h"
+#include "system_log.h"
+#include "text.h"
+
+#include <QDateTime>
+#include <QLocale>
+
+#include <algorithm>
+#include <exception>
+
+namespace {
+
+enum step : int {
+    START = 0,
+    STATUS_ANSWERED = 1,
+    CODES_ANSWERED = 2,
+    HEADERS_ON_ANSWERED = 111,
+    HEADERS_OFF_ANSWERED = 222,
+};
+
+// The data of a "01 01" answer behind its header (three bytes, 11-bit or 29-bit CAN); empty when there is none.
+std::string status_data(std::string_view line) {
+    return mac_toolies::pull_PID_msg(line, "01", "").value_or(std::string());
+}
+
+bool has_can_header(std::string_view line) {
+    return line.starts_with("7E") || (line.size() >= 14 && line.substr(10, 4) == "4101" &&
+                                      line.substr(6, 4) != "4101");
+}
+
+// Whether the adapter's answer to "AT DP" tells which bus it talks on; "AUTO" alone does not.
+bool names_a_bus(std::string_view protocol) {
+    return contains(protocol, "ISO") || contains(protocol, "SAE") || contains(protocol, "J1") ||
+           contains(protocol, "CAN");
+}
+
+// Whether a "43" answer looks like CAN, when nothing else tells the bus: the older buses always fill their seven
+// bytes, CAN sends two and two more for each code.
+bool looks_like_can(std::string_view spaceless_reply) {
+    const std::size_t answer = spaceless_reply.find("43");
+    const std::string_view line = slice(spaceless_reply, answer);
+    return answer != std::string_view::npos && line.substr(0, line.find_first_of("\r\n>")).size() != 14;
+}
+
+} // namespace
+
+void readCodes::work_out_read_codes(int step) {
+    try {
+        switch (step) {
+        case START:
+            start_reading();
+            break;
+        case HEADERS_ON_ANSWERED:
+            headers_answered("01 01\r", STATUS_ANSWERED);
+            break;
+        case STATUS_ANSWERED:
+            status_answered();
+            break;
+        case HEADERS_OFF_ANSWERED:
+            headers_answered("03\r", CODES_ANSWERED);
+            break;
+        case CODES_ANSWERED:
+            codes_answered();
+            break;
+        default:
+            break;
+        }
+    } catch (const std::exception& failure) {
+        show_err_msg("work_out_read::Did not fully complete [ " + std::string(failure.what()) + " ]");
+        toolies.myMsgBox(cur_err_msg);
+        leave_cur_op_gracefully("");
+    }
+}
+
+void readCodes::start_reading() {
+    set_status_msg("Starting Read codes");
+    if (!connected_2_KS_interface) {
+        next_step_idx = 0;
+        g_cur_mode = MODE_HANDSHAKE;
+        handshake_.connect_2_interface(0);
+        return;
+    }
+    g_obd_msg_state = S_WAITING;
+    send_and_go_to("AT H1\r", HEADERS_ON_ANSWERED);
+}
+
+// After "AT H1" and after "AT H0": go on when confirmed.
+void readCodes::headers_answered(std::string_view next_command, int next_step) {
+    if (contains(odb_curReplyMsg, "~")) {
+        end_by_timeout();
+        return;
+    }
+    if (!contains(odb_curReplyMsg, "OK")) {
+        retry_headers();
+        return;
+    }
+    g_retries = 0;
+    g_obd_msg_state = S_WAITING;
+    send_and_go_to(next_command, next_step);
+}
+
+// A lost confirmation of "AT H0" repeats the whole status exchange as well.
+void readCodes::retry_headers() {
+    cur_cmd = std::string_view("AT H1\r");
+    next_step_idx = HEADERS_ON_ANSWERED;
+    g_replies_expected = 1;
+    const int before = g_retries;
+    g_retries = before + 1;
+    if (before <= 3) {
+        g_retries = before + 2; // by two on purpose
+        set_status_msg("Didn't get a confirmation from interface ... Trying again");
+        sendOBDcmd(cur_cmd);
+        return;
+    }
+    toolies.myMsgBox("Retried 3 times and Did not get a reply from interface.  Check pairing/connections");
+    leave_cur_op_gracefully("");
+}
+
+void readCodes::end_by_timeout() {
+    connected_2_KS_interface = false;
+    next_step_idx = 0;
+    set_status_msg("Timed out .. Try again");
+    toolies.myMsgBox("Timed out .. Try again");
+    leave_cur_op_gracefully("");
+}
+
+void readCodes::status_answered() {
+    connecting_2_car_port = false;
+    const std::string reply = handshake_.check_initial_car_reply();
+    if (contains(reply, REPLY_REJECTED)) {
+        end_task();
+        return;
+    }
+    if (contains(reply, "NO DATA") && g_retries <= 0 && !longer_timeout_asked_for_) {
+        longer_timeout_asked_for_ = true;
+        ++g_retries;
+        g_obd_msg_state = S_WAITING;
+        send_and_go_to("AT ST FF\r", START); // the adapter's longest wait; then everything once more
+        return;
+    }
+    g_retries = 0;
+    set_status_msg("Initial  reply: [" + reply + "]");
+    decode_status(reply);
+    send_and_go_to("AT H0\r", HEADERS_OFF_ANSWERED);
+}
+
+void readCodes::decode_status(const std::string& screened_reply) {
+    std::vector<std::string> lines =
+        mac_toolies::Pull_line_into_array(without(without(screened_reply, " "), "\n"), "\r");
+    // "OK" is what is left of a bus initialisation notice.
+    std::erase_if(lines, [](const std::string& line) { return line.empty() || line == "OK"; });
+
+    no_of_codes = 0;
+    status_told_ = false;
+    status_answer_was_can_ = false;
+    p_cur_01_pid.clear();
+    bool lamp_on = false;
+    for (const std::string& line : lines) {
+        const std::string data = status_data(line);
+        if (!data.starts_with("4101") || data.size() < 6) {
+            if (data.empty())
+                no_of_codes = 0;
+            set_status_msg("Did not read initial header .. continuing");
+            continue;
+        }
+        status_told_ = true;
+        status_answer_was_can_ = status_answer_was_can_ || has_can_header(line);
+        const unsigned byte_a = mac_toolies::convertStr2Byte(std::string_view(data).substr(4, 2));
+        const bool unit_lamp = (byte_a & 0x80u) != 0;
+        if (contains(mac_toolies::pull_ECU(line), "Engine") || lines.size() == 1) {
+            p_cur_01_pid = std::string_view(data).substr(6);
+            lamp_on = lamp_on || unit_lamp;
+        }
+        // A unit whose lamp bit is clear adds nothing, whatever its count: on purpose.
+        if (unit_lamp)
+            no_of_codes += static_cast<int>(byte_a & 0x7Fu);
+    }
+
+    // Nobody told: neither "OFF" nor "0" would be true.
+    view_->set_lamp(!status_told_ ? "N/A" : lamp_on ? "ON" : "OFF");
+    view_->set_count(status_told_ ? std::to_string(no_of_codes) : "N/A");
+    cur_err_msg = QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat).toStdString();
+    view_->set_read_on(cur_err_msg);
+}
+
+std::vector<std::string> readCodes::work_reply_to_error_codes_pid(std::string_view mode,
+                                                                  std::string_view this_reply) const {
+    // The protocol text is the first answer to "AT DP", which may be "AUTO" from before the bus was found.
+    const bool is_can = names_a_bus(g_cur_protocol) ? g_cur_protocol.contains("CAN")
+                        : status_told_              ? status_answer_was_can_
+                                                    : looks_like_can(this_reply);
+    return mac_toolies::decode_trouble_codes(mode, this_reply, is_can);
+}
+
+void readCodes::codes_answered() {
+    const std::string reply = odb_curReplyMsg;
+    if (contains(reply, "~")) {
+        refresh_readiness();
+        set_status_msg("Failed to receive the error codes");
+        leave_cur_op_gracefully("");
+        return;
+    }
+    codes_rcvd = work_reply_to_error_codes_pid("03", without(reply, " "));
+    load_the_codes();
+    codesReadArray.clear();
+    for (const std::string& code : codes_rcvd) {
+        codesReadArray.push_back({code, look_upCode(code, P0_Codes)});
+        qCDebug(log_screens, "%s - %s", code.c_str(), codesReadArray.back()[1].c_str());
+    }
+    view_->show_codes(codesReadArray);
+    set_status_msg("Rerieve codes successfully");
+    refresh_readiness();
+    succeeded_ = true;
+    set_status_msg(codesReadArray.size() == static_cast<std::size_t>(no_of_codes)
+                       ? "Codes read!. Scroll for full description"
+                       : "Codes read...but different no of codes recvd");
+    leave_cur_op_gracefully("");
+}
+
+void readCodes::refresh_readiness() {
+    // Without an answer to "01 01" there is no state to show.
+    readinessFlagsArray.clear();
+    struct shower { // the rows built before a failure are shown as well
+        readCodes& screen;
+        ~shower() { screen.view_->show_readiness(screen.readinessFlagsArray); }
+    } show{*this};
+    if (std::string_view(p_cur_01_pid).size() >= 6)
+        toolies.handle_readiness_codes(p_cur_01_pid, readinessFlagsArray);
+}

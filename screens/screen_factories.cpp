@@ -1,0 +1,24 @@
+#include "screen_factories.h"
+
+#include "expertCtrlr.h"
+#include "live_placeholder.h"
+#include "prefs.h"
+#include "readCodes.h"
+
+namespace {
+
+template <class screen>
+std::unique_ptr<screen_controller> make(Ks_lite_delegate& delegate) {
+    return std::make_unique<screen>(delegate);
+}
+
+} // namespace
+
+screen_factories all_screens() {
+    return {
+        {READ_CODES_VIEW, make<readCodes>},
+        {ACTIONS_VIEW, make<live_placeholder>},
+        {PREFS_VIEW, make<prefs>},
+        {EXPERT_VIEW, make<expertCtrlr>},
+    };
+}

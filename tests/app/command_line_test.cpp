@@ -1,0 +1,150 @@
+// The program as a user runs it from a shell, against virtual cars over real loopback TCP.
+#include "car_library.h"
+#include "command_line.h"
+#include "tcp_adapter_server.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace {
+
+struct outcome {
+    int status = -1;
+    std::string out, err;
+    QJsonObject json() const { return QJsonDocument::fromJson(QByteArray::fromStdString(out)).object(); }
+    std::string text(const char* key) const { return json().value(QLatin1String(key)).toString().toStdString(); }
+};
+
+class shell : public testing::Test {
+  protected:
+    // Runs kestrom while this process goes on serving its virtual car.
+    outcome run(const std::vector<std::string>& arguments) {
+        QProcess process;
+        QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
+        surroundings.insert(QStringLiteral("HOME"), home.path());
+        surroundings.insert(QStringLiteral("XDG_CONFIG_HOME"), home.path());
+        surroundings.remove(QStringLiteral("DISPLAY"));
+        process.setProcessEnvironment(surroundings);
+        QStringList words;
+        for (const std::string& argument : arguments)
+            words.append(QString::fromStdString(argument));
+        process.start(QStringLiteral(KESTROM_PROGRAM), words);
+        while (process.state() != QProcess::NotRunning)
+            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 100);
+        return {process.exitCode(), process.readAllStandardOutput().toStdString(),
+                process.readAllStandardError().toStdString()};
+    }
+    std::string address(const tcp_adapter_server& server) { return "127.0.0.1:" + std::to_string(server.port()); }
+
+    static adapter_options quick() {
+        adapter_options options;
+        options.latency = std::chrono::milliseconds(0);
+        return options;
+    }
+    QTemporaryDir home;
+};
+
+TEST_F(shell, arguments_that_make_no_sense_end_with_2_and_a_reason) {
+    const std::vector<std::vector<std::string>> cases = {
+        {"fly"}, {"codes", "more"}, {"clear"}, {"send"}, {"send", ""}, {"send", std::string(39, '1')}, {"--nonsense"},
+        {"--adapter", "nowhere", "codes"}, {"--adapter"}, {"--demo", "--adapter", "a:1", "codes"}, {"--screen", "garage"},
+        {"--timeout", "soon", "codes"}, {"--timeout", "0", "codes"}, {"--json"}, {"--demo=no-such-car", "codes"},
+        {"--json=1", "codes"}};
+    for (const auto& arguments : cases) {
+        const outcome result = run(arguments);
+        EXPECT_EQ(result.status, 2) << arguments[0] << ": " << result.err;
+        EXPECT_NE(result.err.find("kestrom: "), std::string::npos) << result.err;
+        EXPECT_EQ(result.out, "");
+    }
+}
+
+TEST_F(shell, options_are_read_with_and_without_the_equals_sign) {
+    const std::vector<std::string> words = {"--adapter=[::1]:35000", "--timeout", "2.5", "send", "AT I", "--json", "01 00"};
+    const auto [asked, error] = parse_command_line(words);
+    EXPECT_EQ(error, "");
+    EXPECT_EQ(asked.adapter_host, "::1");
+    EXPECT_EQ(asked.adapter_port, "35000");
+    EXPECT_EQ(asked.timeout_seconds, 2.5);
+    EXPECT_EQ(asked.arguments, (std::vector<std::string>{"AT I", "01 00"}));
+    EXPECT_TRUE(asked.json);
+}
+
+TEST_F(shell, the_built_in_car_is_read_and_nothing_of_the_users_is_touched) {
+    const outcome result = run({"--demo", "codes", "--json"});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.text("lamp"), "ON");
+    EXPECT_EQ(result.json().value(QLatin1String("count")).toInt(), 3);
+    EXPECT_EQ(result.json().value(QLatin1String("codes")).toArray().size(), 3);
+    EXPECT_EQ(result.json().value(QLatin1String("readiness")).toArray().size(), 11);
+    EXPECT_EQ(result.text("status"), "Codes read!. Scroll for full description");
+    EXPECT_EQ(result.json().value(QLatin1String("messages")).toArray().size(), 0);
+    EXPECT_EQ(result.json().value(QLatin1String("statuses")).toArray().first().toString(),
+              QLatin1String("Starting Read Codes"));
+    EXPECT_EQ(QDir(home.path()).entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot).size(), 0);
+}
+
+TEST_F(shell, clearing_clears_the_car) {
+    tcp_adapter_server server(load_car("can11"), quick());
+    ASSERT_TRUE(server.listen("127.0.0.1", 0));
+    const outcome cleared = run({"--adapter", address(server), "clear", "--yes", "--json"});
+    EXPECT_EQ(cleared.status, 0) << cleared.err;
+    EXPECT_EQ(cleared.json().value(QLatin1String("messages")).toArray().last().toString(),
+              QLatin1String("Codes cleared sucessfully!!"));
+    EXPECT_NE(cleared.err.find("Are you sure you want clear DTC Codes "), std::string::npos);
+    const outcome result = run({"--adapter", address(server), "codes", "--json"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.text("lamp"), "OFF");
+    EXPECT_EQ(result.json().value(QLatin1String("codes")).toArray().size(), 0);
+}
+
+TEST_F(shell, sent_commands_print_their_raw_replies) {
+    tcp_adapter_server server(load_car("can11"), quick());
+    ASSERT_TRUE(server.listen("127.0.0.1", 0));
+    const outcome result = run({"--adapter", address(server), "send", "AT E0", "AT I", "XYZ"});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.out, "AT E0\rOK\r\r>\nELM327 v1.5\r\r>\n?\r\r>\n");
+}
+
+TEST_F(shell, a_link_that_fails_ends_with_1_and_the_reason) {
+    tcp_adapter_server stalls(load_car("can11"), [] {
+        adapter_options options = quick();
+        options.faults = fault_set({parse_fault("stall_after=0")});
+        return options;
+    }());
+    ASSERT_TRUE(stalls.listen("127.0.0.1", 0));
+    const struct {
+        std::vector<std::string> arguments;
+        const char* reason;
+    } cases[] = {
+        {{"--adapter", "127.0.0.1:1", "codes"}, "Couldn't connect...Please Check"},
+        {{"--adapter", "127.0.0.1:abc", "codes"}, "Couldn't connect...Please Check"},
+        {{"--adapter", "127.0.0.1:70000", "send", "AT I"}, "AT I"},
+        {{"--adapter", "no-such-host.invalid:35000", "codes"}, "Couldn't connect...Please Check"},
+        {{"--adapter", address(stalls), "codes"}, "Cur op timed out... Please Check/retry"},
+        {{"--adapter", address(stalls), "codes", "--timeout", "0.5"}, "the time limit has passed"},
+        {{"codes"}, "Bluetooth"}, // a first start
+    };
+    for (const auto& one : cases) {
+        const outcome result = run(one.arguments);
+        EXPECT_EQ(result.status, 1) << one.reason;
+        EXPECT_NE(result.err.find(one.reason), std::string::npos) << result.err;
+    }
+}
+
+TEST_F(shell, a_picture_of_the_filled_screen_is_saved) {
+    const QString picture = home.filePath(QStringLiteral("codes.png"));
+    EXPECT_EQ(run({"--demo", "--screenshot", picture.toStdString(), "codes"}).status, 0);
+    const QImage image(picture);
+    EXPECT_EQ(image.size(), QSize(1100, 720));
+    EXPECT_EQ(run({"--demo", "--screenshot", "/proc/kestrom.png", "--screen", "prefs"}).status, 1);
+}
+
+} // namespace

@@ -1,0 +1,11 @@
+// Numbers in display texts: fixed decimals, "." whatever the locale, rounded as printf rounds.
+#pragma once
+
+#include <cstddef>
+
+// Room that any finite double with up to 6 decimals fits in.
+inline constexpr std::size_t FIXED_DECIMALS_ROOM = 320;
+
+// Writes `value` with `decimals` decimals (0 to 6) at `out`, which has FIXED_DECIMALS_ROOM, and
+// returns the end. What rounds to zero is written without a sign.
+char* write_fixed_decimals(char* out, double value, int decimals);

@@ -25,7 +25,7 @@ bool virtual_adapter::car_is_there(milliseconds now) {
 
 // "BUS INIT: ...OK" of a slow initiation, its dots a word of the chip each; "BUS INIT: OK" of a
 // fast one.
-void virtual_adapter::announce_init(const bus_protocol& bus, bool works, reply& pieces) {
+void virtual_adapter::announce_init(const bus_protocol& bus, bool works, adapter_reply& pieces) {
     pieces.push_back({end_of(pieces), "BUS INIT: "});
     const bool slow = bus.kind != bus_kind::kwp_fast;
     for (int dot = 0; slow && dot < 3; ++dot)
@@ -34,7 +34,8 @@ void virtual_adapter::announce_init(const bus_protocol& bus, bool works, reply& 
 }
 
 // One protocol and no other. What a wrong one leads to depends on the bus.
-bool virtual_adapter::connect_to_only(const bus_protocol* wanted, bool present, reply& pieces) {
+bool virtual_adapter::connect_to_only(const bus_protocol* wanted, bool present,
+                                      adapter_reply& pieces) {
     const bus_protocol& real = vehicle_.protocol();
     const bool right = present && wanted == &real;
     if (wanted && wanted->is_iso()) {
@@ -54,7 +55,7 @@ bool virtual_adapter::connect_to_only(const bus_protocol* wanted, bool present, 
 
 // Opens the bus if it is not open. Says what the chip says meanwhile; when it fails, the reply is
 // complete.
-bool virtual_adapter::connect(reply& pieces, milliseconds now) {
+bool virtual_adapter::connect(adapter_reply& pieces, milliseconds now) {
     if (state_.bus_open)
         return true;
     const bool present = car_is_there(now);
@@ -89,7 +90,7 @@ bool virtual_adapter::connect(reply& pieces, milliseconds now) {
 std::optional<byte_string> virtual_adapter::service_data(const byte_string& request) const {
     if (!state_.bus()->is_can() || state_.settings.can_formatting)
         return request;
-    if (request.empty() || request[0] == 0 || request[0] >= request.size() + 0u)
+    if (request.empty() || request[0] == 0 || request[0] >= request.size())
         return std::nullopt;
     return byte_string(request.begin() + 1, request.begin() + 1 + request[0]);
 }
@@ -143,7 +144,7 @@ milliseconds virtual_adapter::wait_for_more(const bus_protocol& bus) const {
 }
 
 void virtual_adapter::show_frames(const std::vector<unit_answer>& answers, int expected,
-                                  reply& pieces) {
+                                  adapter_reply& pieces) {
     const bus_protocol& bus = *state_.bus();
     const milliseconds start = end_of(pieces);
     bool heard = false;
@@ -171,8 +172,8 @@ void virtual_adapter::show_frames(const std::vector<unit_answer>& answers, int e
         pieces.push_back({end_of(pieces) + scaled(wait_for_more(bus)), ""});
 }
 
-reply virtual_adapter::answer_request(const command_line& line, milliseconds now) {
-    reply pieces;
+adapter_reply virtual_adapter::answer_request(const command_line& line, milliseconds now) {
+    adapter_reply pieces;
     const bool too_long =
         line.request.size() > MOST_DATA + (state_.settings.can_formatting ? 0 : 1);
     if (too_long && !state_.settings.long_messages) {

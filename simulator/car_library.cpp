@@ -29,6 +29,8 @@ std::vector<std::string> car_names() {
 }
 
 car load_car(const std::string& name_or_file) {
+    if (name_or_file.empty())
+        throw car_file_error("", 0, "a car needs a name");
     const bool on_shelf = name_or_file.find_first_of("/.") == std::string::npos &&
                           QFile::exists(shelf_path(name_or_file));
     QFile file(on_shelf ? shelf_path(name_or_file) : QString::fromStdString(name_or_file));

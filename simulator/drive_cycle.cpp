@@ -18,6 +18,8 @@ constexpr double PETROL_JOULE_GRAM = 43500;
 constexpr double DIESEL_JOULE_GRAM = 42800;
 constexpr double IDLE_THROTTLE = 11.8;  // percent, what the sensor shows with the pedal released
 constexpr double GAS_CONSTANT = 287.05; // J/(kg K), air
+constexpr double VOLUMETRIC_EFFICIENCY = 0.88;
+constexpr double LEANEST = 1.99; // what the commanded ratio's two bytes can say
 constexpr double WARM_IDLE_RPM = 740;
 
 // Engine revolutions a minute for each km/h, by gear.
@@ -144,7 +146,7 @@ void drive_cycle::run_engine(double wheel_watts) {
     // throttle.
     const double kilo_rpm = state_.rpm / 1000;
     const double cold = 1 + std::clamp((70 - state_.oil_celsius) / 150, 0.0, 0.6);
-    const double friction = (0.97 + 0.12 * kilo_rpm + 0.05 * kilo_rpm * kilo_rpm) * cold;
+    const double friction = (0.9 + 0.12 * kilo_rpm + 0.05 * kilo_rpm * kilo_rpm) * cold;
     const double pumping =
         engine_.fuel == fuel_kind::diesel
             ? 0.15
@@ -160,51 +162,61 @@ void drive_cycle::breathe(double indicated_watts) {
     const double swept_m3_s = engine_.displacement_litres / 1000 * state_.rpm / 120;
     const double kelvin = state_.intake_celsius + 273.15;
     const double density = state_.barometer_kpa * 1000 / (GAS_CONSTANT * kelvin) * 1000; // g/m3
-    const double most_air =
-        0.88 * swept_m3_s * density * (diesel ? 2.0 : 1.0); // a diesel is turbocharged
-    const double heat = diesel ? DIESEL_JOULE_GRAM : PETROL_JOULE_GRAM;
-    double fuel = state_.running ? indicated_watts / (diesel ? 0.43 : 0.37) / heat : 0;
-    if (state_.fuel_cut)
-        fuel = 0;
-    double air = 0;
-    if (!state_.running || state_.rpm < 100) {
-        fuel = 0;
-    } else if (diesel) {
-        const double most_fuel = most_air / DIESEL_STOICHIOMETRIC / 1.25; // smoke limit
-        fuel = std::min(fuel, most_fuel);
-        air = most_air / 2 * (1 + fuel / most_fuel); // unthrottled; the boost follows the fuel
-        state_.equivalence_ratio =
-            std::min(1.99, fuel > 0 ? air / fuel / DIESEL_STOICHIOMETRIC : 1.99);
-    } else {
-        state_.equivalence_ratio = state_.fuel_cut               ? 1.99
-                                   : state_.coolant_celsius < 30 ? 0.93
-                                                                 : 1.0;
-        const double least = 0.22 * most_air; // leaks past a closed throttle
-        air = state_.fuel_cut
-                  ? least
-                  : std::min(fuel * PETROL_STOICHIOMETRIC * state_.equivalence_ratio, most_air);
-        fuel = state_.fuel_cut ? 0 : air / PETROL_STOICHIOMETRIC / state_.equivalence_ratio;
+    const double atmospheric_air = VOLUMETRIC_EFFICIENCY * swept_m3_s * density;
+    state_.air_gram_s = state_.fuel_gram_s = state_.load = 0;
+    if (state_.running && state_.rpm > 100) {
+        if (diesel)
+            burn_diesel(indicated_watts, atmospheric_air);
+        else
+            burn_petrol(indicated_watts, atmospheric_air);
     }
-    state_.air_gram_s = air;
-    state_.fuel_gram_s = fuel;
-    const double filling = most_air > 0 ? air / most_air : 0;
-    state_.load = diesel ? (most_air > 0 ? fuel * DIESEL_STOICHIOMETRIC * 1.25 / most_air * 100 : 0)
-                         : filling * 100;
-    state_.absolute_load = swept_m3_s > 0 ? air / (swept_m3_s * 1184) * 100 : 0;
-    state_.manifold_kpa =
-        most_air > 0 ? state_.barometer_kpa * filling * (diesel ? 2 : 1) : state_.barometer_kpa;
-    // The plate opens with the air that must pass, wider as the pressure across it falls.
-    const double full_flow = most_air > 0 ? air / (most_air / state_.rpm * 6000) : 0;
-    const double opening = std::min(1.0, full_flow * (1 + filling * filling));
-    state_.pedal = state_.fuel_cut || state_.speed_kmh <= 0
-                       ? 0
-                       : std::min(100.0, 100 * std::pow(opening, 0.7));
-    state_.throttle =
-        diesel ? (state_.running ? 88 : 12) : IDLE_THROTTLE + 72 * std::pow(opening, 0.7);
-    state_.advance_degrees = !state_.running ? 0
-                             : state_.fuel_cut
-                                 ? 8
-                                 : std::clamp(9 + state_.rpm / 130 - filling * 20, 2.0, 42.0);
+    const double filling = atmospheric_air > 0 ? state_.air_gram_s / atmospheric_air : 0;
+    state_.absolute_load = swept_m3_s > 0 ? state_.air_gram_s / (swept_m3_s * 1184) * 100 : 0;
+    state_.manifold_kpa = state_.barometer_kpa * (filling > 0 ? filling : 1);
+    open_throttle(filling);
+    state_.advance_degrees = std::clamp(9 + state_.rpm / 130 - state_.load / 5, 2.0, 42.0);
+}
+
+// Turbocharged and unthrottled: the boost follows the fuel, up to twice the air, and the fuel stops
+// at the smoke limit.
+void drive_cycle::burn_diesel(double indicated_watts, double atmospheric_air) {
+    const double most_fuel = 2 * atmospheric_air / DIESEL_STOICHIOMETRIC / 1.25;
+    const double wanted = indicated_watts / 0.43 / DIESEL_JOULE_GRAM;
+    state_.fuel_gram_s = state_.fuel_cut ? 0 : std::min(wanted, most_fuel);
+    state_.load = state_.fuel_gram_s / most_fuel * 100;
+    state_.air_gram_s = atmospheric_air * (1 + state_.load / 100);
+    const double lambda =
+        state_.fuel_cut ? LEANEST : state_.air_gram_s / state_.fuel_gram_s / DIESEL_STOICHIOMETRIC;
+    state_.equivalence_ratio = std::min(LEANEST, lambda);
+}
+
+// Throttled to the air that the fuel needs; throttled, the cylinders burn less well.
+void drive_cycle::burn_petrol(double indicated_watts, double atmospheric_air) {
+    constexpr double CLOSED_THROTTLE = 0.2; // share of the air that gets past it
+    if (state_.fuel_cut) {
+        state_.equivalence_ratio = LEANEST;
+        state_.air_gram_s = CLOSED_THROTTLE * atmospheric_air;
+    } else {
+        const double efficiency = 0.37 * (0.72 + 0.28 * std::min(1.0, last_load_ / 45));
+        const double air_to_fuel = PETROL_STOICHIOMETRIC * (state_.coolant_celsius < 30 ? 0.93 : 1);
+        const double wanted = indicated_watts / efficiency / PETROL_JOULE_GRAM;
+        state_.equivalence_ratio = air_to_fuel / PETROL_STOICHIOMETRIC;
+        state_.air_gram_s = std::min(wanted * air_to_fuel, atmospheric_air);
+        state_.fuel_gram_s = state_.air_gram_s / air_to_fuel;
+    }
+    state_.load = state_.air_gram_s / atmospheric_air * 100;
+    last_load_ = state_.load;
+}
+
+// The plate opens with the air that must pass, wider as the pressure across it falls. A diesel's
+// stands open.
+void drive_cycle::open_throttle(double filling) {
+    const double full_flow = filling * state_.rpm / 6000;
+    const double opening = std::pow(std::min(1.0, full_flow * (1 + filling * filling)), 0.7) * 100;
+    const bool released = state_.fuel_cut || state_.speed_kmh <= 0;
+    const bool diesel = engine_.fuel == fuel_kind::diesel;
+    state_.pedal = released ? 0 : diesel ? state_.load : opening;
+    state_.throttle = diesel ? 88 : IDLE_THROTTLE + 0.72 * opening;
 }
 
 void drive_cycle::warm_up() {

@@ -55,6 +55,9 @@ class drive_cycle {
     double accelerate();
     void run_engine(double wheel_watts);
     void breathe(double indicated_watts);
+    void burn_diesel(double indicated_watts, double atmospheric_air);
+    void burn_petrol(double indicated_watts, double atmospheric_air);
+    void open_throttle(double filling);
     void warm_up();
     void trim_fuel();
 
@@ -68,5 +71,6 @@ class drive_cycle {
     int phase_ = 0;
     bool standing_ = true;
     int gear_ = 0;
+    double last_load_ = 20;
     double oxygen_phase_ = 0;
 };

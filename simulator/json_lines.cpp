@@ -5,6 +5,8 @@
 
 namespace {
 
+constexpr std::size_t DEEPEST = 64;
+
 struct place {
     int line = 1;
     char last = 0;
@@ -40,6 +42,18 @@ class counting_iterator {
     const char* at_;
     place* where_;
 };
+
+// The library's text without its own position and without all that it had read.
+std::string reason_of(std::string text) {
+    if (const std::size_t start = text.find("syntax error"); start != std::string::npos)
+        text.erase(0, start);
+    const std::size_t read = text.find("; last read");
+    const std::size_t expected = text.rfind("; expected");
+    if (read != std::string::npos)
+        text.erase(read, expected > read && expected != std::string::npos ? expected - read
+                                                                          : std::string::npos);
+    return text;
+}
 
 // Builds the tree from the parser's events.
 class tree_builder : public nlohmann::json_sax<nlohmann::json> {
@@ -79,11 +93,7 @@ class tree_builder : public nlohmann::json_sax<nlohmann::json> {
     }
     bool parse_error(std::size_t, const std::string&,
                      const nlohmann::json::exception& problem) override {
-        // The library's text begins with its own position and error number: the reason follows the
-        // last ": " before "syntax error", and the line is ours.
-        const std::string text = problem.what();
-        const std::size_t start = text.find("syntax error");
-        throw json_error(where_.line, start == std::string::npos ? text : text.substr(start));
+        throw json_error(where_.line, reason_of(problem.what()));
     }
 
   private:
@@ -104,6 +114,8 @@ class tree_builder : public nlohmann::json_sax<nlohmann::json> {
         return add(std::move(made));
     }
     bool open(json_value::kind kind) {
+        if (open_.size() == DEEPEST)
+            throw json_error(where_.line, "is nested too deeply");
         open_.push_back({fresh(kind), {}});
         return true;
     }

@@ -28,7 +28,7 @@ void strew_rubbish(std::string& text, seeded_random& random) {
     }
 }
 
-void break_off(reply& pieces, std::size_t most) {
+void break_off(adapter_reply& pieces, std::size_t most) {
     std::size_t length = 0;
     for (std::size_t i = 0; i < pieces.size(); ++i) {
         length += pieces[i].text.size();
@@ -41,20 +41,20 @@ void break_off(reply& pieces, std::size_t most) {
     }
 }
 
-void delay(reply& pieces, milliseconds by) {
+void delay(adapter_reply& pieces, milliseconds by) {
     for (reply_piece& piece : pieces)
         piece.after += by;
 }
 
-void send_twice(reply& pieces) {
-    const reply once = pieces;
+void send_twice(adapter_reply& pieces) {
+    const adapter_reply once = pieces;
     for (reply_piece piece : once) {
         piece.after += once.back().after;
         pieces.push_back(piece);
     }
 }
 
-void split_prompt(reply& pieces, milliseconds by) {
+void split_prompt(adapter_reply& pieces, milliseconds by) {
     std::string& end = pieces.back().text;
     if (end.empty() || end.back() != '>')
         return;
@@ -69,7 +69,7 @@ bool every_nth(const fault_set& faults, fault_kind kind, long number) {
     return n && *n > 0 && number % *n == 0;
 }
 
-void apply_reply_faults(reply& pieces, const fault_set& faults, long number,
+void apply_reply_faults(adapter_reply& pieces, const fault_set& faults, long number,
                         seeded_random& random) {
     if (const auto most = faults.value(fault_kind::buffer_full))
         break_off(pieces, std::size_t(*most));

@@ -14,10 +14,11 @@ struct reply_piece {
 };
 
 // In order of time; the last piece ends in the prompt.
-using reply = std::vector<reply_piece>;
+using adapter_reply = std::vector<reply_piece>;
 
 // `number` counts the replies of an adapter from 1.
-void apply_reply_faults(reply& pieces, const fault_set& faults, long number, seeded_random& random);
+void apply_reply_faults(adapter_reply& pieces, const fault_set& faults, long number,
+                        seeded_random& random);
 
 // Whether the `number`th of something, counted from 1, is hit by a fault that strikes every Nth.
 bool every_nth(const fault_set& faults, fault_kind kind, long number);

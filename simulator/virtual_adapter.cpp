@@ -41,7 +41,7 @@ void virtual_adapter::receive(std::string_view bytes, milliseconds now) {
         // return.
         if (c == '\0' || c == '\n')
             continue;
-        if (interrupted_by(c, now))
+        if (interrupted(now))
             return;
         echo(c, now);
         if (c == '\r')
@@ -55,7 +55,7 @@ void virtual_adapter::receive(std::string_view bytes, milliseconds now) {
 }
 
 // A character while the car is being asked stops that; it and what came with it are lost.
-bool virtual_adapter::interrupted_by(char, milliseconds now) {
+bool virtual_adapter::interrupted(milliseconds now) {
     if (now >= busy_until_)
         return false;
     if (restarting_)
@@ -94,7 +94,7 @@ void virtual_adapter::finish_command(milliseconds now) {
     send(answer(text.size() > LONGEST_COMMAND ? command_line{} : line, now), now);
 }
 
-void virtual_adapter::send(reply pieces, milliseconds now) {
+void virtual_adapter::send(adapter_reply pieces, milliseconds now) {
     busy_until_ = now + end_of(pieces);
     apply_reply_faults(pieces, options_.faults, ++replies_, random_);
     for (const reply_piece& piece : pieces)
@@ -103,8 +103,8 @@ void virtual_adapter::send(reply pieces, milliseconds now) {
         output_.hold_until(now + end_of(pieces) + milliseconds(*held));
 }
 
-reply virtual_adapter::answer(const command_line& line, milliseconds now) {
-    reply pieces;
+adapter_reply virtual_adapter::answer(const command_line& line, milliseconds now) {
+    adapter_reply pieces;
     restarting_ = false;
     switch (line.type) {
     case command_line::kind::empty:
@@ -125,12 +125,12 @@ reply virtual_adapter::answer(const command_line& line, milliseconds now) {
     return pieces;
 }
 
-reply virtual_adapter::answer_at(const command_line& line, milliseconds now) {
+adapter_reply virtual_adapter::answer_at(const command_line& line, milliseconds now) {
     const bool ignition = car_is_there(now);
     const at_surroundings car{ignition ? vehicle_.battery_volts(now) : 12.2, ignition};
     const std::string eol_before = end_of_line();
     const std::optional<std::string> told = run_at_command(state_, car, line.at_command);
-    reply pieces;
+    adapter_reply pieces;
     if (told && is_restart(line.at_command)) {
         restarting_ = true;
         pieces.push_back({scaled(RESTART_TIME), eol_before + eol_before});
@@ -167,12 +167,13 @@ milliseconds virtual_adapter::scaled(milliseconds genuine) const {
     return milliseconds(static_cast<milliseconds::rep>(double(genuine.count()) * options_.timing));
 }
 
-milliseconds virtual_adapter::end_of(const reply& pieces) {
+milliseconds virtual_adapter::end_of(const adapter_reply& pieces) {
     return pieces.empty() ? milliseconds(0) : pieces.back().after;
 }
 
 // The lines of `line`, which are parted by "\r", `later` than what has been said before.
-void virtual_adapter::add_line(reply& pieces, milliseconds later, std::string_view line) const {
+void virtual_adapter::add_line(adapter_reply& pieces, milliseconds later,
+                               std::string_view line) const {
     std::string text;
     for (const char c : line)
         text += c == '\r' ? end_of_line() : std::string(1, c);

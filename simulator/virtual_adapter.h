@@ -50,29 +50,29 @@ class virtual_adapter {
     } // TCP_NODELAY
 
   private:
-    bool interrupted_by(char c, milliseconds now);
+    bool interrupted(milliseconds now);
     void echo(char c, milliseconds now);
     void finish_command(milliseconds now);
-    void send(reply pieces, milliseconds now);
-    reply answer(const command_line& line, milliseconds now);
-    reply answer_at(const command_line& line, milliseconds now);
-    reply answer_request(const command_line& line, milliseconds now);
+    void send(adapter_reply pieces, milliseconds now);
+    adapter_reply answer(const command_line& line, milliseconds now);
+    adapter_reply answer_at(const command_line& line, milliseconds now);
+    adapter_reply answer_request(const command_line& line, milliseconds now);
 
-    bool connect(reply& pieces, milliseconds now);
-    bool connect_to_only(const bus_protocol* wanted, bool present, reply& pieces);
-    void announce_init(const bus_protocol& bus, bool works, reply& pieces);
+    bool connect(adapter_reply& pieces, milliseconds now);
+    bool connect_to_only(const bus_protocol* wanted, bool present, adapter_reply& pieces);
+    void announce_init(const bus_protocol& bus, bool works, adapter_reply& pieces);
     bool car_is_there(milliseconds now);
     std::optional<byte_string> service_data(const byte_string& request) const;
     std::optional<std::uint32_t> addressed_unit() const;
     bool passes_filter(std::uint32_t address) const;
     void damage(std::vector<unit_answer>& answers);
-    void show_frames(const std::vector<unit_answer>& answers, int expected, reply& pieces);
+    void show_frames(const std::vector<unit_answer>& answers, int expected, adapter_reply& pieces);
     milliseconds wait_for_more(const bus_protocol& bus) const;
 
     std::string end_of_line() const;
     milliseconds scaled(milliseconds genuine) const;
-    void add_line(reply& pieces, milliseconds later, std::string_view line) const;
-    static milliseconds end_of(const reply& pieces);
+    void add_line(adapter_reply& pieces, milliseconds later, std::string_view line) const;
+    static milliseconds end_of(const adapter_reply& pieces);
 
     adapter_options options_;
     vehicle vehicle_;

@@ -17,7 +17,7 @@ constexpr int FAILED = 1;
 constexpr int BAD_USAGE = 2;
 
 void print_list() {
-    std::cout << "Cars:\n";
+    std::printf("Cars:\n");
     for (const std::string& name : car_names()) {
         const car one = load_car(name);
         std::printf("  %-18s %s; %s\n", name.c_str(), one.title.c_str(),

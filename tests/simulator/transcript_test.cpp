@@ -1,15 +1,14 @@
 // Conversations with the adapter, as the chip's data sheet has them, one file per bus and subject:
 //   car NAME / protocol NAME / fault NAME[=V]   set the scene
 //   > COMMAND                                   what is typed, a carriage return behind it
-//   anything else                               a line that comes back, "|" marking its end where that is not CR
-// Blank lines part exchanges and do not count; "#" begins a comment.
+//   anything else                               a line that comes back
+// Blank lines and NUL bytes that come back are left out; "#" begins a comment.
 #include "car_library.h"
 #include "virtual_adapter.h"
 
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -60,7 +59,7 @@ std::string told(virtual_adapter& adapter, const std::string& command) {
     EXPECT_TRUE(text.ends_with("\r>")) << text;
     std::string lines;
     for (const char c : text.substr(0, text.size() - 2))
-        if (c != '\r' || (!lines.empty() && lines.back() != '\n'))
+        if (c != '\0' && (c != '\r' || (!lines.empty() && lines.back() != '\n')))
             lines += c == '\r' ? '\n' : c;
     return lines;
 }
@@ -76,7 +75,8 @@ std::vector<std::string> transcript_files() {
 }
 
 TEST_P(transcript_test, adapter_answers_as_written) {
-    const transcript written = read_transcript(std::string(KESTROM_TEST_DATA "/") + GetParam() + ".txt");
+    const transcript written =
+        read_transcript(std::string(KESTROM_TEST_DATA "/") + GetParam() + ".txt");
     ASSERT_FALSE(written.exchanges.empty());
     car the_car = load_car(written.car_name);
     if (!written.protocol.empty())
@@ -86,7 +86,8 @@ TEST_P(transcript_test, adapter_answers_as_written) {
     options.faults = fault_set(written.faults);
     virtual_adapter adapter(the_car, options);
     for (const exchange& one : written.exchanges)
-        EXPECT_EQ(told(adapter, one.command), one.reply) << GetParam() << ".txt:" << one.line << ": " << one.command;
+        EXPECT_EQ(told(adapter, one.command), one.reply)
+            << GetParam() << ".txt:" << one.line << ": " << one.command;
 }
 
 INSTANTIATE_TEST_SUITE_P(all, transcript_test, testing::ValuesIn(transcript_files()),

@@ -7,4 +7,5 @@
 Q_DECLARE_LOGGING_CATEGORY(log_link)     // kestrom.link: the adapter link and its transports
 Q_DECLARE_LOGGING_CATEGORY(log_screens)  // kestrom.screens
 Q_DECLARE_LOGGING_CATEGORY(log_toolkit)  // kestrom.toolkit: decoding
+Q_DECLARE_LOGGING_CATEGORY(log_drawing)  // kestrom.drawing: charts and dials
 Q_DECLARE_LOGGING_CATEGORY(log_platform) // kestrom.platform: settings, files, resources

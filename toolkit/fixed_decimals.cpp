@@ -1,5 +1,7 @@
 #include "fixed_decimals.h"
 
+#include "text.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -13,4 +15,21 @@ char* write_fixed_decimals(char* out, double value, int decimals) {
         std::all_of(out + 1, end, [](char c) { return c == '0' || c == '.'; }))
         return std::copy(out + 1, end, out);
     return end;
+}
+
+std::string fixed_decimals(double value, int decimals) {
+    char room[FIXED_DECIMALS_ROOM];
+    return {room, write_fixed_decimals(room, value, decimals)};
+}
+
+double leading_number(std::string_view text) {
+    std::string_view piece = text.substr(0, text.find(' '));
+    if (piece.starts_with('+'))
+        piece.remove_prefix(1);
+    const std::string_view digits = slice(piece, piece.starts_with('-') ? 1 : 0);
+    double number = 0;
+    if (!digits.empty() && (digits[0] == '.' || (digits[0] >= '0' && digits[0] <= '9')))
+        std::from_chars(piece.data(), piece.data() + piece.size(), number,
+                        std::chars_format::fixed);
+    return number;
 }

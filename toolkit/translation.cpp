@@ -6,7 +6,6 @@
 #include "user_defaults.h"
 
 #include <algorithm>
-#include <charconv>
 #include <limits>
 
 namespace {
@@ -61,19 +60,6 @@ std::string_view status_of(const translation_row& row, std::uint32_t code) {
         if (status.code == code)
             return status.text;
     return row.other_status;
-}
-
-// The number in front of the first blank; 0 when there is none.
-double leading_number(std::string_view text) {
-    std::string_view piece = text.substr(0, text.find(' '));
-    if (piece.starts_with('+'))
-        piece.remove_prefix(1);
-    const std::string_view digits = slice(piece, piece.starts_with('-') ? 1 : 0);
-    double number = 0;
-    if (!digits.empty() && (digits[0] == '.' || (digits[0] >= '0' && digits[0] <= '9')))
-        std::from_chars(piece.data(), piece.data() + piece.size(), number,
-                        std::chars_format::fixed);
-    return number;
 }
 
 double number_of(std::string_view text) {

@@ -1,0 +1,88 @@
+#include "canvas.h"
+
+#include "shadow.h"
+
+#include <QFontMetricsF>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+QImage empty_image(QSizeF size, double scale) {
+    const QSize pixels = (size * scale).toSize().expandedTo(QSize(1, 1));
+    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+QFont image_font(const QString& family, int pixels, bool bold) {
+    QFont font(family);
+    font.setPixelSize(pixels);
+    font.setBold(bold);
+    // Letters keep their widths at every scale.
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+double text_width(const QFont& font, const QString& text) { return QFontMetricsF(font).horizontalAdvance(text); }
+
+QString qstring(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+QColor colour(double red, double green, double blue, double alpha) {
+    const auto component = [](double c) { return static_cast<float>(std::clamp(c, 0.0, 1.0)); };
+    return QColor::fromRgbF(component(red), component(green), component(blue), component(alpha));
+}
+
+canvas::canvas(QImage& image) : size_(image.deviceIndependentSize()), painter_(&image) {
+    painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                            QPainter::SmoothPixmapTransform);
+}
+
+QRectF canvas::flipped(const QRectF& area) const {
+    return {area.x(), height() - area.y() - area.height(), area.width(), area.height()};
+}
+
+void canvas::text_on_base_line(double x, double base_y, const QString& text, const QFont& font,
+                               const QColor& ink) {
+    painter_.setFont(font);
+    painter_.setPen(ink);
+    painter_.drawText(flipped(x, base_y), text);
+}
+
+void canvas::text(double x, double y, const QString& text, const QFont& font, const QColor& ink) {
+    text_on_base_line(x, y + QFontMetricsF(font).descent(), text, font, ink);
+}
+
+void canvas::text_within(double room, int smallest, double x, double y, const QString& text, QFont font,
+                         const QColor& ink) {
+    const double base_y = y + QFontMetricsF(font).descent();
+    const double wide = text_width(font, text);
+    if (wide > room)
+        font.setPixelSize(std::max(smallest, static_cast<int>(font.pixelSize() * room / wide)));
+    text_on_base_line(x, base_y, QFontMetricsF(font).elidedText(text, Qt::ElideRight, room), font, ink);
+}
+
+void canvas::fill(const QRectF& area, const QBrush& brush) { painter_.fillRect(flipped(area), brush); }
+
+void canvas::fill_gradient(const QRectF& area, const QColor& from, const QColor& to, double degrees) {
+    const double angle = degrees * std::numbers::pi / 180;
+    const QPointF along(std::cos(angle), std::sin(angle));
+    const double reach = (std::fabs(along.x()) * area.width() + std::fabs(along.y()) * area.height()) / 2;
+    const QPointF centre = area.center();
+    QLinearGradient gradient(flipped(centre.x() - along.x() * reach, centre.y() - along.y() * reach),
+                             flipped(centre.x() + along.x() * reach, centre.y() + along.y() * reach));
+    gradient.setColorAt(0, from);
+    gradient.setColorAt(1, to);
+    fill(area, gradient);
+}
+
+void canvas::shadow_of(const QRectF& area, const QColor& shade, QPointF offset, double blur_radius) {
+    const QRectF shape = flipped(area.translated(offset));
+    const cast_shadow cast = cast_shadow_of(
+        shape, blur_radius, painter_.device()->devicePixelRatio(), shade,
+        [&shape](QPainter& painter) { painter.drawRect(shape); });
+    painter_.drawImage(cast.at, cast.image);
+}

@@ -1,0 +1,54 @@
+// Paints into an image in image units with the origin at the lower left, whatever the image's pixel scale.
+// Lives while a picture is being painted.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QImage>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QString>
+
+#include <string_view>
+
+// An empty image of `size` image units at `scale` pixels a unit.
+QImage empty_image(QSizeF size, double scale);
+
+// A font of `pixels` image units, sharp at every scale.
+QFont image_font(const QString& family, int pixels, bool bold = false);
+double text_width(const QFont& font, const QString& text);
+QString qstring(std::string_view utf8);
+
+// Colour components from 0 to 1; what lies outside is clamped.
+QColor colour(double red, double green, double blue, double alpha = 1);
+
+class canvas {
+  public:
+    explicit canvas(QImage& image);
+
+    // For what this class has no word for; y of its points must be flipped.
+    QPainter& painter() { return painter_; }
+    double width() const { return size_.width(); }
+    double height() const { return size_.height(); }
+    QPointF flipped(double x, double y) const { return {x, height() - y}; }
+    QRectF flipped(const QRectF& area) const;
+
+    // (x, y) is the lower-left corner of the text's line box, descent included.
+    void text(double x, double y, const QString& text, const QFont& font, const QColor& ink);
+    // Like text(), but not wider than `room`: in smaller letters, down to `smallest`, then cut with an ellipsis.
+    // The base line stays where it is for the full size.
+    void text_within(double room, int smallest, double x, double y, const QString& text, QFont font,
+                     const QColor& ink);
+    void fill(const QRectF& area, const QBrush& brush);
+    // From the first colour to the second along `degrees`, counter-clockwise from rightwards; the corners of the
+    // area get the pure colours.
+    void fill_gradient(const QRectF& area, const QColor& from, const QColor& to, double degrees);
+    // The shadow that an opaque area casts; the area itself is not painted.
+    void shadow_of(const QRectF& area, const QColor& shade, QPointF offset, double blur_radius);
+
+  private:
+    void text_on_base_line(double x, double base_y, const QString& text, const QFont& font, const QColor& ink);
+
+    QSizeF size_;
+    QPainter painter_;
+};

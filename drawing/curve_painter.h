@@ -1,0 +1,21 @@
+// Paints one reduced curve over a chart's grid.
+#pragma once
+
+#include "curve_reduction.h"
+
+#include <QColor>
+
+#include <vector>
+
+class canvas;
+
+struct curve_style {
+    QColor ink;
+    double line_width;
+    int base_y;              // the area under the curve ends here
+    bool antialiased = true; // off only to compare pictures
+};
+
+// The area under the curve, then its segments across columns, then what each column holds of it. Takes as long
+// as there are runs, however many samples they stand for.
+void paint_curve(canvas& target, const std::vector<column_run>& runs, const curve_style& style);

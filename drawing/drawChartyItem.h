@@ -1,0 +1,163 @@
+// One line chart of sampled values, drawn into an image of its own: a thumbnail or the large chart. Owned by the
+// screen that shows it, which feeds it parameters, samples and labels and takes its image.
+//
+// Coordinates are image units with y upwards. The image has a fixed size in units; set_pixel_scale() says how many
+// pixels a unit has where it is shown, so that it is sharp there.
+#pragma once
+
+#include "chart_geometry.h"
+#include "mac_toolies.h"
+#include "sample_rows.h"
+
+#include <QColor>
+#include <QImage>
+
+#include <array>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class canvas;
+
+// What a chart writes at a parameter's value axis; upper and lower as decimal text.
+struct label_record {
+    std::string name, units, upper, lower;
+    bool operator==(const label_record&) const = default;
+};
+using label_records = std::vector<label_record>;
+
+// For each parameter its PID, its display text, and the upper and lower value of real-time labels.
+using sample_entry = std::array<std::string, 4>;
+using sample_set = std::vector<sample_entry>;
+
+class drawChartyItem {
+  public:
+    explicit drawChartyItem(const toolkit_doors& doors) : toolies(doors) {}
+
+    void initWitdim(QSizeF size, std::string_view imageID);
+    void initWithImage(const QImage& image, std::string_view imageID);
+    void setDrawingSizes(QSizeF size);
+    void resizeImage(QSizeF size) { setDrawingSizes(size); }
+    void set_pixel_scale(double pixels_a_unit);
+    void draw_empty_background();
+
+    void use_this_pids(std::vector<std::string> pids);
+    void update_cur_sample(sample_set samples) { cur_sample_set = std::move(samples); }
+    // -1: none; the first parameter's axis is shown.
+    void set_item_2_plot(int index) { cur_item_2_PLOT = index; }
+    void updateNoOfPlots(std::set<int> indices) { cur_ITEMS_2_PLOT = std::move(indices); }
+    // Rows to show, the last ones; -1 for all.
+    void setNumberPointsToPlot(int count) { SHOW_THESE_MANY_LAST_POINTS = count; }
+    void setThumbnail(bool yes) { is_thumbnail = yes; }
+    void set_thumb_selected(bool yes) { is_thumb_selected = yes; }
+
+    int curPlottingIdx() const { return cur_item_2_PLOT; }
+    bool isSelectedThumb() const { return is_thumb_selected; }
+    bool isPlottingThisIndex(int index) const;
+    double last_value() const { return last_OBD_val; }
+    // Where draw_grid() has put the plot.
+    const chart_area& plot_area() const { return drawSizes; }
+
+    const QImage& image() const { return image_; }
+    const QImage& imageRepresentation() const { return image_; }
+    const std::string& imageID() const { return imageID_; }
+    const std::string& imageUID() const { return imageID_; }
+    const std::string& imageTitle() const { return imageID_; }
+    void setImage(const QImage& image) { image_ = image; }
+    void setImageID(std::string_view identifier) { imageID_ = identifier; }
+    void my_set(std::string_view identifier) { imageID_ = identifier; }
+
+    // A reply's number as the labels count it: 0 for an unusable reply.
+    double get_OBDVal(std::string_view reply) const;
+    // A curve's colour; black beyond the table.
+    static QColor setMyColor(int index);
+    static chart_point scale_point(int x, double this_y, int scr_x, int scr_y, int scr_width, int src_height,
+                                   double maxX, double minX, double maxY, double minY);
+
+    // One record a parameter: the span of all samples but the first, or the middle half of the catalogue's range
+    // while there are fewer than two.
+    label_records work_out_labels(const sample_rows& samples) const;
+    // The same before a run: the lower quarter stands first. Once real-time samples exist, what the caller's sample
+    // set says.
+    label_records work_out_labels_4_realtime() const;
+    // The limits that a record's axis runs between.
+    static double upper_limit(const label_record& record);
+    static double lower_limit(const label_record& record);
+    // The room the axis values need, in units.
+    static double get_width_of_axis_label(const label_record& record);
+
+    // Background, plot frame, grid, axes and title. What did not change since the last call is not painted anew.
+    void draw_grid(const label_records& labels, std::string_view this_title);
+    // The curves over the grid, and the value read-out. False when there is nothing to draw from.
+    bool plot_array_list(const sample_rows& points, const label_records& these_labels);
+
+    // --- the real-time chart, which grows point by point -------------------------------------------------
+    // The points: for each sample the parameters' value texts. The caller appends the newest one, then plots it.
+    std::vector<std::vector<std::string>>& val_points() { return l_val_points; }
+    void plot_this_point_realtime(int index);
+    void replot_realtime_chart(int count);
+
+  private:
+    struct value_axis {
+        double lower, upper;
+        std::string units;
+        int index;
+        double x;
+        bool operator==(const value_axis&) const = default;
+    };
+    // All that the picture of the grid depends on.
+    struct grid_look {
+        QSizeF size;
+        double scale = 0;
+        bool thumbnail = false, selected = false;
+        chart_area plot;
+        std::vector<value_axis> axes;
+        std::string title;
+        bool operator==(const grid_look&) const = default;
+    };
+    grid_look look_of_grid(const label_records& labels, std::string_view title) const;
+    void paint_grid(canvas& target, const grid_look& look) const;
+    static void paint_plot_frame(canvas& target, const chart_area& plot);
+    static void paint_grid_lines(canvas& target, const chart_area& plot);
+    static void print_axis_values_4_grid(canvas& target, const value_axis& axis, const chart_area& plot);
+    static void paint_axis_band(canvas& target, const value_axis& axis, const chart_area& plot);
+    static void paint_highlight(canvas& target, bool selected);
+
+    bool is_drawn(int index) const;
+    bool has_two_axes() const { return !is_thumbnail && cur_ITEMS_2_PLOT.size() > 1; }
+    void plot_one_curve(canvas& target, const sample_rows& points, std::size_t parameter,
+                        const label_record& label);
+    void display_value(canvas& target) const;
+    void display_value_4_thumbnail(canvas& target) const;
+    void paint_level_bar(canvas& target, int segments) const;
+
+    void start_realtime_curve(std::size_t parameter, const std::string& text);
+    void extend_realtime_curve(std::size_t parameter, double value);
+    chart_point realtime_point(std::size_t sample, double value) const;
+
+    QImage image_;
+    std::string imageID_;
+    chart_area drawSizes;
+    QSizeF chartySize{1, 1};
+    double pixel_scale_ = 1;
+    double last_OBD_val = 0;
+    int r_prev_x = 0, r_prev_y = 0;
+    int r_cur_maxX = 0;
+    double r_cur_maxY = 0, r_cur_minY = 0;
+    label_records r_these_labels;
+    std::vector<std::vector<std::string>> l_val_points;
+    std::set<int> cur_ITEMS_2_PLOT;
+    int cur_item_2_PLOT = 0;
+    mac_toolies toolies;
+    std::vector<std::string> _pid_logitems_list;
+    std::vector<std::string> names_; // of those PIDs: reading them takes a table
+    sample_set cur_sample_set;
+    bool some_sampling_done = false;
+    bool is_thumbnail = true;
+    bool is_thumb_selected = false;
+    int SHOW_THESE_MANY_LAST_POINTS = -1;
+
+    QImage grid_image_;
+    grid_look grid_look_;
+};

@@ -1,0 +1,173 @@
+#include "myGauge.h"
+
+#include "bundle.h"
+#include "canvas.h"
+#include "constantes.h"
+#include "shadow.h"
+#include "system_log.h"
+#include "user_defaults.h"
+
+#include <QFile>
+#include <QSvgRenderer>
+
+#include <algorithm>
+
+namespace {
+
+// Size of a dial whose picture is missing.
+constexpr QSizeF DIAL_SIZE(364, 286);
+constexpr double DIAL_EDGE = 10;
+constexpr int LABEL_PIXELS = 30;
+constexpr int NAME_PIXELS = 20;
+constexpr double LABEL_GAP = 3;
+const QColor NAME_INK = colour(0.3450980484485626, 0.9803921580314636, 0.5098039507865906, 1.0);
+const QColor NEEDLE_RIGHT = colour(1.0, 0.125490203499794, 0, 0.9);
+const QColor NEEDLE_LEFT = colour(1.0, 0.1882352977991104, 0, 0.9);
+const QColor HUB = colour(0.5333333611488342, 0.5333333611488342, 0.5333333611488342, 0.8);
+const QColor GLOW = colour(1, 0, 0, 0.8); // as opaque as what casts it
+constexpr double HUB_RADIUS = 22;
+constexpr double GLOW_RADIUS = 10;
+
+QFont label_font() { return image_font(QStringLiteral("Arial"), LABEL_PIXELS); }
+
+// Centred on `x`; letters are condensed rather than run into what stands beside.
+void condensed_text(canvas& target, double room, double x, double y, const QString& text, const QFont& font,
+                    const QColor& ink) {
+    const double wide = text_width(font, text);
+    const double squeeze = wide > room && room > 0 ? room / wide : 1;
+    QPainter& painter = target.painter();
+    painter.save();
+    painter.translate(x, 0);
+    painter.scale(squeeze, 1);
+    target.text(-wide / 2, y, text, font, ink);
+    painter.restore();
+}
+
+} // namespace
+
+myGauge::myGauge(const bundle& resources, const mac_toolies& decoder) : resources_(resources), toolies(decoder) {}
+
+void myGauge::initGauge(std::string_view pid) {
+    cur_PID = pid.substr(pid.rfind('/') + 1);
+    work_out_base_gauge();
+    draw_cur_needle_value(toolies.get_PID_min_max(cur_PID, false));
+}
+
+void myGauge::set_pixel_scale(double pixels_a_unit) {
+    if (pixels_a_unit == pixel_scale_ || !(pixels_a_unit > 0))
+        return;
+    pixel_scale_ = pixels_a_unit;
+    empty_dial_ = hub_glow_ = QImage();
+    if (cur_PID.empty())
+        return;
+    work_out_base_gauge();
+    draw_cur_needle_value(last_OBD_val);
+}
+
+std::array<int, 3> myGauge::gauge_range(unsigned pid) const {
+    const dial_range range = dial_range_of(pid, !toolies.doors().defaults->boolean(KS_METRIC_UNITS_KEY));
+    return {range.low, range.high, range.scaling};
+}
+
+// The drawing when there is one, so that it is sharp at any scale; else the picture of the same name.
+void myGauge::load_empty_dial() {
+    QSvgRenderer drawing;
+    const QString svg = qstring(resources_.image_path("gauge_empty_no_numbers.svg"));
+    if (QFile::exists(svg) && drawing.load(svg)) {
+        gaugeSize = drawing.defaultSize();
+        empty_dial_ = empty_image(gaugeSize, pixel_scale_);
+        QPainter painter(&empty_dial_);
+        drawing.render(&painter, QRectF(QPointF(0, 0), gaugeSize));
+        return;
+    }
+    const QImage picture(qstring(resources_.image_path("gauge_empty_no_numbers.gif")));
+    if (picture.isNull())
+        qCWarning(log_drawing, "no picture of an empty dial");
+    gaugeSize = picture.isNull() ? DIAL_SIZE : QSizeF(picture.size());
+    empty_dial_ = empty_image(gaugeSize, pixel_scale_);
+    QPainter(&empty_dial_).drawImage(QRectF(QPointF(0, 0), gaugeSize), picture);
+}
+
+void myGauge::work_out_base_gauge() {
+    if (empty_dial_.isNull())
+        load_empty_dial();
+    image_without_needle = empty_dial_;
+    const unsigned pid = mac_toolies::convertStr2Byte(cur_PID);
+    const std::array<int, 3> range = gauge_range(pid);
+    range_lo = range[0];
+    range_hi = range[1];
+    range_scaling = range[2];
+
+    canvas target(image_without_needle);
+    const QFont font = label_font();
+    const std::array<std::string, 11> labels = dial_labels({range_lo, range_hi, range_scaling});
+    double left = 0;
+    double right = gaugeSize.width();
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        const auto& [at, shift_half_width] = DIAL_LABEL_PLACES[i];
+        const double wide = text_width(font, qstring(labels[i]));
+        const double x = shift_half_width ? at.x - wide / 2 : at.x;
+        target.text(x, at.y, qstring(labels[i]), font, Qt::white);
+        if (i == 0)
+            left = x + wide + LABEL_GAP;
+        right = x - LABEL_GAP;
+    }
+    const double middle = gaugeSize.width() / 2;
+    paint_units(target, 2 * std::min(middle - left, right - middle));
+    condensed_text(target, gaugeSize.width() - 2 * DIAL_EDGE, middle, 0,
+                   qstring(toolies.get_pid_name(cur_PID, false)),
+                   image_font(QStringLiteral("Helvetica"), NAME_PIXELS, true), NAME_INK);
+}
+
+// Between the first and the last label there is `room` for the units.
+void myGauge::paint_units(canvas& target, double room) const {
+    const double middle = gaugeSize.width() / 2;
+    condensed_text(target, room, middle, 15, qstring(toolies.get_units(cur_PID)), label_font(), Qt::yellow);
+    if (range_scaling == 1)
+        return;
+    const QString times = qstring("x " + std::to_string(range_scaling));
+    condensed_text(target, gaugeSize.width(), middle, 45, times, label_font(), Qt::yellow);
+}
+
+void myGauge::draw_cur_needle_value(double value) {
+    last_OBD_val = value;
+    if (image_without_needle.isNull())
+        return;
+    image_ = image_without_needle;
+    canvas target(image_);
+    draw_gauge_needle_raw(target, NEEDLE_X, NEEDLE_Y, value / range_scaling, NEEDLE_START, NEEDLE_END, range_lo,
+                          range_hi, NEEDLE_WIDTH, NEEDLE_LENGTH);
+}
+
+void myGauge::draw_gauge_needle_raw(canvas& target, int x, int at_y, double this_val, double alpha_min,
+                                    double alpha_max, double min_val, double max_val, double needle_w,
+                                    double needle_h) {
+    const double angle = needle_angle(this_val, alpha_min, alpha_max, min_val, max_val);
+    const needle_points needle =
+        needle_shape({static_cast<double>(x), static_cast<double>(at_y)}, angle, needle_w, needle_h);
+    const auto at = [&](dial_point p) { return target.flipped(p.x, p.y); };
+    QPainter& painter = target.painter();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(NEEDLE_RIGHT);
+    painter.drawPolygon(QPolygonF{at(needle.centre), at(needle.left), at(needle.tip)});
+    painter.setBrush(NEEDLE_LEFT);
+    painter.drawPolygon(QPolygonF{at(needle.centre), at(needle.right), at(needle.tip)});
+    paint_hub(target, x, at_y);
+}
+
+void myGauge::paint_hub(canvas& target, int x, int y) {
+    const QRectF hub =
+        target.flipped(QRectF(x - HUB_RADIUS, y - HUB_RADIUS, 2 * HUB_RADIUS, 2 * HUB_RADIUS));
+    if (hub_glow_.isNull()) {
+        const cast_shadow glow = cast_shadow_of(hub, GLOW_RADIUS, pixel_scale_, GLOW,
+                                                [&hub](QPainter& painter) { painter.drawEllipse(hub); });
+        hub_glow_ = glow.image;
+        hub_glow_at_ = glow.at;
+    }
+    QPainter& painter = target.painter();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(HUB);
+    painter.drawEllipse(hub);
+    painter.drawImage(hub_glow_at_, hub_glow_);
+    painter.drawEllipse(hub);
+}

@@ -1,0 +1,136 @@
+// The samples of a run, one row a sampling cycle, one place a parameter; owned by the screen that samples and
+// read by the charts. A run may last a day: filing costs the same at any length, and a sample takes less than
+// 48 bytes.
+//
+// Replies are translated once, when they are filed. The last row is the one being filled; the rows before it
+// are complete and never change. For each parameter the store keeps the numbers of complete rows summed up in
+// blocks of 16, blocks of 16 of those and so on, so that what lies in any window is found without visiting
+// its rows.
+#pragma once
+
+#include "mac_toolies.h"
+
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+// A place that no reply has been filed into reads so.
+inline constexpr std::string_view UNFILLED = "-1";
+
+// Consecutive samples that are all numbers; count 0: a sample that is no number.
+struct sample_piece {
+    double first, lowest, highest, last;
+    std::size_t count;
+};
+
+class sample_rows {
+  public:
+    static constexpr std::size_t BLOCK = 16;
+
+    explicit sample_rows(std::size_t parameters = 0);
+
+    std::size_t parameters() const { return columns_.size(); }
+    std::size_t rows() const { return rows_; }
+    bool empty() const { return rows_ == 0; }
+    // Without rows; the parameters stay.
+    void clear();
+
+    // Completes the last row and appends one whose places are all unfilled.
+    void append_fresh_row();
+    // Files a reply, with what it translates to, into the last row; a second reply replaces the first.
+    // A place or row that does not exist is ignored.
+    void file(std::size_t parameter, std::string_view reply, const translated& meaning);
+
+    std::string_view text(std::size_t row, std::size_t parameter) const;
+    // NaN for an unusable reply and for an unfilled place.
+    double value(std::size_t row, std::size_t parameter) const;
+    bool filled(std::size_t row, std::size_t parameter) const { return text(row, parameter) != UNFILLED; }
+
+    // The highest and lowest number, as a chart's labels count them, of all rows but the first; NaN while there
+    // are none.
+    double highest(std::size_t parameter) const;
+    double lowest(std::size_t parameter) const;
+
+    // Calls `visit(const sample_piece&)` for the samples of rows [first, end) in order, in as few pieces as
+    // there are blocks for. Unfilled places are passed over.
+    template <class Visitor>
+    void for_each_piece(std::size_t parameter, std::size_t first, std::size_t end, Visitor visit) const;
+
+    // The number that a chart's labels take a display text for: 0 for "~" and other texts without a number,
+    // NaN for "-" and for no text.
+    static double chart_number(std::string_view display_text);
+
+  private:
+    static constexpr std::size_t CHUNK = 1024;
+
+    class short_text {
+      public:
+        static constexpr std::size_t ROOM = 15;
+        // False when it does not fit.
+        bool assign(std::string_view text);
+        bool fits() const { return length_ <= ROOM; }
+        std::string_view view() const { return {room_, length_}; }
+
+      private:
+        char room_[ROOM];
+        std::uint8_t length_ = 0;
+    };
+
+    struct chunk {
+        std::array<double, CHUNK> values;
+        std::array<short_text, CHUNK> texts;
+    };
+
+    struct block {
+        double lowest, highest; // NaN when not all of its samples are numbers
+        bool whole() const { return !std::isnan(lowest); }
+    };
+
+    struct column {
+        std::vector<std::unique_ptr<chunk>> chunks;
+        std::vector<std::vector<block>> levels; // a block of level n sums up BLOCK to the power n + 1 rows
+        double newest_number = 0;               // of the last row, as labels count it
+        double highest, lowest;                 // of complete rows from the second on
+    };
+
+    void complete_last_row();
+    void sum_up(column& c) const;
+    double& value_at(column& c, std::size_t row) const { return c.chunks[row / CHUNK]->values[row % CHUNK]; }
+
+    std::vector<column> columns_;
+    // Texts that are longer than a place holds, by place.
+    std::unordered_map<std::size_t, std::string> long_texts_;
+    std::size_t rows_ = 0;
+};
+
+template <class Visitor>
+void sample_rows::for_each_piece(std::size_t parameter, std::size_t first, std::size_t end, Visitor visit) const {
+    const column& c = columns_[parameter];
+    for (std::size_t row = first; row < end;) {
+        // The largest block that starts here, ends in time and holds nothing but numbers.
+        const block* largest = nullptr;
+        std::size_t length = 1;
+        std::size_t size = BLOCK;
+        for (const std::vector<block>& level : c.levels) {
+            if (row % size != 0 || row + size > end || row / size >= level.size() || !level[row / size].whole())
+                break;
+            largest = &level[row / size];
+            length = size;
+            size *= BLOCK;
+        }
+        const double here = value(row, parameter);
+        if (largest != nullptr)
+            visit(sample_piece{here, largest->lowest, largest->highest, value(row + length - 1, parameter),
+                               length});
+        else if (!std::isnan(here))
+            visit(sample_piece{here, here, here, here, 1});
+        else if (filled(row, parameter))
+            visit(sample_piece{here, here, here, here, 0});
+        row += length;
+    }
+}

@@ -4,6 +4,7 @@
 #include "command_line.h"
 #include "command_runner.h"
 #include "console_alerts.h"
+#include "decode_command.h"
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
 #include "mac_toolies.h"
@@ -24,6 +25,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <iostream>
 #include <memory>
 #include <string>
 #include <vector>
@@ -85,6 +87,21 @@ bool save_screenshot(main_window& window, const std::string& path) {
         return true;
     std::fprintf(stderr, "kestrom: cannot write %s\n", path.c_str());
     return false;
+}
+
+// A command that only decodes what stands on the command line.
+int decode(int argc, char** argv, const cli_request& asked) {
+    const QCoreApplication application(argc, argv);
+    const QTemporaryDir scratch;
+    user_defaults units(scratch.filePath(QStringLiteral("kestrom.conf")).toStdString());
+    units.set_boolean(KS_METRIC_UNITS_KEY, user_defaults(user_defaults::default_path()).boolean(KS_METRIC_UNITS_KEY));
+    const bundle resources;
+    const mac_toolies toolies({&resources, &units, nullptr, nullptr});
+    if (asked.command == "decode")
+        return run_decode(asked.arguments, toolies, units, std::cout, std::cerr);
+    if (asked.command == "vin")
+        return run_vin(asked.arguments, toolies, std::cout, std::cerr);
+    return run_mode6(asked.arguments, toolies, std::cout, std::cerr);
 }
 
 int run(QApplication& application, const cli_request& asked) {
@@ -154,6 +171,8 @@ int main(int argc, char** argv) {
         std::puts("kestrom " KESTROM_VERSION);
         return 0;
     }
+    if (decodes(asked.command))
+        return decode(argc, argv, asked);
     if (asked.without_display())
         qputenv("QT_QPA_PLATFORM", "offscreen");
     if (!display_there()) {

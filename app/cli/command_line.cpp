@@ -16,7 +16,8 @@ struct verb {
     std::size_t least, most;
 };
 constexpr verb VERBS[] = {
-    {"codes", 0, 0}, {"clear", 0, 0}, {"send", 1, 10'000},
+    {"codes", 0, 0},       {"clear", 0, 0},       {"send", 1, 10'000},
+    {"decode", 0, 10'000}, {"vin", 0, 10'000},    {"mode6", 0, 10'000},
 };
 
 class argument_reader {
@@ -33,8 +34,10 @@ class argument_reader {
 
   private:
     void take(const std::string& argument) {
-        // A command's own arguments may begin with anything but "--".
-        if (argument.size() > 1 && argument.starts_with("--"))
+        // A command's own arguments may begin with anything but "--", unless it reads its own options.
+        if (decodes(result_.asked.command))
+            result_.asked.arguments.push_back(argument);
+        else if (argument.size() > 1 && argument.starts_with("--"))
             take_option(argument);
         else if (argument == "-h")
             result_.asked.help = true;
@@ -157,6 +160,10 @@ class argument_reader {
 
 } // namespace
 
+bool decodes(std::string_view command) {
+    return command == "decode" || command == "vin" || command == "mode6";
+}
+
 parsed_command_line parse_command_line(std::span<const std::string> arguments) {
     return argument_reader(arguments).read();
 }
@@ -170,6 +177,10 @@ Commands
   codes                 read lamp, trouble codes and readiness monitors
   clear --yes           clear the trouble codes
   send COMMAND...       send each command and print the raw reply
+  decode REPLY... [--units metric|imperial]
+                        what replies to service 01 requests mean: text and number
+  vin REPLY             the vehicle identification number in a reply to 09 02
+  mode6 ID VALUE        a test result scaled by its unit-and-scaling identifier
 
 Options
   --demo[=CAR]          talk to the built-in virtual car
@@ -187,5 +198,6 @@ Examples
   kestrom --demo codes
   kestrom --adapter 192.168.0.10:35000 codes --json
   kestrom --adapter 192.168.0.10:35000 send "AT RV" "01 0C"
+  kestrom decode "41 0C 1A F8" --units metric
 )";
 }

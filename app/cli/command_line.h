@@ -4,6 +4,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 struct cli_request {
@@ -30,6 +31,9 @@ struct parsed_command_line {
     cli_request asked;
     std::string error;
 };
+
+// Commands that need no adapter and no window.
+bool decodes(std::string_view command);
 
 parsed_command_line parse_command_line(std::span<const std::string> arguments);
 

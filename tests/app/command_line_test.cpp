@@ -139,6 +139,26 @@ TEST_F(shell, a_link_that_fails_ends_with_1_and_the_reason) {
     }
 }
 
+TEST_F(shell, replies_are_decoded_without_an_adapter) {
+    const struct {
+        std::vector<std::string> arguments;
+        int status;
+        const char* out;
+    } cases[] = {
+        {{"decode", "41 0C 1A F8", "NO DATA", "--units", "metric"}, 0, "1726.00 RPM\t1726\n~\tnan\n"},
+        {{"decode", "410564", "--units", "parsecs"}, 2, ""},
+        {{"decode"}, 2, ""},
+        {{"vin", "490201000000 31\\r490202 47314A43\\r"}, 0, "1G1JC\n"},
+        {{"mode6", "16", "01F4"}, 0, "10.000000 ^C\n"},
+        {{"mode6", "16"}, 2, ""},
+    };
+    for (const auto& one : cases) {
+        const outcome result = run(one.arguments);
+        EXPECT_EQ(result.status, one.status) << result.err;
+        EXPECT_EQ(result.out, one.out);
+    }
+}
+
 TEST_F(shell, a_picture_of_the_filled_screen_is_saved) {
     const QString picture = home.filePath(QStringLiteral("codes.png"));
     EXPECT_EQ(run({"--demo", "--screenshot", picture.toStdString(), "codes"}).status, 0);

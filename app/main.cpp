@@ -129,10 +129,14 @@ int run(QApplication& application, const cli_request& asked) {
          }},
         all_screens());
     main_window window(delegate);
-    const quit_signals signals([&window] { window.close(); });
-
     int status = 0;
     std::unique_ptr<command_runner> runner;
+    const quit_signals signals([&] {
+        if (runner)
+            runner->interrupt();
+        else
+            window.close();
+    });
     const auto leave = [&](int exit_status) {
         status = exit_status;
         if (asked.screenshot && !save_screenshot(window, *asked.screenshot))
@@ -185,8 +189,11 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("kestrom"));
     try {
         return run(application, asked);
+    } catch (const car_file_error& unusable) {
+        std::fprintf(stderr, "kestrom: %s\n", unusable.what());
+        return USAGE_STATUS;
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "kestrom: %s\n", failure.what());
-        return USAGE_STATUS;
+        return FAILURE_STATUS;
     }
 }

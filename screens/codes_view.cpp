@@ -69,7 +69,8 @@ void codes_view::build_buttons(QHBoxLayout* row) {
     };
     auto* read = make("readCodes", "read", "ui_read_codes", on_read);
     read->setToolTip(ui_text(delegate_, "ui_read_codes_hint"));
-    read->setDefault(true);
+    read->setAutoDefault(true); // Return reads
+    root()->setFocusProxy(read);
     make("clearCodes", "clear", "ui_clear_codes", on_clear)
         ->setToolTip(ui_text(delegate_, "ui_clear_codes_hint"));
     auto* diagnose = new QAction(root());

@@ -22,6 +22,7 @@
 namespace {
 
 constexpr int ECHO_POINT_SIZE = 14;
+constexpr int TRANSCRIPT_CHARACTERS = 4'000'000;
 constexpr int TRANSCRIPT_LINES = 20'000; // a monitored bus must not eat the memory
 
 // Blue that can be read on the ground it stands on.
@@ -103,6 +104,7 @@ void expertCtrlr::handle_a_send() {
         set_status_msg(localized("ui_command_too_long"));
         return;
     }
+    asked_to_send_ = true;
     recall_->remember(cmdTxt->text());
     append_echo(command);
     cmdTxt->selectAll();
@@ -115,8 +117,8 @@ void expertCtrlr::handle_a_send() {
 
 void expertCtrlr::work_current_task() {
     const std::string command = cmdTxt->text().toStdString();
-    // A lone carriage return would make the adapter repeat its last command.
-    if (command.empty() || command.size() > LONGEST_CONSOLE_COMMAND)
+    // The link may come up for a task of another screen. A lone carriage return would make the adapter repeat its last command.
+    if (!asked_to_send_ || command.empty() || command.size() > LONGEST_CONSOLE_COMMAND)
         return;
     waity->show();
     sendOBDcmd(command + "\r");
@@ -147,5 +149,11 @@ void expertCtrlr::append_echo(const std::string& command) {
 void expertCtrlr::append_reply(const std::string& chunk) {
     QTextCharFormat format;
     format.setFont(replyTxt->font());
-    append(replyTxt, display_text(chunk), format);
+    std::string_view text = chunk;
+    if (ended_in_return_ && text.starts_with('\n')) // a line end that came in two pieces
+        text.remove_prefix(1);
+    ended_in_return_ = chunk.ends_with('\r');
+    append(replyTxt, display_text(text), format);
+    if (replyTxt->document()->characterCount() > TRANSCRIPT_CHARACTERS)
+        replyTxt->clear(); // a flood without line ends
 }

@@ -43,4 +43,6 @@ class expertCtrlr final : public obd_screen {
     QPlainTextEdit* replyTxt = nullptr;
     busy_indicator* waity = nullptr;
     std::unique_ptr<command_recall> recall_;
+    bool asked_to_send_ = false;
+    bool ended_in_return_ = false;
 };

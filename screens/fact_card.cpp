@@ -7,6 +7,10 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+namespace {
+constexpr qsizetype LONGEST_VALUE = 80;
+}
+
 class fact_card::lamp final : public QWidget {
   public:
     explicit lamp(QWidget* parent) : QWidget(parent) { setFixedSize(20, 20); }
@@ -41,7 +45,6 @@ fact_card::fact_card(const QString& value_name, const QString& caption, QWidget*
     value_->setTextFormat(Qt::PlainText);
     value_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     value_->setWordWrap(true);
-    value_->setAccessibleName(caption);
     QFont strong = value_->font();
     strong.setWeight(QFont::DemiBold);
     value_->setFont(strong);
@@ -58,18 +61,23 @@ fact_card::fact_card(const QString& value_name, const QString& caption, QWidget*
     column->addLayout(value_row);
     column->addStretch(1);
     lamp_->hide();
-    setMinimumHeight(7 * GRID);
+    // Whatever an adapter says of itself, the cards keep their size.
+    setFixedHeight(4 * GRID + 3 * fontMetrics().lineSpacing());
+    value_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 
 void fact_card::set_value(const std::string& text) {
-    value_->setText(display_text(text).trimmed());
-    value_->setToolTip(value_->text().toHtmlEscaped());
+    const QString whole = display_text(text).simplified();
+    value_->setText(whole.size() > LONGEST_VALUE ? whole.left(LONGEST_VALUE) + QChar(0x2026) : whole);
+    value_->setToolTip(QStringLiteral("<span>%1</span>").arg(whole.left(4000).toHtmlEscaped()));
+    value_->setAccessibleName(caption_->text() + QStringLiteral(": ") + value_->text());
     caption_->show();
     value_->setForegroundRole(QPalette::WindowText);
 }
 
 void fact_card::set_resting(const std::string& text) {
     value_->setText(display_text(text));
+    value_->setAccessibleName(text.empty() ? caption_->text() : value_->text());
     value_->setToolTip(QString());
     caption_->setVisible(text.empty());
     value_->setForegroundRole(QPalette::PlaceholderText);

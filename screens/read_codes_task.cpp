@@ -2,6 +2,7 @@
 #include "globalVars.h"
 #include "codes_view.h"
 #include "readCodes.h"
+#include "reply_lines.h"
 #include "system_log.h"
 #include "text.h"
 
@@ -27,9 +28,9 @@ std::string status_data(std::string_view line) {
 }
 
 bool has_can_header(std::string_view line) {
-    return line.starts_with("7E") || (line.size() >= 14 && line.substr(10, 4) == "4101" &&
-                                      line.substr(6, 4) != "4101");
+    return line.starts_with("7E") || marker_behind_29_bit_header(line, "4101", "4101");
 }
+
 
 // Whether the adapter's answer to "AT DP" tells which bus it talks on; "AUTO" alone does not.
 bool names_a_bus(std::string_view protocol) {
@@ -148,11 +149,9 @@ void readCodes::status_answered() {
 }
 
 void readCodes::decode_status(const std::string& screened_reply) {
-    std::vector<std::string> lines =
-        mac_toolies::Pull_line_into_array(without(without(screened_reply, " "), "\n"), "\r");
-    // "OK" is what is left of a bus initialisation notice.
-    std::erase_if(lines, [](const std::string& line) { return line.empty() || line == "OK"; });
-
+    std::vector<std::string> lines = reply_lines(screened_reply);
+    const auto answers = std::ranges::count_if(
+        lines, [](const std::string& line) { return status_data(line).starts_with("4101"); });
     no_of_codes = 0;
     status_told_ = false;
     status_answer_was_can_ = false;
@@ -161,16 +160,14 @@ void readCodes::decode_status(const std::string& screened_reply) {
     for (const std::string& line : lines) {
         const std::string data = status_data(line);
         if (!data.starts_with("4101") || data.size() < 6) {
-            if (data.empty())
-                no_of_codes = 0;
-            set_status_msg("Did not read initial header .. continuing");
+            set_status_msg("Did not read initial header .. continuing"); // what others told stays
             continue;
         }
         status_told_ = true;
         status_answer_was_can_ = status_answer_was_can_ || has_can_header(line);
         const unsigned byte_a = mac_toolies::convertStr2Byte(std::string_view(data).substr(4, 2));
         const bool unit_lamp = (byte_a & 0x80u) != 0;
-        if (contains(mac_toolies::pull_ECU(line), "Engine") || lines.size() == 1) {
+        if (contains(mac_toolies::pull_ECU(line), "Engine") || answers == 1) {
             p_cur_01_pid = std::string_view(data).substr(6);
             lamp_on = lamp_on || unit_lamp;
         }
@@ -188,10 +185,11 @@ void readCodes::decode_status(const std::string& screened_reply) {
 
 std::vector<std::string> readCodes::work_reply_to_error_codes_pid(std::string_view mode,
                                                                   std::string_view this_reply) const {
-    // The protocol text is the first answer to "AT DP", which may be "AUTO" from before the bus was found.
-    const bool is_can = names_a_bus(g_cur_protocol) ? g_cur_protocol.contains("CAN")
-                        : status_told_              ? status_answer_was_can_
-                                                    : looks_like_can(this_reply);
+    // The protocol text is the first answer to "AT DP": it may be "AUTO" from before the bus was found, or of the car
+    // that the adapter sat in before. The headers of this task's status answer know better.
+    const bool is_can = status_told_                  ? status_answer_was_can_
+                        : names_a_bus(g_cur_protocol) ? g_cur_protocol.contains("CAN")
+                                                      : looks_like_can(this_reply);
     return mac_toolies::decode_trouble_codes(mode, this_reply, is_can);
 }
 
@@ -203,6 +201,8 @@ void readCodes::codes_answered() {
         leave_cur_op_gracefully("");
         return;
     }
+    const bool answered = contains(without(reply, " "), "43");
+    const bool nothing_stored = status_told_ && contains(without(reply, " "), "NODATA"); // as old cars put it
     codes_rcvd = work_reply_to_error_codes_pid("03", without(reply, " "));
     load_the_codes();
     codesReadArray.clear();
@@ -213,7 +213,7 @@ void readCodes::codes_answered() {
     view_->show_codes(codesReadArray);
     set_status_msg("Rerieve codes successfully");
     refresh_readiness();
-    succeeded_ = true;
+    succeeded_ = answered || nothing_stored;
     set_status_msg(codesReadArray.size() == static_cast<std::size_t>(no_of_codes)
                        ? "Codes read!. Scroll for full description"
                        : "Codes read...but different no of codes recvd");

@@ -2,21 +2,27 @@
 
 #include "display_text.h"
 
+#include <QRegularExpression>
+
 status_line::status_line(QWidget* parent) : QLabel(parent) {
     setObjectName(QStringLiteral("statusLbl"));
     setTextFormat(Qt::PlainText);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setFocusPolicy(Qt::ClickFocus);
     setWordWrap(true);
-    setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    setMargin(0);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    // Room for two lines; a longer text is cut at the edge, whole in the tooltip.
-    setFixedHeight(2 * fontMetrics().lineSpacing() + 4);
+    // Room for exactly two lines; what is longer is whole in the tooltip.
+    setFixedHeight(2 * fontMetrics().lineSpacing());
 }
 
 void status_line::set_text(const std::string& message) {
     const QString text = display_text(message);
-    setText(text);
+    // Empty lines would push the reason out of sight.
+    static const QRegularExpression EMPTY_LINES(QStringLiteral("\n\\s*\n"));
+    setText(QString(text).replace(EMPTY_LINES, QStringLiteral("\n")).trimmed());
+    setAccessibleName(text); // a screen reader must hear the message, not what kind of label it is
     // A tooltip guesses at rich text: escape it so that it stays plain.
     setToolTip(text.isEmpty() ? QString()
                               : QStringLiteral("<span style='white-space:pre-wrap'>%1</span>")

@@ -1,5 +1,7 @@
 #include "command_line.h"
 
+#include "expertCtrlr.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -7,8 +9,6 @@
 #include <string_view>
 
 namespace {
-
-constexpr std::size_t LONGEST_COMMAND = 38; // what the console's command buffer takes
 
 // The commands and how many arguments each takes.
 struct verb {
@@ -19,6 +19,10 @@ constexpr verb VERBS[] = {
     {"codes", 0, 0},       {"clear", 0, 0},       {"send", 1, 10'000},
     {"decode", 0, 10'000}, {"vin", 0, 10'000},    {"mode6", 0, 10'000},
 };
+
+bool plain_ascii(std::string_view text) {
+    return std::ranges::all_of(text, [](char c) { return c >= ' ' && c <= '~'; });
+}
 
 class argument_reader {
   public:
@@ -143,8 +147,8 @@ class argument_reader {
             fail("clear erases codes and test results in the car: repeat it with --yes");
         if (asked.command == "send")
             for (const std::string& text : asked.arguments)
-                if (text.empty() || text.size() > LONGEST_COMMAND)
-                    fail("a command has 1 to 38 bytes: '" + text + "'");
+                if (text.empty() || text.size() > LONGEST_CONSOLE_COMMAND || !plain_ascii(text))
+                    fail("a command is 1 to 38 plain characters: '" + text + "'");
     }
 
     void fail(std::string why) {

@@ -4,6 +4,7 @@
 #include "expertCtrlr.h"
 #include "Ks_lite_delegate.h"
 #include "readCodes.h"
+#include "reply_accumulator.h"
 #include "report_printer.h"
 #include "text.h"
 
@@ -60,6 +61,8 @@ void command_runner::next_send() {
 
 void command_runner::take_reply(const std::string& chunk) {
     reply_ += chunk;
+    if (reply_.size() > LONGEST_REPLY)
+        end(false, "no prompt within 64 KiB");
     if (const std::size_t prompt = reply_.find('>'); prompt != std::string::npos) {
         reply_.resize(prompt + 1);
         reply_complete_ = true;
@@ -94,8 +97,12 @@ void command_runner::look() {
 }
 
 void command_runner::finish_codes() {
-    end(codes_->succeeded(), statuses_.empty() ? "nothing happened" : statuses_.back());
+    // A failure that was only told in a message box leaves an older text on the status line.
+    const auto& told = messages_.messages();
+    end(codes_->succeeded(), !told.empty() ? told.back() : statuses_.empty() ? "" : statuses_.back());
 }
+
+void command_runner::interrupt() { end(false, "interrupted"); }
 
 void command_runner::end(bool succeeded, const std::string& why) {
     look_timer_.stop();
@@ -112,7 +119,11 @@ void command_runner::end(bool succeeded, const std::string& why) {
     } else if (codes_ && succeeded) {
         std::printf("%s\n", codes_->status().c_str());
     }
-    std::fflush(stdout);
+    if (std::fflush(stdout) != 0 || std::ferror(stdout)) {
+        std::fputs("kestrom: the output could not be written\n", stderr);
+        done_(1);
+        return;
+    }
     if (!succeeded)
         std::fprintf(stderr, "kestrom: %s failed: %s\n", asked_.command.c_str(), printable(why).c_str());
     done_(succeeded ? 0 : 1);

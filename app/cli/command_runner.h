@@ -22,6 +22,8 @@ class command_runner final : public QObject {
 
     // Begins; `done` is told the exit status from the event loop.
     void start(std::function<void(int exit_status)> done);
+    // The user wants out.
+    void interrupt();
 
   private:
     void start_codes();

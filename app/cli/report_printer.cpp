@@ -1,5 +1,6 @@
 #include "report_printer.h"
 
+#include "display_text.h"
 #include "text.h"
 
 #include <QJsonArray>
@@ -85,10 +86,4 @@ void print_replies_json(const std::vector<std::string>& commands, const std::vec
     print_json({{QStringLiteral("replies"), array}}, log);
 }
 
-std::string printable(const std::string& text) {
-    std::string shown = replace_all(replace_all(text, "\r\n", "\n"), "\r", "\n");
-    for (char& c : shown)
-        if (static_cast<unsigned char>(c) < 0x20 && c != '\n' && c != '\t')
-            c = ' ';
-    return shown;
-}
+std::string printable(const std::string& text) { return display_text(text).toStdString(); }

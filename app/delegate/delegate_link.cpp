@@ -30,7 +30,8 @@ void Ks_lite_delegate::handleOBDRcvdNotification(const std::string& text) {
 }
 
 void Ks_lite_delegate::post_received(const std::string& text) {
-    if (text.find('>') != std::string::npos)
+    // A prompt at the very front belongs to an earlier reply when more text follows it.
+    if (text == ">" || text.find('>', 1) != std::string::npos)
         reply_awaited_since_ = {};
     doors_.notifications.post(OBD_EVENT, text);
 }

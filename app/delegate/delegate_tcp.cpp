@@ -67,6 +67,7 @@ void Ks_lite_delegate::stream(stream_side, int handleEvent) {
     }
     case STREAM_END:
         qCWarning(log_link, "Disconected");
+        reply_awaited_since_ = {}; // nothing more will come
         l_set_status_msg("Disconnected");
         break;
     default:

@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QButtonGroup>
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -85,16 +86,16 @@ QWidget* main_window::build_rail() {
         auto* button = make(name, icon, key);
         button->setCheckable(true);
         switches_->addButton(button);
-        connect(button, &QToolButton::clicked, this, [this, choose] { (delegate_.*choose)(); });
+        connect(button, &QToolButton::clicked, this, choose);
     };
-    make_switch(READ_CODES_VIEW, "codes", "ui_rail_codes", &Ks_lite_delegate::do_read_codes);
-    make_switch(ACTIONS_VIEW, "live", "ui_rail_live", &Ks_lite_delegate::do_actions);
+    make_switch(READ_CODES_VIEW, "codes", "ui_rail_codes", [this] { delegate_.do_read_codes(); });
+    make_switch(ACTIONS_VIEW, "live", "ui_rail_live", [this] { delegate_.do_actions(); });
     auto* logs = make("logs", "logs", "ui_rail_logs");
     logs->setEnabled(false);
     logs->setToolTip(ui_text(delegate_, "ui_rail_logs_hint"));
     connect(logs, &QToolButton::clicked, this, [this] { delegate_.do_logs(); });
-    make_switch(EXPERT_VIEW, "expert", "ui_rail_expert", &Ks_lite_delegate::do_expert);
-    make_switch(PREFS_VIEW, "prefs", "ui_rail_prefs", &Ks_lite_delegate::do_prefs);
+    make_switch(EXPERT_VIEW, "expert", "ui_rail_expert", [this] { delegate_.do_expert(); });
+    make_switch(PREFS_VIEW, "prefs", "ui_rail_prefs", [this] { delegate_.do_prefs(); });
     column->addStretch(1);
     auto* help = make("help", "help", "ui_rail_help");
     help->setShortcut(QKeySequence::HelpContents);
@@ -119,8 +120,11 @@ void main_window::restore_place() {
 }
 
 void main_window::closeEvent(QCloseEvent* event) {
-    delegate_.doors().defaults.set_string(GEOMETRY_KEY, saveGeometry().toBase64().toStdString());
-    delegate_.doors().defaults.synchronize();
+    // A window that nobody saw has no place to remember.
+    if (isVisible() && QGuiApplication::platformName() != QLatin1String("offscreen")) {
+        delegate_.doors().defaults.set_string(GEOMETRY_KEY, saveGeometry().toBase64().toStdString());
+        delegate_.doors().defaults.synchronize();
+    }
     delegate_.applicationWillTerminate();
     event->accept();
 }

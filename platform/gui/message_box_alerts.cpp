@@ -6,6 +6,18 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+namespace {
+
+// A message may quote a reply of any length; the buttons must stay on the screen.
+QString shortened(QString text) {
+    constexpr qsizetype MOST_CHARACTERS = 1500, MOST_LINES = 20;
+    const qsizetype end = text.size();
+    text = text.section(u'\n', 0, MOST_LINES - 1).left(MOST_CHARACTERS);
+    return text.size() < end ? text + QChar(0x2026) : text;
+}
+
+} // namespace
+
 void message_box_alerts::beep() { QApplication::beep(); }
 
 int message_box_alerts::run_modal(const alert_request& request) {
@@ -13,7 +25,7 @@ int message_box_alerts::run_modal(const alert_request& request) {
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(request.title.empty() ? QApplication::applicationDisplayName()
                                              : display_text(request.title));
-    box.setText(display_text(request.message));
+    box.setText(shortened(display_text(request.message)));
     box.setInformativeText(display_text(request.informative));
     constexpr QMessageBox::Icon ICONS[] = {QMessageBox::Warning, QMessageBox::Information,
                                            QMessageBox::Critical};

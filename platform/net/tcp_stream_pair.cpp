@@ -7,6 +7,10 @@
 #include <netinet/tcp.h>
 #include <sys/socket.h>
 
+namespace {
+constexpr qint64 READ_BUFFER = 256 * 1024;
+}
+
 tcp_stream_pair::tcp_stream_pair(run_loop& loop, std::string host, long port)
     : loop_(loop), host_(std::move(host)), port_(port) {}
 
@@ -25,6 +29,7 @@ void tcp_stream_pair::open(event_handler handler) {
     connect(&socket_, &QTcpSocket::disconnected, this, &tcp_stream_pair::disconnected);
     // A proxy of the desktop's has no business between the program and the adapter.
     socket_.setProxy(QNetworkProxy::NoProxy);
+    socket_.setReadBufferSize(READ_BUFFER); // a flood waits in the kernel, not in our memory
     socket_.connectToHost(QString::fromStdString(host_), static_cast<quint16>(port_));
 }
 

@@ -3,42 +3,110 @@
 #include "canvas.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
 constexpr double AREA_ALPHA = 0.2;
 constexpr double FIRST_PASS_WIDTH = 1;
 
-bool covers(const column_run& run, int y) { return run.count > 1 && y >= run.low && y <= run.high; }
+// For each pixel column the lines [top, bottom) that something covers.
+struct column_spans {
+    explicit column_spans(int columns) : top(static_cast<std::size_t>(columns), 0), bottom(top) {}
+    bool free(int column) const { return top[at(column)] == bottom[at(column)]; }
+    void set(int column, int from, int to) {
+        top[at(column)] = from;
+        bottom[at(column)] = to;
+    }
+    static std::size_t at(int column) { return static_cast<std::size_t>(column); }
 
-// One polygon for each stretch of the curve without a gap.
-void paint_area(canvas& target, const std::vector<column_run>& runs, const curve_style& style) {
+    std::vector<int> top, bottom;
+};
+
+// The pixels of the area and of the columns, put together line by line and laid over the chart at once: the same by
+// polygons and rectangles takes QPainter many times longer.
+class pixel_layer {
+  public:
+    pixel_layer(const canvas& target, double scale)
+        : image_(empty_image(QSizeF(target.width(), target.height()), scale)), scale_(scale),
+          height_(target.height()), area_(image_.width()), left_halves_(image_.width()),
+          right_halves_(image_.width()) {}
+
+    // The area between a segment and the base line. A pixel belongs to it when its centre does.
+    void add_area(double from_x, double from_y, double to_x, double to_y, double base_y) {
+        const int end = std::min(first_centre_from(to_x), image_.width());
+        for (int px = std::max(first_centre_from(from_x), 0); px < end; ++px) {
+            const double along = ((px + 0.5) / scale_ - from_x) / (to_x - from_x);
+            const double y = from_y + (to_y - from_y) * along;
+            area_.set(px, first_centre_from(height_ - std::max(y, base_y)),
+                      first_centre_from(height_ - std::min(y, base_y)));
+        }
+    }
+
+    // A unit to either side of the run's points; columns next to each other overlap by half.
+    void add_run(const column_run& run) {
+        add_half(left_halves_, run, run.x - 1);
+        add_half(right_halves_, run, run.x);
+    }
+
+    const QImage& paint(QRgb ink, QRgb shade) {
+        auto* const pixels = reinterpret_cast<QRgb*>(image_.bits());
+        const int width = image_.width();
+        for (int py = 0; py < image_.height(); ++py) {
+            QRgb* const line = pixels + py * width; // lines follow each other without padding
+            for (std::size_t px = 0; px < static_cast<std::size_t>(width); ++px) {
+                const bool inked = (py >= left_halves_.top[px] && py < left_halves_.bottom[px]) |
+                                   (py >= right_halves_.top[px] && py < right_halves_.bottom[px]);
+                const bool shaded = py >= area_.top[px] && py < area_.bottom[px];
+                line[px] = inked ? ink : shaded ? shade : 0;
+            }
+        }
+        for (const QRect& more : more_runs_)
+            for (int py = more.top(); py <= more.bottom(); ++py)
+                std::fill_n(pixels + py * width + more.left(), more.width(), ink);
+        return image_;
+    }
+
+  private:
+    int first_centre_from(double units) const { return static_cast<int>(std::ceil(units * scale_ - 0.5)); }
+    int nearest(double units) const { return static_cast<int>(std::lround(units * scale_)); }
+
+    void add_half(column_spans& spans, const column_run& run, int x) {
+        const QRect half = QRect(QPoint(nearest(x), nearest(height_ - run.high - 1)),
+                                 QPoint(nearest(x + 1) - 1, nearest(height_ - run.low + 1) - 1)) &
+                           image_.rect();
+        if (half.isEmpty())
+            return;
+        if (!spans.free(half.left())) {
+            more_runs_.push_back(half); // between gaps
+            return;
+        }
+        for (int px = half.left(); px <= half.right(); ++px)
+            spans.set(px, half.top(), half.bottom() + 1);
+    }
+
+    QImage image_;
+    double scale_;
+    double height_;
+    column_spans area_, left_halves_, right_halves_;
+    std::vector<QRect> more_runs_;
+};
+
+void paint_pixels(canvas& target, const std::vector<column_run>& runs, const curve_style& style) {
+    pixel_layer layer(target, target.painter().device()->devicePixelRatioF());
+    for (std::size_t i = 1; i < runs.size(); ++i)
+        if (runs[i].joined)
+            layer.add_area(runs[i - 1].x, runs[i - 1].last, runs[i].x, runs[i].first, style.base_y);
+    for (const column_run& run : runs)
+        if (run.count > 1)
+            layer.add_run(run);
     QColor shade = style.ink;
     shade.setAlphaF(static_cast<float>(AREA_ALPHA));
-    QPainter& painter = target.painter();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(shade);
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    QPolygonF outline;
-    const auto close = [&](int last_x) {
-        if (outline.isEmpty())
-            return;
-        outline << target.flipped(last_x, style.base_y)
-                << QPointF(outline.front().x(), target.height() - style.base_y);
-        painter.drawPolygon(outline);
-        outline.clear();
-    };
-    for (std::size_t i = 0; i < runs.size(); ++i) {
-        const column_run& run = runs[i];
-        if (!run.joined) {
-            close(i > 0 ? runs[i - 1].x : run.x);
-            continue;
-        }
-        outline << target.flipped(runs[i - 1].x, runs[i - 1].last) << target.flipped(run.x, run.first);
-    }
-    if (!runs.empty())
-        close(runs.back().x);
+    target.painter().drawImage(QPointF(0, 0),
+                               layer.paint(qPremultiply(style.ink.rgba()), qPremultiply(shade.rgba())));
 }
+
+bool covers(const column_run& run, int y) { return run.count > 1 && y >= run.low && y <= run.high; }
 
 void paint_segments(canvas& target, const std::vector<column_run>& runs, const curve_style& style) {
     QVector<QLineF> lines;
@@ -61,26 +129,11 @@ void paint_segments(canvas& target, const std::vector<column_run>& runs, const c
     }
 }
 
-void paint_columns(canvas& target, const std::vector<column_run>& runs, const curve_style& style) {
-    QVector<QRectF> columns;
-    columns.reserve(static_cast<qsizetype>(runs.size()));
-    for (const column_run& run : runs)
-        if (run.count > 1)
-            columns << QRectF(run.x - 1, target.height() - run.high - 1, 2, run.high - run.low + 2);
-    QPainter& painter = target.painter();
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(style.ink);
-    painter.drawRects(columns);
-}
-
 } // namespace
 
 void paint_curve(canvas& target, const std::vector<column_run>& runs, const curve_style& style) {
-    QPainter& painter = target.painter();
-    painter.save();
-    paint_area(target, runs, style);
+    target.painter().save();
+    paint_pixels(target, runs, style);
     paint_segments(target, runs, style);
-    paint_columns(target, runs, style);
-    painter.restore();
+    target.painter().restore();
 }

@@ -10,64 +10,84 @@ constexpr int FARTHEST = 1 << 14;
 
 class run_collector {
   public:
-    run_collector(const chart_area& area, const chart_limits& limits) : area_(area), limits_(limits) {}
+    run_collector(const sample_rows& samples, std::size_t parameter, const chart_area& area,
+                  const chart_limits& limits)
+        : samples_(samples), parameter_(parameter), area_(area), limits_(limits) {}
 
     void start_column(int x) {
+        finish_run();
         x_ = x;
         column_start_ = runs_.size();
-        open_ = false;
     }
 
     void add(const sample_piece& piece) {
-        if (piece.count == 0) {
-            open_ = joined_ = false;
+        if (!piece.number()) {
+            finish_run();
+            joined_ = false;
             return;
         }
-        const int first = y_of(piece.first);
-        const int one_end = y_of(piece.lowest);
-        const int other_end = y_of(piece.highest);
-        const int low = std::min(one_end, other_end);
-        const int high = std::max(one_end, other_end);
-        if (!open_) {
-            drop_hidden();
-            runs_.push_back({x_, first, low, high, first, 0, joined_});
+        if (open_.count == 0) {
+            open_ = piece;
+        } else {
+            open_.lowest = std::min(open_.lowest, piece.lowest);
+            open_.highest = std::max(open_.highest, piece.highest);
+            open_.count += piece.count;
         }
-        column_run& run = runs_.back();
-        run.low = std::min(run.low, low);
-        run.high = std::max(run.high, high);
-        run.last = y_of(piece.last);
-        run.count += piece.count;
-        open_ = joined_ = true;
+        last_row_ = piece.row + piece.count - 1;
     }
 
-    std::vector<column_run> take() { return std::move(runs_); }
+    std::vector<column_run> take() {
+        finish_run();
+        return std::move(runs_);
+    }
 
   private:
     int y_of(double value) const { return std::clamp(scale_y(value, area_, limits_), -FARTHEST, FARTHEST); }
 
-    // A run between two gaps of one column adds nothing where another run of the column already is, and nothing
-    // at all when it has no segment. This keeps a column's runs fewer than its pixels, however many gaps it has.
-    void drop_hidden() {
-        if (runs_.size() == column_start_)
+    void finish_run() {
+        if (open_.count == 0)
             return;
-        const column_run& latest = runs_.back();
-        if (latest.joined)
-            return;
-        const auto hides = [&](const column_run& other) {
-            return other.count > 1 && other.low <= latest.low && other.high >= latest.high;
-        };
-        const auto begin = runs_.begin() + static_cast<std::ptrdiff_t>(column_start_);
-        if (latest.count == 1 || std::any_of(begin, runs_.end() - 1, hides))
-            runs_.pop_back();
+        const int one_end = y_of(open_.lowest);
+        const int other_end = y_of(open_.highest);
+        merge_latest();
+        runs_.push_back({x_, y_of(samples_.value(open_.row, parameter_)), std::min(one_end, other_end),
+                         std::max(one_end, other_end), y_of(samples_.value(last_row_, parameter_)), open_.count,
+                         joined_});
+        joined_ = true;
+        open_.count = 0;
     }
 
+    // The latest run of this column ended in a gap. Where it began with one too, all it adds is its extent: nothing
+    // without a segment of its own, and nothing by itself where it meets another run. This keeps a column's runs
+    // fewer than its pixels, however many gaps it has.
+    void merge_latest() {
+        if (runs_.size() == column_start_ || runs_.back().joined)
+            return;
+        const column_run latest = runs_.back();
+        const auto meets = [&](const column_run& other) {
+            return other.count > 1 && other.low <= latest.high && other.high >= latest.low;
+        };
+        const auto end = runs_.end() - 1;
+        const auto other = std::find_if(runs_.begin() + static_cast<std::ptrdiff_t>(column_start_), end, meets);
+        if (latest.count > 1 && other == end)
+            return;
+        if (latest.count > 1) {
+            other->low = std::min(other->low, latest.low);
+            other->high = std::max(other->high, latest.high);
+        }
+        runs_.pop_back();
+    }
+
+    const sample_rows& samples_;
+    std::size_t parameter_;
     const chart_area& area_;
     const chart_limits& limits_;
     std::vector<column_run> runs_;
     std::size_t column_start_ = 0;
     int x_ = 0;
-    bool open_ = false;   // the next sample continues the latest run
-    bool joined_ = false; // the next sample follows a number
+    sample_piece open_{}; // the run being collected; without samples there is none
+    std::size_t last_row_ = 0; // of that run
+    bool joined_ = false; // a segment leads to it
 };
 
 // The first row at or after `row` whose column is not `x`.
@@ -89,7 +109,7 @@ std::size_t end_of_column(std::size_t row, std::size_t end, int x, const chart_a
 
 std::vector<column_run> reduce_curve(const sample_rows& samples, std::size_t parameter, const row_window& window,
                                      const chart_area& area, const chart_limits& limits) {
-    run_collector collector(area, limits);
+    run_collector collector(samples, parameter, area, limits);
     const std::size_t end = window.first + window.count;
     for (std::size_t row = window.first; row < end;) {
         const int x = scale_x(static_cast<double>(row), area, limits);

@@ -22,10 +22,11 @@
 // A place that no reply has been filed into reads so.
 inline constexpr std::string_view UNFILLED = "-1";
 
-// Consecutive samples that are all numbers; count 0: a sample that is no number.
+// Consecutive samples, all of them numbers, or one that is none.
 struct sample_piece {
-    double first, lowest, highest, last;
-    std::size_t count;
+    std::size_t row, count;
+    double lowest, highest; // NaN: no number
+    bool number() const { return !std::isnan(lowest); }
 };
 
 class sample_rows {
@@ -123,14 +124,10 @@ void sample_rows::for_each_piece(std::size_t parameter, std::size_t first, std::
             length = size;
             size *= BLOCK;
         }
-        const double here = value(row, parameter);
         if (largest != nullptr)
-            visit(sample_piece{here, largest->lowest, largest->highest, value(row + length - 1, parameter),
-                               length});
-        else if (!std::isnan(here))
-            visit(sample_piece{here, here, here, here, 1});
-        else if (filled(row, parameter))
-            visit(sample_piece{here, here, here, here, 0});
+            visit(sample_piece{row, length, largest->lowest, largest->highest});
+        else if (const double here = value(row, parameter); !std::isnan(here) || filled(row, parameter))
+            visit(sample_piece{row, 1, here, here});
         row += length;
     }
 }

@@ -1,0 +1,266 @@
+#include "drawChartyItem.h"
+
+#include "drawing_fixture.h"
+#include "fixed_decimals.h"
+#include "qt_warnings.h"
+
+namespace {
+
+const QSizeF LARGE(420, 230);
+const QSizeF THUMBNAIL(200, 200);
+const QColor BACKGROUND(46, 46, 46);
+
+class chart_test : public drawing_test {
+  protected:
+    chart_test() {
+        chart.initWitdim(LARGE, "charts/main");
+        chart.setThumbnail(false);
+        chart.use_this_pids(pids);
+        chart.update_cur_sample(samples);
+    }
+
+    // Rows of 0C and 0D.
+    void fill(sample_rows& rows, int count) {
+        for (int i = 0; i < count; ++i) {
+            rows.append_fresh_row();
+            file(rows, 0, i % 2 == 0 ? "410C0FA0" : "410C1F40"); // 1000, 2000
+            file(rows, 1, "410D64");
+        }
+    }
+
+    void draw(const sample_rows& rows) {
+        const label_records labels = chart.work_out_labels(rows);
+        chart.draw_grid(labels, "All sampling points");
+        EXPECT_TRUE(chart.plot_array_list(rows, labels));
+    }
+
+    std::vector<std::string> pids{"0C", "0D", "05"};
+    sample_set samples{{"0C", "2000.00 RPM", "9", "1"}, {"0D", "62.50 mph", "max", "min"}, {"05", "~", "0.0", "0.0"}};
+    drawChartyItem chart{doors};
+};
+
+TEST_F(chart_test, starts_as_a_thumbnail_of_all_rows_under_its_last_path_component) {
+    drawChartyItem item(doors);
+    item.initWitdim(THUMBNAIL, "a/b/0C");
+    EXPECT_EQ(item.imageID(), "0C");
+    EXPECT_EQ(item.curPlottingIdx(), 0);
+    EXPECT_FALSE(item.isSelectedThumb());
+    EXPECT_EQ(item.image().size(), QSize(200, 200));
+    item.set_pixel_scale(2);
+    EXPECT_EQ(item.imageRepresentation().size(), QSize(400, 400));
+}
+
+TEST_F(chart_test, plots_its_one_index_until_the_set_holds_two) {
+    const struct {
+        std::set<int> set;
+        int asked;
+        bool expected;
+    } cases[] = {{{}, 1, true}, {{}, 0, false}, {{2}, 1, true}, {{2}, 2, false}, {{0, 2}, 2, true},
+                 {{0, 2}, 1, false}};
+    chart.set_item_2_plot(1);
+    for (const auto& c : cases) {
+        chart.updateNoOfPlots(c.set);
+        EXPECT_EQ(chart.isPlottingThisIndex(c.asked), c.expected) << c.asked;
+    }
+}
+
+TEST_F(chart_test, labels_come_from_the_catalogue_and_then_from_the_samples) {
+    sample_rows rows(3);
+    fill(rows, 1);
+    label_records labels = chart.work_out_labels(rows);
+    ASSERT_EQ(labels.size(), 3U);
+    EXPECT_EQ(labels[0].name, decoder.get_pid_name("0C", false));
+    EXPECT_EQ(labels[0].units, "RPM");
+    EXPECT_EQ(labels[0].upper, "12287.812500");
+    EXPECT_EQ(labels[0].lower, "4095.937500");
+
+    // A lower quarter first, before a run.
+    EXPECT_EQ(chart.work_out_labels_4_realtime()[0].upper, "4095.937500");
+    EXPECT_EQ(chart.work_out_labels_4_realtime()[0].lower, "12287.812500");
+
+    fill(rows, 3);
+    labels = chart.work_out_labels(rows);
+    EXPECT_EQ(labels[0].upper, "2000.000000");
+    EXPECT_EQ(labels[0].lower, "1000.000000");
+    EXPECT_EQ(labels[1].lower, "62.500000");
+    rows.append_fresh_row(); // its unfilled places count as 0
+    EXPECT_EQ(chart.work_out_labels(rows)[1].lower, "0.000000");
+    EXPECT_EQ(chart.get_OBDVal("NO DATA"), 0);
+    EXPECT_EQ(chart.get_OBDVal("-1"), 0);
+    EXPECT_EQ(chart.get_OBDVal("41 0C 1A F8"), 1726);
+}
+
+TEST_F(chart_test, axis_width_is_measured_on_the_moved_limits) {
+    const label_record moved{"", "", "37.000000", "12.000000"};
+    const label_record same{"", "", "39.000000", "15.000000"};
+    EXPECT_EQ(drawChartyItem::upper_limit(moved), 40);
+    EXPECT_EQ(drawChartyItem::lower_limit(moved), 0);
+    EXPECT_EQ(drawChartyItem::get_width_of_axis_label(moved), drawChartyItem::get_width_of_axis_label(same));
+    EXPECT_LT(drawChartyItem::get_width_of_axis_label({"", "", "5", "2"}),
+              drawChartyItem::get_width_of_axis_label(moved));
+}
+
+TEST_F(chart_test, paints_background_plot_curve_and_readout) {
+    for (const double scale : {1.0, 2.0}) {
+        chart.set_pixel_scale(scale);
+        sample_rows rows(3);
+        for (int i = 0; i < 400; ++i) {
+            rows.append_fresh_row();
+            file(rows, 0, "410C0FA0"); // 1000 of 0 to 2000
+        }
+        draw(rows);
+        const QImage& image = chart.image();
+        const chart_area plot = chart.plot_area();
+        EXPECT_EQ(plot.y, 20);
+        EXPECT_EQ(plot.height, 200);
+        EXPECT_EQ(plot.x + plot.width, 412);
+        // The left margin's band, the margin below, the plot over and under the curve, and the curve.
+        EXPECT_TRUE(near_colour(pixel_at(image, 300, 8), BACKGROUND)) << pixel_at(image, 300, 8).name().toStdString();
+        EXPECT_GT(pixel_at(image, 2.5, 100).red(), 140);
+        const QColor above = pixel_at(image, plot.x + 60, 130);
+        const QColor below = pixel_at(image, plot.x + 60, 70);
+        EXPECT_GT(below.red(), above.red() + 20);
+        EXPECT_TRUE(near_colour(pixel_at(image, plot.x + 60, 120), QColor(223, 1, 1), 30));
+        // The third above is shaded, its bar's first segment lit: 2000 of 16383.75 fills two.
+        EXPECT_LT(pixel_at(image, 2.5, 160).red(), pixel_at(image, 2.5, 140).red());
+        EXPECT_GT(pixel_at(image, 143, 218).red(), pixel_at(image, 143, 218).blue() + 40);
+        EXPECT_LT(std::abs(pixel_at(image, 187, 218).red() - pixel_at(image, 187, 218).blue()), 40);
+        EXPECT_EQ(chart.last_value(), 1000);
+    }
+}
+
+TEST_F(chart_test, two_axes_narrow_the_plot_of_the_large_chart_only) {
+    sample_rows rows(3);
+    fill(rows, 50);
+    chart.updateNoOfPlots({0, 1});
+    draw(rows);
+    const chart_area plot = chart.plot_area();
+    EXPECT_LT(plot.x + plot.width, 400);
+    // The second curve's band, green.
+    const QColor band = pixel_at(chart.image(), plot.x + plot.width + 10, 100);
+    EXPECT_GT(band.green(), band.red() + 60);
+    chart.setThumbnail(true);
+    draw(rows);
+    EXPECT_EQ(chart.plot_area().x + chart.plot_area().width, 412);
+}
+
+TEST_F(chart_test, a_selected_thumbnail_is_plainly_lit) {
+    sample_rows rows(3);
+    fill(rows, 5);
+    chart.resizeImage(THUMBNAIL);
+    chart.setThumbnail(true);
+    draw(rows);
+    const QColor dark = pixel_at(chart.image(), 100, 10);
+    chart.set_thumb_selected(true);
+    draw(rows);
+    const QColor lit = pixel_at(chart.image(), 100, 10);
+    EXPECT_GT(lit.blue(), dark.blue() + 40);
+}
+
+TEST_F(chart_test, a_window_of_rows_moves_the_curve) {
+    sample_rows rows(3);
+    for (int i = 0; i < 100; ++i) {
+        rows.append_fresh_row();
+        file(rows, 0, i < 80 ? "410C0000" : "410C0FA0");
+    }
+    draw(rows);
+    const QColor early = pixel_at(chart.image(), chart.plot_area().x + 100, 120);
+    chart.setNumberPointsToPlot(20);
+    draw(rows);
+    EXPECT_FALSE(near_colour(early, QColor(223, 1, 1), 60));
+    EXPECT_TRUE(near_colour(pixel_at(chart.image(), chart.plot_area().x + 100, 120), QColor(223, 1, 1), 30));
+    chart.setNumberPointsToPlot(0);
+    draw(rows);
+}
+
+TEST_F(chart_test, what_did_not_change_is_drawn_from_the_kept_picture) {
+    sample_rows rows(3);
+    fill(rows, 5);
+    const label_records labels = chart.work_out_labels(rows);
+    chart.draw_grid(labels, "All sampling points");
+    const QImage first = chart.image();
+    chart.plot_array_list(rows, labels);
+    EXPECT_NE(chart.image(), first);
+    chart.draw_grid(labels, "All sampling points");
+    EXPECT_EQ(chart.image(), first);
+    chart.draw_grid(labels, "Charting last 20 sampling points");
+    EXPECT_NE(chart.image(), first);
+}
+
+TEST_F(chart_test, indices_and_rows_that_do_not_exist_are_harmless) {
+    sample_rows rows(3);
+    fill(rows, 5);
+    chart.set_item_2_plot(-1);
+    draw(rows); // the first axis, no curve
+    chart.set_item_2_plot(77);
+    draw(rows);
+    chart.updateNoOfPlots({1, 900});
+    draw(rows);
+    EXPECT_FALSE(chart.plot_array_list(sample_rows(3), chart.work_out_labels(rows)));
+    expect_warning("plot_array_list::");
+    chart.updateNoOfPlots({});
+    chart.set_item_2_plot(1);
+    EXPECT_FALSE(chart.plot_array_list(rows, {}));
+    chart.draw_grid({}, "");
+    EXPECT_EQ(drawChartyItem::setMyColor(8), QColor(0, 0, 0));
+    EXPECT_EQ(drawChartyItem::setMyColor(-1), QColor(0, 0, 0));
+    EXPECT_EQ(drawChartyItem::setMyColor(2), QColor(250, 88, 247));
+}
+
+TEST_F(chart_test, rubbish_replies_are_charted_without_harm) {
+    sample_rows rows(3);
+    for (const std::string& reply :
+         {std::string(5000, 'F'), std::string("410CFFFFFFFFFFFFFFFF"), std::string("\0\xff\x80>", 4), std::string("~"),
+          std::string("41320010"), std::string("NO DATA"), std::string("4104")}) {
+        rows.append_fresh_row();
+        for (std::size_t i = 0; i < 3; ++i)
+            file(rows, i, reply);
+        for (int i = 0; i < 3; ++i) {
+            chart.set_item_2_plot(i);
+            draw(rows);
+        }
+    }
+    chart.update_cur_sample({{"0C", std::string(4000, '9'), "nan", "inf"}, {"", "\xff\xfe", "", ""}});
+    draw(rows);
+}
+
+class realtime_test : public chart_test {
+  protected:
+    void add(double value) {
+        chart.val_points().push_back({fixed_decimals(value, 2)});
+        chart.plot_this_point_realtime(0);
+    }
+    realtime_test() {
+        chart.use_this_pids({"04"});
+        chart.update_cur_sample({{"04", "50.00  %", "60", "40"}});
+        chart.draw_grid(chart.work_out_labels_4_realtime(), "");
+    }
+    QColor at(double share_x, double y_share) {
+        const chart_area p = chart.plot_area();
+        return pixel_at(chart.image(), p.x + share_x * p.width, p.y + y_share * p.height);
+    }
+};
+
+TEST_F(realtime_test, points_extend_the_curve_and_early_ones_are_marked) {
+    chart.plot_this_point_realtime(0); // nothing there yet
+    add(75); // the limits before sampling are 30 (25 moved up) and 60 (75 moved down), turned round
+    const QImage before = chart.image();
+    add(50);
+    EXPECT_NE(chart.image(), before);
+}
+
+TEST_F(realtime_test, history_is_redrawn_every_20th_and_thinned_at_200) {
+    for (int i = 0; i < 199; ++i)
+        add(50);
+    EXPECT_EQ(chart.val_points().size(), 199U);
+    add(50);
+    EXPECT_EQ(chart.val_points().size(), 100U);
+    for (const double value : {1e300, -1e300, std::numeric_limits<double>::quiet_NaN()})
+        add(value);
+    chart.val_points().push_back({});
+    expect_warning("plot_this_point_realtime::");
+    chart.plot_this_point_realtime(0);
+    chart.plot_this_point_realtime(-3);
+}
+
+} // namespace

@@ -71,7 +71,7 @@ QString ui_text(Ks_lite_delegate& delegate, std::string_view key) {
 void give_room(QTableView* table) {
     table->setStyleSheet(QStringLiteral(
         "QTableView::item { padding: 4px 8px; }"
-        "QHeaderView::section { padding: 4px 8px; border: none; border-bottom: 1px solid palette(mid);"
+        "QHeaderView::section { padding: 4px; border: none; border-bottom: 1px solid palette(mid);"
         " background: palette(button); }"));
     table->setTabKeyNavigation(false);
     table->verticalHeader()->hide();

@@ -51,7 +51,8 @@ TEST_F(settings_file, rubbish_in_the_file_reads_as_absent_values) {
     const std::string plain = folder.filePath(QStringLiteral("rubbish.conf")).toStdString();
     QFile file(QString::fromStdString(plain));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("\x00\xff\xfe[[[=\n==\nKS_interface=six\n", 30);
+    constexpr char RUBBISH[] = "\x00\xff\xfe[[[=\n==\nKS_interface=six\n";
+    file.write(RUBBISH, sizeof RUBBISH - 1);
     file.close();
     expect_warning("could not be read whole");
     const user_defaults store(plain);

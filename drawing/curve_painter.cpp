@@ -4,23 +4,24 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 namespace {
 
 constexpr double AREA_ALPHA = 0.2;
 constexpr double FIRST_PASS_WIDTH = 1;
 
-// For each pixel column the lines [top, bottom) that something covers.
+// For each pixel column the lines that something covers.
 struct column_spans {
-    explicit column_spans(int columns) : top(static_cast<std::size_t>(columns), 0), bottom(top) {}
-    bool free(int column) const { return top[at(column)] == bottom[at(column)]; }
-    void set(int column, int from, int to) {
-        top[at(column)] = from;
-        bottom[at(column)] = to;
+    explicit column_spans(int columns) : top(static_cast<std::size_t>(columns), 0), height(top) {}
+    bool free(int column) const { return height[at(column)] == 0; }
+    void set(int column, int from, int end) {
+        top[at(column)] = static_cast<std::uint32_t>(from);
+        height[at(column)] = static_cast<std::uint32_t>(std::max(end - from, 0));
     }
     static std::size_t at(int column) { return static_cast<std::size_t>(column); }
 
-    std::vector<int> top, bottom;
+    std::vector<std::uint32_t> top, height;
 };
 
 // The pixels of the area and of the columns, put together line by line and laid over the chart at once: the same by
@@ -52,15 +53,8 @@ class pixel_layer {
     const QImage& paint(QRgb ink, QRgb shade) {
         auto* const pixels = reinterpret_cast<QRgb*>(image_.bits());
         const int width = image_.width();
-        for (int py = 0; py < image_.height(); ++py) {
-            QRgb* const line = pixels + py * width; // lines follow each other without padding
-            for (std::size_t px = 0; px < static_cast<std::size_t>(width); ++px) {
-                const bool inked = (py >= left_halves_.top[px] && py < left_halves_.bottom[px]) |
-                                   (py >= right_halves_.top[px] && py < right_halves_.bottom[px]);
-                const bool shaded = py >= area_.top[px] && py < area_.bottom[px];
-                line[px] = inked ? ink : shaded ? shade : 0;
-            }
-        }
+        for (int py = 0; py < image_.height(); ++py)
+            paint_line(pixels + py * width, static_cast<std::uint32_t>(py), ink, shade);
         for (const QRect& more : more_runs_)
             for (int py = more.top(); py <= more.bottom(); ++py)
                 std::fill_n(pixels + py * width + more.left(), more.width(), ink);
@@ -68,6 +62,17 @@ class pixel_layer {
     }
 
   private:
+    // Lines follow each other without padding. Without branches, so that several pixels are done at a time.
+    void paint_line(QRgb* line, std::uint32_t py, QRgb ink, QRgb shade) const {
+        const auto covered = [py](const column_spans& spans, std::size_t px) {
+            return py - spans.top[px] < spans.height[px];
+        };
+        for (std::size_t px = 0; px < area_.top.size(); ++px) {
+            const QRgb ground = covered(area_, px) ? shade : 0;
+            line[px] = covered(left_halves_, px) | covered(right_halves_, px) ? ink : ground;
+        }
+    }
+
     int first_centre_from(double units) const { return static_cast<int>(std::ceil(units * scale_ - 0.5)); }
     int nearest(double units) const { return static_cast<int>(std::lround(units * scale_)); }
 

@@ -12,7 +12,9 @@ class run_collector {
   public:
     run_collector(const sample_rows& samples, std::size_t parameter, const chart_area& area,
                   const chart_limits& limits)
-        : samples_(samples), parameter_(parameter), area_(area), limits_(limits) {}
+        : samples_(samples), parameter_(parameter), area_(area), limits_(limits) {
+        runs_.reserve(static_cast<std::size_t>(std::max(area.width, 0)) + 1);
+    }
 
     void start_column(int x) {
         finish_run();

@@ -2,7 +2,6 @@
 
 #include "fixed_decimals.h"
 
-#include <algorithm>
 #include <cstring>
 #include <limits>
 
@@ -80,6 +79,19 @@ void sample_rows::sum_up(column& c) const {
         for (std::size_t i = blocks.size() - BLOCK + 1; i < blocks.size(); ++i)
             widen(sum, blocks[i].lowest, blocks[i].highest);
     }
+}
+
+sample_rows::level_found sample_rows::largest_block(const column& c, std::size_t row, std::size_t end) {
+    level_found found;
+    std::size_t size = BLOCK;
+    for (const std::vector<block>& level : c.levels) {
+        const std::size_t place = row / size;
+        if (row % size != 0 || row + size > end || place >= level.size() || !level[place].whole())
+            break;
+        found = {&level, size};
+        size *= BLOCK;
+    }
+    return found;
 }
 
 void sample_rows::file(std::size_t parameter, std::string_view reply, const translated& meaning) {

@@ -10,6 +10,7 @@
 
 #include "mac_toolies.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
@@ -99,6 +100,20 @@ class sample_rows {
         double highest, lowest;                 // of complete rows from the second on
     };
 
+    // The level, and its blocks' size, of the largest block that starts at `row`, ends in time and holds nothing but
+    // numbers; none when there is none.
+    struct level_found {
+        const std::vector<block>* level = nullptr;
+        std::size_t size = 1;
+    };
+    static level_found largest_block(const column& c, std::size_t row, std::size_t end);
+    template <class Visitor>
+    static std::size_t visit_blocks(const std::vector<block>& level, std::size_t size, std::size_t first,
+                                    std::size_t end, Visitor& visit);
+    template <class Visitor>
+    std::size_t visit_rows(const column& c, std::size_t parameter, std::size_t first, std::size_t end,
+                           Visitor& visit) const;
+
     void complete_last_row();
     void sum_up(column& c) const;
     double& value_at(column& c, std::size_t row) const { return c.chunks[row / CHUNK]->values[row % CHUNK]; }
@@ -113,21 +128,46 @@ template <class Visitor>
 void sample_rows::for_each_piece(std::size_t parameter, std::size_t first, std::size_t end, Visitor visit) const {
     const column& c = columns_[parameter];
     for (std::size_t row = first; row < end;) {
-        // The largest block that starts here, ends in time and holds nothing but numbers.
-        const block* largest = nullptr;
-        std::size_t length = 1;
-        std::size_t size = BLOCK;
-        for (const std::vector<block>& level : c.levels) {
-            if (row % size != 0 || row + size > end || row / size >= level.size() || !level[row / size].whole())
-                break;
-            largest = &level[row / size];
-            length = size;
-            size *= BLOCK;
-        }
-        if (largest != nullptr)
-            visit(sample_piece{row, length, largest->lowest, largest->highest});
-        else if (const double here = value(row, parameter); !std::isnan(here) || filled(row, parameter))
-            visit(sample_piece{row, 1, here, here});
-        row += length;
+        const auto [level, size] = largest_block(c, row, end);
+        row = level != nullptr ? visit_blocks(*level, size, row, end, visit)
+                               : visit_rows(c, parameter, row, std::min(end, (row / BLOCK + 1) * BLOCK), visit);
     }
+}
+
+// Blocks of one level, up to where a larger one may start.
+template <class Visitor>
+std::size_t sample_rows::visit_blocks(const std::vector<block>& level, std::size_t size, std::size_t first,
+                                      std::size_t end, Visitor& visit) {
+    const std::size_t start = first / size;
+    const std::size_t stop = std::min({end / size, level.size(), (start / BLOCK + 1) * BLOCK});
+    block sum = level[start];
+    std::size_t place = start + 1;
+    for (; place < stop && level[place].whole(); ++place) {
+        sum.lowest = std::min(sum.lowest, level[place].lowest);
+        sum.highest = std::max(sum.highest, level[place].highest);
+    }
+    visit(sample_piece{first, (place - start) * size, sum.lowest, sum.highest});
+    return place * size;
+}
+
+// Rows of one block.
+template <class Visitor>
+std::size_t sample_rows::visit_rows(const column& c, std::size_t parameter, std::size_t first, std::size_t end,
+                                    Visitor& visit) const {
+    const double* const values = c.chunks[first / CHUNK]->values.data() + first % CHUNK;
+    const std::size_t count = end - first;
+    for (std::size_t i = 0; i < count;) {
+        sample_piece piece{first + i, 1, values[i], values[i]};
+        if (!piece.number() && !filled(first + i, parameter)) {
+            ++i;
+            continue;
+        }
+        for (++i; i < count && piece.number() && !std::isnan(values[i]); ++i) {
+            piece.lowest = std::min(piece.lowest, values[i]);
+            piece.highest = std::max(piece.highest, values[i]);
+            ++piece.count;
+        }
+        visit(piece);
+    }
+    return end;
 }

@@ -22,7 +22,8 @@ constexpr QSizeF THUMBNAIL(200, 200);
 const std::vector<std::string> PIDS{"0C", "0D", "05", "04"};
 
 // A drive of four parameters; smooth or as noisy as a parameter can be.
-std::vector<std::string> replies_of(std::size_t row, std::size_t rows, bool noisy, std::mt19937& random) {
+std::vector<std::string> replies_of(std::size_t row, std::size_t rows, bool noisy,
+                                    std::mt19937& random) {
     const double along = 20 * static_cast<double>(row) / static_cast<double>(rows);
     const auto reply = [&](const char* format, double smooth, unsigned most) {
         const unsigned value = noisy ? random() % (most + 1) : static_cast<unsigned>(smooth);
@@ -61,7 +62,8 @@ struct drawing_bench {
     }
 };
 
-std::unique_ptr<drawChartyItem> make_chart(const drawing_bench& bench, bool thumbnail, int item, double scale = 1) {
+std::unique_ptr<drawChartyItem> make_chart(const drawing_bench& bench, bool thumbnail, int item,
+                                           double scale = 1) {
     auto chart = std::make_unique<drawChartyItem>(bench.doors);
     chart->initWitdim(thumbnail ? THUMBNAIL : LARGE, "main");
     chart->set_pixel_scale(scale);
@@ -106,14 +108,17 @@ timed_work filing(const shared_bench& bench, std::size_t rows) {
         if (parameter == 0)
             s->samples.append_fresh_row();
         constexpr std::string_view REPLIES[] = {"410C1AF8", "410D64", "41057B", "4104FF"};
-        s->samples.file(parameter, REPLIES[parameter], bench->decoder.translate_once(REPLIES[parameter]));
+        s->samples.file(parameter, REPLIES[parameter],
+                        bench->decoder.translate_once(REPLIES[parameter]));
         benchmark::DoNotOptimize(s->chart->work_out_labels(s->samples));
     }};
 }
 
 timed_work large_chart(const shared_bench& bench, std::size_t rows, bool noisy, double scale = 1) {
     const std::shared_ptr<drawChartyItem> chart = make_chart(*bench, false, 0, scale);
-    return {[bench, chart, rows, noisy, frame = 0]() mutable { draw(*chart, bench->rows(rows, noisy), ++frame); }};
+    return {[bench, chart, rows, noisy, frame = 0]() mutable {
+        draw(*chart, bench->rows(rows, noisy), ++frame);
+    }};
 }
 
 timed_work literal_chart(const shared_bench& bench, std::size_t rows, bool noisy) {
@@ -124,7 +129,8 @@ timed_work literal_chart(const shared_bench& bench, std::size_t rows, bool noisy
         chart->draw_grid(labels, "All sampling points");
         QImage image = chart->image();
         canvas target(image);
-        const chart_limits limits{0, static_cast<double>(rows), drawChartyItem::lower_limit(labels[0]),
+        const chart_limits limits{0, static_cast<double>(rows),
+                                  drawChartyItem::lower_limit(labels[0]),
                                   drawChartyItem::upper_limit(labels[0])};
         paint_every_segment(target, samples, 0, {0, rows}, chart->plot_area(), limits,
                             {drawChartyItem::setMyColor(0), 1.8, chart->plot_area().y});
@@ -173,19 +179,22 @@ double bytes_a_sample(const drawing_bench& bench) {
 
 void add_drawing_rows(ratio_table& table) {
     const auto bench = std::make_shared<drawing_bench>();
-    table.add_ratio("filing a reply and labels, 1,000,000 rows", filing(bench, 1000000), "the same, 1,000 rows",
-                    filing(bench, 1000), reach::at_most, 1.2);
+    table.add_ratio("filing a reply and labels, 1,000,000 rows", filing(bench, 1000000),
+                    "the same, 1,000 rows", filing(bench, 1000), reach::at_most, 1.2);
     for (const bool noisy : {false, true}) {
         const std::string data = noisy ? ", noisy" : ", smooth";
         table.add_ratio("large chart of 1,000,000 rows" + data, large_chart(bench, 1000000, noisy),
-                        "the same of 10,000 rows", large_chart(bench, 10000, noisy), reach::at_most, 1.2);
+                        "the same of 10,000 rows", large_chart(bench, 10000, noisy), reach::at_most,
+                        1.2);
         table.add_ratio("large chart of 100,000 rows" + data, large_chart(bench, 100000, noisy),
-                        "every segment drawn", literal_chart(bench, 100000, noisy), reach::at_least, 100, 3);
+                        "every segment drawn", literal_chart(bench, 100000, noisy), reach::at_least,
+                        100, 3);
     }
     for (const double scale : {1.0, 2.0})
         table.add_ratio("whole frame, scale " + std::to_string(static_cast<int>(scale)),
                         whole_frame(bench, 100000, scale), "the large chart once",
                         large_chart(bench, 100000, false, scale), reach::at_most, 5);
-    table.add_figure("bytes a sample in sample_rows", [bench] { return bytes_a_sample(*bench); }, reach::at_most,
-                     48);
+    table.add_figure(
+        "bytes a sample in sample_rows", [bench] { return bytes_a_sample(*bench); }, reach::at_most,
+        48);
 }

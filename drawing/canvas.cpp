@@ -25,7 +25,9 @@ QFont image_font(const QString& family, int pixels, bool bold) {
     return font;
 }
 
-double text_width(const QFont& font, const QString& text) { return QFontMetricsF(font).horizontalAdvance(text); }
+double text_width(const QFont& font, const QString& text) {
+    return QFontMetricsF(font).horizontalAdvance(text);
+}
 
 QString qstring(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
@@ -56,33 +58,46 @@ void canvas::text(double x, double y, const QString& text, const QFont& font, co
     text_on_base_line(x, y + QFontMetricsF(font).descent(), text, font, ink);
 }
 
-void canvas::text_within(double room, int smallest, double x, double y, const QString& text, QFont font,
-                         const QColor& ink) {
+void canvas::text_within(double room, int smallest, double x, double y, const QString& text,
+                         QFont font, const QColor& ink) {
     const double base_y = y + QFontMetricsF(font).descent();
     const double wide = text_width(font, text);
-    if (wide > room)
-        font.setPixelSize(std::max(smallest, static_cast<int>(font.pixelSize() * room / wide)));
-    text_on_base_line(x, base_y, QFontMetricsF(font).elidedText(text, Qt::ElideRight, room), font, ink);
+    if (wide <= room) {
+        text_on_base_line(x, base_y, text, font, ink);
+        return;
+    }
+    const int fitting = static_cast<int>(font.pixelSize() * room / wide);
+    font.setPixelSize(std::max(smallest, fitting));
+    const bool cut = fitting < smallest;
+    text_on_base_line(x, base_y,
+                      cut ? QFontMetricsF(font).elidedText(text, Qt::ElideRight, room) : text, font,
+                      ink);
 }
 
-void canvas::fill(const QRectF& area, const QBrush& brush) { painter_.fillRect(flipped(area), brush); }
+void canvas::fill(const QRectF& area, const QBrush& brush) {
+    painter_.fillRect(flipped(area), brush);
+}
 
-void canvas::fill_gradient(const QRectF& area, const QColor& from, const QColor& to, double degrees) {
+void canvas::fill_gradient(const QRectF& area, const QColor& from, const QColor& to,
+                           double degrees) {
     const double angle = degrees * std::numbers::pi / 180;
     const QPointF along(std::cos(angle), std::sin(angle));
-    const double reach = (std::fabs(along.x()) * area.width() + std::fabs(along.y()) * area.height()) / 2;
+    const double reach =
+        (std::fabs(along.x()) * area.width() + std::fabs(along.y()) * area.height()) / 2;
     const QPointF centre = area.center();
-    QLinearGradient gradient(flipped(centre.x() - along.x() * reach, centre.y() - along.y() * reach),
-                             flipped(centre.x() + along.x() * reach, centre.y() + along.y() * reach));
+    QLinearGradient gradient(
+        flipped(centre.x() - along.x() * reach, centre.y() - along.y() * reach),
+        flipped(centre.x() + along.x() * reach, centre.y() + along.y() * reach));
     gradient.setColorAt(0, from);
     gradient.setColorAt(1, to);
     fill(area, gradient);
 }
 
-void canvas::shadow_of(const QRectF& area, const QColor& shade, QPointF offset, double blur_radius) {
+void canvas::shadow_of(const QRectF& area, const QColor& shade, QPointF offset,
+                       double blur_radius) {
     const QRectF shape = flipped(area.translated(offset));
-    const cast_shadow cast = cast_shadow_of(
-        shape, blur_radius, painter_.device()->devicePixelRatio(), shade,
-        [&shape](QPainter& painter) { painter.drawRect(shape); });
+    const cast_shadow cast =
+        cast_shadow_of(shape, blur_radius, painter_.device()->devicePixelRatio(), shade,
+                       [&shape](QPainter& painter) { painter.drawRect(shape); });
     painter_.drawImage(cast.at, cast.image);
 }

@@ -1,5 +1,5 @@
-// Paints into an image in image units with the origin at the lower left, whatever the image's pixel scale.
-// Lives while a picture is being painted.
+// Paints into an image in image units with the origin at the lower left, whatever the image's pixel
+// scale. Lives while a picture is being painted.
 #pragma once
 
 #include <QColor>
@@ -35,19 +35,20 @@ class canvas {
 
     // (x, y) is the lower-left corner of the text's line box, descent included.
     void text(double x, double y, const QString& text, const QFont& font, const QColor& ink);
-    // Like text(), but not wider than `room`: in smaller letters, down to `smallest`, then cut with an ellipsis.
-    // The base line stays where it is for the full size.
+    // Like text(), but not wider than `room`: in smaller letters, down to `smallest`, then cut with
+    // an ellipsis. The base line stays where it is for the full size.
     void text_within(double room, int smallest, double x, double y, const QString& text, QFont font,
                      const QColor& ink);
     void fill(const QRectF& area, const QBrush& brush);
-    // From the first colour to the second along `degrees`, counter-clockwise from rightwards; the corners of the
-    // area get the pure colours.
+    // From the first colour to the second along `degrees`, counter-clockwise from rightwards; the
+    // corners of the area get the pure colours.
     void fill_gradient(const QRectF& area, const QColor& from, const QColor& to, double degrees);
     // The shadow that an opaque area casts; the area itself is not painted.
     void shadow_of(const QRectF& area, const QColor& shade, QPointF offset, double blur_radius);
 
   private:
-    void text_on_base_line(double x, double base_y, const QString& text, const QFont& font, const QColor& ink);
+    void text_on_base_line(double x, double base_y, const QString& text, const QFont& font,
+                           const QColor& ink);
 
     QSizeF size_;
     QPainter painter_;

@@ -32,17 +32,20 @@ std::string mark_text(double value, bool with_decimals) {
 int scale_x(double x, const chart_area& area, const chart_limits& limits) {
     if (limits.max_x == limits.min_x)
         return area.x;
-    return moved_by(saturating_int((x - limits.min_x) * (area.width / (limits.max_x - limits.min_x))), area.x);
+    return moved_by(
+        saturating_int((x - limits.min_x) * (area.width / (limits.max_x - limits.min_x))), area.x);
 }
 
 int scale_y(double y, const chart_area& area, const chart_limits& limits) {
     if (limits.max_y == limits.min_y)
         return 0;
-    return moved_by(saturating_int((y - limits.min_y) * (area.height / (limits.max_y - limits.min_y))), area.y);
+    return moved_by(
+        saturating_int((y - limits.min_y) * (area.height / (limits.max_y - limits.min_y))), area.y);
 }
 
 chart_point scale_point(int x, double y, const chart_area& area, const chart_limits& limits) {
-    return {static_cast<float>(scale_x(x, area, limits)), static_cast<float>(scale_y(y, area, limits))};
+    return {static_cast<float>(scale_x(x, area, limits)),
+            static_cast<float>(scale_y(y, area, limits))};
 }
 
 chart_layout layout_of(double image_width, double image_height, double axis_width,
@@ -70,7 +73,8 @@ row_window window_of_rows(std::size_t rows, int shown) {
 axis_marks marks_of_axis(double lower, double upper, const chart_area& plot) {
     constexpr int STEPS = 5;
     const double step = (upper - lower) / STEPS;
-    const bool with_decimals = std::abs(static_cast<std::int64_t>(saturating_int(lower + 3 * step))) < 10;
+    const bool with_decimals =
+        std::abs(static_cast<std::int64_t>(saturating_int(lower + 3 * step))) < 10;
     axis_marks marks;
     for (int i = 0; i <= STEPS; ++i) {
         const auto place = static_cast<std::size_t>(i);

@@ -20,8 +20,9 @@ struct chart_point {
     bool operator==(const chart_point&) const = default;
 };
 
-// A sample's place in the area, truncated to whole units. Without a span of values y is 0; without a span of
-// samples x is the area's left edge. NaN counts as 0 and what no int holds as the nearest int.
+// A sample's place in the area, truncated to whole units. Without a span of values y is 0; without
+// a span of samples x is the area's left edge. NaN counts as 0 and what no int holds as the nearest
+// int.
 chart_point scale_point(int x, double y, const chart_area& area, const chart_limits& limits);
 int scale_x(double x, const chart_area& area, const chart_limits& limits);
 int scale_y(double y, const chart_area& area, const chart_limits& limits);
@@ -34,7 +35,8 @@ struct chart_layout {
 chart_layout layout_of(double image_width, double image_height, double axis_width,
                        std::optional<double> second_axis_width);
 
-// The rows to draw: the last `shown` of `rows`, or all when `shown` is negative or more than there are.
+// The rows to draw: the last `shown` of `rows`, or all when `shown` is negative or more than there
+// are.
 struct row_window {
     std::size_t first = 0, count = 0;
     bool operator==(const row_window&) const = default;

@@ -24,8 +24,8 @@ struct column_spans {
     std::vector<std::uint32_t> top, height;
 };
 
-// The pixels of the area and of the columns, put together line by line and laid over the chart at once: the same by
-// polygons and rectangles takes QPainter many times longer.
+// The pixels of the area and of the columns, put together line by line and laid over the chart at
+// once: the same by polygons and rectangles takes QPainter many times longer.
 class pixel_layer {
   public:
     pixel_layer(const canvas& target, double scale)
@@ -62,7 +62,8 @@ class pixel_layer {
     }
 
   private:
-    // Lines follow each other without padding. Without branches, so that several pixels are done at a time.
+    // Lines follow each other without padding. Without branches, so that several pixels are done at
+    // a time.
     void paint_line(QRgb* line, std::uint32_t py, QRgb ink, QRgb shade) const {
         const auto covered = [py](const column_spans& spans, std::size_t px) {
             return py - spans.top[px] < spans.height[px];
@@ -73,7 +74,9 @@ class pixel_layer {
         }
     }
 
-    int first_centre_from(double units) const { return static_cast<int>(std::ceil(units * scale_ - 0.5)); }
+    int first_centre_from(double units) const {
+        return static_cast<int>(std::ceil(units * scale_ - 0.5));
+    }
     int nearest(double units) const { return static_cast<int>(std::lround(units * scale_)); }
 
     void add_half(column_spans& spans, const column_run& run, int x) {
@@ -107,11 +110,13 @@ void paint_pixels(canvas& target, const std::vector<column_run>& runs, const cur
             layer.add_run(run);
     QColor shade = style.ink;
     shade.setAlphaF(static_cast<float>(AREA_ALPHA));
-    target.painter().drawImage(QPointF(0, 0),
-                               layer.paint(qPremultiply(style.ink.rgba()), qPremultiply(shade.rgba())));
+    target.painter().drawImage(
+        QPointF(0, 0), layer.paint(qPremultiply(style.ink.rgba()), qPremultiply(shade.rgba())));
 }
 
-bool covers(const column_run& run, int y) { return run.count > 1 && y >= run.low && y <= run.high; }
+bool covers(const column_run& run, int y) {
+    return run.count > 1 && y >= run.low && y <= run.high;
+}
 
 void paint_segments(canvas& target, const std::vector<column_run>& runs, const curve_style& style) {
     QVector<QLineF> lines;
@@ -121,8 +126,8 @@ void paint_segments(canvas& target, const std::vector<column_run>& runs, const c
         const column_run& to = runs[i];
         if (!to.joined)
             continue;
-        const bool hidden = to.x - from.x == 1 && covers(from, from.last) && covers(from, to.first) &&
-                            covers(to, from.last) && covers(to, to.first);
+        const bool hidden = to.x - from.x == 1 && covers(from, from.last) &&
+                            covers(from, to.first) && covers(to, from.last) && covers(to, to.first);
         if (!hidden)
             lines << QLineF(target.flipped(from.x, from.last), target.flipped(to.x, to.first));
     }

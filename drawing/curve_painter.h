@@ -16,6 +16,6 @@ struct curve_style {
     bool antialiased = true; // off only to compare pictures
 };
 
-// The area under the curve, what each pixel column holds of it, and its segments across columns. Takes as long as
-// there are runs, however many samples they stand for.
+// The area under the curve, what each pixel column holds of it, and its segments across columns.
+// Takes as long as there are runs, however many samples they stand for.
 void paint_curve(canvas& target, const std::vector<column_run>& runs, const curve_style& style);

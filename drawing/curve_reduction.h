@@ -1,5 +1,6 @@
-// A curve of any number of samples, reduced to what its pixel columns show of it. Drawing the reduced curve
-// gives the picture that drawing every segment gives (M4 aggregation: Jugel et al., VLDB 2014).
+// A curve of any number of samples, reduced to what its pixel columns show of it. Drawing the
+// reduced curve gives the picture that drawing every segment gives (M4 aggregation: Jugel et al.,
+// VLDB 2014).
 #pragma once
 
 #include "chart_geometry.h"
@@ -16,6 +17,8 @@ struct column_run {
     bool joined; // a segment leads here from the run before
 };
 
-// A sample that is no number leaves a gap: no segment leads to it or from it. Unfilled places are bridged.
-std::vector<column_run> reduce_curve(const sample_rows& samples, std::size_t parameter, const row_window& window,
-                                     const chart_area& area, const chart_limits& limits);
+// A sample that is no number leaves a gap: no segment leads to it or from it. Unfilled places are
+// bridged.
+std::vector<column_run> reduce_curve(const sample_rows& samples, std::size_t parameter,
+                                     const row_window& window, const chart_area& area,
+                                     const chart_limits& limits);

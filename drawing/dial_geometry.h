@@ -45,8 +45,8 @@ inline constexpr std::array<dial_label_place, 11> DIAL_LABEL_PLACES = {{
     {{245, 24}, true},
 }};
 
-// Not clamped: a value beyond the range turns the needle past the scale's end. Only a negative low shifts the
-// zero. Without a span, or for NaN, the needle stays at the start.
+// Not clamped: a value beyond the range turns the needle past the scale's end. Only a negative low
+// shifts the zero. Without a span, or for NaN, the needle stays at the start.
 double needle_angle(double value, double start, double end, double low, double high);
 
 struct needle_points {

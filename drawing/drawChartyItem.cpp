@@ -46,7 +46,9 @@ void drawChartyItem::set_pixel_scale(double pixels_a_unit) {
     draw_empty_background();
 }
 
-void drawChartyItem::draw_empty_background() { image_ = empty_image(chartySize, pixel_scale_); }
+void drawChartyItem::draw_empty_background() {
+    image_ = empty_image(chartySize, pixel_scale_);
+}
 
 void drawChartyItem::use_this_pids(std::vector<std::string> pids) {
     if (pids == _pid_logitems_list && names_.size() == pids.size())
@@ -58,7 +60,8 @@ void drawChartyItem::use_this_pids(std::vector<std::string> pids) {
 }
 
 bool drawChartyItem::isPlottingThisIndex(int index) const {
-    return cur_ITEMS_2_PLOT.size() < 2 ? index == cur_item_2_PLOT : cur_ITEMS_2_PLOT.contains(index);
+    return cur_ITEMS_2_PLOT.size() < 2 ? index == cur_item_2_PLOT
+                                       : cur_ITEMS_2_PLOT.contains(index);
 }
 
 QColor drawChartyItem::setMyColor(int index) {
@@ -84,7 +87,9 @@ QColor drawChartyItem::setMyColor(int index) {
     }
 }
 
-chart_point drawChartyItem::scale_point(int x, double this_y, int scr_x, int scr_y, int scr_width, int src_height,
-                                        double maxX, double minX, double maxY, double minY) {
-    return ::scale_point(x, this_y, {scr_x, scr_y, scr_width, src_height}, {minX, maxX, minY, maxY});
+chart_point drawChartyItem::scale_point(int x, double this_y, int scr_x, int scr_y, int scr_width,
+                                        int src_height, double maxX, double minX, double maxY,
+                                        double minY) {
+    return ::scale_point(x, this_y, {scr_x, scr_y, scr_width, src_height},
+                         {minX, maxX, minY, maxY});
 }

@@ -1,8 +1,9 @@
-// One line chart of sampled values, drawn into an image of its own: a thumbnail or the large chart. Owned by the
-// screen that shows it, which feeds it parameters, samples and labels and takes its image.
+// One line chart of sampled values, drawn into an image of its own: a thumbnail or the large chart.
+// Owned by the screen that shows it, which feeds it parameters, samples and labels and takes its
+// image.
 //
-// Coordinates are image units with y upwards. The image has a fixed size in units; set_pixel_scale() says how many
-// pixels a unit has where it is shown, so that it is sharp there.
+// Coordinates are image units with y upwards. The image has a fixed size in units;
+// set_pixel_scale() says how many pixels a unit has where it is shown, so that it is sharp there.
 #pragma once
 
 #include "chart_geometry.h"
@@ -72,14 +73,15 @@ class drawChartyItem {
     double get_OBDVal(std::string_view reply) const;
     // A curve's colour; black beyond the table.
     static QColor setMyColor(int index);
-    static chart_point scale_point(int x, double this_y, int scr_x, int scr_y, int scr_width, int src_height,
-                                   double maxX, double minX, double maxY, double minY);
+    static chart_point scale_point(int x, double this_y, int scr_x, int scr_y, int scr_width,
+                                   int src_height, double maxX, double minX, double maxY,
+                                   double minY);
 
-    // One record a parameter: the span of all samples but the first, or the middle half of the catalogue's range
-    // while there are fewer than two.
+    // One record a parameter: the span of all samples but the first, or the middle half of the
+    // catalogue's range while there are fewer than two.
     label_records work_out_labels(const sample_rows& samples) const;
-    // The same before a run: the lower quarter stands first. Once real-time samples exist, what the caller's sample
-    // set says.
+    // The same before a run: the lower quarter stands first. Once real-time samples exist, what the
+    // caller's sample set says.
     label_records work_out_labels_4_realtime() const;
     // The limits that a record's axis runs between.
     static double upper_limit(const label_record& record);
@@ -87,13 +89,15 @@ class drawChartyItem {
     // The room the axis values need, in units.
     static double get_width_of_axis_label(const label_record& record);
 
-    // Background, plot frame, grid, axes and title. What did not change since the last call is not painted anew.
+    // Background, plot frame, grid, axes and title. What did not change since the last call is not
+    // painted anew.
     void draw_grid(const label_records& labels, std::string_view this_title);
     // The curves over the grid, and the value read-out. False when there is nothing to draw from.
     bool plot_array_list(const sample_rows& points, const label_records& these_labels);
 
-    // --- the real-time chart, which grows point by point -------------------------------------------------
-    // The points: for each sample the parameters' value texts. The caller appends the newest one, then plots it.
+    // --- the real-time chart, which grows point by point
+    // ------------------------------------------------- The points: for each sample the parameters'
+    // value texts. The caller appends the newest one, then plots it.
     std::vector<std::vector<std::string>>& val_points() { return l_val_points; }
     void plot_this_point_realtime(int index);
     void replot_realtime_chart(int count);
@@ -120,7 +124,8 @@ class drawChartyItem {
     void paint_grid(canvas& target, const grid_look& look) const;
     static void paint_plot_frame(canvas& target, const chart_area& plot);
     static void paint_grid_lines(canvas& target, const chart_area& plot);
-    static void print_axis_values_4_grid(canvas& target, const value_axis& axis, const chart_area& plot);
+    static void print_axis_values_4_grid(canvas& target, const value_axis& axis,
+                                         const chart_area& plot);
     static void paint_axis_band(canvas& target, const value_axis& axis, const chart_area& plot);
     static void paint_highlight(canvas& target, bool selected);
 

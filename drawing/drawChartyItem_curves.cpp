@@ -51,14 +51,14 @@ bool drawChartyItem::plot_array_list(const sample_rows& points, const label_reco
     return true;
 }
 
-void drawChartyItem::plot_one_curve(canvas& target, const sample_rows& points, std::size_t parameter,
-                                    const label_record& label) {
+void drawChartyItem::plot_one_curve(canvas& target, const sample_rows& points,
+                                    std::size_t parameter, const label_record& label) {
     const row_window window = window_of_rows(points.rows(), SHOW_THESE_MANY_LAST_POINTS);
     if (window.count == 0)
         return;
     const std::size_t end = window.first + window.count;
-    const chart_limits limits{static_cast<double>(window.first), static_cast<double>(end), lower_limit(label),
-                              upper_limit(label)};
+    const chart_limits limits{static_cast<double>(window.first), static_cast<double>(end),
+                              lower_limit(label), upper_limit(label)};
     const std::vector<column_run> runs = reduce_curve(points, parameter, window, drawSizes, limits);
     paint_curve(target, runs,
                 {setMyColor(static_cast<int>(parameter)),
@@ -72,7 +72,8 @@ void drawChartyItem::plot_one_curve(canvas& target, const sample_rows& points, s
     }
 }
 
-// --- the real-time chart ---------------------------------------------------------------------------------
+// --- the real-time chart
+// ---------------------------------------------------------------------------------
 
 void drawChartyItem::replot_realtime_chart(int) {
     draw_empty_background();
@@ -98,7 +99,8 @@ void drawChartyItem::plot_this_point_realtime(int index) {
         return;
     }
     const auto parameter = static_cast<std::size_t>(index);
-    if (index < 0 || parameter >= l_val_points.back().size() || parameter >= _pid_logitems_list.size()) {
+    if (index < 0 || parameter >= l_val_points.back().size() ||
+        parameter >= _pid_logitems_list.size()) {
         qCWarning(log_drawing, "plot_this_point_realtime::no parameter %d", index);
         return;
     }
@@ -163,7 +165,8 @@ void drawChartyItem::extend_realtime_curve(std::size_t parameter, double value) 
     const QPointF to = target.flipped(static_cast<double>(point.x), static_cast<double>(point.y));
     target.painter().drawLine(target.flipped(r_prev_x, r_prev_y), to);
     if (count < MARKED_BELOW)
-        target.fill(QRectF(static_cast<double>(point.x) - 2, static_cast<double>(point.y) - 2, 4, 4), ink);
+        target.fill(
+            QRectF(static_cast<double>(point.x) - 2, static_cast<double>(point.y) - 2, 4, 4), ink);
     r_prev_x = static_cast<int>(point.x);
     r_prev_y = static_cast<int>(point.y);
 }

@@ -22,13 +22,16 @@ const QColor SELECTED = colour(58 / 255.0, 1 / 255.0, 223 / 255.0, 0.65);
 const QColor NOT_SELECTED = colour(49 / 255.0, 1 / 255.0, 132 / 255.0, 0.65);
 constexpr double HIGHLIGHT_RADIUS = 15;
 
-QRectF rect_of(const chart_area& area) { return QRectF(area.x, area.y, area.width, area.height); }
+QRectF rect_of(const chart_area& area) {
+    return QRectF(area.x, area.y, area.width, area.height);
+}
 
 } // namespace
 
 drawChartyItem::grid_look drawChartyItem::look_of_grid(const label_records& labels,
                                                        std::string_view title) const {
-    grid_look look{chartySize, pixel_scale_, is_thumbnail, is_thumb_selected, {}, {}, std::string(title)};
+    grid_look look{chartySize, pixel_scale_, is_thumbnail,      is_thumb_selected,
+                   {},         {},           std::string(title)};
     std::vector<int> shown;
     if (has_two_axes())
         shown = {*cur_ITEMS_2_PLOT.begin(), *std::next(cur_ITEMS_2_PLOT.begin())};
@@ -38,7 +41,8 @@ drawChartyItem::grid_look drawChartyItem::look_of_grid(const label_records& labe
     for (const int index : shown) {
         const auto place = static_cast<std::size_t>(std::max(index, 0));
         const label_record record = place < labels.size() ? labels[place] : label_record();
-        look.axes.push_back({lower_limit(record), upper_limit(record), record.units, index, FIRST_AXIS_X});
+        look.axes.push_back(
+            {lower_limit(record), upper_limit(record), record.units, index, FIRST_AXIS_X});
         widths.push_back(get_width_of_axis_label(record));
     }
     const bool two = shown.size() > 1;
@@ -89,7 +93,8 @@ void drawChartyItem::paint_plot_frame(canvas& target, const chart_area& plot) {
     painter.drawRect(target.flipped(frame));
 }
 
-// One dashed path that grows line by line and is stroked after each, so that the earlier lines are the stronger.
+// One dashed path that grows line by line and is stroked after each, so that the earlier lines are
+// the stronger.
 void drawChartyItem::paint_grid_lines(canvas& target, const chart_area& plot) {
     QPen pen(GRID_LINE, GRID_LINE_WIDTH);
     pen.setCapStyle(Qt::FlatCap);
@@ -108,7 +113,8 @@ void drawChartyItem::paint_grid_lines(canvas& target, const chart_area& plot) {
 }
 
 // The curve's colour key beside its values.
-void drawChartyItem::paint_axis_band(canvas& target, const value_axis& axis, const chart_area& plot) {
+void drawChartyItem::paint_axis_band(canvas& target, const value_axis& axis,
+                                     const chart_area& plot) {
     QColor from = setMyColor(axis.index);
     QColor to = from;
     from.setAlphaF(0.7F);
@@ -116,11 +122,16 @@ void drawChartyItem::paint_axis_band(canvas& target, const value_axis& axis, con
     target.fill_gradient(QRectF(axis.x, plot.y, AXIS_BAND_WIDTH, plot.height), from, to, 1.0);
 }
 
-void drawChartyItem::print_axis_values_4_grid(canvas& target, const value_axis& axis, const chart_area& plot) {
+void drawChartyItem::print_axis_values_4_grid(canvas& target, const value_axis& axis,
+                                              const chart_area& plot) {
     const axis_marks marks = marks_of_axis(axis.lower, axis.upper, plot);
     const QFont value_font = image_font(QStringLiteral("Helvetica"), 13);
-    for (std::size_t i = 0; i < marks.texts.size(); ++i)
-        target.text(axis.x + 5, marks.y[i], qstring(marks.texts[i]), value_font, AXIS_VALUE);
+    for (std::size_t i = 0; i < marks.texts.size(); ++i) {
+        const QString text = qstring(marks.texts[i]);
+        // Not beyond the right edge, where long values of a second axis would be cut.
+        const double x = std::min(axis.x + 5, target.width() - text_width(value_font, text));
+        target.text(x, marks.y[i], text, value_font, AXIS_VALUE);
+    }
     target.text(axis.x - 2, plot.y + plot.height - 2, QLatin1Char(' ') + qstring(axis.units),
                 image_font(QStringLiteral("Arial"), 12), LEGEND);
 }
@@ -129,5 +140,6 @@ void drawChartyItem::paint_highlight(canvas& target, bool selected) {
     QPainter& painter = target.painter();
     painter.setBrush(selected ? SELECTED : NOT_SELECTED);
     painter.setPen(QPen(GRAY, 1.0));
-    painter.drawRoundedRect(QRectF(0, 0, target.width(), target.height()), HIGHLIGHT_RADIUS, HIGHLIGHT_RADIUS);
+    painter.drawRoundedRect(QRectF(0, 0, target.width(), target.height()), HIGHLIGHT_RADIUS,
+                            HIGHLIGHT_RADIUS);
 }

@@ -65,7 +65,9 @@ double drawChartyItem::lower_limit(const label_record& record) {
 }
 
 double drawChartyItem::get_width_of_axis_label(const label_record& record) {
-    static const QFont font = image_font(QStringLiteral("Arial"), 10);
-    const auto width = [](double value) { return text_width(font, qstring(fixed_decimals(value, 2))); };
+    const QFont font = image_font(QStringLiteral("Arial"), 10);
+    const auto width = [&font](double value) {
+        return text_width(font, qstring(fixed_decimals(value, 2)));
+    };
     return std::max(width(upper_limit(record)), width(lower_limit(record)));
 }

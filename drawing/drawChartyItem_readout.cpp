@@ -11,10 +11,14 @@ constexpr int THUMBNAIL_SEGMENTS = 20;
 constexpr int NAME_BELOW_VALUE = 12;
 constexpr double RIGHT_MARGIN = 4;
 
-QColor white(double alpha) { return colour(1, 1, 1, alpha); }
+QColor white(double alpha) {
+    return colour(1, 1, 1, alpha);
+}
 const QColor SHADE = colour(0, 0, 0, 0.3);
 
-QFont system_font(int pixels) { return image_font(QGuiApplication::font().family(), pixels); }
+QFont system_font(int pixels) {
+    return image_font(QGuiApplication::font().family(), pixels);
+}
 
 } // namespace
 
@@ -31,9 +35,10 @@ void drawChartyItem::display_value(canvas& target) const {
     const int x = width / 3;
     const int y = bottom + third / 3;
     const double room = width - x - RIGHT_MARGIN;
-    target.text_within(room, 12, x, y, qstring(cur_sample_set[k][1]), image_font(QStringLiteral("Arial"), 30),
-                       white(0.7));
-    target.text_within(room, 10, x, y - NAME_BELOW_VALUE, qstring(names_[k]), system_font(10), white(0.8));
+    target.text_within(room, 12, x, y, qstring(cur_sample_set[k][1]),
+                       image_font(QStringLiteral("Arial"), 30), white(0.7));
+    target.text_within(room, 10, x, y - NAME_BELOW_VALUE, qstring(names_[k]), system_font(10),
+                       white(0.8));
     paint_level_bar(target, LARGE_SEGMENTS);
 }
 
@@ -48,9 +53,10 @@ void drawChartyItem::display_value_4_thumbnail(canvas& target) const {
     const double x = width / 3;
     const double y = height / 3 + height * 0.25;
     const double room = width - x - RIGHT_MARGIN;
-    target.text_within(room, 18, x, y, qstring(cur_sample_set[k][1]), image_font(QStringLiteral("Arial"), 70),
-                       white(0.9));
-    target.text_within(room, 16, x, y - NAME_BELOW_VALUE, qstring(names_[k]), system_font(20), white(0.8));
+    target.text_within(room, 18, x, y, qstring(cur_sample_set[k][1]),
+                       image_font(QStringLiteral("Arial"), 70), white(0.9));
+    target.text_within(room, 16, x, y - NAME_BELOW_VALUE, qstring(names_[k]), system_font(20),
+                       white(0.8));
     paint_level_bar(target, THUMBNAIL_SEGMENTS);
 }
 
@@ -60,8 +66,9 @@ void drawChartyItem::paint_level_bar(canvas& target, int segments) const {
     if (k >= _pid_logitems_list.size())
         return;
     const std::string& pid = _pid_logitems_list[k];
-    const int level = level_of(leading_number(cur_sample_set[k][1]), toolies.get_PID_min_max(pid, false),
-                               toolies.get_PID_min_max(pid, true), segments);
+    const int level =
+        level_of(leading_number(cur_sample_set[k][1]), toolies.get_PID_min_max(pid, false),
+                 toolies.get_PID_min_max(pid, true), segments);
     const QColor lit = colour(1, 1, 0, 0.4);
     for (int i = 0; i < segments; ++i) {
         const QRectF segment(4 * i + target.width() / 3 + 1, target.height() - 20, 4, 15);

@@ -28,11 +28,13 @@ const QColor GLOW = colour(1, 0, 0, 0.8); // as opaque as what casts it
 constexpr double HUB_RADIUS = 22;
 constexpr double GLOW_RADIUS = 10;
 
-QFont label_font() { return image_font(QStringLiteral("Arial"), LABEL_PIXELS); }
+QFont label_font() {
+    return image_font(QStringLiteral("Arial"), LABEL_PIXELS);
+}
 
 // Centred on `x`; letters are condensed rather than run into what stands beside.
-void condensed_text(canvas& target, double room, double x, double y, const QString& text, const QFont& font,
-                    const QColor& ink) {
+void condensed_text(canvas& target, double room, double x, double y, const QString& text,
+                    const QFont& font, const QColor& ink) {
     const double wide = text_width(font, text);
     const double squeeze = wide > room && room > 0 ? room / wide : 1;
     QPainter& painter = target.painter();
@@ -45,7 +47,8 @@ void condensed_text(canvas& target, double room, double x, double y, const QStri
 
 } // namespace
 
-myGauge::myGauge(const bundle& resources, const mac_toolies& decoder) : resources_(resources), toolies(decoder) {}
+myGauge::myGauge(const bundle& resources, const mac_toolies& decoder)
+    : resources_(resources), toolies(decoder) {}
 
 void myGauge::initGauge(std::string_view pid) {
     cur_PID = pid.substr(pid.rfind('/') + 1);
@@ -65,11 +68,13 @@ void myGauge::set_pixel_scale(double pixels_a_unit) {
 }
 
 std::array<int, 3> myGauge::gauge_range(unsigned pid) const {
-    const dial_range range = dial_range_of(pid, !toolies.doors().defaults->boolean(KS_METRIC_UNITS_KEY));
+    const dial_range range =
+        dial_range_of(pid, !toolies.doors().defaults->boolean(KS_METRIC_UNITS_KEY));
     return {range.low, range.high, range.scaling};
 }
 
-// The drawing when there is one, so that it is sharp at any scale; else the picture of the same name.
+// The drawing when there is one, so that it is sharp at any scale; else the picture of the same
+// name.
 void myGauge::load_empty_dial() {
     QSvgRenderer drawing;
     const QString svg = qstring(resources_.image_path("gauge_empty_no_numbers.svg"));
@@ -122,7 +127,8 @@ void myGauge::work_out_base_gauge() {
 // Between the first and the last label there is `room` for the units.
 void myGauge::paint_units(canvas& target, double room) const {
     const double middle = gaugeSize.width() / 2;
-    condensed_text(target, room, middle, 15, qstring(toolies.get_units(cur_PID)), label_font(), Qt::yellow);
+    condensed_text(target, room, middle, 15, qstring(toolies.get_units(cur_PID)), label_font(),
+                   Qt::yellow);
     if (range_scaling == 1)
         return;
     const QString times = qstring("x " + std::to_string(range_scaling));
@@ -135,16 +141,16 @@ void myGauge::draw_cur_needle_value(double value) {
         return;
     image_ = image_without_needle;
     canvas target(image_);
-    draw_gauge_needle_raw(target, NEEDLE_X, NEEDLE_Y, value / range_scaling, NEEDLE_START, NEEDLE_END, range_lo,
-                          range_hi, NEEDLE_WIDTH, NEEDLE_LENGTH);
+    draw_gauge_needle_raw(target, NEEDLE_X, NEEDLE_Y, value / range_scaling, NEEDLE_START,
+                          NEEDLE_END, range_lo, range_hi, NEEDLE_WIDTH, NEEDLE_LENGTH);
 }
 
-void myGauge::draw_gauge_needle_raw(canvas& target, int x, int at_y, double this_val, double alpha_min,
-                                    double alpha_max, double min_val, double max_val, double needle_w,
-                                    double needle_h) {
+void myGauge::draw_gauge_needle_raw(canvas& target, int x, int at_y, double this_val,
+                                    double alpha_min, double alpha_max, double min_val,
+                                    double max_val, double needle_w, double needle_h) {
     const double angle = needle_angle(this_val, alpha_min, alpha_max, min_val, max_val);
-    const needle_points needle =
-        needle_shape({static_cast<double>(x), static_cast<double>(at_y)}, angle, needle_w, needle_h);
+    const needle_points needle = needle_shape({static_cast<double>(x), static_cast<double>(at_y)},
+                                              angle, needle_w, needle_h);
     const auto at = [&](dial_point p) { return target.flipped(p.x, p.y); };
     QPainter& painter = target.painter();
     painter.setPen(Qt::NoPen);
@@ -159,8 +165,9 @@ void myGauge::paint_hub(canvas& target, int x, int y) {
     const QRectF hub =
         target.flipped(QRectF(x - HUB_RADIUS, y - HUB_RADIUS, 2 * HUB_RADIUS, 2 * HUB_RADIUS));
     if (hub_glow_.isNull()) {
-        const cast_shadow glow = cast_shadow_of(hub, GLOW_RADIUS, pixel_scale_, GLOW,
-                                                [&hub](QPainter& painter) { painter.drawEllipse(hub); });
+        const cast_shadow glow =
+            cast_shadow_of(hub, GLOW_RADIUS, pixel_scale_, GLOW,
+                           [&hub](QPainter& painter) { painter.drawEllipse(hub); });
         hub_glow_ = glow.image;
         hub_glow_at_ = glow.at;
     }

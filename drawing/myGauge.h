@@ -1,4 +1,5 @@
-// One round dial for one parameter, drawn into an image of its own. Owned by the screen that shows it.
+// One round dial for one parameter, drawn into an image of its own. Owned by the screen that shows
+// it.
 //
 // The face is drawn once per parameter and pixel scale, the needle on a copy of it for every value.
 // Coordinates are image units with y upwards.
@@ -45,17 +46,20 @@ class myGauge {
     QSizeF size() const { return gaugeSize; }
 
     double get_OBDVal(std::string_view reply) const { return toolies.get_OBDVal(reply); }
-    static chart_point scale_point(int x, double this_y, int scr_x, int scr_y, int scr_width, int src_height,
-                                   double maxX, double minX, double maxY, double minY) {
-        return ::scale_point(x, this_y, {scr_x, scr_y, scr_width, src_height}, {minX, maxX, minY, maxY});
+    static chart_point scale_point(int x, double this_y, int scr_x, int scr_y, int scr_width,
+                                   int src_height, double maxX, double minX, double maxY,
+                                   double minY) {
+        return ::scale_point(x, this_y, {scr_x, scr_y, scr_width, src_height},
+                             {minX, maxX, minY, maxY});
     }
 
   private:
     void load_empty_dial();
     void work_out_base_gauge();
     void paint_units(canvas& target, double room) const;
-    void draw_gauge_needle_raw(canvas& target, int x, int at_y, double this_val, double alpha_min, double alpha_max,
-                               double min_val, double max_val, double needle_w, double needle_h);
+    void draw_gauge_needle_raw(canvas& target, int x, int at_y, double this_val, double alpha_min,
+                               double alpha_max, double min_val, double max_val, double needle_w,
+                               double needle_h);
     void paint_hub(canvas& target, int x, int y);
 
     const bundle& resources_;

@@ -19,7 +19,9 @@ bool sample_rows::short_text::assign(std::string_view text) {
     return true;
 }
 
-sample_rows::sample_rows(std::size_t parameters) : columns_(parameters) { clear(); }
+sample_rows::sample_rows(std::size_t parameters) : columns_(parameters) {
+    clear();
+}
 
 void sample_rows::clear() {
     for (column& c : columns_) {
@@ -81,7 +83,8 @@ void sample_rows::sum_up(column& c) const {
     }
 }
 
-sample_rows::level_found sample_rows::largest_block(const column& c, std::size_t row, std::size_t end) {
+sample_rows::level_found sample_rows::largest_block(const column& c, std::size_t row,
+                                                    std::size_t end) {
     level_found found;
     std::size_t size = BLOCK;
     for (const std::vector<block>& level : c.levels) {

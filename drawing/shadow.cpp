@@ -10,12 +10,15 @@ namespace {
 
 constexpr int PASSES = 3; // box blurs in a row come near a Gaussian
 
-// Averages each pixel with its neighbours up to `reach` away along one line of `count` pixels `stride` apart.
+// Averages each pixel with its neighbours up to `reach` away along one line of `count` pixels
+// `stride` apart.
 void blur_line(uchar* line, qsizetype stride, int count, int reach, std::vector<uchar>& copy) {
     copy.resize(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         copy[static_cast<std::size_t>(i)] = line[i * stride];
-    const auto at = [&](int i) { return i < 0 || i >= count ? 0 : int{copy[static_cast<std::size_t>(i)]}; };
+    const auto at = [&](int i) {
+        return i < 0 || i >= count ? 0 : int{copy[static_cast<std::size_t>(i)]};
+    };
     const int width = 2 * reach + 1;
     int sum = 0;
     for (int i = -reach; i < reach; ++i)
@@ -41,8 +44,8 @@ void blur(QImage& mask, int reach) {
 
 } // namespace
 
-cast_shadow cast_shadow_of(const QRectF& bounds, double blur_radius, double scale, const QColor& shade,
-                           const std::function<void(QPainter&)>& paint_shape) {
+cast_shadow cast_shadow_of(const QRectF& bounds, double blur_radius, double scale,
+                           const QColor& shade, const std::function<void(QPainter&)>& paint_shape) {
     // Three boxes of this reach spread an edge over about the radius.
     const int reach = std::max(1, static_cast<int>(std::lround(blur_radius * scale / PASSES)));
     const double margin = std::ceil((PASSES * reach + 1) / scale);

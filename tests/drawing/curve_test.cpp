@@ -18,8 +18,9 @@ const QSizeF CHART(420, 230);
 enum class shape { smooth, noisy, spikes, gaps, half_gaps, jumps, unfilled };
 
 const std::pair<const char*, shape> SHAPES[] = {
-    {"smooth", shape::smooth},       {"noisy", shape::noisy}, {"spikes", shape::spikes}, {"gaps", shape::gaps},
-    {"half gaps", shape::half_gaps}, {"jumps", shape::jumps}, {"unfilled", shape::unfilled}};
+    {"smooth", shape::smooth},    {"noisy", shape::noisy},         {"spikes", shape::spikes},
+    {"gaps", shape::gaps},        {"half gaps", shape::half_gaps}, {"jumps", shape::jumps},
+    {"unfilled", shape::unfilled}};
 
 sample_rows samples_of(shape kind, std::size_t count) {
     std::mt19937 random(static_cast<unsigned>(count));
@@ -41,7 +42,8 @@ sample_rows samples_of(shape kind, std::size_t count) {
         case shape::gaps:
             value = random() % 500 == 0 ? NAN_VALUE : wave + random() % 100 / 20.0;
             break;
-        case shape::half_gaps: // alternately nothing, so that there is no segment at all for a while
+        case shape::half_gaps: // alternately nothing, so that there is no segment at all for a
+                               // while
             value = along < 0.3 && i % 2 == 0 ? NAN_VALUE : random() % 1000 / 10.0;
             break;
         case shape::jumps:
@@ -75,11 +77,11 @@ difference compare(const QImage& a, const QImage& b) {
     return {100.0 * strong / (a.width() * a.height()), any};
 }
 
-difference draw_both_ways(const std::string& name, const sample_rows& rows, int shown, bool antialiased,
-                          double scale = 1) {
+difference draw_both_ways(const std::string& name, const sample_rows& rows, int shown,
+                          bool antialiased, double scale = 1) {
     const row_window window = window_of_rows(rows.rows(), shown);
-    const chart_limits limits{static_cast<double>(window.first), static_cast<double>(window.first + window.count),
-                              0, 100};
+    const chart_limits limits{static_cast<double>(window.first),
+                              static_cast<double>(window.first + window.count), 0, 100};
     const curve_style style{QColor(223, 1, 1), 1.8, PLOT.y, antialiased};
     QImage whole = empty_image(CHART, scale);
     whole.fill(QColor(31, 31, 46));
@@ -94,11 +96,12 @@ difference draw_both_ways(const std::string& name, const sample_rows& rows, int 
     }
     const difference found = compare(whole, reduced);
     if (scale == 1 && (antialiased ? found.percent > 0.1 : found.any > 0)) {
-        const QString base = QDir::temp().filePath(QStringLiteral("kestrom-curve-") + qstring(name));
+        const QString base =
+            QDir::temp().filePath(QStringLiteral("kestrom-curve-") + qstring(name));
         whole.save(base + QStringLiteral("-expected.png"));
         reduced.save(base + QStringLiteral("-actual.png"));
-        ADD_FAILURE() << name << ": " << found.percent << " % differ, " << found.any << " pixels at all; see "
-                      << base.toStdString();
+        ADD_FAILURE() << name << ": " << found.percent << " % differ, " << found.any
+                      << " pixels at all; see " << base.toStdString();
     }
     return found;
 }
@@ -109,8 +112,8 @@ TEST(curve, looks_as_if_every_segment_were_drawn) {
             const sample_rows rows = samples_of(kind, count);
             const std::string label = name + std::string("-") + std::to_string(count);
             draw_both_ways(label, rows, -1, false);
-            // Without a line drawn antialiased over itself, as gaps in every other sample make it look, the
-            // smoothed pictures agree too.
+            // Without a line drawn antialiased over itself, as gaps in every other sample make it
+            // look, the smoothed pictures agree too.
             if (kind != shape::half_gaps)
                 draw_both_ways(label + "-smoothed", rows, -1, true);
         }
@@ -151,15 +154,17 @@ TEST(curve, a_segment_next_to_a_gap_is_left_out_and_an_unfilled_place_bridged) {
 TEST(curve, rubbish_numbers_and_areas_are_harmless) {
     const double huge = std::numeric_limits<double>::max();
     sample_rows rows(1);
-    for (const double value : {huge, -huge, NAN_VALUE, std::numeric_limits<double>::infinity(), 1e10, 5.0, -1e10}) {
+    for (const double value :
+         {huge, -huge, NAN_VALUE, std::numeric_limits<double>::infinity(), 1e10, 5.0, -1e10}) {
         rows.append_fresh_row();
         rows.file(0, "x", {"", value});
     }
     QImage image = empty_image(CHART, 1.5);
     canvas target(image);
-    const chart_area areas[] = {PLOT, {0, 0, 0, 0}, {400, 20, -50, 200}, {5, 5, 1, 1}, {-500, -500, 5000, 5000}};
-    const chart_limits limits[] = {{0, 7, 0, 100}, {0, 7, 100, 100}, {0, 7, 4000, 0}, {3, 3, 0, 1},
-                                   {0, 7, NAN_VALUE, huge}, {0, 7, -huge, huge}};
+    const chart_area areas[] = {
+        PLOT, {0, 0, 0, 0}, {400, 20, -50, 200}, {5, 5, 1, 1}, {-500, -500, 5000, 5000}};
+    const chart_limits limits[] = {{0, 7, 0, 100}, {0, 7, 100, 100},        {0, 7, 4000, 0},
+                                   {3, 3, 0, 1},   {0, 7, NAN_VALUE, huge}, {0, 7, -huge, huge}};
     for (const chart_area& area : areas)
         for (const chart_limits& l : limits)
             paint_curve(target, reduce_curve(rows, 0, {0, 7}, area, l), {QColor(0, 0, 0), 2.2, 0});

@@ -1,5 +1,4 @@
 #include "drawChartyItem.h"
-
 #include "drawing_fixture.h"
 #include "fixed_decimals.h"
 #include "qt_warnings.h"
@@ -35,7 +34,9 @@ class chart_test : public drawing_test {
     }
 
     std::vector<std::string> pids{"0C", "0D", "05"};
-    sample_set samples{{"0C", "2000.00 RPM", "9", "1"}, {"0D", "62.50 mph", "max", "min"}, {"05", "~", "0.0", "0.0"}};
+    sample_set samples{{"0C", "2000.00 RPM", "9", "1"},
+                       {"0D", "62.50 mph", "max", "min"},
+                       {"05", "~", "0.0", "0.0"}};
     drawChartyItem chart{doors};
 };
 
@@ -55,8 +56,8 @@ TEST_F(chart_test, plots_its_one_index_until_the_set_holds_two) {
         std::set<int> set;
         int asked;
         bool expected;
-    } cases[] = {{{}, 1, true}, {{}, 0, false}, {{2}, 1, true}, {{2}, 2, false}, {{0, 2}, 2, true},
-                 {{0, 2}, 1, false}};
+    } cases[] = {{{}, 1, true},   {{}, 0, false},    {{2}, 1, true},
+                 {{2}, 2, false}, {{0, 2}, 2, true}, {{0, 2}, 1, false}};
     chart.set_item_2_plot(1);
     for (const auto& c : cases) {
         chart.updateNoOfPlots(c.set);
@@ -95,7 +96,8 @@ TEST_F(chart_test, axis_width_is_measured_on_the_moved_limits) {
     const label_record same{"", "", "39.000000", "15.000000"};
     EXPECT_EQ(drawChartyItem::upper_limit(moved), 40);
     EXPECT_EQ(drawChartyItem::lower_limit(moved), 0);
-    EXPECT_EQ(drawChartyItem::get_width_of_axis_label(moved), drawChartyItem::get_width_of_axis_label(same));
+    EXPECT_EQ(drawChartyItem::get_width_of_axis_label(moved),
+              drawChartyItem::get_width_of_axis_label(same));
     EXPECT_LT(drawChartyItem::get_width_of_axis_label({"", "", "5", "2"}),
               drawChartyItem::get_width_of_axis_label(moved));
 }
@@ -114,8 +116,10 @@ TEST_F(chart_test, paints_background_plot_curve_and_readout) {
         EXPECT_EQ(plot.y, 20);
         EXPECT_EQ(plot.height, 200);
         EXPECT_EQ(plot.x + plot.width, 412);
-        // The left margin's band, the margin below, the plot over and under the curve, and the curve.
-        EXPECT_TRUE(near_colour(pixel_at(image, 300, 8), BACKGROUND)) << pixel_at(image, 300, 8).name().toStdString();
+        // The left margin's band, the margin below, the plot over and under the curve, and the
+        // curve.
+        EXPECT_TRUE(near_colour(pixel_at(image, 300, 8), BACKGROUND))
+            << pixel_at(image, 300, 8).name().toStdString();
         EXPECT_GT(pixel_at(image, 2.5, 100).red(), 140);
         const QColor above = pixel_at(image, plot.x + 60, 130);
         const QColor below = pixel_at(image, plot.x + 60, 70);
@@ -168,7 +172,8 @@ TEST_F(chart_test, a_window_of_rows_moves_the_curve) {
     chart.setNumberPointsToPlot(20);
     draw(rows);
     EXPECT_FALSE(near_colour(early, QColor(223, 1, 1), 60));
-    EXPECT_TRUE(near_colour(pixel_at(chart.image(), chart.plot_area().x + 100, 120), QColor(223, 1, 1), 30));
+    EXPECT_TRUE(near_colour(pixel_at(chart.image(), chart.plot_area().x + 100, 120),
+                            QColor(223, 1, 1), 30));
     chart.setNumberPointsToPlot(0);
     draw(rows);
 }
@@ -210,8 +215,9 @@ TEST_F(chart_test, indices_and_rows_that_do_not_exist_are_harmless) {
 TEST_F(chart_test, rubbish_replies_are_charted_without_harm) {
     sample_rows rows(3);
     for (const std::string& reply :
-         {std::string(5000, 'F'), std::string("410CFFFFFFFFFFFFFFFF"), std::string("\0\xff\x80>", 4), std::string("~"),
-          std::string("41320010"), std::string("NO DATA"), std::string("4104")}) {
+         {std::string(5000, 'F'), std::string("410CFFFFFFFFFFFFFFFF"),
+          std::string("\0\xff\x80>", 4), std::string("~"), std::string("41320010"),
+          std::string("NO DATA"), std::string("4104")}) {
         rows.append_fresh_row();
         for (std::size_t i = 0; i < 3; ++i)
             file(rows, i, reply);
@@ -220,7 +226,8 @@ TEST_F(chart_test, rubbish_replies_are_charted_without_harm) {
             draw(rows);
         }
     }
-    chart.update_cur_sample({{"0C", std::string(4000, '9'), "nan", "inf"}, {"", "\xff\xfe", "", ""}});
+    chart.update_cur_sample(
+        {{"0C", std::string(4000, '9'), "nan", "inf"}, {"", "\xff\xfe", "", ""}});
     draw(rows);
 }
 

@@ -10,10 +10,9 @@
 #include <QColor>
 #include <QImage>
 
+#include <cmath>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <cmath>
 #include <string>
 
 class drawing_test : public testing::Test {
@@ -38,6 +37,7 @@ inline QColor pixel_at(const QImage& image, double x, double y) {
 }
 
 inline bool near_colour(QColor a, QColor b, int tolerance = 12) {
-    return std::abs(a.red() - b.red()) <= tolerance && std::abs(a.green() - b.green()) <= tolerance &&
+    return std::abs(a.red() - b.red()) <= tolerance &&
+           std::abs(a.green() - b.green()) <= tolerance &&
            std::abs(a.blue() - b.blue()) <= tolerance;
 }

@@ -30,7 +30,8 @@ void paint_segment(canvas& target, QPoint p, QPoint q, const curve_style& style)
     shade.setAlphaF(0.2F);
     painter.setPen(Qt::NoPen);
     painter.setBrush(shade);
-    painter.drawPolygon(QPolygonF{from, to, target.flipped(q.x(), style.base_y), target.flipped(p.x(), style.base_y)});
+    painter.drawPolygon(QPolygonF{from, to, target.flipped(q.x(), style.base_y),
+                                  target.flipped(p.x(), style.base_y)});
     painter.setPen(QPen(style.ink, style.line_width));
     painter.drawLine(from, to);
 }
@@ -38,8 +39,8 @@ void paint_segment(canvas& target, QPoint p, QPoint q, const curve_style& style)
 } // namespace
 
 void paint_every_segment(canvas& target, const sample_rows& samples, std::size_t parameter,
-                         const row_window& window, const chart_area& area, const chart_limits& limits,
-                         const curve_style& style) {
+                         const row_window& window, const chart_area& area,
+                         const chart_limits& limits, const curve_style& style) {
     target.painter().setRenderHint(QPainter::Antialiasing, style.antialiased);
     std::optional<QPoint> p = point_of(samples, window.first, parameter, area, limits);
     for (std::size_t row = window.first + 1; row < window.first + window.count; ++row) {

@@ -7,5 +7,5 @@
 class canvas;
 
 void paint_every_segment(canvas& target, const sample_rows& samples, std::size_t parameter,
-                         const row_window& window, const chart_area& area, const chart_limits& limits,
-                         const curve_style& style);
+                         const row_window& window, const chart_area& area,
+                         const chart_limits& limits, const curve_style& style);

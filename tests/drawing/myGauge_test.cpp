@@ -1,6 +1,5 @@
-#include "myGauge.h"
-
 #include "drawing_fixture.h"
+#include "myGauge.h"
 #include "qt_warnings.h"
 
 #include <limits>
@@ -33,8 +32,8 @@ TEST_F(gauge_test, needle_points_at_the_value) {
         const char* pid;
         double value;
         double degrees;
-    } cases[] = {{"0C", 0, 220}, {"0C", 5000, 90}, {"0C", 10000, -40}, {"05", -40, 220}, {"05", 560, -40},
-                 {"04", 50, 90}, {"06", 0, 90},    {"0c", 15000, -170}};
+    } cases[] = {{"0C", 0, 220},   {"0C", 5000, 90}, {"0C", 10000, -40}, {"05", -40, 220},
+                 {"05", 560, -40}, {"04", 50, 90},   {"06", 0, 90},      {"0c", 15000, -170}};
     for (const double scale : {1.0, 2.0, 1.5}) {
         gauge.set_pixel_scale(scale);
         for (const auto& c : cases) {
@@ -74,8 +73,9 @@ TEST_F(gauge_test, hub_glows_and_labels_are_white) {
 TEST_F(gauge_test, rubbish_is_harmless) {
     for (const char* pid : {"", "zz", "FFFFFFFFFF", "5F", "E4"}) {
         gauge.initGauge(pid);
-        for (const double value : {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(),
-                                   -std::numeric_limits<double>::max(), 1e9})
+        for (const double value :
+             {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(),
+              -std::numeric_limits<double>::max(), 1e9})
             gauge.draw_cur_needle_value(value);
     }
     gauge.set_pixel_scale(0);

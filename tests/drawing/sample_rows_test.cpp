@@ -1,8 +1,7 @@
 #include "drawing_fixture.h"
 
-#include <malloc.h>
-
 #include <limits>
+#include <malloc.h>
 #include <random>
 
 namespace {
@@ -11,7 +10,9 @@ constexpr double NAN_VALUE = std::numeric_limits<double>::quiet_NaN();
 
 class sample_rows_test : public drawing_test {};
 
-translated number(double value) { return {std::isnan(value) ? "~" : std::to_string(value), value}; }
+translated number(double value) {
+    return {std::isnan(value) ? "~" : std::to_string(value), value};
+}
 
 TEST_F(sample_rows_test, keeps_texts_and_numbers_as_filed) {
     sample_rows rows(2);
@@ -24,8 +25,9 @@ TEST_F(sample_rows_test, keeps_texts_and_numbers_as_filed) {
 
     const std::string at_most_inline = "410C1AF80000000";
     const std::string too_long(70, 'z');
-    for (const std::string& reply : {std::string("410C1AF8"), too_long, at_most_inline, too_long + "y",
-                                     std::string("NODATA"), std::string(), std::string("~\0x", 3)}) {
+    for (const std::string& reply :
+         {std::string("410C1AF8"), too_long, at_most_inline, too_long + "y", std::string("NODATA"),
+          std::string(), std::string("~\0x", 3)}) {
         file(rows, 0, reply);
         EXPECT_EQ(rows.text(0, 0), reply);
         EXPECT_EQ(std::isnan(rows.value(0, 0)), !reply.starts_with("410C"));
@@ -43,8 +45,8 @@ TEST_F(sample_rows_test, labels_count_an_unusable_reply_as_zero_and_plotting_as_
     const struct {
         std::string_view display_text;
         double expected;
-    } cases[] = {{"1726.00 RPM", 1726}, {"~", 0}, {"-16.0 Pa", -16}, {"N/A", 0}, {"Open Loop", 0},
-                 {"1 'Hours'", 1}};
+    } cases[] = {{"1726.00 RPM", 1726}, {"~", 0},        {"-16.0 Pa", -16}, {"N/A", 0},
+                 {"Open Loop", 0},      {"1 'Hours'", 1}};
     for (const auto& c : cases)
         EXPECT_EQ(sample_rows::chart_number(c.display_text), c.expected) << c.display_text;
     EXPECT_TRUE(std::isnan(sample_rows::chart_number("-")));
@@ -78,7 +80,8 @@ TEST_F(sample_rows_test, extrema_leave_out_the_first_row_and_count_unfilled_plac
 }
 
 // Walks the pieces and compares them with the rows one by one.
-void expect_pieces_hold_all(const sample_rows& rows, std::size_t parameter, std::size_t first, std::size_t end) {
+void expect_pieces_hold_all(const sample_rows& rows, std::size_t parameter, std::size_t first,
+                            std::size_t end) {
     std::size_t next = first;
     std::size_t pieces = 0;
     const auto skip_unfilled = [&] {

@@ -1,0 +1,66 @@
+#include "run_log.h"
+
+#include "text.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cctype>
+
+namespace {
+
+constexpr std::size_t MOST_PARAMETERS = 256; // there are no more PIDs
+
+// Behind the service's two characters of a reply such as 410C1AF8; empty when that is no reply to a
+// service 01 request.
+std::string pid_of_reply(std::string_view reply) {
+    if (!reply.starts_with("41") || !is_hex(slice(reply, 2, 2)) || reply.size() < 4)
+        return {};
+    std::string pid(reply.substr(2, 2));
+    std::transform(pid.begin(), pid.end(), pid.begin(),
+                   [](unsigned char c) { return std::toupper(c); });
+    return pid;
+}
+
+} // namespace
+
+std::optional<run_log> read_run_log(const std::string& path, const mac_toolies& toolies,
+                                    std::string& error) {
+    QFile file(QString::fromStdString(path));
+    if (!file.open(QIODevice::ReadOnly)) {
+        error = path + ": " + file.errorString().toStdString();
+        return std::nullopt;
+    }
+    const std::string text = file.readAll().toStdString();
+    std::vector<std::string_view> lines = split(text, "\n");
+    if (lines.back().empty())
+        lines.pop_back();
+    if (lines.empty()) {
+        error = path + ": no samples";
+        return std::nullopt;
+    }
+    const std::size_t parameters = split(lines[0], ",").size();
+    if (parameters > MOST_PARAMETERS) {
+        error = path + ":1: more replies than there are parameters";
+        return std::nullopt;
+    }
+    run_log log{std::vector<std::string>(parameters), sample_rows(parameters),
+                std::vector<translated>(parameters)};
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const std::vector<std::string_view> replies = split(lines[i], ",");
+        if (replies.size() != parameters) {
+            error = path + ":" + std::to_string(i + 1) + ": " + std::to_string(replies.size()) +
+                    " replies where line 1 has " + std::to_string(parameters);
+            return std::nullopt;
+        }
+        log.samples.append_fresh_row();
+        for (std::size_t p = 0; p < parameters; ++p) {
+            const std::string reply = without(replies[p], " \r");
+            if (log.pids[p].empty())
+                log.pids[p] = pid_of_reply(reply);
+            log.last_values[p] = toolies.translate_once(reply);
+            log.samples.file(p, reply, log.last_values[p]);
+        }
+    }
+    return log;
+}

@@ -1,0 +1,109 @@
+#include "bundle.h"
+#include "chart_command.h"
+#include "mac_toolies.h"
+#include "user_defaults.h"
+
+#include <QImage>
+#include <QTemporaryDir>
+
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sstream>
+
+using testing::HasSubstr;
+
+namespace {
+
+class chart_command_test : public testing::Test {
+  protected:
+    int chart(std::string_view log, std::vector<std::string> arguments) {
+        std::ofstream(path("run.gol"), std::ios::binary) << log;
+        arguments.insert(arguments.begin(), path("run.gol"));
+        return run(arguments);
+    }
+    int run(const std::vector<std::string>& arguments) {
+        out.str({});
+        err.str({});
+        return run_chart(arguments, toolies_, resources_, out, err);
+    }
+    std::string path(const char* name) const {
+        return folder_.filePath(QString::fromUtf8(name)).toStdString();
+    }
+    QImage picture() const { return QImage(QString::fromStdString(path("out.png"))); }
+
+    std::ostringstream out, err;
+
+  private:
+    QTemporaryDir folder_;
+    bundle resources_{":/kestrom", "en"};
+    user_defaults settings_{path("chart.conf")};
+    mac_toolies toolies_{{&resources_, &settings_}};
+};
+
+constexpr std::string_view LOG =
+    "410C0FA0,410D64\n410C1F40,410D32\n410C2EE0,~\r\n410C0FA0,410D64\n";
+
+TEST_F(chart_command_test, prints_the_axis_limits_and_draws_at_the_scale) {
+    EXPECT_EQ(chart(LOG, {"--pid", "0C", "-o", path("out.png")}), 0);
+    EXPECT_EQ(out.str(), "0C Engine Speed: 0.00 to 4000.00 RPM\n");
+    EXPECT_EQ(picture().size(), QSize(420, 230));
+    EXPECT_EQ(chart(LOG, {"--pid", "d", "--pid=0C", "--scale", "2", "-o", path("out.png")}), 0);
+    EXPECT_THAT(out.str(), HasSubstr("0D Vehicle Speed: 0.00 to 70.00 mph\n"));
+    EXPECT_EQ(picture().size(), QSize(840, 460));
+}
+
+TEST_F(chart_command_test, dial_shows_the_last_value) {
+    EXPECT_EQ(chart(LOG, {"--dial", "--pid", "0D", "-o", path("out.png")}), 0);
+    EXPECT_EQ(out.str(), "0D Vehicle Speed: 62.50 mph\n");
+    EXPECT_EQ(picture().size(), QSize(364, 286));
+}
+
+TEST_F(chart_command_test, a_log_of_any_bytes_is_charted_or_refused_with_its_name_and_line) {
+    const struct {
+        std::string log;
+        std::string complaint; // empty: charted
+    } cases[] = {
+        {"410C0FA0", ""},
+        {std::string("410C0FA0\n\0\xff\xfe>\x01\n410C1F40\n", 24), ""},
+        {"~\n410C0FA0\n" + std::string(100000, 'F') + "\n", ""},
+        {"410C0FA0\n410C0FA0,410D64\n", "run.gol:2: 2 replies where line 1 has 1"},
+        {"410C0FA0,~\n410C0FA0,~\n\n", "run.gol:3: 1 replies where line 1 has 2"},
+        {std::string(100000, ','), "run.gol:1: more replies than there are parameters"},
+        {"", "run.gol: no samples"},
+        {"NODATA\n", "run.gol: no replies for parameter 0C"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(chart(c.log, {"--pid", "0C", "-o", path("out.png")}),
+                  c.complaint.empty() ? 0 : 1);
+        EXPECT_THAT(err.str(), HasSubstr(c.complaint)) << c.log.substr(0, 40);
+        EXPECT_EQ(err.str().empty(), c.complaint.empty());
+    }
+}
+
+TEST_F(chart_command_test, wrong_arguments_and_files_have_their_status) {
+    const std::string picture_path = path("out.png");
+    EXPECT_EQ(run({path("none.gol"), "--pid", "0C", "-o", picture_path}), 1);
+    EXPECT_THAT(err.str(), HasSubstr("none.gol"));
+    EXPECT_EQ(chart(LOG, {"--pid", "0C", "-o", path("no/such/folder.png")}), 1);
+    EXPECT_THAT(err.str(), HasSubstr("folder.png"));
+    const std::vector<std::vector<std::string>> wrong = {
+        {"-o", picture_path},
+        {"--pid", "0C"},
+        {"--pid", "XY", "-o", picture_path},
+        {"--pid", "10C", "-o", picture_path},
+        {"--pid", "0C", "-o"},
+        {"--pid", "0C", "-o", picture_path, "--scale", "0"},
+        {"--pid", "0C", "-o", picture_path, "--scale=99"},
+        {"--pid", "0C", "-o", picture_path, "--scale", "nan"},
+        {"--pid", "0C", "-o", picture_path, "--huge"},
+        {"--pid", "0C", "-o", picture_path, "second.gol"},
+        {"--pid", "1", "--pid", "2", "--pid", "3", "-o", picture_path}};
+    for (const auto& arguments : wrong) {
+        EXPECT_EQ(chart(LOG, arguments), 2);
+        EXPECT_THAT(err.str(), HasSubstr("Usage:"));
+    }
+    EXPECT_EQ(run({}), 2);
+}
+
+} // namespace

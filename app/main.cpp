@@ -1,6 +1,7 @@
 // Starts Kestrom: the window, or one command without a display.
 #include "bundle.h"
 #include "car_library.h"
+#include "chart_command.h"
 #include "command_line.h"
 #include "command_runner.h"
 #include "console_alerts.h"
@@ -92,7 +93,7 @@ bool save_screenshot(main_window& window, const std::string& path) {
 
 // A command that only decodes what stands on the command line.
 int decode(int argc, char** argv, const cli_request& asked) {
-    const QCoreApplication application(argc, argv);
+    const QGuiApplication application(argc, argv); // the chart is drawn
     const QTemporaryDir scratch;
     user_defaults units(scratch.filePath(QStringLiteral("kestrom.conf")).toStdString());
     units.set_boolean(KS_METRIC_UNITS_KEY,
@@ -103,6 +104,8 @@ int decode(int argc, char** argv, const cli_request& asked) {
         return run_decode(asked.arguments, toolies, units, std::cout, std::cerr);
     if (asked.command == "vin")
         return run_vin(asked.arguments, toolies, std::cout, std::cerr);
+    if (asked.command == "chart")
+        return run_chart(asked.arguments, toolies, resources, std::cout, std::cerr);
     return run_mode6(asked.arguments, toolies, std::cout, std::cerr);
 }
 
@@ -178,10 +181,10 @@ int main(int argc, char** argv) {
         std::puts("kestrom " KESTROM_VERSION);
         return 0;
     }
-    if (decodes(asked.command))
-        return decode(argc, argv, asked);
     if (asked.without_display())
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (decodes(asked.command))
+        return decode(argc, argv, asked);
     if (!display_there()) {
         std::fputs("kestrom: there is no display; give a command, such as 'kestrom --demo codes'\n",
                    stderr);

@@ -2,6 +2,7 @@
 #include "curve_painter.h"
 #include "drawChartyItem.h"
 #include "fixed_decimals.h"
+#include "saturate.h"
 #include "system_log.h"
 
 #include <algorithm>
@@ -138,8 +139,8 @@ void drawChartyItem::start_realtime_curve(std::size_t parameter, const std::stri
         draw_grid(r_these_labels, "");
     }
     const chart_point start = realtime_point(0, value);
-    r_prev_x = static_cast<int>(start.x);
-    r_prev_y = static_cast<int>(start.y);
+    r_prev_x = saturating_int(start.x);
+    r_prev_y = saturating_int(start.y);
     r_cur_maxX = REALTIME_SPAN;
     some_sampling_done = true;
 }
@@ -167,6 +168,6 @@ void drawChartyItem::extend_realtime_curve(std::size_t parameter, double value) 
     if (count < MARKED_BELOW)
         target.fill(
             QRectF(static_cast<double>(point.x) - 2, static_cast<double>(point.y) - 2, 4, 4), ink);
-    r_prev_x = static_cast<int>(point.x);
-    r_prev_y = static_cast<int>(point.y);
+    r_prev_x = saturating_int(point.x);
+    r_prev_y = saturating_int(point.y);
 }

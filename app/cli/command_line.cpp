@@ -17,7 +17,7 @@ struct verb {
 };
 constexpr verb VERBS[] = {
     {"codes", 0, 0},       {"clear", 0, 0},    {"send", 1, 10'000},
-    {"decode", 0, 10'000}, {"vin", 0, 10'000}, {"mode6", 0, 10'000},
+    {"decode", 0, 10'000}, {"vin", 0, 10'000}, {"mode6", 0, 10'000}, {"chart", 0, 10'000},
 };
 
 bool plain_ascii(std::string_view text) {
@@ -168,7 +168,7 @@ class argument_reader {
 } // namespace
 
 bool decodes(std::string_view command) {
-    return command == "decode" || command == "vin" || command == "mode6";
+    return command == "decode" || command == "vin" || command == "mode6" || command == "chart";
 }
 
 parsed_command_line parse_command_line(std::span<const std::string> arguments) {
@@ -187,6 +187,8 @@ Commands
   decode REPLY... [--units metric|imperial]
                         what replies to service 01 requests mean: text and number
   vin REPLY             the vehicle identification number in a reply to 09 02
+  chart LOG.gol --pid PID [--pid PID] -o FILE.png [--scale N] [--dial]
+                        draw a run log as a chart, or its last value on a dial
   mode6 ID VALUE        a test result scaled by its unit-and-scaling identifier
 
 Options

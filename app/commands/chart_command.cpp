@@ -18,7 +18,8 @@ namespace {
 constexpr int FAILED_STATUS = 1;
 constexpr int USAGE_STATUS = 2;
 constexpr std::size_t MOST_PIDS = 2;
-constexpr double MOST_SCALE = 16;
+constexpr double LEAST_SCALE = 0.1;
+constexpr double MOST_SCALE = 8;
 constexpr QSizeF CHART_SIZE(420, 230);
 
 struct chart_request {
@@ -43,7 +44,7 @@ std::optional<double> scale_of(std::string_view text) {
     double scale = 0;
     const auto [end, bad] = std::from_chars(text.data(), text.data() + text.size(), scale);
     if (bad != std::errc() || end != text.data() + text.size() ||
-        !(scale > 0 && scale <= MOST_SCALE))
+        !(scale >= LEAST_SCALE && scale <= MOST_SCALE))
         return std::nullopt;
     return scale;
 }
@@ -59,7 +60,7 @@ void take_option(chart_request& request, const std::string& option, const std::s
     } else if (const auto scale = scale_of(value)) {
         request.scale = *scale;
     } else {
-        request.error = "--scale is a number up to 16";
+        request.error = "--scale is a number from 0.1 to 8";
     }
 }
 

@@ -131,6 +131,10 @@ adapter_reply virtual_adapter::answer_at(const command_line& line, milliseconds 
     const std::string eol_before = end_of_line();
     const std::optional<std::string> told = run_at_command(state_, car, line.at_command);
     adapter_reply pieces;
+    if (told && is_initiation(line.at_command)) {
+        connect_to_only(protocol_numbered(state_.protocol), ignition, pieces);
+        return pieces;
+    }
     if (told && is_restart(line.at_command)) {
         restarting_ = true;
         pieces.push_back({scaled(RESTART_TIME), eol_before + eol_before});

@@ -183,9 +183,12 @@ adapter_reply virtual_adapter::answer_request(const command_line& line, millisec
         return pieces;
     }
     const bool was_open = state_.bus_open;
+    const adapter_state before = state_;
     if (!connect(pieces, now))
         return pieces;
     pieces.push_back({end_of(pieces) + options_.latency.value_or(milliseconds(0)), ""});
+    if (!was_open)
+        search_ = search{before, now + end_of(pieces)};
     const bool is_can = state_.bus()->is_can();
     if (is_can && ((was_open && !car_is_there(now)) ||
                    every_nth(options_.faults, fault_kind::can_error, ++requests_))) {

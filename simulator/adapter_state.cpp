@@ -19,10 +19,15 @@ void adapter_state::choose_protocol(int number, bool search_others, bool remembe
     automatic = search_others || number == 0;
     bus_open = false;
     settings.header.reset();
-    if (remember && settings.memory) {
-        memory.protocol = protocol;
-        memory.automatic = automatic;
-    }
+    if (remember)
+        remember_protocol();
+}
+
+void adapter_state::remember_protocol() {
+    if (!settings.memory)
+        return;
+    memory.protocol = protocol;
+    memory.automatic = automatic;
 }
 
 std::string adapter_state::protocol_text() const {

@@ -24,7 +24,6 @@ struct adapter_settings {
     bool can_formatting = true;
     bool flow_control = true;
     bool show_length = false;
-    int can_priority = 0x18;                 // the top five bits of a 29-bit identifier
     std::optional<byte_string> header;       // AT SH; absent: the protocol's own
     std::optional<std::uint32_t> can_filter; // AT CF, CRA
     std::optional<std::uint32_t> can_mask;   // AT CM, CRA
@@ -58,6 +57,8 @@ struct adapter_state {
     // Defaults, the bus left as it is.
     void defaults();
     void choose_protocol(int number, bool search_others, bool remember);
+    // Kept beyond a reset, unless AT M0 forbids.
+    void remember_protocol();
     void close_bus() { bus_open = false; }
 
     const bus_protocol* bus() const { return bus_open ? protocol_numbered(protocol) : nullptr; }

@@ -146,10 +146,6 @@ answer receive_automatically(const call& c) {
     c.settings().can_mask.reset();
     return "OK";
 }
-answer priority(const call& c) {
-    c.settings().can_priority = int(c.number() & 0x1F);
-    return "OK";
-}
 // Transmit and receive error counters of the CAN controller.
 answer can_status(const call&) {
     return "T:00 R:00";
@@ -160,15 +156,15 @@ answer key_words(const call& c) {
     const bus_protocol* const bus = c.state.bus();
     if (!bus || !bus->is_iso())
         return std::nullopt;
-    return bus->is_kwp() ? "1:8F 2:E9" : "1:08 2:08";
+    return bus->is_kwp() ? "1:E9 2:8F" : "1:08 2:08";
 }
-// Initiate a K line now; only where the protocol has that initiation.
+// Whether the chosen protocol has that initiation; the dialogue does it.
 template <bool fast>
 answer initiate(const call& c) {
     const bus_protocol* const chosen = protocol_numbered(c.state.protocol);
     if (!chosen || !chosen->is_iso() || (chosen->kind == bus_kind::kwp_fast) != fast)
         return std::nullopt;
-    return c.state.bus_open ? "OK" : "BUS INIT: ERROR";
+    return "";
 }
 
 answer dump_buffer(const call& c) {
@@ -234,6 +230,7 @@ constexpr std::array COMMANDS = {
     command_row{"E#", toggle<&adapter_settings::echo>},
     command_row{"L#", toggle<&adapter_settings::line_feeds>},
     command_row{"M#", toggle<&adapter_settings::memory>},
+    command_row{"BRD##", ok, false},
     command_row{"BRT##", ok, false},
     command_row{"PPS", parameter_summary_of, false},
     command_row{"PP##SV##", parameter_value, false},
@@ -285,6 +282,8 @@ constexpr std::array COMMANDS = {
     command_row{"IB96", ok},
     command_row{"IIA##", ok, false},
     command_row{"SW##", ok},
+    command_row{"WM##", ok},
+    command_row{"WM####", ok},
     command_row{"WM######", ok},
     command_row{"WM########", ok},
     command_row{"WM##########", ok},
@@ -300,14 +299,22 @@ constexpr std::array COMMANDS = {
     command_row{"CRA", receive_address, false},
     command_row{"CRA###", receive_address},
     command_row{"CRA########", receive_address},
-    command_row{"CP##", priority},
+    command_row{"CP##", ok},
     command_row{"CS", can_status},
     command_row{"V#", ok},
     command_row{"FCSM#", ok},
     command_row{"FCSH###", ok},
     command_row{"FCSH########", ok},
     command_row{"FCSD##", ok},
+    command_row{"FCSD####", ok},
     command_row{"FCSD######", ok},
+    command_row{"FCSD########", ok},
+    command_row{"FCSD##########", ok},
+    command_row{"CSM0", ok, false},
+    command_row{"CSM1", ok, false},
+    command_row{"CEA", ok, false},
+    command_row{"CEA##", ok, false},
+    command_row{"RTR", ok, false},
     command_row{"PB####", ok, false},
     command_row{"JE", ok, false},
     command_row{"JS", ok, false},
@@ -339,6 +346,10 @@ std::optional<std::string> match(std::string_view pattern, std::string_view comm
 
 bool is_restart(std::string_view command) {
     return command == "Z" || command == "WS";
+}
+
+bool is_initiation(std::string_view command) {
+    return command == "FI" || command == "SI";
 }
 
 std::optional<std::string> run_at_command(adapter_state& state, const at_surroundings& car,

@@ -19,3 +19,6 @@ std::optional<std::string> run_at_command(adapter_state& state, const at_surroun
 
 // Z and WS start the chip anew, which takes a while and blanks two lines first.
 bool is_restart(std::string_view command);
+
+// FI and SI waken a K line now, fast or slowly, and say how that went.
+bool is_initiation(std::string_view command);

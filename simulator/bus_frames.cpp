@@ -11,6 +11,7 @@ constexpr std::size_t FRAME_BYTES = 8;
 constexpr std::size_t FIRST_FRAME_DATA = 6;
 constexpr std::size_t NEXT_FRAME_DATA = 7;
 constexpr std::uint8_t TESTER = 0xF1;
+constexpr std::uint8_t UNIT_PRIORITY = 0x18; // whatever AT CP gives the requests
 
 using std::chrono::milliseconds;
 
@@ -74,9 +75,7 @@ std::string can_id(const bus_frame& frame, const bus_protocol& bus,
     if (!bus.extended_ids)
         return hex_text({std::uint8_t(frame.address >> 8), std::uint8_t(frame.address)}, false)
             .substr(1);
-    return hex_text(
-        {std::uint8_t(settings.can_priority), 0xDA, TESTER, std::uint8_t(frame.address)},
-        settings.spaces);
+    return hex_text({UNIT_PRIORITY, 0xDA, TESTER, std::uint8_t(frame.address)}, settings.spaces);
 }
 
 std::string shown_can_frame(const bus_frame& frame, const bus_protocol& bus,
@@ -126,11 +125,11 @@ std::vector<bus_frame> frames_on_bus(const std::vector<unit_answer>& answers,
     return frames;
 }
 
-byte_string raw_frame(const bus_frame& frame, const bus_protocol& bus, int can_priority) {
+byte_string raw_frame(const bus_frame& frame, const bus_protocol& bus) {
     if (bus.is_can()) {
         const byte_string id =
             bus.extended_ids
-                ? byte_string{std::uint8_t(can_priority), 0xDA, TESTER, std::uint8_t(frame.address)}
+                ? byte_string{UNIT_PRIORITY, 0xDA, TESTER, std::uint8_t(frame.address)}
                 : byte_string{std::uint8_t(frame.address >> 8), std::uint8_t(frame.address)};
         return joined(id, frame.data);
     }
@@ -145,7 +144,7 @@ std::string shown_frame(const bus_frame& frame, const bus_protocol& bus,
                         const adapter_settings& settings, bool padding) {
     const std::string shown = bus.is_can() ? shown_can_frame(frame, bus, settings, padding)
                               : settings.headers
-                                  ? hex_text(raw_frame(frame, bus, 0), settings.spaces)
+                                  ? hex_text(raw_frame(frame, bus), settings.spaces)
                                   : hex_text(frame.data, settings.spaces);
     return frame.damaged ? shown + " <DATA ERROR" : shown;
 }

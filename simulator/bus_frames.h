@@ -25,7 +25,7 @@ std::vector<bus_frame> frames_on_bus(const std::vector<unit_answer>& answers,
                                      const bus_protocol& bus, std::uint8_t fill, bool flow_control);
 
 // The whole message as it stands on the bus, header and checksum included.
-byte_string raw_frame(const bus_frame& frame, const bus_protocol& bus, int can_priority);
+byte_string raw_frame(const bus_frame& frame, const bus_protocol& bus);
 
 // The frame's lines as shown under the settings, parted by "\r" (a first frame without headers has
 // two).

@@ -50,6 +50,8 @@ bool virtual_adapter::connect_to_only(const bus_protocol* wanted, bool present,
                  can && !wires ? "CAN ERROR" : "NO DATA");
     }
     state_.bus_open = right;
+    if (right) // one only tried with AT TP has proved valid
+        state_.remember_protocol();
     return right;
 }
 
@@ -154,7 +156,7 @@ void virtual_adapter::show_frames(const std::vector<unit_answer>& answers, int e
         if (!passes_filter(frame.address))
             continue;
         frame.damaged = every_nth(options_.faults, fault_kind::data_error, ++messages_);
-        state_.last_message = raw_frame(frame, bus, state_.settings.can_priority);
+        state_.last_message = raw_frame(frame, bus);
         const milliseconds later =
             std::max(milliseconds(0), start + scaled(frame.at) - end_of(pieces));
         if (state_.settings.responses)
@@ -181,9 +183,12 @@ adapter_reply virtual_adapter::answer_request(const command_line& line, millisec
         return pieces;
     }
     const bool was_open = state_.bus_open;
+    const adapter_state before = state_;
     if (!connect(pieces, now))
         return pieces;
     pieces.push_back({end_of(pieces) + options_.latency.value_or(milliseconds(0)), ""});
+    if (!was_open)
+        search_ = search{before, now + end_of(pieces)};
     const bool is_can = state_.bus()->is_can();
     if (is_can && ((was_open && !car_is_there(now)) ||
                    every_nth(options_.faults, fault_kind::can_error, ++requests_))) {

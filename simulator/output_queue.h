@@ -21,7 +21,10 @@ class output_queue {
     // When the last piece leaves.
     std::optional<milliseconds> last() const;
     std::string take(milliseconds now);
-    void drop_waiting() { pieces_.clear(); }
+    void drop_waiting() {
+        pieces_.clear();
+        last_byte_ = milliseconds(0);
+    }
 
   private:
     struct piece {

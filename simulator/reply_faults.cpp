@@ -28,14 +28,14 @@ void strew_rubbish(std::string& text, seeded_random& random) {
     }
 }
 
-void break_off(adapter_reply& pieces, std::size_t most) {
+void break_off(adapter_reply& pieces, std::size_t most, const std::string& end_of_line) {
     std::size_t length = 0;
     for (std::size_t i = 0; i < pieces.size(); ++i) {
         length += pieces[i].text.size();
         if (length <= most)
             continue;
         pieces[i].text.resize(pieces[i].text.size() - (length - most));
-        pieces[i].text += "BUFFER FULL\r\r>";
+        pieces[i].text += "BUFFER FULL" + end_of_line + end_of_line + ">";
         pieces.resize(i + 1);
         return;
     }
@@ -55,11 +55,17 @@ void send_twice(adapter_reply& pieces) {
 }
 
 void split_prompt(adapter_reply& pieces, milliseconds by) {
-    std::string& end = pieces.back().text;
-    if (end.empty() || end.back() != '>')
-        return;
-    end.pop_back();
-    pieces.push_back({pieces.back().after + by, ">"});
+    adapter_reply split;
+    milliseconds held{0};
+    for (const reply_piece& piece : pieces) {
+        const std::size_t prompt = piece.text.find('>');
+        split.push_back({piece.after + held, piece.text.substr(0, prompt)});
+        if (prompt == std::string::npos)
+            continue;
+        held += by;
+        split.push_back({piece.after + held, piece.text.substr(prompt)});
+    }
+    pieces = split;
 }
 
 } // namespace
@@ -70,9 +76,9 @@ bool every_nth(const fault_set& faults, fault_kind kind, long number) {
 }
 
 void apply_reply_faults(adapter_reply& pieces, const fault_set& faults, long number,
-                        seeded_random& random) {
+                        const std::string& end_of_line, seeded_random& random) {
     if (const auto most = faults.value(fault_kind::buffer_full))
-        break_off(pieces, std::size_t(*most));
+        break_off(pieces, std::size_t(*most), end_of_line);
     if (faults.has(fault_kind::clone))
         pieces.front().text.insert(0, 2, '\0');
     const auto rubbish = faults.value(fault_kind::garbage);

@@ -18,7 +18,7 @@ using adapter_reply = std::vector<reply_piece>;
 
 // `number` counts the replies of an adapter from 1.
 void apply_reply_faults(adapter_reply& pieces, const fault_set& faults, long number,
-                        seeded_random& random);
+                        const std::string& end_of_line, seeded_random& random);
 
 // Whether the `number`th of something, counted from 1, is hit by a fault that strikes every Nth.
 bool every_nth(const fault_set& faults, fault_kind kind, long number);

@@ -30,13 +30,17 @@ void virtual_adapter::connection_opened(milliseconds now) {
     typed_.clear();
     typing_ends_.reset();
     busy_until_ = now;
+    search_.reset();
     commands_ = 0;
     closing_ = false;
 }
 
 void virtual_adapter::receive(std::string_view bytes, milliseconds now) {
     vehicle_.seconds(now);
+    const auto stall_after = options_.faults.value(fault_kind::stall_after);
     for (const char c : bytes) {
+        if (stall_after && commands_ >= *stall_after)
+            return;
         // The chip passes over NUL, and over line feeds, which some terminals send with each
         // return.
         if (c == '\0' || c == '\n')
@@ -60,6 +64,9 @@ bool virtual_adapter::interrupted(milliseconds now) {
         return false;
     if (restarting_)
         return true;
+    if (search_ && now < search_->ends)
+        state_ = search_->before;
+    search_.reset();
     output_.drop_waiting();
     output_.push(now, end_of_line() + "STOPPED" + end_of_line() + end_of_line() + ">");
     busy_until_ = now;
@@ -76,13 +83,8 @@ void virtual_adapter::finish_command(milliseconds now) {
     text.swap(typed_);
     ++commands_;
     const auto close_after = options_.faults.value(fault_kind::close_after);
-    const auto stall_after = options_.faults.value(fault_kind::stall_after);
     if (close_after && commands_ > *close_after) {
         closing_ = true;
-        output_.drop_waiting();
-        return;
-    }
-    if (stall_after && commands_ > *stall_after) {
         output_.drop_waiting();
         return;
     }
@@ -96,7 +98,7 @@ void virtual_adapter::finish_command(milliseconds now) {
 
 void virtual_adapter::send(adapter_reply pieces, milliseconds now) {
     busy_until_ = now + end_of(pieces);
-    apply_reply_faults(pieces, options_.faults, ++replies_, random_);
+    apply_reply_faults(pieces, options_.faults, ++replies_, end_of_line(), random_);
     for (const reply_piece& piece : pieces)
         output_.push(now + piece.after, piece.text);
     if (const auto held = options_.faults.value(fault_kind::merge_replies))
@@ -131,6 +133,12 @@ adapter_reply virtual_adapter::answer_at(const command_line& line, milliseconds 
     const std::string eol_before = end_of_line();
     const std::optional<std::string> told = run_at_command(state_, car, line.at_command);
     adapter_reply pieces;
+    if (told && is_initiation(line.at_command)) {
+        const adapter_state before = state_;
+        connect_to_only(protocol_numbered(state_.protocol), ignition, pieces);
+        search_ = search{before, now + end_of(pieces)};
+        return pieces;
+    }
     if (told && is_restart(line.at_command)) {
         restarting_ = true;
         pieces.push_back({scaled(RESTART_TIME), eol_before + eol_before});

@@ -83,6 +83,12 @@ class virtual_adapter {
     std::string last_command_;
     std::optional<milliseconds> typing_ends_; // a command that is not finished by then is given up
     milliseconds busy_until_{0};
+    // While the car is being searched for: what holds again when that is stopped.
+    struct search {
+        adapter_state before;
+        milliseconds ends;
+    };
+    std::optional<search> search_;
     bool restarting_ = false;
     bool closing_ = false;
     long commands_ = 0; // of this connection

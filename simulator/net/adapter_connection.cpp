@@ -13,6 +13,9 @@ adapter_connection::adapter_connection(QTcpSocket* socket, virtual_adapter& adap
     connect(&timer_, &QTimer::timeout, this, &adapter_connection::write_due);
     connect(socket_, &QTcpSocket::readyRead, this, &adapter_connection::read);
     connect(socket_, &QTcpSocket::disconnected, this, &adapter_connection::over);
+}
+
+void adapter_connection::start() {
     adapter_.connection_opened(now());
     read();
 }

@@ -18,6 +18,8 @@ class adapter_connection : public QObject {
     adapter_connection(QTcpSocket* socket, virtual_adapter& adapter, const QElapsedTimer& clock,
                        QObject* parent);
 
+    // Reads what already waits, which may end the connection: connect to over() first.
+    void start();
     bool is_open() const { return socket_->state() == QAbstractSocket::ConnectedState; }
 
   Q_SIGNALS:

@@ -46,7 +46,12 @@ bool tcp_adapter_server::refuse_at(const std::string& address, int port) {
 void tcp_adapter_server::serve_next() {
     if (connection_ && connection_->is_open())
         return;
-    QTcpSocket* const socket = server_.nextPendingConnection();
+    QTcpSocket* socket = server_.nextPendingConnection();
+    // Who left while waiting would never say so again.
+    while (socket && socket->state() != QAbstractSocket::ConnectedState) {
+        socket->deleteLater();
+        socket = server_.nextPendingConnection();
+    }
     if (!socket)
         return;
     if (connection_)
@@ -54,4 +59,5 @@ void tcp_adapter_server::serve_next() {
     connection_ = new adapter_connection(socket, adapter_, clock_, this);
     connect(connection_, &adapter_connection::over, this, &tcp_adapter_server::serve_next,
             Qt::QueuedConnection);
+    connection_->start();
 }

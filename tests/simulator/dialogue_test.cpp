@@ -66,6 +66,28 @@ TEST(dialogue_test, a_character_while_the_car_is_asked_stops_that) {
     EXPECT_EQ(car.say("01 51"), "41 51 01\r\r>");
 }
 
+TEST(dialogue_test, a_search_that_was_stopped_has_found_nothing) {
+    adapter_harness car("diesel", {}, std::nullopt);
+    car.say("AT E0");
+    car.adapter.receive("01 00\r", car.now);
+    car.now += 100ms;
+    EXPECT_EQ(adapter_harness::joined(car.chunks("0")), "\rSTOPPED\r\r>");
+    EXPECT_EQ(car.say("AT DPN"), "A0\r\r>");
+    EXPECT_EQ(car.say("01 00"), "SEARCHING...\rBUS INIT: OK\r41 00 98 3B 00 11\r\r>");
+    EXPECT_EQ(car.say("AT DPN"), "A5\r\r>");
+}
+
+TEST(dialogue_test, single_bytes_of_a_stopped_reply_delay_nothing_after_it) {
+    adapter_harness car("diesel", {"one_byte_chunks"}, std::nullopt);
+    car.say("AT E0");
+    car.adapter.receive("01 00\r", car.now);
+    car.now += 3ms;
+    const long stopped = car.now.count();
+    const auto chunks = car.chunks("0");
+    EXPECT_EQ(adapter_harness::joined(chunks), "\rSTOPPED\r\r>");
+    EXPECT_LT(chunks.back().at, stopped + 50);
+}
+
 TEST(dialogue_test, a_command_never_finished_is_given_up) {
     adapter_harness car;
     car.say("AT E0");

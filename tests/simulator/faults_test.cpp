@@ -40,7 +40,8 @@ TEST(faults_test, connection_faults_count_the_commands_of_one_connection) {
 
     adapter_harness stalling("can11", {"stall_after=1"});
     EXPECT_THAT(stalling.say("AT I"), HasSubstr(">"));
-    EXPECT_EQ(stalling.say("AT I"), "");
+    EXPECT_TRUE(stalling.chunks("AT").empty());
+    EXPECT_EQ(stalling.say(" I"), "");
     EXPECT_FALSE(stalling.adapter.wants_close(stalling.now));
 }
 
@@ -155,6 +156,18 @@ TEST(faults_test, faults_combine) {
     EXPECT_EQ(car.chunks("AT I\r"),
               (std::vector<timed_chunk>{
                   {start, "AT I\r\n"}, {start + 10, "ELM327 v1.5\r\n\r\n"}, {start + 15, ">"}}));
+
+    adapter_harness full("can11", {"crlf", "buffer_full=2"});
+    full.say("AT E0");
+    EXPECT_EQ(full.say("AT I"), "ELBUFFER FULL\r\n\r\n>");
+
+    adapter_harness split("can11", {"split_prompt=5", "text_after_prompt", "duplicate_reply=2"});
+    split.say("AT E0");
+    const long asked = split.now.count();
+    EXPECT_EQ(split.chunks("AT DPN\r"),
+              (std::vector<timed_chunk>{{asked, "A0\r\r"},
+                                        {asked + 5, ">\r\nREADY\r\nA0\r\r"},
+                                        {asked + 10, ">\r\nREADY\r\n"}}));
 }
 
 } // namespace

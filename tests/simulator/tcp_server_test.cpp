@@ -58,6 +58,37 @@ TEST(tcp_server_test, clients_one_after_another_meet_the_same_car) {
     EXPECT_EQ(say(second, ""), "43 00\r43 00\r\r>");
 }
 
+TEST(tcp_server_test, a_client_that_left_while_waiting_keeps_nobody_waiting) {
+    tcp_adapter_server server(load_car("can11"), at_once());
+    ASSERT_TRUE(server.listen("127.0.0.1", 0)) << server.error();
+    QTcpSocket first, leaving, last;
+    ASSERT_TRUE(connect_to(first, server));
+    EXPECT_EQ(say(first, "AT E0\r"), "AT E0\rOK\r\r>");
+    ASSERT_TRUE(connect_to(leaving, server));
+    leaving.disconnectFromHost();
+    ASSERT_TRUE(wait_for([&] { return leaving.state() == QAbstractSocket::UnconnectedState; }));
+    ASSERT_TRUE(connect_to(last, server));
+    EXPECT_EQ(say(first, "AT I\r"), "ELM327 v1.5\r\r>");
+    first.disconnectFromHost();
+    EXPECT_EQ(say(last, "AT I\r"), "ELM327 v1.5\r\r>");
+}
+
+TEST(tcp_server_test, a_client_closed_at_its_first_waiting_bytes_lets_the_next_in) {
+    tcp_adapter_server server(load_car("can11"), at_once({{fault_kind::close_after, 0}}));
+    ASSERT_TRUE(server.listen("127.0.0.1", 0)) << server.error();
+    QTcpSocket first, second, third;
+    ASSERT_TRUE(connect_to(first, server));
+    for (QTcpSocket* const waiting : {&second, &third}) {
+        ASSERT_TRUE(connect_to(*waiting, server));
+        waiting->write("AT I\r");
+        waiting->flush();
+    }
+    first.disconnectFromHost();
+    for (QTcpSocket* const waiting : {&second, &third})
+        EXPECT_TRUE(
+            wait_for([&] { return waiting->state() == QAbstractSocket::UnconnectedState; }));
+}
+
 TEST(tcp_server_test, refuse_and_close_are_seen_by_the_client) {
     tcp_adapter_server refusing(load_car("can11"), at_once({{fault_kind::refuse, 0}}));
     ASSERT_TRUE(refusing.listen("127.0.0.1", 0));

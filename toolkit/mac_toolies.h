@@ -7,9 +7,12 @@
 // table entry or unit, "NOT FOUND" unknown PID name.
 #pragma once
 
+#include "data_folder.h"
 #include "text_dictionary.h"
 
 #include <cstdint>
+#include <ctime>
+#include <functional>
 #include <map>
 #include <optional>
 #include <span>
@@ -27,6 +30,9 @@ struct toolkit_doors {
     const user_defaults* defaults = nullptr;
     alerts* message_boxes = nullptr;
     notification_center* notifications = nullptr;
+    // Holds the log folder; tests give a folder of their own.
+    std::string data_folder = user_data_folder();
+    std::function<std::time_t()> now = [] { return std::time(nullptr); };
 };
 
 // A reply's display text and its number (translateResponse and get_OBDVal).
@@ -143,6 +149,20 @@ class mac_toolies {
     // The name of a monitor or test identifier; "N/A" outside the table.
     std::string grab_CAN_mode6_OBDMID_TESTID_description(std::string_view identifier, bool is_OBDMID) const;
     static std::string work_out_vin(std::string_view reply);
+
+    // --- run_logs.cpp: names of run logs ----------------------------------------------------------------
+    // The local date and time, in the order that goes with the user's units, with the user's month names and
+    // a 12-hour clock without a mark of the half of the day. Flag 0: as file names have it,
+    // "Nov_15_2026-0254_33"; 1: for display, "Nov 15 2026 02:54:33".
+    std::string get_todays_date(int flag) const;
+    // "loggies" in the data folder; it may not exist yet.
+    std::string log_folder() const;
+    // The path, without extension, of a log that a run of the task would begin now. Creates the log folder
+    // when there is none; a failure is logged and the path returned all the same.
+    std::string work_out_log_fname_for_mode(int task) const;
+    // Removes a file of the log folder. False, with a warning in the log, when that fails or the text is not
+    // the plain name of a file.
+    bool delete_a_log(std::string_view file_name) const;
 
     // --- canned_adapter.cpp -----------------------------------------------------------------------------
     // Posts the canned answer to `command` as "OBDevent" before it returns.

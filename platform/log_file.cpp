@@ -1,0 +1,149 @@
+#include "log_file.h"
+
+#include <cerrno>
+#include <condition_variable>
+#include <fcntl.h>
+#include <mutex>
+#include <system_error>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+std::string in_words(int error) {
+    return std::generic_category().message(error);
+}
+
+// 0, or why not all of it was written.
+int write_whole(int fd, std::string_view text) {
+    while (!text.empty()) {
+        const ssize_t written = ::write(fd, text.data(), text.size());
+        if (written < 0 && errno != EINTR)
+            return errno;
+        if (written > 0)
+            text.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return 0;
+}
+
+// 0, or why the disk failed. What cannot be forced anywhere, such as a device, is no failure.
+int force_to_disk(int fd) {
+    return ::fdatasync(fd) == 0 || errno == EINVAL || errno == EROFS ? 0 : errno;
+}
+
+// The name of a new file is an entry of its folder, which has to reach the disk as well.
+void force_folder_to_disk(const std::string& file) {
+    const std::size_t slash = file.rfind('/');
+    const std::string folder = slash == file.npos ? "." : file.substr(0, slash + 1);
+    const int fd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0)
+        return;
+    ::fsync(fd);
+    ::close(fd);
+}
+
+} // namespace
+
+// Forces the file to disk whenever something was appended; what comes during one flush is served
+// by the next.
+class log_file::disk_flusher {
+  public:
+    disk_flusher(int fd, std::string path)
+        : thread_([this, fd, path = std::move(path)] { work(fd, path); }) {}
+
+    ~disk_flusher() { finish(); }
+
+    void flush() {
+        const std::lock_guard lock(mutex_);
+        dirty_ = true;
+        wake_.notify_one();
+    }
+    // Of the first flush that failed; 0 while none did.
+    int error() {
+        const std::lock_guard lock(mutex_);
+        return error_;
+    }
+    void finish() {
+        {
+            const std::lock_guard lock(mutex_);
+            over_ = true;
+            wake_.notify_one();
+        }
+        if (thread_.joinable())
+            thread_.join();
+    }
+
+  private:
+    void work(int fd, const std::string& path) {
+        force_folder_to_disk(path);
+        std::unique_lock lock(mutex_);
+        for (;;) {
+            wake_.wait(lock, [this] { return dirty_ || over_; });
+            if (!dirty_)
+                return;
+            dirty_ = false;
+            lock.unlock();
+            const int error = force_to_disk(fd);
+            lock.lock();
+            if (error_ == 0)
+                error_ = error;
+        }
+    }
+
+    std::mutex mutex_;
+    std::condition_variable wake_;
+    bool dirty_ = false;
+    bool over_ = false;
+    int error_ = 0;
+    std::thread thread_; // last: it uses the others
+};
+
+log_file::log_file() = default;
+
+log_file::~log_file() {
+    close();
+}
+
+std::optional<std::string> log_file::create(const std::string& path, existing file_there) {
+    close();
+    const int mode = file_there == existing::replace ? O_TRUNC : O_EXCL;
+    const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | mode, 0666);
+    if (fd < 0)
+        return in_words(errno);
+    path_ = path;
+    fd_ = fd;
+    flusher_ = std::make_unique<disk_flusher>(fd_, path_);
+    return std::nullopt;
+}
+
+std::optional<std::string> log_file::append_line(std::string_view lines) {
+    if (!is_open())
+        return std::nullopt;
+    if (const int error = flusher_->error())
+        return fail(error);
+    const off_t end = ::lseek(fd_, 0, SEEK_END);
+    if (const int error = write_whole(fd_, lines)) {
+        // A device has no length to go back to.
+        [[maybe_unused]] const int cut = end >= 0 ? ::ftruncate(fd_, end) : 0;
+        return fail(error);
+    }
+    flusher_->flush();
+    return std::nullopt;
+}
+
+std::optional<std::string> log_file::fail(int error) {
+    close();
+    return in_words(error);
+}
+
+std::optional<std::string> log_file::close() {
+    if (!is_open())
+        return std::nullopt;
+    flusher_->finish();
+    int error = flusher_->error();
+    flusher_.reset();
+    if (::close(fd_) != 0 && error == 0)
+        error = errno;
+    fd_ = -1;
+    return error == 0 ? std::nullopt : std::optional(in_words(error));
+}

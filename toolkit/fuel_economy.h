@@ -1,0 +1,20 @@
+// How far the fuel takes the car, from its speed and the air its engine draws: a petrol engine
+// burns 14.7 parts of air with one part of petrol, by weight, and petrol is taken as 740 g/litre.
+#pragma once
+
+#include <string>
+
+class mac_toolies;
+
+struct fuel_economy {
+    double mpg; // miles per US gallon
+    double kpl; // kilometres per litre
+};
+
+// Speed in km/h and air flow in g/s with the flag clear; mph and lb/min with the flag set. Without
+// air flow the result is infinite, and no number at all without speed either.
+fuel_economy compute_MPG(bool flag, double speed, double maf);
+
+// The economy as reply text of pseudo-PID E4; "~" where there is no economy to show: the engine
+// draws no air, as when it stands, or a reading is missing (NaN).
+std::string fuel_economy_reply(const mac_toolies& toolies, const fuel_economy& economy);

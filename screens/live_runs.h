@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -58,8 +59,7 @@ struct run_choice {
     int task;
     const char* name;
 };
-inline constexpr std::size_t RUN_CHOICES = 4;
-const run_choice* run_choices();
+std::span<const run_choice> run_choices();
 
 // Oxygen-sensor parameters (14 to 1B) that an answer to 01 13 or 01 1D reports; empty when it
 // cannot be read (SAE J1979).

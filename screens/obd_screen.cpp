@@ -51,9 +51,17 @@ void obd_screen::old_reply_is_over() {
 }
 
 void obd_screen::set_status_msg(const std::string& message) {
-    status_ = message;
+    note_status(message);
+    show_status();
+}
+
+void obd_screen::show_status() {
     if (statusLbl)
-        statusLbl->set_text(message);
+        statusLbl->set_text(status_);
+}
+
+void obd_screen::note_status(const std::string& message) {
+    status_ = message;
     if (KS_delegate.status_shown)
         KS_delegate.status_shown(message);
 }

@@ -45,6 +45,10 @@ class obd_screen : public screen_controller {
 
   protected:
     void use_status_line(status_line& line) { statusLbl = &line; }
+    // The two halves of set_status_msg(), for a screen whose texts come faster than they can be
+    // read: the first takes note, the second shows the last one noted.
+    void note_status(const std::string& message);
+    void show_status();
     // A task begins; what an earlier one waited for is forgotten.
     void begin_task();
     // Starts the task's first step, now or when the adapter is done with another command: that

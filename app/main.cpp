@@ -45,14 +45,15 @@ bool display_there() {
 
 // The built-in virtual car, listening on loopback.
 std::unique_ptr<tcp_adapter_server> start_demo_car(const std::string& name) {
-    auto server = std::make_unique<tcp_adapter_server>(load_car(name.empty() ? DEFAULT_DEMO_CAR : name),
-                                                       adapter_options());
+    auto server = std::make_unique<tcp_adapter_server>(
+        load_car(name.empty() ? DEFAULT_DEMO_CAR : name), adapter_options());
     if (!server->listen("127.0.0.1", 0))
         throw std::runtime_error("the virtual car cannot listen on 127.0.0.1");
     return server;
 }
 
-// The store to use. A demo or a named adapter works on a copy in `scratch`, so that nothing of the user's changes.
+// The store to use. A demo or a named adapter works on a copy in `scratch`, so that nothing of the
+// user's changes.
 std::string settings_path(const cli_request& asked, const QTemporaryDir& scratch) {
     const std::string path = asked.settings.value_or(user_defaults::default_path());
     if (!asked.demo && !asked.adapter_host)
@@ -94,7 +95,8 @@ int decode(int argc, char** argv, const cli_request& asked) {
     const QCoreApplication application(argc, argv);
     const QTemporaryDir scratch;
     user_defaults units(scratch.filePath(QStringLiteral("kestrom.conf")).toStdString());
-    units.set_boolean(KS_METRIC_UNITS_KEY, user_defaults(user_defaults::default_path()).boolean(KS_METRIC_UNITS_KEY));
+    units.set_boolean(KS_METRIC_UNITS_KEY,
+                      user_defaults(user_defaults::default_path()).boolean(KS_METRIC_UNITS_KEY));
     const bundle resources;
     const mac_toolies toolies({&resources, &units, nullptr, nullptr});
     if (asked.command == "decode")
@@ -120,7 +122,8 @@ int run(QApplication& application, const cli_request& asked) {
     notification_center notifications;
     console_alerts printed_alerts(loop);
     message_box_alerts shown_alerts(loop);
-    alerts& message_boxes = asked.without_display() ? static_cast<alerts&>(printed_alerts) : shown_alerts;
+    alerts& message_boxes =
+        asked.without_display() ? static_cast<alerts&>(printed_alerts) : shown_alerts;
     mac_toolies::initialize({&resources, &defaults, &message_boxes, &notifications});
     Ks_lite_delegate delegate(
         {loop, message_boxes, defaults, resources, notifications,
@@ -180,7 +183,8 @@ int main(int argc, char** argv) {
     if (asked.without_display())
         qputenv("QT_QPA_PLATFORM", "offscreen");
     if (!display_there()) {
-        std::fputs("kestrom: there is no display; give a command, such as 'kestrom --demo codes'\n", stderr);
+        std::fputs("kestrom: there is no display; give a command, such as 'kestrom --demo codes'\n",
+                   stderr);
         return FAILURE_STATUS;
     }
     QApplication application(argc, argv);

@@ -16,6 +16,7 @@ int main(int argc, char** argv) {
         return 2;
     ratio_table table;
     add_decoding_rows(table);
+    add_table_rows(table);
     add_drawing_rows(table);
     benchmark::RunSpecifiedBenchmarks();
     return table.print() ? 0 : 1;

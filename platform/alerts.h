@@ -1,5 +1,5 @@
-// The door to modal message boxes. The window shows them, the command line prints them, tests script
-// their answers. Owned by the program's start-up code, which hands it down.
+// The door to modal message boxes. The window shows them, the command line prints them, tests
+// script their answers. Owned by the program's start-up code, which hands it down.
 #pragma once
 
 #include "run_loop.h"
@@ -22,8 +22,8 @@ class alerts {
     explicit alerts(run_loop& loop) : loop_(loop) {}
     virtual ~alerts() = default;
 
-    // Shows the alert and returns the index of the button chosen once it is dismissed; dismissing without
-    // choosing counts as the last button. Nothing is delivered by the run loop meanwhile.
+    // Shows the alert and returns the index of the button chosen once it is dismissed; dismissing
+    // without choosing counts as the last button. Nothing is delivered by the run loop meanwhile.
     int show(const alert_request& request) {
         const modal_hold hold(loop_);
         return run_modal(request);

@@ -27,7 +27,8 @@ bundle::bundle(std::string root, std::string locale)
 
 bundle::~bundle() = default;
 
-std::optional<std::string> bundle::resource_text(std::string_view name, std::string_view type) const {
+std::optional<std::string> bundle::resource_text(std::string_view name,
+                                                 std::string_view type) const {
     QFile file(qstring(root_) + QStringLiteral("/tables/") + qstring(name) + QLatin1Char('.') +
                qstring(type));
     if (!file.open(QIODevice::ReadOnly))

@@ -1,5 +1,5 @@
-// What the program ships with: text tables, localised strings, images. One per program, owned by the
-// start-up code; tests point one at a folder of their own.
+// What the program ships with: text tables, localised strings, images. One per program, owned by
+// the start-up code; tests point one at a folder of their own.
 #pragma once
 
 #include <memory>
@@ -11,8 +11,8 @@ class QTranslator;
 
 class bundle {
   public:
-    // `root`: a folder, or ":/kestrom" for what is compiled in. `locale`: such as "de_DE"; empty: the user's.
-    // Texts come from the nearest language, then English.
+    // `root`: a folder, or ":/kestrom" for what is compiled in. `locale`: such as "de_DE"; empty:
+    // the user's. Texts come from the nearest language, then English.
     explicit bundle(std::string root = ":/kestrom", std::string locale = {});
     ~bundle();
 
@@ -20,7 +20,8 @@ class bundle {
     std::optional<std::string> resource_text(std::string_view name, std::string_view type) const;
     // The text under `key` of the strings table "Kestrom"; empty when the key is missing.
     std::string localized(std::string_view key) const;
-    // Where images/NAME lies, for an image reader; with an .svg beside the .gif of that name, the drawing.
+    // Where images/NAME lies, for an image reader; with an .svg beside the .gif of that name, the
+    // drawing.
     std::string image_path(std::string_view name) const;
 
   private:

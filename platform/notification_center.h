@@ -1,5 +1,5 @@
-// Named notifications, delivered synchronously to their observers in order of registration. Owned by the
-// start-up code; the adapter link is its main user ("OBDevent").
+// Named notifications, delivered synchronously to their observers in order of registration. Owned
+// by the start-up code; the adapter link is its main user ("OBDevent").
 #pragma once
 
 #include <cstdint>

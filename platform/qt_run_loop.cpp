@@ -13,7 +13,8 @@ run_loop::milliseconds qt_run_loop::now() const {
 
 void qt_run_loop::arm(timer_id id, milliseconds delay) {
     if (delay.count() <= 0) {
-        QMetaObject::invokeMethod(this, [this, id] { fall_due(id); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this, id] { fall_due(id); }, Qt::QueuedConnection);
         return;
     }
     auto timer = std::make_unique<QTimer>();
@@ -39,5 +40,6 @@ void qt_run_loop::disarm(timer_id id) {
 }
 
 void qt_run_loop::wake() {
-    QMetaObject::invokeMethod(this, [this] { deliver_due(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { deliver_due(); }, Qt::QueuedConnection);
 }

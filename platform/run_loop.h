@@ -1,9 +1,9 @@
 // The door to time: delayed calls on the one main thread, in order.
 //
-// Deliveries never nest. While a delivery runs, or while a modal dialog is up (modal_hold), whatever falls
-// due waits in its order and is delivered afterwards; a waiting call can still be cancelled, so a held
-// reply that stops the time-out behind it wins. This is the only place that knows the rule: transports,
-// timers and screens simply schedule.
+// Deliveries never nest. While a delivery runs, or while a modal dialog is up (modal_hold),
+// whatever falls due waits in its order and is delivered afterwards; a waiting call can still be
+// cancelled, so a held reply that stops the time-out behind it wins. This is the only place that
+// knows the rule: transports, timers and screens simply schedule.
 #pragma once
 
 #include <chrono>

@@ -1,5 +1,5 @@
-// The door to a TCP connection: an input and an output stream to one host, opened together. The link owns
-// one pair at a time; a pair that is closed or destroyed raises no further event.
+// The door to a TCP connection: an input and an output stream to one host, opened together. The
+// link owns one pair at a time; a pair that is closed or destroyed raises no further event.
 #pragma once
 
 #include <cstddef>
@@ -23,9 +23,10 @@ class stream_pair {
 
     virtual ~stream_pair() = default;
 
-    // Starts to connect. Events come from the run loop later, never from inside open, write or close: both
-    // sides report open; the input side reports bytes, error and end; what was received before the end is
-    // read before it. The peer's close is the end event, never an error; our own close raises none.
+    // Starts to connect. Events come from the run loop later, never from inside open, write or
+    // close: both sides report open; the input side reports bytes, error and end; what was received
+    // before the end is read before it. The peer's close is the end event, never an error; our own
+    // close raises none.
     virtual void open(event_handler handler) = 0;
     // At most `most` bytes received so far; empty when there are none.
     virtual std::string read(std::size_t most) = 0;
@@ -36,6 +37,7 @@ class stream_pair {
     virtual std::string error_description() const = 0;
 };
 
-// Makes a pair to host and port; nothing when none can be made. The port may be any number: one outside
-// 0 to 65535 ends in the error event.
-using stream_pair_factory = std::function<std::unique_ptr<stream_pair>(const std::string& host, long port)>;
+// Makes a pair to host and port; nothing when none can be made. The port may be any number: one
+// outside 0 to 65535 ends in the error event.
+using stream_pair_factory =
+    std::function<std::unique_ptr<stream_pair>(const std::string& host, long port)>;

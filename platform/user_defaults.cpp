@@ -25,7 +25,9 @@ QStringList qstrings(const std::vector<std::string>& values) {
 
 } // namespace
 
-user_defaults::user_defaults(std::string path) : path_(std::move(path)) { load(); }
+user_defaults::user_defaults(std::string path) : path_(std::move(path)) {
+    load();
+}
 
 std::string user_defaults::default_path() {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
@@ -52,7 +54,9 @@ void user_defaults::load() {
     }
 }
 
-bool user_defaults::contains(std::string_view key) const { return values_.contains(key); }
+bool user_defaults::contains(std::string_view key) const {
+    return values_.contains(key);
+}
 
 std::string user_defaults::string(std::string_view key) const {
     const auto found = values_.find(key);

@@ -1,6 +1,6 @@
-// The per-user settings store: typed values under text keys, kept in memory and written to a .conf file by
-// synchronize(). Owned by the start-up code; tests give each a temporary file. Reads are cheap enough for a
-// hot path.
+// The per-user settings store: typed values under text keys, kept in memory and written to a .conf
+// file by synchronize(). Owned by the start-up code; tests give each a temporary file. Reads are
+// cheap enough for a hot path.
 #pragma once
 
 #include <functional>

@@ -23,13 +23,15 @@ enum step : int {
 };
 
 constexpr std::string_view NOT_UNDERSTOOD = "Did not understand cmd  ... Try again ";
-constexpr std::string_view NO_INTERFACE = "Unable to connect to interface ... Timed out .. Try again";
+constexpr std::string_view NO_INTERFACE =
+    "Unable to connect to interface ... Timed out .. Try again";
 
-// How many units answered "01 00": the lines that hold its marker. The prompt and search notices are lines of the
-// reply as well, but no units.
+// How many units answered "01 00": the lines that hold its marker. The prompt and search notices
+// are lines of the reply as well, but no units.
 int control_units_in(std::string_view bare_reply) {
     std::set<std::string> answers;
-    for (const std::string& line : mac_toolies::Pull_line_into_array(without(bare_reply, "\n"), "\r"))
+    for (const std::string& line :
+         mac_toolies::Pull_line_into_array(without(bare_reply, "\n"), "\r"))
         if (contains(line, "4100"))
             answers.insert(line);
     return static_cast<int>(answers.size());
@@ -48,8 +50,10 @@ struct adapter_handshake::pid_group {
 };
 
 bool adapter_handshake::connect_2_interface(int step) {
-    static const pid_group GROUP_00{0, "01 00", "20", "01 20\r", PIDS_20_ANSWERED, &g_Supported_obd_mask_0};
-    static const pid_group GROUP_20{1, "01 20", "40", "01 40\r", PIDS_40_ANSWERED, &g_Supported_obd_mask_1};
+    static const pid_group GROUP_00{0,         "01 00",          "20",
+                                    "01 20\r", PIDS_20_ANSWERED, &g_Supported_obd_mask_0};
+    static const pid_group GROUP_20{1,         "01 20",          "40",
+                                    "01 40\r", PIDS_40_ANSWERED, &g_Supported_obd_mask_1};
     static const pid_group GROUP_40{2, "01 40", nullptr, "", 0, nullptr};
     try {
         switch (step) {
@@ -86,8 +90,8 @@ bool adapter_handshake::connect_2_interface(int step) {
             break;
         }
     } catch (const std::exception& failure) {
-        fail_with_status("connect_2_interface::Did not fully complete [ " + std::string(failure.what()) +
-                         " ]");
+        fail_with_status("connect_2_interface::Did not fully complete [ " +
+                         std::string(failure.what()) + " ]");
     }
     return false;
 }
@@ -166,8 +170,8 @@ void adapter_handshake::identity_answered() {
     send("AT DP\r", PROTOCOL_ANSWERED);
 }
 
-// An adapter that answers every "AT DP" with "?" keeps this exchange going until the user leaves: the screener says
-// what is wrong each time.
+// An adapter that answers every "AT DP" with "?" keeps this exchange going until the user leaves:
+// the screener says what is wrong each time.
 void adapter_handshake::protocol_answered() {
     const std::string reply = check_initial_car_reply();
     if (contains(reply, "?")) {

@@ -1,7 +1,7 @@
-// Brings adapter and car's bus up before a task: reset, echo off, identity, protocol, headers on, supported PIDs,
-// headers off. One step per complete reply; the step numbers below are the values of next_step_idx while
-// g_cur_mode is MODE_HANDSHAKE. Two screens run it; they differ in texts and in how a reply is screened, which the
-// subclass of each screen provides. A member of its screen.
+// Brings adapter and car's bus up before a task: reset, echo off, identity, protocol, headers on,
+// supported PIDs, headers off. One step per complete reply; the step numbers below are the values
+// of next_step_idx while g_cur_mode is MODE_HANDSHAKE. Two screens run it; they differ in texts and
+// in how a reply is screened, which the subclass of each screen provides. A member of its screen.
 #pragma once
 
 #include <string>
@@ -15,8 +15,9 @@ inline constexpr char REPLY_REJECTED[] = "-666";
 struct handshake_texts {
     std::string_view reset_not_understood;    // "?" to the reset, for the third time
     std::string_view echo_off_not_understood; // "?" to "AT E0"
-    std::string_view echo_off_improper;       // anything but OK to "AT E0"; followed by the reply in brackets when
-    bool echo_off_improper_shows_reply;       //   this is set
+    std::string_view
+        echo_off_improper; // anything but OK to "AT E0"; followed by the reply in brackets when
+    bool echo_off_improper_shows_reply; //   this is set
     std::string_view protocol_prefix;
     std::string_view headers_given_up;
     std::string_view first_pids_failed; // "~" to "01 00"
@@ -26,7 +27,8 @@ struct handshake_texts {
 
 class adapter_handshake {
   public:
-    adapter_handshake(obd_screen& screen, const handshake_texts& texts) : screen_(screen), texts_(texts) {}
+    adapter_handshake(obd_screen& screen, const handshake_texts& texts)
+        : screen_(screen), texts_(texts) {}
     virtual ~adapter_handshake() = default;
 
     // Runs one step. True when the handshake has just completed and the task has been started.

@@ -40,5 +40,9 @@ void busy_indicator::paintEvent(QPaintEvent*) {
     }
 }
 
-void busy_indicator::showEvent(QShowEvent*) { timer_.start(); }
-void busy_indicator::hideEvent(QHideEvent*) { timer_.stop(); }
+void busy_indicator::showEvent(QShowEvent*) {
+    timer_.start();
+}
+void busy_indicator::hideEvent(QHideEvent*) {
+    timer_.stop();
+}

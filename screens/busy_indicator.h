@@ -1,5 +1,5 @@
-// The indeterminate busy indicator ("waity"): a ring of dots. Its screen decides when it is visible; it turns only
-// while something is awaited.
+// The indeterminate busy indicator ("waity"): a ring of dots. Its screen decides when it is
+// visible; it turns only while something is awaited.
 #pragma once
 
 #include <QTimer>

@@ -47,7 +47,8 @@ class drawn_icon_engine final : public QIconEngine {
         drawing_->render(&painter);
         painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
+        const auto role =
+            mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
         painter.fillRect(image.rect(), palette_.color(group, role));
         return image;
     }
@@ -60,7 +61,8 @@ class drawn_icon_engine final : public QIconEngine {
 } // namespace
 
 QIcon drawn_icon(std::string_view name, const QPalette& palette) {
-    const QString path = QStringLiteral(":/kestrom/icons/") + display_text(name) + QStringLiteral(".svg");
+    const QString path =
+        QStringLiteral(":/kestrom/icons/") + display_text(name) + QStringLiteral(".svg");
     return QFile::exists(path) ? QIcon(new drawn_icon_engine(path, palette)) : QIcon();
 }
 
@@ -71,7 +73,7 @@ QString ui_text(Ks_lite_delegate& delegate, std::string_view key) {
 void give_room(QTableView* table) {
     table->setStyleSheet(QStringLiteral(
         "QTableView::item { padding: 4px 8px; }"
-        "QHeaderView::section { padding: 4px 8px; border: none; border-bottom: 1px solid palette(mid);"
+        "QHeaderView::section { padding: 4px; border: none; border-bottom: 1px solid palette(mid);"
         " background: palette(button); }"));
     table->setTabKeyNavigation(false);
     table->verticalHeader()->hide();
@@ -84,11 +86,13 @@ void fit_column(QTableView* table, int column, const QString& widest) {
     const QString title = table->model()->headerData(column, Qt::Horizontal).toString();
     const QFontMetrics text(table->font());
     const QFontMetrics fixed(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    header->resizeSection(column, 4 * GRID + std::max({text.horizontalAdvance(widest), fixed.horizontalAdvance(widest),
+    header->resizeSection(column, 4 * GRID + std::max({text.horizontalAdvance(widest),
+                                                       fixed.horizontalAdvance(widest),
                                                        text.horizontalAdvance(title)}));
 }
 
-screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view title_key, bool with_status) {
+screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view title_key,
+                               bool with_status) {
     screen_bones bones;
     bones.root = new QWidget;
     auto* column = new QVBoxLayout(bones.root);
@@ -114,7 +118,8 @@ screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view titl
     if (with_status) {
         auto* foot = new QHBoxLayout;
         foot->setSpacing(GRID);
-        bones.waity = new busy_indicator(bones.root, [&delegate] { return delegate.anything_outstanding(); });
+        bones.waity =
+            new busy_indicator(bones.root, [&delegate] { return delegate.anything_outstanding(); });
         bones.waity->setAccessibleName(ui_text(delegate, "ui_busy"));
         bones.status = new status_line(bones.root);
         bones.status->setAccessibleDescription(ui_text(delegate, "ui_status"));

@@ -1,5 +1,5 @@
-// The bones that every screen shares: a title row with the main buttons at its right, the content, and at the foot the
-// status line with the busy indicator beside it.
+// The bones that every screen shares: a title row with the main buttons at its right, the content,
+// and at the foot the status line with the busy indicator beside it.
 #pragma once
 
 #include <QIcon>
@@ -39,4 +39,5 @@ struct screen_bones {
     busy_indicator* waity = nullptr;
 };
 
-screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view title_key, bool with_status);
+screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view title_key,
+                               bool with_status);

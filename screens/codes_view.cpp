@@ -60,8 +60,10 @@ codes_view::codes_view(Ks_lite_delegate& delegate) : delegate_(delegate) {
 codes_view::~codes_view() = default;
 
 void codes_view::build_buttons(QHBoxLayout* row) {
-    auto make = [&](const char* name, const char* icon, std::string_view key, std::function<void()>& call) {
-        auto* button = new QPushButton(drawn_icon(icon, root()->palette()), ui_text(delegate_, key), root());
+    auto make = [&](const char* name, const char* icon, std::string_view key,
+                    std::function<void()>& call) {
+        auto* button =
+            new QPushButton(drawn_icon(icon, root()->palette()), ui_text(delegate_, key), root());
         button->setObjectName(QLatin1String(name));
         QObject::connect(button, &QPushButton::clicked, root(), [&call] { call(); });
         row->addWidget(button);
@@ -109,7 +111,8 @@ void codes_view::build_tables(QVBoxLayout* column) {
          {QStringLiteral("Description"), ui_text(delegate_, "ui_col_description")}},
         [this](int row, const QString& identifier) {
             const code_row& codes = codes_[static_cast<std::size_t>(row)];
-            return display_text(identifier == QLatin1String("Codes") ? codes[0] : codes[1]).trimmed();
+            return display_text(identifier == QLatin1String("Codes") ? codes[0] : codes[1])
+                .trimmed();
         },
         codesReadTableView_);
     codes_model_->decorate = [](int, const QString& identifier, int role) -> QVariant {
@@ -134,7 +137,8 @@ void codes_view::build_tables(QVBoxLayout* column) {
             const readiness_flag& flag = readiness_[static_cast<std::size_t>(row)];
             if (identifier == QLatin1String("State"))
                 return readiness_mark(flag.state);
-            return display_text(identifier == QLatin1String("Description") ? flag.monitor : flag.kind);
+            return display_text(identifier == QLatin1String("Description") ? flag.monitor
+                                                                           : flag.kind);
         },
         readinessCodesTableView_);
     readinessCodesTableView_->setModel(readiness_model_);
@@ -159,7 +163,9 @@ void codes_view::show_readiness(const std::vector<readiness_flag>& rows) {
     readiness_model_->reload(static_cast<int>(rows.size()));
 }
 
-void codes_view::show_waity(bool visible) { waity_->setVisible(visible); }
+void codes_view::show_waity(bool visible) {
+    waity_->setVisible(visible);
+}
 
 void codes_view::set_lamp(const std::string& text) {
     lamp_ = text;
@@ -167,7 +173,9 @@ void codes_view::set_lamp(const std::string& text) {
     lamp_card_->show_lamp(text == "ON");
 }
 
-void codes_view::set_count(const std::string& text) { count_card_->set_value(text); }
+void codes_view::set_count(const std::string& text) {
+    count_card_->set_value(text);
+}
 
 void codes_view::set_read_on(const std::string& text) {
     read_on_ = text;
@@ -177,8 +185,12 @@ void codes_view::set_read_on(const std::string& text) {
 void codes_view::set_interface(const std::string& text) {
     interface_card_->set_value(without(text, ">"));
 }
-void codes_view::set_protocol(const std::string& text) { protocol_card_->set_value(text); }
-void codes_view::set_extra_info(const std::string& text) { extra_card_->set_value(text); }
+void codes_view::set_protocol(const std::string& text) {
+    protocol_card_->set_value(text);
+}
+void codes_view::set_extra_info(const std::string& text) {
+    extra_card_->set_value(text);
+}
 
 void codes_view::reset_labels() {
     lamp_.clear();

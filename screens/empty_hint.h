@@ -1,4 +1,5 @@
-// A quiet line in the middle of a table that has no rows: it says what would fill it. Owned by the table.
+// A quiet line in the middle of a table that has no rows: it says what would fill it. Owned by the
+// table.
 #pragma once
 
 #include <QAbstractItemView>
@@ -7,7 +8,8 @@
 
 class empty_hint final : public QLabel {
   public:
-    empty_hint(QAbstractItemView* table, const QString& text) : QLabel(text, table->viewport()), table_(table) {
+    empty_hint(QAbstractItemView* table, const QString& text)
+        : QLabel(text, table->viewport()), table_(table) {
         setTextFormat(Qt::PlainText);
         setAlignment(Qt::AlignCenter);
         setWordWrap(true);

@@ -27,7 +27,8 @@ constexpr int TRANSCRIPT_LINES = 20'000; // a monitored bus must not eat the mem
 
 // Blue that can be read on the ground it stands on.
 QColor echo_blue(const QPalette& palette) {
-    return palette.color(QPalette::Base).lightness() < 128 ? QColor(110, 160, 255) : QColor(Qt::blue);
+    return palette.color(QPalette::Base).lightness() < 128 ? QColor(110, 160, 255)
+                                                           : QColor(Qt::blue);
 }
 
 void append(QPlainTextEdit* view, const QString& text, const QTextCharFormat& format) {
@@ -67,7 +68,8 @@ expertCtrlr::expertCtrlr(Ks_lite_delegate& delegate) : obd_screen(delegate) {
     recall_ = std::make_unique<command_recall>(cmdTxt);
     auto* label = new QLabel(ui_text(delegate, "ui_command_label"), root_.get());
     label->setBuddy(cmdTxt);
-    auto* send = new QPushButton(drawn_icon("send", root_->palette()), ui_text(delegate, "ui_send"), root_.get());
+    auto* send = new QPushButton(drawn_icon("send", root_->palette()), ui_text(delegate, "ui_send"),
+                                 root_.get());
     send->setObjectName(QStringLiteral("sendBtn"));
     row->addWidget(label);
     row->addWidget(cmdTxt, 1);
@@ -92,7 +94,9 @@ void expertCtrlr::awakeFromNib() {
     waity->hide();
 }
 
-void expertCtrlr::set_command(const std::string& text) { cmdTxt->setText(display_text(text)); }
+void expertCtrlr::set_command(const std::string& text) {
+    cmdTxt->setText(display_text(text));
+}
 
 void expertCtrlr::handle_a_send() {
     const std::string command = cmdTxt->text().toStdString();
@@ -100,7 +104,8 @@ void expertCtrlr::handle_a_send() {
         toolies.myMsgBox("Missing", localized("blank_input_MSG"), "OK", "");
         return;
     }
-    if (command.size() > LONGEST_CONSOLE_COMMAND) { // refused whole: half a command may mean another one
+    if (command.size() >
+        LONGEST_CONSOLE_COMMAND) { // refused whole: half a command may mean another one
         set_status_msg(localized("ui_command_too_long"));
         return;
     }
@@ -117,7 +122,8 @@ void expertCtrlr::handle_a_send() {
 
 void expertCtrlr::work_current_task() {
     const std::string command = cmdTxt->text().toStdString();
-    // The link may come up for a task of another screen. A lone carriage return would make the adapter repeat its last command.
+    // The link may come up for a task of another screen. A lone carriage return would make the
+    // adapter repeat its last command.
     if (!asked_to_send_ || command.empty() || command.size() > LONGEST_CONSOLE_COMMAND)
         return;
     waity->show();

@@ -1,5 +1,5 @@
-// The expert console: any adapter command out, its raw answer into a transcript. No decoding, no task state: every send
-// is one command, and every chunk is shown as it arrives.
+// The expert console: any adapter command out, its raw answer into a transcript. No decoding, no
+// task state: every send is one command, and every chunk is shown as it arrives.
 #pragma once
 
 #include "obd_screen.h"

@@ -39,7 +39,8 @@ class fact_card::lamp final : public QWidget {
 };
 
 fact_card::fact_card(const QString& value_name, const QString& caption, QWidget* parent)
-    : QFrame(parent), caption_(new QLabel(caption, this)), value_(new QLabel(this)), lamp_(new lamp(this)) {
+    : QFrame(parent), caption_(new QLabel(caption, this)), value_(new QLabel(this)),
+      lamp_(new lamp(this)) {
     setFrameShape(QFrame::StyledPanel);
     value_->setObjectName(value_name);
     value_->setTextFormat(Qt::PlainText);
@@ -62,13 +63,14 @@ fact_card::fact_card(const QString& value_name, const QString& caption, QWidget*
     column->addStretch(1);
     lamp_->hide();
     // Whatever an adapter says of itself, the cards keep their size.
-    setFixedHeight(4 * GRID + 3 * fontMetrics().lineSpacing());
+    setFixedHeight(2 * GRID + 3 * fontMetrics().lineSpacing() + 4);
     value_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 
 void fact_card::set_value(const std::string& text) {
     const QString whole = display_text(text).simplified();
-    value_->setText(whole.size() > LONGEST_VALUE ? whole.left(LONGEST_VALUE) + QChar(0x2026) : whole);
+    value_->setText(whole.size() > LONGEST_VALUE ? whole.left(LONGEST_VALUE) + QChar(0x2026)
+                                                 : whole);
     value_->setToolTip(QStringLiteral("<span>%1</span>").arg(whole.left(4000).toHtmlEscaped()));
     value_->setAccessibleName(caption_->text() + QStringLiteral(": ") + value_->text());
     caption_->show();
@@ -90,4 +92,6 @@ void fact_card::show_lamp(bool lit) {
     lamp_->update();
 }
 
-void fact_card::hide_lamp() { lamp_->hide(); }
+void fact_card::hide_lamp() {
+    lamp_->hide();
+}

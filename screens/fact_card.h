@@ -1,5 +1,5 @@
-// A small card with one fact: a quiet caption over its value. While there is no value the card shows only its
-// resting text.
+// A small card with one fact: a quiet caption over its value. While there is no value the card
+// shows only its resting text.
 #pragma once
 
 #include <QFrame>

@@ -36,7 +36,9 @@ void obd_screen::show_err_msg(std::string message) {
     set_status_msg(cur_err_msg);
 }
 
-void obd_screen::beep() { KS_delegate.doors().message_boxes.beep(); }
+void obd_screen::beep() {
+    KS_delegate.doors().message_boxes.beep();
+}
 
 std::string obd_screen::localized(std::string_view key) const {
     return KS_delegate.doors().resources.localized(key);

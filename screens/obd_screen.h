@@ -1,5 +1,5 @@
-// What the screens that talk to the adapter share: the delegate, the toolkit, the status line and the small verbs of
-// a step ("put the command in cur_cmd, note the next step, send").
+// What the screens that talk to the adapter share: the delegate, the toolkit, the status line and
+// the small verbs of a step ("put the command in cur_cmd, note the next step, send").
 #pragma once
 
 #include "Ks_lite_delegate.h"
@@ -19,7 +19,8 @@ class obd_screen : public screen_controller {
     const std::string& status() const { return status_; }
 
     void sendOBDcmd(std::string_view command) { KS_delegate.sendOBDcmd(command); }
-    // Puts `command` into cur_cmd, expects one reply, notes the step that the reply runs, and sends.
+    // Puts `command` into cur_cmd, expects one reply, notes the step that the reply runs, and
+    // sends.
     void send_and_go_to(std::string_view command, int next_step);
 
     // Sets cur_err_msg and shows it on the status line.
@@ -36,8 +37,8 @@ class obd_screen : public screen_controller {
     mac_toolies toolies;
     std::string cur_err_msg;
 
-    // A task of this screen runs. Replies and deferred calls that meet a screen without one belong to somebody
-    // else and are dropped.
+    // A task of this screen runs. Replies and deferred calls that meet a screen without one belong
+    // to somebody else and are dropped.
     bool task_running() const { return task_running_; }
 
   protected:

@@ -10,15 +10,17 @@
 
 prefs::prefs(Ks_lite_delegate& delegate)
     : KS_delegate(delegate),
-      toolies({&delegate.doors().resources, &delegate.doors().defaults, &delegate.doors().message_boxes,
-               &delegate.doors().notifications}),
+      toolies({&delegate.doors().resources, &delegate.doors().defaults,
+               &delegate.doors().message_boxes, &delegate.doors().notifications}),
       view_(std::make_unique<prefs_view>(delegate)) {
     awakeFromNib();
 }
 
 prefs::~prefs() = default;
 
-QWidget* prefs::view() { return view_->root(); }
+QWidget* prefs::view() {
+    return view_->root();
+}
 
 void prefs::awakeFromNib() {
     view_->on_wifi = [this] { interfaceWifiClicked(); };
@@ -100,7 +102,9 @@ void prefs::setDefaultsClicked() {
     printPidsCount();
 }
 
-void prefs::handle_interface(int) { view_->show_wifi_panel(view_->wifi_selected()); }
+void prefs::handle_interface(int) {
+    view_->show_wifi_panel(view_->wifi_selected());
+}
 
 void prefs::metricCheckBoxStatus() {
     qCDebug(log_screens, view_->metric_units() ? "Checkbox is ON" : "Checkbox is OFF");
@@ -111,9 +115,13 @@ void prefs::load_pids_list() {
         add_item_to_pref_vector(pid);
 }
 
-void prefs::add_item_to_pref_vector(const std::string& pid) { _pid_available_list.push_back({false, pid}); }
+void prefs::add_item_to_pref_vector(const std::string& pid) {
+    _pid_available_list.push_back({false, pid});
+}
 
-void prefs::set_item_to_pref_vector(std::size_t index) { _pid_available_list[index].selected = true; }
+void prefs::set_item_to_pref_vector(std::size_t index) {
+    _pid_available_list[index].selected = true;
+}
 
 void prefs::tableViewSelectionDidChange(int row) {
     qCDebug(log_screens, "sel=%d", row);

@@ -1,5 +1,5 @@
-// The preferences screen: adapter connection, units, logging and the parameter list. Its edits live in its controls until
-// the screen is left (savePrefs) or the defaults are asked for.
+// The preferences screen: adapter connection, units, logging and the parameter list. Its edits live
+// in its controls until the screen is left (savePrefs) or the defaults are asked for.
 #pragma once
 
 #include "mac_toolies.h"

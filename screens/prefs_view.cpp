@@ -33,11 +33,13 @@ class check_painter final : public QStyledItemDelegate {
         : QStyledItemDelegate(parent), on_(display_text(resources.image_path("chk_on.svg"))),
           off_(display_text(resources.image_path("chk_off.svg"))) {}
 
-    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
         QStyleOptionViewItem ground = option;
         initStyleOption(&ground, index);
         ground.text.clear();
-        ground.widget->style()->drawControl(QStyle::CE_ItemViewItem, &ground, painter, ground.widget);
+        ground.widget->style()->drawControl(QStyle::CE_ItemViewItem, &ground, painter,
+                                            ground.widget);
         QRectF box(0, 0, CHECK_SIDE, CHECK_SIDE);
         box.moveCenter(QRectF(option.rect).center());
         const bool selected = index.data().toString() == QLatin1String("YES");
@@ -137,15 +139,16 @@ QWidget* prefs_view::build_parameters() {
     QTableView* table = pid_availableTableView_;
     table->setObjectName(QStringLiteral("_pid_availableTableView"));
     table->setAccessibleName(ui_text(delegate_, "ui_pids_table"));
-    pids_model_ = new rows_model({{QStringLiteral("Value"), ui_text(delegate_, "ui_col_show")},
-                                  {QStringLiteral("Name"), ui_text(delegate_, "ui_col_parameter")}},
-                                 [this](int row, const QString& identifier) {
-                                     const pid_row& entry = pids_[static_cast<std::size_t>(row)];
-                                     if (identifier == QLatin1String("Value"))
-                                         return entry.selected ? QStringLiteral("YES") : QStringLiteral("NO");
-                                     return display_text(entry.name);
-                                 },
-                                 table);
+    pids_model_ = new rows_model(
+        {{QStringLiteral("Value"), ui_text(delegate_, "ui_col_show")},
+         {QStringLiteral("Name"), ui_text(delegate_, "ui_col_parameter")}},
+        [this](int row, const QString& identifier) {
+            const pid_row& entry = pids_[static_cast<std::size_t>(row)];
+            if (identifier == QLatin1String("Value"))
+                return entry.selected ? QStringLiteral("YES") : QStringLiteral("NO");
+            return display_text(entry.name);
+        },
+        table);
     table->setModel(pids_model_);
     table->setItemDelegateForColumn(0, new check_painter(delegate_.doors().resources, table));
     // A click toggles the row; nothing stays selected, so there is no selection to change in turn.
@@ -173,23 +176,43 @@ QWidget* prefs_view::build_parameters() {
     return group;
 }
 
-void prefs_view::select_wifi(bool wifi) { (wifi ? wifi_ : bluetooth_)->setChecked(true); }
-bool prefs_view::wifi_selected() const { return wifi_->isChecked(); }
+void prefs_view::select_wifi(bool wifi) {
+    (wifi ? wifi_ : bluetooth_)->setChecked(true);
+}
+bool prefs_view::wifi_selected() const {
+    return wifi_->isChecked();
+}
 
-void prefs_view::show_wifi_panel(bool visible) { wifiTabView_->setVisible(visible); }
+void prefs_view::show_wifi_panel(bool visible) {
+    wifiTabView_->setVisible(visible);
+}
 
 void prefs_view::set_address(const std::string& address, const std::string& port) {
     ipLbl_->setText(display_text(address));
     portsLbl_->setText(display_text(port));
 }
 
-std::string prefs_view::address() const { return ipLbl_->text().toStdString(); }
-std::string prefs_view::port() const { return portsLbl_->text().toStdString(); }
-void prefs_view::set_metric_units(bool on) { unitsCheck_->setChecked(on); }
-bool prefs_view::metric_units() const { return unitsCheck_->isChecked(); }
-void prefs_view::set_log_runs(bool on) { logRunsCheck_->setChecked(on); }
-bool prefs_view::log_runs() const { return logRunsCheck_->isChecked(); }
-void prefs_view::set_pids_status(const std::string& text) { pidsStatus_->setText(display_text(text)); }
+std::string prefs_view::address() const {
+    return ipLbl_->text().toStdString();
+}
+std::string prefs_view::port() const {
+    return portsLbl_->text().toStdString();
+}
+void prefs_view::set_metric_units(bool on) {
+    unitsCheck_->setChecked(on);
+}
+bool prefs_view::metric_units() const {
+    return unitsCheck_->isChecked();
+}
+void prefs_view::set_log_runs(bool on) {
+    logRunsCheck_->setChecked(on);
+}
+bool prefs_view::log_runs() const {
+    return logRunsCheck_->isChecked();
+}
+void prefs_view::set_pids_status(const std::string& text) {
+    pidsStatus_->setText(display_text(text));
+}
 
 void prefs_view::show_pids(std::vector<pid_row> rows) {
     const int current = pid_availableTableView_->currentIndex().row();

@@ -13,9 +13,13 @@ readCodes::readCodes(Ks_lite_delegate& delegate) : obd_screen(delegate), handsha
     awakeFromNib();
 }
 
-readCodes::~readCodes() { KS_delegate.doors().loop.cancel(old_reply_bound_); }
+readCodes::~readCodes() {
+    KS_delegate.doors().loop.cancel(old_reply_bound_);
+}
 
-QWidget* readCodes::view() { return view_->root(); }
+QWidget* readCodes::view() {
+    return view_->root();
+}
 
 void readCodes::awakeFromNib() {
     g_BT_cur_status = BT_DISCONNECTED;
@@ -47,8 +51,9 @@ void readCodes::readCodes_clicked() {
 void readCodes::clearCodes_clicked() {
     alert_request question;
     question.message = "Are you sure you want clear DTC Codes ";
-    question.informative = "Will clear DTC, freeze data,O2 sensor test data and the like. Will need  few driving "
-                           "cycles to get back some of the data";
+    question.informative =
+        "Will clear DTC, freeze data,O2 sensor test data and the like. Will need  few driving "
+        "cycles to get back some of the data";
     question.buttons = {"Yes", "No"};
     if (KS_delegate.doors().message_boxes.show(question) != 0)
         return;
@@ -74,9 +79,11 @@ void readCodes::start_task(int task, const std::string& status) {
         work_current_task();
         return;
     }
-    // The adapter still works on another command. Its reply must not be taken for an answer to this task's first
-    // command, and a character sent now would interrupt it: begin when it has come, or after the reply time-out.
-    old_reply_bound_ = KS_delegate.doors().loop.after(std::chrono::seconds(g_this_delta), [this] { begin_late(); });
+    // The adapter still works on another command. Its reply must not be taken for an answer to this
+    // task's first command, and a character sent now would interrupt it: begin when it has come, or
+    // after the reply time-out.
+    old_reply_bound_ = KS_delegate.doors().loop.after(std::chrono::seconds(g_this_delta),
+                                                      [this] { begin_late(); });
 }
 
 void readCodes::begin_late() {
@@ -126,19 +133,26 @@ void readCodes::leave_cur_op_gracefully(const std::string&) {
     end_task();
 }
 
-void readCodes::show_interface(const std::string& text) { view_->set_interface(text); }
-void readCodes::show_protocol(const std::string& text) { view_->set_protocol(text); }
+void readCodes::show_interface(const std::string& text) {
+    view_->set_interface(text);
+}
+void readCodes::show_protocol(const std::string& text) {
+    view_->set_protocol(text);
+}
 
 void readCodes::show_control_units(int count) {
     units_answered_ = count;
     view_->set_extra_info(cur_err_msg);
 }
 
-void readCodes::obd_sim() { set_status_msg("value is [" + odb_curReplyMsg + "]"); }
+void readCodes::obd_sim() {
+    set_status_msg("value is [" + odb_curReplyMsg + "]");
+}
 
 void readCodes::load_the_codes() {
     if (P0_Codes.empty())
-        P0_Codes = toolies.get_dictionary_from_resource("P0_Codes", "txt", " ").value_or(text_dictionary{});
+        P0_Codes = toolies.get_dictionary_from_resource("P0_Codes", "txt", " ")
+                       .value_or(text_dictionary{});
 }
 
 std::string readCodes::look_upCode(std::string_view code, const text_dictionary& this_dict) {

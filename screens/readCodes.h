@@ -1,6 +1,7 @@
-// The trouble-codes screen: brings the adapter up, reads and clears trouble codes, shows lamp, count and readiness
-// monitors. Every task is a chain of steps, one per complete reply. Files: readCodes.cpp the engine and the tables,
-// read_codes_task.cpp and clear_codes_task.cpp the two chains, codes_view the widgets.
+// The trouble-codes screen: brings the adapter up, reads and clears trouble codes, shows lamp,
+// count and readiness monitors. Every task is a chain of steps, one per complete reply. Files:
+// readCodes.cpp the engine and the tables, read_codes_task.cpp and clear_codes_task.cpp the two
+// chains, codes_view the widgets.
 #pragma once
 
 #include "codes_handshake.h"
@@ -85,8 +86,8 @@ class readCodes final : public obd_screen {
     int no_of_codes = 0;
 
     int units_answered_ = 0;
-    bool status_told_ = false;             // a unit answered "01 01" in this task
-    bool status_answer_was_can_ = false;   // by its headers
+    bool status_told_ = false;              // a unit answered "01 01" in this task
+    bool status_answer_was_can_ = false;    // by its headers
     bool longer_timeout_asked_for_ = false; // "AT ST FF" is tried once a task
     bool succeeded_ = false;
     run_loop::timer_id old_reply_bound_ = 0; // a task waits for another command's reply to be over

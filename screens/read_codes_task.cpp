@@ -1,6 +1,7 @@
-// Reading trouble codes: lamp, count and readiness with headers on ("01 01"), then the codes ("03").
-#include "globalVars.h"
+// Reading trouble codes: lamp, count and readiness with headers on ("01 01"), then the codes
+// ("03").
 #include "codes_view.h"
+#include "globalVars.h"
 #include "readCodes.h"
 #include "reply_lines.h"
 #include "system_log.h"
@@ -22,7 +23,8 @@ enum step : int {
     HEADERS_OFF_ANSWERED = 222,
 };
 
-// The data of a "01 01" answer behind its header (three bytes, 11-bit or 29-bit CAN); empty when there is none.
+// The data of a "01 01" answer behind its header (three bytes, 11-bit or 29-bit CAN); empty when
+// there is none.
 std::string status_data(std::string_view line) {
     return mac_toolies::pull_PID_msg(line, "01", "").value_or(std::string());
 }
@@ -31,19 +33,19 @@ bool has_can_header(std::string_view line) {
     return line.starts_with("7E") || marker_behind_29_bit_header(line, "4101", "4101");
 }
 
-
 // Whether the adapter's answer to "AT DP" tells which bus it talks on; "AUTO" alone does not.
 bool names_a_bus(std::string_view protocol) {
     return contains(protocol, "ISO") || contains(protocol, "SAE") || contains(protocol, "J1") ||
            contains(protocol, "CAN");
 }
 
-// Whether a "43" answer looks like CAN, when nothing else tells the bus: the older buses always fill their seven
-// bytes, CAN sends two and two more for each code.
+// Whether a "43" answer looks like CAN, when nothing else tells the bus: the older buses always
+// fill their seven bytes, CAN sends two and two more for each code.
 bool looks_like_can(std::string_view spaceless_reply) {
     const std::size_t answer = spaceless_reply.find("43");
     const std::string_view line = slice(spaceless_reply, answer);
-    return answer != std::string_view::npos && line.substr(0, line.find_first_of("\r\n>")).size() != 14;
+    return answer != std::string_view::npos &&
+           line.substr(0, line.find_first_of("\r\n>")).size() != 14;
 }
 
 } // namespace
@@ -70,7 +72,8 @@ void readCodes::work_out_read_codes(int step) {
             break;
         }
     } catch (const std::exception& failure) {
-        show_err_msg("work_out_read::Did not fully complete [ " + std::string(failure.what()) + " ]");
+        show_err_msg("work_out_read::Did not fully complete [ " + std::string(failure.what()) +
+                     " ]");
         toolies.myMsgBox(cur_err_msg);
         leave_cur_op_gracefully("");
     }
@@ -116,7 +119,8 @@ void readCodes::retry_headers() {
         sendOBDcmd(cur_cmd);
         return;
     }
-    toolies.myMsgBox("Retried 3 times and Did not get a reply from interface.  Check pairing/connections");
+    toolies.myMsgBox(
+        "Retried 3 times and Did not get a reply from interface.  Check pairing/connections");
     leave_cur_op_gracefully("");
 }
 
@@ -139,7 +143,8 @@ void readCodes::status_answered() {
         longer_timeout_asked_for_ = true;
         ++g_retries;
         g_obd_msg_state = S_WAITING;
-        send_and_go_to("AT ST FF\r", START); // the adapter's longest wait; then everything once more
+        send_and_go_to("AT ST FF\r",
+                       START); // the adapter's longest wait; then everything once more
         return;
     }
     g_retries = 0;
@@ -179,14 +184,16 @@ void readCodes::decode_status(const std::string& screened_reply) {
     // Nobody told: neither "OFF" nor "0" would be true.
     view_->set_lamp(!status_told_ ? "N/A" : lamp_on ? "ON" : "OFF");
     view_->set_count(status_told_ ? std::to_string(no_of_codes) : "N/A");
-    cur_err_msg = QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat).toStdString();
+    cur_err_msg =
+        QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat).toStdString();
     view_->set_read_on(cur_err_msg);
 }
 
-std::vector<std::string> readCodes::work_reply_to_error_codes_pid(std::string_view mode,
-                                                                  std::string_view this_reply) const {
-    // The protocol text is the first answer to "AT DP": it may be "AUTO" from before the bus was found, or of the car
-    // that the adapter sat in before. The headers of this task's status answer know better.
+std::vector<std::string>
+readCodes::work_reply_to_error_codes_pid(std::string_view mode, std::string_view this_reply) const {
+    // The protocol text is the first answer to "AT DP": it may be "AUTO" from before the bus was
+    // found, or of the car that the adapter sat in before. The headers of this task's status answer
+    // know better.
     const bool is_can = status_told_                  ? status_answer_was_can_
                         : names_a_bus(g_cur_protocol) ? g_cur_protocol.contains("CAN")
                                                       : looks_like_can(this_reply);
@@ -202,7 +209,8 @@ void readCodes::codes_answered() {
         return;
     }
     const bool answered = contains(without(reply, " "), "43");
-    const bool nothing_stored = status_told_ && contains(without(reply, " "), "NODATA"); // as old cars put it
+    const bool nothing_stored =
+        status_told_ && contains(without(reply, " "), "NODATA"); // as old cars put it
     codes_rcvd = work_reply_to_error_codes_pid("03", without(reply, " "));
     load_the_codes();
     codesReadArray.clear();

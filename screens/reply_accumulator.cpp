@@ -8,7 +8,8 @@
 
 bool accumulate_reply(std::string_view chunk) {
     std::string& gathered = odb_curReplyBuffyMsg;
-    // Adapters now and then put zero bytes into a reply; they mean nothing, and would shift positions.
+    // Adapters now and then put zero bytes into a reply; they mean nothing, and would shift
+    // positions.
     std::ranges::copy_if(chunk, std::back_inserter(gathered), [](char c) { return c != '\0'; });
     if (gathered.find('>') == std::string::npos) {
         if (gathered.size() > LONGEST_REPLY) {

@@ -24,14 +24,17 @@ class rows_model final : public QAbstractTableModel {
         endResetModel();
     }
 
-    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
+    int rowCount(const QModelIndex& parent = {}) const override {
+        return parent.isValid() ? 0 : rows_;
+    }
     int columnCount(const QModelIndex& parent = {}) const override {
         return parent.isValid() ? 0 : static_cast<int>(columns_.size());
     }
     QVariant data(const QModelIndex& index, int role) const override {
         if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole)
             return text_(index.row(), columns_[index.column()].identifier);
-        if (decorate && (role == Qt::FontRole || role == Qt::ForegroundRole || role == Qt::TextAlignmentRole))
+        if (decorate &&
+            (role == Qt::FontRole || role == Qt::ForegroundRole || role == Qt::TextAlignmentRole))
             return decorate(index.row(), columns_[index.column()].identifier, role);
         return {};
     }

@@ -1,5 +1,6 @@
-// The status line at the foot of every screen: selectable plain text, elided to two lines' height with the whole text
-// in the tooltip. The label's text is the message itself, whatever is visible of it.
+// The status line at the foot of every screen: selectable plain text, elided to two lines' height
+// with the whole text in the tooltip. The label's text is the message itself, whatever is visible
+// of it.
 #pragma once
 
 #include <QLabel>

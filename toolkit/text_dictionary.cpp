@@ -14,20 +14,31 @@ bool has_same_key(const text_dictionary::entry& one, const text_dictionary::entr
     return one.first == other.first;
 }
 
+std::string_view trimmed_key(std::string_view key) {
+    const auto solid = [](char c) { return c > ' ' && c <= '~'; };
+    return key.empty() || (solid(key.front()) && solid(key.back())) ? key : trimmed(key);
+}
+
 } // namespace
 
 text_dictionary::text_dictionary(std::string lines, std::string_view delimiter)
     : lines_(std::make_shared<const std::string>(std::move(lines))) {
     if (delimiter.empty())
         return;
+    entries_.reserve(static_cast<std::size_t>(std::ranges::count(*lines_, '\n')) + 1);
     bool in_order = true; // as shipped tables are
     std::string_view rest = *lines_;
     while (!rest.empty()) {
-        const std::string_view line = rest.substr(0, rest.find('\n'));
-        const std::size_t found = line.find(delimiter);
-        if (found == line.npos)
+        // Keys are short: walking them costs less than two searches of the line.
+        std::size_t found = 0;
+        while (found < rest.size() && rest[found] != '\n' &&
+               (rest[found] != delimiter.front() ||
+                (delimiter.size() > 1 && !rest.substr(found).starts_with(delimiter))))
+            ++found;
+        if (found == rest.size() || rest[found] == '\n')
             break;
-        const entry next{trimmed(line.substr(0, found)), line.substr(found)};
+        const std::string_view line = rest.substr(0, rest.find('\n', found));
+        const entry next{trimmed_key(line.substr(0, found)), line.substr(found)};
         in_order = in_order && (entries_.empty() || entries_.back().first < next.first);
         entries_.push_back(next);
         rest.remove_prefix(std::min(line.size() + 1, rest.size()));

@@ -16,8 +16,8 @@ struct verb {
     std::size_t least, most;
 };
 constexpr verb VERBS[] = {
-    {"codes", 0, 0},       {"clear", 0, 0},       {"send", 1, 10'000},
-    {"decode", 0, 10'000}, {"vin", 0, 10'000},    {"mode6", 0, 10'000},
+    {"codes", 0, 0},       {"clear", 0, 0},    {"send", 1, 10'000},
+    {"decode", 0, 10'000}, {"vin", 0, 10'000}, {"mode6", 0, 10'000},
 };
 
 bool plain_ascii(std::string_view text) {
@@ -38,7 +38,8 @@ class argument_reader {
 
   private:
     void take(const std::string& argument) {
-        // A command's own arguments may begin with anything but "--", unless it reads its own options.
+        // A command's own arguments may begin with anything but "--", unless it reads its own
+        // options.
         if (decodes(result_.asked.command))
             result_.asked.arguments.push_back(argument);
         else if (argument.size() > 1 && argument.starts_with("--"))
@@ -55,7 +56,8 @@ class argument_reader {
         cli_request& asked = result_.asked;
         const std::size_t equals = argument.find('=');
         const std::string name = argument.substr(0, equals);
-        given_ = equals == std::string::npos ? std::nullopt : std::optional(argument.substr(equals + 1));
+        given_ =
+            equals == std::string::npos ? std::nullopt : std::optional(argument.substr(equals + 1));
         if (name == "--demo") {
             asked.demo = true;
             asked.demo_car = given_.value_or("");
@@ -126,7 +128,8 @@ class argument_reader {
         const cli_request& asked = result_.asked;
         if (asked.help || asked.version)
             return;
-        static const std::set<std::string, std::less<>> SCREENS{"", "codes", "live", "prefs", "expert"};
+        static const std::set<std::string, std::less<>> SCREENS{"", "codes", "live", "prefs",
+                                                                "expert"};
         if (!SCREENS.contains(asked.screen))
             fail("--screen is one of codes, live, prefs, expert");
         if (asked.demo && asked.adapter_host)

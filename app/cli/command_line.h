@@ -9,13 +9,13 @@
 
 struct cli_request {
     bool demo = false;
-    std::string demo_car;               // empty: the default car
+    std::string demo_car;                    // empty: the default car
     std::optional<std::string> adapter_host; // with adapter_port, as typed
     std::string adapter_port;
     std::optional<std::string> settings;
     std::string screen; // "codes", "live", "prefs", "expert" or empty
     std::optional<std::string> screenshot;
-    std::string command; // empty: the window
+    std::string command;                // empty: the window
     std::vector<std::string> arguments; // of the command
     bool yes = false;
     bool json = false;

@@ -15,7 +15,8 @@ namespace {
 constexpr int LOOK_EVERY_MS = 5;
 }
 
-command_runner::command_runner(const cli_request& asked, Ks_lite_delegate& delegate, console_alerts& messages)
+command_runner::command_runner(const cli_request& asked, Ks_lite_delegate& delegate,
+                               console_alerts& messages)
     : asked_(asked), delegate_(delegate), messages_(messages) {
     delegate_.status_shown = [this](const std::string& text) {
         if (!text.empty())
@@ -99,16 +100,21 @@ void command_runner::look() {
 void command_runner::finish_codes() {
     // A failure that was only told in a message box leaves an older text on the status line.
     const auto& told = messages_.messages();
-    end(codes_->succeeded(), !told.empty() ? told.back() : statuses_.empty() ? "" : statuses_.back());
+    end(codes_->succeeded(), !told.empty()       ? told.back()
+                             : statuses_.empty() ? ""
+                                                 : statuses_.back());
 }
 
-void command_runner::interrupt() { end(false, "interrupted"); }
+void command_runner::interrupt() {
+    end(false, "interrupted");
+}
 
 void command_runner::end(bool succeeded, const std::string& why) {
     look_timer_.stop();
     bound_.stop();
     if (asked_.json) {
-        const conversation_log log{delegate_.current_screen() && codes_ ? codes_->status() : expert_->status(),
+        const conversation_log log{delegate_.current_screen() && codes_ ? codes_->status()
+                                                                        : expert_->status(),
                                    messages_.messages(), statuses_};
         if (codes_)
             print_codes_json(codes_->report(), log);
@@ -125,6 +131,7 @@ void command_runner::end(bool succeeded, const std::string& why) {
         return;
     }
     if (!succeeded)
-        std::fprintf(stderr, "kestrom: %s failed: %s\n", asked_.command.c_str(), printable(why).c_str());
+        std::fprintf(stderr, "kestrom: %s failed: %s\n", asked_.command.c_str(),
+                     printable(why).c_str());
     done_(succeeded ? 0 : 1);
 }

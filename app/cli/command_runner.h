@@ -1,5 +1,5 @@
-// Runs one command of the command line on the screens themselves, without a display: presses the button, waits until the
-// task is over, and prints what the screen found. Owned by main.
+// Runs one command of the command line on the screens themselves, without a display: presses the
+// button, waits until the task is over, and prints what the screen found. Owned by main.
 #pragma once
 
 #include "command_line.h"

@@ -1,4 +1,5 @@
-// Alerts for the command line: printed to standard error, remembered, answered with the first button.
+// Alerts for the command line: printed to standard error, remembered, answered with the first
+// button.
 #pragma once
 
 #include "alerts.h"

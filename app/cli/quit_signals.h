@@ -1,4 +1,5 @@
-// Turns SIGINT and SIGTERM into an orderly end: the callback runs from the event loop. One per program.
+// Turns SIGINT and SIGTERM into an orderly end: the callback runs from the event loop. One per
+// program.
 #pragma once
 
 #include <QObject>

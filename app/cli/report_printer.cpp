@@ -54,10 +54,12 @@ void print_codes_json(const codes_report& report, const conversation_log& log) {
 }
 
 void print_codes_text(const codes_report& report) {
-    std::printf("Adapter      %s\nProtocol     %s\nLamp         %s\n", printable(report.interface).c_str(),
-                printable(report.protocol).c_str(), report.lamp.c_str());
+    std::printf("Adapter      %s\nProtocol     %s\nLamp         %s\n",
+                printable(report.interface).c_str(), printable(report.protocol).c_str(),
+                report.lamp.c_str());
     std::printf("Codes        %s\nRead on      %s\nUnits        %d\n",
-                report.count ? std::to_string(*report.count).c_str() : "N/A", report.read_on.c_str(), report.ecus);
+                report.count ? std::to_string(*report.count).c_str() : "N/A",
+                report.read_on.c_str(), report.ecus);
     std::printf("\nTrouble codes\n");
     for (const code_row& row : report.codes)
         std::printf("  %-7s%s\n", row[0].c_str(), std::string(trimmed(row[1])).c_str());
@@ -77,8 +79,8 @@ void print_raw_reply(const std::string& reply) {
     std::fwrite(text.data(), 1, text.size(), stdout);
 }
 
-void print_replies_json(const std::vector<std::string>& commands, const std::vector<std::string>& replies,
-                        const conversation_log& log) {
+void print_replies_json(const std::vector<std::string>& commands,
+                        const std::vector<std::string>& replies, const conversation_log& log) {
     QJsonArray array;
     for (std::size_t i = 0; i < replies.size(); ++i)
         array.append(QJsonObject{{QStringLiteral("command"), json_text(commands[i])},
@@ -86,4 +88,6 @@ void print_replies_json(const std::vector<std::string>& commands, const std::vec
     print_json({{QStringLiteral("replies"), array}}, log);
 }
 
-std::string printable(const std::string& text) { return display_text(text).toStdString(); }
+std::string printable(const std::string& text) {
+    return display_text(text).toStdString();
+}

@@ -15,8 +15,9 @@ struct conversation_log {
 void print_codes_text(const codes_report& report);
 void print_codes_json(const codes_report& report, const conversation_log& log);
 void print_raw_reply(const std::string& reply);
-void print_replies_json(const std::vector<std::string>& commands, const std::vector<std::string>& replies,
-                        const conversation_log& log);
+void print_replies_json(const std::vector<std::string>& commands,
+                        const std::vector<std::string>& replies, const conversation_log& log);
 
-// Without control characters, so that an adapter's bytes do not drive the terminal; line ends become "\n".
+// Without control characters, so that an adapter's bytes do not drive the terminal; line ends
+// become "\n".
 std::string printable(const std::string& text);

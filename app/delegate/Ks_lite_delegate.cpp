@@ -20,7 +20,9 @@ Ks_lite_delegate::Ks_lite_delegate(app_doors doors, screen_factories factories)
     g_this_delta = 3;
 }
 
-Ks_lite_delegate::~Ks_lite_delegate() { doors_.notifications.remove_observer(observer_); }
+Ks_lite_delegate::~Ks_lite_delegate() {
+    doors_.notifications.remove_observer(observer_);
+}
 
 void Ks_lite_delegate::load_settings() {
     user_defaults& store = doors_.defaults;

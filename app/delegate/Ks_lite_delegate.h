@@ -1,9 +1,11 @@
-// The one application-wide object: loads the settings into the shared state, swaps the screens in and out of the
-// main window, and owns the single link to the adapter. Created once by main, outlives window and screens.
+// The one application-wide object: loads the settings into the shared state, swaps the screens in
+// and out of the main window, and owns the single link to the adapter. Created once by main,
+// outlives window and screens.
 //
 // Shell half: Ks_lite_delegate.cpp. Link half: delegate_link.cpp over delegate_tcp.cpp and
-// delegate_bluetooth.cpp. The link neither interprets replies nor waits for prompts: it sends one command, arms
-// the reply time-out, and hands every received chunk, or "Timeout", to the screen that is showing.
+// delegate_bluetooth.cpp. The link neither interprets replies nor waits for prompts: it sends one
+// command, arms the reply time-out, and hands every received chunk, or "Timeout", to the screen
+// that is showing.
 #pragma once
 
 #include "notification_center.h"
@@ -51,7 +53,8 @@ class Ks_lite_delegate {
 
     app_doors& doors() { return doors_; }
 
-    // --- shell ------------------------------------------------------------------------------------------
+    // --- shell
+    // ------------------------------------------------------------------------------------------
     void do_read_codes() { show_screen(READ_CODES_VIEW, true); }
     void do_actions() { show_screen(ACTIONS_VIEW, true); }
     // Choosing the preferences again while they show discards their unsaved edits.
@@ -70,9 +73,10 @@ class Ks_lite_delegate {
     // Told every status text, whatever the screen does with it.
     std::function<void(const std::string&)> status_shown;
 
-    // --- link -------------------------------------------------------------------------------------------
-    // Yes: the link is usable now. No: it is being opened (or could not be) and starts the screen's work
-    // itself once it is up.
+    // --- link
+    // -------------------------------------------------------------------------------------------
+    // Yes: the link is usable now. No: it is being opened (or could not be) and starts the screen's
+    // work itself once it is up.
     bool openInterfaceConnection();
     void sendOBDcmd(std::string_view command);
     void l_work_current_task(const std::string* message);
@@ -122,8 +126,14 @@ class Ks_lite_delegate {
     std::uint64_t commands_sent_ = 0;
 
     std::unique_ptr<stream_pair> streams_;
-    std::uint64_t attempt_ = 0; // counts connection attempts, so that old timers know they are stale
-    enum class attempt_state { none, connecting, opened, failed } attempt_state_ = attempt_state::none;
+    std::uint64_t attempt_ =
+        0; // counts connection attempts, so that old timers know they are stale
+    enum class attempt_state {
+        none,
+        connecting,
+        opened,
+        failed
+    } attempt_state_ = attempt_state::none;
     bool sent_1st_cmd = false;
     run_loop::timer_id deferred_call_ = 0;
 };

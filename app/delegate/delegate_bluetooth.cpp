@@ -1,6 +1,6 @@
 // The Bluetooth transport. Not there yet: the user is sent to the Wi-Fi setting.
-#include "Ks_lite_delegate.h"
 #include "bundle.h"
+#include "Ks_lite_delegate.h"
 #include "system_log.h"
 
 bool Ks_lite_delegate::openSerialPortProfile() {

@@ -1,11 +1,11 @@
 // The link half of the delegate: one command out, chunks and time-outs in.
-#include "Ks_lite_delegate.h"
 #include "globalVars.h"
+#include "Ks_lite_delegate.h"
 #include "system_log.h"
 
 void Ks_lite_delegate::sendOBDcmd(std::string_view command) {
-    // The timer armed before is left running on purpose: if it belongs to a command that is still unanswered, it
-    // will report that.
+    // The timer armed before is left running on purpose: if it belongs to a command that is still
+    // unanswered, it will report that.
     obdTimeOutTimer =
         doors_.loop.after(std::chrono::seconds(g_this_delta), [this] { obdTimedOutHandler(); });
     if (g_connect_with == KS_USE_BT)

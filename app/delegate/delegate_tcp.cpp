@@ -1,8 +1,8 @@
-// The Wi-Fi transport: a TCP connection to the adapter. A lost connection still counts as open; only another
-// address or port in the preferences, or a restart, connects again.
-#include "Ks_lite_delegate.h"
+// The Wi-Fi transport: a TCP connection to the adapter. A lost connection still counts as open;
+// only another address or port in the preferences, or a restart, connects again.
 #include "bundle.h"
 #include "globalVars.h"
+#include "Ks_lite_delegate.h"
 #include "system_log.h"
 
 #include <charconv>

@@ -1,6 +1,6 @@
-// What the link and the shell know of a screen. A screen that sends commands overrides the four operations;
-// the preferences keep the do-nothing defaults. The delegate owns the current screen and destroys it only
-// from the run loop.
+// What the link and the shell know of a screen. A screen that sends commands overrides the four
+// operations; the preferences keep the do-nothing defaults. The delegate owns the current screen
+// and destroys it only from the run loop.
 #pragma once
 
 #include <string>
@@ -14,8 +14,8 @@ class screen_controller {
     // The screen's root widget, owned by the screen.
     virtual QWidget* view() = 0;
 
-    // One received chunk, or "Timeout". May come at any time, also for a command that a screen before this one
-    // sent.
+    // One received chunk, or "Timeout". May come at any time, also for a command that a screen
+    // before this one sent.
     virtual void handleOBDRcvdMsg(const std::string& text) { (void)text; }
     virtual void set_status_msg(const std::string& message) { (void)message; }
     // Performs the next step of the screen's current task.

@@ -1,5 +1,5 @@
-// State that the link and the screens share. Everything runs on the one main thread, so there are no
-// locks. A leaf: anyone may include it.
+// State that the link and the screens share. Everything runs on the one main thread, so there are
+// no locks. A leaf: anyone may include it.
 #pragma once
 
 #include "constantes.h"
@@ -25,27 +25,27 @@ class bounded_text {
     std::string text_;
 };
 
-extern int g_connect_with;           // transport: KS_USE_BT or KS_USE_WIFI
-extern std::string g_cur_wifi_IP;    // adapter address and port, as typed
+extern int g_connect_with;        // transport: KS_USE_BT or KS_USE_WIFI
+extern std::string g_cur_wifi_IP; // adapter address and port, as typed
 extern std::string g_cur_wifi_port;
 extern bool g_metric_units;
 extern bool g_log_runs;
-extern int g_this_delta;             // reply time-out in seconds
-extern int g_cur_task;               // task asked for
-extern int g_cur_mode;               // task running; MODE_HANDSHAKE while the adapter is brought up for it
-extern int next_step_idx;            // step that the next complete reply runs
-extern int g_retries;                // one counter for every step chain
-extern int g_obd_msg_state;          // S_IDLE ...
-extern int g_replies_expected;       // set to 1 before each send; informative
-extern bounded_text<20> cur_cmd;     // the command last built, "\r" included
+extern int g_this_delta;    // reply time-out in seconds
+extern int g_cur_task;      // task asked for
+extern int g_cur_mode;      // task running; MODE_HANDSHAKE while the adapter is brought up for it
+extern int next_step_idx;   // step that the next complete reply runs
+extern int g_retries;       // one counter for every step chain
+extern int g_obd_msg_state; // S_IDLE ...
+extern int g_replies_expected;           // set to 1 before each send; informative
+extern bounded_text<20> cur_cmd;         // the command last built, "\r" included
 extern std::string odb_curReplyBuffyMsg; // reply accumulator
 extern std::string odb_curReplyMsg;      // last complete reply, prompt included
 extern bool connected_2_WIFI_interface;
 extern bool connected_2_BT_interface;
-extern bool connected_2_KS_interface;    // handshake completed
-extern bool KS_did_connect_2_car;        // the car has answered once; later handshakes skip the reset
-extern bounded_text<40> g_cur_interface; // adapter identity, the raw answer to "AT I"
-extern bounded_text<80> g_cur_protocol;  // the first screened answer to "AT DP"
+extern bool connected_2_KS_interface; // handshake completed
+extern bool KS_did_connect_2_car;     // the car has answered once; later handshakes skip the reset
+extern bounded_text<40> g_cur_interface;        // adapter identity, the raw answer to "AT I"
+extern bounded_text<80> g_cur_protocol;         // the first screened answer to "AT DP"
 extern bounded_text<16> g_Supported_obd_mask_0; // supported-PID bitmaps as 8 hex digits
 extern bounded_text<16> g_Supported_obd_mask_1;
 extern bounded_text<16> g_Supported_obd_mask_2;

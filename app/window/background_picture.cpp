@@ -31,7 +31,8 @@ void background_picture::paintEvent(QPaintEvent*) {
         scaled_ = QPixmap(pixels);
         scaled_.fill(QColor(31, 36, 44));
         // Covers the whole view; what does not fit is cut evenly.
-        const QSizeF whole = QSizeF(drawing.defaultSize()).scaled(pixels, Qt::KeepAspectRatioByExpanding);
+        const QSizeF whole =
+            QSizeF(drawing.defaultSize()).scaled(pixels, Qt::KeepAspectRatioByExpanding);
         QPainter painter(&scaled_);
         painter.setOpacity(OPACITY);
         drawing.render(&painter, QRectF(QPointF((pixels.width() - whole.width()) / 2,

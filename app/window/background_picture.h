@@ -1,4 +1,5 @@
-// What the main view shows until a screen is chosen: the picture, and one line that says where to begin.
+// What the main view shows until a screen is chosen: the picture, and one line that says where to
+// begin.
 #pragma once
 
 #include <QLabel>

@@ -115,14 +115,16 @@ void main_window::follow_screen() {
 
 void main_window::restore_place() {
     const std::string stored = delegate_.doors().defaults.string(GEOMETRY_KEY);
-    if (stored.empty() || !restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(stored))))
+    if (stored.empty() ||
+        !restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(stored))))
         resize(DEFAULT_SIZE);
 }
 
 void main_window::closeEvent(QCloseEvent* event) {
     // A window that nobody saw has no place to remember.
     if (isVisible() && QGuiApplication::platformName() != QLatin1String("offscreen")) {
-        delegate_.doors().defaults.set_string(GEOMETRY_KEY, saveGeometry().toBase64().toStdString());
+        delegate_.doors().defaults.set_string(GEOMETRY_KEY,
+                                              saveGeometry().toBase64().toStdString());
         delegate_.doors().defaults.synchronize();
     }
     delegate_.applicationWillTerminate();

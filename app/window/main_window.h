@@ -1,5 +1,5 @@
-// The main window: a rail of switches at the left, the chosen screen beside it, the background picture while nothing is
-// chosen. Created by main over the delegate, which outlives it.
+// The main window: a rail of switches at the left, the chosen screen beside it, the background
+// picture while nothing is chosen. Created by main over the delegate, which outlives it.
 #pragma once
 
 #include <QMainWindow>

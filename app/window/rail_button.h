@@ -1,4 +1,5 @@
-// A switch of the rail: icon above word. The chosen one is marked by a bar at its side and a heavier word.
+// A switch of the rail: icon above word. The chosen one is marked by a bar at its side and a
+// heavier word.
 #pragma once
 
 #include <QPainter>

@@ -18,7 +18,9 @@ QString shortened(QString text) {
 
 } // namespace
 
-void message_box_alerts::beep() { QApplication::beep(); }
+void message_box_alerts::beep() {
+    QApplication::beep();
+}
 
 int message_box_alerts::run_modal(const alert_request& request) {
     QMessageBox box(QApplication::activeWindow());

@@ -14,7 +14,9 @@ constexpr qint64 READ_BUFFER = 256 * 1024;
 tcp_stream_pair::tcp_stream_pair(run_loop& loop, std::string host, long port)
     : loop_(loop), host_(std::move(host)), port_(port) {}
 
-tcp_stream_pair::~tcp_stream_pair() { close(); }
+tcp_stream_pair::~tcp_stream_pair() {
+    close();
+}
 
 void tcp_stream_pair::open(event_handler handler) {
     handler_ = std::move(handler);
@@ -41,11 +43,13 @@ void tcp_stream_pair::connected() {
     raise(stream_side::output, STREAM_SPACE_AVAILABLE);
 }
 
-// Some adapters write a reply in pieces with Nagle's algorithm on; a delayed acknowledgement would then cost
-// 40 ms a request. The kernel drops the option now and then, so it is set again around each read.
+// Some adapters write a reply in pieces with Nagle's algorithm on; a delayed acknowledgement would
+// then cost 40 ms a request. The kernel drops the option now and then, so it is set again around
+// each read.
 void tcp_stream_pair::acknowledge_at_once() {
     const int on = 1;
-    ::setsockopt(static_cast<int>(socket_.socketDescriptor()), IPPROTO_TCP, TCP_QUICKACK, &on, sizeof on);
+    ::setsockopt(static_cast<int>(socket_.socketDescriptor()), IPPROTO_TCP, TCP_QUICKACK, &on,
+                 sizeof on);
 }
 
 void tcp_stream_pair::received() {

@@ -3,8 +3,6 @@
 #include "command_line.h"
 #include "tcp_adapter_server.h"
 
-#include <gtest/gtest.h>
-
 #include <QCoreApplication>
 #include <QFile>
 #include <QImage>
@@ -14,13 +12,19 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <gtest/gtest.h>
+
 namespace {
 
 struct outcome {
     int status = -1;
     std::string out, err;
-    QJsonObject json() const { return QJsonDocument::fromJson(QByteArray::fromStdString(out)).object(); }
-    std::string text(const char* key) const { return json().value(QLatin1String(key)).toString().toStdString(); }
+    QJsonObject json() const {
+        return QJsonDocument::fromJson(QByteArray::fromStdString(out)).object();
+    }
+    std::string text(const char* key) const {
+        return json().value(QLatin1String(key)).toString().toStdString();
+    }
 };
 
 class shell : public testing::Test {
@@ -38,11 +42,14 @@ class shell : public testing::Test {
             words.append(QString::fromStdString(argument));
         process.start(QStringLiteral(KESTROM_PROGRAM), words);
         while (process.state() != QProcess::NotRunning)
-            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 100);
+            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents,
+                                            100);
         return {process.exitCode(), process.readAllStandardOutput().toStdString(),
                 process.readAllStandardError().toStdString()};
     }
-    std::string address(const tcp_adapter_server& server) { return "127.0.0.1:" + std::to_string(server.port()); }
+    std::string address(const tcp_adapter_server& server) {
+        return "127.0.0.1:" + std::to_string(server.port());
+    }
 
     static adapter_options quick() {
         adapter_options options;
@@ -53,11 +60,22 @@ class shell : public testing::Test {
 };
 
 TEST_F(shell, arguments_that_make_no_sense_end_with_2_and_a_reason) {
-    const std::vector<std::vector<std::string>> cases = {
-        {"fly"}, {"codes", "more"}, {"clear"}, {"send"}, {"send", ""}, {"send", std::string(39, '1')}, {"--nonsense"},
-        {"--adapter", "nowhere", "codes"}, {"--adapter"}, {"--demo", "--adapter", "a:1", "codes"}, {"--screen", "garage"},
-        {"--timeout", "soon", "codes"}, {"--timeout", "0", "codes"}, {"--json"}, {"--demo=no-such-car", "codes"},
-        {"--json=1", "codes"}};
+    const std::vector<std::vector<std::string>> cases = {{"fly"},
+                                                         {"codes", "more"},
+                                                         {"clear"},
+                                                         {"send"},
+                                                         {"send", ""},
+                                                         {"send", std::string(39, '1')},
+                                                         {"--nonsense"},
+                                                         {"--adapter", "nowhere", "codes"},
+                                                         {"--adapter"},
+                                                         {"--demo", "--adapter", "a:1", "codes"},
+                                                         {"--screen", "garage"},
+                                                         {"--timeout", "soon", "codes"},
+                                                         {"--timeout", "0", "codes"},
+                                                         {"--json"},
+                                                         {"--demo=no-such-car", "codes"},
+                                                         {"--json=1", "codes"}};
     for (const auto& arguments : cases) {
         const outcome result = run(arguments);
         EXPECT_EQ(result.status, 2) << arguments[0] << ": " << result.err;
@@ -67,7 +85,8 @@ TEST_F(shell, arguments_that_make_no_sense_end_with_2_and_a_reason) {
 }
 
 TEST_F(shell, options_are_read_with_and_without_the_equals_sign) {
-    const std::vector<std::string> words = {"--adapter=[::1]:35000", "--timeout", "2.5", "send", "AT I", "--json", "01 00"};
+    const std::vector<std::string> words = {
+        "--adapter=[::1]:35000", "--timeout", "2.5", "send", "AT I", "--json", "01 00"};
     const auto [asked, error] = parse_command_line(words);
     EXPECT_EQ(error, "");
     EXPECT_EQ(asked.adapter_host, "::1");
@@ -88,7 +107,8 @@ TEST_F(shell, the_built_in_car_is_read_and_nothing_of_the_users_is_touched) {
     EXPECT_EQ(result.json().value(QLatin1String("messages")).toArray().size(), 0);
     EXPECT_EQ(result.json().value(QLatin1String("statuses")).toArray().first().toString(),
               QLatin1String("Starting Read Codes"));
-    EXPECT_EQ(QDir(home.path()).entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot).size(), 0);
+    EXPECT_EQ(QDir(home.path()).entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot).size(),
+              0);
 }
 
 TEST_F(shell, clearing_clears_the_car) {
@@ -145,7 +165,9 @@ TEST_F(shell, replies_are_decoded_without_an_adapter) {
         int status;
         const char* out;
     } cases[] = {
-        {{"decode", "41 0C 1A F8", "NO DATA", "--units", "metric"}, 0, "1726.00 RPM\t1726\n~\tnan\n"},
+        {{"decode", "41 0C 1A F8", "NO DATA", "--units", "metric"},
+         0,
+         "1726.00 RPM\t1726\n~\tnan\n"},
         {{"decode", "410564", "--units", "parsecs"}, 2, ""},
         {{"decode"}, 2, ""},
         {{"vin", "490201000000 31\\r490202 47314A43\\r"}, 0, "1G1JC\n"},

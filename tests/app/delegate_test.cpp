@@ -2,10 +2,10 @@
 #include "app_harness.h"
 #include "qt_warnings.h"
 
-#include <gtest/gtest.h>
-
 #include <QLineEdit>
 #include <QPlainTextEdit>
+
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -18,21 +18,25 @@ TEST(settings_at_start, a_first_start_seeds_the_store) {
     EXPECT_EQ(store.integer(KS_INTERFACE_KEY), KS_USE_BT);
     EXPECT_EQ(store.string(WIFI_IP_KEY), "192.168.0.10");
     EXPECT_EQ(store.string(WIFI_PORT_KEY), "35000");
-    EXPECT_EQ(store.string_array(PIDS_ARRAY_KEY), (std::vector<std::string>{"0D", "11", "0C", "05"}));
+    EXPECT_EQ(store.string_array(PIDS_ARRAY_KEY),
+              (std::vector<std::string>{"0D", "11", "0C", "05"}));
     EXPECT_TRUE(store.contains(KS_METRIC_UNITS_KEY) && store.contains(LOG_RUNS_KEY));
     EXPECT_FALSE(store.contains(KS_LAST_BT_KEY));
     EXPECT_EQ(g_connect_with, KS_USE_BT);
     EXPECT_EQ(g_cur_wifi_IP, "192.168.0.10");
     EXPECT_EQ(g_this_delta, 3);
     EXPECT_EQ(app.delegate->current_screen(), nullptr);
-    EXPECT_EQ(user_defaults(store.path()).integer(KS_INTERFACE_KEY), KS_USE_BT) << "written at once";
+    EXPECT_EQ(user_defaults(store.path()).integer(KS_INTERFACE_KEY), KS_USE_BT)
+        << "written at once";
 }
 
 TEST(settings_at_start, stored_values_decide_the_transport) {
     const struct {
         int stored, transport;
         const char* address;
-    } cases[] = {{KS_USE_BT, KS_USE_BT, ""}, {KS_USE_WIFI, KS_USE_WIFI, "10.0.0.9"}, {7, KS_USE_WIFI, "10.0.0.9"}};
+    } cases[] = {{KS_USE_BT, KS_USE_BT, ""},
+                 {KS_USE_WIFI, KS_USE_WIFI, "10.0.0.9"},
+                 {7, KS_USE_WIFI, "10.0.0.9"}};
     for (const auto& expected : cases) {
         app_harness app([&](user_defaults& store) {
             app_harness::use_wifi(store);
@@ -52,7 +56,9 @@ class link_over_tcp : public testing::Test {
         app.find<QLineEdit>("cmdTxt")->setText(QLatin1String(command));
         app.press("sendBtn");
     }
-    std::string transcript() { return app.find<QPlainTextEdit>("replyTxt")->toPlainText().toStdString(); }
+    std::string transcript() {
+        return app.find<QPlainTextEdit>("replyTxt")->toPlainText().toStdString();
+    }
     app_harness app;
 };
 
@@ -115,7 +121,8 @@ TEST_F(link_over_tcp, failures_are_told_in_words_and_the_next_send_connects_agai
     app.fail("Connection refused");
     EXPECT_EQ(app.last_status(), "Couldn't connect...Please Check\n\nConnection refused");
     app.loop.advance(seconds(30));
-    EXPECT_EQ(app.last_status(), "Couldn't connect...Please Check\n\nConnection refused") << "25 s: already told";
+    EXPECT_EQ(app.last_status(), "Couldn't connect...Please Check\n\nConnection refused")
+        << "25 s: already told";
     send("AT I");
     app.connect();
     EXPECT_EQ(app.sent(), "AT I\r");
@@ -149,7 +156,8 @@ TEST_F(link_over_tcp, a_stream_pair_that_cannot_be_made_is_silence) {
 
 TEST(ports, text_that_is_no_number_is_port_0) {
     const std::pair<const char*, long> cases[] = {
-        {"abc", 0}, {"", 0}, {" 35000", 35000}, {"35000x", 35000}, {"-5", -5}, {"99999999999999999999", 65536}};
+        {"abc", 0},        {"", 0},    {" 35000", 35000},
+        {"35000x", 35000}, {"-5", -5}, {"99999999999999999999", 65536}};
     for (const auto& [text, port] : cases) {
         app_harness app([text = text](user_defaults& store) {
             app_harness::use_wifi(store);
@@ -191,10 +199,11 @@ TEST(screens, a_fresh_codes_screen_never_starts_the_old_ones_task) {
 TEST(screens, an_old_screen_lives_until_the_run_loop_lets_it_go) {
     app_harness app;
     app.delegate->do_read_codes();
-    app.delegate->status_shown = [&](const std::string& text) { // switches under the screen's own operation
-        if (text.starts_with("Trying"))
-            app.delegate->do_prefs();
-    };
+    app.delegate->status_shown =
+        [&](const std::string& text) { // switches under the screen's own operation
+            if (text.starts_with("Trying"))
+                app.delegate->do_prefs();
+        };
     app.press("readCodes");
     app.loop.settle();
     EXPECT_EQ(app.delegate->current_screen_name(), PREFS_VIEW);

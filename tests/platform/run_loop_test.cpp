@@ -2,7 +2,6 @@
 #include "virtual_run_loop.h"
 
 #include <gtest/gtest.h>
-
 #include <string>
 
 namespace {

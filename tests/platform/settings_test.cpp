@@ -4,10 +4,10 @@
 #include "saturate.h"
 #include "user_defaults.h"
 
-#include <gtest/gtest.h>
-
 #include <QFile>
 #include <QTemporaryDir>
+
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -51,7 +51,8 @@ TEST_F(settings_file, rubbish_in_the_file_reads_as_absent_values) {
     const std::string plain = folder.filePath(QStringLiteral("rubbish.conf")).toStdString();
     QFile file(QString::fromStdString(plain));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("\x00\xff\xfe[[[=\n==\nKS_interface=six\n", 30);
+    constexpr char RUBBISH[] = "\x00\xff\xfe[[[=\n==\nKS_interface=six\n";
+    file.write(RUBBISH, sizeof RUBBISH - 1);
     file.close();
     expect_warning("could not be read whole");
     const user_defaults store(plain);
@@ -91,8 +92,13 @@ TEST(notifications, observers_may_leave_while_one_is_told) {
 }
 
 TEST(saturating, doubles_outside_int_stop_at_its_ends) {
-    const std::pair<double, int> cases[] = {
-        {2.9, 2}, {-2.9, -2}, {1e300, INT_MAX}, {-1e300, INT_MIN}, {INFINITY, INT_MAX}, {NAN, 0}, {2147483647.0, INT_MAX}};
+    const std::pair<double, int> cases[] = {{2.9, 2},
+                                            {-2.9, -2},
+                                            {1e300, INT_MAX},
+                                            {-1e300, INT_MIN},
+                                            {INFINITY, INT_MAX},
+                                            {NAN, 0},
+                                            {2147483647.0, INT_MAX}};
     for (const auto& [from, to] : cases)
         EXPECT_EQ(saturating_int(from), to) << from;
 }

@@ -2,14 +2,13 @@
 #include "qt_run_loop.h"
 #include "tcp_stream_pair.h"
 
-#include <gtest/gtest.h>
-
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QTcpServer>
 #include <QTcpSocket>
 
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <memory>
 #include <vector>
 
@@ -28,7 +27,8 @@ class tcp_pair : public testing::TestWithParam<const char*> {
         QElapsedTimer clock;
         clock.start();
         while (!holds() && clock.elapsed() < 10'000)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 50);
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents,
+                                            50);
         return holds();
     }
 
@@ -42,7 +42,9 @@ class tcp_pair : public testing::TestWithParam<const char*> {
     }
     void open_and_accept() {
         open();
-        ASSERT_TRUE(wait_for([this] { return count(STREAM_OPEN_COMPLETED) == 2 && server.hasPendingConnections(); }));
+        ASSERT_TRUE(wait_for([this] {
+            return count(STREAM_OPEN_COMPLETED) == 2 && server.hasPendingConnections();
+        }));
         peer.reset(server.nextPendingConnection());
     }
     long count(int code) const { return std::ranges::count(codes, code); }
@@ -104,11 +106,16 @@ TEST_P(tcp_pair, a_refused_connection_is_an_error_with_words) {
 }
 
 INSTANTIATE_TEST_SUITE_P(families, tcp_pair, testing::Values("127.0.0.1", "::1"),
-                         [](const auto& address) { return std::string(address.index ? "ipv6" : "ipv4"); });
+                         [](const auto& address) {
+                             return std::string(address.index ? "ipv6" : "ipv4");
+                         });
 
 TEST(tcp_pair_address, ports_outside_the_range_and_unknown_names_end_in_the_error_event) {
-    const std::pair<std::string, long> addresses[] = {
-        {"127.0.0.1", -1}, {"127.0.0.1", 65536}, {"127.0.0.1", 0}, {"no-such-host.invalid", 35000}, {"", 35000}};
+    const std::pair<std::string, long> addresses[] = {{"127.0.0.1", -1},
+                                                      {"127.0.0.1", 65536},
+                                                      {"127.0.0.1", 0},
+                                                      {"no-such-host.invalid", 35000},
+                                                      {"", 35000}};
     for (const auto& [host, port] : addresses) {
         SCOPED_TRACE(host + ":" + std::to_string(port));
         qt_run_loop loop;
@@ -118,7 +125,8 @@ TEST(tcp_pair_address, ports_outside_the_range_and_unknown_names_end_in_the_erro
         QElapsedTimer clock;
         clock.start();
         while (!error_events && clock.elapsed() < 20'000)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 50);
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents,
+                                            50);
         EXPECT_EQ(error_events, 1);
         EXPECT_FALSE(pair.error_description().empty());
     }

@@ -1,8 +1,6 @@
 // Preferences and console, driven by object name.
 #include "app_harness.h"
 
-#include <gtest/gtest.h>
-
 #include <QAbstractItemModel>
 #include <QCheckBox>
 #include <QLabel>
@@ -11,6 +9,8 @@
 #include <QRadioButton>
 #include <QTableView>
 #include <QTest>
+
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -21,7 +21,12 @@ class preferences : public testing::Test {
     preferences() { app.delegate->do_prefs(); }
     QString text(const char* name) { return app.find<QLabel>(name)->text(); }
     std::string value(int row) {
-        return app.find<QTableView>("_pid_availableTableView")->model()->index(row, 0).data().toString().toStdString();
+        return app.find<QTableView>("_pid_availableTableView")
+            ->model()
+            ->index(row, 0)
+            .data()
+            .toString()
+            .toStdString();
     }
     void toggle(int row) {
         auto* table = app.find<QTableView>("_pid_availableTableView");
@@ -111,7 +116,9 @@ class console : public testing::Test {
   protected:
     console() { app.delegate->do_expert(); }
     QLineEdit* field() { return app.find<QLineEdit>("cmdTxt"); }
-    std::string transcript() { return app.find<QPlainTextEdit>("replyTxt")->toPlainText().toStdString(); }
+    std::string transcript() {
+        return app.find<QPlainTextEdit>("replyTxt")->toPlainText().toStdString();
+    }
     app_harness app;
 };
 
@@ -162,8 +169,11 @@ TEST_F(console, up_and_down_bring_earlier_commands_back) {
         field()->setText(QLatin1String(command));
         app.press("sendBtn");
     }
-    const std::pair<Qt::Key, const char*> keys[] = {
-        {Qt::Key_Up, "AT RV"}, {Qt::Key_Up, "AT I"}, {Qt::Key_Up, "AT I"}, {Qt::Key_Down, "AT RV"}, {Qt::Key_Down, ""}};
+    const std::pair<Qt::Key, const char*> keys[] = {{Qt::Key_Up, "AT RV"},
+                                                    {Qt::Key_Up, "AT I"},
+                                                    {Qt::Key_Up, "AT I"},
+                                                    {Qt::Key_Down, "AT RV"},
+                                                    {Qt::Key_Down, ""}};
     for (const auto& [key, expected] : keys) {
         QTest::keyClick(field(), key);
         EXPECT_EQ(field()->text(), QLatin1String(expected));

@@ -1,8 +1,7 @@
-// Conversations with the adapter as data: every file of data/ is one test. The verbs are those of run_line() below;
+// Conversations with the adapter as data: every file of data/ is one test. The verbs are those of
+// run_line() below;
 // "\r" and "\n" stand for themselves behind a backslash.
 #include "app_harness.h"
-
-#include <gtest/gtest.h>
 
 #include <QAbstractItemModel>
 #include <QLabel>
@@ -10,6 +9,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -1,14 +1,13 @@
-// The trouble-codes screen against every virtual car and every fault of the adapter, on a virtual clock. The truth is
-// the car's own data.
+// The trouble-codes screen against every virtual car and every fault of the adapter, on a virtual
+// clock. The truth is the car's own data.
 #include "app_harness.h"
 #include "car_library.h"
 #include "qt_warnings.h"
 #include "readCodes.h"
 #include "virtual_car_pair.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <set>
 
 namespace {
@@ -23,14 +22,18 @@ struct truth {
     std::vector<std::string> states; // of the engine's monitors
 };
 
-bool is_can(const car& the_car) { return the_car.protocol >= 6 && the_car.protocol <= 9; }
+bool is_can(const car& the_car) {
+    return the_car.protocol >= 6 && the_car.protocol <= 9;
+}
 bool silent(const control_unit& unit, int service) {
     return std::ranges::find(unit.silent_services, service) != unit.silent_services.end();
 }
 
 std::vector<std::string> monitor_states(const readiness_bytes& bytes) {
     std::vector<std::string> states;
-    const auto add = [&](bool there, bool incomplete) { states.push_back(!there ? "N/A" : incomplete ? "X" : "OK"); };
+    const auto add = [&](bool there, bool incomplete) {
+        states.push_back(!there ? "N/A" : incomplete ? "X" : "OK");
+    };
     for (int bit = 0; bit < 3; ++bit)
         add(bytes.continuous >> bit & 1, bytes.continuous >> (bit + 4) & 1);
     for (int bit = 0; bit < 8; ++bit)
@@ -50,7 +53,8 @@ truth truth_of(const car& the_car) {
         if (silent(unit, 3))
             continue;
         told.codes.insert(unit.stored.begin(), unit.stored.end());
-        // The older buses fill an empty answer with zeros, and its first group is kept as it stands.
+        // The older buses fill an empty answer with zeros, and its first group is kept as it
+        // stands.
         if (unit.stored.empty() && !is_can(the_car))
             told.codes.insert("P0000");
     }
@@ -61,7 +65,8 @@ class car_on_the_bench {
   public:
     explicit car_on_the_bench(const std::string& name, std::vector<fault> faults = {})
         : the_car(load_car(name)), adapter(the_car, options(std::move(faults))) {
-        app.delegate->doors().make_streams = [this](const std::string&, long) -> std::unique_ptr<stream_pair> {
+        app.delegate->doors().make_streams = [this](const std::string&,
+                                                    long) -> std::unique_ptr<stream_pair> {
             return std::make_unique<virtual_car_pair>(app.loop, adapter);
         };
         app.delegate->do_read_codes();
@@ -78,7 +83,9 @@ class car_on_the_bench {
     // Presses the button and waits for the end of the task. False: it did not end well.
     bool read() {
         screen().readCodes_clicked();
-        for (int i = 0; i < 600 && (app.delegate->anything_outstanding() || i < 2) && screen().task_running(); ++i)
+        for (int i = 0;
+             i < 600 && (app.delegate->anything_outstanding() || i < 2) && screen().task_running();
+             ++i)
             app.loop.advance(seconds(1));
         return screen().succeeded();
     }
@@ -111,8 +118,9 @@ TEST_P(every_car, is_read_as_its_data_says_cleared_and_read_again) {
     bench.expect_truth();
     bench.screen().clearCodes_clicked();
     bench.app.loop.advance(minutes(1));
-    const bool refuses = std::ranges::any_of(
-        bench.the_car.units, [](const control_unit& unit) { return silent(unit, 4) || unit.clears_with_engine_off_only; });
+    const bool refuses = std::ranges::any_of(bench.the_car.units, [](const control_unit& unit) {
+        return silent(unit, 4) || unit.clears_with_engine_off_only;
+    });
     if (!refuses) {
         EXPECT_TRUE(bench.screen().succeeded()) << bench.app.last_status();
         for (const control_unit& unit : bench.the_car.units)
@@ -124,20 +132,22 @@ TEST_P(every_car, is_read_as_its_data_says_cleared_and_read_again) {
 
 INSTANTIATE_TEST_SUITE_P(cars, every_car, testing::ValuesIn(car_names()), [](const auto& name) {
     std::string label = name.param;
-    std::ranges::replace_if(label, [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); }, '_');
+    std::ranges::replace_if(
+        label, [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); }, '_');
     return label;
 });
 
 // Faults that a correct client reads through: what it shows is the truth all the same.
 TEST(adapter_faults, that_change_only_the_form_of_a_reply_change_nothing_on_the_screen) {
-    for (const char* name : {"one_byte_chunks", "split_prompt", "merge_replies", "nagle", "echo_stuck", "crlf", "padding",
-                             "latency", "clone"})
+    for (const char* name : {"one_byte_chunks", "split_prompt", "merge_replies", "nagle",
+                             "echo_stuck", "crlf", "padding", "latency", "clone"})
         for (const char* car : {"can11", "can29", "iso9141"}) {
             SCOPED_TRACE(std::string(name) + " on " + car);
             const auto& rows = fault_rows();
             const auto row = std::ranges::find(rows, name, &fault_row::name);
             ASSERT_NE(row, rows.end());
-            const std::string text = row->value || row->value_name.empty() ? name : std::string(name) + "=50";
+            const std::string text =
+                row->value || row->value_name.empty() ? name : std::string(name) + "=50";
             car_on_the_bench bench(car, {parse_fault(text)});
             EXPECT_TRUE(bench.read()) << bench.app.last_status();
             bench.expect_truth();
@@ -150,14 +160,16 @@ TEST(adapter_faults, never_show_a_code_that_the_car_does_not_have) {
         for (const char* name : {"can11", "iso9141"}) {
             SCOPED_TRACE(std::string(row.name) + " on " + name);
             expect_warning("");
-            const std::string text = row.value || row.value_name.empty() ? std::string(row.name)
-                                                                          : std::string(row.name) + "=7";
+            const std::string text = row.value || row.value_name.empty()
+                                         ? std::string(row.name)
+                                         : std::string(row.name) + "=7";
             car_on_the_bench bench(name, {parse_fault(text)});
             bench.read();
             bench.read(); // the button works again, whatever became of the first time
             const truth told = truth_of(bench.the_car);
-            const bool may_invent = row.kind == fault_kind::garbage || row.kind == fault_kind::drop_bytes ||
-                                    row.kind == fault_kind::data_error; // bytes changed on the way look like codes
+            const bool may_invent =
+                row.kind == fault_kind::garbage || row.kind == fault_kind::drop_bytes ||
+                row.kind == fault_kind::data_error; // bytes changed on the way look like codes
             for (const code_row& code : bench.screen().report().codes)
                 EXPECT_TRUE(may_invent || told.codes.contains(code[0])) << code[0];
         }

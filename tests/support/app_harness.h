@@ -1,5 +1,5 @@
-// The whole application without a network and without real time: delegate and screens over a virtual clock, a scripted
-// stream pair, scripted alerts and a temporary settings file.
+// The whole application without a network and without real time: delegate and screens over a
+// virtual clock, a scripted stream pair, scripted alerts and a temporary settings file.
 #pragma once
 
 #include "bundle.h"

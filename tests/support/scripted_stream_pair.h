@@ -1,4 +1,5 @@
-// A stream pair that does what a test says: refuse, stall, split, drop. What is written is recorded.
+// A stream pair that does what a test says: refuse, stall, split, drop. What is written is
+// recorded.
 #pragma once
 
 #include "run_loop.h"
@@ -23,7 +24,8 @@ class scripted_stream_pair final : public stream_pair {
         int opens = 0, closes = 0;
     };
 
-    scripted_stream_pair(run_loop& loop, std::shared_ptr<wire> far_end) : loop_(loop), wire_(std::move(far_end)) {}
+    scripted_stream_pair(run_loop& loop, std::shared_ptr<wire> far_end)
+        : loop_(loop), wire_(std::move(far_end)) {}
     ~scripted_stream_pair() override { close(); }
 
     void open(event_handler handler) override {
@@ -46,7 +48,8 @@ class scripted_stream_pair final : public stream_pair {
     std::string error_description() const override { return wire_->error; }
 
     // An event from the far end, through the run loop as the real pair's.
-    static void raise(wire& far_end, run_loop& loop, int code, stream_side side = stream_side::input) {
+    static void raise(wire& far_end, run_loop& loop, int code,
+                      stream_side side = stream_side::input) {
         loop.after(run_loop::milliseconds(0), [&far_end, side, code] {
             if (const auto handler = far_end.handler)
                 handler(side, code);

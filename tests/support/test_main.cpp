@@ -1,5 +1,5 @@
-// Runs the tests inside a Qt application; an unexpected Qt warning fails the test that raised it. A test that
-// expects one names it with expect_warning().
+// Runs the tests inside a Qt application; an unexpected Qt warning fails the test that raised it. A
+// test that expects one names it with expect_warning().
 #include "qt_warnings.h"
 
 #include <gtest/gtest.h>
@@ -35,7 +35,9 @@ class warning_reset : public testing::EmptyTestEventListener {
 
 } // namespace
 
-void expect_warning(const std::string& part) { expected_warnings.push_back(part); }
+void expect_warning(const std::string& part) {
+    expected_warnings.push_back(part);
+}
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);

@@ -1,4 +1,5 @@
-// A stream pair with the virtual adapter at its far end, on the test's clock: a whole car without a socket.
+// A stream pair with the virtual adapter at its far end, on the test's clock: a whole car without a
+// socket.
 #pragma once
 
 #include "run_loop.h"
@@ -48,8 +49,10 @@ class virtual_car_pair final : public stream_pair {
     void pump() {
         if (gone_)
             return;
-        // The first read empties what there is, so one event serves several pieces, as with a socket.
-        for (auto due = adapter_.next_output(); due && *due <= loop_.now(); due = adapter_.next_output()) {
+        // The first read empties what there is, so one event serves several pieces, as with a
+        // socket.
+        for (auto due = adapter_.next_output(); due && *due <= loop_.now();
+             due = adapter_.next_output()) {
             const bool announce = incoming_.empty();
             incoming_ += adapter_.take_output(loop_.now());
             if (announce && !incoming_.empty())

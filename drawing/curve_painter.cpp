@@ -29,7 +29,7 @@ struct column_spans {
 class pixel_layer {
   public:
     pixel_layer(const canvas& target, double scale)
-        : image_(empty_image(QSizeF(target.width(), target.height()), scale)), scale_(scale),
+        : image_(raw_image(QSizeF(target.width(), target.height()), scale)), scale_(scale),
           height_(target.height()), area_(image_.width()), left_halves_(image_.width()),
           right_halves_(image_.width()) {}
 

@@ -63,7 +63,7 @@ void drawChartyItem::draw_grid(const label_records& labels, std::string_view thi
         paint_grid(target, look);
         grid_look_ = std::move(look);
     }
-    image_ = grid_image_;
+    copy_picture(grid_image_, image_);
 }
 
 void drawChartyItem::paint_grid(canvas& target, const grid_look& look) const {

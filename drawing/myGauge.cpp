@@ -4,6 +4,7 @@
 #include "canvas.h"
 #include "constantes.h"
 #include "system_log.h"
+#include "text.h"
 #include "user_defaults.h"
 
 #include <QFile>
@@ -51,7 +52,7 @@ myGauge::myGauge(const bundle& resources, const mac_toolies& decoder)
     : resources_(resources), toolies(decoder) {}
 
 void myGauge::initGauge(std::string_view pid) {
-    cur_PID = pid.substr(pid.rfind('/') + 1);
+    cur_PID = last_path_component(pid);
     work_out_base_gauge();
     draw_cur_needle_value(toolies.get_PID_min_max(cur_PID, false));
 }

@@ -74,5 +74,5 @@ class myGauge {
 
     double pixel_scale_ = 1;
     QImage empty_dial_; // as loaded, at the pixel scale
-    cast_shadow hub_; // the hub with its glow, as drawn over every needle
+    cast_shadow hub_;   // the hub with its glow, as drawn over every needle
 };

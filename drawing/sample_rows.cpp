@@ -60,41 +60,67 @@ void sample_rows::complete_last_row() {
     }
 }
 
+void sample_rows::block_level::push(const sample_stretch& sum, std::size_t size) {
+    if (sum.head.count == size) {
+        blocks.push_back({sum.head.lowest, sum.head.highest, ALL_NUMBERS});
+        return;
+    }
+    blocks.push_back({NO_NUMBER, NO_NUMBER, static_cast<std::uint32_t>(mixed.size())});
+    mixed.push_back(sum);
+}
+
+sample_stretch sample_rows::block_level::at(std::size_t place, std::size_t size) const {
+    const block& b = blocks[place];
+    return b.all_numbers() ? sample_stretch::of_numbers({b.lowest, b.highest, size}, place * size,
+                                                        (place + 1) * size)
+                           : mixed[b.mixed];
+}
+
 // Adds the block that the last row completes, and the blocks that this block completes.
 void sample_rows::sum_up(column& c) const {
-    const auto widen = [](block& sum, double lowest, double highest) {
-        const bool whole = sum.whole() && !std::isnan(lowest);
-        sum = whole ? block{std::min(sum.lowest, lowest), std::max(sum.highest, highest)}
-                    : block{NO_NUMBER, NO_NUMBER};
+    sample_stretch sum;
+    const auto add = [&sum](const sample_stretch& next) {
+        sum.append(next);
+        return true;
     };
-    block sum{value_at(c, rows_ - BLOCK), value_at(c, rows_ - BLOCK)};
-    for (std::size_t row = rows_ - BLOCK + 1; row < rows_; ++row)
-        widen(sum, value_at(c, row), value_at(c, row));
-    for (std::size_t level = 0;; ++level) {
-        if (level == c.levels.size())
+    visit_rows(c, rows_ - BLOCK, rows_, add);
+    std::size_t size = BLOCK;
+    for (std::size_t n = 0;; ++n) {
+        if (n == c.levels.size())
             c.levels.emplace_back();
-        std::vector<block>& blocks = c.levels[level];
-        blocks.push_back(sum);
-        if (blocks.size() % BLOCK != 0)
+        block_level& level = c.levels[n];
+        level.push(sum, size);
+        const std::size_t count = level.blocks.size();
+        if (count % BLOCK != 0)
             return;
-        sum = blocks[blocks.size() - BLOCK];
-        for (std::size_t i = blocks.size() - BLOCK + 1; i < blocks.size(); ++i)
-            widen(sum, blocks[i].lowest, blocks[i].highest);
+        sum = sample_stretch();
+        for (std::size_t place = count - BLOCK; place < count; ++place)
+            sum.append(level.at(place, size));
+        size *= BLOCK;
     }
 }
 
-sample_rows::level_found sample_rows::largest_block(const column& c, std::size_t row,
-                                                    std::size_t end) {
-    level_found found;
+std::optional<sample_rows::level_found> sample_rows::largest_block(const column& c, std::size_t row,
+                                                                   std::size_t end) {
+    std::optional<level_found> found;
     std::size_t size = BLOCK;
-    for (const std::vector<block>& level : c.levels) {
-        const std::size_t place = row / size;
-        if (row % size != 0 || row + size > end || place >= level.size() || !level[place].whole())
+    for (std::size_t level = 0; level < c.levels.size(); ++level) {
+        if (row % size != 0 || row + size > end || row / size >= c.levels[level].blocks.size())
             break;
-        found = {&level, size};
+        found = {level, size};
         size *= BLOCK;
     }
     return found;
+}
+
+sample_stretch sample_rows::summary(std::size_t parameter, std::size_t first,
+                                    std::size_t end) const {
+    sample_stretch sum;
+    for_each_stretch(parameter, first, end, [&sum](const sample_stretch& next) {
+        sum.append(next);
+        return true;
+    });
+    return sum;
 }
 
 void sample_rows::file(std::size_t parameter, std::string_view reply, const translated& meaning) {

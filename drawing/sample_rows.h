@@ -3,18 +3,20 @@
 // sample takes less than 48 bytes.
 //
 // Replies are translated once, when they are filed. The last row is the one being filled; the rows
-// before it are complete and never change. For each parameter the store keeps the numbers of
-// complete rows summed up in blocks of 16, blocks of 16 of those and so on, so that what lies in
-// any window is found without visiting its rows.
+// before it are complete and never change. For each parameter the store keeps complete rows summed
+// up in blocks of 16, blocks of 16 of those and so on, so that what lies in any window is found
+// without visiting its rows.
 #pragma once
 
 #include "mac_toolies.h"
+#include "sample_stretch.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -22,13 +24,6 @@
 
 // A place that no reply has been filed into reads so.
 inline constexpr std::string_view UNFILLED = "-1";
-
-// Consecutive samples, all of them numbers, or one that is none.
-struct sample_piece {
-    std::size_t row, count;
-    double lowest, highest; // NaN: no number
-    bool number() const { return !std::isnan(lowest); }
-};
 
 class sample_rows {
   public:
@@ -52,7 +47,7 @@ class sample_rows {
     // NaN for an unusable reply and for an unfilled place.
     double value(std::size_t row, std::size_t parameter) const;
     bool filled(std::size_t row, std::size_t parameter) const {
-        return text(row, parameter) != UNFILLED;
+        return columns_[parameter].filled(row);
     }
 
     // The highest and lowest number, as a chart's labels count them, of all rows but the first; NaN
@@ -60,11 +55,13 @@ class sample_rows {
     double highest(std::size_t parameter) const;
     double lowest(std::size_t parameter) const;
 
-    // Calls `visit(const sample_piece&)` for the samples of rows [first, end) in order, in as few
-    // pieces as there are blocks for. Unfilled places are passed over.
+    // Calls `visit(const sample_stretch&)` for what rows [first, end) hold, in order, in as few
+    // stretches as there are blocks for. Where `visit` answers false it gets the block in smaller
+    // stretches instead.
     template <class Visitor>
-    void for_each_piece(std::size_t parameter, std::size_t first, std::size_t end,
-                        Visitor visit) const;
+    void for_each_stretch(std::size_t parameter, std::size_t first, std::size_t end,
+                          Visitor visit) const;
+    sample_stretch summary(std::size_t parameter, std::size_t first, std::size_t end) const;
 
     // The number that a chart's labels take a display text for: 0 for "~" and other texts without a
     // number, NaN for "-" and for no text.
@@ -91,32 +88,48 @@ class sample_rows {
         std::array<short_text, CHUNK> texts;
     };
 
+    // The extremes of a block that holds nothing but numbers, or the place of what else it adds up
+    // to among its level's mixed ones.
     struct block {
-        double lowest, highest; // NaN when not all of its samples are numbers
-        bool whole() const { return !std::isnan(lowest); }
+        double lowest, highest;
+        std::uint32_t mixed;
+        bool all_numbers() const { return mixed == ALL_NUMBERS; }
+    };
+    static constexpr std::uint32_t ALL_NUMBERS = 0xFFFFFFFF;
+
+    // A block of level n sums up BLOCK to the power n + 1 rows.
+    struct block_level {
+        std::vector<block> blocks;
+        std::vector<sample_stretch> mixed;
+        void push(const sample_stretch& sum, std::size_t size);
+        sample_stretch at(std::size_t place, std::size_t size) const;
     };
 
     struct column {
         std::vector<std::unique_ptr<chunk>> chunks;
-        std::vector<std::vector<block>>
-            levels;               // a block of level n sums up BLOCK to the power n + 1 rows
+        std::vector<block_level> levels;
         double newest_number = 0; // of the last row, as labels count it
         double highest, lowest;   // of complete rows from the second on
+
+        bool filled(std::size_t row) const {
+            const short_text& text = chunks[row / CHUNK]->texts[row % CHUNK];
+            return !text.fits() || text.view() != UNFILLED;
+        }
     };
 
-    // The level, and its blocks' size, of the largest block that starts at `row`, ends in time and
-    // holds nothing but numbers; none when there is none.
     struct level_found {
-        const std::vector<block>* level = nullptr;
-        std::size_t size = 1;
+        std::size_t level, size; // rows a block
     };
-    static level_found largest_block(const column& c, std::size_t row, std::size_t end);
+    // Of the largest block that starts at `row` and ends in time; none when there is none.
+    static std::optional<level_found> largest_block(const column& c, std::size_t row,
+                                                    std::size_t end);
     template <class Visitor>
-    static std::size_t visit_blocks(const std::vector<block>& level, std::size_t size,
-                                    std::size_t first, std::size_t end, Visitor& visit);
+    static std::size_t visit_blocks(const column& c, level_found found, std::size_t first,
+                                    std::size_t end, Visitor& visit);
     template <class Visitor>
-    std::size_t visit_rows(const column& c, std::size_t parameter, std::size_t first,
-                           std::size_t end, Visitor& visit) const;
+    static void visit_apart(const column& c, level_found whole, std::size_t place, Visitor& visit);
+    template <class Visitor>
+    static void visit_rows(const column& c, std::size_t first, std::size_t end, Visitor& visit);
 
     void complete_last_row();
     void sum_up(column& c) const;
@@ -131,51 +144,69 @@ class sample_rows {
 };
 
 template <class Visitor>
-void sample_rows::for_each_piece(std::size_t parameter, std::size_t first, std::size_t end,
-                                 Visitor visit) const {
+void sample_rows::for_each_stretch(std::size_t parameter, std::size_t first, std::size_t end,
+                                   Visitor visit) const {
     const column& c = columns_[parameter];
     for (std::size_t row = first; row < end;) {
-        const auto [level, size] = largest_block(c, row, end);
-        row = level != nullptr
-                  ? visit_blocks(*level, size, row, end, visit)
-                  : visit_rows(c, parameter, row, std::min(end, (row / BLOCK + 1) * BLOCK), visit);
+        if (const std::optional<level_found> found = largest_block(c, row, end)) {
+            row = visit_blocks(c, *found, row, end, visit);
+        } else {
+            const std::size_t stop = std::min(end, (row / BLOCK + 1) * BLOCK);
+            visit_rows(c, row, stop, visit);
+            row = stop;
+        }
     }
 }
 
-// Blocks of one level, up to where a larger one may start.
+// Blocks of one level, up to where a larger one may start: those of numbers alone as one stretch,
+// or a mixed one.
 template <class Visitor>
-std::size_t sample_rows::visit_blocks(const std::vector<block>& level, std::size_t size,
-                                      std::size_t first, std::size_t end, Visitor& visit) {
+std::size_t sample_rows::visit_blocks(const column& c, level_found found, std::size_t first,
+                                      std::size_t end, Visitor& visit) {
+    const auto [level, size] = found;
+    const std::vector<block>& blocks = c.levels[level].blocks;
     const std::size_t start = first / size;
-    const std::size_t stop = std::min({end / size, level.size(), (start / BLOCK + 1) * BLOCK});
-    block sum = level[start];
-    std::size_t place = start + 1;
-    for (; place < stop && level[place].whole(); ++place) {
-        sum.lowest = std::min(sum.lowest, level[place].lowest);
-        sum.highest = std::max(sum.highest, level[place].highest);
+    const std::size_t stop = std::min({end / size, blocks.size(), (start / BLOCK + 1) * BLOCK});
+    std::size_t place = start;
+    number_run run;
+    for (; place < stop && blocks[place].all_numbers(); ++place)
+        run.add({blocks[place].lowest, blocks[place].highest, size});
+    if (place > start) {
+        visit(sample_stretch::of_numbers(run, first, place * size));
+        return place * size;
     }
-    visit(sample_piece{first, (place - start) * size, sum.lowest, sum.highest});
-    return place * size;
+    if (!visit(c.levels[level].mixed[blocks[start].mixed]))
+        visit_apart(c, found, start, visit);
+    return first + size;
 }
 
-// Rows of one block.
 template <class Visitor>
-std::size_t sample_rows::visit_rows(const column& c, std::size_t parameter, std::size_t first,
-                                    std::size_t end, Visitor& visit) const {
+void sample_rows::visit_apart(const column& c, level_found whole, std::size_t place,
+                              Visitor& visit) {
+    const std::size_t end = (place + 1) * whole.size;
+    std::size_t row = place * whole.size;
+    if (whole.level == 0)
+        return visit_rows(c, row, end, visit);
+    while (row < end)
+        row = visit_blocks(c, {whole.level - 1, whole.size / BLOCK}, row, end, visit);
+}
+
+// Rows of one chunk.
+template <class Visitor>
+void sample_rows::visit_rows(const column& c, std::size_t first, std::size_t end, Visitor& visit) {
     const double* const values = c.chunks[first / CHUNK]->values.data() + first % CHUNK;
     const std::size_t count = end - first;
     for (std::size_t i = 0; i < count;) {
-        sample_piece piece{first + i, 1, values[i], values[i]};
-        if (!piece.number() && !filled(first + i, parameter)) {
+        if (std::isnan(values[i])) {
+            if (c.filled(first + i))
+                visit(sample_stretch::of_gap());
             ++i;
             continue;
         }
-        for (++i; i < count && piece.number() && !std::isnan(values[i]); ++i) {
-            piece.lowest = std::min(piece.lowest, values[i]);
-            piece.highest = std::max(piece.highest, values[i]);
-            ++piece.count;
-        }
-        visit(piece);
+        const std::size_t start = i;
+        number_run run;
+        for (; i < count && !std::isnan(values[i]); ++i)
+            run.add(values[i]);
+        visit(sample_stretch::of_numbers(run, first + start, first + i));
     }
-    return end;
 }

@@ -60,20 +60,22 @@ void sample_rows::complete_last_row() {
     }
 }
 
-void sample_rows::block_level::push(const sample_stretch& sum, std::size_t size) {
-    if (sum.head.count == size) {
-        blocks.push_back({sum.head.lowest, sum.head.highest, ALL_NUMBERS});
+void sample_rows::block_level::push(const sample_stretch& sum, unsigned bits) {
+    if (sum.head.count == std::size_t{1} << bits) {
+        blocks.push_back({sum.head.lowest, sum.head.highest});
         return;
     }
-    blocks.push_back({NO_NUMBER, NO_NUMBER, static_cast<std::uint32_t>(mixed.size())});
+    blocks.push_back({NO_NUMBER, static_cast<double>(mixed.size())});
+    if (mixed.size() == mixed.capacity()) // doubled, they would take too much room
+        mixed.reserve(mixed.size() + mixed.size() / 4 + BLOCK);
     mixed.push_back(sum);
 }
 
-sample_stretch sample_rows::block_level::at(std::size_t place, std::size_t size) const {
+sample_stretch sample_rows::block_level::at(std::size_t place, unsigned bits) const {
     const block& b = blocks[place];
-    return b.all_numbers() ? sample_stretch::of_numbers({b.lowest, b.highest, size}, place * size,
-                                                        (place + 1) * size)
-                           : mixed[b.mixed];
+    const number_run run{b.lowest, b.highest, std::size_t{1} << bits};
+    return b.all_numbers() ? sample_stretch::of_numbers(run, place << bits, (place + 1) << bits)
+                           : mixed[b.mixed()];
 }
 
 // Adds the block that the last row completes, and the blocks that this block completes.
@@ -84,33 +86,18 @@ void sample_rows::sum_up(column& c) const {
         return true;
     };
     visit_rows(c, rows_ - BLOCK, rows_, add);
-    std::size_t size = BLOCK;
     for (std::size_t n = 0;; ++n) {
         if (n == c.levels.size())
             c.levels.emplace_back();
         block_level& level = c.levels[n];
-        level.push(sum, size);
+        level.push(sum, row_bits(n));
         const std::size_t count = level.blocks.size();
         if (count % BLOCK != 0)
             return;
         sum = sample_stretch();
         for (std::size_t place = count - BLOCK; place < count; ++place)
-            sum.append(level.at(place, size));
-        size *= BLOCK;
+            sum.append(level.at(place, row_bits(n)));
     }
-}
-
-std::optional<sample_rows::level_found> sample_rows::largest_block(const column& c, std::size_t row,
-                                                                   std::size_t end) {
-    std::optional<level_found> found;
-    std::size_t size = BLOCK;
-    for (std::size_t level = 0; level < c.levels.size(); ++level) {
-        if (row % size != 0 || row + size > end || row / size >= c.levels[level].blocks.size())
-            break;
-        found = {level, size};
-        size *= BLOCK;
-    }
-    return found;
 }
 
 sample_stretch sample_rows::summary(std::size_t parameter, std::size_t first,

@@ -4,7 +4,7 @@
 //
 // Replies are translated once, when they are filed. The last row is the one being filled; the rows
 // before it are complete and never change. For each parameter the store keeps complete rows summed
-// up in blocks of 16, blocks of 16 of those and so on, so that what lies in any window is found
+// up in blocks of 8, blocks of 8 of those and so on, so that what lies in any window is found
 // without visiting its rows.
 #pragma once
 
@@ -13,10 +13,10 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -27,7 +27,8 @@ inline constexpr std::string_view UNFILLED = "-1";
 
 class sample_rows {
   public:
-    static constexpr std::size_t BLOCK = 16;
+    static constexpr unsigned BLOCK_BITS = 4;
+    static constexpr std::size_t BLOCK = 1U << BLOCK_BITS;
 
     explicit sample_rows(std::size_t parameters = 0);
 
@@ -88,21 +89,21 @@ class sample_rows {
         std::array<short_text, CHUNK> texts;
     };
 
-    // The extremes of a block that holds nothing but numbers, or the place of what else it adds up
-    // to among its level's mixed ones.
+    // The extremes of a block that holds nothing but numbers. For any other NaN, and the place of
+    // what it adds up to among its level's mixed ones: the smaller blocks are, the fewer of them
+    // have to be fetched.
     struct block {
         double lowest, highest;
-        std::uint32_t mixed;
-        bool all_numbers() const { return mixed == ALL_NUMBERS; }
+        bool all_numbers() const { return !std::isnan(lowest); }
+        std::size_t mixed() const { return static_cast<std::size_t>(highest); }
     };
-    static constexpr std::uint32_t ALL_NUMBERS = 0xFFFFFFFF;
 
     // A block of level n sums up BLOCK to the power n + 1 rows.
     struct block_level {
         std::vector<block> blocks;
         std::vector<sample_stretch> mixed;
-        void push(const sample_stretch& sum, std::size_t size);
-        sample_stretch at(std::size_t place, std::size_t size) const;
+        void push(const sample_stretch& sum, unsigned bits);
+        sample_stretch at(std::size_t place, unsigned bits) const;
     };
 
     struct column {
@@ -117,17 +118,25 @@ class sample_rows {
         }
     };
 
-    struct level_found {
-        std::size_t level, size; // rows a block
-    };
-    // Of the largest block that starts at `row` and ends in time; none when there is none.
-    static std::optional<level_found> largest_block(const column& c, std::size_t row,
-                                                    std::size_t end);
+    // A block of this level has 2 to this power rows. Shifts, where divisions would take longer
+    // than all the rest.
+    static unsigned row_bits(std::size_t level) {
+        return static_cast<unsigned>(level + 1) * BLOCK_BITS;
+    }
+    // Of the largest block that starts at `row` and ends in time, counted from 1; 0 when there is
+    // none.
+    static unsigned levels_of_block(std::size_t row, std::size_t end) {
+        if (row >= end)
+            return 0;
+        const int aligned_bits = std::countr_zero(row);
+        const int room_bits = std::bit_width(end - row) - 1;
+        return static_cast<unsigned>(std::min(aligned_bits, room_bits)) / BLOCK_BITS;
+    }
     template <class Visitor>
-    static std::size_t visit_blocks(const column& c, level_found found, std::size_t first,
+    static std::size_t visit_blocks(const column& c, std::size_t level, std::size_t first,
                                     std::size_t end, Visitor& visit);
     template <class Visitor>
-    static void visit_apart(const column& c, level_found whole, std::size_t place, Visitor& visit);
+    static void visit_apart(const column& c, std::size_t level, std::size_t place, Visitor& visit);
     template <class Visitor>
     static void visit_rows(const column& c, std::size_t first, std::size_t end, Visitor& visit);
 
@@ -147,9 +156,10 @@ template <class Visitor>
 void sample_rows::for_each_stretch(std::size_t parameter, std::size_t first, std::size_t end,
                                    Visitor visit) const {
     const column& c = columns_[parameter];
+    const std::size_t summed_up = c.levels.empty() ? 0 : c.levels[0].blocks.size() * BLOCK;
     for (std::size_t row = first; row < end;) {
-        if (const std::optional<level_found> found = largest_block(c, row, end)) {
-            row = visit_blocks(c, *found, row, end, visit);
+        if (const unsigned levels = levels_of_block(row, std::min(end, summed_up)); levels > 0) {
+            row = visit_blocks(c, levels - 1, row, end, visit);
         } else {
             const std::size_t stop = std::min(end, (row / BLOCK + 1) * BLOCK);
             visit_rows(c, row, stop, visit);
@@ -161,34 +171,34 @@ void sample_rows::for_each_stretch(std::size_t parameter, std::size_t first, std
 // Blocks of one level, up to where a larger one may start: those of numbers alone as one stretch,
 // or a mixed one.
 template <class Visitor>
-std::size_t sample_rows::visit_blocks(const column& c, level_found found, std::size_t first,
+std::size_t sample_rows::visit_blocks(const column& c, std::size_t level, std::size_t first,
                                       std::size_t end, Visitor& visit) {
-    const auto [level, size] = found;
+    const unsigned bits = row_bits(level);
     const std::vector<block>& blocks = c.levels[level].blocks;
-    const std::size_t start = first / size;
-    const std::size_t stop = std::min({end / size, blocks.size(), (start / BLOCK + 1) * BLOCK});
+    const std::size_t start = first >> bits;
+    const std::size_t stop = std::min({end >> bits, blocks.size(), (start / BLOCK + 1) * BLOCK});
     std::size_t place = start;
     number_run run;
     for (; place < stop && blocks[place].all_numbers(); ++place)
-        run.add({blocks[place].lowest, blocks[place].highest, size});
+        run.add({blocks[place].lowest, blocks[place].highest, std::size_t{1} << bits});
     if (place > start) {
-        visit(sample_stretch::of_numbers(run, first, place * size));
-        return place * size;
+        visit(sample_stretch::of_numbers(run, first, place << bits));
+        return place << bits;
     }
-    if (!visit(c.levels[level].mixed[blocks[start].mixed]))
-        visit_apart(c, found, start, visit);
-    return first + size;
+    if (!visit(c.levels[level].mixed[blocks[start].mixed()]))
+        visit_apart(c, level, start, visit);
+    return (start + 1) << bits;
 }
 
 template <class Visitor>
-void sample_rows::visit_apart(const column& c, level_found whole, std::size_t place,
+void sample_rows::visit_apart(const column& c, std::size_t level, std::size_t place,
                               Visitor& visit) {
-    const std::size_t end = (place + 1) * whole.size;
-    std::size_t row = place * whole.size;
-    if (whole.level == 0)
+    const std::size_t end = (place + 1) << row_bits(level);
+    std::size_t row = place << row_bits(level);
+    if (level == 0)
         return visit_rows(c, row, end, visit);
     while (row < end)
-        row = visit_blocks(c, {whole.level - 1, whole.size / BLOCK}, row, end, visit);
+        row = visit_blocks(c, level - 1, row, end, visit);
 }
 
 // Rows of one chunk.

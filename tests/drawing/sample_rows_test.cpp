@@ -153,7 +153,7 @@ TEST_F(sample_rows_test, stretches_add_up_to_the_rows_of_any_window_in_any_mixtu
                 });
                 expect_same(sum, expected);
                 if (taken == 100) {
-                    EXPECT_LE(stretches, 2 * sample_rows::BLOCK * 4) << p;
+                    EXPECT_LE(stretches, 2 * sample_rows::BLOCK * 5) << p;
                 }
             }
         }

@@ -90,6 +90,17 @@ void open_screen(Ks_lite_delegate& delegate, const std::string& name) {
         delegate.do_expert();
 }
 
+// Leaves once the window has been painted for the first time.
+class first_paint final : public QObject {
+  public:
+    using QObject::QObject;
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint)
+            QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        return false;
+    }
+};
+
 bool save_screenshot(main_window& window, const std::string& path) {
     if (window.grab().save(QString::fromStdString(path), "PNG"))
         return true;
@@ -143,6 +154,9 @@ int run(QApplication& application, const cli_request& asked) {
          }},
         all_screens());
     main_window window(delegate);
+    first_paint painted;
+    if (asked.quit_when_shown)
+        window.installEventFilter(&painted);
     int status = 0;
     std::unique_ptr<command_runner> runner;
     const quit_signals signals([&] {

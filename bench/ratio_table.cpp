@@ -70,6 +70,19 @@ void ratio_table::add_ratio(const std::string& what, timed_work work, const std:
     benchmark::RegisterBenchmark(what.c_str(), measure)->UseManualTime()->Iterations(turns);
 }
 
+void ratio_table::add_series(const std::string& what, const std::string& against,
+                             std::function<std::vector<double>()> measure, reach kind,
+                             double target) {
+    row& entry = new_row(what, against, kind, target);
+    const auto take = [&entry, measure = std::move(measure)](benchmark::State& state) {
+        for ([[maybe_unused]] const auto once : state)
+            entry.result = summary_of(measure());
+        entry.ran = true;
+        state.counters["ratio"] = entry.result.middle;
+    };
+    benchmark::RegisterBenchmark(what.c_str(), take)->Iterations(1);
+}
+
 void ratio_table::add_figure(const std::string& what, std::function<double()> measure, reach kind,
                              double target) {
     row& entry = new_row(what, "", kind, target);

@@ -31,6 +31,9 @@ class ratio_table {
     // is. Fewer turns for what takes long.
     void add_ratio(const std::string& what, timed_work work, const std::string& against,
                    timed_work yardstick, reach kind, double target, int turns = 31);
+    // Ratios that `measure` takes itself, work and yardstick in turns.
+    void add_series(const std::string& what, const std::string& against,
+                    std::function<std::vector<double>()> measure, reach kind, double target);
     // A number measured once, such as bytes a sample; no yardstick.
     void add_figure(const std::string& what, std::function<double()> measure, reach kind,
                     double target);

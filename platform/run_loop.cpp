@@ -20,14 +20,32 @@ void run_loop::fall_due(timer_id id) {
     deliver_due();
 }
 
+namespace {
+
+struct delivery_guard {
+    bool& flag;
+    explicit delivery_guard(bool& f) : flag(f) { flag = true; }
+    ~delivery_guard() { flag = false; }
+};
+
+} // namespace
+
+void run_loop::from_event_loop(std::function<void()> call) {
+    if (delivering_ || held() || !due_.empty()) {
+        after(milliseconds(0), std::move(call));
+        return;
+    }
+    {
+        const delivery_guard guard(delivering_);
+        call();
+    }
+    deliver_due(); // what fell due meanwhile
+}
+
 void run_loop::deliver_due() {
     if (delivering_)
         return;
-    struct delivery_guard {
-        bool& flag;
-        explicit delivery_guard(bool& f) : flag(f) { flag = true; }
-        ~delivery_guard() { flag = false; }
-    } guard(delivering_);
+    const delivery_guard guard(delivering_);
     while (!held() && !due_.empty()) {
         const timer_id id = due_.front();
         due_.pop_front();

@@ -274,7 +274,7 @@ void actions::zoomSliderDidChange(double v) {
 }
 
 void actions::clickIt() {
-    view_->thumbiesMtrx().choose(0);
+    view_->thumbiesMtrx().choose({0});
 }
 
 // Four sensors fit above the chart: brings the next four there and shows the first of them.
@@ -283,15 +283,27 @@ void actions::show_next_sensors() {
     const int page = static_cast<int>(SENSORS_A_PAGE);
     const int next = (cur_pid_showing / page + 1) * page;
     const int first = next < sensors ? next : 0;
-    view_->thumbiesMtrx().choose(first);
+    view_->thumbiesMtrx().choose({first});
     view_->scroll_to_thumbnail(first);
 }
 
-void actions::draw_frame() {
-    if (status_changed_) {
-        status_changed_ = false;
-        show_status();
+// While a run lasts, not more often than it can be read.
+void actions::show_status_now_and_then() {
+    constexpr run_loop::milliseconds READING_TIME{100};
+    const run_loop::milliseconds now = KS_delegate.doors().loop.now();
+    if (!status_changed_)
+        return;
+    if (keep_logging && now - status_shown_ < READING_TIME) {
+        frames_.request();
+        return;
     }
+    status_changed_ = false;
+    status_shown_ = now;
+    show_status();
+}
+
+void actions::draw_frame() {
+    show_status_now_and_then();
     if (!view_->root()->isVisible())
         return; // becoming visible resizes the panel, which asks for a frame
     view_->show_zoom(cur_log_points.rows() > FEWEST_POINTS);

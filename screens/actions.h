@@ -60,6 +60,8 @@ class actions final : public obd_screen {
     run_loop::milliseconds sampling_since() const { return sampling_since_; }
     std::uint64_t requests_answered() const { return requests_answered_; }
     std::uint64_t cycles() const { return cycles_; }
+    // The samples of the run; the last row is being filled.
+    sample_rows& samples() { return cur_log_points; }
     // The log of the run; empty when there is none.
     const std::string& log_path() const { return cur_log_file_name; }
     // Why this run is not, or no longer, logged.
@@ -73,6 +75,7 @@ class actions final : public obd_screen {
     void run_a_log();
     void choose_second_dial(const std::set<int>& selected, std::size_t selected_before, int shown_before);
     void draw_frame();
+    void show_status_now_and_then();
 
     // actions_sampling.cpp
     void work_out_log(int step);
@@ -133,4 +136,5 @@ class actions final : public obd_screen {
     run_loop::milliseconds sampling_since_{0};
     std::uint64_t requests_answered_ = 0, cycles_ = 0;
     bool status_changed_ = false;
+    run_loop::milliseconds status_shown_{0};
 };

@@ -1,4 +1,5 @@
-// Paces drawing: at most 60 frames a second, and after a frame that took d the next waits at least
+// Paces drawing: at most 30 frames a second, which a dial needs to
+// move smoothly, and after a frame that took d the next waits at least
 // 3 d, so that drawing never takes more than a quarter of the time. Owned by a screen.
 #pragma once
 

@@ -59,12 +59,16 @@ bool thumbnail_strip::in_sight(int cell) const {
     return isVisible() && visibleRegion().intersects(rect_of(cell));
 }
 
-void thumbnail_strip::choose(int cell) {
-    if (cell < 0 || cell >= cells())
+void thumbnail_strip::choose(const std::set<int>& these) {
+    std::set<int> there;
+    for (const int cell : these)
+        if (cell >= 0 && cell < cells())
+            there.insert(cell);
+    if (there.empty())
         return;
-    selected_ = {cell};
-    anchor_ = cell;
-    finish_choice(cell);
+    selected_ = there;
+    anchor_ = *there.begin();
+    finish_choice(anchor_);
 }
 
 void thumbnail_strip::extend_to(int cell) {
@@ -108,7 +112,7 @@ void thumbnail_strip::mousePressEvent(QMouseEvent* event) {
     else if (event->modifiers().testFlag(Qt::ControlModifier))
         toggle(cell);
     else
-        choose(cell);
+        choose({cell});
 }
 
 void thumbnail_strip::keyPressEvent(QKeyEvent* event) {
@@ -142,7 +146,7 @@ void thumbnail_strip::keyPressEvent(QKeyEvent* event) {
         current_ = target; // to toggle it with the space bar
         update();
     } else {
-        choose(target);
+        choose({target});
     }
 }
 

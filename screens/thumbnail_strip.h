@@ -29,8 +29,9 @@ class thumbnail_strip final : public QWidget {
     QSize cell_size() const { return cell_size_; }
     void set_picture(int cell, const QImage& picture);
     const std::set<int>& selected() const { return selected_; }
-    // As a plain click on the cell.
-    void choose(int cell);
+    // As a click on the first of the cells, and on the others with Ctrl; cells that are not there
+    // are ignored.
+    void choose(const std::set<int>& these);
     // Whether any of the cell would be seen.
     bool in_sight(int cell) const;
 

@@ -89,6 +89,8 @@ class argument_reader {
             asked.json = true;
         } else if (name == "--yes") {
             asked.yes = true;
+        } else if (name == "--quit-when-shown") {
+            asked.quit_when_shown = true;
         } else if (name == "--help") {
             asked.help = true;
         } else if (name == "--version") {
@@ -241,6 +243,7 @@ Options
   --settings FILE       use this settings file
   --screen NAME         open with codes, live, prefs or expert
   --screenshot FILE     save a picture of the window (PNG) and leave
+  --quit-when-shown     leave once the window has been painted (for measuring the start)
   --json                print one JSON object
   --timeout SECONDS     bound for the whole command (default 60; none for live)
   --help, --version

@@ -44,8 +44,8 @@ void tcp_stream_pair::connected() {
 }
 
 // Some adapters write a reply in pieces with Nagle's algorithm on; a delayed acknowledgement would
-// then cost 40 ms a request. The kernel drops the option now and then, so it is set again around
-// each read.
+// then cost 40 ms a request. The kernel drops the option now and then, so it is set again after each
+// read.
 void tcp_stream_pair::acknowledge_at_once() {
     const int on = 1;
     ::setsockopt(static_cast<int>(socket_.socketDescriptor()), IPPROTO_TCP, TCP_QUICKACK, &on,
@@ -53,11 +53,11 @@ void tcp_stream_pair::acknowledge_at_once() {
 }
 
 void tcp_stream_pair::received() {
-    acknowledge_at_once();
     if (bytes_announced_ || ended_)
         return;
     bytes_announced_ = true;
-    raise(stream_side::input, STREAM_BYTES_AVAILABLE);
+    // At once: a turn of the event loop for every reply would cost a third of the sampling rate.
+    loop_.from_event_loop(event(stream_side::input, STREAM_BYTES_AVAILABLE));
 }
 
 std::string tcp_stream_pair::read(std::size_t most) {
@@ -105,11 +105,14 @@ void tcp_stream_pair::close() {
 }
 
 void tcp_stream_pair::raise(stream_side side, int event_code) {
-    loop_.after(run_loop::milliseconds(0),
-                [this, alive = std::weak_ptr<bool>(alive_), side, event_code] {
-                    if (alive.expired())
-                        return;
-                    const event_handler call = handler_; // the pair may be replaced meanwhile
-                    call(side, event_code);
-                });
+    loop_.after(run_loop::milliseconds(0), event(side, event_code));
+}
+
+std::function<void()> tcp_stream_pair::event(stream_side side, int event_code) {
+    return [this, alive = std::weak_ptr<bool>(alive_), side, event_code] {
+        if (alive.expired())
+            return;
+        const event_handler call = handler_; // the pair may be replaced meanwhile
+        call(side, event_code);
+    };
 }

@@ -28,6 +28,7 @@ class tcp_stream_pair final : public QObject, public stream_pair {
     void disconnected();
     void acknowledge_at_once();
     void raise(stream_side side, int event_code);
+    std::function<void()> event(stream_side side, int event_code);
 
     run_loop& loop_;
     std::string host_;

@@ -1,0 +1,59 @@
+// An adapter that answers at once, for measuring the program that asks: a TCP server on loopback,
+// on a thread of its own, with blocking sockets and nothing else in its way.
+#pragma once
+
+#include "drive_cycle.h"
+
+#include <atomic>
+#include <chrono>
+#include <string>
+#include <string_view>
+#include <thread>
+
+// What a car on its drive answers to the four parameters of a run, one sample every 20 ms, in the
+// order asked.
+class driving_car {
+  public:
+    driving_car();
+    // Spaced bytes, as an adapter sends them, without line end.
+    std::string answer(std::string_view pid);
+
+  private:
+    drive_cycle drive_;
+    long samples_ = 0;
+};
+
+struct answering_manner {
+    int pieces = 1;                          // that a reply is written in, with Nagle's algorithm on
+    std::chrono::milliseconds between{0};    // the pieces
+    std::chrono::milliseconds before{0};     // a reply
+};
+
+class answering_server {
+  public:
+    explicit answering_server(answering_manner manner = {});
+    ~answering_server();
+    answering_server(const answering_server&) = delete;
+    answering_server& operator=(const answering_server&) = delete;
+
+    int port() const { return port_; }
+    // What the server's thread has computed so far.
+    double processor_seconds();
+
+  private:
+    void serve();
+    void answer(int client);
+
+    std::string reply_to(const std::string& command);
+
+    answering_manner manner_;
+    driving_car car_;
+    int listener_ = -1;
+    int port_ = 0;
+    std::atomic<int> client_{-1};
+    std::atomic<bool> leaving_{false};
+    std::thread thread_;
+};
+
+// A client as bare as can be: writes the command, reads up to the prompt. Exchanges a second.
+double bare_exchanges_a_second(int port, std::chrono::milliseconds span);

@@ -164,6 +164,13 @@ class mac_toolies {
     // the plain name of a file.
     bool delete_a_log(std::string_view file_name) const;
 
+    // --- export.cpp -------------------------------------------------------------------------------------
+    // Writes a log of the log folder, given without folder, as a table of translated values beside it
+    // (log_export.h). True when at least one line of it was read. An export that is there already is kept and
+    // a message box says so; an output that cannot be written is logged; of a log that is missing or has no
+    // line an empty output is left.
+    bool export_to_CSV(std::string_view log_file_name, bool as_txt) const;
+
     // --- canned_adapter.cpp -----------------------------------------------------------------------------
     // Posts the canned answer to `command` as "OBDevent" before it returns.
     void emulate_OBD(std::string_view command) const;

@@ -17,7 +17,7 @@ namespace {
 constexpr std::string_view LOG_EXTENSION = ".gol";
 constexpr std::string_view CSV_EXTENSION = ".csv";
 constexpr std::string_view TEXT_EXTENSION = ".txt";
-constexpr std::size_t PIECE_READ = std::size_t{64} * 1024;
+constexpr std::size_t PIECE_READ = std::size_t{16} * 1024;
 constexpr std::size_t LONGEST_LINE = 999; // bytes; what is longer is taken as several lines
 constexpr int DECIMALS = 6;
 

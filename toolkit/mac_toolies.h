@@ -49,6 +49,13 @@ struct readiness_flag {
     bool operator==(const readiness_flag&) const = default;
 };
 
+// A log in the log folder.
+struct logged_run {
+    std::string name; // without folder
+    std::uintmax_t bytes;
+    std::time_t written;
+};
+
 class mac_toolies {
   public:
     explicit mac_toolies(const toolkit_doors& doors) : doors_(doors) {}
@@ -160,6 +167,8 @@ class mac_toolies {
     // The path, without extension, of a log that a run of the task would begin now. Creates the log folder
     // when there is none; a failure is logged and the path returned all the same.
     std::string work_out_log_fname_for_mode(int task) const;
+    // The logs in the log folder, newest first; neither exports nor what else lies there.
+    std::vector<logged_run> list_logs() const;
     // Removes a file of the log folder. False, with a warning in the log, when that fails or the text is not
     // the plain name of a file.
     bool delete_a_log(std::string_view file_name) const;

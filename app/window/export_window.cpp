@@ -62,7 +62,7 @@ void export_window::build_list(QVBoxLayout* column) {
     logs_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     logs_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     logs_->horizontalHeader()->setSectionResizeMode(NAME, QHeaderView::Stretch);
-    connect(logs_, &QTableWidget::itemActivated, this, [this] { start_export(); });
+    connect(logs_, &QTableWidget::itemDoubleClicked, this, [this] { start_export(); });
     heading->setBuddy(logs_);
     column->addWidget(logs_, 1);
 

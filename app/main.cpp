@@ -6,6 +6,7 @@
 #include "command_runner.h"
 #include "console_alerts.h"
 #include "decode_command.h"
+#include "export_command.h"
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
 #include "mac_toolies.h"
@@ -108,13 +109,14 @@ bool save_screenshot(main_window& window, const std::string& path) {
     return false;
 }
 
-// A command that only decodes what stands on the command line.
+// A command that needs no adapter: it reads the command line, or a log.
 int decode(int argc, char** argv, const cli_request& asked) {
     const QGuiApplication application(argc, argv); // the chart is drawn
     const QTemporaryDir scratch;
     user_defaults units(scratch.filePath(QStringLiteral("kestrom.conf")).toStdString());
     units.set_boolean(KS_METRIC_UNITS_KEY,
-                      user_defaults(user_defaults::default_path()).boolean(KS_METRIC_UNITS_KEY));
+                      user_defaults(asked.settings.value_or(user_defaults::default_path()))
+                          .boolean(KS_METRIC_UNITS_KEY));
     const bundle resources;
     const mac_toolies toolies({&resources, &units, nullptr, nullptr});
     if (asked.command == "decode")
@@ -123,6 +125,8 @@ int decode(int argc, char** argv, const cli_request& asked) {
         return run_vin(asked.arguments, toolies, std::cout, std::cerr);
     if (asked.command == "chart")
         return run_chart(asked.arguments, toolies, resources, std::cout, std::cerr);
+    if (asked.command == "export")
+        return run_export(asked.arguments, toolies, std::cout, std::cerr);
     return run_mode6(asked.arguments, toolies, std::cout, std::cerr);
 }
 

@@ -18,6 +18,7 @@ int main(int argc, char** argv) {
     add_decoding_rows(table);
     add_table_rows(table);
     add_drawing_rows(table);
+    add_export_rows(table);
     benchmark::RunSpecifiedBenchmarks();
     return table.print() ? 0 : 1;
 }

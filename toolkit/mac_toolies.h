@@ -49,6 +49,13 @@ struct readiness_flag {
     bool operator==(const readiness_flag&) const = default;
 };
 
+// A log in the log folder.
+struct logged_run {
+    std::string name; // without folder
+    std::uintmax_t bytes;
+    std::time_t written;
+};
+
 class mac_toolies {
   public:
     explicit mac_toolies(const toolkit_doors& doors) : doors_(doors) {}
@@ -160,9 +167,18 @@ class mac_toolies {
     // The path, without extension, of a log that a run of the task would begin now. Creates the log folder
     // when there is none; a failure is logged and the path returned all the same.
     std::string work_out_log_fname_for_mode(int task) const;
+    // The logs in the log folder, newest first; neither exports nor what else lies there.
+    std::vector<logged_run> list_logs() const;
     // Removes a file of the log folder. False, with a warning in the log, when that fails or the text is not
     // the plain name of a file.
     bool delete_a_log(std::string_view file_name) const;
+
+    // --- export.cpp -------------------------------------------------------------------------------------
+    // Writes a log of the log folder, given without folder, as a table of translated values beside it
+    // (log_export.h). True when at least one line of it was read. An export that is there already is kept and
+    // a message box says so; an output that cannot be written is logged; of a log that is missing or has no
+    // line an empty output is left.
+    bool export_to_CSV(std::string_view log_file_name, bool as_txt) const;
 
     // --- canned_adapter.cpp -----------------------------------------------------------------------------
     // Posts the canned answer to `command` as "OBDevent" before it returns.

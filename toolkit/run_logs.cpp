@@ -6,12 +6,14 @@
 
 #include <QLocale>
 
-#include <array>
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <ctime>
 #include <filesystem>
+#include <sys/stat.h>
 #include <system_error>
+#include <tuple>
 
 namespace {
 
@@ -44,6 +46,12 @@ constexpr std::string_view prefix_of(int task) {
 
 std::string two_digits(int number) {
     return {static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10)};
+}
+
+// Whether a run writes a log under such a name; a text beside a ".gol" is that one's export.
+bool is_log(std::string_view name) {
+    return name.ends_with(".gol") || (name.ends_with(".txt") && !name.ends_with(".export.txt") &&
+                                      !name.starts_with(prefix_of(TASK_RUN_LOG)));
 }
 
 // A file of the log folder itself.
@@ -84,6 +92,22 @@ std::string mac_toolies::work_out_log_fname_for_mode(int task) const {
         !std::filesystem::create_directories(folder, failed))
         qCWarning(log_toolkit, "Couldn't create loggies folder");
     return folder + "/" + std::string(prefix_of(task)) + get_todays_date(0);
+}
+
+std::vector<logged_run> mac_toolies::list_logs() const {
+    std::vector<logged_run> logs;
+    std::error_code failed;
+    for (std::filesystem::directory_iterator entry(log_folder(), failed), end;
+         !failed && entry != end; entry.increment(failed)) {
+        struct stat there {};
+        const std::string name = entry->path().filename().string();
+        if (is_log(name) && ::stat(entry->path().c_str(), &there) == 0 && S_ISREG(there.st_mode))
+            logs.push_back({name, static_cast<std::uintmax_t>(there.st_size), there.st_mtime});
+    }
+    std::ranges::sort(logs, [](const logged_run& a, const logged_run& b) {
+        return std::tie(b.written, b.name) < std::tie(a.written, a.name);
+    });
+    return logs;
 }
 
 bool mac_toolies::delete_a_log(std::string_view file_name) const {

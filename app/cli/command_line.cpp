@@ -18,8 +18,9 @@ struct verb {
     std::size_t least, most;
 };
 constexpr verb VERBS[] = {
-    {"codes", 0, 0},       {"clear", 0, 0},    {"send", 1, 10'000},     {"live", 0, 0},
+    {"codes", 0, 0},    {"clear", 0, 0},      {"send", 1, 10'000},  {"live", 0, 0},
     {"decode", 0, 10'000}, {"vin", 0, 10'000}, {"mode6", 0, 10'000}, {"chart", 0, 10'000},
+    {"export", 0, 10'000},
 };
 
 bool plain_ascii(std::string_view text) {
@@ -212,7 +213,8 @@ class argument_reader {
 } // namespace
 
 bool decodes(std::string_view command) {
-    return command == "decode" || command == "vin" || command == "mode6" || command == "chart";
+    return command == "decode" || command == "vin" || command == "mode6" || command == "chart" ||
+           command == "export";
 }
 
 parsed_command_line parse_command_line(std::span<const std::string> arguments) {
@@ -235,6 +237,8 @@ Commands
   vin REPLY             the vehicle identification number in a reply to 09 02
   chart LOG.gol --pid PID [--pid PID] -o FILE.png [--scale N] [--dial]
                         draw a run log as a chart, or its last value on a dial
+  export LOG.gol [--txt] [--json]
+                        turn a run log into a table (CSV) beside it
   mode6 ID VALUE        a test result scaled by its unit-and-scaling identifier
 
 Options
@@ -256,5 +260,6 @@ Examples
   kestrom --adapter 192.168.0.10:35000 send "AT RV" "01 0C"
   kestrom --demo live --pids 0C,0D --cycles 20
   kestrom decode "41 0C 1A F8" --units metric
+  kestrom export log_Nov_15_2026-0254_33.gol
 )";
 }

@@ -3,6 +3,7 @@
 #include "background_picture.h"
 #include "bundle.h"
 #include "chrome.h"
+#include "export_window.h"
 #include "Ks_lite_delegate.h"
 #include "rail_button.h"
 #include "user_defaults.h"
@@ -12,6 +13,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QMenuBar>
 #include <QVBoxLayout>
 
 namespace {
@@ -42,10 +44,7 @@ main_window::main_window(Ks_lite_delegate& delegate) : delegate_(delegate) {
     row->addWidget(mainView, 1);
     setCentralWidget(whole);
 
-    auto* quit = new QAction(this);
-    quit->setShortcut(QKeySequence::Quit);
-    connect(quit, &QAction::triggered, this, &QWidget::close);
-    addAction(quit);
+    build_menu();
 
     delegate_.set_main_view(mainView);
     delegate_.screen_changed = [this] { follow_screen(); };
@@ -60,6 +59,22 @@ main_window::~main_window() {
         screen->view()->setParent(nullptr);
     delegate_.set_main_view(nullptr);
     delegate_.screen_changed = nullptr;
+}
+
+void main_window::build_menu() {
+    QMenu* file = menuBar()->addMenu(ui_text(delegate_, "ui_menu_file"));
+    QAction* export_log = file->addAction(ui_text(delegate_, "ui_menu_export"));
+    export_log->setObjectName(QStringLiteral("exportLog"));
+    export_log->setShortcut(Qt::CTRL | Qt::Key_E);
+    connect(export_log, &QAction::triggered, this, [this] {
+        if (!export_window_)
+            export_window_ = new export_window(delegate_, this);
+        export_window_->open_beside();
+    });
+    file->addSeparator();
+    QAction* quit = file->addAction(ui_text(delegate_, "ui_menu_quit"));
+    quit->setShortcut(QKeySequence::Quit);
+    connect(quit, &QAction::triggered, this, &QWidget::close);
 }
 
 QWidget* main_window::build_rail() {

@@ -4,6 +4,7 @@
 
 #include <QMainWindow>
 
+class export_window;
 class Ks_lite_delegate;
 class QButtonGroup;
 class QVBoxLayout;
@@ -17,6 +18,7 @@ class main_window final : public QMainWindow {
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    void build_menu();
     QWidget* build_rail();
     void follow_screen();
     void restore_place();
@@ -25,4 +27,5 @@ class main_window final : public QMainWindow {
     QWidget* mainView = nullptr;
     QWidget* back_pic = nullptr;
     QButtonGroup* switches_ = nullptr;
+    export_window* export_window_ = nullptr; // made when it is first asked for
 };

@@ -87,7 +87,7 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_rail_logs_hint">
         <source></source>
-        <translation>Aufzeichnungen entstehen unter Live-Daten</translation>
+        <translation>Live-Daten schreibt Aufzeichnungen; Datei &gt; Aufzeichnung exportieren… macht Tabellen daraus</translation>
     </message>
     <message id="ui_rail_expert">
         <source></source>
@@ -123,7 +123,7 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_clear_codes">
         <source></source>
-        <translation>Co&amp;des löschen…</translation>
+        <translation>C&amp;odes löschen…</translation>
     </message>
     <message id="ui_clear_codes_hint">
         <source></source>
@@ -360,6 +360,70 @@ Bitte prüfen Sie:
     <message id="ui_defaults">
         <source></source>
         <translation>Standardwe&amp;rte</translation>
+    </message>
+    <message id="ui_menu_file">
+        <source></source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message id="ui_menu_export">
+        <source></source>
+        <translation>Aufzeichnung &amp;exportieren…</translation>
+    </message>
+    <message id="ui_menu_quit">
+        <source></source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message id="ui_export_title">
+        <source></source>
+        <translation>Aufzeichnung exportieren</translation>
+    </message>
+    <message id="ui_export_logs">
+        <source></source>
+        <translation>Auf&amp;zeichnungen, neueste zuerst:</translation>
+    </message>
+    <message id="ui_export_none">
+        <source></source>
+        <translation>Es gibt noch keine Aufzeichnungen. Live-Daten schreibt eine für jede Fahrt, wenn in den Einstellungen Fahrten aufzeichnen gewählt ist.</translation>
+    </message>
+    <message id="ui_export_log">
+        <source></source>
+        <translation>Aufzeichnung</translation>
+    </message>
+    <message id="ui_export_size">
+        <source></source>
+        <translation>Größe</translation>
+    </message>
+    <message id="ui_export_written">
+        <source></source>
+        <translation>Geschrieben</translation>
+    </message>
+    <message id="ui_export_csv">
+        <source></source>
+        <translation>Tabelle für eine &amp;Tabellenkalkulation (.csv)</translation>
+    </message>
+    <message id="ui_export_txt">
+        <source></source>
+        <translation>Te&amp;xt (.txt)</translation>
+    </message>
+    <message id="ui_export_start">
+        <source></source>
+        <translation>&amp;Exportieren</translation>
+    </message>
+    <message id="ui_export_open_folder">
+        <source></source>
+        <translation>&amp;Ordner öffnen</translation>
+    </message>
+    <message id="ui_export_close">
+        <source></source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message id="ui_export_progress">
+        <source></source>
+        <translation>Fortschritt des Exports</translation>
+    </message>
+    <message id="ui_export_done">
+        <source></source>
+        <translation>%1 Zeilen exportiert nach %2</translation>
     </message>
 </context>
 </TS>

@@ -87,7 +87,7 @@ Please check:
     </message>
     <message id="ui_rail_logs_hint">
         <source></source>
-        <translation>Run logs are written by Live data</translation>
+        <translation>Live data writes run logs; File &gt; Export run log… makes tables of them</translation>
     </message>
     <message id="ui_rail_expert">
         <source></source>
@@ -360,6 +360,70 @@ Please check:
     <message id="ui_defaults">
         <source></source>
         <translation>&amp;Defaults</translation>
+    </message>
+    <message id="ui_menu_file">
+        <source></source>
+        <translation>&amp;File</translation>
+    </message>
+    <message id="ui_menu_export">
+        <source></source>
+        <translation>&amp;Export run log…</translation>
+    </message>
+    <message id="ui_menu_quit">
+        <source></source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message id="ui_export_title">
+        <source></source>
+        <translation>Export run log</translation>
+    </message>
+    <message id="ui_export_logs">
+        <source></source>
+        <translation>&amp;Run logs, newest first:</translation>
+    </message>
+    <message id="ui_export_none">
+        <source></source>
+        <translation>There are no run logs yet. Live data writes one for every run while Log runs is on in Preferences.</translation>
+    </message>
+    <message id="ui_export_log">
+        <source></source>
+        <translation>Run log</translation>
+    </message>
+    <message id="ui_export_size">
+        <source></source>
+        <translation>Size</translation>
+    </message>
+    <message id="ui_export_written">
+        <source></source>
+        <translation>Written</translation>
+    </message>
+    <message id="ui_export_csv">
+        <source></source>
+        <translation>Table for a &amp;spreadsheet (.csv)</translation>
+    </message>
+    <message id="ui_export_txt">
+        <source></source>
+        <translation>&amp;Text (.txt)</translation>
+    </message>
+    <message id="ui_export_start">
+        <source></source>
+        <translation>&amp;Export</translation>
+    </message>
+    <message id="ui_export_open_folder">
+        <source></source>
+        <translation>&amp;Open folder</translation>
+    </message>
+    <message id="ui_export_close">
+        <source></source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message id="ui_export_progress">
+        <source></source>
+        <translation>Progress of the export</translation>
+    </message>
+    <message id="ui_export_done">
+        <source></source>
+        <translation>Exported %1 rows to %2</translation>
     </message>
 </context>
 </TS>

@@ -87,7 +87,7 @@ Compruebe que:
     </message>
     <message id="ui_rail_logs_hint">
         <source></source>
-        <translation>Los registros los escribe Datos en vivo</translation>
+        <translation>Datos en vivo escribe los registros; Archivo &gt; Exportar registro… hace tablas con ellos</translation>
     </message>
     <message id="ui_rail_expert">
         <source></source>
@@ -360,6 +360,70 @@ Compruebe que:
     <message id="ui_defaults">
         <source></source>
         <translation>V&amp;alores predeterminados</translation>
+    </message>
+    <message id="ui_menu_file">
+        <source></source>
+        <translation>Arc&amp;hivo</translation>
+    </message>
+    <message id="ui_menu_export">
+        <source></source>
+        <translation>&amp;Exportar registro…</translation>
+    </message>
+    <message id="ui_menu_quit">
+        <source></source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message id="ui_export_title">
+        <source></source>
+        <translation>Exportar registro</translation>
+    </message>
+    <message id="ui_export_logs">
+        <source></source>
+        <translation>&amp;Registros, el más reciente primero:</translation>
+    </message>
+    <message id="ui_export_none">
+        <source></source>
+        <translation>Todavía no hay registros. Datos en vivo escribe uno por sesión si en las preferencias se elige registrar las sesiones.</translation>
+    </message>
+    <message id="ui_export_log">
+        <source></source>
+        <translation>Registro</translation>
+    </message>
+    <message id="ui_export_size">
+        <source></source>
+        <translation>Tamaño</translation>
+    </message>
+    <message id="ui_export_written">
+        <source></source>
+        <translation>Escrito</translation>
+    </message>
+    <message id="ui_export_csv">
+        <source></source>
+        <translation>Tabla para una &amp;hoja de cálculo (.csv)</translation>
+    </message>
+    <message id="ui_export_txt">
+        <source></source>
+        <translation>&amp;Texto (.txt)</translation>
+    </message>
+    <message id="ui_export_start">
+        <source></source>
+        <translation>&amp;Exportar</translation>
+    </message>
+    <message id="ui_export_open_folder">
+        <source></source>
+        <translation>&amp;Abrir la carpeta</translation>
+    </message>
+    <message id="ui_export_close">
+        <source></source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message id="ui_export_progress">
+        <source></source>
+        <translation>Progreso de la exportación</translation>
+    </message>
+    <message id="ui_export_done">
+        <source></source>
+        <translation>%1 filas exportadas a %2</translation>
     </message>
 </context>
 </TS>

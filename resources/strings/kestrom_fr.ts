@@ -87,7 +87,7 @@ Veuillez vérifier que :
     </message>
     <message id="ui_rail_logs_hint">
         <source></source>
-        <translation>Les journaux sont écrits par Données en direct</translation>
+        <translation>Données en direct écrit les journaux ; Fichier &gt; Exporter un journal… en fait des tableaux</translation>
     </message>
     <message id="ui_rail_expert">
         <source></source>
@@ -360,6 +360,70 @@ Veuillez vérifier que :
     <message id="ui_defaults">
         <source></source>
         <translation>Valeurs par défa&amp;ut</translation>
+    </message>
+    <message id="ui_menu_file">
+        <source></source>
+        <translation>F&amp;ichier</translation>
+    </message>
+    <message id="ui_menu_export">
+        <source></source>
+        <translation>&amp;Exporter un journal…</translation>
+    </message>
+    <message id="ui_menu_quit">
+        <source></source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message id="ui_export_title">
+        <source></source>
+        <translation>Exporter un journal</translation>
+    </message>
+    <message id="ui_export_logs">
+        <source></source>
+        <translation>&amp;Journaux, du plus récent au plus ancien :</translation>
+    </message>
+    <message id="ui_export_none">
+        <source></source>
+        <translation>Il n'y a pas encore de journal. Données en direct en écrit un par session quand l'enregistrement est choisi dans les préférences.</translation>
+    </message>
+    <message id="ui_export_log">
+        <source></source>
+        <translation>Journal</translation>
+    </message>
+    <message id="ui_export_size">
+        <source></source>
+        <translation>Taille</translation>
+    </message>
+    <message id="ui_export_written">
+        <source></source>
+        <translation>Écrit</translation>
+    </message>
+    <message id="ui_export_csv">
+        <source></source>
+        <translation>Tableau pour un &amp;tableur (.csv)</translation>
+    </message>
+    <message id="ui_export_txt">
+        <source></source>
+        <translation>Te&amp;xte (.txt)</translation>
+    </message>
+    <message id="ui_export_start">
+        <source></source>
+        <translation>&amp;Exporter</translation>
+    </message>
+    <message id="ui_export_open_folder">
+        <source></source>
+        <translation>&amp;Ouvrir le dossier</translation>
+    </message>
+    <message id="ui_export_close">
+        <source></source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message id="ui_export_progress">
+        <source></source>
+        <translation>Avancement de l'exportation</translation>
+    </message>
+    <message id="ui_export_done">
+        <source></source>
+        <translation>%1 lignes exportées vers %2</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,7 @@
 #include "tcp_adapter_server.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QJsonArray>
@@ -35,6 +36,7 @@ class shell : public testing::Test {
         QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
         surroundings.insert(QStringLiteral("HOME"), home.path());
         surroundings.insert(QStringLiteral("XDG_CONFIG_HOME"), home.path());
+        surroundings.insert(QStringLiteral("XDG_DATA_HOME"), home.path());
         surroundings.remove(QStringLiteral("DISPLAY"));
         process.setProcessEnvironment(surroundings);
         QStringList words;
@@ -179,6 +181,26 @@ TEST_F(shell, replies_are_decoded_without_an_adapter) {
         EXPECT_EQ(result.status, one.status) << result.err;
         EXPECT_EQ(result.out, one.out);
     }
+}
+
+TEST_F(shell, a_run_log_is_exported_by_name_in_the_units_of_the_settings) {
+    const QString folder = home.filePath(QStringLiteral("kestrom/loggies/"));
+    QDir().mkpath(folder);
+    const auto write = [](const QString& path, const char* text) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    };
+    const QString settings = home.filePath(QStringLiteral("metric.conf"));
+    write(folder + QStringLiteral("run.gol"), "410D64\n");
+    write(settings, "KS_metric_units=true\n");
+    const outcome told = run({"--settings", settings.toStdString(), "export", "run.gol"});
+    const QString table = folder + QStringLiteral("run.csv");
+    EXPECT_EQ(told.out, table.toStdString() + "\n") << told.err;
+    QFile file(table);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "Vehicle Speed (kph)\n100.000000\n");
+    EXPECT_EQ(run({"export", "run.gol"}).status, 1); // it is there already
 }
 
 TEST_F(shell, a_picture_of_the_filled_screen_is_saved) {

@@ -27,7 +27,8 @@ class app_harness {
         : defaults(folder.filePath(QStringLiteral("settings.conf")).toStdString()) {
         reset_global_vars();
         prepare(defaults);
-        mac_toolies::initialize({&resources, &defaults, &messages, &notifications});
+        mac_toolies::initialize({&resources, &defaults, &messages, &notifications,
+                                 folder.filePath(QStringLiteral("data")).toStdString()});
         delegate = std::make_unique<Ks_lite_delegate>(
             app_doors{loop, messages, defaults, resources, notifications,
                       [this](const std::string& host, long port) -> std::unique_ptr<stream_pair> {

@@ -39,6 +39,7 @@ FAULTS = [
     ("FIELD_PIDS_0", "\n1F Time since Engine Start", "", "31 lines instead of 32"),
     ("FIELD_PIDS_1", "\n2F ", "\n2f ", "does not start with PID 2F"),
     ("FIELD_PIDS_2", "46 Ambient", "46 " + "Very " * 9 + "Ambient", "longer than 45"),
+    ("FIELD_PIDS_2", "46 Ambient Air", "46 Ambient, Air", "a comma in a name"),
     ("readinessLabels", "Misfire\n", "", "10 lines instead of 11"),
     ("OBD_MODES", "\nReserved", "", "lines instead of 34"),
     ("OBD_FUEL_TYPE", None, "\nKerosene", "24 lines instead of 23"),

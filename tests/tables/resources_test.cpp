@@ -110,7 +110,8 @@ TEST(resources, every_language_has_every_text_with_its_placeholders) {
 
 TEST(resources, mnemonics_are_there_in_every_language_and_differ_on_each_screen) {
     const std::vector<std::string> rail{"ui_rail_codes",  "ui_rail_live",  "ui_rail_logs",
-                                        "ui_rail_expert", "ui_rail_prefs", "ui_rail_help"};
+                                        "ui_rail_expert", "ui_rail_prefs", "ui_rail_help",
+                                        "ui_menu_file"};
     const std::vector<std::vector<std::string>> screens{{"ui_read_codes", "ui_clear_codes"},
                                                         {"ui_command_label", "ui_send"},
                                                         {"ui_live_run", "ui_live_zoom",

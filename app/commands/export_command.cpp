@@ -1,0 +1,85 @@
+#include "export_command.h"
+
+#include "log_export.h"
+#include "mac_toolies.h"
+#include "text.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <filesystem>
+#include <ostream>
+
+namespace {
+
+constexpr int FAILED_STATUS = 1;
+constexpr int USAGE_STATUS = 2;
+
+struct export_request {
+    std::string log;
+    bool as_txt = false;
+    bool json = false;
+    std::string error;
+};
+
+export_request read_export_request(std::span<const std::string> arguments) {
+    export_request request;
+    for (const std::string& argument : arguments) {
+        if (argument == "--txt")
+            request.as_txt = true;
+        else if (argument == "--json")
+            request.json = true;
+        else if (argument.starts_with("--"))
+            request.error = "unknown option " + argument;
+        else if (request.log.empty())
+            request.log = argument;
+        else
+            request.error = "export takes one log";
+    }
+    if (request.error.empty() && request.log.empty())
+        request.error = "export needs a log, such as log_Nov_15_2026-0254_33.gol";
+    return request;
+}
+
+// A file that is there is meant by its path; a plain name may be that of a log in the log folder.
+std::string path_of(const std::string& log, const std::string& folder) {
+    std::error_code unknown;
+    if (contains(log, "/") || std::filesystem::exists(log, unknown))
+        return log;
+    const std::string logged = folder + "/" + log;
+    return std::filesystem::exists(logged, unknown) ? logged : log;
+}
+
+void print_json(const std::string& output, const export_outcome& outcome, std::ostream& out) {
+    const auto text = [](const std::string& value) { return QString::fromStdString(value); };
+    const bool exported = outcome.result == export_result::exported;
+    const QJsonObject object{
+        {QStringLiteral("export"), exported ? QJsonValue(text(output)) : QJsonValue()},
+        {QStringLiteral("rows"), static_cast<qint64>(exported ? outcome.rows : 0)},
+        {QStringLiteral("error"), exported ? QJsonValue() : QJsonValue(text(outcome.error))}};
+    out << QJsonDocument(object).toJson().toStdString();
+}
+
+} // namespace
+
+int run_export(std::span<const std::string> arguments, const mac_toolies& toolies,
+               std::ostream& out, std::ostream& err) {
+    const export_request request = read_export_request(arguments);
+    if (!request.error.empty()) {
+        err << "kestrom: " << request.error << "\nUsage: kestrom export LOG.gol [--txt] [--json]\n";
+        return USAGE_STATUS;
+    }
+    const std::filesystem::path log = path_of(request.log, toolies.log_folder());
+    const std::filesystem::path output =
+        log.parent_path() / log_export::output_name(log.filename().string(), request.as_txt);
+    const export_outcome outcome = export_log(toolies, log.string(), output.string());
+    if (request.json)
+        print_json(output.string(), outcome, out);
+    if (outcome.result != export_result::exported) {
+        err << "kestrom: " << outcome.error << '\n';
+        return FAILED_STATUS;
+    }
+    if (!request.json)
+        out << output.string() << '\n';
+    return 0;
+}

@@ -1,0 +1,89 @@
+#include "bundle.h"
+#include "export_command.h"
+#include "mac_toolies.h"
+#include "user_defaults.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sstream>
+
+using testing::HasSubstr;
+
+namespace {
+
+class export_command_test : public testing::Test {
+  protected:
+    export_command_test() { std::filesystem::create_directories(path("data/loggies")); }
+
+    int run(const std::vector<std::string>& arguments) {
+        out.str({});
+        err.str({});
+        return run_export(arguments, toolies_, out, err);
+    }
+    void write_log(const std::string& name) const { std::ofstream(path(name)) << "410C0FA0\n"; }
+    std::string path(const std::string& name) const {
+        return folder_.filePath(QString::fromStdString(name)).toStdString();
+    }
+
+    std::ostringstream out, err;
+
+  private:
+    QTemporaryDir folder_;
+    bundle resources_{":/kestrom", "en"};
+    user_defaults settings_{path("export.conf")};
+    mac_toolies toolies_{{&resources_, &settings_, nullptr, nullptr, path("data")}};
+};
+
+TEST_F(export_command_test, tables_stand_beside_their_log_wherever_it_is) {
+    write_log("run.gol.d.gol");
+    write_log("data/loggies/run.gol");
+    write_log("data/loggies/fuel.txt");
+    const struct {
+        std::vector<std::string> arguments;
+        std::string output;
+    } cases[] = {{{path("run.gol.d.gol")}, path("run.csv.d.csv")},
+                 {{"run.gol"}, path("data/loggies/run.csv")},
+                 {{"--txt", "run.gol"}, path("data/loggies/run.txt")},
+                 {{"fuel.txt", "--txt"}, path("data/loggies/fuel.txt.export.txt")}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(run(c.arguments), 0) << err.str();
+        EXPECT_EQ(out.str(), c.output + "\n");
+        std::ostringstream table;
+        table << std::ifstream(c.output).rdbuf();
+        EXPECT_EQ(table.str(), "Engine Speed (RPM)\n1000.000000\n");
+    }
+}
+
+TEST_F(export_command_test, refusals_have_their_reason_and_status) {
+    write_log("data/loggies/run.gol");
+    std::ofstream(path("empty.gol"));
+    EXPECT_EQ(run({"run.gol", "--json"}), 0);
+    const QByteArray text = QByteArray::fromStdString(out.str());
+    const QJsonObject told = QJsonDocument::fromJson(text).object();
+    EXPECT_EQ(told.value(QStringLiteral("export")).toString().toStdString(),
+              path("data/loggies/run.csv"));
+    EXPECT_EQ(told.value(QStringLiteral("rows")).toInt(), 1);
+    const struct {
+        std::vector<std::string> arguments;
+        int status;
+        std::string complaint;
+    } cases[] = {{{"run.gol"}, 1, "run.csv)already exists.. Bailing out"},
+                 {{"none.gol"}, 1, "none.gol: No such file"},
+                 {{path("none.gol"), "--json"}, 1, "none.gol: No such file"},
+                 {{path("empty.gol")}, 1, "empty.gol: no samples"},
+                 {{}, 2, "Usage:"},
+                 {{"a.gol", "b.gol"}, 2, "Usage:"},
+                 {{"--csv", "run.gol"}, 2, "Usage:"}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(run(c.arguments), c.status);
+        EXPECT_THAT(err.str(), HasSubstr(c.complaint));
+    }
+}
+
+} // namespace

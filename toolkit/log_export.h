@@ -1,0 +1,80 @@
+// Turns a run log into a table of translated values with a header of names and units. Owned by
+// whoever asked for the export; it keeps no window waiting: one call of step() does a few
+// milliseconds of work.
+//
+// A log holds a line for each cycle and in it one reply, as received, for each parameter, separated
+// by ",". It may hold any bytes: what is no reply becomes "nan".
+#pragma once
+
+#include "log_file.h"
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+
+class mac_toolies;
+
+enum class export_result {
+    working,
+    exported,
+    output_exists, // an existing export is never overwritten
+    unreadable,    // the log is not there, cannot be read or is no file
+    empty,         // the log has no line
+    unwritable     // the export cannot be created or written
+};
+
+class log_export {
+  public:
+    // The toolkit's resources and settings decide names, units and values; it outlives the export.
+    explicit log_export(const mac_toolies& toolies) : toolies_(toolies) {}
+    // An export that was not finished leaves no file.
+    ~log_export();
+    log_export(const log_export&) = delete;
+    log_export& operator=(const log_export&) = delete;
+
+    // What an export of that log is called: ".gol" becomes ".csv", for text ".txt"; a name without
+    // ".gol" gets ".csv" or ".export.txt" behind it.
+    static std::string output_name(std::string_view log_name, bool as_txt);
+
+    // Opens both files.
+    export_result start(const std::string& log, const std::string& output);
+    // Goes on; call it as long as the result is `working`.
+    export_result step();
+
+    std::uint64_t rows() const { return rows_; }
+    double done() const; // 0 to 1
+    // Why it failed, with the name of the file, and the line where there is one; empty otherwise.
+    const std::string& error() const { return error_; }
+
+  private:
+    export_result refuse(export_result why, std::string error);
+    export_result write_table();
+    void take_lines(bool all);
+    void add_line(std::string_view line);
+    void add_header(std::span<const std::string_view> fields);
+    void add_value(std::string_view field);
+    void close_input();
+
+    const mac_toolies& toolies_;
+    std::string log_, output_;
+    int input_ = -1;
+    log_file written_;
+    std::string unread_; // what was read and is not yet a whole line
+    std::string table_;  // lines still to be written
+    std::uint64_t size_ = 0;
+    std::uint64_t read_ = 0;
+    std::uint64_t rows_ = 0;
+    std::string error_;
+};
+
+// Both steps in one go. `progress` is told the part that is done, 0 to 1, now and then.
+struct export_outcome {
+    export_result result = export_result::working;
+    std::uint64_t rows = 0;
+    std::string error;
+};
+export_outcome export_log(const mac_toolies& toolies, const std::string& log,
+                          const std::string& output,
+                          const std::function<void(double)>& progress = {});

@@ -16,6 +16,7 @@ constexpr double FIRST_PASS_WIDTH = 1;
 // A run of so many points is drawn as the segment it is; more of them lie over each other and make
 // all they touch opaque.
 constexpr std::size_t ONE_SEGMENT = 2;
+constexpr double HARDLY_ANY = 1e-3;
 // Nothing is painted farther outside, for QPainter's sake.
 constexpr int FARTHEST = 1 << 14;
 
@@ -167,8 +168,10 @@ QVector<QLineF> lines_of(const canvas& target, const std::vector<column_run>& ru
     QVector<QLineF> lines;
     lines.reserve(static_cast<qsizetype>(runs.size()));
     const auto add = [&](int from_x, int from_y, int to_x, int to_y) {
+        // QPainter scales the width of a line without length twice.
+        const double end_x = from_x == to_x && from_y == to_y ? to_x + HARDLY_ANY : to_x;
         if (const auto line =
-                within_reach({target.flipped(from_x, from_y), target.flipped(to_x, to_y)}))
+                within_reach({target.flipped(from_x, from_y), target.flipped(end_x, to_y)}))
             lines << *line;
     };
     for (auto to = runs.begin(); to != runs.end(); ++to) {

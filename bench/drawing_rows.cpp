@@ -195,12 +195,13 @@ picture_difference difference_at(drawing_bench& bench, data kind, double scale, 
 
 std::string told(const picture_difference& found) {
     char text[160];
-    std::snprintf(
-        text, sizeof text,
-        "%.4f %% of the pixels by more than 24 of 255 (%d at all, most by %d), in x %d to "
-        "%d, y %d to %d",
-        found.strong_percent, found.any, found.most, found.where.left(), found.where.right(),
-        found.where.top(), found.where.bottom());
+    const int written = std::snprintf(
+        text, sizeof text, "%.4f %% of the pixels by more than 24 of 255 (%d at all, most by %d)",
+        found.strong_percent, found.any, found.most);
+    if (!found.where.isEmpty())
+        std::snprintf(text + written, sizeof text - static_cast<std::size_t>(written),
+                      ", in x %d to %d, y %d to %d", found.where.left(), found.where.right(),
+                      found.where.top(), found.where.bottom());
     return text;
 }
 

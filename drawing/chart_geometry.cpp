@@ -1,7 +1,6 @@
 #include "chart_geometry.h"
 
 #include "fixed_decimals.h"
-#include "saturate.h"
 
 #include <algorithm>
 #include <cmath>
@@ -16,10 +15,6 @@ constexpr int SIDE_MARGIN = 10;
 constexpr int SECOND_AXIS_GAP = 7;
 constexpr std::size_t BLANK_PADDED_WIDTH = 6;
 
-int moved_by(int value, int origin) {
-    return saturating_int(static_cast<double>(value) + origin);
-}
-
 std::string mark_text(double value, bool with_decimals) {
     std::string text = fixed_decimals(value, with_decimals ? 2 : 0);
     if (with_decimals && text.size() < BLANK_PADDED_WIDTH)
@@ -29,18 +24,20 @@ std::string mark_text(double value, bool with_decimals) {
 
 } // namespace
 
+axis_scale scale_of_x(const chart_area& area, const chart_limits& limits) {
+    return {limits.min_x, limits.max_x, area.width, area.x, area.x};
+}
+
+axis_scale scale_of_y(const chart_area& area, const chart_limits& limits) {
+    return {limits.min_y, limits.max_y, area.height, area.y, 0};
+}
+
 int scale_x(double x, const chart_area& area, const chart_limits& limits) {
-    if (limits.max_x == limits.min_x)
-        return area.x;
-    return moved_by(
-        saturating_int((x - limits.min_x) * (area.width / (limits.max_x - limits.min_x))), area.x);
+    return scale_of_x(area, limits)(x);
 }
 
 int scale_y(double y, const chart_area& area, const chart_limits& limits) {
-    if (limits.max_y == limits.min_y)
-        return 0;
-    return moved_by(
-        saturating_int((y - limits.min_y) * (area.height / (limits.max_y - limits.min_y))), area.y);
+    return scale_of_y(area, limits)(y);
 }
 
 chart_point scale_point(int x, double y, const chart_area& area, const chart_limits& limits) {

@@ -1,6 +1,8 @@
 // Where things of a chart lie, apart from painting. Image units; y grows upwards.
 #pragma once
 
+#include "saturate.h"
+
 #include <array>
 #include <cstddef>
 #include <optional>
@@ -20,12 +22,33 @@ struct chart_point {
     bool operator==(const chart_point&) const = default;
 };
 
-// A sample's place in the area, truncated to whole units. Without a span of values y is 0; without
-// a span of samples x is the area's left edge. NaN counts as 0 and what no int holds as the nearest
-// int.
-chart_point scale_point(int x, double y, const chart_area& area, const chart_limits& limits);
+// Where the numbers of one axis lie, truncated to whole units. NaN counts as 0 and what no int
+// holds as the nearest int. The division is done once for all numbers.
+class axis_scale {
+  public:
+    // `flat` is the place of every number when the axis has no span.
+    axis_scale(double min, double max, int length, int origin, int flat)
+        : min_(min), factor_(max == min ? 0 : length / (max - min)), origin_(origin),
+          flat_(max == min), flat_place_(flat) {}
+    int operator()(double number) const {
+        return flat_ ? flat_place_ : moved(saturating_int((number - min_) * factor_));
+    }
+
+  private:
+    int moved(int place) const { return saturating_int(static_cast<double>(place) + origin_); }
+
+    double min_, factor_;
+    int origin_;
+    bool flat_;
+    int flat_place_;
+};
+// Without a span of samples x is the area's left edge; without a span of values y is 0.
+axis_scale scale_of_x(const chart_area& area, const chart_limits& limits);
+axis_scale scale_of_y(const chart_area& area, const chart_limits& limits);
+
 int scale_x(double x, const chart_area& area, const chart_limits& limits);
 int scale_y(double y, const chart_area& area, const chart_limits& limits);
+chart_point scale_point(int x, double y, const chart_area& area, const chart_limits& limits);
 
 // The plot rectangle beside one value axis, or between two, and where the second axis stands.
 struct chart_layout {

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <iterator>
 #include <optional>
 
 namespace {
@@ -15,6 +16,7 @@ constexpr double FIRST_PASS_WIDTH = 1;
 // A run of so many points is drawn as the segment it is; more of them lie over each other and make
 // all they touch opaque.
 constexpr std::size_t ONE_SEGMENT = 2;
+constexpr double HARDLY_ANY = 1e-3;
 // Nothing is painted farther outside, for QPainter's sake.
 constexpr int FARTHEST = 1 << 14;
 
@@ -138,8 +140,27 @@ std::optional<QLineF> within_reach(const QLineF& line) {
     return QLineF(moved_in(line.p1()), moved_in(line.p2()));
 }
 
-bool covers(const column_run& run, int y) {
-    return run.count > 1 && y >= run.low && y <= run.high;
+using run_iterator = std::vector<column_run>::const_iterator;
+
+// Whether a run between `first` and `end` paints all from one y to the other.
+bool any_covers(run_iterator first, run_iterator end, int y, int other_y) {
+    return std::any_of(first, end, [&](const column_run& run) {
+        return run.count > ONE_SEGMENT && std::min(y, other_y) >= run.low &&
+               std::max(y, other_y) <= run.high;
+    });
+}
+
+// Whether nothing can be seen of the segment that leads to `to`, since both columns cover it.
+bool is_hidden(const std::vector<column_run>& runs, run_iterator to) {
+    const auto from = to - 1;
+    if (std::int64_t{to->x} - from->x != 1)
+        return false;
+    const auto is_in = [](int x) { return [x](const column_run& run) { return run.x == x; }; };
+    const auto from_start =
+        std::find_if_not(std::make_reverse_iterator(to), runs.rend(), is_in(from->x)).base();
+    const auto to_end = std::find_if_not(to, runs.end(), is_in(to->x));
+    return any_covers(from_start, to, from->last, to->first) &&
+           any_covers(to, to_end, from->last, to->first);
 }
 
 // The segments across columns, and those that are a column's only one.
@@ -147,22 +168,17 @@ QVector<QLineF> lines_of(const canvas& target, const std::vector<column_run>& ru
     QVector<QLineF> lines;
     lines.reserve(static_cast<qsizetype>(runs.size()));
     const auto add = [&](int from_x, int from_y, int to_x, int to_y) {
+        // QPainter scales the width of a line without length twice.
+        const double end_x = from_x == to_x && from_y == to_y ? to_x + HARDLY_ANY : to_x;
         if (const auto line =
-                within_reach({target.flipped(from_x, from_y), target.flipped(to_x, to_y)}))
+                within_reach({target.flipped(from_x, from_y), target.flipped(end_x, to_y)}))
             lines << *line;
     };
-    for (std::size_t i = 0; i < runs.size(); ++i) {
-        const column_run& to = runs[i];
-        if (to.joined && i > 0) {
-            const column_run& from = runs[i - 1];
-            const bool hidden = std::int64_t{to.x} - from.x == 1 && covers(from, from.last) &&
-                                covers(from, to.first) && covers(to, from.last) &&
-                                covers(to, to.first);
-            if (!hidden)
-                add(from.x, from.last, to.x, to.first);
-        }
-        if (to.count == ONE_SEGMENT)
-            add(to.x, to.low, to.x, to.high);
+    for (auto to = runs.begin(); to != runs.end(); ++to) {
+        if (to->joined && to != runs.begin() && !is_hidden(runs, to))
+            add((to - 1)->x, (to - 1)->last, to->x, to->first);
+        if (to->count == ONE_SEGMENT)
+            add(to->x, to->low, to->x, to->high);
     }
     return lines;
 }

@@ -8,41 +8,59 @@ namespace {
 // Extents this near are painted as one.
 constexpr int TOUCHING = 2;
 
-// So many blocks of a column are looked into for what a block's sum cannot tell: whether its runs
-// between gaps leave something open between the lowest and the highest. Enough for 100,000 rows to
-// be exact; beyond, a curve that jumps between far-off values with gaps at every jump may lack
-// some of its columns' pixels, but never shows one too many.
+// So many blocks of a column are looked into where their sum bridges what may have to stay open.
+// Enough for 100,000 rows to be exact; beyond, a curve that jumps between many far-off values with
+// gaps at every jump may lack some of its columns' pixels, but never shows one too many.
 constexpr int MOST_TAKEN_APART = 48;
 
 class run_collector {
   public:
-    run_collector(const sample_rows& samples, std::size_t parameter, const chart_area& area,
-                  const chart_limits& limits)
-        : samples_(samples), parameter_(parameter), area_(area), limits_(limits) {}
+    run_collector(const sample_rows& samples, std::size_t parameter, const axis_scale& scale)
+        : samples_(samples), parameter_(parameter), y_of(scale) {}
 
     void start_column(int x) {
         x_ = x;
         column_start_ = runs_.size();
         taken_apart_ = 0;
+        shown_ = NO_SPAN;
     }
 
-    // False when the stretch is needed in smaller ones.
-    bool add(const sample_stretch& stretch) {
-        if (stretch.inner_runs > 1 && !needs_no_look(stretch.inner) &&
+    void numbers(const number_run& run, std::size_t first_row, std::size_t end_row) {
+        fetch_open_end();
+        extend(run, first_row, end_row - 1);
+    }
+
+    void gap() {
+        fetch_open_end();
+        end_in_gap();
+    }
+
+    // False when it is needed in smaller pieces.
+    bool block(const value_span& all, const sample_stretch& stretch) {
+        // Of what is shown already only the open end can still matter, and only that of the last.
+        if (!joined_ && !all.empty() && shown_.covers(all) &&
+            (ends_as_ != nullptr || shown_.covers(open_.span()))) {
+            ends_as_ = &stretch;
+            return true;
+        }
+        fetch_open_end();
+        if (std::ranges::any_of(stretch.inner,
+                                [this](const value_span& s) { return is_open(s); }) &&
             ++taken_apart_ <= MOST_TAKEN_APART)
             return false;
         extend(stretch.head, stretch.first_row, stretch.last_row);
         if (!stretch.gapped)
             return true;
         end_in_gap();
-        if (stretch.inner_runs > 0)
-            add_inner(stretch);
+        for (const value_span& span : stretch.inner)
+            add_inner(span, stretch.inner_points);
         // No segment leads to where it begins.
         extend(stretch.tail, stretch.last_row, stretch.last_row);
         return true;
     }
 
     void end_column() {
+        fetch_open_end();
         if (open_.count == 0)
             return;
         push_open_run();
@@ -56,11 +74,10 @@ class run_collector {
         int low, high;
     };
 
-    int y_of(double value) const { return scale_y(value, area_, limits_); }
     int y_of_row(std::size_t row) const { return y_of(samples_.value(row, parameter_)); }
-    extent extent_of(const number_run& run) const {
-        const int one_end = y_of(run.lowest);
-        const int other_end = y_of(run.highest);
+    extent extent_of(double lowest, double highest) const {
+        const int one_end = y_of(lowest);
+        const int other_end = y_of(highest);
         return {std::min(one_end, other_end), std::max(one_end, other_end)};
     }
 
@@ -73,8 +90,16 @@ class run_collector {
         last_row_ = last_row;
     }
 
+    void fetch_open_end() {
+        if (ends_as_ == nullptr)
+            return;
+        open_ = ends_as_->open_end();
+        first_row_ = last_row_ = ends_as_->last_row;
+        ends_as_ = nullptr;
+    }
+
     void push_open_run() {
-        const auto [low, high] = extent_of(open_);
+        const auto [low, high] = extent_of(open_.lowest, open_.highest);
         runs_.push_back(
             {x_, y_of_row(first_row_), low, high, y_of_row(last_row_), open_.count, joined_});
         open_ = number_run();
@@ -86,28 +111,42 @@ class run_collector {
         if (open_.count > 0 && joined_)
             push_open_run();
         else if (open_.count > 1)
-            add_extent(extent_of(open_), open_.count);
+            add_span(open_.span(), open_.count);
         open_ = number_run();
         joined_ = false;
     }
 
-    void add_inner(const sample_stretch& stretch) {
-        const extent all = extent_of(stretch.inner);
-        if (stretch.inner_runs == 1 || needs_no_look(stretch.inner))
-            return add_extent(all, stretch.inner.count);
-        add_extent({all.low, all.low}, stretch.inner.count);
-        add_extent({all.high, all.high}, stretch.inner.count);
+    // Whether a gap that the span bridges would be seen in this column.
+    bool is_open(const value_span& span) const {
+        if (span.bridged == 0 || shown_.covers(span))
+            return false;
+        const auto [start, end] = extent_of(0, span.bridged);
+        if (static_cast<double>(end) - start < TOUCHING)
+            return false;
+        const auto [low, high] = extent_of(span.lowest, span.highest);
+        return std::none_of(runs_.begin() + static_cast<std::ptrdiff_t>(column_start_), runs_.end(),
+                            [low = low, high = high](const column_run& run) {
+                                return run.count > 1 && run.low <= low && run.high >= high;
+                            });
     }
 
-    // Whether nothing is open between a hull's ends, or the column already shows it all.
-    bool needs_no_look(const number_run& hull) const {
-        const auto [low, high] = extent_of(hull);
-        if (static_cast<double>(high) - low <= TOUCHING)
-            return true;
-        return std::any_of(runs_.begin() + static_cast<std::ptrdiff_t>(column_start_), runs_.end(),
-                           [low = low, high = high](const column_run& run) {
-                               return run.count > 1 && run.low <= low && run.high >= high;
-                           });
+    void add_inner(const value_span& span, std::size_t points) {
+        if (!is_open(span))
+            return add_span(span, points);
+        add_span({span.lowest, span.lowest, 0}, points);
+        add_span({span.highest, span.highest, 0}, points);
+    }
+
+    void add_span(const value_span& span, std::size_t points) {
+        if (shown_.covers(span))
+            return;
+        add_extent(extent_of(span.lowest, span.highest), points);
+        if (points <= 2) // not opaque yet
+            return;
+        if (shown_.meets(span))
+            shown_ = shown_.joined(span);
+        else if (span.highest - span.lowest > shown_.highest - shown_.lowest)
+            shown_ = span;
     }
 
     // Widens what touches it, so that a column's runs stay fewer than its pixels.
@@ -130,55 +169,64 @@ class run_collector {
 
     const sample_rows& samples_;
     std::size_t parameter_;
-    const chart_area& area_;
-    const chart_limits& limits_;
+    const axis_scale y_of;
     std::vector<column_run> runs_;
     std::size_t column_start_ = 0;
-    int taken_apart_ = 0; // blocks of this column
+    int taken_apart_ = 0;        // blocks of this column
+    value_span shown_ = NO_SPAN; // by what the column has so far; the widest span of it
     int x_ = 0;
+    const sample_stretch* ends_as_ = nullptr; // what the run being collected is yet to be had from
     number_run open_; // the run being collected; without samples there is none
     std::size_t first_row_ = 0, last_row_ = 0; // of that run
     bool joined_ = false;                      // a segment leads to it
 };
 
-// The first row at or after `row` whose column is not `x`. Columns only ever move one way.
-std::size_t end_of_column(std::size_t row, std::size_t end, int x, const chart_area& area,
-                          const chart_limits& limits) {
-    const auto in_column = [&](std::size_t r) {
-        return scale_x(static_cast<double>(r), area, limits) == x;
-    };
-    const double rows_a_column = (limits.max_x - limits.min_x) / std::max(area.width, 1);
-    const double guess = limits.min_x + (static_cast<double>(x) - area.x + 1) * rows_a_column;
-    // Rounding may put the guess a row beside the boundary.
-    if (guess > 0 && guess < static_cast<double>(end)) {
-        const auto near = static_cast<std::size_t>(guess);
-        for (const std::size_t next : {near + 1, near})
-            if (next > row && next < end && in_column(next - 1) && !in_column(next))
-                return next;
+// The rows that the columns begin with. Columns only ever move one way.
+class column_walk {
+  public:
+    column_walk(const chart_area& area, const chart_limits& limits)
+        : x_of(scale_of_x(area, limits)), left_(area.x), min_(limits.min_x),
+          rows_a_column_((limits.max_x - limits.min_x) / std::max(area.width, 1)) {}
+
+    int column_of(std::size_t row) const { return x_of(static_cast<double>(row)); }
+
+    // The first row behind `row` whose column is another one; `end` when there is none.
+    std::size_t next_column(std::size_t row, std::size_t end) const {
+        const int x = column_of(row);
+        const double guess = min_ + (static_cast<double>(x) - left_ + 1) * rows_a_column_;
+        // Rounding may put the guess a row beside the boundary.
+        if (guess > 0 && guess < static_cast<double>(end)) {
+            const auto near = static_cast<std::size_t>(guess);
+            for (const std::size_t next : {near + 1, near})
+                if (next > row && next < end && column_of(next - 1) == x && column_of(next) != x)
+                    return next;
+        }
+        std::size_t inside = row;
+        std::size_t beyond = end;
+        while (beyond - inside > 1) {
+            const std::size_t middle = inside + (beyond - inside) / 2;
+            (column_of(middle) == x ? inside : beyond) = middle;
+        }
+        return beyond;
     }
-    std::size_t inside = row;
-    std::size_t beyond = end;
-    while (beyond - inside > 1) {
-        const std::size_t middle = inside + (beyond - inside) / 2;
-        (in_column(middle) ? inside : beyond) = middle;
-    }
-    return beyond;
-}
+
+  private:
+    const axis_scale x_of;
+    double left_, min_, rows_a_column_;
+};
 
 } // namespace
 
 std::vector<column_run> reduce_curve(const sample_rows& samples, std::size_t parameter,
                                      const row_window& window, const chart_area& area,
                                      const chart_limits& limits) {
-    run_collector collector(samples, parameter, area, limits);
+    run_collector collector(samples, parameter, scale_of_y(area, limits));
+    const column_walk columns(area, limits);
     const std::size_t end = window.first + window.count;
     for (std::size_t row = window.first; row < end;) {
-        const int x = scale_x(static_cast<double>(row), area, limits);
-        const std::size_t next = end_of_column(row, end, x, area, limits);
-        collector.start_column(x);
-        samples.for_each_stretch(parameter, row, next, [&](const sample_stretch& stretch) {
-            return collector.add(stretch);
-        });
+        const std::size_t next = columns.next_column(row, end);
+        collector.start_column(columns.column_of(row));
+        samples.for_each_piece(parameter, row, next, collector);
         collector.end_column();
         row = next;
     }

@@ -8,10 +8,12 @@
 #include "user_defaults.h"
 
 #include <QFile>
+#include <QFontMetricsF>
 #include <QSvgRenderer>
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -19,6 +21,7 @@ namespace {
 constexpr QSizeF DIAL_SIZE(364, 286);
 constexpr double DIAL_EDGE = 10;
 constexpr int LABEL_PIXELS = 30;
+constexpr int SMALLEST_LABEL_PIXELS = 20;
 constexpr int NAME_PIXELS = 20;
 constexpr double LABEL_GAP = 3;
 const QColor NAME_INK = colour(0.3450980484485626, 0.9803921580314636, 0.5098039507865906, 1.0);
@@ -29,8 +32,34 @@ const QColor GLOW = colour(1, 0, 0, 0.8); // as opaque as what casts it
 constexpr double HUB_RADIUS = 22;
 constexpr double GLOW_RADIUS = 10;
 
-QFont label_font() {
-    return image_font(QStringLiteral("Arial"), LABEL_PIXELS);
+QFont label_font(int pixels = LABEL_PIXELS) {
+    return image_font(QStringLiteral("Arial"), pixels);
+}
+
+// Where the ink of the dial's labels lies, y upwards.
+std::vector<QRectF> label_boxes(const std::array<std::string, 11>& labels, const QFont& font) {
+    const QFontMetricsF metrics(font);
+    std::vector<QRectF> boxes;
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        const auto& [at, shift_half_width] = DIAL_LABEL_PLACES[i];
+        const double wide = text_width(font, qstring(labels[i]));
+        boxes.emplace_back(shift_half_width ? at.x - wide / 2 : at.x, at.y + metrics.descent(),
+                           wide, metrics.capHeight());
+    }
+    return boxes;
+}
+
+// Smaller where long labels would run into each other.
+QFont fitting_label_font(const std::array<std::string, 11>& labels) {
+    for (int pixels = LABEL_PIXELS; pixels > SMALLEST_LABEL_PIXELS; --pixels) {
+        const std::vector<QRectF> boxes = label_boxes(labels, label_font(pixels));
+        const auto touches = [](const QRectF& a, const QRectF& b) {
+            return a.adjusted(-1, -1, 1, 1).intersects(b);
+        };
+        if (std::ranges::adjacent_find(boxes, touches) == boxes.end())
+            return label_font(pixels);
+    }
+    return label_font(SMALLEST_LABEL_PIXELS);
 }
 
 // Centred on `x`; letters are condensed rather than run into what stands beside.
@@ -105,19 +134,13 @@ void myGauge::work_out_base_gauge() {
     range_scaling = range[2];
 
     canvas target(image_without_needle);
-    const QFont font = label_font();
     const std::array<std::string, 11> labels = dial_labels({range_lo, range_hi, range_scaling});
-    double left = 0;
-    double right = gaugeSize.width();
-    for (std::size_t i = 0; i < labels.size(); ++i) {
-        const auto& [at, shift_half_width] = DIAL_LABEL_PLACES[i];
-        const double wide = text_width(font, qstring(labels[i]));
-        const double x = shift_half_width ? at.x - wide / 2 : at.x;
-        target.text(x, at.y, qstring(labels[i]), font, Qt::white);
-        if (i == 0)
-            left = x + wide + LABEL_GAP;
-        right = x - LABEL_GAP;
-    }
+    const QFont font = fitting_label_font(labels);
+    const std::vector<QRectF> boxes = label_boxes(labels, font);
+    for (std::size_t i = 0; i < labels.size(); ++i)
+        target.text(boxes[i].x(), DIAL_LABEL_PLACES[i].at.y, qstring(labels[i]), font, Qt::white);
+    const double left = boxes.front().right() + LABEL_GAP;
+    const double right = boxes.back().left() - LABEL_GAP;
     const double middle = gaugeSize.width() / 2;
     paint_units(target, 2 * std::min(middle - left, right - middle));
     condensed_text(target, gaugeSize.width() - 2 * DIAL_EDGE, middle, 0,

@@ -7,7 +7,21 @@
 
 namespace {
 constexpr double NO_NUMBER = std::numeric_limits<double>::quiet_NaN();
-}
+
+struct adder {
+    sample_stretch sum;
+
+    void numbers(const number_run& run, std::size_t first_row, std::size_t end_row) {
+        sum.append(sample_stretch::of_numbers(run, first_row, end_row));
+    }
+    void gap() { sum.append(sample_stretch::of_gap()); }
+    bool block(const value_span&, const sample_stretch& stretch) {
+        sum.append(stretch);
+        return true;
+    }
+};
+
+} // namespace
 
 bool sample_rows::short_text::assign(std::string_view text) {
     if (text.size() > ROOM) {
@@ -61,11 +75,12 @@ void sample_rows::complete_last_row() {
 }
 
 void sample_rows::block_level::push(const sample_stretch& sum, unsigned bits) {
-    if (sum.head.count == std::size_t{1} << bits) {
-        blocks.push_back({sum.head.lowest, sum.head.highest});
+    if (sum.head.count == std::uint32_t{1} << bits) {
+        blocks.push_back({sum.head.lowest, sum.head.highest, ALL_NUMBERS});
         return;
     }
-    blocks.push_back({NO_NUMBER, static_cast<double>(mixed.size())});
+    const value_span all = sum.all();
+    blocks.push_back({all.lowest, all.highest, static_cast<std::uint32_t>(mixed.size())});
     if (mixed.size() == mixed.capacity()) // doubled, they would take too much room
         mixed.reserve(mixed.size() + mixed.size() / 4 + BLOCK);
     mixed.push_back(sum);
@@ -73,19 +88,16 @@ void sample_rows::block_level::push(const sample_stretch& sum, unsigned bits) {
 
 sample_stretch sample_rows::block_level::at(std::size_t place, unsigned bits) const {
     const block& b = blocks[place];
-    const number_run run{b.lowest, b.highest, std::size_t{1} << bits};
+    const number_run run{b.lowest, b.highest, std::uint32_t{1} << bits};
     return b.all_numbers() ? sample_stretch::of_numbers(run, place << bits, (place + 1) << bits)
-                           : mixed[b.mixed()];
+                           : mixed[b.mixed];
 }
 
 // Adds the block that the last row completes, and the blocks that this block completes.
 void sample_rows::sum_up(column& c) const {
-    sample_stretch sum;
-    const auto add = [&sum](const sample_stretch& next) {
-        sum.append(next);
-        return true;
-    };
-    visit_rows(c, rows_ - BLOCK, rows_, add);
+    adder total;
+    visit_rows(c, rows_ - BLOCK, rows_, total);
+    sample_stretch sum = total.sum;
     for (std::size_t n = 0;; ++n) {
         if (n == c.levels.size())
             c.levels.emplace_back();
@@ -102,12 +114,9 @@ void sample_rows::sum_up(column& c) const {
 
 sample_stretch sample_rows::summary(std::size_t parameter, std::size_t first,
                                     std::size_t end) const {
-    sample_stretch sum;
-    for_each_stretch(parameter, first, end, [&sum](const sample_stretch& next) {
-        sum.append(next);
-        return true;
-    });
-    return sum;
+    adder total;
+    for_each_piece(parameter, first, end, total);
+    return total.sum;
 }
 
 void sample_rows::file(std::size_t parameter, std::string_view reply, const translated& meaning) {

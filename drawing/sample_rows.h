@@ -56,12 +56,16 @@ class sample_rows {
     double highest(std::size_t parameter) const;
     double lowest(std::size_t parameter) const;
 
-    // Calls `visit(const sample_stretch&)` for what rows [first, end) hold, in order, in as few
-    // stretches as there are blocks for. Where `visit` answers false it gets the block in smaller
-    // stretches instead.
+    // Tells `visitor` what rows [first, end) hold, in order, in as few pieces as there are blocks
+    // for:
+    //   void numbers(const number_run&, std::size_t first_row, std::size_t end_row)
+    //   void gap()
+    //   bool block(const value_span& all, const sample_stretch&)
+    // A block of which it answers false is told in smaller pieces instead. `all` is known without
+    // fetching the stretch and empty where that draws nothing.
     template <class Visitor>
-    void for_each_stretch(std::size_t parameter, std::size_t first, std::size_t end,
-                          Visitor visit) const;
+    void for_each_piece(std::size_t parameter, std::size_t first, std::size_t end,
+                        Visitor& visitor) const;
     sample_stretch summary(std::size_t parameter, std::size_t first, std::size_t end) const;
 
     // The number that a chart's labels take a display text for: 0 for "~" and other texts without a
@@ -89,14 +93,14 @@ class sample_rows {
         std::array<short_text, CHUNK> texts;
     };
 
-    // The extremes of a block that holds nothing but numbers. For any other NaN, and the place of
-    // what it adds up to among its level's mixed ones: the smaller blocks are, the fewer of them
-    // have to be fetched.
+    // What a block's curve spans, and for one that does not hold numbers alone the place of what it
+    // adds up to among its level's mixed ones.
     struct block {
         double lowest, highest;
-        bool all_numbers() const { return !std::isnan(lowest); }
-        std::size_t mixed() const { return static_cast<std::size_t>(highest); }
+        std::uint32_t mixed;
+        bool all_numbers() const { return mixed == ALL_NUMBERS; }
     };
+    static constexpr std::uint32_t ALL_NUMBERS = 0xFFFFFFFF;
 
     // A block of level n sums up BLOCK to the power n + 1 rows.
     struct block_level {
@@ -134,11 +138,12 @@ class sample_rows {
     }
     template <class Visitor>
     static std::size_t visit_blocks(const column& c, std::size_t level, std::size_t first,
-                                    std::size_t end, Visitor& visit);
+                                    std::size_t end, Visitor& visitor);
     template <class Visitor>
-    static void visit_apart(const column& c, std::size_t level, std::size_t place, Visitor& visit);
+    static void visit_apart(const column& c, std::size_t level, std::size_t place,
+                            Visitor& visitor);
     template <class Visitor>
-    static void visit_rows(const column& c, std::size_t first, std::size_t end, Visitor& visit);
+    static void visit_rows(const column& c, std::size_t first, std::size_t end, Visitor& visitor);
 
     void complete_last_row();
     void sum_up(column& c) const;
@@ -153,16 +158,16 @@ class sample_rows {
 };
 
 template <class Visitor>
-void sample_rows::for_each_stretch(std::size_t parameter, std::size_t first, std::size_t end,
-                                   Visitor visit) const {
+void sample_rows::for_each_piece(std::size_t parameter, std::size_t first, std::size_t end,
+                                 Visitor& visitor) const {
     const column& c = columns_[parameter];
     const std::size_t summed_up = c.levels.empty() ? 0 : c.levels[0].blocks.size() * BLOCK;
     for (std::size_t row = first; row < end;) {
         if (const unsigned levels = levels_of_block(row, std::min(end, summed_up)); levels > 0) {
-            row = visit_blocks(c, levels - 1, row, end, visit);
+            row = visit_blocks(c, levels - 1, row, end, visitor);
         } else {
             const std::size_t stop = std::min(end, (row / BLOCK + 1) * BLOCK);
-            visit_rows(c, row, stop, visit);
+            visit_rows(c, row, stop, visitor);
             row = stop;
         }
     }
@@ -172,7 +177,7 @@ void sample_rows::for_each_stretch(std::size_t parameter, std::size_t first, std
 // or a mixed one.
 template <class Visitor>
 std::size_t sample_rows::visit_blocks(const column& c, std::size_t level, std::size_t first,
-                                      std::size_t end, Visitor& visit) {
+                                      std::size_t end, Visitor& visitor) {
     const unsigned bits = row_bits(level);
     const std::vector<block>& blocks = c.levels[level].blocks;
     const std::size_t start = first >> bits;
@@ -180,36 +185,38 @@ std::size_t sample_rows::visit_blocks(const column& c, std::size_t level, std::s
     std::size_t place = start;
     number_run run;
     for (; place < stop && blocks[place].all_numbers(); ++place)
-        run.add({blocks[place].lowest, blocks[place].highest, std::size_t{1} << bits});
+        run.add({blocks[place].lowest, blocks[place].highest, std::uint32_t{1} << bits});
     if (place > start) {
-        visit(sample_stretch::of_numbers(run, first, place << bits));
+        visitor.numbers(run, first, place << bits);
         return place << bits;
     }
-    if (!visit(c.levels[level].mixed[blocks[start].mixed()]))
-        visit_apart(c, level, start, visit);
+    const block& mixed = blocks[start];
+    if (!visitor.block({mixed.lowest, mixed.highest, 0}, c.levels[level].mixed[mixed.mixed]))
+        visit_apart(c, level, start, visitor);
     return (start + 1) << bits;
 }
 
 template <class Visitor>
 void sample_rows::visit_apart(const column& c, std::size_t level, std::size_t place,
-                              Visitor& visit) {
+                              Visitor& visitor) {
     const std::size_t end = (place + 1) << row_bits(level);
     std::size_t row = place << row_bits(level);
     if (level == 0)
-        return visit_rows(c, row, end, visit);
+        return visit_rows(c, row, end, visitor);
     while (row < end)
-        row = visit_blocks(c, level - 1, row, end, visit);
+        row = visit_blocks(c, level - 1, row, end, visitor);
 }
 
 // Rows of one chunk.
 template <class Visitor>
-void sample_rows::visit_rows(const column& c, std::size_t first, std::size_t end, Visitor& visit) {
+void sample_rows::visit_rows(const column& c, std::size_t first, std::size_t end,
+                             Visitor& visitor) {
     const double* const values = c.chunks[first / CHUNK]->values.data() + first % CHUNK;
     const std::size_t count = end - first;
     for (std::size_t i = 0; i < count;) {
         if (std::isnan(values[i])) {
             if (c.filled(first + i))
-                visit(sample_stretch::of_gap());
+                visitor.gap();
             ++i;
             continue;
         }
@@ -217,6 +224,6 @@ void sample_rows::visit_rows(const column& c, std::size_t first, std::size_t end
         number_run run;
         for (; i < count && !std::isnan(values[i]); ++i)
             run.add(values[i]);
-        visit(sample_stretch::of_numbers(run, first + start, first + i));
+        visitor.numbers(run, first + start, first + i);
     }
 }

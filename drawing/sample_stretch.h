@@ -4,15 +4,42 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
+
+// What a curve's segments cover of the value axis.
+struct value_span {
+    double lowest, highest;
+    double bridged; // the widest gap within that is counted in though nothing covers it
+
+    bool empty() const { return lowest > highest; }
+    bool covers(const value_span& other) const {
+        return lowest <= other.lowest && highest >= other.highest;
+    }
+    bool meets(const value_span& other) const {
+        return lowest <= other.highest && highest >= other.lowest;
+    }
+    value_span joined(const value_span& other) const {
+        if (covers(other))
+            return *this;
+        if (other.covers(*this))
+            return other;
+        return {std::min(lowest, other.lowest), std::max(highest, other.highest),
+                std::max({bridged, other.bridged, lowest - other.highest, other.lowest - highest})};
+    }
+};
+
+inline constexpr value_span NO_SPAN{std::numeric_limits<double>::infinity(),
+                                    -std::numeric_limits<double>::infinity(), 0};
 
 // Numbers that follow each other without a gap.
 struct number_run {
-    double lowest = std::numeric_limits<double>::infinity();
-    double highest = -std::numeric_limits<double>::infinity();
-    std::size_t count = 0;
+    double lowest = NO_SPAN.lowest, highest = NO_SPAN.highest;
+    std::uint32_t count = 0;
 
+    value_span span() const { return {lowest, highest, 0}; }
     void add(double value) {
         lowest = std::min(lowest, value);
         highest = std::max(highest, value);
@@ -25,21 +52,37 @@ struct number_run {
     }
 };
 
+// A few spans that do not meet, in order; where there would be more the nearest ones are bridged.
+class value_spans {
+  public:
+    value_spans() {} // without setting what is not in use
+    const value_span* begin() const { return spans_.data(); }
+    const value_span* end() const { return spans_.data() + count_; }
+    double lowest() const { return count_ > 0 ? spans_[0].lowest : NO_SPAN.lowest; }
+    double highest() const { return count_ > 0 ? spans_[count_ - 1].highest : NO_SPAN.highest; }
+    void add(value_span added);
+
+  private:
+    static constexpr std::size_t MOST = 2;
+    std::array<value_span, MOST> spans_; // the first `count_` of them
+    std::uint32_t count_ = 0;
+};
+
 struct sample_stretch {
-    number_run head;           // the numbers before the first gap: all, when there is none
-    number_run tail;           // the numbers behind the last gap
-    std::size_t first_row = 0; // of the head
-    std::size_t last_row = 0;  // of the tail, or of the head when there is no gap
+    number_run head;             // the numbers before the first gap: all, when there is none
+    number_run tail;             // the numbers behind the last gap
+    std::uint32_t first_row = 0; // of the head
+    std::uint32_t last_row = 0;  // of the tail, or of the head when there is no gap
+    // What the runs between gaps cover; a number alone between two gaps shows nothing.
+    value_spans inner;
+    std::uint32_t inner_points = 0;
     bool gapped = false;
-    // Between gaps; a number alone between two gaps shows nothing and is left out.
-    std::size_t inner_runs = 0;
-    number_run inner; // all of them together
 
     static sample_stretch of_numbers(const number_run& run, std::size_t row, std::size_t end_row) {
         sample_stretch numbers;
         numbers.head = run;
-        numbers.first_row = row;
-        numbers.last_row = end_row - 1;
+        numbers.first_row = static_cast<std::uint32_t>(row);
+        numbers.last_row = static_cast<std::uint32_t>(end_row - 1);
         return numbers;
     }
     static sample_stretch of_gap() {
@@ -48,6 +91,11 @@ struct sample_stretch {
         return gap;
     }
 
+    // From the lowest to the highest of all that is not alone between two gaps.
+    value_span all() const {
+        return {std::min({head.lowest, tail.lowest, inner.lowest()}),
+                std::max({head.highest, tail.highest, inner.highest()}), 0};
+    }
     const number_run& open_end() const { return gapped ? tail : head; }
 
     void append(const sample_stretch& next) {
@@ -59,16 +107,14 @@ struct sample_stretch {
             last_row = next.last_row;
         if (!next.gapped)
             return;
-        if (gapped && open.count > 1)
-            add_inner(1, open);
-        add_inner(next.inner_runs, next.inner);
+        if (gapped && open.count > 1) {
+            inner.add(open.span());
+            inner_points += open.count;
+        }
+        for (const value_span& span : next.inner)
+            inner.add(span);
+        inner_points += next.inner_points;
         tail = next.tail;
         gapped = true;
-    }
-
-  private:
-    void add_inner(std::size_t runs, const number_run& together) {
-        inner_runs += runs;
-        inner.add(together);
     }
 };

@@ -155,6 +155,15 @@ TEST(curve, a_segment_next_to_a_gap_is_left_out_and_an_unfilled_place_bridged) {
     EXPECT_EQ(runs[2].x, 40);
 }
 
+TEST(curve, columns_run_leftwards_where_the_plot_has_less_than_no_width) {
+    const sample_rows rows = samples_of(shape::noisy, 1000);
+    const auto runs = reduce_curve(rows, 0, {0, 1000}, {50, 0, -10, 100}, {0, 1000, 0, 100});
+    ASSERT_EQ(runs.size(), 10U);
+    EXPECT_EQ(runs.front().x, 50);
+    EXPECT_EQ(runs.back().x, 41);
+    EXPECT_EQ(runs.back().count, 100U);
+}
+
 TEST(curve, rubbish_numbers_and_areas_are_harmless) {
     const double huge = std::numeric_limits<double>::max();
     sample_rows rows(1);

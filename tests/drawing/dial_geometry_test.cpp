@@ -9,6 +9,7 @@ using testing::ElementsAre;
 
 namespace {
 
+constexpr double INF = std::numeric_limits<double>::infinity();
 constexpr double NAN_VALUE = std::numeric_limits<double>::quiet_NaN();
 
 double degrees(double radians) {
@@ -67,11 +68,12 @@ TEST(dial_geometry, needle_turns_with_the_value) {
     const struct {
         double value, low, high, degrees;
     } cases[] = {
-        {0, 0, 10, 220},      {10, 0, 10, -40},        {5, 0, 10, 90},
-        {-40, -40, 260, 220}, {260, -40, 260, -40},    {0, -100, 100, 90},
-        {15, 0, 10, -170},    {-1, 0, 10, 246}, // past the ends
+        {0, 0, 10, 220},       {10, 0, 10, -40},        {5, 0, 10, 90},
+        {-40, -40, 260, 220},  {260, -40, 260, -40},    {0, -100, 100, 90},
+        {15, 0, 10, -170},     {-1, 0, 10, 246}, // past the ends
         {5, 5, 15, 90}, // a range from above 0 is not shifted by its low end
-        {3, 7, 7, 220},       {NAN_VALUE, 0, 10, 220},
+        {3, 7, 7, 220},        {NAN_VALUE, 0, 10, 220}, {INF, 0, 10, 220},
+        {-INF, -40, 260, 220},
     };
     for (const auto& c : cases)
         EXPECT_NEAR(degrees(needle_angle(c.value, NEEDLE_START, NEEDLE_END, c.low, c.high)),
@@ -91,6 +93,7 @@ TEST(dial_geometry, needle_is_a_triangle_about_its_centre) {
         EXPECT_LE(std::abs(lost.tip.x), 141);
         EXPECT_LE(std::abs(lost.tip.y), 141);
     }
+    EXPECT_NEAR(needle_shape({0, 0}, INF, 20, 140).tip.x, 140 * std::cos(NEEDLE_START), 1e-9);
 }
 
 } // namespace

@@ -192,6 +192,28 @@ TEST_F(chart_test, what_did_not_change_is_drawn_from_the_kept_picture) {
     EXPECT_NE(chart.image(), first);
 }
 
+TEST_F(chart_test, the_last_value_is_that_of_the_last_place_filled) {
+    const struct {
+        std::vector<const char*> replies; // none: unfilled
+        double expected;
+    } cases[] = {{{"410C0FA0", "410C1F40"}, 2000}, {{"410C0FA0", nullptr}, 1000},
+                 {{"410C0FA0", "NO DATA"}, NAN},   {{"410C0FA0", "NO DATA", nullptr}, NAN},
+                 {{nullptr, nullptr}, NAN},        {{"NO DATA", "410C0FA0", nullptr}, 1000}};
+    for (const auto& c : cases) {
+        sample_rows rows(3);
+        for (const char* reply : c.replies) {
+            rows.append_fresh_row();
+            if (reply != nullptr)
+                file(rows, 0, reply);
+        }
+        draw(rows);
+        if (std::isnan(c.expected))
+            EXPECT_TRUE(std::isnan(chart.last_value())) << c.replies[1];
+        else
+            EXPECT_EQ(chart.last_value(), c.expected);
+    }
+}
+
 TEST_F(chart_test, indices_and_rows_that_do_not_exist_are_harmless) {
     sample_rows rows(3);
     fill(rows, 5);
@@ -242,18 +264,73 @@ class realtime_test : public chart_test {
         chart.update_cur_sample({{"04", "50.00  %", "60", "40"}});
         chart.draw_grid(chart.work_out_labels_4_realtime(), "");
     }
-    QColor at(double share_x, double y_share) {
-        const chart_area p = chart.plot_area();
-        return pixel_at(chart.image(), p.x + share_x * p.width, p.y + y_share * p.height);
+    void add(const char* text) {
+        chart.val_points().push_back({text});
+        chart.plot_this_point_realtime(0);
     }
+    // Once samples exist the axis runs from 30 (40 moved down) to 70 (60 moved up).
+    void start_sampling(const char* first = "50.00  %") {
+        chart.val_points().clear();
+        add("75");
+        chart.val_points().clear();
+        chart.replot_realtime_chart(0);
+        add(first);
+    }
+    double x_of(std::size_t sample) {
+        return chart.plot_area().x +
+               std::trunc(static_cast<double>(sample) * chart.plot_area().width / 20);
+    }
+    double y_of(double value) {
+        return chart.plot_area().y + std::trunc((value - 30) * chart.plot_area().height / 40);
+    }
+    const QColor INK{223, 1, 1};
 };
 
-TEST_F(realtime_test, points_extend_the_curve_and_early_ones_are_marked) {
-    chart.plot_this_point_realtime(0); // nothing there yet
-    add(75); // the limits before sampling are 30 (25 moved up) and 60 (75 moved down), turned round
-    const QImage before = chart.image();
-    add(50);
-    EXPECT_NE(chart.image(), before);
+TEST_F(realtime_test, values_up_to_the_limits_extend_and_those_beyond_redraw_the_curve) {
+    start_sampling();
+    const struct {
+        const char* text;
+        bool redraws;
+    } cases[] = {{"50.00  %", false}, {"60.00  %", false}, {"40.00  %", false}, {"60.01  %", true},
+                 {"39.99  %", true},  {"~", true},         {"55.50  %", false}};
+    for (const auto& c : cases) {
+        QImage image = chart.image();
+        image.setPixelColor(410, 225, Qt::white);
+        chart.setImage(image);
+        add(c.text);
+        EXPECT_EQ(pixel_at(chart.image(), 410, 4) != QColor(Qt::white), c.redraws) << c.text;
+        if (c.redraws)
+            continue;
+        // A square of 4 on the newest point: its corners are off any line.
+        const double x = x_of(chart.val_points().size() - 1);
+        const double y = y_of(leading_number(c.text));
+        for (const double dx : {-1.5, 1.5})
+            for (const double dy : {-1.5, 1.5})
+                EXPECT_EQ(pixel_at(chart.image(), x + dx, y + dy), INK) << c.text;
+    }
+}
+
+TEST_F(realtime_test, no_segment_leads_on_from_an_unusable_value) {
+    const struct {
+        const char* name;
+        std::vector<const char*> texts;
+        bool joined; // the last point to the last number before it
+    } cases[] = {{"from a number", {"50", "45"}, true},
+                 {"from a gap at the start", {"~", "45"}, false},
+                 {"after it", {"~", "50", "45"}, true},
+                 {"from a gap", {"50", "50", "~", "45"}, false},
+                 {"behind a gap", {"50", "~", "50", "45"}, true}};
+    for (const auto& c : cases) {
+        start_sampling(c.texts[0]);
+        for (std::size_t i = 1; i < c.texts.size(); ++i)
+            add(c.texts[i]);
+        const std::size_t last = c.texts.size() - 1;
+        const std::size_t from = c.texts[last - 1] == std::string("~") && last > 1 ? 1 : last - 1;
+        const double y = c.texts[from] == std::string("~") ? y_of(30) : y_of(50);
+        const QColor on_the_way =
+            pixel_at(chart.image(), 0.7 * x_of(last) + 0.3 * x_of(from), 0.7 * y_of(45) + 0.3 * y);
+        EXPECT_EQ(on_the_way.red() > 120, c.joined) << c.name;
+    }
 }
 
 TEST_F(realtime_test, history_is_redrawn_every_20th_and_thinned_at_200) {

@@ -21,7 +21,8 @@ std::optional<QPoint> point_of(const sample_rows& samples, std::size_t row, std:
 void paint_segment(canvas& target, QPoint p, QPoint q, const curve_style& style) {
     QPainter& painter = target.painter();
     const QPointF from = target.flipped(p.x(), p.y());
-    const QPointF to = target.flipped(q.x(), q.y());
+    // QPainter scales the width of a line without length twice.
+    const QPointF to = target.flipped(p == q ? q.x() + 1e-3 : q.x(), q.y());
     painter.setPen(QPen(style.ink, 1));
     painter.drawLine(from, to);
     QColor shade = style.ink;

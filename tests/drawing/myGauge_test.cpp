@@ -20,6 +20,16 @@ class gauge_test : public drawing_test {
     myGauge gauge{resources, decoder};
 };
 
+TEST_F(gauge_test, a_dial_is_named_by_the_last_part_of_a_path) {
+    gauge.initGauge("0C");
+    const QImage plain = gauge.image();
+    for (const char* path : {"dials/0C", "0C/", "/dials/0C//"}) {
+        gauge.initGauge("04");
+        gauge.initGauge(path);
+        EXPECT_EQ(gauge.image(), plain) << path;
+    }
+}
+
 TEST_F(gauge_test, ranges_follow_the_units) {
     EXPECT_EQ(gauge.gauge_range(13), (std::array<int, 3>{0, 200, 1}));
     use_metric(true);

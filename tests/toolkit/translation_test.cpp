@@ -1,8 +1,10 @@
 #include "comma_locale.h"
 #include "decode_fixture.h"
+#include "fixed_decimals.h"
 #include "globalVars.h"
 
 #include <cmath>
+#include <limits>
 #include <random>
 
 namespace {
@@ -177,6 +179,22 @@ TEST_F(translation_test, value_is_the_number_the_text_begins_with) {
         EXPECT_EQ(decoder.get_OBDVal(c.reply), c.value) << c.reply;
     EXPECT_TRUE(std::isnan(decoder.get_OBDVal("41 1C 03"))) << "a table text with a tilde";
     EXPECT_TRUE(std::isnan(decoder.get_OBDVal("41 1C 04"))) << "an empty table text";
+}
+
+TEST(fixed_decimals, a_leading_number_that_no_double_holds_is_the_largest_one) {
+    constexpr double MOST = std::numeric_limits<double>::max();
+    const std::string nines(400, '9');
+    const struct {
+        std::string text;
+        double value;
+    } cases[] = {{nines, MOST},
+                 {"-" + nines + ".5 V", -MOST},
+                 {"0." + std::string(400, '0') + "1", 0},
+                 {std::string(400, '0') + "7", 7},
+                 {"+1.5 x", 1.5},
+                 {"1e999", 1}};
+    for (const auto& c : cases)
+        EXPECT_EQ(leading_number(c.text), c.value) << c.text;
 }
 
 TEST_F(translation_test, missing_table_is_not_available) {

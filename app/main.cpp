@@ -54,15 +54,14 @@ std::unique_ptr<tcp_adapter_server> start_demo_car(const std::string& name) {
     return server;
 }
 
-// The store to use. A demo or a named adapter works on a copy in `scratch`, so that nothing of the
-// user's changes.
+// The store to use. A demo, a named adapter and a live run with parameters of its own work
+// on a copy in `scratch`, so that nothing of the user's changes.
 std::string settings_path(const cli_request& asked, const QTemporaryDir& scratch) {
     const std::string path = asked.settings.value_or(user_defaults::default_path());
-    if (!asked.demo && !asked.adapter_host)
+    if (!asked.demo && !asked.adapter_host && asked.command != "live")
         return path;
     const QString copy = scratch.filePath(QStringLiteral("kestrom.conf"));
-    if (asked.settings)
-        QFile::copy(QString::fromStdString(path), copy);
+    QFile::copy(QString::fromStdString(path), copy); // a file that is not there yet is none here
     return copy.toStdString();
 }
 
@@ -72,6 +71,13 @@ void use_adapter(user_defaults& store, const std::string& host, const std::strin
     store.set_string(WIFI_PORT_KEY, port);
     if (!store.contains(PIDS_ARRAY_KEY))
         store.set_string_array(PIDS_ARRAY_KEY, {"0D", "11", "0C", "05"});
+}
+
+// What the command line asks of a live run, as if the user had chosen it in the preferences.
+void use_run(user_defaults& store, const cli_request& asked) {
+    store.set_boolean(LOG_RUNS_KEY, asked.log);
+    if (!asked.pids.empty())
+        store.set_string_array(PIDS_ARRAY_KEY, asked.pids);
 }
 
 void open_screen(Ks_lite_delegate& delegate, const std::string& name) {
@@ -123,6 +129,8 @@ int run(QApplication& application, const cli_request& asked) {
     } else if (asked.adapter_host) {
         use_adapter(defaults, *asked.adapter_host, asked.adapter_port);
     }
+    if (asked.command == "live")
+        use_run(defaults, asked);
 
     qt_run_loop loop;
     const bundle resources;

@@ -1,6 +1,8 @@
 #include "bundle.h"
 #include "canvas.h"
+#include "curve_reduction.h"
 #include "drawChartyItem.h"
+#include "fixed_decimals.h"
 #include "literal_curve.h"
 #include "myGauge.h"
 #include "ratio_table.h"
@@ -21,11 +23,29 @@ constexpr QSizeF LARGE(420, 230);
 constexpr QSizeF THUMBNAIL(200, 200);
 const std::vector<std::string> PIDS{"0C", "0D", "05", "04"};
 
-// A drive of four parameters; smooth or as noisy as a parameter can be.
-std::vector<std::string> replies_of(std::size_t row, std::size_t rows, bool noisy,
+enum class data { smooth, noisy, half_gapped };
+constexpr data ALL_DATA[] = {data::smooth, data::noisy, data::half_gapped};
+
+std::string name_of(data kind) {
+    switch (kind) {
+    case data::smooth:
+        return "smooth";
+    case data::noisy:
+        return "noisy";
+    default:
+        return "half gapped";
+    }
+}
+
+// A drive of four parameters: smooth, as noisy as a parameter can be, or that with every other
+// reply unusable.
+std::vector<std::string> replies_of(std::size_t row, std::size_t rows, data kind,
                                     std::mt19937& random) {
+    const bool noisy = kind != data::smooth;
     const double along = 20 * static_cast<double>(row) / static_cast<double>(rows);
     const auto reply = [&](const char* format, double smooth, unsigned most) {
+        if (kind == data::half_gapped && random() % 2 == 0)
+            return std::string("NODATA");
         const unsigned value = noisy ? random() % (most + 1) : static_cast<unsigned>(smooth);
         char text[16];
         std::snprintf(text, sizeof text, format, value);
@@ -42,20 +62,20 @@ struct drawing_bench {
     user_defaults settings{"/nonexistent/kestrom-bench.conf"};
     toolkit_doors doors{&resources, &settings, nullptr, nullptr};
     mac_toolies decoder{doors};
-    std::map<std::pair<std::size_t, bool>, sample_rows> runs;
+    std::map<std::pair<std::size_t, data>, sample_rows> runs;
 
     // The same rows for every benchmark that asks for so many.
-    const sample_rows& rows(std::size_t count, bool noisy) {
-        const auto [found, made] = runs.try_emplace({count, noisy}, PIDS.size());
+    const sample_rows& rows(std::size_t count, data kind) {
+        const auto [found, made] = runs.try_emplace({count, kind}, PIDS.size());
         if (made)
-            fill(found->second, count, noisy);
+            fill(found->second, count, kind);
         return found->second;
     }
-    void fill(sample_rows& rows, std::size_t count, bool noisy) const {
+    void fill(sample_rows& rows, std::size_t count, data kind) const {
         std::mt19937 random(1);
         for (std::size_t row = 0; row < count; ++row) {
             rows.append_fresh_row();
-            const std::vector<std::string> replies = replies_of(row, count, noisy, random);
+            const std::vector<std::string> replies = replies_of(row, count, kind, random);
             for (std::size_t p = 0; p < replies.size(); ++p)
                 rows.file(p, replies[p], decoder.translate_once(replies[p]));
         }
@@ -81,9 +101,22 @@ sample_set values_of(int frame) {
             {"04", number.substr(2) + ".10  %", "0.0", "0.0"}};
 }
 
-void draw(drawChartyItem& chart, const sample_rows& rows, int frame) {
+// Other limits than in the frames before, so that no kept grid fits.
+void change_limits(label_records& labels, int frame) {
+    constexpr int LIMITS = 6;
+    for (label_record& label : labels) {
+        const double decade = std::pow(10, std::floor(std::log10(leading_number(label.upper))));
+        label.upper = fixed_decimals((3 + frame % LIMITS) * decade, 6);
+    }
+}
+
+enum class limits { stay, change };
+
+void draw(drawChartyItem& chart, const sample_rows& rows, int frame, limits axes = limits::stay) {
     chart.update_cur_sample(values_of(frame));
-    const label_records labels = chart.work_out_labels(rows);
+    label_records labels = chart.work_out_labels(rows);
+    if (axes == limits::change)
+        change_limits(labels, frame);
     chart.draw_grid(labels, "All sampling points");
     chart.plot_array_list(rows, labels);
     benchmark::DoNotOptimize(chart.image().constBits());
@@ -101,7 +134,7 @@ timed_work filing(const shared_bench& bench, std::size_t rows) {
     const auto s = std::make_shared<state>();
     return {[bench, s, rows] {
         if (s->samples.empty()) {
-            bench->fill(s->samples, rows, true);
+            bench->fill(s->samples, rows, data::noisy);
             s->chart = make_chart(*bench, false, 0);
         }
         const std::size_t parameter = s->next++ % PIDS.size();
@@ -114,28 +147,76 @@ timed_work filing(const shared_bench& bench, std::size_t rows) {
     }};
 }
 
-timed_work large_chart(const shared_bench& bench, std::size_t rows, bool noisy, double scale = 1) {
+timed_work large_chart(const shared_bench& bench, std::size_t rows, data kind, double scale = 1,
+                       limits axes = limits::stay) {
     const std::shared_ptr<drawChartyItem> chart = make_chart(*bench, false, 0, scale);
-    return {[bench, chart, rows, noisy, frame = 0]() mutable {
-        draw(*chart, bench->rows(rows, noisy), ++frame);
+    return {[bench, chart, rows, kind, axes, frame = 0]() mutable {
+        draw(*chart, bench->rows(rows, kind), ++frame, axes);
     }};
 }
 
-timed_work literal_chart(const shared_bench& bench, std::size_t rows, bool noisy) {
+// The chart's first curve over its grid: every segment by itself, or reduced.
+enum class way { literal, reduced };
+
+QImage curve_picture(drawing_bench& bench, drawChartyItem& chart, std::size_t rows, data kind,
+                     way how, bool antialiased = true) {
+    const sample_rows& samples = bench.rows(rows, kind);
+    const label_records labels = chart.work_out_labels(samples);
+    chart.draw_grid(labels, "All sampling points");
+    QImage image = chart.image();
+    canvas target(image);
+    const row_window window{0, rows};
+    const chart_area plot = chart.plot_area();
+    const chart_limits axes{0, static_cast<double>(rows), drawChartyItem::lower_limit(labels[0]),
+                            drawChartyItem::upper_limit(labels[0])};
+    const curve_style style{drawChartyItem::setMyColor(0), 1.8, plot.y, antialiased};
+    if (how == way::literal)
+        paint_every_segment(target, samples, 0, window, plot, axes, style);
+    else
+        paint_curve(target, reduce_curve(samples, 0, window, plot, axes), style);
+    return image;
+}
+
+timed_work literal_chart(const shared_bench& bench, std::size_t rows, data kind) {
     const std::shared_ptr<drawChartyItem> chart = make_chart(*bench, false, 0);
-    return {[bench, chart, rows, noisy] {
-        const sample_rows& samples = bench->rows(rows, noisy);
-        const label_records labels = chart->work_out_labels(samples);
-        chart->draw_grid(labels, "All sampling points");
-        QImage image = chart->image();
-        canvas target(image);
-        const chart_limits limits{0, static_cast<double>(rows),
-                                  drawChartyItem::lower_limit(labels[0]),
-                                  drawChartyItem::upper_limit(labels[0])};
-        paint_every_segment(target, samples, 0, {0, rows}, chart->plot_area(), limits,
-                            {drawChartyItem::setMyColor(0), 1.8, chart->plot_area().y});
-        benchmark::DoNotOptimize(image.constBits());
+    return {[bench, chart, rows, kind] {
+        benchmark::DoNotOptimize(
+            curve_picture(*bench, *chart, rows, kind, way::literal).constBits());
     }};
+}
+
+// How the reduced curve of 100,000 rows differs from every segment drawn.
+picture_difference difference_at(drawing_bench& bench, data kind, double scale, bool antialiased) {
+    constexpr std::size_t ROWS = 100000;
+    const auto chart = make_chart(bench, false, 0, scale);
+    return compare_pictures(curve_picture(bench, *chart, ROWS, kind, way::literal, antialiased),
+                            curve_picture(bench, *chart, ROWS, kind, way::reduced, antialiased));
+}
+
+std::string told(const picture_difference& found) {
+    char text[160];
+    std::snprintf(
+        text, sizeof text,
+        "%.4f %% of the pixels by more than 24 of 255 (%d at all, most by %d), in x %d to "
+        "%d, y %d to %d",
+        found.strong_percent, found.any, found.most, found.where.left(), found.where.right(),
+        found.where.top(), found.where.bottom());
+    return text;
+}
+
+void add_picture_rows(ratio_table& table, const shared_bench& bench) {
+    for (const data kind : ALL_DATA) {
+        const std::string rows = ", 100,000 rows, " + name_of(kind);
+        table.add_figure(
+            "same picture, % of pixels differ" + rows,
+            [bench, kind] { return difference_at(*bench, kind, 1, true).strong_percent; },
+            reach::at_most, 0.1);
+        table.add_figure(
+            "same picture, not smoothed, pixels" + rows,
+            [bench, kind] { return difference_at(*bench, kind, 1, false).any; }, reach::at_most, 0);
+        table.add_remark("at scale 2 differ" + rows,
+                         [bench, kind] { return told(difference_at(*bench, kind, 2, true)); });
+    }
 }
 
 // Four thumbnails, the chart and both dials, as a reply to every parameter changes them.
@@ -157,13 +238,13 @@ timed_work whole_frame(const shared_bench& bench, std::size_t rows, double scale
     return {[bench, s, rows] {
         ++s->frame;
         for (const auto& chart : s->charts)
-            draw(*chart, bench->rows(rows, false), s->frame);
+            draw(*chart, bench->rows(rows, data::smooth), s->frame, limits::change);
         for (const auto& dial : s->dials)
             dial->draw_cur_needle_value(s->frame % 200);
     }};
 }
 
-double bytes_a_sample(const drawing_bench& bench) {
+double bytes_a_sample(const drawing_bench& bench, data kind) {
     const auto in_use = [] {
         const struct mallinfo2 info = mallinfo2();
         return info.uordblks + info.hblkhd;
@@ -171,7 +252,7 @@ double bytes_a_sample(const drawing_bench& bench) {
     constexpr std::size_t ROWS = 250000;
     const std::size_t before = in_use();
     sample_rows rows(PIDS.size());
-    bench.fill(rows, ROWS, true);
+    bench.fill(rows, ROWS, kind);
     return static_cast<double>(in_use() - before) / static_cast<double>(ROWS * PIDS.size());
 }
 
@@ -181,20 +262,23 @@ void add_drawing_rows(ratio_table& table) {
     const auto bench = std::make_shared<drawing_bench>();
     table.add_ratio("filing a reply and labels, 1,000,000 rows", filing(bench, 1000000),
                     "the same, 1,000 rows", filing(bench, 1000), reach::at_most, 1.2);
-    for (const bool noisy : {false, true}) {
-        const std::string data = noisy ? ", noisy" : ", smooth";
-        table.add_ratio("large chart of 1,000,000 rows" + data, large_chart(bench, 1000000, noisy),
-                        "the same of 10,000 rows", large_chart(bench, 10000, noisy), reach::at_most,
+    for (const data kind : ALL_DATA) {
+        const std::string name = ", " + name_of(kind);
+        table.add_ratio("large chart of 1,000,000 rows" + name, large_chart(bench, 1000000, kind),
+                        "the same of 10,000 rows", large_chart(bench, 10000, kind), reach::at_most,
                         1.2);
-        table.add_ratio("large chart of 100,000 rows" + data, large_chart(bench, 100000, noisy),
-                        "every segment drawn", literal_chart(bench, 100000, noisy), reach::at_least,
+        table.add_ratio("large chart of 100,000 rows" + name, large_chart(bench, 100000, kind),
+                        "every segment drawn", literal_chart(bench, 100000, kind), reach::at_least,
                         100, 3);
     }
+    add_picture_rows(table, bench);
     for (const double scale : {1.0, 2.0})
         table.add_ratio("whole frame, scale " + std::to_string(static_cast<int>(scale)),
                         whole_frame(bench, 100000, scale), "the large chart once",
-                        large_chart(bench, 100000, false, scale), reach::at_most, 5);
-    table.add_figure(
-        "bytes a sample in sample_rows", [bench] { return bytes_a_sample(*bench); }, reach::at_most,
-        48);
+                        large_chart(bench, 100000, data::smooth, scale, limits::change),
+                        reach::at_most, 5);
+    for (const data kind : {data::noisy, data::half_gapped})
+        table.add_figure(
+            "bytes a sample in sample_rows, " + name_of(kind),
+            [bench, kind] { return bytes_a_sample(*bench, kind); }, reach::at_most, 48);
 }

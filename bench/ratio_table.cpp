@@ -41,7 +41,7 @@ measured summary_of(std::vector<double> values) {
 
 ratio_table::row& ratio_table::new_row(const std::string& what, const std::string& against,
                                        reach kind, double target) {
-    rows_.push_back(std::make_unique<row>(row{what, against, kind, target, false, {}}));
+    rows_.push_back(std::make_unique<row>(row{what, against, kind, target, false, {}, {}}));
     return *rows_.back();
 }
 
@@ -84,6 +84,16 @@ void ratio_table::add_figure(const std::string& what, std::function<double()> me
     benchmark::RegisterBenchmark(what.c_str(), take)->Iterations(1);
 }
 
+void ratio_table::add_remark(const std::string& what, std::function<std::string()> tell) {
+    row& entry = new_row(what, "", reach::none, 0);
+    const auto take = [&entry, tell = std::move(tell)](benchmark::State& state) {
+        for ([[maybe_unused]] const auto once : state)
+            entry.remark = tell();
+        entry.ran = true;
+    };
+    benchmark::RegisterBenchmark(what.c_str(), take)->Iterations(1);
+}
+
 bool ratio_table::print() const {
     std::printf("\n%-52s %-40s %9s %19s  %s\n", "what", "yardstick", "measured", "lowest - highest",
                 "reach");
@@ -91,6 +101,10 @@ bool ratio_table::print() const {
     for (const auto& entry : rows_) {
         if (!entry->ran)
             continue;
+        if (entry->kind == reach::none) {
+            std::printf("%-52s %s\n", entry->what.c_str(), entry->remark.c_str());
+            continue;
+        }
         const auto& [middle, lowest, highest] = entry->result;
         const bool at_most = entry->kind == reach::at_most;
         const bool met = at_most ? middle <= entry->target : middle >= entry->target;

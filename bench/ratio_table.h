@@ -16,7 +16,7 @@ struct timed_work {
     std::size_t operations = 1;
 };
 
-enum class reach { at_most, at_least };
+enum class reach { at_most, at_least, none };
 
 // The median over all turns, and the lowest and the highest of them.
 struct measured {
@@ -35,6 +35,9 @@ class ratio_table {
     void add_figure(const std::string& what, std::function<double()> measure, reach kind,
                     double target);
 
+    // What is told without a target.
+    void add_remark(const std::string& what, std::function<std::string()> tell);
+
     // Prints what ran and returns whether every target was met.
     bool print() const;
 
@@ -46,6 +49,7 @@ class ratio_table {
         double target;
         bool ran = false;
         measured result;
+        std::string remark;
     };
     row& new_row(const std::string& what, const std::string& against, reach kind, double target);
 

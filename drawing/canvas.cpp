@@ -6,14 +6,29 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <numbers>
 
-QImage empty_image(QSizeF size, double scale) {
+QImage raw_image(QSizeF size, double scale) {
     const QSize pixels = (size * scale).toSize().expandedTo(QSize(1, 1));
     QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(scale);
+    return image;
+}
+
+QImage empty_image(QSizeF size, double scale) {
+    QImage image = raw_image(size, scale);
     image.fill(Qt::transparent);
     return image;
+}
+
+void copy_picture(const QImage& from, QImage& to) {
+    const bool fits = to.size() == from.size() && to.format() == from.format() &&
+                      to.devicePixelRatio() == from.devicePixelRatio() && to.isDetached();
+    if (fits)
+        std::memcpy(to.bits(), from.constBits(), static_cast<std::size_t>(from.sizeInBytes()));
+    else
+        to = from.copy();
 }
 
 QFont image_font(const QString& family, int pixels, bool bold) {

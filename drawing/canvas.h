@@ -13,6 +13,10 @@
 
 // An empty image of `size` image units at `scale` pixels a unit.
 QImage empty_image(QSizeF size, double scale);
+// The same of undefined pixels, for who sets them all.
+QImage raw_image(QSizeF size, double scale);
+// Makes `to` a picture of its own that shows what `from` shows, in the memory it has if that fits.
+void copy_picture(const QImage& from, QImage& to);
 
 // A font of `pixels` image units, sharp at every scale.
 QFont image_font(const QString& family, int pixels, bool bold = false);

@@ -1,15 +1,22 @@
 #include "curve_painter.h"
 
 #include "canvas.h"
+#include "saturate.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <optional>
 
 namespace {
 
 constexpr double AREA_ALPHA = 0.2;
 constexpr double FIRST_PASS_WIDTH = 1;
+// A run of so many points is drawn as the segment it is; more of them lie over each other and make
+// all they touch opaque.
+constexpr std::size_t ONE_SEGMENT = 2;
+// Nothing is painted farther outside, for QPainter's sake.
+constexpr int FARTHEST = 1 << 14;
 
 // For each pixel column the lines that something covers.
 struct column_spans {
@@ -29,7 +36,7 @@ struct column_spans {
 class pixel_layer {
   public:
     pixel_layer(const canvas& target, double scale)
-        : image_(empty_image(QSizeF(target.width(), target.height()), scale)), scale_(scale),
+        : image_(raw_image(QSizeF(target.width(), target.height()), scale)), scale_(scale),
           height_(target.height()), area_(image_.width()), left_halves_(image_.width()),
           right_halves_(image_.width()) {}
 
@@ -39,8 +46,8 @@ class pixel_layer {
         for (int px = std::max(first_centre_from(from_x), 0); px < end; ++px) {
             const double along = ((px + 0.5) / scale_ - from_x) / (to_x - from_x);
             const double y = from_y + (to_y - from_y) * along;
-            area_.set(px, first_centre_from(height_ - std::max(y, base_y)),
-                      first_centre_from(height_ - std::min(y, base_y)));
+            area_.set(px, line_of(height_ - std::max(y, base_y)),
+                      line_of(height_ - std::min(y, base_y)));
         }
     }
 
@@ -75,13 +82,18 @@ class pixel_layer {
     }
 
     int first_centre_from(double units) const {
-        return static_cast<int>(std::ceil(units * scale_ - 0.5));
+        return saturating_int(std::ceil(units * scale_ - 0.5));
+    }
+    int line_of(double units) const {
+        return std::clamp(first_centre_from(units), 0, image_.height());
     }
     int nearest(double units) const { return static_cast<int>(std::lround(units * scale_)); }
 
     void add_half(column_spans& spans, const column_run& run, int x) {
-        const QRect half = QRect(QPoint(nearest(x), nearest(height_ - run.high - 1)),
-                                 QPoint(nearest(x + 1) - 1, nearest(height_ - run.low + 1) - 1)) &
+        const int high = std::clamp(run.high, -FARTHEST, FARTHEST);
+        const int low = std::clamp(run.low, -FARTHEST, FARTHEST);
+        const QRect half = QRect(QPoint(nearest(x), nearest(height_ - high - 1)),
+                                 QPoint(nearest(x + 1.0) - 1, nearest(height_ - low + 1) - 1)) &
                            image_.rect();
         if (half.isEmpty())
             return;
@@ -106,7 +118,7 @@ void paint_pixels(canvas& target, const std::vector<column_run>& runs, const cur
         if (runs[i].joined)
             layer.add_area(runs[i - 1].x, runs[i - 1].last, runs[i].x, runs[i].first, style.base_y);
     for (const column_run& run : runs)
-        if (run.count > 1)
+        if (run.count > ONE_SEGMENT)
             layer.add_run(run);
     QColor shade = style.ink;
     shade.setAlphaF(static_cast<float>(AREA_ALPHA));
@@ -114,23 +126,49 @@ void paint_pixels(canvas& target, const std::vector<column_run>& runs, const cur
         QPointF(0, 0), layer.paint(qPremultiply(style.ink.rgba()), qPremultiply(shade.rgba())));
 }
 
+// The part of a line that is not too far above or below; what is left keeps its slope.
+std::optional<QLineF> within_reach(const QLineF& line) {
+    if (std::max(line.y1(), line.y2()) < -FARTHEST || std::min(line.y1(), line.y2()) > FARTHEST)
+        return std::nullopt;
+    const auto moved_in = [&line](const QPointF& end) {
+        const double y = std::clamp<double>(end.y(), -FARTHEST, FARTHEST);
+        return y == end.y() ? end
+                            : QPointF(line.x1() + line.dx() * ((y - line.y1()) / line.dy()), y);
+    };
+    return QLineF(moved_in(line.p1()), moved_in(line.p2()));
+}
+
 bool covers(const column_run& run, int y) {
     return run.count > 1 && y >= run.low && y <= run.high;
 }
 
-void paint_segments(canvas& target, const std::vector<column_run>& runs, const curve_style& style) {
+// The segments across columns, and those that are a column's only one.
+QVector<QLineF> lines_of(const canvas& target, const std::vector<column_run>& runs) {
     QVector<QLineF> lines;
     lines.reserve(static_cast<qsizetype>(runs.size()));
-    for (std::size_t i = 1; i < runs.size(); ++i) {
-        const column_run& from = runs[i - 1];
+    const auto add = [&](int from_x, int from_y, int to_x, int to_y) {
+        if (const auto line =
+                within_reach({target.flipped(from_x, from_y), target.flipped(to_x, to_y)}))
+            lines << *line;
+    };
+    for (std::size_t i = 0; i < runs.size(); ++i) {
         const column_run& to = runs[i];
-        if (!to.joined)
-            continue;
-        const bool hidden = to.x - from.x == 1 && covers(from, from.last) &&
-                            covers(from, to.first) && covers(to, from.last) && covers(to, to.first);
-        if (!hidden)
-            lines << QLineF(target.flipped(from.x, from.last), target.flipped(to.x, to.first));
+        if (to.joined && i > 0) {
+            const column_run& from = runs[i - 1];
+            const bool hidden = std::int64_t{to.x} - from.x == 1 && covers(from, from.last) &&
+                                covers(from, to.first) && covers(to, from.last) &&
+                                covers(to, to.first);
+            if (!hidden)
+                add(from.x, from.last, to.x, to.first);
+        }
+        if (to.count == ONE_SEGMENT)
+            add(to.x, to.low, to.x, to.high);
     }
+    return lines;
+}
+
+void paint_segments(canvas& target, const std::vector<column_run>& runs, const curve_style& style) {
+    const QVector<QLineF> lines = lines_of(target, runs);
     QPainter& painter = target.painter();
     painter.setRenderHint(QPainter::Antialiasing, style.antialiased);
     for (const double width : {FIRST_PASS_WIDTH, style.line_width}) {

@@ -51,7 +51,7 @@ std::array<std::string, 11> dial_labels(const dial_range& range) {
 }
 
 double needle_angle(double value, double start, double end, double low, double high) {
-    if (high == low || std::isnan(value))
+    if (high == low || !std::isfinite(value))
         return start;
     const double per_unit = std::fabs((start - end) / (high - low));
     const double zero = low < 0 ? start - std::fabs((start - end) * low / (high - low)) : start;
@@ -59,8 +59,7 @@ double needle_angle(double value, double start, double end, double low, double h
 }
 
 needle_points needle_shape(dial_point centre, double angle, double width, double length) {
-    // Beyond any number of turns the direction is lost, and no one reads it.
-    const double turn = std::isfinite(angle) ? angle : 0;
+    const double turn = std::isfinite(angle) ? angle : NEEDLE_START;
     const double base = width * 0.7;
     constexpr double QUARTER = std::numbers::pi / 2;
     const auto away = [&](double direction, double distance) {

@@ -46,10 +46,11 @@ inline constexpr std::array<dial_label_place, 11> DIAL_LABEL_PLACES = {{
 }};
 
 // Not clamped: a value beyond the range turns the needle past the scale's end. Only a negative low
-// shifts the zero. Without a span, or for NaN, the needle stays at the start.
+// shifts the zero. Without a span, or for what is no finite number, the needle stays at the start.
 double needle_angle(double value, double start, double end, double low, double high);
 
 struct needle_points {
     dial_point centre, tip, left, right;
 };
+// An angle that is no finite number counts as the dial's start.
 needle_points needle_shape(dial_point centre, double angle, double width, double length);

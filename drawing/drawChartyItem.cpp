@@ -1,20 +1,7 @@
 #include "drawChartyItem.h"
 
 #include "canvas.h"
-
-#include <algorithm>
-#include <limits>
-
-namespace {
-
-std::string last_path_component(std::string_view path) {
-    while (path.size() > 1 && path.ends_with('/'))
-        path.remove_suffix(1);
-    const std::size_t slash = path.rfind('/');
-    return std::string(slash == path.npos || path.size() == 1 ? path : path.substr(slash + 1));
-}
-
-} // namespace
+#include "text.h"
 
 void drawChartyItem::initWitdim(QSizeF size, std::string_view imageID) {
     cur_item_2_PLOT = 0;

@@ -96,8 +96,8 @@ class drawChartyItem {
     bool plot_array_list(const sample_rows& points, const label_records& these_labels);
 
     // --- the real-time chart, which grows point by point
-    // ------------------------------------------------- The points: for each sample the parameters'
-    // value texts. The caller appends the newest one, then plots it.
+    // The points: for each sample the parameters' value texts. The caller appends the newest one,
+    // then plots it.
     std::vector<std::vector<std::string>>& val_points() { return l_val_points; }
     void plot_this_point_realtime(int index);
     void replot_realtime_chart(int count);
@@ -148,6 +148,7 @@ class drawChartyItem {
     double pixel_scale_ = 1;
     double last_OBD_val = 0;
     int r_prev_x = 0, r_prev_y = 0;
+    bool r_prev_is_gap = true; // no segment leads on from there
     int r_cur_maxX = 0;
     double r_cur_maxY = 0, r_cur_minY = 0;
     label_records r_these_labels;
@@ -163,6 +164,13 @@ class drawChartyItem {
     bool is_thumb_selected = false;
     int SHOW_THESE_MANY_LAST_POINTS = -1;
 
-    QImage grid_image_;
-    grid_look grid_look_;
+    // The latest grids, the newest first. While a row fills up, its open places pull the axes to 0
+    // and let go of them one by one: with two axes three looks come and go with every row.
+    static constexpr std::size_t KEPT_GRIDS = 3;
+    struct kept_grid {
+        grid_look look;
+        QImage image;
+    };
+    const QImage& grid_of(grid_look look);
+    std::vector<kept_grid> grids_;
 };

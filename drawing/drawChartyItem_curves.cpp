@@ -6,6 +6,8 @@
 #include "system_log.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace {
 
@@ -17,11 +19,12 @@ constexpr std::size_t THIN_FROM = 200;
 constexpr std::size_t THINNED = 100;
 constexpr std::size_t MARKED_BELOW = 30;
 constexpr int REALTIME_SPAN = 20;
+constexpr double NO_NUMBER = std::numeric_limits<double>::quiet_NaN();
 
 // Value texts as plotting takes them: "~" and the like are no numbers.
 translated value_of_text(const std::string& text) {
     const bool number = text.find('~') == text.npos && !text.empty();
-    return {text, number ? leading_number(text) : std::numeric_limits<double>::quiet_NaN()};
+    return {text, number ? leading_number(text) : NO_NUMBER};
 }
 
 } // namespace
@@ -65,16 +68,11 @@ void drawChartyItem::plot_one_curve(canvas& target, const sample_rows& points,
                 {setMyColor(static_cast<int>(parameter)),
                  is_thumbnail ? THUMBNAIL_LINE_WIDTH : LARGE_LINE_WIDTH,
                  scale_y(limits.min_y, drawSizes, limits)});
-    for (std::size_t row = end; row-- > window.first;) {
-        if (points.filled(row, parameter) || row == window.first) {
-            last_OBD_val = points.value(row, parameter);
-            break;
-        }
-    }
+    const sample_stretch all = points.summary(parameter, window.first, end);
+    last_OBD_val = all.open_end().count > 0 ? points.value(all.last_row, parameter) : NO_NUMBER;
 }
 
 // --- the real-time chart
-// ---------------------------------------------------------------------------------
 
 void drawChartyItem::replot_realtime_chart(int) {
     draw_empty_background();
@@ -141,6 +139,7 @@ void drawChartyItem::start_realtime_curve(std::size_t parameter, const std::stri
     const chart_point start = realtime_point(0, value);
     r_prev_x = saturating_int(start.x);
     r_prev_y = saturating_int(start.y);
+    r_prev_is_gap = std::isnan(value);
     r_cur_maxX = REALTIME_SPAN;
     some_sampling_done = true;
 }
@@ -156,6 +155,7 @@ void drawChartyItem::extend_realtime_curve(std::size_t parameter, double value) 
                         value >= leading_number(r_these_labels[parameter].lower) &&
                         value <= leading_number(r_these_labels[parameter].upper);
     if (!inside) {
+        r_prev_is_gap = r_prev_is_gap || std::isnan(value);
         replot_realtime_chart(static_cast<int>(count));
         return;
     }
@@ -164,10 +164,12 @@ void drawChartyItem::extend_realtime_curve(std::size_t parameter, double value) 
     const QColor ink = setMyColor(static_cast<int>(parameter));
     target.painter().setPen(QPen(ink, 1.0));
     const QPointF to = target.flipped(static_cast<double>(point.x), static_cast<double>(point.y));
-    target.painter().drawLine(target.flipped(r_prev_x, r_prev_y), to);
+    if (!r_prev_is_gap)
+        target.painter().drawLine(target.flipped(r_prev_x, r_prev_y), to);
     if (count < MARKED_BELOW)
         target.fill(
             QRectF(static_cast<double>(point.x) - 2, static_cast<double>(point.y) - 2, 4, 4), ink);
     r_prev_x = saturating_int(point.x);
     r_prev_y = saturating_int(point.y);
+    r_prev_is_gap = false;
 }

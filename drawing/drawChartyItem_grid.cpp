@@ -57,13 +57,22 @@ drawChartyItem::grid_look drawChartyItem::look_of_grid(const label_records& labe
 void drawChartyItem::draw_grid(const label_records& labels, std::string_view this_title) {
     grid_look look = look_of_grid(labels, this_title);
     drawSizes = look.plot;
-    if (grid_image_.isNull() || look != grid_look_) {
-        grid_image_ = empty_image(chartySize, pixel_scale_);
-        canvas target(grid_image_);
+    copy_picture(grid_of(std::move(look)), image_);
+}
+
+const QImage& drawChartyItem::grid_of(grid_look look) {
+    auto grid = std::ranges::find(grids_, look, &kept_grid::look);
+    if (grid == grids_.end()) {
+        if (grids_.size() < KEPT_GRIDS)
+            grids_.emplace_back();
+        grid = grids_.end() - 1;
+        grid->image = empty_image(chartySize, pixel_scale_);
+        canvas target(grid->image);
         paint_grid(target, look);
-        grid_look_ = std::move(look);
+        grid->look = std::move(look);
     }
-    image_ = grid_image_;
+    std::rotate(grids_.begin(), grid, grid + 1);
+    return grids_.front().image;
 }
 
 void drawChartyItem::paint_grid(canvas& target, const grid_look& look) const {

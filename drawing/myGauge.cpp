@@ -3,14 +3,15 @@
 #include "bundle.h"
 #include "canvas.h"
 #include "constantes.h"
-#include "shadow.h"
 #include "system_log.h"
+#include "text.h"
 #include "user_defaults.h"
 
 #include <QFile>
 #include <QSvgRenderer>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -51,7 +52,7 @@ myGauge::myGauge(const bundle& resources, const mac_toolies& decoder)
     : resources_(resources), toolies(decoder) {}
 
 void myGauge::initGauge(std::string_view pid) {
-    cur_PID = pid.substr(pid.rfind('/') + 1);
+    cur_PID = last_path_component(pid);
     work_out_base_gauge();
     draw_cur_needle_value(toolies.get_PID_min_max(cur_PID, false));
 }
@@ -60,7 +61,7 @@ void myGauge::set_pixel_scale(double pixels_a_unit) {
     if (pixels_a_unit == pixel_scale_ || !(pixels_a_unit > 0))
         return;
     pixel_scale_ = pixels_a_unit;
-    empty_dial_ = hub_glow_ = QImage();
+    empty_dial_ = hub_.image = QImage();
     if (cur_PID.empty())
         return;
     work_out_base_gauge();
@@ -139,7 +140,7 @@ void myGauge::draw_cur_needle_value(double value) {
     last_OBD_val = value;
     if (image_without_needle.isNull())
         return;
-    image_ = image_without_needle;
+    copy_picture(image_without_needle, image_);
     canvas target(image_);
     draw_gauge_needle_raw(target, NEEDLE_X, NEEDLE_Y, value / range_scaling, NEEDLE_START,
                           NEEDLE_END, range_lo, range_hi, NEEDLE_WIDTH, NEEDLE_LENGTH);
@@ -164,17 +165,19 @@ void myGauge::draw_gauge_needle_raw(canvas& target, int x, int at_y, double this
 void myGauge::paint_hub(canvas& target, int x, int y) {
     const QRectF hub =
         target.flipped(QRectF(x - HUB_RADIUS, y - HUB_RADIUS, 2 * HUB_RADIUS, 2 * HUB_RADIUS));
-    if (hub_glow_.isNull()) {
-        const cast_shadow glow =
-            cast_shadow_of(hub, GLOW_RADIUS, pixel_scale_, GLOW,
-                           [&hub](QPainter& painter) { painter.drawEllipse(hub); });
-        hub_glow_ = glow.image;
-        hub_glow_at_ = glow.at;
+    if (hub_.image.isNull()) {
+        hub_ = cast_shadow_of(hub, GLOW_RADIUS, pixel_scale_, GLOW,
+                              [&hub](QPainter& painter) { painter.drawEllipse(hub); });
+        const QImage glow = std::exchange(
+            hub_.image, empty_image(hub_.image.deviceIndependentSize(), pixel_scale_));
+        QPainter painter(&hub_.image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(-hub_.at);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(HUB);
+        painter.drawEllipse(hub);
+        painter.drawImage(hub_.at, glow);
+        painter.drawEllipse(hub);
     }
-    QPainter& painter = target.painter();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(HUB);
-    painter.drawEllipse(hub);
-    painter.drawImage(hub_glow_at_, hub_glow_);
-    painter.drawEllipse(hub);
+    target.painter().drawImage(hub_.at, hub_.image);
 }

@@ -8,9 +8,9 @@
 #include "chart_geometry.h"
 #include "dial_geometry.h"
 #include "mac_toolies.h"
+#include "shadow.h"
 
 #include <QImage>
-#include <QPointF>
 
 #include <array>
 #include <string>
@@ -74,6 +74,5 @@ class myGauge {
 
     double pixel_scale_ = 1;
     QImage empty_dial_; // as loaded, at the pixel scale
-    QImage hub_glow_;
-    QPointF hub_glow_at_;
+    cast_shadow hub_;   // the hub with its glow, as drawn over every needle
 };

@@ -60,41 +60,54 @@ void sample_rows::complete_last_row() {
     }
 }
 
+void sample_rows::block_level::push(const sample_stretch& sum, unsigned bits) {
+    if (sum.head.count == std::size_t{1} << bits) {
+        blocks.push_back({sum.head.lowest, sum.head.highest});
+        return;
+    }
+    blocks.push_back({NO_NUMBER, static_cast<double>(mixed.size())});
+    if (mixed.size() == mixed.capacity()) // doubled, they would take too much room
+        mixed.reserve(mixed.size() + mixed.size() / 4 + BLOCK);
+    mixed.push_back(sum);
+}
+
+sample_stretch sample_rows::block_level::at(std::size_t place, unsigned bits) const {
+    const block& b = blocks[place];
+    const number_run run{b.lowest, b.highest, std::size_t{1} << bits};
+    return b.all_numbers() ? sample_stretch::of_numbers(run, place << bits, (place + 1) << bits)
+                           : mixed[b.mixed()];
+}
+
 // Adds the block that the last row completes, and the blocks that this block completes.
 void sample_rows::sum_up(column& c) const {
-    const auto widen = [](block& sum, double lowest, double highest) {
-        const bool whole = sum.whole() && !std::isnan(lowest);
-        sum = whole ? block{std::min(sum.lowest, lowest), std::max(sum.highest, highest)}
-                    : block{NO_NUMBER, NO_NUMBER};
+    sample_stretch sum;
+    const auto add = [&sum](const sample_stretch& next) {
+        sum.append(next);
+        return true;
     };
-    block sum{value_at(c, rows_ - BLOCK), value_at(c, rows_ - BLOCK)};
-    for (std::size_t row = rows_ - BLOCK + 1; row < rows_; ++row)
-        widen(sum, value_at(c, row), value_at(c, row));
-    for (std::size_t level = 0;; ++level) {
-        if (level == c.levels.size())
+    visit_rows(c, rows_ - BLOCK, rows_, add);
+    for (std::size_t n = 0;; ++n) {
+        if (n == c.levels.size())
             c.levels.emplace_back();
-        std::vector<block>& blocks = c.levels[level];
-        blocks.push_back(sum);
-        if (blocks.size() % BLOCK != 0)
+        block_level& level = c.levels[n];
+        level.push(sum, row_bits(n));
+        const std::size_t count = level.blocks.size();
+        if (count % BLOCK != 0)
             return;
-        sum = blocks[blocks.size() - BLOCK];
-        for (std::size_t i = blocks.size() - BLOCK + 1; i < blocks.size(); ++i)
-            widen(sum, blocks[i].lowest, blocks[i].highest);
+        sum = sample_stretch();
+        for (std::size_t place = count - BLOCK; place < count; ++place)
+            sum.append(level.at(place, row_bits(n)));
     }
 }
 
-sample_rows::level_found sample_rows::largest_block(const column& c, std::size_t row,
-                                                    std::size_t end) {
-    level_found found;
-    std::size_t size = BLOCK;
-    for (const std::vector<block>& level : c.levels) {
-        const std::size_t place = row / size;
-        if (row % size != 0 || row + size > end || place >= level.size() || !level[place].whole())
-            break;
-        found = {&level, size};
-        size *= BLOCK;
-    }
-    return found;
+sample_stretch sample_rows::summary(std::size_t parameter, std::size_t first,
+                                    std::size_t end) const {
+    sample_stretch sum;
+    for_each_stretch(parameter, first, end, [&sum](const sample_stretch& next) {
+        sum.append(next);
+        return true;
+    });
+    return sum;
 }
 
 void sample_rows::file(std::size_t parameter, std::string_view reply, const translated& meaning) {

@@ -3,15 +3,17 @@
 // sample takes less than 48 bytes.
 //
 // Replies are translated once, when they are filed. The last row is the one being filled; the rows
-// before it are complete and never change. For each parameter the store keeps the numbers of
-// complete rows summed up in blocks of 16, blocks of 16 of those and so on, so that what lies in
-// any window is found without visiting its rows.
+// before it are complete and never change. For each parameter the store keeps complete rows summed
+// up in blocks of 8, blocks of 8 of those and so on, so that what lies in any window is found
+// without visiting its rows.
 #pragma once
 
 #include "mac_toolies.h"
+#include "sample_stretch.h"
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <memory>
@@ -23,16 +25,10 @@
 // A place that no reply has been filed into reads so.
 inline constexpr std::string_view UNFILLED = "-1";
 
-// Consecutive samples, all of them numbers, or one that is none.
-struct sample_piece {
-    std::size_t row, count;
-    double lowest, highest; // NaN: no number
-    bool number() const { return !std::isnan(lowest); }
-};
-
 class sample_rows {
   public:
-    static constexpr std::size_t BLOCK = 16;
+    static constexpr unsigned BLOCK_BITS = 4;
+    static constexpr std::size_t BLOCK = 1U << BLOCK_BITS;
 
     explicit sample_rows(std::size_t parameters = 0);
 
@@ -52,7 +48,7 @@ class sample_rows {
     // NaN for an unusable reply and for an unfilled place.
     double value(std::size_t row, std::size_t parameter) const;
     bool filled(std::size_t row, std::size_t parameter) const {
-        return text(row, parameter) != UNFILLED;
+        return columns_[parameter].filled(row);
     }
 
     // The highest and lowest number, as a chart's labels count them, of all rows but the first; NaN
@@ -60,11 +56,13 @@ class sample_rows {
     double highest(std::size_t parameter) const;
     double lowest(std::size_t parameter) const;
 
-    // Calls `visit(const sample_piece&)` for the samples of rows [first, end) in order, in as few
-    // pieces as there are blocks for. Unfilled places are passed over.
+    // Calls `visit(const sample_stretch&)` for what rows [first, end) hold, in order, in as few
+    // stretches as there are blocks for. Where `visit` answers false it gets the block in smaller
+    // stretches instead.
     template <class Visitor>
-    void for_each_piece(std::size_t parameter, std::size_t first, std::size_t end,
-                        Visitor visit) const;
+    void for_each_stretch(std::size_t parameter, std::size_t first, std::size_t end,
+                          Visitor visit) const;
+    sample_stretch summary(std::size_t parameter, std::size_t first, std::size_t end) const;
 
     // The number that a chart's labels take a display text for: 0 for "~" and other texts without a
     // number, NaN for "-" and for no text.
@@ -91,32 +89,56 @@ class sample_rows {
         std::array<short_text, CHUNK> texts;
     };
 
+    // The extremes of a block that holds nothing but numbers. For any other NaN, and the place of
+    // what it adds up to among its level's mixed ones: the smaller blocks are, the fewer of them
+    // have to be fetched.
     struct block {
-        double lowest, highest; // NaN when not all of its samples are numbers
-        bool whole() const { return !std::isnan(lowest); }
+        double lowest, highest;
+        bool all_numbers() const { return !std::isnan(lowest); }
+        std::size_t mixed() const { return static_cast<std::size_t>(highest); }
+    };
+
+    // A block of level n sums up BLOCK to the power n + 1 rows.
+    struct block_level {
+        std::vector<block> blocks;
+        std::vector<sample_stretch> mixed;
+        void push(const sample_stretch& sum, unsigned bits);
+        sample_stretch at(std::size_t place, unsigned bits) const;
     };
 
     struct column {
         std::vector<std::unique_ptr<chunk>> chunks;
-        std::vector<std::vector<block>>
-            levels;               // a block of level n sums up BLOCK to the power n + 1 rows
+        std::vector<block_level> levels;
         double newest_number = 0; // of the last row, as labels count it
         double highest, lowest;   // of complete rows from the second on
+
+        bool filled(std::size_t row) const {
+            const short_text& text = chunks[row / CHUNK]->texts[row % CHUNK];
+            return !text.fits() || text.view() != UNFILLED;
+        }
     };
 
-    // The level, and its blocks' size, of the largest block that starts at `row`, ends in time and
-    // holds nothing but numbers; none when there is none.
-    struct level_found {
-        const std::vector<block>* level = nullptr;
-        std::size_t size = 1;
-    };
-    static level_found largest_block(const column& c, std::size_t row, std::size_t end);
+    // A block of this level has 2 to this power rows. Shifts, where divisions would take longer
+    // than all the rest.
+    static unsigned row_bits(std::size_t level) {
+        return static_cast<unsigned>(level + 1) * BLOCK_BITS;
+    }
+    // Of the largest block that starts at `row` and ends in time, counted from 1; 0 when there is
+    // none.
+    static unsigned levels_of_block(std::size_t row, std::size_t end) {
+        if (row >= end)
+            return 0;
+        const int aligned_bits = std::countr_zero(row);
+        const int room_bits = std::bit_width(end - row) - 1;
+        return static_cast<unsigned>(std::min(aligned_bits, room_bits)) / BLOCK_BITS;
+    }
     template <class Visitor>
-    static std::size_t visit_blocks(const std::vector<block>& level, std::size_t size,
-                                    std::size_t first, std::size_t end, Visitor& visit);
+    static std::size_t visit_blocks(const column& c, std::size_t level, std::size_t first,
+                                    std::size_t end, Visitor& visit);
     template <class Visitor>
-    std::size_t visit_rows(const column& c, std::size_t parameter, std::size_t first,
-                           std::size_t end, Visitor& visit) const;
+    static void visit_apart(const column& c, std::size_t level, std::size_t place, Visitor& visit);
+    template <class Visitor>
+    static void visit_rows(const column& c, std::size_t first, std::size_t end, Visitor& visit);
 
     void complete_last_row();
     void sum_up(column& c) const;
@@ -131,51 +153,70 @@ class sample_rows {
 };
 
 template <class Visitor>
-void sample_rows::for_each_piece(std::size_t parameter, std::size_t first, std::size_t end,
-                                 Visitor visit) const {
+void sample_rows::for_each_stretch(std::size_t parameter, std::size_t first, std::size_t end,
+                                   Visitor visit) const {
     const column& c = columns_[parameter];
+    const std::size_t summed_up = c.levels.empty() ? 0 : c.levels[0].blocks.size() * BLOCK;
     for (std::size_t row = first; row < end;) {
-        const auto [level, size] = largest_block(c, row, end);
-        row = level != nullptr
-                  ? visit_blocks(*level, size, row, end, visit)
-                  : visit_rows(c, parameter, row, std::min(end, (row / BLOCK + 1) * BLOCK), visit);
+        if (const unsigned levels = levels_of_block(row, std::min(end, summed_up)); levels > 0) {
+            row = visit_blocks(c, levels - 1, row, end, visit);
+        } else {
+            const std::size_t stop = std::min(end, (row / BLOCK + 1) * BLOCK);
+            visit_rows(c, row, stop, visit);
+            row = stop;
+        }
     }
 }
 
-// Blocks of one level, up to where a larger one may start.
+// Blocks of one level, up to where a larger one may start: those of numbers alone as one stretch,
+// or a mixed one.
 template <class Visitor>
-std::size_t sample_rows::visit_blocks(const std::vector<block>& level, std::size_t size,
-                                      std::size_t first, std::size_t end, Visitor& visit) {
-    const std::size_t start = first / size;
-    const std::size_t stop = std::min({end / size, level.size(), (start / BLOCK + 1) * BLOCK});
-    block sum = level[start];
-    std::size_t place = start + 1;
-    for (; place < stop && level[place].whole(); ++place) {
-        sum.lowest = std::min(sum.lowest, level[place].lowest);
-        sum.highest = std::max(sum.highest, level[place].highest);
+std::size_t sample_rows::visit_blocks(const column& c, std::size_t level, std::size_t first,
+                                      std::size_t end, Visitor& visit) {
+    const unsigned bits = row_bits(level);
+    const std::vector<block>& blocks = c.levels[level].blocks;
+    const std::size_t start = first >> bits;
+    const std::size_t stop = std::min({end >> bits, blocks.size(), (start / BLOCK + 1) * BLOCK});
+    std::size_t place = start;
+    number_run run;
+    for (; place < stop && blocks[place].all_numbers(); ++place)
+        run.add({blocks[place].lowest, blocks[place].highest, std::size_t{1} << bits});
+    if (place > start) {
+        visit(sample_stretch::of_numbers(run, first, place << bits));
+        return place << bits;
     }
-    visit(sample_piece{first, (place - start) * size, sum.lowest, sum.highest});
-    return place * size;
+    if (!visit(c.levels[level].mixed[blocks[start].mixed()]))
+        visit_apart(c, level, start, visit);
+    return (start + 1) << bits;
 }
 
-// Rows of one block.
 template <class Visitor>
-std::size_t sample_rows::visit_rows(const column& c, std::size_t parameter, std::size_t first,
-                                    std::size_t end, Visitor& visit) const {
+void sample_rows::visit_apart(const column& c, std::size_t level, std::size_t place,
+                              Visitor& visit) {
+    const std::size_t end = (place + 1) << row_bits(level);
+    std::size_t row = place << row_bits(level);
+    if (level == 0)
+        return visit_rows(c, row, end, visit);
+    while (row < end)
+        row = visit_blocks(c, level - 1, row, end, visit);
+}
+
+// Rows of one chunk.
+template <class Visitor>
+void sample_rows::visit_rows(const column& c, std::size_t first, std::size_t end, Visitor& visit) {
     const double* const values = c.chunks[first / CHUNK]->values.data() + first % CHUNK;
     const std::size_t count = end - first;
     for (std::size_t i = 0; i < count;) {
-        sample_piece piece{first + i, 1, values[i], values[i]};
-        if (!piece.number() && !filled(first + i, parameter)) {
+        if (std::isnan(values[i])) {
+            if (c.filled(first + i))
+                visit(sample_stretch::of_gap());
             ++i;
             continue;
         }
-        for (++i; i < count && piece.number() && !std::isnan(values[i]); ++i) {
-            piece.lowest = std::min(piece.lowest, values[i]);
-            piece.highest = std::max(piece.highest, values[i]);
-            ++piece.count;
-        }
-        visit(piece);
+        const std::size_t start = i;
+        number_run run;
+        for (; i < count && !std::isnan(values[i]); ++i)
+            run.add(values[i]);
+        visit(sample_stretch::of_numbers(run, first + start, first + i));
     }
-    return end;
 }

@@ -1,4 +1,7 @@
-// The real run loop: Qt's event loop and its timers.
+// The real run loop: Qt's event loop, and one timer of it that is set to the earliest delayed call.
+// Every command arms a time-out that its reply cancels: arming and cancelling are entries in a
+// table, and the timer is set anew only for an earlier call; set to a cancelled one it wakes in
+// vain, once.
 #pragma once
 
 #include "run_loop.h"
@@ -6,8 +9,9 @@
 #include <QObject>
 #include <QTimer>
 
-#include <memory>
+#include <set>
 #include <unordered_map>
+#include <utility>
 
 class qt_run_loop final : public QObject, public run_loop {
     Q_OBJECT
@@ -15,6 +19,7 @@ class qt_run_loop final : public QObject, public run_loop {
     qt_run_loop();
     ~qt_run_loop() override;
     milliseconds now() const override;
+    microseconds fine_now() const override;
 
   protected:
     void arm(timer_id id, milliseconds delay) override;
@@ -22,6 +27,11 @@ class qt_run_loop final : public QObject, public run_loop {
     void wake() override;
 
   private:
-    void timer_fired(timer_id id);
-    std::unordered_map<timer_id, std::unique_ptr<QTimer>> timers_;
+    void timer_fired();
+    void set_timer();
+
+    QTimer timer_;
+    milliseconds wakes_at_ = milliseconds::max();
+    std::set<std::pair<milliseconds, timer_id>> deadlines_;
+    std::unordered_map<timer_id, milliseconds> deadline_of_;
 };

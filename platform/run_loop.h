@@ -15,6 +15,7 @@
 class run_loop {
   public:
     using milliseconds = std::chrono::milliseconds;
+    using microseconds = std::chrono::microseconds;
     using timer_id = std::uint64_t; // 0 is no timer
 
     virtual ~run_loop() = default;
@@ -27,6 +28,8 @@ class run_loop {
     bool idle() const { return calls_.empty(); }
 
     virtual milliseconds now() const = 0;
+    // The same clock, for measuring what takes less than a millisecond.
+    virtual microseconds fine_now() const { return now(); }
 
     bool held() const { return holds_ > 0; }
 

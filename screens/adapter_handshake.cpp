@@ -140,7 +140,10 @@ void adapter_handshake::echo_off_answered() {
     if (contains(reply, "?")) {
         fail_with_box(texts_.echo_off_not_understood);
     } else if (contains(reply, REPLY_REJECTED)) {
-        screen_.end_task();
+        if (texts_.rejection_leaves)
+            screen_.leave_cur_op_gracefully("");
+        else
+            screen_.end_task();
     } else if (contains(reply, "OK")) {
         screen_.set_status_msg("Got a ECHO off from ELM chip");
         send_waiting("AT I\r", IDENTITY_ANSWERED);

@@ -23,6 +23,7 @@ struct handshake_texts {
     std::string_view first_pids_failed; // "~" to "01 00"
     std::string_view more_pids_failed;  // "~" to "01 20", "01 40"
     bool first_pids_screened;           // the "01 00" answer goes through the screener too
+    bool rejection_leaves;              // a rejected answer to "AT E0" also resets the screen
 };
 
 class adapter_handshake {

@@ -17,6 +17,7 @@ constexpr handshake_texts CODES_TEXTS{
     .first_pids_failed = "Failed to receive available PIDs ",
     .more_pids_failed = "Failed to receive available PIDs ",
     .first_pids_screened = false,
+    .rejection_leaves = false,
 };
 
 } // namespace

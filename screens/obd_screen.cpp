@@ -11,15 +11,57 @@ toolkit_doors doors_for_toolkit(app_doors& doors) {
     return {&doors.resources, &doors.defaults, &doors.message_boxes, &doors.notifications};
 }
 
+// How long another command's reply is awaited: the reply time-out as it is at start, whatever a run
+// has made of it.
+constexpr std::chrono::seconds OLD_REPLY_BOUND{3};
+
 } // namespace
 
 obd_screen::obd_screen(Ks_lite_delegate& delegate)
     : KS_delegate(delegate), toolies(doors_for_toolkit(delegate.doors())) {}
 
+obd_screen::~obd_screen() {
+    KS_delegate.doors().loop.cancel(old_reply_bound_);
+}
+
+void obd_screen::begin_task() {
+    end_task();
+    task_running_ = true;
+}
+
+void obd_screen::end_task() {
+    KS_delegate.doors().loop.cancel(old_reply_bound_);
+    old_reply_bound_ = 0;
+    task_running_ = false;
+}
+
+void obd_screen::work_when_adapter_is_free() {
+    if (KS_delegate.waiting_since().count() == 0)
+        work_current_task();
+    else
+        old_reply_bound_ =
+            KS_delegate.doors().loop.after(OLD_REPLY_BOUND, [this] { old_reply_is_over(); });
+}
+
+void obd_screen::old_reply_is_over() {
+    KS_delegate.doors().loop.cancel(old_reply_bound_);
+    old_reply_bound_ = 0;
+    odb_curReplyBuffyMsg.clear();
+    work_current_task();
+}
+
 void obd_screen::set_status_msg(const std::string& message) {
-    status_ = message;
+    note_status(message);
+    show_status();
+}
+
+void obd_screen::show_status() {
     if (statusLbl)
-        statusLbl->set_text(message);
+        statusLbl->set_text(status_);
+}
+
+void obd_screen::note_status(const std::string& message) {
+    status_ = message;
     if (KS_delegate.status_shown)
         KS_delegate.status_shown(message);
 }

@@ -4,6 +4,7 @@
 
 #include "Ks_lite_delegate.h"
 #include "mac_toolies.h"
+#include "run_loop.h"
 
 #include <string>
 #include <string_view>
@@ -14,6 +15,7 @@ class status_line;
 class obd_screen : public screen_controller {
   public:
     explicit obd_screen(Ks_lite_delegate& delegate);
+    ~obd_screen() override;
 
     void set_status_msg(const std::string& message) override;
     const std::string& status() const { return status_; }
@@ -43,13 +45,26 @@ class obd_screen : public screen_controller {
 
   protected:
     void use_status_line(status_line& line) { statusLbl = &line; }
-    void begin_task() { task_running_ = true; }
+    // The two halves of set_status_msg(), for a screen whose texts come faster than they can be
+    // read: the first takes note, the second shows the last one noted.
+    void note_status(const std::string& message);
+    void show_status();
+    // A task begins; what an earlier one waited for is forgotten.
+    void begin_task();
+    // Starts the task's first step, now or when the adapter is done with another command: that
+    // command's reply must not be taken for this task's first, and a character sent meanwhile would
+    // interrupt it.
+    void work_when_adapter_is_free();
+    // The next complete reply, or a time-out, belongs to that other command.
+    bool awaits_old_reply() const { return old_reply_bound_ != 0; }
+    void old_reply_is_over();
 
   public:
     // For the ends that say nothing and reset nothing.
-    void end_task() { task_running_ = false; }
+    void end_task();
 
   private:
+    run_loop::timer_id old_reply_bound_ = 0;
     status_line* statusLbl = nullptr;
     std::string status_;
     bool task_running_ = false;

@@ -13,9 +13,7 @@ readCodes::readCodes(Ks_lite_delegate& delegate) : obd_screen(delegate), handsha
     awakeFromNib();
 }
 
-readCodes::~readCodes() {
-    KS_delegate.doors().loop.cancel(old_reply_bound_);
-}
+readCodes::~readCodes() = default;
 
 QWidget* readCodes::view() {
     return view_->root();
@@ -66,8 +64,6 @@ void readCodes::start_task(int task, const std::string& status) {
     next_step_idx = 0;
     succeeded_ = false;
     longer_timeout_asked_for_ = false;
-    KS_delegate.doors().loop.cancel(old_reply_bound_);
-    old_reply_bound_ = 0;
     begin_task();
     set_status_msg(status);
     if (!KS_delegate.openInterfaceConnection())
@@ -75,26 +71,11 @@ void readCodes::start_task(int task, const std::string& status) {
     view_->show_waity(true);
     if (g_connect_with == KS_USE_BT && !connected_2_BT_interface)
         return;
-    if (KS_delegate.waiting_since().count() == 0) {
-        work_current_task();
-        return;
-    }
-    // The adapter still works on another command. Its reply must not be taken for an answer to this
-    // task's first command, and a character sent now would interrupt it: begin when it has come, or
-    // after the reply time-out.
-    old_reply_bound_ = KS_delegate.doors().loop.after(std::chrono::seconds(g_this_delta),
-                                                      [this] { begin_late(); });
-}
-
-void readCodes::begin_late() {
-    KS_delegate.doors().loop.cancel(old_reply_bound_);
-    old_reply_bound_ = 0;
-    odb_curReplyBuffyMsg.clear();
-    work_current_task();
+    work_when_adapter_is_free();
 }
 
 void readCodes::work_current_task() {
-    if (!task_running() || old_reply_bound_ != 0)
+    if (!task_running() || awaits_old_reply())
         return;
     switch (g_cur_mode) {
     case MODE_HANDSHAKE:
@@ -116,14 +97,14 @@ void readCodes::handleOBDRcvdMsg(const std::string& text) {
     if (contains(text, "Timeout")) {
         beep();
         set_status_msg("Cur op timed out... Please Check/retry");
-        if (old_reply_bound_ != 0)
-            begin_late();
+        if (awaits_old_reply())
+            old_reply_is_over();
         return; // no clean-up: the user retries with a button
     }
     if (!accumulate_reply(text))
         return;
-    if (old_reply_bound_ != 0)
-        begin_late(); // this reply was another command's
+    if (awaits_old_reply())
+        old_reply_is_over();
     else
         work_current_task();
 }

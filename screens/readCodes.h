@@ -57,7 +57,6 @@ class readCodes final : public obd_screen {
   private:
     void awakeFromNib();
     void start_task(int task, const std::string& status);
-    void begin_late();
 
     // read_codes_task.cpp
     void work_out_read_codes(int step);
@@ -90,5 +89,4 @@ class readCodes final : public obd_screen {
     bool status_answer_was_can_ = false;    // by its headers
     bool longer_timeout_asked_for_ = false; // "AT ST FF" is tried once a task
     bool succeeded_ = false;
-    run_loop::timer_id old_reply_bound_ = 0; // a task waits for another command's reply to be over
 };

@@ -1,7 +1,7 @@
 #include "screen_factories.h"
 
+#include "actions.h"
 #include "expertCtrlr.h"
-#include "live_placeholder.h"
 #include "prefs.h"
 #include "readCodes.h"
 
@@ -17,7 +17,7 @@ std::unique_ptr<screen_controller> make(Ks_lite_delegate& delegate) {
 screen_factories all_screens() {
     return {
         {READ_CODES_VIEW, make<readCodes>},
-        {ACTIONS_VIEW, make<live_placeholder>},
+        {ACTIONS_VIEW, make<actions>},
         {PREFS_VIEW, make<prefs>},
         {EXPERT_VIEW, make<expertCtrlr>},
     };

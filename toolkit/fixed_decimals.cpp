@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <limits>
 
 char* write_fixed_decimals(char* out, double value, int decimals) {
     char* const end =
@@ -27,9 +28,16 @@ double leading_number(std::string_view text) {
     if (piece.starts_with('+'))
         piece.remove_prefix(1);
     const std::string_view digits = slice(piece, piece.starts_with('-') ? 1 : 0);
+    if (digits.empty() || (digits[0] != '.' && (digits[0] < '0' || digits[0] > '9')))
+        return 0;
     double number = 0;
-    if (!digits.empty() && (digits[0] == '.' || (digits[0] >= '0' && digits[0] <= '9')))
-        std::from_chars(piece.data(), piece.data() + piece.size(), number,
-                        std::chars_format::fixed);
-    return number;
+    const auto [end, error] = std::from_chars(piece.data(), piece.data() + piece.size(), number,
+                                              std::chars_format::fixed);
+    // Without an exponent only a whole part can be too large; what is too small is 0.
+    const bool too_large = error == std::errc::result_out_of_range &&
+                           digits.find_first_not_of("0.") < digits.find('.');
+    if (!too_large)
+        return number;
+    constexpr double MOST = std::numeric_limits<double>::max();
+    return piece.starts_with('-') ? -MOST : MOST;
 }

@@ -14,5 +14,6 @@ char* write_fixed_decimals(char* out, double value, int decimals);
 
 std::string fixed_decimals(double value, int decimals);
 
-// The number in front of the first blank; 0 when there is none. "." whatever the locale.
+// The number in front of the first blank; 0 when there is none. "." whatever the locale. What no
+// double holds is the largest one.
 double leading_number(std::string_view text);

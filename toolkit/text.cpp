@@ -49,6 +49,12 @@ std::vector<std::string_view> split(std::string_view text, std::string_view sepa
     return pieces;
 }
 
+std::string_view last_path_component(std::string_view path) {
+    while (path.size() > 1 && path.ends_with('/'))
+        path.remove_suffix(1);
+    return path.size() == 1 ? path : path.substr(path.rfind('/') + 1);
+}
+
 bool is_hex(std::string_view text) {
     return !text.empty() && text.find_first_not_of("0123456789abcdefABCDEF") == text.npos;
 }

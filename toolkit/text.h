@@ -31,6 +31,9 @@ std::string_view trimmed(std::string_view text, std::string_view unwanted = WHIT
 // The pieces between the occurrences of `separator`, empty ones too: always at least one piece.
 std::vector<std::string_view> split(std::string_view text, std::string_view separator);
 
+// What stands behind the last slash; slashes at the very end count for nothing.
+std::string_view last_path_component(std::string_view path);
+
 // Whether there is text and all of it is hex digits.
 bool is_hex(std::string_view text);
 
@@ -41,3 +44,4 @@ std::string_view trimmed(std::same_as<std::string> auto&& text,
                          std::string_view unwanted = {}) = delete;
 std::vector<std::string_view> split(std::same_as<std::string> auto&& text,
                                     std::string_view separator) = delete;
+std::string_view last_path_component(std::same_as<std::string> auto&& path) = delete;

@@ -12,6 +12,7 @@ namespace {
 
 constexpr std::string_view UNREADABLE = "~";
 constexpr std::string_view NO_ENTRY = "N/A";
+constexpr std::string_view LINE_ENDS = " \t\n\v\f\r>";
 constexpr std::size_t SHORTEST_REPLY = 5;
 constexpr std::size_t DATA_START = 4; // behind the service and the PID
 constexpr std::size_t MOST_NUMBERS = 3;
@@ -19,10 +20,10 @@ constexpr std::size_t LONGEST_UNIT = 16;
 
 using text_room = char[MOST_NUMBERS * (FIXED_DECIMALS_ROOM + LONGEST_UNIT)];
 
-// The first line without blanks and prompt.
+// The first line without blanks and prompt. The prompt of the command before may stand in front.
 std::string spaceless_first_line(std::string_view reply) {
     std::string line;
-    for (const char c : trimmed(reply)) {
+    for (const char c : trimmed(reply, LINE_ENDS)) {
         if (c == '\r')
             break;
         if (c != ' ' && c != '>')
@@ -49,6 +50,9 @@ std::string_view write_numbers(std::span<const number_part> parts, const reply_d
                                std::span<char> room) {
     char* end = room.data();
     for (const number_part& part : parts) {
+        if (part.stands != nullptr && !part.stands(data))
+            continue;
+        end = std::copy(part.before.begin(), part.before.end(), end);
         end = write_fixed_decimals(end, part.value(data), part.decimals);
         end = std::copy(part.after.begin(), part.after.end(), end);
     }

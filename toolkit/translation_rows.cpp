@@ -127,6 +127,10 @@ double miles_per_gallon(data d) {
     return km_per_litre(d) / 1.609344 * 3.78541178;
 }
 
+// "-1" and the like read as more.
+bool b_is_a_byte(data d) {
+    return d.b <= 0xFF;
+}
 double sensor_volts(data d) {
     return byte_a(d) * 0.005;
 }
@@ -179,7 +183,8 @@ constexpr number_part SPEED_KMH[] = {{whole_as_it_is, 2, "  Km/h"}};
 constexpr number_part ADVANCE[] = {{timing_advance, 1, "  deg"}};
 constexpr number_part AIR_POUNDS[] = {{air_flow_pounds, 2, "  lb/min"}};
 constexpr number_part AIR_GRAMS[] = {{air_flow_grams, 2, "  gm/s"}};
-constexpr number_part SENSOR[] = {{sensor_volts, 3, "  V / "}, {fuel_trim_b, 2, "  V"}};
+constexpr number_part SENSOR[] = {{sensor_volts, 3, "  V"},
+                                  {fuel_trim_b, 2, "  V", " / ", b_is_a_byte}};
 constexpr number_part RUN_TIME[] = {
     {hours, 0, " 'Hours' "}, {minutes_of_hour, 0, " 'mins' "}, {seconds_of_minute, 0, " 'secs'"}};
 constexpr number_part VACUUM_PSI[] = {{rail_vacuum_psi, 1, " psi"}};

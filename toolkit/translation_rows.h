@@ -16,11 +16,13 @@ struct reply_data {
     std::uint32_t second = 0; // next four digits
 };
 
-// One number of a display text and the literal text behind it.
+// One number of a display text and the literal text around it.
 struct number_part {
     double (*value)(const reply_data&);
     int decimals;
     std::string_view after;
+    std::string_view before = {};
+    bool (*stands)(const reply_data&) = nullptr; // left out where it says no
 };
 
 // The text that stands for one code.

@@ -1,8 +1,10 @@
 #include "command_line.h"
 
 #include "expertCtrlr.h"
+#include "text.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <set>
@@ -16,8 +18,9 @@ struct verb {
     std::size_t least, most;
 };
 constexpr verb VERBS[] = {
-    {"codes", 0, 0},    {"clear", 0, 0},      {"send", 1, 10'000},  {"decode", 0, 10'000},
-    {"vin", 0, 10'000}, {"mode6", 0, 10'000}, {"chart", 0, 10'000}, {"export", 0, 10'000},
+    {"codes", 0, 0},      {"clear", 0, 0},       {"send", 1, 10'000},
+    {"live", 0, 0},       {"decode", 0, 10'000}, {"vin", 0, 10'000},
+    {"mode6", 0, 10'000}, {"chart", 0, 10'000},  {"export", 0, 10'000},
 };
 
 bool plain_ascii(std::string_view text) {
@@ -71,7 +74,18 @@ class argument_reader {
         } else if (name == "--screenshot") {
             asked.screenshot = value(name);
         } else if (name == "--timeout") {
-            take_timeout(value(name));
+            if (const double seconds = positive_number(name); seconds > 0)
+                asked.timeout_seconds = seconds;
+        } else if (name == "--seconds") {
+            asked.seconds = positive_number(name);
+        } else if (name == "--cycles") {
+            take_cycles(value(name));
+        } else if (name == "--pids") {
+            take_pids(value(name));
+        } else if (name == "--run") {
+            asked.run = value(name);
+        } else if (name == "--log") {
+            asked.log = true;
         } else if (name == "--json") {
             asked.json = true;
         } else if (name == "--yes") {
@@ -114,14 +128,35 @@ class argument_reader {
         result_.asked.adapter_port = text.substr(colon + 1);
     }
 
-    void take_timeout(const std::string& text) {
+    double positive_number(const std::string& name) {
+        const std::string text = value(name);
         double seconds = 0;
         const auto read = std::from_chars(text.data(), text.data() + text.size(), seconds);
-        if (read.ec != std::errc() || read.ptr != text.data() + text.size() || !(seconds > 0) ||
-            seconds > 1e6)
-            fail("--timeout needs a number of seconds above 0");
-        else
-            result_.asked.timeout_seconds = seconds;
+        if (read.ec == std::errc() && read.ptr == text.data() + text.size() && seconds > 0 &&
+            seconds <= 1e6)
+            return seconds;
+        fail(name + " needs a number of seconds above 0");
+        return 0;
+    }
+
+    void take_cycles(const std::string& text) {
+        unsigned long long cycles = 0;
+        const auto read = std::from_chars(text.data(), text.data() + text.size(), cycles);
+        if (read.ec != std::errc() || read.ptr != text.data() + text.size() || cycles == 0)
+            fail("--cycles needs a number above 0");
+        result_.asked.cycles = cycles;
+    }
+
+    // Two hex digits each, separated by commas.
+    void take_pids(const std::string& text) {
+        for (const std::string_view part : split(text, ",")) {
+            std::string pid(part);
+            std::ranges::transform(pid, pid.begin(),
+                                   [](unsigned char c) { return std::toupper(c); });
+            if (pid.size() != 2 || !is_hex(pid))
+                fail("--pids needs two hex digits for each parameter, such as 0D,0C");
+            result_.asked.pids.push_back(pid);
+        }
     }
 
     void check() {
@@ -146,6 +181,14 @@ class argument_reader {
             fail("command " + asked.command + " needs an argument");
         else if (asked.arguments.size() > found->most)
             fail("command " + asked.command + " takes no argument " + asked.arguments[found->most]);
+        if (asked.command != "live" && (!asked.pids.empty() || asked.log || asked.run != "log" ||
+                                        asked.seconds > 0 || asked.cycles > 0))
+            fail("--pids, --run, --seconds, --cycles and --log belong to the command live");
+        static const std::set<std::string, std::less<>> RUNS{"log", "fuel", "o2", "boost"};
+        if (!RUNS.contains(asked.run))
+            fail("--run is one of log, fuel, o2, boost");
+        else if (!asked.pids.empty() && asked.run != "log")
+            fail("--pids goes with --run log; the other runs have parameters of their own");
         if (asked.command == "clear" && !asked.yes)
             fail("clear erases codes and test results in the car: repeat it with --yes");
         if (asked.command == "send")
@@ -185,6 +228,8 @@ Commands
   codes                 read lamp, trouble codes and readiness monitors
   clear --yes           clear the trouble codes
   send COMMAND...       send each command and print the raw reply
+  live [--pids 0D,0C] [--run log|fuel|o2|boost] [--seconds N | --cycles N] [--log]
+                        sample without pause and print the values of each cycle
   decode REPLY... [--units metric|imperial]
                         what replies to service 01 requests mean: text and number
   vin REPLY             the vehicle identification number in a reply to 09 02
@@ -201,7 +246,7 @@ Options
   --screen NAME         open with codes, live, prefs or expert
   --screenshot FILE     save a picture of the window (PNG) and leave
   --json                print one JSON object
-  --timeout SECONDS     bound for the whole command (default 60)
+  --timeout SECONDS     bound for the whole command (default 60; none for live)
   --help, --version
 
 Exit status: 0 success, 1 the task failed or timed out, 2 the arguments make no sense.
@@ -210,6 +255,7 @@ Examples
   kestrom --demo codes
   kestrom --adapter 192.168.0.10:35000 codes --json
   kestrom --adapter 192.168.0.10:35000 send "AT RV" "01 0C"
+  kestrom --demo live --pids 0C,0D --cycles 20
   kestrom decode "41 0C 1A F8" --units metric
   kestrom export log_Nov_15_2026-0254_33.gol
 )";

@@ -19,7 +19,12 @@ struct cli_request {
     std::vector<std::string> arguments; // of the command
     bool yes = false;
     bool json = false;
-    double timeout_seconds = 60;
+    std::optional<double> timeout_seconds; // absent: the command's own bound
+    std::vector<std::string> pids;         // of a live run; empty: the user's
+    std::string run = "log";               // "log", "fuel", "o2" or "boost"
+    double seconds = 0;                    // of a live run; 0: no end
+    unsigned long long cycles = 0;         // likewise
+    bool log = false;
     bool help = false;
     bool version = false;
 

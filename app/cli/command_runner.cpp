@@ -3,6 +3,7 @@
 #include "console_alerts.h"
 #include "expertCtrlr.h"
 #include "Ks_lite_delegate.h"
+#include "live_command.h"
 #include "readCodes.h"
 #include "reply_accumulator.h"
 #include "report_printer.h"
@@ -13,13 +14,18 @@
 
 namespace {
 constexpr int LOOK_EVERY_MS = 5;
+constexpr double DEFAULT_BOUND_SECONDS = 60;
 }
 
 command_runner::command_runner(const cli_request& asked, Ks_lite_delegate& delegate,
                                console_alerts& messages)
     : asked_(asked), delegate_(delegate), messages_(messages) {
     delegate_.status_shown = [this](const std::string& text) {
-        if (!text.empty())
+        if (text.empty())
+            return;
+        if (live_ && !statuses_.empty()) // a run may last a day: only the last one counts
+            statuses_.back() = text;
+        else
             statuses_.push_back(text);
     };
     connect(&look_timer_, &QTimer::timeout, this, [this] { look(); });
@@ -27,12 +33,18 @@ command_runner::command_runner(const cli_request& asked, Ks_lite_delegate& deleg
     connect(&bound_, &QTimer::timeout, this, [this] { end(false, "the time limit has passed"); });
 }
 
+command_runner::~command_runner() = default;
+
 void command_runner::start(std::function<void(int)> done) {
     done_ = std::move(done);
-    bound_.start(static_cast<int>(std::min(asked_.timeout_seconds * 1000, 2e9)));
+    if (asked_.timeout_seconds || asked_.command != "live")
+        bound_.start(static_cast<int>(
+            std::min(asked_.timeout_seconds.value_or(DEFAULT_BOUND_SECONDS) * 1000, 2e9)));
     look_timer_.start(LOOK_EVERY_MS);
     if (asked_.command == "send")
         start_send();
+    else if (asked_.command == "live")
+        start_live();
     else
         start_codes();
 }
@@ -51,6 +63,11 @@ void command_runner::start_send() {
     expert_ = static_cast<expertCtrlr*>(delegate_.current_screen());
     expert_->received = [this](const std::string& chunk) { take_reply(chunk); };
     next_send();
+}
+
+void command_runner::start_live() {
+    live_ = std::make_unique<live_command>(asked_, delegate_, [this] { finish_live(); });
+    live_->start();
 }
 
 void command_runner::next_send() {
@@ -73,6 +90,8 @@ void command_runner::take_reply(const std::string& chunk) {
 bool command_runner::over() const {
     if (codes_ && !codes_->task_running())
         return true;
+    if (live_ && live_->over())
+        return true;
     return reply_complete_ || messages_.endless() || !delegate_.anything_outstanding();
 }
 
@@ -82,6 +101,10 @@ void command_runner::look() {
         return;
     if (codes_) {
         finish_codes();
+        return;
+    }
+    if (live_) {
+        finish_live();
         return;
     }
     if (!reply_complete_) {
@@ -105,6 +128,16 @@ void command_runner::finish_codes() {
                                                  : statuses_.back());
 }
 
+void command_runner::finish_live() {
+    std::string why = live_->what_went_wrong();
+    const bool logged = why.empty();
+    if (logged && !messages_.messages().empty())
+        why = messages_.messages().back();
+    else if (logged && !statuses_.empty())
+        why = statuses_.back();
+    end(live_->succeeded() && logged, why);
+}
+
 void command_runner::interrupt() {
     end(false, "interrupted");
 }
@@ -112,7 +145,9 @@ void command_runner::interrupt() {
 void command_runner::end(bool succeeded, const std::string& why) {
     look_timer_.stop();
     bound_.stop();
-    if (asked_.json) {
+    if (live_) {
+        live_->finish();
+    } else if (asked_.json) {
         const conversation_log log{delegate_.current_screen() && codes_ ? codes_->status()
                                                                         : expert_->status(),
                                    messages_.messages(), statuses_};

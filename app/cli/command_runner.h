@@ -8,17 +8,20 @@
 #include <QTimer>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 class console_alerts;
 class expertCtrlr;
 class Ks_lite_delegate;
+class live_command;
 class readCodes;
 
 class command_runner final : public QObject {
   public:
     command_runner(const cli_request& asked, Ks_lite_delegate& delegate, console_alerts& messages);
+    ~command_runner() override;
 
     // Begins; `done` is told the exit status from the event loop.
     void start(std::function<void(int exit_status)> done);
@@ -28,9 +31,11 @@ class command_runner final : public QObject {
   private:
     void start_codes();
     void start_send();
+    void start_live();
     void look();
     bool over() const;
     void finish_codes();
+    void finish_live();
     void next_send();
     void take_reply(const std::string& chunk);
     void end(bool succeeded, const std::string& why);
@@ -43,6 +48,7 @@ class command_runner final : public QObject {
     QTimer bound_;
     std::vector<std::string> statuses_;
 
+    std::unique_ptr<live_command> live_;
     readCodes* codes_ = nullptr;
     expertCtrlr* expert_ = nullptr;
     std::size_t sent_ = 0;

@@ -91,3 +91,9 @@ void print_replies_json(const std::vector<std::string>& commands,
 std::string printable(const std::string& text) {
     return display_text(text).toStdString();
 }
+
+std::string json_string(std::string_view text) {
+    const QByteArray array =
+        QJsonDocument(QJsonArray{json_text(text)}).toJson(QJsonDocument::Compact);
+    return array.mid(1, array.size() - 2).toStdString();
+}

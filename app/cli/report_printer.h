@@ -4,6 +4,7 @@
 #include "readCodes.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 struct conversation_log {
@@ -21,3 +22,6 @@ void print_replies_json(const std::vector<std::string>& commands,
 // Without control characters, so that an adapter's bytes do not drive the terminal; line ends
 // become "\n".
 std::string printable(const std::string& text);
+
+// A JSON string, quotes included.
+std::string json_string(std::string_view text);

@@ -99,6 +99,7 @@ class Ks_lite_delegate {
     void obdTimedOutHandler();
     void handleOBDRcvdNotification(const std::string& text);
     void post_received(const std::string& text);
+    void tell_link_lost();
 
     // TCP
     bool openTCP_socky();

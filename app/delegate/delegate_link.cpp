@@ -52,6 +52,11 @@ void Ks_lite_delegate::l_set_status_msg(const std::string& message) {
         mainViewController->set_status_msg(message);
 }
 
+void Ks_lite_delegate::tell_link_lost() {
+    if (mainViewController)
+        mainViewController->link_lost();
+}
+
 void Ks_lite_delegate::adapter_changed() {
     connected_2_KS_interface = false;
     g_cur_protocol.clear();

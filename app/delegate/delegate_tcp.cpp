@@ -63,12 +63,14 @@ void Ks_lite_delegate::stream(stream_side, int handleEvent) {
         attempt_state_ = attempt_state::failed;
         reply_awaited_since_ = {};
         l_set_status_msg("Couldn't connect...Please Check\n\n" + why);
+        tell_link_lost();
         break;
     }
     case STREAM_END:
         qCWarning(log_link, "Disconected");
         reply_awaited_since_ = {}; // nothing more will come
         l_set_status_msg("Disconnected");
+        tell_link_lost();
         break;
     default:
         break;

@@ -21,6 +21,8 @@ class screen_controller {
     // Performs the next step of the screen's current task.
     virtual void work_current_task() {}
     virtual void leave_cur_op_gracefully(const std::string& message) { (void)message; }
+    // The connection has broken, or could not be made: no reply is to come.
+    virtual void link_lost() {}
     // Called before another screen takes this one's place, and before the window closes.
     virtual void save_before_leaving() {}
 };

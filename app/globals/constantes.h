@@ -31,6 +31,9 @@ inline constexpr int TASK_FUEL_ECONOMY = 7;
 inline constexpr int TASK_BOOST = 12;
 inline constexpr int TASK_O2_SAMPLING = 13;
 
+// Barometric pressure where nobody measures it, in kPa.
+inline constexpr int STANDARD_BAROMETER = 101;
+
 // Names of the stored settings.
 inline constexpr char KS_INTERFACE_KEY[] = "KS_interface";
 inline constexpr char WIFI_IP_KEY[] = "wifi_IP";

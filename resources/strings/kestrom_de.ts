@@ -193,9 +193,65 @@ Bitte prüfen Sie:
         <source></source>
         <translation>Live-Daten</translation>
     </message>
-    <message id="ui_live_not_yet">
+    <message id="ui_live_run">
         <source></source>
-        <translation>Die Live-Daten sind noch im Bau. Bis dahin fragt der Bildschirm Experte jeden Messwert ab, zum Beispiel mit 01 0C die Motordrehzahl.</translation>
+        <translation>&amp;Fahrt:</translation>
+    </message>
+    <message id="ui_live_run_hint">
+        <source></source>
+        <translation>Art der Fahrtaufzeichnung</translation>
+    </message>
+    <message id="ui_live_zoom">
+        <source></source>
+        <translation>&amp;Zoom:</translation>
+    </message>
+    <message id="ui_live_zoom_hint">
+        <source></source>
+        <translation>Wie viele der letzten Messungen das große Diagramm zeigt</translation>
+    </message>
+    <message id="ui_live_start">
+        <source></source>
+        <translation>Aufzeichnung starten (Strg+R)</translation>
+    </message>
+    <message id="ui_live_stop">
+        <source></source>
+        <translation>Aufzeichnung beenden (Strg+R)</translation>
+    </message>
+    <message id="ui_live_next_sensors">
+        <source></source>
+        <translation>Nächste &amp;Sonden</translation>
+    </message>
+    <message id="ui_live_strip">
+        <source></source>
+        <translation>Messwerte</translation>
+    </message>
+    <message id="ui_live_strip_hint">
+        <source></source>
+        <translation>Klicken zeigt den Wert im großen Diagramm; mit Strg oder Umschalt mehrere</translation>
+    </message>
+    <message id="ui_live_chart">
+        <source></source>
+        <translation>Diagramm</translation>
+    </message>
+    <message id="ui_live_dial_1">
+        <source></source>
+        <translation>Erstes Rundinstrument</translation>
+    </message>
+    <message id="ui_live_dial_2">
+        <source></source>
+        <translation>Zweites Rundinstrument</translation>
+    </message>
+    <message id="ui_live_empty">
+        <source></source>
+        <translation>Es sind keine Messwerte gewählt. In den Einstellungen lässt sich wählen, was eine Fahrt abfragt.</translation>
+    </message>
+    <message id="ui_live_log_failed">
+        <source></source>
+        <translation>Aufzeichnung in die Datei beendet:</translation>
+    </message>
+    <message id="ui_live_no_sensors">
+        <source></source>
+        <translation>Das Auto meldet keine Lambdasonden</translation>
     </message>
     <message id="ui_expert_title">
         <source></source>

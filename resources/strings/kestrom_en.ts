@@ -193,9 +193,65 @@ Please check:
         <source></source>
         <translation>Live data</translation>
     </message>
-    <message id="ui_live_not_yet">
+    <message id="ui_live_run">
         <source></source>
-        <translation>Live data is being built. Until then, the Expert screen can ask for any parameter, such as 01 0C for the engine speed.</translation>
+        <translation>&amp;Run:</translation>
+    </message>
+    <message id="ui_live_run_hint">
+        <source></source>
+        <translation>Kind of run</translation>
+    </message>
+    <message id="ui_live_zoom">
+        <source></source>
+        <translation>&amp;Zoom:</translation>
+    </message>
+    <message id="ui_live_zoom_hint">
+        <source></source>
+        <translation>How many of the last samples the large chart shows</translation>
+    </message>
+    <message id="ui_live_start">
+        <source></source>
+        <translation>Start the run (Ctrl+R)</translation>
+    </message>
+    <message id="ui_live_stop">
+        <source></source>
+        <translation>Stop the run (Ctrl+R)</translation>
+    </message>
+    <message id="ui_live_next_sensors">
+        <source></source>
+        <translation>Next &amp;sensors</translation>
+    </message>
+    <message id="ui_live_strip">
+        <source></source>
+        <translation>Parameters</translation>
+    </message>
+    <message id="ui_live_strip_hint">
+        <source></source>
+        <translation>Click to show in the large chart; Ctrl or Shift for several</translation>
+    </message>
+    <message id="ui_live_chart">
+        <source></source>
+        <translation>Chart</translation>
+    </message>
+    <message id="ui_live_dial_1">
+        <source></source>
+        <translation>First dial</translation>
+    </message>
+    <message id="ui_live_dial_2">
+        <source></source>
+        <translation>Second dial</translation>
+    </message>
+    <message id="ui_live_empty">
+        <source></source>
+        <translation>No parameters are chosen. Choose what a run asks for in Preferences.</translation>
+    </message>
+    <message id="ui_live_log_failed">
+        <source></source>
+        <translation>Logging stopped:</translation>
+    </message>
+    <message id="ui_live_no_sensors">
+        <source></source>
+        <translation>The car reports no oxygen sensors</translation>
     </message>
     <message id="ui_expert_title">
         <source></source>

@@ -193,9 +193,65 @@ Compruebe que:
         <source></source>
         <translation>Datos en vivo</translation>
     </message>
-    <message id="ui_live_not_yet">
+    <message id="ui_live_run">
         <source></source>
-        <translation>Los datos en vivo están en construcción. Mientras tanto, la pantalla Experto puede pedir cualquier parámetro, por ejemplo 01 0C para el régimen del motor.</translation>
+        <translation>&amp;Medición:</translation>
+    </message>
+    <message id="ui_live_run_hint">
+        <source></source>
+        <translation>Tipo de medición</translation>
+    </message>
+    <message id="ui_live_zoom">
+        <source></source>
+        <translation>&amp;Zoom:</translation>
+    </message>
+    <message id="ui_live_zoom_hint">
+        <source></source>
+        <translation>Cuántas de las últimas mediciones muestra el gráfico grande</translation>
+    </message>
+    <message id="ui_live_start">
+        <source></source>
+        <translation>Iniciar la medición (Ctrl+R)</translation>
+    </message>
+    <message id="ui_live_stop">
+        <source></source>
+        <translation>Detener la medición (Ctrl+R)</translation>
+    </message>
+    <message id="ui_live_next_sensors">
+        <source></source>
+        <translation>&amp;Siguientes sondas</translation>
+    </message>
+    <message id="ui_live_strip">
+        <source></source>
+        <translation>Parámetros</translation>
+    </message>
+    <message id="ui_live_strip_hint">
+        <source></source>
+        <translation>Clic para mostrar en el gráfico grande; Ctrl o Mayús para varios</translation>
+    </message>
+    <message id="ui_live_chart">
+        <source></source>
+        <translation>Gráfico</translation>
+    </message>
+    <message id="ui_live_dial_1">
+        <source></source>
+        <translation>Primer indicador</translation>
+    </message>
+    <message id="ui_live_dial_2">
+        <source></source>
+        <translation>Segundo indicador</translation>
+    </message>
+    <message id="ui_live_empty">
+        <source></source>
+        <translation>No hay parámetros elegidos. Elija en las preferencias lo que pide una medición.</translation>
+    </message>
+    <message id="ui_live_log_failed">
+        <source></source>
+        <translation>Registro interrumpido:</translation>
+    </message>
+    <message id="ui_live_no_sensors">
+        <source></source>
+        <translation>El coche no informa de ninguna sonda de oxígeno</translation>
     </message>
     <message id="ui_expert_title">
         <source></source>

@@ -193,9 +193,65 @@ Veuillez vérifier que :
         <source></source>
         <translation>Données en direct</translation>
     </message>
-    <message id="ui_live_not_yet">
+    <message id="ui_live_run">
         <source></source>
-        <translation>Les données en direct sont en cours de réalisation. En attendant, l'écran Expert peut demander n'importe quel paramètre, par exemple 01 0C pour le régime moteur.</translation>
+        <translation>&amp;Mesure :</translation>
+    </message>
+    <message id="ui_live_run_hint">
+        <source></source>
+        <translation>Type de mesure</translation>
+    </message>
+    <message id="ui_live_zoom">
+        <source></source>
+        <translation>&amp;Zoom :</translation>
+    </message>
+    <message id="ui_live_zoom_hint">
+        <source></source>
+        <translation>Nombre des dernières mesures que montre le grand graphique</translation>
+    </message>
+    <message id="ui_live_start">
+        <source></source>
+        <translation>Démarrer la mesure (Ctrl+R)</translation>
+    </message>
+    <message id="ui_live_stop">
+        <source></source>
+        <translation>Arrêter la mesure (Ctrl+R)</translation>
+    </message>
+    <message id="ui_live_next_sensors">
+        <source></source>
+        <translation>Sondes &amp;suivantes</translation>
+    </message>
+    <message id="ui_live_strip">
+        <source></source>
+        <translation>Paramètres</translation>
+    </message>
+    <message id="ui_live_strip_hint">
+        <source></source>
+        <translation>Cliquer pour montrer dans le grand graphique ; Ctrl ou Maj pour plusieurs</translation>
+    </message>
+    <message id="ui_live_chart">
+        <source></source>
+        <translation>Graphique</translation>
+    </message>
+    <message id="ui_live_dial_1">
+        <source></source>
+        <translation>Premier cadran</translation>
+    </message>
+    <message id="ui_live_dial_2">
+        <source></source>
+        <translation>Deuxième cadran</translation>
+    </message>
+    <message id="ui_live_empty">
+        <source></source>
+        <translation>Aucun paramètre n'est choisi. Choisissez dans les préférences ce qu'une mesure demande.</translation>
+    </message>
+    <message id="ui_live_log_failed">
+        <source></source>
+        <translation>Enregistrement interrompu :</translation>
+    </message>
+    <message id="ui_live_no_sensors">
+        <source></source>
+        <translation>La voiture ne signale aucune sonde à oxygène</translation>
     </message>
     <message id="ui_expert_title">
         <source></source>

@@ -8,16 +8,14 @@
 
 namespace {
 
-constexpr int FARTHEST = 1 << 14;
+constexpr int STRONG = 24;
 
 std::optional<QPoint> point_of(const sample_rows& samples, std::size_t row, std::size_t parameter,
                                const chart_area& area, const chart_limits& limits) {
     const double value = samples.value(row, parameter);
     if (std::isnan(value))
         return std::nullopt;
-    const chart_point p = scale_point(static_cast<int>(row), value, area, limits);
-    const float far = FARTHEST;
-    return QPoint(static_cast<int>(p.x), static_cast<int>(std::clamp(p.y, -far, far)));
+    return QPoint(scale_x(static_cast<double>(row), area, limits), scale_y(value, area, limits));
 }
 
 void paint_segment(canvas& target, QPoint p, QPoint q, const curve_style& style) {
@@ -51,4 +49,25 @@ void paint_every_segment(canvas& target, const sample_rows& samples, std::size_t
             paint_segment(target, *p, *q, style);
         p = q;
     }
+}
+
+picture_difference compare_pictures(const QImage& a, const QImage& b) {
+    picture_difference found;
+    int strong = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y);
+            const QRgb q = b.pixel(x, y);
+            const int apart =
+                std::max({std::abs(qRed(p) - qRed(q)), std::abs(qGreen(p) - qGreen(q)),
+                          std::abs(qBlue(p) - qBlue(q))});
+            found.most = std::max(found.most, apart);
+            found.any += apart > 0 ? 1 : 0;
+            if (apart <= STRONG)
+                continue;
+            ++strong;
+            found.where |= QRect(x, y, 1, 1);
+        }
+    found.strong_percent = 100.0 * strong / (a.width() * a.height());
+    return found;
 }

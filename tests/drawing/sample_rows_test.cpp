@@ -79,62 +79,89 @@ TEST_F(sample_rows_test, extrema_leave_out_the_first_row_and_count_unfilled_plac
     EXPECT_TRUE(std::isnan(rows.lowest(0)));
 }
 
-// Walks the pieces and compares them with the rows one by one.
-void expect_pieces_hold_all(const sample_rows& rows, std::size_t parameter, std::size_t first,
-                            std::size_t end) {
-    std::size_t next = first;
-    std::size_t pieces = 0;
-    const auto skip_unfilled = [&] {
-        while (next < end && !rows.filled(next, parameter))
-            ++next;
-    };
-    rows.for_each_piece(parameter, first, end, [&](const sample_piece& piece) {
-        ++pieces;
-        skip_unfilled();
-        ASSERT_EQ(piece.row, next);
-        ASSERT_LE(next + piece.count, end);
-        double lowest = rows.value(next, parameter);
-        double highest = lowest;
-        for (std::size_t row = next; row < next + piece.count; ++row) {
-            const double value = rows.value(row, parameter);
-            ASSERT_EQ(std::isnan(value), !piece.number());
-            lowest = std::min(lowest, value);
-            highest = std::max(highest, value);
+// Row by row, by what the words of sample_stretch mean.
+sample_stretch added_up(const sample_rows& rows, std::size_t parameter, std::size_t first,
+                        std::size_t end) {
+    sample_stretch sum;
+    for (std::size_t row = first; row < end; ++row) {
+        const double value = rows.value(row, parameter);
+        if (!std::isnan(value)) {
+            (sum.gapped ? sum.tail : sum.head).add(value);
+            sum.last_row = row;
+        } else if (rows.filled(row, parameter)) {
+            if (sum.gapped && sum.tail.count > 1) {
+                sum.inner.add(sum.tail);
+                ++sum.inner_runs;
+            }
+            sum.tail = {};
+            sum.gapped = true;
         }
-        if (piece.number()) {
-            ASSERT_EQ(piece.lowest, lowest);
-            ASSERT_EQ(piece.highest, highest);
-        }
-        next += piece.count;
-    });
-    skip_unfilled();
-    EXPECT_EQ(next, end);
-    if (parameter == 0) { // all numbers: few pieces
-        EXPECT_LE(pieces, 2 * sample_rows::BLOCK * 4);
+    }
+    return sum;
+}
+
+void expect_same(const number_run& found, const number_run& expected) {
+    ASSERT_EQ(found.count, expected.count);
+    ASSERT_EQ(found.lowest, expected.lowest);
+    ASSERT_EQ(found.highest, expected.highest);
+}
+
+void expect_same(const sample_stretch& found, const sample_stretch& expected) {
+    expect_same(found.head, expected.head);
+    expect_same(found.tail, expected.tail);
+    ASSERT_EQ(found.gapped, expected.gapped);
+    ASSERT_EQ(found.inner_runs, expected.inner_runs);
+    expect_same(found.inner, expected.inner);
+    if (found.open_end().count > 0) {
+        ASSERT_EQ(found.last_row, expected.last_row);
     }
 }
 
-TEST_F(sample_rows_test, pieces_hold_every_sample_of_any_window) {
-    std::mt19937 random(7);
-    sample_rows rows(2);
+TEST_F(sample_rows_test, stretches_add_up_to_the_rows_of_any_window_in_any_mixture) {
     constexpr std::size_t COUNT = 9000;
+    // Of a thousand rows so many are gaps, and so many unfilled.
+    const struct {
+        unsigned gaps, unfilled;
+    } mixtures[] = {{0, 0}, {2, 1}, {400, 0}, {0, 400}, {300, 300}, {1000, 0}, {0, 1000}};
+    std::mt19937 random(7);
+    sample_rows rows(std::size(mixtures));
     for (std::size_t i = 0; i < COUNT; ++i) {
         rows.append_fresh_row();
-        rows.file(0, "x", number(random() % 1000));
-        if (const unsigned dice = random() % 400; dice > 1)
-            rows.file(1, "y", number(dice == 2 ? NAN_VALUE : random() % 1000));
+        for (std::size_t p = 0; p < std::size(mixtures); ++p) {
+            const unsigned dice = random() % 1000;
+            if (dice < mixtures[p].gaps)
+                rows.file(p, "y", number(NAN_VALUE));
+            else if (dice >= mixtures[p].gaps + mixtures[p].unfilled)
+                rows.file(p, "x", number(random() % 1000));
+        }
     }
-    for (int i = 0; i < 60; ++i) {
-        const std::size_t first = random() % COUNT;
-        const std::size_t end = first + random() % (COUNT - first + 1);
-        expect_pieces_hold_all(rows, 0, first, end);
-        expect_pieces_hold_all(rows, 1, first, end);
+    for (int i = 0; i < 40; ++i) {
+        const std::size_t first = i == 0 ? 0 : random() % COUNT;
+        const std::size_t end = i == 0 ? COUNT : first + random() % (COUNT - first + 1);
+        for (std::size_t p = 0; p < std::size(mixtures); ++p) {
+            const sample_stretch expected = added_up(rows, p, first, end);
+            expect_same(rows.summary(p, first, end), expected);
+            for (const unsigned taken : {100U, 50U, 0U}) { // the others are asked for in pieces
+                sample_stretch sum;
+                std::size_t stretches = 0;
+                rows.for_each_stretch(p, first, end, [&](const sample_stretch& next) {
+                    if (next.inner_runs > 0 && random() % 100 >= taken)
+                        return false;
+                    sum.append(next);
+                    ++stretches;
+                    return true;
+                });
+                expect_same(sum, expected);
+                if (taken == 100) {
+                    EXPECT_LE(stretches, 2 * sample_rows::BLOCK * 5) << p;
+                }
+            }
+        }
     }
-    expect_pieces_hold_all(rows, 0, 0, COUNT);
 }
 
 #if !defined(__SANITIZE_ADDRESS__)
-TEST_F(sample_rows_test, a_sample_takes_less_than_48_bytes) {
+TEST_F(sample_rows_test, a_sample_takes_less_than_48_bytes_with_gaps_too) {
     const auto in_use = [] {
         const struct mallinfo2 info = mallinfo2();
         return info.uordblks + info.hblkhd;
@@ -146,7 +173,10 @@ TEST_F(sample_rows_test, a_sample_takes_less_than_48_bytes) {
     for (std::size_t i = 0; i < ROWS; ++i) {
         rows.append_fresh_row();
         for (std::size_t p = 0; p < PARAMETERS; ++p)
-            rows.file(p, "410C1AF8", {"1726.00 RPM", 1726});
+            if (p < 2 || i % 3 != 0)
+                rows.file(p, "410C1AF8", {"1726.00 RPM", 1726});
+            else
+                rows.file(p, "NODATA", {"~", NAN_VALUE});
     }
     EXPECT_LE((in_use() - before) / (ROWS * PARAMETERS), 48U);
 }

@@ -114,6 +114,8 @@ TEST(resources, mnemonics_are_there_in_every_language_and_differ_on_each_screen)
                                         "ui_menu_file"};
     const std::vector<std::vector<std::string>> screens{{"ui_read_codes", "ui_clear_codes"},
                                                         {"ui_command_label", "ui_send"},
+                                                        {"ui_live_run", "ui_live_zoom",
+                                                         "ui_live_next_sensors"},
                                                         {"ui_bluetooth", "ui_wifi", "ui_address",
                                                          "ui_port", "ui_metric", "ui_log_runs",
                                                          "ui_defaults"}};

@@ -62,6 +62,7 @@ const translation_case READABLE[] = {
     {"41 1B C8 FF", "1.000  V / 99.22  V"},
     {"41 14 5A", "0.450  V / -100.00  V"},
     {"41 14 5A 7", "0.450  V / -100.00  V"},
+    {"41 14 5A -1", "0.450  V"}, // no byte
     {"41 1C 01", "first mode"},
     {"41 1C 01 FF", "first mode"},
     {"41 1C 04", ""},
@@ -109,6 +110,7 @@ const translation_case READABLE[] = {
     {"41 0D 64\r41 0D 00\r\r>", "62.50 mph", "100.00  Km/h"},
     {"\r\n 41 0d64 \r\n", "62.50 mph", "100.00  Km/h"},
     {"> 41 0D 64", "62.50 mph", "100.00  Km/h"},
+    {">\r41 0D 64\r41 0D 00\r", "62.50 mph", "100.00  Km/h"},
     {"7E 0D 64", "62.50 mph", "100.00  Km/h"},
     {"41 0C 1", "0.00 RPM"},
     {"41 0C zz", "0.00 RPM"},
@@ -144,7 +146,6 @@ const std::string UNREADABLE[] = {
     "G1 0C 1A F8",
     // The first line is all that counts, an echo too.
     "01 0C\r41 0C 1A F8\r\r>",
-    ">\r41 0C 1A F8",
 };
 
 TEST_F(translation_test, replies_read_as_the_display_text_of_either_unit_system) {

@@ -1,0 +1,157 @@
+#include "live_command.h"
+
+#include "actions.h"
+#include "constantes.h"
+#include "fixed_decimals.h"
+#include "Ks_lite_delegate.h"
+#include "report_printer.h"
+#include "text.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <utility>
+
+namespace {
+
+constexpr int TIME_DECIMALS = 3;
+
+int task_of(const std::string& run) {
+    if (run == "fuel")
+        return TASK_FUEL_ECONOMY;
+    if (run == "o2")
+        return TASK_O2_SAMPLING;
+    return run == "boost" ? TASK_BOOST : TASK_RUN_LOG;
+}
+
+std::string number_text(double value, const char* unreadable) {
+    if (!std::isfinite(value))
+        return unreadable;
+    char room[32];
+    return {room, std::to_chars(room, room + sizeof room, value).ptr};
+}
+
+} // namespace
+
+live_command::live_command(const cli_request& asked, Ks_lite_delegate& delegate,
+                           std::function<void()> done)
+    : asked_(asked), delegate_(delegate), done_(std::move(done)) {}
+
+live_command::~live_command() {
+    delegate_.doors().loop.cancel(limit_);
+}
+
+void live_command::start() {
+    delegate_.do_actions();
+    screen_ = static_cast<actions*>(delegate_.current_screen());
+    if (const int task = task_of(asked_.run); task != TASK_RUN_LOG)
+        screen_->choose_run(task);
+    screen_->cycle_completed = [this](const std::vector<translated>& values) {
+        print_cycle(values);
+        if (asked_.cycles != 0 && screen_->cycles() >= asked_.cycles) {
+            finished_as_asked_ = true;
+            done_();
+        }
+    };
+    started_ = delegate_.doors().loop.now();
+    if (asked_.seconds > 0)
+        limit_ = delegate_.doors().loop.after(
+            run_loop::milliseconds(static_cast<std::int64_t>(asked_.seconds * 1000)), [this] {
+                finished_as_asked_ = true;
+                done_();
+            });
+    screen_->runLogs();
+}
+
+bool live_command::over() const {
+    return !screen_->running();
+}
+
+bool live_command::succeeded() const {
+    return screen_->cycles() > 0 && finished_as_asked_;
+}
+
+std::string live_command::what_went_wrong() const {
+    if (!screen_->log_failure().empty())
+        return screen_->log_failure();
+    return finished_as_asked_ && screen_->cycles() == 0 ? "no cycle was completed" : "";
+}
+
+void live_command::finish() {
+    ended_ = delegate_.doors().loop.now();
+    screen_->cycle_completed = nullptr;
+    if (screen_->running())
+        screen_->runLogs();
+    print_summary();
+}
+
+double live_command::seconds() const {
+    return static_cast<double>((ended_ - started_).count()) / 1000;
+}
+
+void live_command::print_header() {
+    header_of_ = screen_->pids();
+    if (asked_.json)
+        return;
+    std::string line;
+    for (const std::string& pid : header_of_) {
+        const mac_toolies& toolies = screen_->toolies;
+        const std::string units = toolies.get_units(pid);
+        std::string name = toolies.get_pid_name(pid, false) + " (" +
+                           std::string(trimmed(units)) + ")";
+        if (name.find_first_of(",\"") != std::string::npos) {
+            std::string quoted = "\"";
+            for (const char c : name)
+                quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
+            name = quoted + "\"";
+        }
+        line += (line.empty() ? "" : ",") + name;
+    }
+    std::printf("%s\n", printable(line).c_str());
+}
+
+void live_command::print_cycle(const std::vector<translated>& values) {
+    if (header_of_ != screen_->pids())
+        print_header();
+    std::string line;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        line += i == 0 ? "" : ",";
+        if (asked_.json)
+            line += "\"" + header_of_[i] + "\":" + number_text(values[i].value, "null");
+        else
+            line += number_text(values[i].value, "nan");
+    }
+    if (asked_.json) {
+        ended_ = delegate_.doors().loop.now();
+        line = "{\"cycle\":" + std::to_string(screen_->cycles()) +
+               ",\"seconds\":" + fixed_decimals(seconds(), TIME_DECIMALS) + ",\"values\":{" + line +
+               "}}";
+    }
+    std::printf("%s\n", line.c_str());
+    std::fflush(stdout); // whoever reads along sees each cycle as it completes
+}
+
+void live_command::print_summary() const {
+    const double elapsed = seconds();
+    // The way to the car is no sampling.
+    const double sampling = static_cast<double>((ended_ - screen_->sampling_since()).count()) / 1000;
+    const double rate =
+        sampling > 0 ? static_cast<double>(screen_->requests_answered()) / sampling : 0;
+    const std::string& log = screen_->log_path();
+    if (asked_.json) {
+        std::printf("{\"cycles\":%llu,\"requests\":%llu,\"seconds\":%s,\"requests_per_second\":%s,"
+                    "\"log\":%s}\n",
+                    static_cast<unsigned long long>(screen_->cycles()),
+                    static_cast<unsigned long long>(screen_->requests_answered()),
+                    fixed_decimals(elapsed, TIME_DECIMALS).c_str(),
+                    fixed_decimals(rate, 1).c_str(), json_string(log).c_str());
+        return;
+    }
+    std::fflush(stdout);
+    std::fprintf(stderr, "%llu cycles, %llu requests in %s s: %s requests per second\n",
+                 static_cast<unsigned long long>(screen_->cycles()),
+                 static_cast<unsigned long long>(screen_->requests_answered()),
+                 fixed_decimals(elapsed, 1).c_str(), fixed_decimals(rate, 1).c_str());
+    if (!log.empty())
+        std::fprintf(stderr, "Log: %s\n", printable(log).c_str());
+}

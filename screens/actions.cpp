@@ -1,0 +1,299 @@
+#include "actions.h"
+
+#include "alerts.h"
+#include "display_text.h"
+#include "globalVars.h"
+#include "live_view.h"
+#include "reply_accumulator.h"
+#include "status_line.h"
+#include "system_log.h"
+#include "thumbnail_strip.h"
+#include "user_defaults.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+constexpr char ALL_POINTS[] = "All sampling points";
+constexpr int FEWEST_POINTS = 20; // in the large chart when zoomed in fully
+constexpr QSizeF DIAL_SIZE(364, 286);
+constexpr std::size_t SENSORS_A_PAGE = 4;
+
+std::string title_of_last(int points) {
+    return "Charting last " + std::to_string(points) + " sampling points";
+}
+
+} // namespace
+
+actions::actions(Ks_lite_delegate& delegate)
+    : obd_screen(delegate), pictures_(toolies, delegate.doors().resources),
+      frames_(delegate.doors().loop, [this] { draw_frame(); }), handshake_(*this) {
+    view_ = std::make_unique<live_view>(delegate, live_pictures::chart_size(), DIAL_SIZE);
+    use_status_line(view_->statusLbl());
+    awakeFromNib();
+}
+
+actions::~actions() {
+    KS_delegate.doors().loop.cancel(straggler_bound_);
+}
+
+QWidget* actions::view() {
+    return view_->root();
+}
+
+void actions::awakeFromNib() {
+    g_cur_task = TASK_RUN_LOG;
+    g_cur_mode = TASK_RUN_LOG;
+    next_step_idx = 0;
+    view_->on_start_stop = [this] { runLogs(); };
+    view_->on_run_selected = [this](int index) { comboBoxSelectionDidChange(index); };
+    view_->on_zoom = [this](double v) { zoomSliderDidChange(v); };
+    view_->on_next_sensors = [this] { show_next_sensors(); };
+    view_->on_resized = [this] { frames_.request(); };
+    view_->thumbiesMtrx().chosen = [this] { cellCicked(); };
+    view_->thumbiesMtrx().exposed = [this] { frames_.request(); };
+    rework_gui_objects(g_cur_task);
+    set_status_msg("");
+}
+
+void actions::initial_setup() {
+    const auto chosen = KS_delegate.doors().defaults.string_array(PIDS_ARRAY_KEY);
+    _pid_logitems_list = chosen.value_or(std::vector<std::string>{});
+    if (!chosen)
+        KS_delegate.doors().message_boxes.show(
+            {"No PIDs seleted ... select them on the prefs option "});
+    build_views();
+    qCDebug(log_screens, "her ------------ 005");
+}
+
+void actions::choose_run(int task) {
+    const auto choices = run_choices();
+    const auto found = std::ranges::find(choices, task, &run_choice::task);
+    if (found != choices.end())
+        view_->select_run(static_cast<int>(found - choices.begin()));
+}
+
+void actions::comboBoxSelectionDidChange(int index) {
+    if (index == l_prev_mode_idx)
+        return;
+    l_prev_mode_idx = index;
+    leave_cur_op_gracefully("");
+    view_->show_next_sensors(false);
+    g_cur_task = run_choices()[static_cast<std::size_t>(index)].task;
+    g_cur_mode = g_cur_task;
+    rework_gui_objects(g_cur_task);
+}
+
+void actions::rework_gui_objects(int mode) {
+    if (const auto parameters =
+            make_live_run(mode, toolies)->parameters(KS_delegate.doors().defaults)) {
+        _pid_logitems_list = *parameters;
+        if (mode == TASK_RUN_LOG && parameters->empty())
+            toolies.myMsgBox("No PIDs selected ... select them on the prefs option ");
+    }
+    if (mode == TASK_BOOST)
+        g_cur_barom_press = STANDARD_BAROMETER;
+    build_views();
+    view_->show_next_sensors(mode == TASK_O2_SAMPLING && run_ &&
+                             _pid_logitems_list.size() > SENSORS_A_PAGE);
+}
+
+void actions::build_views() {
+    cur_pid_showing = 0;
+    view_->show_zoom(false);
+    cur_log_points = sample_rows(_pid_logitems_list.size());
+    cur_log_points.append_fresh_row();
+    these_samples.clear();
+    std::vector<QString> names;
+    for (const std::string& pid : _pid_logitems_list) {
+        these_samples.push_back({pid, "0.0", "0.0", "0.0"});
+        names.push_back(display_text(toolies.get_pid_name(pid, false)));
+    }
+    cycle_values_.assign(_pid_logitems_list.size(), {});
+    // The first thumbnail is selected, and moves the first dial.
+    cur_thumbs_selected.clear();
+    gauge_1_idx = 0;
+    gauge_2_idx = -1;
+    view_->show_second_dial(false);
+    pictures_.rebuild(_pid_logitems_list);
+    pictures_.set_title(ALL_POINTS);
+    pictures_.set_points_shown(-1);
+    view_->reset_zoom();
+    view_->set_thumbnails(names);
+    frames_.request();
+}
+
+void actions::runLogs() {
+    if (keep_logging) {
+        leave_cur_op_gracefully("");
+        return;
+    }
+    begin_task();
+    next_step_idx = 0;
+    view_->show_waity(true);
+    keep_logging = true;
+    work_out_log_file();
+    view_->show_running(true);
+    run_a_log();
+}
+
+void actions::run_a_log() {
+    cur_log_points.clear();
+    add_item_to_log_vector("-X", -1);
+    frames_.request();
+    run_ = make_live_run(g_cur_task, toolies);
+    requests_answered_ = cycles_ = 0;
+    keep_logging = true;
+    next_step_idx = 0;
+    set_status_msg("Starting run log");
+    if (!KS_delegate.openInterfaceConnection())
+        return; // the transport starts the work once the link is up
+    view_->show_waity(true);
+    if (g_connect_with == KS_USE_BT && !connected_2_BT_interface)
+        return;
+    work_when_adapter_is_free();
+}
+
+void actions::work_current_task() {
+    if (!task_running() || awaits_old_reply())
+        return;
+    switch (g_cur_mode) {
+    case MODE_HANDSHAKE:
+        handshake_.connect_2_interface(next_step_idx);
+        break;
+    case TASK_RUN_LOG:
+        work_out_log(next_step_idx);
+        break;
+    case TASK_FUEL_ECONOMY:
+        work_out_mpg(next_step_idx);
+        break;
+    case TASK_BOOST:
+        work_out_boost(next_step_idx);
+        break;
+    case TASK_O2_SAMPLING:
+        work_o2_layout(next_step_idx);
+        break;
+    default:
+        break;
+    }
+}
+
+void actions::handleOBDRcvdMsg(const std::string& text) {
+    qCDebug(log_screens, "readDTC:handleOBDRcvdMsg got the stuff%s", text.c_str());
+    if (text == "Timeout" && g_obd_msg_state == S_FAIL) {
+        if (awaits_old_reply()) {
+            old_reply_is_over();
+        } else if (task_running()) {
+            odb_curReplyBuffyMsg += text; // stands in front of the next reply
+            work_current_task();
+        }
+        return;
+    }
+    if (!accumulate_reply(text))
+        return;
+    if (awaits_old_reply())
+        old_reply_is_over();
+    else if (straggler_bound_ != 0)
+        continue_in_step();
+    else
+        work_current_task();
+}
+
+void actions::leave_cur_op_gracefully(const std::string&) {
+    view_->show_waity(false);
+    cur_log_idx = 0;
+    KS_delegate.doors().loop.cancel(straggler_bound_);
+    straggler_bound_ = 0;
+    if (const auto why = log_out_stream.close())
+        log_failed(*why);
+    keep_logging = false;
+    view_->show_running(false);
+    end_task();
+}
+
+void actions::link_lost() {
+    if (keep_logging)
+        leave_cur_op_gracefully("");
+}
+
+void actions::set_status_msg(const std::string& message) {
+    note_status(message);
+    status_changed_ = true;
+    frames_.request();
+}
+
+void actions::cellCicked() {
+    const std::set<int>& selected = view_->thumbiesMtrx().selected();
+    if (selected.empty())
+        return;
+    const int shown_before = cur_pid_showing;
+    // At the start the first thumbnail is selected without having been clicked.
+    const std::size_t selected_before = std::max<std::size_t>(cur_thumbs_selected.size(), 1);
+    if (selected.size() == 1)
+        cur_pid_showing = *selected.begin();
+    gauge_1_idx = -1;
+    for (int i = 0; i < static_cast<int>(_pid_logitems_list.size()); ++i)
+        pictures_.select_thumbnail(i, selected.contains(i));
+    for (const int tag : selected)
+        if (gauge_1_idx == -1)
+            gauge_1_idx = -tag; // negated on purpose: only the first parameter moves the first dial
+    cur_thumbs_selected = selected;
+    choose_second_dial(selected, selected_before, shown_before);
+    pictures_.set_large_chart(cur_pid_showing, cur_thumbs_selected);
+    pictures_.put_dial_back(0, _pid_logitems_list[static_cast<std::size_t>(cur_pid_showing)]);
+    pictures_.use_realtime_labels(cur_log_points.rows() < 3);
+    frames_.request();
+}
+
+void actions::choose_second_dial(const std::set<int>& selected, std::size_t selected_before,
+                                 int shown_before) {
+    if ((selected_before == 1 && selected.size() >= 2) ||
+        (selected_before >= 3 && selected.size() == 2)) {
+        if (selected.contains(shown_before))
+            cur_pid_showing = shown_before;
+        const auto other = std::ranges::find_if(
+            selected, [this](int tag) { return tag != cur_pid_showing; });
+        gauge_2_idx = *other;
+        view_->show_second_dial(true);
+        pictures_.put_dial_back(1, _pid_logitems_list[static_cast<std::size_t>(gauge_2_idx)]);
+    }
+    if (selected.size() == 1) {
+        view_->show_second_dial(false);
+        gauge_2_idx = -1;
+    }
+}
+
+void actions::zoomSliderDidChange(double v) {
+    const int points = v <= 0   ? FEWEST_POINTS
+                       : v >= 1 ? -1
+                                : static_cast<int>(static_cast<double>(cur_log_points.rows()) * v);
+    pictures_.set_points_shown(points);
+    pictures_.set_title(points < 0 ? ALL_POINTS : title_of_last(points));
+    frames_.request();
+}
+
+void actions::clickIt() {
+    view_->thumbiesMtrx().choose(0);
+}
+
+// Four sensors fit above the chart: brings the next four there and shows the first of them.
+void actions::show_next_sensors() {
+    const auto sensors = static_cast<int>(_pid_logitems_list.size());
+    const int page = static_cast<int>(SENSORS_A_PAGE);
+    const int next = (cur_pid_showing / page + 1) * page;
+    const int first = next < sensors ? next : 0;
+    view_->thumbiesMtrx().choose(first);
+    view_->scroll_to_thumbnail(first);
+}
+
+void actions::draw_frame() {
+    if (status_changed_) {
+        status_changed_ = false;
+        show_status();
+    }
+    if (!view_->root()->isVisible())
+        return; // becoming visible resizes the panel, which asks for a frame
+    view_->show_zoom(cur_log_points.rows() > FEWEST_POINTS);
+    pictures_.draw(*view_, cur_log_points, these_samples);
+}

@@ -1,0 +1,136 @@
+// The live-data screen: the user picks a kind of run, starts and stops it with one button, and
+// watches the run's parameters as thumbnails, one large chart and up to two dials, while the
+// sampling loop asks the car for one after the other without pause.
+//
+// Files: actions.cpp set-up, selection, start and stop, the task engine; actions_sampling.cpp the
+// sampling loop; live_runs what the kinds of run differ in; live_handshake the way to the car;
+// live_view the widgets; live_pictures what they show. Requests leave before anything is drawn or
+// written: pictures and status line follow with the next paced frame.
+#pragma once
+
+#include "frame_pacer.h"
+#include "live_handshake.h"
+#include "live_pictures.h"
+#include "live_runs.h"
+#include "log_file.h"
+#include "obd_screen.h"
+#include "sample_rows.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+class live_view;
+
+class actions final : public obd_screen {
+  public:
+    explicit actions(Ks_lite_delegate& delegate);
+    ~actions() override;
+
+    QWidget* view() override;
+    void set_status_msg(const std::string& message) override;
+    void work_current_task() override;
+    void handleOBDRcvdMsg(const std::string& text) override;
+    void leave_cur_op_gracefully(const std::string& message) override;
+    void link_lost() override;
+
+    // Builds the same views from the user's parameters once more.
+    void initial_setup();
+    // The start/stop button.
+    void runLogs();
+    // Selects a kind of run by its task number, as the run selector would.
+    void choose_run(int task);
+    void comboBoxSelectionDidChange(int index);
+    void rework_gui_objects(int mode);
+    // The selection of thumbnails has changed.
+    void cellCicked();
+    // v: 0 the last 20 rows, 1 all.
+    void zoomSliderDidChange(double v);
+    void clickIt();
+    void show_next_sensors();
+    bool isFlipped() const { return true; }
+
+    bool running() const { return keep_logging; }
+    const std::vector<std::string>& pids() const { return _pid_logitems_list; }
+    // Of the run: when its first cycle began, and what was answered since.
+    run_loop::milliseconds sampling_since() const { return sampling_since_; }
+    std::uint64_t requests_answered() const { return requests_answered_; }
+    std::uint64_t cycles() const { return cycles_; }
+    // The log of the run; empty when there is none.
+    const std::string& log_path() const { return cur_log_file_name; }
+    // Why this run is not, or no longer, logged.
+    const std::string& log_failure() const { return log_failure_; }
+    // Told the values of a cycle, in the order of pids(), after its line is in the log.
+    std::function<void(const std::vector<translated>&)> cycle_completed;
+
+  private:
+    void awakeFromNib();
+    void build_views();
+    void run_a_log();
+    void choose_second_dial(const std::set<int>& selected, std::size_t selected_before, int shown_before);
+    void draw_frame();
+
+    // actions_sampling.cpp
+    void work_out_log(int step);
+    void work_out_mpg(int step) { work_out_log(step); }
+    void work_out_boost(int step) { work_out_log(step); }
+    void work_o2_layout(int step) { work_out_log(step); }
+    void start_sampling();
+    void ask_supported_pids();
+    bool take_supported_pids(const std::string& reply);
+    void begin_cycle();
+    void first_question_answered();
+    std::optional<std::string> screened_reply();
+    void take_reply();
+    std::string reply_to_request(std::string reply);
+    void ask_next(bool out_of_step);
+    void continue_in_step();
+    void ask(const sample_request& request);
+    void prep_and_send_cmd(std::string_view command, int this_time_out);
+    void add_item_to_log_vector(std::string_view this_item_val, int this_idx);
+    void output_MPG_item(int index, const std::string& this_reply_cp);
+    void show_needle(int index);
+    void complete_cycle();
+    void end_by_timeout(const char* message);
+    void fail_with_alert(const std::string& message);
+
+    // the log of the run
+    void work_out_log_file();
+    void write_log_line(const std::string& line);
+    void log_failed(const std::string& why);
+
+    std::unique_ptr<live_view> view_;
+    live_pictures pictures_;
+    frame_pacer frames_;
+    live_handshake handshake_;
+    std::unique_ptr<live_run> run_;
+
+    int cur_pid_showing = 0;
+    std::set<int> cur_thumbs_selected;
+    bool do_the_log = false;
+    log_file log_out_stream;
+    std::string cur_log_file_name;
+    std::string log_failure_;
+    int gauge_1_idx = 0, gauge_2_idx = -1;
+    bool keep_logging = false;
+    int cur_log_idx = 0; // place, in the list of parameters, of what is being asked for
+    std::vector<std::string> _pid_logitems_list;
+    std::optional<std::string> p_cur_avail_pids; // absent and empty differ
+    int p_obdTimeOutCnt = 0;
+    sample_set these_samples;
+    sample_rows cur_log_points;
+    std::vector<translated> cycle_values_;
+    int l_prev_mode_idx = 0;
+
+    std::vector<sample_request> requests_;
+    std::size_t cur_request_ = 0;
+    run_loop::timer_id straggler_bound_ = 0; // the answer that an adapter still owes is awaited
+    bool straggler_came_ = true;
+    run_loop::milliseconds sampling_since_{0};
+    std::uint64_t requests_answered_ = 0, cycles_ = 0;
+    bool status_changed_ = false;
+};

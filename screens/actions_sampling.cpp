@@ -1,0 +1,361 @@
+// The sampling loop of the live-data screen: one request after the other, each as soon as the reply
+// before it has been handled. A request leaves before the log is written and before anything is
+// drawn.
+#include "actions.h"
+#include "alerts.h"
+#include "fuel_economy.h"
+#include "globalVars.h"
+#include "live_view.h"
+#include "system_log.h"
+#include "text.h"
+#include "user_defaults.h"
+
+#include <algorithm>
+#include <cctype>
+#include <exception>
+#include <stdexcept>
+
+namespace {
+
+enum step : int {
+    START = 0,
+    REPLY = 1,
+    FIRST_QUESTION_ANSWERED = 2,
+};
+
+constexpr int SUPPORTED_PIDS_TIME_OUT = 12000;
+constexpr int REPLY_TIME_OUT = 3000;
+constexpr std::size_t LONGEST_SAMPLE = 331;
+
+// How long the answer that is still owed is awaited after one to another request: as long as an
+// adapter at most waits for the car.
+constexpr run_loop::milliseconds STRAGGLER_BOUND{1000};
+
+// The toolkit's operation has another name: asking for this one fails.
+std::string fix_3dos(std::string_view reply) {
+    if (reply.empty())
+        return {};
+    throw std::runtime_error("the toolkit has no operation fix_3dos:");
+}
+
+// The first line that holds anything.
+std::string first_line(const std::string& text) {
+    for (const std::string_view line : split(text, "\r"))
+        if (!line.empty())
+            return std::string(line);
+    return text;
+}
+
+// An answer to a service 01 request for another parameter.
+bool answers_another(std::string_view reply, std::string_view pid) {
+    const std::string_view answered = slice(reply, 2, 2);
+    return reply.starts_with("41") && is_hex(answered) && answered.size() == 2 &&
+           !std::ranges::equal(answered, pid, [](unsigned char a, unsigned char b) {
+               return std::toupper(a) == std::toupper(b);
+           });
+}
+
+// A reply as it goes into the log, where "," and line ends have a meaning of their own.
+std::string log_field(std::string_view reply) {
+    std::string field;
+    for (const char c : reply)
+        if (static_cast<unsigned char>(c) >= ' ' && c != ',' && c != 0x7F)
+            field += c;
+    return field.empty() ? "~" : field;
+}
+
+} // namespace
+
+void actions::work_out_log(int step) {
+    if (!keep_logging)
+        return;
+    try {
+        switch (step) {
+        case START:
+            start_sampling();
+            break;
+        case REPLY:
+            take_reply();
+            break;
+        case FIRST_QUESTION_ANSWERED:
+            first_question_answered();
+            break;
+        default:
+            break;
+        }
+    } catch (const std::exception& failure) {
+        show_err_msg("work_out_log::Did not fully complete: ( " + std::string(failure.what()) +
+                     ")");
+        fail_with_alert(cur_err_msg);
+    }
+}
+
+void actions::start_sampling() {
+    set_status_msg("Starting log");
+    if (!connected_2_KS_interface) {
+        next_step_idx = 0;
+        g_cur_mode = MODE_HANDSHAKE;
+        handshake_.connect_2_interface(0);
+        return;
+    }
+    const std::string reply = odb_curReplyMsg;
+    odb_curReplyMsg.clear();
+    if (p_cur_avail_pids && p_cur_avail_pids->empty()) {
+        if (!cur_cmd.contains("01 00\r")) {
+            ask_supported_pids();
+            return;
+        }
+        if (!take_supported_pids(reply))
+            return;
+    }
+    begin_cycle();
+}
+
+void actions::ask_supported_pids() {
+    g_this_delta = SUPPORTED_PIDS_TIME_OUT;
+    cur_cmd = std::string_view("01 00\r");
+    next_step_idx = START;
+    prep_and_send_cmd(cur_cmd, SUPPORTED_PIDS_TIME_OUT);
+}
+
+// False when the run has ended or the request was repeated.
+bool actions::take_supported_pids(const std::string& reply) {
+    std::string text = without(reply, " ");
+    if (contains(text, "...")) {
+        text = fix_3dos(text);
+        if (contains(text, "UNABLETOCONNECT")) {
+            if (g_retries > 0) {
+                g_retries = 0;
+                keep_logging = false;
+                fail_with_alert("Connection to car issue.. Check and try again");
+                return false;
+            }
+            ++g_retries;
+            ask_supported_pids();
+            return false;
+        }
+    }
+    show_err_msg("Initial reply: ( " + text + ")");
+    const auto messages = mac_toolies::Pull_ECU_msg(text);
+    if (!messages || messages->empty())
+        throw std::runtime_error("no control unit in the answer to 01 00");
+    set_status_msg("Got proper reply: ( " + messages->front() + ")");
+    p_cur_avail_pids = slice(messages->front(), 4);
+    return true;
+}
+
+void actions::begin_cycle() {
+    if (const auto question = run_->first_question()) {
+        requests_ = {{*question, 0}};
+        cur_request_ = 0;
+        g_this_delta = REPLY_TIME_OUT;
+        ask(requests_.front());
+        next_step_idx = FIRST_QUESTION_ANSWERED;
+        return;
+    }
+    if (const auto found = run_->parameters_found()) {
+        if (found->empty()) {
+            set_status_msg(localized("ui_live_no_sensors"));
+            leave_cur_op_gracefully("");
+            return;
+        }
+        _pid_logitems_list = *found;
+        rework_gui_objects(g_cur_task);
+    }
+    requests_ = run_->requests(_pid_logitems_list);
+    if (requests_.empty())
+        throw std::out_of_range("no PIDs selected");
+    cur_request_ = 0;
+    g_this_delta = REPLY_TIME_OUT;
+    straggler_came_ = true;
+    sampling_since_ = KS_delegate.doors().loop.now();
+    ask(requests_.front());
+}
+
+void actions::first_question_answered() {
+    const std::optional<std::string> reply = screened_reply();
+    if (!reply)
+        return;
+    run_->first_question_answered(*reply);
+    begin_cycle();
+}
+
+void actions::ask(const sample_request& request) {
+    cur_log_idx = request.place;
+    const std::string command = "01 " + request.pid + "\r";
+    cur_cmd = std::string_view(command);
+    next_step_idx = REPLY;
+    prep_and_send_cmd(cur_cmd, g_this_delta);
+}
+
+// Neither argument counts, on purpose: what is sent is cur_cmd, and the time-out is g_this_delta.
+void actions::prep_and_send_cmd(std::string_view, int) {
+    g_replies_expected = 1;
+    g_obd_msg_state = S_WAITING;
+    sendOBDcmd(cur_cmd);
+}
+
+void actions::add_item_to_log_vector(std::string_view this_item_val, int this_idx) {
+    if (this_idx < 0) {
+        cur_log_points.append_fresh_row();
+        return;
+    }
+    const auto place = static_cast<std::size_t>(this_idx);
+    cycle_values_[place] = toolies.translate_once(this_item_val);
+    these_samples[place][1] = cycle_values_[place].text;
+    cur_log_points.file(place, this_item_val, cycle_values_[place]);
+}
+
+void actions::end_by_timeout(const char* message) {
+    connected_2_KS_interface = false;
+    next_step_idx = 0;
+    leave_cur_op_gracefully("");
+    set_status_msg(message);
+}
+
+void actions::fail_with_alert(const std::string& message) {
+    KS_delegate.doors().message_boxes.show({message});
+    leave_cur_op_gracefully("");
+}
+
+// The first line of the reply without blanks, "~" for one that the adapter did not understand;
+// nothing when the run has ended.
+std::optional<std::string> actions::screened_reply() {
+    if (g_obd_msg_state == S_FAIL) {
+        end_by_timeout("Timed out .. Try again");
+        return std::nullopt;
+    }
+    if (p_obdTimeOutCnt < 1 && mac_toolies::clean_a_reply(odb_curReplyMsg).empty()) {
+        end_by_timeout("Timed out** .. Try again");
+        return std::nullopt;
+    }
+    std::string reply = p_obdTimeOutCnt < 1 ? odb_curReplyMsg : "~";
+    if (contains(reply, "UNABLE TO CONNECT")) {
+        fail_with_alert("Did not get a reply from Car port.  Check ignition key is at least in "
+                        "position 2(right before crank) and pairing/connections");
+        return std::nullopt;
+    }
+    if (contains(reply, "?")) {
+        if (g_retries > 0) {
+            g_retries = 0;
+            fail_with_alert("Did not understand cmd  ... Try again");
+            return std::nullopt;
+        }
+        ++g_retries;
+        reply = "~";
+    }
+    reply = first_line(without(reply, " "));
+    reply.resize(std::min(reply.size(), LONGEST_SAMPLE));
+    return reply;
+}
+
+void actions::take_reply() {
+    const std::optional<std::string> screened = screened_reply();
+    if (!screened)
+        return;
+    ++requests_answered_;
+    const sample_request asked = requests_[cur_request_];
+    const bool out_of_step = answers_another(*screened, asked.pid);
+    // What answers another request is not filed under this one's name.
+    const std::string reply = run_->reply_to_file(asked, out_of_step ? "~" : *screened);
+    show_err_msg("Got proper reply: ( " + *screened + ")");
+    qCDebug(log_screens, "loggy:%s", reply.c_str());
+    add_item_to_log_vector(reply, cur_log_idx);
+    pictures_.use_realtime_labels(false);
+    pictures_.sample_changed(cur_log_idx);
+    show_needle(cur_log_idx);
+    frames_.request();
+
+    if (++cur_request_ < requests_.size()) {
+        ask_next(out_of_step);
+        return;
+    }
+    cur_request_ = 0;
+    if (const auto computed = run_->cycle_answered()) {
+        cur_log_idx = computed->place;
+        output_MPG_item(computed->place, computed->reply);
+    }
+    ask_next(out_of_step); // before the disk and the listener take their time
+    complete_cycle();
+}
+
+void actions::show_needle(int index) {
+    const double value = cycle_values_[static_cast<std::size_t>(index)].value;
+    if (index == gauge_1_idx)
+        pictures_.move_needle(0, value);
+    if (index == gauge_2_idx)
+        pictures_.move_needle(1, value);
+}
+
+// A computed item: unlike an answered one it moves the first dial when the large chart shows it.
+void actions::output_MPG_item(int index, const std::string& this_reply_cp) {
+    add_item_to_log_vector(this_reply_cp, index);
+    pictures_.sample_changed(cur_log_idx);
+    const double value = cycle_values_[static_cast<std::size_t>(index)].value;
+    if (pictures_.is_plotting(index))
+        pictures_.move_needle(0, value);
+    if (cur_log_idx == gauge_2_idx)
+        pictures_.move_needle(1, value);
+    frames_.request();
+}
+
+// An answer to another request than the last means that the adapter owes one: it is awaited and
+// dropped, or every answer from now on would be one behind. An adapter that owed none after all is
+// not waited for again until it has given a right answer.
+void actions::ask_next(bool out_of_step) {
+    if (!out_of_step)
+        straggler_came_ = true;
+    if (out_of_step && straggler_came_) {
+        straggler_came_ = false;
+        straggler_bound_ =
+            KS_delegate.doors().loop.after(STRAGGLER_BOUND, [this] { continue_in_step(); });
+        return;
+    }
+    ask(requests_[cur_request_]);
+}
+
+void actions::continue_in_step() {
+    KS_delegate.doors().loop.cancel(straggler_bound_);
+    straggler_bound_ = 0;
+    ask(requests_[cur_request_]);
+}
+
+void actions::complete_cycle() {
+    std::string line;
+    const std::size_t row = cur_log_points.rows() - 1;
+    if (do_the_log && log_out_stream.is_open())
+        for (std::size_t place = 0; place < _pid_logitems_list.size(); ++place)
+            line += (place == 0 ? "" : ",") + log_field(cur_log_points.text(row, place));
+    add_item_to_log_vector("-X", -1);
+    ++cycles_;
+    if (!line.empty())
+        write_log_line(line + "\n");
+    if (cycle_completed)
+        cycle_completed(cycle_values_);
+}
+
+void actions::work_out_log_file() {
+    log_failure_.clear();
+    view_->show_log_mark("");
+    if (!KS_delegate.doors().defaults.boolean(LOG_RUNS_KEY))
+        return;
+    do_the_log = true;
+    const std::string vehicle = g_vehicle_idx > 0 ? std::to_string(g_vehicle_idx) : std::string();
+    cur_log_file_name = vehicle + toolies.work_out_log_fname_for_mode(g_cur_task) +
+                        (g_cur_task == TASK_RUN_LOG ? ".gol" : ".txt");
+    if (const auto why = log_out_stream.create(cur_log_file_name)) {
+        qCWarning(log_screens, "work_out_log_file::%s", why->c_str());
+        log_failed(*why);
+    }
+}
+
+void actions::write_log_line(const std::string& line) {
+    if (const auto why = log_out_stream.append_line(line))
+        log_failed(*why);
+}
+
+// The run goes on; the mark stays until the next one starts.
+void actions::log_failed(const std::string& why) {
+    log_failure_ = localized("ui_live_log_failed") + " " + why;
+    view_->show_log_mark(log_failure_);
+}

@@ -1,0 +1,26 @@
+// Paces drawing: at most 60 frames a second, and after a frame that took d the next waits at least
+// 3 d, so that drawing never takes more than a quarter of the time. Owned by a screen.
+#pragma once
+
+#include "run_loop.h"
+
+#include <functional>
+
+class frame_pacer {
+  public:
+    frame_pacer(run_loop& loop, std::function<void()> draw);
+    ~frame_pacer();
+    frame_pacer(const frame_pacer&) = delete;
+    frame_pacer& operator=(const frame_pacer&) = delete;
+
+    // A frame is to be drawn: as soon as the pace allows, from the run loop.
+    void request();
+
+  private:
+    void draw_frame();
+
+    run_loop& loop_;
+    std::function<void()> draw_;
+    run_loop::timer_id pending_ = 0;
+    run_loop::microseconds next_frame_{0};
+};

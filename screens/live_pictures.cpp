@@ -1,0 +1,141 @@
+#include "live_pictures.h"
+
+#include "live_view.h"
+#include "sample_rows.h"
+#include "thumbnail_strip.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr QSizeF THUMBNAIL_SIZE(200, 200);
+
+} // namespace
+
+live_pictures::live_pictures(const mac_toolies& toolies, const bundle& resources)
+    : doors_(toolies.doors()), cur_zoom_chart(toolies.doors()),
+      dials_{{myGauge(resources, toolies)}, {myGauge(resources, toolies)}} {
+    cur_zoom_chart.initWitdim(chart_size(), "main");
+    cur_zoom_chart.setThumbnail(false);
+}
+
+void live_pictures::rebuild(const std::vector<std::string>& pids) {
+    pids_ = pids;
+    images_4_top.clear();
+    images_4_top.reserve(pids.size());
+    for (std::size_t i = 0; i < pids.size(); ++i) {
+        images_4_top.push_back({drawChartyItem(doors_)});
+        drawChartyItem& item = images_4_top.back().chart;
+        item.initWitdim(THUMBNAIL_SIZE, pids[i]);
+        item.set_item_2_plot(static_cast<int>(i));
+        item.use_this_pids(pids);
+        item.set_thumb_selected(i == 0);
+    }
+    cur_zoom_chart.use_this_pids(pids);
+    set_large_chart(0, {});
+    for (int i = 0; i < 2; ++i)
+        put_dial_back(i, pids.empty() ? std::string() : pids.front());
+    realtime_labels_ = true;
+    all_changed();
+}
+
+void live_pictures::set_large_chart(int shown_index, const std::set<int>& indices_plotted) {
+    cur_zoom_chart.set_item_2_plot(shown_index);
+    cur_zoom_chart.updateNoOfPlots(indices_plotted);
+    large_chart_changed_ = true;
+}
+
+void live_pictures::set_title(const std::string& title) {
+    cur_chart_title = title;
+    large_chart_changed_ = true;
+}
+
+void live_pictures::set_points_shown(int count) {
+    cur_zoom_chart.setNumberPointsToPlot(count);
+    large_chart_changed_ = true;
+}
+
+void live_pictures::select_thumbnail(int index, bool selected) {
+    thumbnail& at = images_4_top[static_cast<std::size_t>(index)];
+    at.changed = at.changed || at.chart.isSelectedThumb() != selected;
+    at.chart.set_thumb_selected(selected);
+}
+
+void live_pictures::sample_changed(int index) {
+    if (static_cast<std::size_t>(index) < images_4_top.size())
+        images_4_top[static_cast<std::size_t>(index)].changed = true;
+    if (is_plotting(index))
+        large_chart_changed_ = true;
+}
+
+void live_pictures::put_dial_back(int which, const std::string& pid) {
+    dials_[which].pid = pid;
+    dials_[which].put_back = true;
+    dials_[which].needle_moved = false;
+}
+
+void live_pictures::move_needle(int which, double value) {
+    dials_[which].value = value;
+    dials_[which].needle_moved = true;
+}
+
+void live_pictures::all_changed() {
+    for (thumbnail& at : images_4_top)
+        at.changed = true;
+    large_chart_changed_ = true;
+}
+
+void live_pictures::draw_dial(dial& shown, picture_view& view) {
+    const double scale = view.pixel_scale();
+    if (scale <= 0 || shown.pid.empty())
+        return;
+    const bool resized = scale != shown.scale;
+    shown.scale = scale;
+    shown.gauge.set_pixel_scale(scale);
+    if (shown.put_back)
+        shown.gauge.swapCurGaugeBack(shown.pid);
+    if (shown.needle_moved)
+        shown.gauge.draw_cur_needle_value(shown.value);
+    if (resized || shown.put_back || shown.needle_moved)
+        view.set_image(shown.gauge.imageRepresentation());
+    shown.put_back = shown.needle_moved = false;
+}
+
+void live_pictures::draw(live_view& view, const sample_rows& rows, const sample_set& samples) {
+    if (pids_.empty())
+        return;
+    const label_records labels = realtime_labels_ ? cur_zoom_chart.work_out_labels_4_realtime()
+                                                  : cur_zoom_chart.work_out_labels(rows);
+    const auto paint = [&](drawChartyItem& chart, double scale, const std::string& title) {
+        chart.set_pixel_scale(scale);
+        chart.update_cur_sample(samples);
+        chart.draw_grid(labels, title);
+        chart.plot_array_list(rows, labels);
+    };
+
+    thumbnail_strip& strip = view.thumbiesMtrx();
+    // Never below 1: a smaller cell gets the picture shrunk, which keeps its lines.
+    const double thumbnail_scale = std::max(
+        1.0, strip.cell_size().width() * strip.devicePixelRatioF() / THUMBNAIL_SIZE.width());
+    for (std::size_t i = 0; i < images_4_top.size(); ++i) {
+        thumbnail& at = images_4_top[i];
+        if (!(at.changed || thumbnail_scale != thumbnail_scale_))
+            continue;
+        at.changed = !strip.in_sight(static_cast<int>(i));
+        if (at.changed)
+            continue; // once it comes into sight
+        paint(at.chart, thumbnail_scale, "");
+        strip.set_picture(static_cast<int>(i), at.chart.imageRepresentation());
+    }
+    thumbnail_scale_ = thumbnail_scale;
+
+    if (const double scale = view.chartFull().pixel_scale();
+        scale > 0 && (large_chart_changed_ || scale != chart_scale_)) {
+        paint(cur_zoom_chart, scale, cur_chart_title);
+        view.chartFull().set_image(cur_zoom_chart.imageRepresentation());
+        chart_scale_ = scale;
+        large_chart_changed_ = false;
+    }
+    draw_dial(dials_[0], view.gauge_uno());
+    draw_dial(dials_[1], view.gauge_dos());
+}

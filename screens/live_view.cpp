@@ -1,0 +1,216 @@
+#include "live_view.h"
+
+#include "bundle.h"
+#include "busy_indicator.h"
+#include "chrome.h"
+#include "display_text.h"
+#include "instrument_panel.h"
+#include "Ks_lite_delegate.h"
+#include "live_runs.h"
+#include "status_line.h"
+#include "thumbnail_strip.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSlider>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int ZOOM_STEPS = 1000;
+constexpr int BUTTON_SIZE = 48;
+constexpr double CELL_SHARE = 0.25; // of the large chart's width
+constexpr int CELL_GAP = 2;
+constexpr int SMALLEST_CELL = 83;
+
+void keep_room(QWidget* widget) {
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(policy);
+}
+
+} // namespace
+
+live_view::live_view(Ks_lite_delegate& delegate, QSizeF chart_units, QSizeF dial_units)
+    : delegate_(delegate) {
+    const screen_bones bones = make_screen_bones(delegate, "ui_live_title", true);
+    root_.reset(bones.root);
+    statusLbl_ = bones.status;
+    waity_ = bones.waity;
+    waity_->hide();
+    build_controls(bones.title_row);
+    build_strip(bones.content);
+
+    panel_ = new instrument_panel(chart_units, dial_units, root());
+    const auto make = [&](const char* name, QSizeF units, std::string_view key) {
+        auto* view = new picture_view(QLatin1String(name), units, panel_);
+        view->setAccessibleName(ui_text(delegate_, key));
+        return view;
+    };
+    chartFull_ = make("chartFull", chart_units, "ui_live_chart");
+    gauge_uno_ = make("gauge_uno", dial_units, "ui_live_dial_1");
+    gauge_dos_ = make("gauge_dos", dial_units, "ui_live_dial_2");
+    gauge_dos_->hide();
+    panel_->rearranged = [this] {
+        fit_thumbnails();
+        if (on_resized)
+            on_resized();
+    };
+    panel_->set_instruments(chartFull_, {gauge_uno_, gauge_dos_});
+    bones.content->addWidget(panel_, 1);
+}
+
+live_view::~live_view() = default;
+
+void live_view::build_controls(QHBoxLayout* row) {
+    log_mark_ = new QLabel(root());
+    log_mark_->setObjectName(QStringLiteral("logMark"));
+    log_mark_->setTextFormat(Qt::PlainText);
+    log_mark_->setWordWrap(true);
+    log_mark_->setMaximumWidth(280);
+    log_mark_->hide();
+    row->addWidget(log_mark_);
+
+    auto* zoom_label = new QLabel(ui_text(delegate_, "ui_live_zoom"), root());
+    charty_zoomer_ = new QSlider(Qt::Horizontal, root());
+    charty_zoomer_->setObjectName(QStringLiteral("charty_zoomer"));
+    charty_zoomer_->setRange(0, ZOOM_STEPS);
+    charty_zoomer_->setValue(ZOOM_STEPS);
+    charty_zoomer_->setPageStep(ZOOM_STEPS / 10);
+    charty_zoomer_->setFixedWidth(140);
+    charty_zoomer_->setToolTip(ui_text(delegate_, "ui_live_zoom_hint"));
+    charty_zoomer_->setAccessibleName(ui_text(delegate_, "ui_live_zoom_hint"));
+    zoom_label->setBuddy(charty_zoomer_);
+    zoom_label->setObjectName(QStringLiteral("zoomLabel"));
+    for (QWidget* widget : {static_cast<QWidget*>(zoom_label), static_cast<QWidget*>(charty_zoomer_)}) {
+        keep_room(widget);
+        widget->hide();
+        row->addWidget(widget);
+    }
+    QObject::connect(charty_zoomer_, &QSlider::valueChanged, root(), [this](int value) {
+        if (on_zoom)
+            on_zoom(static_cast<double>(value) / ZOOM_STEPS);
+    });
+
+    o2SwapBtn_ = new QToolButton(root());
+    o2SwapBtn_->setObjectName(QStringLiteral("o2SwapBtn"));
+    o2SwapBtn_->setText(ui_text(delegate_, "ui_live_next_sensors"));
+    o2SwapBtn_->hide();
+    QObject::connect(o2SwapBtn_, &QToolButton::clicked, root(), [this] { on_next_sensors(); });
+    row->addWidget(o2SwapBtn_);
+
+    auto* run_label = new QLabel(ui_text(delegate_, "ui_live_run"), root());
+    runSelectorCombo_ = new QComboBox(root());
+    runSelectorCombo_->setObjectName(QStringLiteral("runSelectorCombo"));
+    runSelectorCombo_->setAccessibleName(ui_text(delegate_, "ui_live_run_hint"));
+    for (const run_choice& choice : run_choices())
+        runSelectorCombo_->addItem(QLatin1String(choice.name));
+    run_label->setBuddy(runSelectorCombo_);
+    QObject::connect(runSelectorCombo_, &QComboBox::currentIndexChanged, root(), [this](int index) {
+        if (on_run_selected)
+            on_run_selected(index);
+    });
+    row->addSpacing(GRID);
+    row->addWidget(run_label);
+    row->addWidget(runSelectorCombo_);
+    row->addSpacing(GRID);
+
+    startStopBtn_ = new QToolButton(root());
+    startStopBtn_->setObjectName(QStringLiteral("startStopBtn"));
+    startStopBtn_->setAutoRaise(true);
+    startStopBtn_->setIconSize({BUTTON_SIZE, BUTTON_SIZE});
+    startStopBtn_->setFocusPolicy(Qt::StrongFocus);
+    startStopBtn_->setShortcut(Qt::CTRL | Qt::Key_R);
+    QObject::connect(startStopBtn_, &QToolButton::clicked, root(), [this] { on_start_stop(); });
+    row->addWidget(startStopBtn_);
+    root()->setFocusProxy(startStopBtn_);
+    show_running(false);
+}
+
+void live_view::build_strip(QVBoxLayout* column) {
+    xtopActionCharts_ = new QScrollArea(root());
+    xtopActionCharts_->setObjectName(QStringLiteral("xtopActionCharts"));
+    xtopActionCharts_->setFrameShape(QFrame::NoFrame);
+    xtopActionCharts_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    xtopActionCharts_->setFocusPolicy(Qt::NoFocus);
+    thumbiesMtrx_ = new thumbnail_strip(nullptr);
+    thumbiesMtrx_->setAccessibleName(ui_text(delegate_, "ui_live_strip"));
+    thumbiesMtrx_->setToolTip(ui_text(delegate_, "ui_live_strip_hint"));
+    xtopActionCharts_->setWidget(thumbiesMtrx_);
+    xtopActionCharts_->setFixedHeight(
+        THUMBNAIL_HEIGHT + xtopActionCharts_->horizontalScrollBar()->sizeHint().height());
+    column->addWidget(xtopActionCharts_);
+
+    empty_strip_ = new QLabel(ui_text(delegate_, "ui_live_empty"), xtopActionCharts_->viewport());
+    empty_strip_->setObjectName(QStringLiteral("emptyStrip"));
+    empty_strip_->setTextFormat(Qt::PlainText);
+    empty_strip_->setForegroundRole(QPalette::PlaceholderText);
+    empty_strip_->setWordWrap(true);
+    empty_strip_->setMargin(GRID);
+    empty_strip_->hide();
+}
+
+// A quarter of the large chart's width each, so that the first four stand above it.
+void live_view::fit_thumbnails() {
+    const int width = static_cast<int>(chartFull_->width() * CELL_SHARE - CELL_GAP);
+    thumbiesMtrx_->set_cell_size({std::max(width, SMALLEST_CELL), THUMBNAIL_HEIGHT});
+    empty_strip_->resize(xtopActionCharts_->viewport()->size());
+}
+
+void live_view::show_running(bool running) {
+    const bundle& resources = delegate_.doors().resources;
+    startStopBtn_->setIcon(
+        QIcon(display_text(resources.image_path(running ? "stop.svg" : "start.svg"))));
+    const QString what = ui_text(delegate_, running ? "ui_live_stop" : "ui_live_start");
+    startStopBtn_->setToolTip(what);
+    startStopBtn_->setAccessibleName(what);
+}
+
+void live_view::show_waity(bool visible) {
+    waity_->setVisible(visible);
+}
+
+void live_view::show_zoom(bool visible) {
+    charty_zoomer_->setVisible(visible);
+    root()->findChild<QLabel*>(QStringLiteral("zoomLabel"))->setVisible(visible);
+}
+
+void live_view::reset_zoom() {
+    const QSignalBlocker quiet(charty_zoomer_);
+    charty_zoomer_->setValue(ZOOM_STEPS);
+}
+
+void live_view::show_second_dial(bool visible) {
+    if (gauge_dos_->isHidden() != visible)
+        return;
+    gauge_dos_->setVisible(visible);
+    panel_->rearrange();
+}
+
+void live_view::show_next_sensors(bool visible) {
+    o2SwapBtn_->setVisible(visible);
+}
+
+void live_view::select_run(int index) {
+    runSelectorCombo_->setCurrentIndex(index);
+}
+
+void live_view::set_thumbnails(const std::vector<QString>& names) {
+    thumbiesMtrx_->renew(names);
+    empty_strip_->setVisible(names.empty());
+    fit_thumbnails();
+}
+
+void live_view::scroll_to_thumbnail(int index) {
+    xtopActionCharts_->horizontalScrollBar()->setValue(index *
+                                                       thumbiesMtrx_->cell_size().width());
+}
+
+void live_view::show_log_mark(const std::string& text) {
+    log_mark_->setText(display_text(text));
+    log_mark_->setVisible(!text.empty());
+}

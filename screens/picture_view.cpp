@@ -1,0 +1,48 @@
+#include "picture_view.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+picture_view::picture_view(const QString& name, QSizeF units, QWidget* parent)
+    : QWidget(parent), units_(units) {
+    setObjectName(name);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setSizePolicy(policy);
+}
+
+double picture_view::pixel_scale() const {
+    if (!isVisible() || width() < 1 || height() < 1)
+        return 0;
+    // A view that is smaller than the picture gets it shrunk, which keeps its lines.
+    return std::max(1.0, std::min(width() / units_.width(), height() / units_.height()) *
+                             devicePixelRatioF());
+}
+
+void picture_view::set_image(const QImage& image) {
+    image_ = image;
+    update(shown_rect().toAlignedRect());
+}
+
+QRectF picture_view::shown_rect() const {
+    const double scale = std::min(width() / units_.width(), height() / units_.height());
+    const QSizeF size = units_ * scale;
+    // On whole device pixels, so that a picture of the right scale is copied, not resampled.
+    const double ratio = devicePixelRatioF();
+    const auto snap = [ratio](double x) { return std::floor(x * ratio) / ratio; };
+    return {snap((width() - size.width()) / 2), 0, size.width(), size.height()};
+}
+
+void picture_view::paintEvent(QPaintEvent*) {
+    if (image_.isNull())
+        return;
+    QPainter painter(this);
+    const QRectF place = shown_rect();
+    const QSizeF drawn = QSizeF(image_.size()) / devicePixelRatioF();
+    const bool same = std::abs(drawn.width() - place.width()) * devicePixelRatioF() < 1.5 &&
+                      std::abs(drawn.height() - place.height()) * devicePixelRatioF() < 1.5;
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, !same);
+    painter.drawImage(same ? QRectF(place.topLeft(), drawn) : place, image_,
+                      QRectF(image_.rect()));
+}

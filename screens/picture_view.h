@@ -1,0 +1,28 @@
+// Shows one drawn instrument: centred at the top, as large as it fits with its aspect kept. Tells at which
+// scale the picture must be drawn to be shown pixel for pixel; a picture of another scale is
+// stretched until the next one comes.
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+
+class picture_view final : public QWidget {
+  public:
+    // `units`: the picture's size as its drawing counts.
+    picture_view(const QString& name, QSizeF units, QWidget* parent);
+
+    void set_image(const QImage& image);
+    // Pixels a unit; 0 while nothing would be seen.
+    double pixel_scale() const;
+
+    QSize sizeHint() const override { return units_.toSize(); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    QRectF shown_rect() const;
+
+    QSizeF units_;
+    QImage image_;
+};

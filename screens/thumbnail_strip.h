@@ -1,0 +1,60 @@
+// One row of thumbnails, a cell each, of which one or more are selected: a click selects one, Shift
+// extends to it, Ctrl toggles it; arrow keys, Home and End move, with Shift they extend, and the
+// space bar toggles. The selection is never empty while there are cells. Pictures are stretched to
+// their cell both ways. Lives in a scroll area, which it tells to follow the current cell.
+#pragma once
+
+#include <QImage>
+#include <QPixmap>
+#include <QString>
+#include <QWidget>
+
+#include <functional>
+#include <set>
+#include <vector>
+
+class thumbnail_strip final : public QWidget {
+  public:
+    explicit thumbnail_strip(QWidget* parent);
+
+    // The user chose; selected() is what the choice came to.
+    std::function<void()> chosen;
+    // Another part of the strip came into sight.
+    std::function<void()> exposed;
+
+    // A cell for each name; the first is selected.
+    void renew(const std::vector<QString>& names);
+    int cells() const { return static_cast<int>(cells_.size()); }
+    void set_cell_size(QSize size);
+    QSize cell_size() const { return cell_size_; }
+    void set_picture(int cell, const QImage& picture);
+    const std::set<int>& selected() const { return selected_; }
+    // As a plain click on the cell.
+    void choose(int cell);
+    // Whether any of the cell would be seen.
+    bool in_sight(int cell) const;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+
+  private:
+    struct one_cell {
+        QString name;
+        QPixmap picture;
+    };
+    QRect rect_of(int cell) const;
+    int cell_at(QPoint position) const;
+    void extend_to(int cell);
+    void toggle(int cell);
+    void finish_choice(int current);
+
+    std::vector<one_cell> cells_;
+    QSize cell_size_{100, 83};
+    std::set<int> selected_;
+    int anchor_ = 0;  // where extending starts
+    int current_ = 0; // where the keys are
+};

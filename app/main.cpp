@@ -119,6 +119,7 @@ int decode(int argc, char** argv, const cli_request& asked) {
                           .boolean(KS_METRIC_UNITS_KEY));
     const bundle resources;
     const mac_toolies toolies({&resources, &units, nullptr, nullptr});
+    g_cur_barom_press = STANDARD_BAROMETER; // what logs count boost from
     if (asked.command == "decode")
         return run_decode(asked.arguments, toolies, units, std::cout, std::cerr);
     if (asked.command == "vin")

@@ -1,6 +1,8 @@
 #include "export_window.h"
 
 #include "chrome.h"
+#include "constantes.h"
+#include "globalVars.h"
 #include "Ks_lite_delegate.h"
 #include "mac_toolies.h"
 #include "status_line.h"
@@ -157,6 +159,8 @@ void export_window::start_export() {
     progress_->setValue(0);
     progress_->show();
     start_->setEnabled(false);
+    if (g_cur_barom_press == 0) // no boost run yet; logs count boost from the standard pressure
+        g_cur_barom_press = STANDARD_BAROMETER;
     work_ = std::make_unique<log_export>(toolies_);
     take_result(work_->start(folder + name, output_));
 }

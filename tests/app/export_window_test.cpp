@@ -97,6 +97,18 @@ TEST_F(export_window_test, a_long_export_leaves_the_run_loop_free_and_says_where
     EXPECT_EQ(told(), "File (" + path("log_a.txt") + ")already exists.. Bailing out");
 }
 
+TEST_F(export_window_test, boost_counts_from_the_pressure_it_was_logged_against) {
+    std::ofstream(path("boost_a.txt")) << "41E50017\n"; // 23 kPa, 78 below the air around
+    open();
+    press_in_dialog("startExport");
+    finish();
+    std::string header, value;
+    std::ifstream table(path("boost_a.txt.csv"));
+    std::getline(table, header);
+    std::getline(table, value);
+    EXPECT_EQ(value, "-11.310000"); // psi
+}
+
 TEST_F(export_window_test, closing_gives_up_and_leaves_no_file) {
     write_log("log_a.gol", 20000);
     open();

@@ -39,5 +39,6 @@ class tcp_stream_pair final : public QObject, public stream_pair {
     // Scheduled events hold this weakly, so that a pair that is gone raises nothing.
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
     bool bytes_announced_ = false;
+    bool written_since_read_ = false;
     bool ended_ = false;
 };

@@ -32,7 +32,8 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
             const std::string_view mask = masks[i];
             REQUIRE(mask.empty() || (i == group && i < 3 && mask.size() == 8));
             REQUIRE(contains(bare, mask)); // what the car sent, not put together
-            check_bits(mask, i);
+            if (!mask.empty())
+                check_bits(mask, i);
         }
     }
     mac_toolies::is_this_code_available(reply, reply, int(bytes.size()));

@@ -26,7 +26,7 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
         REQUIRE(replies.size() == log->pids.size());
         for (std::size_t p = 0; p < replies.size(); ++p) {
             REQUIRE(log->samples.text(row, p) == without(replies[p], " \r"));
-            const double value = toolkit.decoder.get_OBDVal(replies[p]);
+            const double value = toolkit.decoder.get_OBDVal(log->samples.text(row, p));
             REQUIRE(std::isnan(value) ? std::isnan(log->samples.value(row, p))
                                       : log->samples.value(row, p) == value);
         }

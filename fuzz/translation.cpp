@@ -19,7 +19,8 @@ void check(const mac_toolies& decoder, std::string_view reply) {
     REQUIRE(std::isnan(value) == (text == "~"));
     // The number is the one that the text begins with; texts without one count as 0.
     double printed = 0;
-    std::from_chars(text.data(), text.data() + text.find(' '), printed);
+    const std::string_view number = std::string_view(text).substr(0, text.find(' '));
+    std::from_chars(number.data(), number.data() + number.size(), printed);
     REQUIRE(text == "~" || text == "N/A" || value == printed);
 
     const translated both = decoder.translate_once(reply);

@@ -3,14 +3,18 @@
 add_library(kestrom_options INTERFACE)
 target_compile_options(kestrom_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror
-  -Wno-restrict) # GCC 12 sees overlaps in "text" + std::string() that are not there
+  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict> # GCC 12 sees overlaps in "text" + std::string() that are not there
+  $<$<CXX_COMPILER_ID:Clang>:-Wno-bitwise-instead-of-logical>) # meant: no branches in a loop over pixels
 target_compile_definitions(kestrom_options INTERFACE
   QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
   KESTROM_VERSION="${PROJECT_VERSION}")
 if(KESTROM_SANITIZE)
   target_compile_options(kestrom_options INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(kestrom_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(KESTROM_FUZZ)
+  target_compile_options(kestrom_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 # kestrom_library(NAME SOURCES ... LINKS ...): a static library whose folder is its include path.

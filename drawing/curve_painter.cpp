@@ -79,7 +79,7 @@ class pixel_layer {
         };
         for (std::size_t px = 0; px < area_.top.size(); ++px) {
             const QRgb ground = covered(area_, px) ? shade : 0;
-            line[px] = covered(left_halves_, px) | covered(right_halves_, px) ? ink : ground;
+            line[px] = (covered(left_halves_, px) | covered(right_halves_, px)) ? ink : ground;
         }
     }
 

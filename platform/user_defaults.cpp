@@ -23,6 +23,13 @@ QStringList qstrings(const std::vector<std::string>& values) {
     return list;
 }
 
+// What a damaged file makes of its lines: keys that nobody can ask for. Written back, they would
+// stand for the key that is left without its slashes.
+bool is_damaged(const QString& key) {
+    return key.isEmpty() || key.startsWith(u'/') || key.endsWith(u'/') ||
+           key.contains(QLatin1String("//"));
+}
+
 } // namespace
 
 user_defaults::user_defaults(std::string path) : path_(std::move(path)) {
@@ -39,8 +46,8 @@ void user_defaults::load() {
     if (file.status() != QSettings::NoError)
         qCWarning(log_platform, "settings file %s could not be read whole", path_.c_str());
     for (const QString& key : file.allKeys()) {
-        if (key.isEmpty())
-            continue; // a damaged line
+        if (is_damaged(key))
+            continue;
         const QVariant v = file.value(key);
         // An empty list is written as an invalid value; one entry comes back as plain text.
         if (!v.isValid() || v.typeId() == QMetaType::QStringList) {

@@ -1,0 +1,27 @@
+// Trouble codes, out of replies on CAN and on older buses.
+#include "fuzz_one.h"
+#include "mac_toolies.h"
+#include "text.h"
+
+#include <algorithm>
+
+int fuzz_one(std::span<const std::uint8_t> bytes) {
+    const std::string_view reply = as_text(bytes);
+    // Three codes stand in a line of 14 digits, of which only the answer's two must be there.
+    const auto lines = std::size_t(std::count(reply.begin(), reply.end(), '\r')) + 1;
+    for (const std::string_view mode : {"03", "07", "0A"})
+        for (const bool is_can : {false, true}) {
+            const auto codes = mac_toolies::decode_trouble_codes(mode, reply, is_can);
+            REQUIRE(codes.size() <= bytes.size() / 4 + 3 * lines);
+            for (const std::string& code : codes) {
+                REQUIRE(code.size() == 5);
+                REQUIRE(contains("PCBU", code.substr(0, 1)));
+                REQUIRE(code[1] >= '0' && code[1] <= '3');
+                REQUIRE(is_hex(code.substr(2)));
+            }
+            REQUIRE(mac_toolies::decode_trouble_codes(mode, without(reply, " >\n"), is_can) ==
+                    codes);
+        }
+    mac_toolies::pull_DTC_code(reply);
+    return 0;
+}

@@ -1,4 +1,6 @@
 // Starts Kestrom: the window, or one command without a display.
+#include "bluetooth_door.h"
+#include "bluetooth_scan.h"
 #include "bundle.h"
 #include "car_library.h"
 #include "chart_command.h"
@@ -14,6 +16,7 @@
 #include "qt_run_loop.h"
 #include "quit_signals.h"
 #include "screen_factories.h"
+#include "serial_port_profile.h"
 #include "tcp_adapter_server.h"
 #include "tcp_stream_pair.h"
 #include "user_defaults.h"
@@ -23,6 +26,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -57,7 +61,7 @@ std::unique_ptr<tcp_adapter_server> start_demo_car(const std::string& name) {
 // user's changes.
 std::string settings_path(const cli_request& asked, const QTemporaryDir& scratch) {
     const std::string path = asked.settings.value_or(user_defaults::default_path());
-    if (!asked.demo && !asked.adapter_host)
+    if (!asked.demo && !asked.adapter_host && !asked.bluetooth)
         return path;
     const QString copy = scratch.filePath(QStringLiteral("kestrom.conf"));
     if (asked.settings)
@@ -71,6 +75,12 @@ void use_adapter(user_defaults& store, const std::string& host, const std::strin
     store.set_string(WIFI_PORT_KEY, port);
     if (!store.contains(PIDS_ARRAY_KEY))
         store.set_string_array(PIDS_ARRAY_KEY, {"0D", "11", "0C", "05"});
+}
+
+void use_bluetooth(user_defaults& store, const std::string& address) {
+    store.set_integer(KS_INTERFACE_KEY, KS_USE_BT);
+    store.set_boolean(REUSE_LAST_BT_KEY, true);
+    store.set_string(KS_LAST_BT_KEY, address);
 }
 
 void open_screen(Ks_lite_delegate& delegate, const std::string& name) {
@@ -109,6 +119,15 @@ int decode(int argc, char** argv, const cli_request& asked) {
     return run_mode6(asked.arguments, toolies, std::cout, std::cerr);
 }
 
+int scan_for_bluetooth(int argc, char** argv, const cli_request& asked) {
+    const QCoreApplication application(argc, argv);
+    const bundle resources;
+    bluez_devices devices(QDBusConnection::systemBus());
+    const double seconds =
+        std::min(asked.timeout_seconds, bluez_devices::SEARCH_MS / 1000.0 + 10); // BlueZ may start
+    return run_bluetooth_scan(devices, resources, seconds, asked.json, std::cout, std::cerr);
+}
+
 int run(QApplication& application, const cli_request& asked) {
     const QTemporaryDir scratch;
     std::unique_ptr<tcp_adapter_server> car;
@@ -118,6 +137,8 @@ int run(QApplication& application, const cli_request& asked) {
         use_adapter(defaults, "127.0.0.1", std::to_string(car->port()));
     } else if (asked.adapter_host) {
         use_adapter(defaults, *asked.adapter_host, asked.adapter_port);
+    } else if (asked.bluetooth) {
+        use_bluetooth(defaults, *asked.bluetooth);
     }
 
     qt_run_loop loop;
@@ -128,11 +149,14 @@ int run(QApplication& application, const cli_request& asked) {
     alerts& message_boxes =
         asked.without_display() ? static_cast<alerts&>(printed_alerts) : shown_alerts;
     mac_toolies::initialize({&resources, &defaults, &message_boxes, &notifications});
+    const auto bluetooth = make_bluetooth_door(loop, message_boxes, resources, defaults,
+                                               !asked.without_display());
     Ks_lite_delegate delegate(
         {loop, message_boxes, defaults, resources, notifications,
          [&loop](const std::string& host, long port) -> std::unique_ptr<stream_pair> {
              return std::make_unique<tcp_stream_pair>(loop, host, port);
-         }},
+         },
+         *bluetooth},
         all_screens());
     main_window window(delegate);
     int status = 0;
@@ -183,6 +207,8 @@ int main(int argc, char** argv) {
     }
     if (asked.without_display())
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (asked.command == BLUETOOTH_SCAN)
+        return scan_for_bluetooth(argc, argv, asked);
     if (decodes(asked.command))
         return decode(argc, argv, asked);
     if (!display_there()) {

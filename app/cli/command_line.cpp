@@ -3,6 +3,7 @@
 #include "expertCtrlr.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <set>
@@ -18,6 +19,7 @@ struct verb {
 constexpr verb VERBS[] = {
     {"codes", 0, 0},       {"clear", 0, 0},    {"send", 1, 10'000},
     {"decode", 0, 10'000}, {"vin", 0, 10'000}, {"mode6", 0, 10'000}, {"chart", 0, 10'000},
+    {BLUETOOTH_SCAN, 0, 0},
 };
 
 bool plain_ascii(std::string_view text) {
@@ -64,6 +66,8 @@ class argument_reader {
             given_.reset();
         } else if (name == "--adapter") {
             take_adapter(value(name));
+        } else if (name == "--bluetooth") {
+            take_bluetooth(value(name));
         } else if (name == "--settings") {
             asked.settings = value(name);
         } else if (name == "--screen") {
@@ -114,6 +118,18 @@ class argument_reader {
         result_.asked.adapter_port = text.substr(colon + 1);
     }
 
+    // Six pairs of hexadecimal digits, with colons or dashes between them.
+    void take_bluetooth(const std::string& text) {
+        constexpr std::string_view FORM = "xx:xx:xx:xx:xx:xx";
+        const auto fits = [](char c, char form) {
+            return form == 'x' ? std::isxdigit(static_cast<unsigned char>(c)) != 0
+                               : c == ':' || c == '-';
+        };
+        if (!std::ranges::equal(text, FORM, fits))
+            fail("--bluetooth needs an address such as 00:1D:A5:68:98:8B; see bluetooth-scan");
+        result_.asked.bluetooth = text;
+    }
+
     void take_timeout(const std::string& text) {
         double seconds = 0;
         const auto read = std::from_chars(text.data(), text.data() + text.size(), seconds);
@@ -132,8 +148,8 @@ class argument_reader {
                                                                 "expert"};
         if (!SCREENS.contains(asked.screen))
             fail("--screen is one of codes, live, prefs, expert");
-        if (asked.demo && asked.adapter_host)
-            fail("--demo and --adapter exclude each other");
+        if (asked.demo + asked.adapter_host.has_value() + asked.bluetooth.has_value() > 1)
+            fail("--demo, --adapter and --bluetooth exclude each other");
         if (asked.command.empty()) {
             if (asked.json)
                 fail("--json needs a command");
@@ -189,11 +205,13 @@ Commands
   vin REPLY             the vehicle identification number in a reply to 09 02
   chart LOG.gol --pid PID [--pid PID] -o FILE.png [--scale N] [--dial]
                         draw a run log as a chart, or its last value on a dial
+  bluetooth-scan        list the Bluetooth devices that are paired or in reach
   mode6 ID VALUE        a test result scaled by its unit-and-scaling identifier
 
 Options
   --demo[=CAR]          talk to the built-in virtual car
   --adapter HOST:PORT   talk to this Wi-Fi adapter instead of the one in the settings
+  --bluetooth ADDRESS   talk to this Bluetooth adapter, without asking
   --settings FILE       use this settings file
   --screen NAME         open with codes, live, prefs or expert
   --screenshot FILE     save a picture of the window (PNG) and leave
@@ -206,6 +224,7 @@ Exit status: 0 success, 1 the task failed or timed out, 2 the arguments make no 
 Examples
   kestrom --demo codes
   kestrom --adapter 192.168.0.10:35000 codes --json
+  kestrom --bluetooth 00:1D:A5:68:98:8B codes
   kestrom --adapter 192.168.0.10:35000 send "AT RV" "01 0C"
   kestrom decode "41 0C 1A F8" --units metric
 )";

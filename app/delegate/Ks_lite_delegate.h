@@ -11,6 +11,7 @@
 #include "notification_center.h"
 #include "run_loop.h"
 #include "screen_controller.h"
+#include "serial_port_profile.h"
 #include "stream_pair.h"
 
 #include <functional>
@@ -33,6 +34,7 @@ struct app_doors {
     const bundle& resources;
     notification_center& notifications;
     stream_pair_factory make_streams;
+    serial_port_profile& bluetooth;
 };
 
 // Makes the controller of an interface file; nothing when it cannot be loaded.
@@ -96,7 +98,7 @@ class Ks_lite_delegate {
     void release_current_screen();
 
     // link
-    void obdTimedOutHandler();
+    void obdTimedOutHandler(std::uint64_t timer);
     void handleOBDRcvdNotification(const std::string& text);
     void post_received(const std::string& text);
 
@@ -111,7 +113,14 @@ class Ks_lite_delegate {
 
     // Bluetooth
     bool openSerialPortProfile();
+    std::shared_ptr<bluetooth_device> choose_bluetooth_device();
+    std::shared_ptr<bluetooth_device> last_bluetooth_device() const;
     void sendOBDcmd_BT(std::string_view command);
+    void rfcommChannelOpenComplete(int status);
+    void rfcommChannelData(std::string_view data);
+    void rfcommChannelClosed();
+    void closeDeviceConnectionOnDevice(const std::shared_ptr<bluetooth_device>& device);
+    void closeRFCOMMConnectionOnChannel(const std::shared_ptr<rfcomm_channel>& channel);
 
     app_doors doors_;
     screen_factories factories_;
@@ -122,6 +131,7 @@ class Ks_lite_delegate {
     std::string screen_name_;
 
     run_loop::timer_id obdTimeOutTimer = 0;
+    std::uint64_t timers_armed_ = 0;
     run_loop::milliseconds reply_awaited_since_{0};
     std::uint64_t commands_sent_ = 0;
 
@@ -136,4 +146,8 @@ class Ks_lite_delegate {
     } attempt_state_ = attempt_state::none;
     bool sent_1st_cmd = false;
     run_loop::timer_id deferred_call_ = 0;
+
+    std::shared_ptr<bluetooth_device> mBluetoothDevice; // while connected
+    std::shared_ptr<rfcomm_channel> mRFCOMMChannel;     // never cleared once set
+    bool bluetooth_opening_ = false;
 };

@@ -7,17 +7,19 @@ void Ks_lite_delegate::sendOBDcmd(std::string_view command) {
     // The timer armed before is left running on purpose: if it belongs to a command that is still
     // unanswered, it will report that.
     obdTimeOutTimer =
-        doors_.loop.after(std::chrono::seconds(g_this_delta), [this] { obdTimedOutHandler(); });
+        doors_.loop.after(std::chrono::seconds(g_this_delta),
+                          [this, timer = ++timers_armed_] { obdTimedOutHandler(timer); });
     if (g_connect_with == KS_USE_BT)
         sendOBDcmd_BT(command);
     else
         sendOBDcmd_TCP(command);
 }
 
-void Ks_lite_delegate::obdTimedOutHandler() {
+void Ks_lite_delegate::obdTimedOutHandler(std::uint64_t timer) {
     g_obd_msg_state = S_FAIL;
     odb_curReplyMsg.clear();
-    reply_awaited_since_ = {};
+    if (timer == timers_armed_) // an older command's leaves the last one waiting
+        reply_awaited_since_ = {};
     doors_.notifications.post(OBD_EVENT, "Timeout");
 }
 
@@ -61,5 +63,5 @@ void Ks_lite_delegate::adapter_changed() {
 
 bool Ks_lite_delegate::anything_outstanding() const {
     return reply_awaited_since_.count() != 0 || deferred_call_ != 0 ||
-           attempt_state_ == attempt_state::connecting;
+           attempt_state_ == attempt_state::connecting || bluetooth_opening_;
 }

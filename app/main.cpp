@@ -149,8 +149,8 @@ int run(QApplication& application, const cli_request& asked) {
     alerts& message_boxes =
         asked.without_display() ? static_cast<alerts&>(printed_alerts) : shown_alerts;
     mac_toolies::initialize({&resources, &defaults, &message_boxes, &notifications});
-    const auto bluetooth = make_bluetooth_door(loop, message_boxes, resources, defaults,
-                                               !asked.without_display());
+    const auto bluetooth =
+        make_bluetooth_door(loop, message_boxes, resources, defaults, !asked.without_display());
     Ks_lite_delegate delegate(
         {loop, message_boxes, defaults, resources, notifications,
          [&loop](const std::string& host, long port) -> std::unique_ptr<stream_pair> {

@@ -17,9 +17,8 @@ struct verb {
     std::size_t least, most;
 };
 constexpr verb VERBS[] = {
-    {"codes", 0, 0},       {"clear", 0, 0},    {"send", 1, 10'000},
-    {"decode", 0, 10'000}, {"vin", 0, 10'000}, {"mode6", 0, 10'000}, {"chart", 0, 10'000},
-    {BLUETOOTH_SCAN, 0, 0},
+    {"codes", 0, 0},    {"clear", 0, 0},      {"send", 1, 10'000},  {"decode", 0, 10'000},
+    {"vin", 0, 10'000}, {"mode6", 0, 10'000}, {"chart", 0, 10'000}, {BLUETOOTH_SCAN, 0, 0},
 };
 
 bool plain_ascii(std::string_view text) {

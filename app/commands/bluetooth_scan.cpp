@@ -29,13 +29,12 @@ void print_json(const std::vector<bluetooth_entry>& devices, std::ostream& out) 
         const QJsonValue offer = device.serial_port == serial_port_offer::unknown
                                      ? QJsonValue()
                                      : QJsonValue(device.serial_port == serial_port_offer::yes);
-        list.append(
-            QJsonObject{{QStringLiteral("address"), QString::fromStdString(device.address)},
-                        {QStringLiteral("name"), QString::fromStdString(device.name)},
-                        {QStringLiteral("paired"), device.paired},
-                        {QStringLiteral("signal_dbm"),
-                         device.signal ? QJsonValue(*device.signal) : QJsonValue()},
-                        {QStringLiteral("serial_port"), offer}});
+        list.append(QJsonObject{{QStringLiteral("address"), QString::fromStdString(device.address)},
+                                {QStringLiteral("name"), QString::fromStdString(device.name)},
+                                {QStringLiteral("paired"), device.paired},
+                                {QStringLiteral("signal_dbm"),
+                                 device.signal ? QJsonValue(*device.signal) : QJsonValue()},
+                                {QStringLiteral("serial_port"), offer}});
     }
     out << QJsonDocument(QJsonObject{{QStringLiteral("devices"), list}}).toJson().toStdString();
 }

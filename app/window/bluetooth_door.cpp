@@ -20,12 +20,12 @@ std::unique_ptr<serial_port_profile> make_bluetooth_door(run_loop& loop, alerts&
                                   bluetooth_address(store.string(KS_LAST_BT_KEY)).value_or(""));
             return dialog.exec() == QDialog::Accepted ? dialog.take_connection() : nullptr;
         };
-    const auto tell = [&message_boxes, &texts](bluetooth_problem problem,
-                                               const std::string& device) {
+    const auto tell = [&message_boxes, &texts, somebody_to_ask](bluetooth_problem problem,
+                                                                const std::string& device) {
         alert_request box;
         box.title = "Bluetooth";
         box.message = problem_text(problem, texts, device);
-        if (problem != bluetooth_problem::nobody_to_ask)
+        if (somebody_to_ask) // a command ends anyway
             box.informative = texts.localized("bt_restart_to_connect");
         message_boxes.show(box);
     };

@@ -74,13 +74,13 @@ void device_chooser::build_table() {
     table_ = new QTableView(this);
     table_->setObjectName(QStringLiteral("devices"));
     table_->setAccessibleName(text("bt_devices"));
-    model_ = new rows_model({{QStringLiteral("Name"), text("bt_col_name")},
-                             {QStringLiteral("Address"), text("bt_col_address")},
-                             {QStringLiteral("Paired"), text("bt_col_paired")},
-                             {QStringLiteral("Signal"), text("bt_col_signal")},
-                             {QStringLiteral("Serial"), text("bt_col_serial")}},
-                            [this](int row, const QString& column) { return cell(row, column); },
-                            table_);
+    model_ = new rows_model(
+        {{QStringLiteral("Name"), text("bt_col_name")},
+         {QStringLiteral("Address"), text("bt_col_address")},
+         {QStringLiteral("Paired"), text("bt_col_paired")},
+         {QStringLiteral("Signal"), text("bt_col_signal")},
+         {QStringLiteral("Serial"), text("bt_col_serial")}},
+        [this](int row, const QString& column) { return cell(row, column); }, table_);
     model_->decorate = [this](int row, const QString& column, int role) -> QVariant {
         if (role == Qt::FontRole && column == QLatin1String("Address"))
             return QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -102,6 +102,9 @@ void device_chooser::build_table() {
     fit_column(table_, 3, QStringLiteral("-100 dBm"));
     fit_column(table_, 4, text("bt_when_connecting"));
     hint_ = new empty_hint(table_, QString());
+    // What to do may be a command that one wants to copy.
+    hint_->setAttribute(Qt::WA_TransparentForMouseEvents, false);
+    hint_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     QObject::connect(table_, &QTableView::activated, this, [this] { connect_selected(); });
     QObject::connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
                      [this] { show_state(); });
@@ -218,6 +221,7 @@ void device_chooser::show_state() {
     const bool waiting = connection_ || devices_.starting() || devices_.searching();
     // An empty table says it in the middle, where one looks; what can be read twice is noise.
     hint_->setText(told);
+    hint_->setForegroundRole(usable ? QPalette::PlaceholderText : QPalette::Text);
     state_->setText(entries_.empty() ? QString() : told);
     if (waity_->isHidden() == waiting)
         waity_->setVisible(waiting);
@@ -254,8 +258,8 @@ void device_chooser::connection_done() {
         accept();
         return;
     }
-    failure_ = display_text(problem_text(connection_->problem(), texts_,
-                                         one_line(connecting_name_).toStdString()));
+    failure_ = display_text(
+        problem_text(connection_->problem(), texts_, one_line(connecting_name_).toStdString()));
     connection_.release()->deleteLater();
     refresh();
     table_->setFocus();

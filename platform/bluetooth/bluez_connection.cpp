@@ -61,8 +61,8 @@ class profile_object final : public QDBusVirtualObject {
             return false;
         if (message.member() == QLatin1String("NewConnection") && message.arguments().size() >= 2) {
             const auto handed = qdbus_cast<QDBusUnixFileDescriptor>(message.arguments().at(1));
-            owner_.new_connection(handed.isValid() ? ::fcntl(handed.fileDescriptor(), F_DUPFD_CLOEXEC, 0)
-                                                   : -1);
+            owner_.new_connection(
+                handed.isValid() ? ::fcntl(handed.fileDescriptor(), F_DUPFD_CLOEXEC, 0) : -1);
         }
         // Release and RequestDisconnection: the socket itself tells the end.
         bus.send(message.createReply());

@@ -39,9 +39,9 @@ std::optional<std::string> bluetooth_address(std::string_view text) {
 }
 
 bluez_devices::bluez_devices(QDBusConnection bus)
-    : bus_(std::move(bus)),
-      watcher_(BLUEZ, bus_,
-               QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration) {
+    : bus_(std::move(bus)), watcher_(BLUEZ, bus_,
+                                     QDBusServiceWatcher::WatchForRegistration |
+                                         QDBusServiceWatcher::WatchForUnregistration) {
     search_limit_.setSingleShot(true);
     connect(&search_limit_, &QTimer::timeout, this, &bluez_devices::stop_search);
     if (!bus_.isConnected()) {
@@ -69,10 +69,11 @@ void bluez_devices::load() {
     auto* answer = new QDBusPendingCallWatcher(
         bus_.asyncCall(call(QStringLiteral("/"), OBJECT_MANAGER_INTERFACE, "GetManagedObjects")),
         this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* done) {
-        done->deleteLater();
-        take(done->reply());
-    });
+    connect(answer, &QDBusPendingCallWatcher::finished, this,
+            [this](QDBusPendingCallWatcher* done) {
+                done->deleteLater();
+                take(done->reply());
+            });
 }
 
 void bluez_devices::load_now(int limit_ms) {
@@ -203,11 +204,12 @@ void bluez_devices::start_search() {
     bus_.asyncCall(filter);
     auto* answer = new QDBusPendingCallWatcher(
         bus_.asyncCall(call(adapter_, ADAPTER_INTERFACE, "StartDiscovery")), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* done) {
-        done->deleteLater();
-        if (done->isError())
-            search_failed(done->reply());
-    });
+    connect(answer, &QDBusPendingCallWatcher::finished, this,
+            [this](QDBusPendingCallWatcher* done) {
+                done->deleteLater();
+                if (done->isError())
+                    search_failed(done->reply());
+            });
 }
 
 void bluez_devices::search_failed(const QDBusMessage& reply) {

@@ -21,9 +21,9 @@ class QDBusMessage;
 enum class serial_port_offer { unknown, yes, no }; // unknown: the device was never asked
 
 struct bluetooth_entry {
-    QString path;        // BlueZ's object
-    std::string address; // "00:1A:7D:DA:71:13"
-    std::string name;    // any bytes that are UTF-8; the address when the device told none
+    QString path;              // BlueZ's object
+    std::string address;       // "00:1A:7D:DA:71:13"
+    std::string name;          // any bytes that are UTF-8; the address when the device told none
     std::optional<int> signal; // dBm, of the running or last search
     bool paired = false;
     bool connected = false;

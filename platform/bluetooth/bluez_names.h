@@ -17,8 +17,7 @@ inline const QString OBJECT_MANAGER_INTERFACE =
 inline const QString PROPERTIES_INTERFACE = QStringLiteral("org.freedesktop.DBus.Properties");
 
 // The Serial Port service class, 0x1101, as BlueZ writes it.
-inline const QString SERIAL_PORT_UUID_TEXT =
-    QStringLiteral("00001101-0000-1000-8000-00805f9b34fb");
+inline const QString SERIAL_PORT_UUID_TEXT = QStringLiteral("00001101-0000-1000-8000-00805f9b34fb");
 
 using interface_properties = QMap<QString, QVariantMap>; // by interface name
 using managed_objects = QMap<QDBusObjectPath, interface_properties>;

@@ -379,7 +379,8 @@ Steckt der Adapter, und ist die Zündung an? Hält ein Telefon ihn fest? Suchen 
         <source></source>
         <translation>Auf diesem Rechner läuft der Bluetooth-Dienst nicht.
 
-Installieren Sie das Paket bluez, falls es fehlt, und starten Sie den Dienst: sudo systemctl enable --now bluetooth</translation>
+Installieren Sie das Paket bluez, falls es fehlt, und starten Sie den Dienst:
+sudo systemctl enable --now bluetooth</translation>
     </message>
     <message id="bt_no_adapter">
         <source></source>
@@ -391,7 +392,8 @@ Stecken Sie einen Bluetooth-Stick ein, oder benutzen Sie einen WLAN-Diagnoseadap
         <source></source>
         <translation>Bluetooth ist ausgeschaltet.
 
-Schalten Sie es in den Einstellungen des Desktops ein, oder mit: bluetoothctl power on</translation>
+Schalten Sie es in den Einstellungen des Desktops ein, oder mit:
+bluetoothctl power on</translation>
     </message>
     <message id="bt_not_permitted">
         <source></source>

@@ -379,7 +379,8 @@ Is the adapter plugged in and the ignition on? Does a phone hold it? Then search
         <source></source>
         <translation>The Bluetooth service is not running on this computer.
 
-Install the package bluez if it is missing, and start the service: sudo systemctl enable --now bluetooth</translation>
+Install the package bluez if it is missing, and start the service:
+sudo systemctl enable --now bluetooth</translation>
     </message>
     <message id="bt_no_adapter">
         <source></source>
@@ -391,7 +392,8 @@ Plug in a Bluetooth stick, or use a Wi-Fi diagnostic adapter.</translation>
         <source></source>
         <translation>Bluetooth is switched off.
 
-Switch it on in your desktop's settings, or with: bluetoothctl power on</translation>
+Switch it on in your desktop's settings, or with:
+bluetoothctl power on</translation>
     </message>
     <message id="bt_not_permitted">
         <source></source>

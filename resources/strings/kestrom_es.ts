@@ -379,7 +379,8 @@ Compruebe que:
         <source></source>
         <translation>El servicio Bluetooth no está en marcha en este equipo.
 
-Instale el paquete bluez si falta e inicie el servicio: sudo systemctl enable --now bluetooth</translation>
+Instale el paquete bluez si falta e inicie el servicio:
+sudo systemctl enable --now bluetooth</translation>
     </message>
     <message id="bt_no_adapter">
         <source></source>
@@ -391,7 +392,8 @@ Enchufe una llave Bluetooth o use un adaptador de diagnóstico Wi-Fi.</translati
         <source></source>
         <translation>El Bluetooth está apagado.
 
-Enciéndalo en los ajustes del escritorio, o con: bluetoothctl power on</translation>
+Enciéndalo en los ajustes del escritorio, o con:
+bluetoothctl power on</translation>
     </message>
     <message id="bt_not_permitted">
         <source></source>

@@ -379,7 +379,8 @@ L'adaptateur est-il branché, le contact mis ? Un téléphone l'occupe-t-il ? Ch
         <source></source>
         <translation>Le service Bluetooth ne fonctionne pas sur cet ordinateur.
 
-Installez le paquet bluez s'il manque, et démarrez le service : sudo systemctl enable --now bluetooth</translation>
+Installez le paquet bluez s'il manque, et démarrez le service :
+sudo systemctl enable --now bluetooth</translation>
     </message>
     <message id="bt_no_adapter">
         <source></source>
@@ -391,7 +392,8 @@ Branchez une clé Bluetooth, ou utilisez un adaptateur de diagnostic Wi-Fi.</tra
         <source></source>
         <translation>Le Bluetooth est éteint.
 
-Allumez-le dans les réglages du bureau, ou avec : bluetoothctl power on</translation>
+Allumez-le dans les réglages du bureau, ou avec :
+bluetoothctl power on</translation>
     </message>
     <message id="bt_not_permitted">
         <source></source>

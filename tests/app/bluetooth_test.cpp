@@ -182,9 +182,8 @@ TEST_F(link_over_bluetooth, data_ends_at_its_first_zero_byte_and_nothing_is_post
     const auto watcher = app.notifications.add_observer(
         OBD_EVENT, [&](const std::string& text) { chunks.push_back(text); });
     const std::string flood(200'000, 'A');
-    for (const std::string& data :
-         {std::string(), std::string("41 0C\r>"), std::string("OK\0garbage>", 11),
-          std::string("\0OK", 3), flood})
+    for (const std::string& data : {std::string(), std::string("41 0C\r>"),
+                                    std::string("OK\0garbage>", 11), std::string("\0OK", 3), flood})
         app.bluetooth.receive(data);
     app.loop.settle();
     EXPECT_EQ(chunks, (list{"41 0C\r>", "OK", "", flood}));

@@ -28,6 +28,7 @@ class command_runner final : public QObject {
   private:
     void start_codes();
     void start_send();
+    void look_for_channel();
     void look();
     bool over() const;
     void finish_codes();
@@ -45,6 +46,7 @@ class command_runner final : public QObject {
 
     readCodes* codes_ = nullptr;
     expertCtrlr* expert_ = nullptr;
+    bool channel_awaited_ = false;
     std::size_t sent_ = 0;
     std::string reply_;
     bool reply_complete_ = false;

@@ -98,7 +98,7 @@ class Ks_lite_delegate {
     void release_current_screen();
 
     // link
-    void obdTimedOutHandler(std::uint64_t timer);
+    void obdTimedOutHandler();
     void handleOBDRcvdNotification(const std::string& text);
     void post_received(const std::string& text);
 
@@ -131,7 +131,6 @@ class Ks_lite_delegate {
     std::string screen_name_;
 
     run_loop::timer_id obdTimeOutTimer = 0;
-    std::uint64_t timers_armed_ = 0;
     run_loop::milliseconds reply_awaited_since_{0};
     std::uint64_t commands_sent_ = 0;
 

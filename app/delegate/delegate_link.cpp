@@ -7,19 +7,17 @@ void Ks_lite_delegate::sendOBDcmd(std::string_view command) {
     // The timer armed before is left running on purpose: if it belongs to a command that is still
     // unanswered, it will report that.
     obdTimeOutTimer =
-        doors_.loop.after(std::chrono::seconds(g_this_delta),
-                          [this, timer = ++timers_armed_] { obdTimedOutHandler(timer); });
+        doors_.loop.after(std::chrono::seconds(g_this_delta), [this] { obdTimedOutHandler(); });
     if (g_connect_with == KS_USE_BT)
         sendOBDcmd_BT(command);
     else
         sendOBDcmd_TCP(command);
 }
 
-void Ks_lite_delegate::obdTimedOutHandler(std::uint64_t timer) {
+void Ks_lite_delegate::obdTimedOutHandler() {
     g_obd_msg_state = S_FAIL;
     odb_curReplyMsg.clear();
-    if (timer == timers_armed_) // an older command's leaves the last one waiting
-        reply_awaited_since_ = {};
+    reply_awaited_since_ = {};
     doors_.notifications.post(OBD_EVENT, "Timeout");
 }
 

@@ -41,7 +41,11 @@ class bluez_device final : public bluetooth_device {
             devices.load_now(ASKING_LIMIT_MS);
         // A device that was never asked is asked when connecting.
         const auto known = devices.find(address_);
-        if (uuid != SERIAL_PORT_UUID || (known && known->serial_port == serial_port_offer::no))
+        if (known && known->serial_port == serial_port_offer::no) {
+            door_.tell_(bluetooth_problem::no_serial_port, known->name);
+            return nullptr;
+        }
+        if (uuid != SERIAL_PORT_UUID)
             return nullptr;
         return std::make_shared<bluez_service_record>();
     }

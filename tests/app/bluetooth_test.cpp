@@ -62,17 +62,6 @@ TEST_F(link_over_bluetooth, commands_leave_before_and_again_after_the_channel_is
     EXPECT_EQ(app.last_status(), "Cur op timed out... Please Check/retry");
 }
 
-TEST_F(link_over_bluetooth, an_old_commands_time_out_leaves_the_new_one_waiting) {
-    send("AT I");
-    app.loop.advance(seconds(2));
-    app.bluetooth.open_completes();
-    app.loop.advance(seconds(1)); // "Timeout" of the command that met a closed channel
-    EXPECT_TRUE(app.delegate->anything_outstanding());
-    app.bluetooth.receive("OK\r>");
-    app.loop.settle();
-    EXPECT_FALSE(app.delegate->anything_outstanding());
-}
-
 TEST_F(link_over_bluetooth, the_codes_screen_waits_for_the_channel) {
     app.delegate->do_read_codes();
     app.press("readCodes");

@@ -109,6 +109,7 @@ int bluez_channel::writeSync(std::string_view bytes) {
 void bluez_channel::close_socket() {
     state_ = state::closed;
     readable_.reset();
+    connection_.reset(); // another program may register for the serial port now
     if (descriptor_ == -1)
         return;
     ::shutdown(descriptor_, SHUT_RDWR); // BlueZ keeps a copy of the descriptor
@@ -119,8 +120,5 @@ void bluez_channel::close_socket() {
 int bluez_channel::closeChannel() {
     alive_.reset();
     close_socket();
-    if (connection_)
-        connection_->disconnect(this);
-    connection_.reset();
     return 0;
 }

@@ -82,7 +82,9 @@ void bluez_devices::load_now(int limit_ms) {
     QDBusMessage question =
         call(QStringLiteral("/"), OBJECT_MANAGER_INTERFACE, "GetManagedObjects");
     question.setAutoStartService(false); // starting it takes longer than anybody may block
-    take(bus_.call(question, QDBus::Block, limit_ms));
+    const QDBusMessage reply = bus_.call(question, QDBus::Block, limit_ms);
+    if (reply.type() == QDBusMessage::ReplyMessage) // else load()'s answer is still to come
+        take(reply);
 }
 
 void bluez_devices::take(const QDBusMessage& reply) {

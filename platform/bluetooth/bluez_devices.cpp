@@ -3,6 +3,7 @@
 #include "system_log.h"
 
 #include <QDBusArgument>
+#include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -66,14 +67,10 @@ bluez_devices::~bluez_devices() {
 }
 
 void bluez_devices::load() {
-    auto* answer = new QDBusPendingCallWatcher(
-        bus_.asyncCall(call(QStringLiteral("/"), OBJECT_MANAGER_INTERFACE, "GetManagedObjects")),
-        this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this,
-            [this](QDBusPendingCallWatcher* done) {
-                done->deleteLater();
-                take(done->reply());
-            });
+    // Not by a pending-call watcher: one that finds its answer there already reports it behind
+    // signals that came later, and the list would lose what they brought.
+    bus_.callWithCallback(call(QStringLiteral("/"), OBJECT_MANAGER_INTERFACE, "GetManagedObjects"),
+                          this, SLOT(take(QDBusMessage)), SLOT(load_failed(QDBusError)));
 }
 
 void bluez_devices::load_now(int limit_ms) {
@@ -89,19 +86,23 @@ void bluez_devices::load_now(int limit_ms) {
 
 void bluez_devices::take(const QDBusMessage& reply) {
     starting_ = false;
-    objects_.clear();
     load_problem_ = bluetooth_problem::none;
-    if (reply.type() == QDBusMessage::ErrorMessage || reply.arguments().isEmpty()) {
-        load_problem_ = problem_of_error(reply.errorName().toStdString(),
-                                         reply.errorMessage().toStdString(), false);
-        if (load_problem_ != bluetooth_problem::not_permitted)
-            load_problem_ = bluetooth_problem::service_missing;
-        qCInfo(log_platform, "no Bluetooth service: %s", qUtf8Printable(reply.errorMessage()));
-    } else {
-        const auto found = qdbus_cast<managed_objects>(reply.arguments().constFirst());
-        for (auto object = found.begin(); object != found.end(); ++object)
-            add(object.key().path(), object.value());
-    }
+    objects_.clear();
+    const auto found = qdbus_cast<managed_objects>(reply.arguments().value(0));
+    for (auto object = found.begin(); object != found.end(); ++object)
+        add(object.key().path(), object.value());
+    choose_adapter();
+    Q_EMIT changed();
+}
+
+void bluez_devices::load_failed(const QDBusError& error) {
+    starting_ = false;
+    qCInfo(log_platform, "no Bluetooth service: %s", qUtf8Printable(error.message()));
+    load_problem_ =
+        problem_of_error(error.name().toStdString(), error.message().toStdString(), false);
+    if (load_problem_ != bluetooth_problem::not_permitted)
+        load_problem_ = bluetooth_problem::service_missing;
+    objects_.clear();
     choose_adapter();
     Q_EMIT changed();
 }

@@ -16,6 +16,7 @@
 #include <string_view>
 #include <vector>
 
+class QDBusError;
 class QDBusMessage;
 
 enum class serial_port_offer { unknown, yes, no }; // unknown: the device was never asked
@@ -62,6 +63,8 @@ class bluez_devices final : public QObject {
     void changed();
 
   private Q_SLOTS:
+    void take(const QDBusMessage& reply);
+    void load_failed(const QDBusError& error);
     void interfaces_added(const QDBusMessage& message);
     void interfaces_removed(const QDBusMessage& message);
     void properties_changed(const QDBusMessage& message);
@@ -73,7 +76,6 @@ class bluez_devices final : public QObject {
     };
 
     void load();
-    void take(const QDBusMessage& reply);
     void add(const QString& path, const interface_properties& interfaces);
     void start_search();
     void search_failed(const QDBusMessage& reply);

@@ -1,4 +1,6 @@
 // Starts Kestrom: the window, or one command without a display.
+#include "bluetooth_door.h"
+#include "bluetooth_scan.h"
 #include "bundle.h"
 #include "car_library.h"
 #include "chart_command.h"
@@ -15,6 +17,7 @@
 #include "qt_run_loop.h"
 #include "quit_signals.h"
 #include "screen_factories.h"
+#include "serial_port_profile.h"
 #include "tcp_adapter_server.h"
 #include "tcp_stream_pair.h"
 #include "user_defaults.h"
@@ -24,6 +27,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -58,19 +62,24 @@ std::unique_ptr<tcp_adapter_server> start_demo_car(const std::string& name) {
 // on a copy in `scratch`, so that nothing of the user's changes.
 std::string settings_path(const cli_request& asked, const QTemporaryDir& scratch) {
     const std::string path = asked.settings.value_or(user_defaults::default_path());
-    if (!asked.demo && !asked.adapter_host && asked.command != "live")
+    if (!asked.demo && !asked.adapter_host && !asked.bluetooth && asked.command != "live")
         return path;
     const QString copy = scratch.filePath(QStringLiteral("kestrom.conf"));
     QFile::copy(QString::fromStdString(path), copy); // a file that is not there yet is none here
     return copy.toStdString();
 }
 
-void use_adapter(user_defaults& store, const std::string& host, const std::string& port) {
-    store.set_integer(KS_INTERFACE_KEY, KS_USE_WIFI);
-    store.set_string(WIFI_IP_KEY, host);
-    store.set_string(WIFI_PORT_KEY, port);
+// A named interface makes it no first start, which would choose the parameters of a run.
+void use_interface(user_defaults& store, int interface) {
+    store.set_integer(KS_INTERFACE_KEY, interface);
     if (!store.contains(PIDS_ARRAY_KEY))
         store.set_string_array(PIDS_ARRAY_KEY, {"0D", "11", "0C", "05"});
+}
+
+void use_adapter(user_defaults& store, const std::string& host, const std::string& port) {
+    use_interface(store, KS_USE_WIFI);
+    store.set_string(WIFI_IP_KEY, host);
+    store.set_string(WIFI_PORT_KEY, port);
 }
 
 // What the command line asks of a live run, as if the user had chosen it in the preferences.
@@ -78,6 +87,12 @@ void use_run(user_defaults& store, const cli_request& asked) {
     store.set_boolean(LOG_RUNS_KEY, asked.log);
     if (!asked.pids.empty())
         store.set_string_array(PIDS_ARRAY_KEY, asked.pids);
+}
+
+void use_bluetooth(user_defaults& store, const std::string& address) {
+    use_interface(store, KS_USE_BT);
+    store.set_boolean(REUSE_LAST_BT_KEY, true);
+    store.set_string(KS_LAST_BT_KEY, address);
 }
 
 void open_screen(Ks_lite_delegate& delegate, const std::string& name) {
@@ -131,6 +146,15 @@ int decode(int argc, char** argv, const cli_request& asked) {
     return run_mode6(asked.arguments, toolies, std::cout, std::cerr);
 }
 
+int scan_for_bluetooth(int argc, char** argv, const cli_request& asked) {
+    const QCoreApplication application(argc, argv);
+    const bundle resources;
+    bluez_devices devices(QDBusConnection::systemBus());
+    const double seconds =
+        std::min(asked.timeout_seconds, bluez_devices::SEARCH_MS / 1000.0 + 10); // BlueZ may start
+    return run_bluetooth_scan(devices, resources, seconds, asked.json, std::cout, std::cerr);
+}
+
 int run(QApplication& application, const cli_request& asked) {
     const QTemporaryDir scratch;
     std::unique_ptr<tcp_adapter_server> car;
@@ -140,6 +164,8 @@ int run(QApplication& application, const cli_request& asked) {
         use_adapter(defaults, "127.0.0.1", std::to_string(car->port()));
     } else if (asked.adapter_host) {
         use_adapter(defaults, *asked.adapter_host, asked.adapter_port);
+    } else if (asked.bluetooth) {
+        use_bluetooth(defaults, *asked.bluetooth);
     }
     if (asked.command == "live")
         use_run(defaults, asked);
@@ -152,11 +178,14 @@ int run(QApplication& application, const cli_request& asked) {
     alerts& message_boxes =
         asked.without_display() ? static_cast<alerts&>(printed_alerts) : shown_alerts;
     mac_toolies::initialize({&resources, &defaults, &message_boxes, &notifications});
+    const auto bluetooth =
+        make_bluetooth_door(loop, message_boxes, resources, defaults, !asked.without_display());
     Ks_lite_delegate delegate(
         {loop, message_boxes, defaults, resources, notifications,
          [&loop](const std::string& host, long port) -> std::unique_ptr<stream_pair> {
              return std::make_unique<tcp_stream_pair>(loop, host, port);
-         }},
+         },
+         *bluetooth},
         all_screens());
     main_window window(delegate);
     first_paint painted;
@@ -210,6 +239,8 @@ int main(int argc, char** argv) {
     }
     if (asked.without_display())
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (asked.command == BLUETOOTH_SCAN)
+        return scan_for_bluetooth(argc, argv, asked);
     if (decodes(asked.command))
         return decode(argc, argv, asked);
     if (!display_there()) {

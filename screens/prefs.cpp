@@ -38,6 +38,7 @@ void prefs::setPrefsScreen() {
     handle_interface(0);
     view_->set_log_runs(g_log_runs);
     view_->set_metric_units(g_metric_units);
+    view_->set_reuse_last_adapter(store.boolean(REUSE_LAST_BT_KEY));
     view_->set_address(store.string(WIFI_IP_KEY), store.string(WIFI_PORT_KEY));
     _pid_available_list.clear();
     load_pids_list();
@@ -72,6 +73,7 @@ void prefs::savePrefs() {
     store.set_boolean(KS_METRIC_UNITS_KEY, g_metric_units);
     g_log_runs = view_->log_runs();
     store.set_boolean(LOG_RUNS_KEY, g_log_runs);
+    store.set_boolean(REUSE_LAST_BT_KEY, view_->reuse_last_adapter());
     std::vector<std::string> chosen;
     for (const pid_entry& entry : _pid_available_list)
         if (entry.selected)
@@ -92,6 +94,7 @@ void prefs::setDefaults() {
     g_metric_units = false;
     // The stored "log_runs" is left alone on purpose: the next savePrefs writes it.
     g_log_runs = false;
+    store.set_boolean(REUSE_LAST_BT_KEY, false);
     store.set_string_array(PIDS_ARRAY_KEY, {"0D", "11", "0C", "05"});
     store.synchronize();
 }

@@ -93,7 +93,6 @@ QWidget* prefs_view::build_adapter() {
 
     lastBTCheck_ = new QCheckBox(ui_text(delegate_, "ui_last_bt"), group);
     lastBTCheck_->setObjectName(QStringLiteral("lastBTCheck"));
-    lastBTCheck_->setEnabled(false);
     lastBTCheck_->setToolTip(ui_text(delegate_, "ui_last_bt_hint"));
 
     wifiTabView_ = new QWidget(group);
@@ -185,6 +184,7 @@ bool prefs_view::wifi_selected() const {
 
 void prefs_view::show_wifi_panel(bool visible) {
     wifiTabView_->setVisible(visible);
+    lastBTCheck_->setEnabled(!visible);
 }
 
 void prefs_view::set_address(const std::string& address, const std::string& port) {
@@ -209,6 +209,12 @@ void prefs_view::set_log_runs(bool on) {
 }
 bool prefs_view::log_runs() const {
     return logRunsCheck_->isChecked();
+}
+void prefs_view::set_reuse_last_adapter(bool on) {
+    lastBTCheck_->setChecked(on);
+}
+bool prefs_view::reuse_last_adapter() const {
+    return lastBTCheck_->isChecked();
 }
 void prefs_view::set_pids_status(const std::string& text) {
     pidsStatus_->setText(display_text(text));

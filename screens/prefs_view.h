@@ -41,6 +41,8 @@ class prefs_view {
     bool metric_units() const;
     void set_log_runs(bool on);
     bool log_runs() const;
+    void set_reuse_last_adapter(bool on);
+    bool reuse_last_adapter() const;
     void set_pids_status(const std::string& text);
     void show_pids(std::vector<pid_row> rows);
 

@@ -20,7 +20,7 @@ struct verb {
 constexpr verb VERBS[] = {
     {"codes", 0, 0},    {"clear", 0, 0},      {"send", 1, 10'000},  {"live", 0, 0},
     {"decode", 0, 10'000}, {"vin", 0, 10'000}, {"mode6", 0, 10'000}, {"chart", 0, 10'000},
-    {"export", 0, 10'000},
+    {"export", 0, 10'000}, {BLUETOOTH_SCAN, 0, 0},
 };
 
 bool plain_ascii(std::string_view text) {
@@ -67,6 +67,8 @@ class argument_reader {
             given_.reset();
         } else if (name == "--adapter") {
             take_adapter(value(name));
+        } else if (name == "--bluetooth") {
+            take_bluetooth(value(name));
         } else if (name == "--settings") {
             asked.settings = value(name);
         } else if (name == "--screen") {
@@ -130,6 +132,18 @@ class argument_reader {
         result_.asked.adapter_port = text.substr(colon + 1);
     }
 
+    // Six pairs of hexadecimal digits, with colons or dashes between them.
+    void take_bluetooth(const std::string& text) {
+        constexpr std::string_view FORM = "xx:xx:xx:xx:xx:xx";
+        const auto fits = [](char c, char form) {
+            return form == 'x' ? std::isxdigit(static_cast<unsigned char>(c)) != 0
+                               : c == ':' || c == '-';
+        };
+        if (!std::ranges::equal(text, FORM, fits))
+            fail("--bluetooth needs an address such as 00:1D:A5:68:98:8B; see bluetooth-scan");
+        result_.asked.bluetooth = text;
+    }
+
     double positive_number(const std::string& name) {
         const std::string text = value(name);
         double seconds = 0;
@@ -169,8 +183,8 @@ class argument_reader {
                                                                 "expert"};
         if (!SCREENS.contains(asked.screen))
             fail("--screen is one of codes, live, prefs, expert");
-        if (asked.demo && asked.adapter_host)
-            fail("--demo and --adapter exclude each other");
+        if (asked.demo + asked.adapter_host.has_value() + asked.bluetooth.has_value() > 1)
+            fail("--demo, --adapter and --bluetooth exclude each other");
         if (asked.command.empty()) {
             if (asked.json)
                 fail("--json needs a command");
@@ -239,11 +253,13 @@ Commands
                         draw a run log as a chart, or its last value on a dial
   export LOG.gol [--txt] [--json]
                         turn a run log into a table (CSV) beside it
+  bluetooth-scan        list the Bluetooth devices that are paired or in reach
   mode6 ID VALUE        a test result scaled by its unit-and-scaling identifier
 
 Options
   --demo[=CAR]          talk to the built-in virtual car
   --adapter HOST:PORT   talk to this Wi-Fi adapter instead of the one in the settings
+  --bluetooth ADDRESS   talk to this Bluetooth adapter, without asking
   --settings FILE       use this settings file
   --screen NAME         open with codes, live, prefs or expert
   --screenshot FILE     save a picture of the window (PNG) and leave
@@ -257,6 +273,7 @@ Exit status: 0 success, 1 the task failed or timed out, 2 the arguments make no 
 Examples
   kestrom --demo codes
   kestrom --adapter 192.168.0.10:35000 codes --json
+  kestrom --bluetooth 00:1D:A5:68:98:8B codes
   kestrom --adapter 192.168.0.10:35000 send "AT RV" "01 0C"
   kestrom --demo live --pids 0C,0D --cycles 20
   kestrom decode "41 0C 1A F8" --units metric

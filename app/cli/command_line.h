@@ -7,11 +7,14 @@
 #include <string_view>
 #include <vector>
 
+inline constexpr char BLUETOOTH_SCAN[] = "bluetooth-scan";
+
 struct cli_request {
     bool demo = false;
     std::string demo_car;                    // empty: the default car
     std::optional<std::string> adapter_host; // with adapter_port, as typed
     std::string adapter_port;
+    std::optional<std::string> bluetooth; // an adapter's address, as typed
     std::optional<std::string> settings;
     std::string screen; // "codes", "live", "prefs", "expert" or empty
     std::optional<std::string> screenshot;

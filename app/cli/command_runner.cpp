@@ -2,6 +2,7 @@
 
 #include "console_alerts.h"
 #include "expertCtrlr.h"
+#include "globalVars.h"
 #include "Ks_lite_delegate.h"
 #include "live_command.h"
 #include "readCodes.h"
@@ -62,7 +63,23 @@ void command_runner::start_send() {
     delegate_.do_expert();
     expert_ = static_cast<expertCtrlr*>(delegate_.current_screen());
     expert_->received = [this](const std::string& chunk) { take_reply(chunk); };
-    next_send();
+    // The console sends once before a Bluetooth channel is open and again after: that first
+    // command's time-out would end a later one.
+    channel_awaited_ = g_connect_with == KS_USE_BT;
+    if (channel_awaited_)
+        delegate_.openInterfaceConnection();
+    else
+        next_send();
+}
+
+void command_runner::look_for_channel() {
+    if (connected_2_BT_interface) {
+        channel_awaited_ = false;
+        next_send();
+    } else if (!delegate_.anything_outstanding()) {
+        const auto& told = messages_.messages();
+        end(false, told.empty() ? "no Bluetooth connection" : told.back());
+    }
 }
 
 void command_runner::start_live() {
@@ -97,7 +114,13 @@ bool command_runner::over() const {
 
 void command_runner::look() {
     // An alert that is up is part of the task.
-    if (delegate_.doors().loop.held() || !over())
+    if (delegate_.doors().loop.held())
+        return;
+    if (channel_awaited_) {
+        look_for_channel();
+        return;
+    }
+    if (!over())
         return;
     if (codes_) {
         finish_codes();

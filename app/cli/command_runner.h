@@ -32,6 +32,7 @@ class command_runner final : public QObject {
     void start_codes();
     void start_send();
     void start_live();
+    void look_for_channel();
     void look();
     bool over() const;
     void finish_codes();
@@ -51,6 +52,7 @@ class command_runner final : public QObject {
     std::unique_ptr<live_command> live_;
     readCodes* codes_ = nullptr;
     expertCtrlr* expert_ = nullptr;
+    bool channel_awaited_ = false;
     std::size_t sent_ = 0;
     std::string reply_;
     bool reply_complete_ = false;

@@ -93,7 +93,9 @@ void Ks_lite_delegate::applicationWillTerminate() {
 }
 
 void Ks_lite_delegate::wrap_leave() {
-    // An open Bluetooth channel is left to its own closing; the socket is closed here.
-    if (!connected_2_BT_interface)
+    // An open Bluetooth channel is not closed here, only seen off; it ends with the program.
+    if (connected_2_BT_interface)
+        rfcommChannelClosed();
+    else
         disconnect();
 }

@@ -11,6 +11,7 @@
 #include "notification_center.h"
 #include "run_loop.h"
 #include "screen_controller.h"
+#include "serial_port_profile.h"
 #include "stream_pair.h"
 
 #include <functional>
@@ -33,6 +34,7 @@ struct app_doors {
     const bundle& resources;
     notification_center& notifications;
     stream_pair_factory make_streams;
+    serial_port_profile& bluetooth;
 };
 
 // Makes the controller of an interface file; nothing when it cannot be loaded.
@@ -112,7 +114,14 @@ class Ks_lite_delegate {
 
     // Bluetooth
     bool openSerialPortProfile();
+    std::shared_ptr<bluetooth_device> choose_bluetooth_device();
+    std::shared_ptr<bluetooth_device> last_bluetooth_device() const;
     void sendOBDcmd_BT(std::string_view command);
+    void rfcommChannelOpenComplete(int status);
+    void rfcommChannelData(std::string_view data);
+    void rfcommChannelClosed();
+    void closeDeviceConnectionOnDevice(const std::shared_ptr<bluetooth_device>& device);
+    void closeRFCOMMConnectionOnChannel(const std::shared_ptr<rfcomm_channel>& channel);
 
     app_doors doors_;
     screen_factories factories_;
@@ -137,4 +146,8 @@ class Ks_lite_delegate {
     } attempt_state_ = attempt_state::none;
     bool sent_1st_cmd = false;
     run_loop::timer_id deferred_call_ = 0;
+
+    std::shared_ptr<bluetooth_device> mBluetoothDevice; // while connected
+    std::shared_ptr<rfcomm_channel> mRFCOMMChannel;     // never cleared once set
+    bool bluetooth_opening_ = false;
 };

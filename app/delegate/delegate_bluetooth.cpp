@@ -1,12 +1,136 @@
-// The Bluetooth transport. Not there yet: the user is sent to the Wi-Fi setting.
-#include "bundle.h"
+// The Bluetooth transport: an RFCOMM channel to the adapter's serial-port service. A channel that
+// was once asked for stays the program's channel, open or not: only a restart connects again.
+#include "globalVars.h"
 #include "Ks_lite_delegate.h"
 #include "system_log.h"
+#include "user_defaults.h"
 
-bool Ks_lite_delegate::openSerialPortProfile() {
-    qCWarning(log_link, "Bluetooth adapters are not supported yet");
-    l_set_status_msg(doors_.resources.localized("bluetooth_not_built_MSG"));
-    return false;
+#include <algorithm>
+
+namespace {
+
+constexpr std::chrono::seconds DISCONNECTION_DELAY{1};
+constexpr std::size_t LONGEST_WRITE = 65535;
+
+} // namespace
+
+std::shared_ptr<bluetooth_device> Ks_lite_delegate::choose_bluetooth_device() {
+    const std::unique_ptr<device_selector> selector = doors_.bluetooth.deviceSelector();
+    if (!selector) {
+        qCWarning(log_link, "Error - unable to allocate IOBluetoothDeviceSelectorController.\n");
+        return nullptr;
+    }
+    selector->addAllowedUUID(SERIAL_PORT_UUID);
+    if (selector->runModal() != SELECTOR_SUCCESS) {
+        qCInfo(log_link, "User has cancelled the device selection.\n");
+        return nullptr;
+    }
+    const auto chosen = selector->getResults();
+    if (chosen.empty()) {
+        qCWarning(log_link, "Error - no selected device.  ***This should never happen.***\n");
+        return nullptr;
+    }
+    return chosen.front();
 }
 
-void Ks_lite_delegate::sendOBDcmd_BT(std::string_view) {}
+// The adapter of last time, when the user wants no question and it has an address that can be read.
+std::shared_ptr<bluetooth_device> Ks_lite_delegate::last_bluetooth_device() const {
+    if (!doors_.defaults.boolean(REUSE_LAST_BT_KEY))
+        return nullptr;
+    const std::string address = doors_.defaults.string(KS_LAST_BT_KEY);
+    return address.empty() ? nullptr : doors_.bluetooth.device_with_address(address);
+}
+
+bool Ks_lite_delegate::openSerialPortProfile() {
+    if (mRFCOMMChannel)
+        return true;
+    std::shared_ptr<bluetooth_device> device = last_bluetooth_device();
+    if (!device)
+        device = choose_bluetooth_device();
+    if (!device)
+        return false;
+    const auto record = device->getServiceRecordForUUID(SERIAL_PORT_UUID);
+    if (!record) {
+        qCWarning(log_link,
+                  "Error - no spp service in selected device.  ***This should never happen since "
+                  "the selector forces the user to select only devices with spp.***\n");
+        return false;
+    }
+    std::uint8_t channel_id = 0;
+    if (record->getRFCOMMChannelID(channel_id) != 0) {
+        qCWarning(log_link, "Error - no spp service in selected device.  ***This should never "
+                            "happen an spp service must have an rfcomm channel id.***\n");
+        return false;
+    }
+    rfcomm_channel_delegate callbacks;
+    callbacks.open_complete = [this](int status) { rfcommChannelOpenComplete(status); };
+    callbacks.data = [this](std::string_view data) { rfcommChannelData(data); };
+    callbacks.closed = [this] { rfcommChannelClosed(); };
+    const int failed = device->openRFCOMMChannelAsync(mRFCOMMChannel, channel_id, callbacks);
+    if (failed != 0 && mRFCOMMChannel) {
+        qCWarning(log_link, "Error - open sequence failed.***\n");
+        closeDeviceConnectionOnDevice(device);
+        return false;
+    }
+    // A failure that left no channel goes on like a success, on purpose.
+    bluetooth_opening_ = mRFCOMMChannel != nullptr;
+    mBluetoothDevice = device;
+    l_set_status_msg("BT Connected");
+    doors_.defaults.set_string(KS_LAST_BT_KEY, device->address_text());
+    doors_.defaults.synchronize();
+    return true;
+}
+
+void Ks_lite_delegate::rfcommChannelOpenComplete(int status) {
+    bluetooth_opening_ = false;
+    if (status != 0) {
+        qCWarning(log_link, "Error - failed to open the RFCOMM channel with error %08lx.\n",
+                  static_cast<unsigned long>(static_cast<unsigned>(status)));
+        rfcommChannelClosed();
+        return;
+    }
+    connected_2_BT_interface = true;
+    l_set_status_msg("BT Connected!!");
+    const std::string message;
+    l_work_current_task(&message);
+}
+
+void Ks_lite_delegate::rfcommChannelData(std::string_view data) {
+    if (data.empty())
+        return;
+    // A chunk ends at its first zero byte.
+    post_received(std::string(data.substr(0, data.find('\0'))));
+}
+
+void Ks_lite_delegate::rfcommChannelClosed() {
+    doors_.loop.after(DISCONNECTION_DELAY,
+                      [this, device = mBluetoothDevice] { closeDeviceConnectionOnDevice(device); });
+    connected_2_BT_interface = false;
+    tell_link_lost();
+}
+
+void Ks_lite_delegate::closeDeviceConnectionOnDevice(
+    const std::shared_ptr<bluetooth_device>& device) {
+    if (!device || device != mBluetoothDevice)
+        return;
+    if (const int failed = device->closeConnection(); failed != 0)
+        qCWarning(log_link, "Error - failed to close the device connection with error %08lx.\n",
+                  static_cast<unsigned long>(static_cast<unsigned>(failed)));
+    mBluetoothDevice.reset();
+}
+
+void Ks_lite_delegate::closeRFCOMMConnectionOnChannel(
+    const std::shared_ptr<rfcomm_channel>& channel) {
+    if (channel && channel == mRFCOMMChannel)
+        channel->closeChannel();
+}
+
+void Ks_lite_delegate::sendOBDcmd_BT(std::string_view command) {
+    // The zero byte behind the text is sent as well.
+    std::string bytes(command);
+    bytes.push_back('\0');
+    bytes.resize(bytes.size() & LONGEST_WRITE);
+    reply_awaited_since_ = std::max(doors_.loop.now(), run_loop::milliseconds(1));
+    if (mRFCOMMChannel)
+        (void)mRFCOMMChannel->writeSync(bytes); // a failure shows as the reply time-out
+}

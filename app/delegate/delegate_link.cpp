@@ -66,5 +66,5 @@ void Ks_lite_delegate::adapter_changed() {
 
 bool Ks_lite_delegate::anything_outstanding() const {
     return reply_awaited_since_.count() != 0 || deferred_call_ != 0 ||
-           attempt_state_ == attempt_state::connecting;
+           attempt_state_ == attempt_state::connecting || bluetooth_opening_;
 }

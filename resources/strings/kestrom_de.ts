@@ -65,10 +65,6 @@ Bitte prüfen Sie:
         <source></source>
         <translation>Der Adapter hat noch nicht geantwortet. Prüfen Sie, ob dieser Rechner im Funknetz des Adapters ist und ob Adresse und Port stimmen.</translation>
     </message>
-    <message id="bluetooth_not_built_MSG">
-        <source></source>
-        <translation>Bluetooth-Adapter werden noch nicht unterstützt. Bitte wählen Sie in den Einstellungen WLAN.</translation>
-    </message>
     <message id="ui_where_to_begin">
         <source></source>
         <translation>Richten Sie unter Einstellungen Ihren Adapter ein und lesen Sie dann unter Fehlercodes das Auto aus.</translation>
@@ -311,11 +307,11 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_last_bt">
         <source></source>
-        <translation>Den letzten Adapter wieder verwenden</translation>
+        <translation>Den let&amp;zten Adapter wieder verwenden</translation>
     </message>
     <message id="ui_last_bt_hint">
         <source></source>
-        <translation>Bluetooth-Adapter werden noch nicht unterstützt</translation>
+        <translation>Ohne Frage mit dem zuletzt gewählten Adapter verbinden</translation>
     </message>
     <message id="ui_units_group">
         <source></source>
@@ -424,6 +420,138 @@ Bitte prüfen Sie:
     <message id="ui_export_done">
         <source></source>
         <translation>%1 Zeilen exportiert nach %2</translation>
+    </message>
+    <message id="bt_chooser_title">
+        <source></source>
+        <translation>Bluetooth-Adapter wählen</translation>
+    </message>
+    <message id="bt_chooser_sentence">
+        <source></source>
+        <translation>Stecken Sie den Adapter in die Diagnosebuchse des Autos, schalten Sie die Zündung ein und wählen Sie ihn in der Liste.</translation>
+    </message>
+    <message id="bt_devices">
+        <source></source>
+        <translation>Bluetooth-Geräte</translation>
+    </message>
+    <message id="bt_col_name">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="bt_col_address">
+        <source></source>
+        <translation>Adresse</translation>
+    </message>
+    <message id="bt_col_paired">
+        <source></source>
+        <translation>Gekoppelt</translation>
+    </message>
+    <message id="bt_col_signal">
+        <source></source>
+        <translation>Signal</translation>
+    </message>
+    <message id="bt_col_serial">
+        <source></source>
+        <translation>Serielle Schnittstelle</translation>
+    </message>
+    <message id="bt_yes">
+        <source></source>
+        <translation>ja</translation>
+    </message>
+    <message id="bt_no">
+        <source></source>
+        <translation>nein</translation>
+    </message>
+    <message id="bt_when_connecting">
+        <source></source>
+        <translation>noch nicht gefragt</translation>
+    </message>
+    <message id="bt_searching">
+        <source></source>
+        <translation>Suche nach Bluetooth-Geräten …</translation>
+    </message>
+    <message id="bt_search_over">
+        <source></source>
+        <translation>Die Suche ist beendet. Fehlt der Adapter? Ziehen Sie ihn ab, stecken Sie ihn wieder ein, schalten Sie die Zündung ein und suchen Sie noch einmal.</translation>
+    </message>
+    <message id="bt_none_found">
+        <source></source>
+        <translation>Es wurde kein Bluetooth-Gerät gefunden.
+
+Steckt der Adapter, und ist die Zündung an? Hält ein Telefon ihn fest? Suchen Sie danach noch einmal.</translation>
+    </message>
+    <message id="bt_connecting">
+        <source></source>
+        <translation>Verbinde mit %1 … Fragt der Desktop nach einer PIN: Die meisten Adapter benutzen 1234 oder 0000.</translation>
+    </message>
+    <message id="bt_search_again">
+        <source></source>
+        <translation>Noch einmal &amp;suchen</translation>
+    </message>
+    <message id="bt_cancel">
+        <source></source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message id="bt_connect">
+        <source></source>
+        <translation>&amp;Verbinden</translation>
+    </message>
+    <message id="bt_service_missing">
+        <source></source>
+        <translation>Auf diesem Rechner läuft der Bluetooth-Dienst nicht.
+
+Installieren Sie das Paket bluez, falls es fehlt, und starten Sie den Dienst:
+sudo systemctl enable --now bluetooth</translation>
+    </message>
+    <message id="bt_no_adapter">
+        <source></source>
+        <translation>Dieser Rechner hat keinen Bluetooth-Empfänger, der arbeitet.
+
+Stecken Sie einen Bluetooth-Stick ein, oder benutzen Sie einen WLAN-Diagnoseadapter.</translation>
+    </message>
+    <message id="bt_switched_off">
+        <source></source>
+        <translation>Bluetooth ist ausgeschaltet.
+
+Schalten Sie es in den Einstellungen des Desktops ein, oder mit:
+bluetoothctl power on</translation>
+    </message>
+    <message id="bt_not_permitted">
+        <source></source>
+        <translation>Sie dürfen Bluetooth auf diesem Rechner nicht benutzen.
+
+Melden Sie sich am Rechner selbst an, oder bitten Sie die Verwaltung, Sie in die Gruppe bluetooth aufzunehmen.</translation>
+    </message>
+    <message id="bt_in_use">
+        <source></source>
+        <translation>%1 wird von einem anderen Programm auf diesem Rechner benutzt. Schließen Sie es, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message id="bt_out_of_reach">
+        <source></source>
+        <translation>%1 antwortet nicht. Steckt der Adapter, ist die Zündung an, und steht das Auto in der Nähe?</translation>
+    </message>
+    <message id="bt_no_serial_port">
+        <source></source>
+        <translation>%1 bietet keine serielle Schnittstelle an und ist deshalb kein Adapter, mit dem Kestrom sprechen kann. Wählen Sie ein anderes Gerät.</translation>
+    </message>
+    <message id="bt_refused">
+        <source></source>
+        <translation>%1 hat die Verbindung abgelehnt. Benutzt ein Telefon oder ein anderer Rechner den Adapter? Ziehen Sie ihn ab, stecken Sie ihn wieder ein, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message id="bt_pairing_failed">
+        <source></source>
+        <translation>Das Koppeln mit %1 ist gescheitert. Versuchen Sie es noch einmal, und bestätigen Sie, was der Desktop fragt; die meisten Adapter benutzen die PIN 1234 oder 0000.</translation>
+    </message>
+    <message id="bt_other_problem">
+        <source></source>
+        <translation>Die Verbindung mit %1 ist gescheitert. Ziehen Sie den Adapter ab, stecken Sie ihn wieder ein, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message id="bt_restart_to_connect">
+        <source></source>
+        <translation>Nach einem Neustart verbindet sich Kestrom wieder.</translation>
+    </message>
+    <message id="bt_no_chooser">
+        <source></source>
+        <translation>Es ist kein Bluetooth-Adapter gewählt. Nennen Sie einen mit --bluetooth ADRESSE; kestrom bluetooth-scan zeigt, welche in Reichweite sind.</translation>
     </message>
 </context>
 </TS>

@@ -65,10 +65,6 @@ Please check:
         <source></source>
         <translation>The adapter has not answered yet. Check that this computer is in the adapter's wireless network and that address and port are right.</translation>
     </message>
-    <message id="bluetooth_not_built_MSG">
-        <source></source>
-        <translation>Bluetooth adapters are not supported yet. Please choose Wi-Fi in Preferences.</translation>
-    </message>
     <message id="ui_where_to_begin">
         <source></source>
         <translation>Choose Preferences to set up your adapter, then Trouble codes to read the car.</translation>
@@ -311,11 +307,11 @@ Please check:
     </message>
     <message id="ui_last_bt">
         <source></source>
-        <translation>Reuse the last adapter</translation>
+        <translation>Re&amp;use the last adapter</translation>
     </message>
     <message id="ui_last_bt_hint">
         <source></source>
-        <translation>Bluetooth adapters are not supported yet</translation>
+        <translation>Connect to the adapter chosen last without asking</translation>
     </message>
     <message id="ui_units_group">
         <source></source>
@@ -424,6 +420,138 @@ Please check:
     <message id="ui_export_done">
         <source></source>
         <translation>Exported %1 rows to %2</translation>
+    </message>
+    <message id="bt_chooser_title">
+        <source></source>
+        <translation>Choose a Bluetooth adapter</translation>
+    </message>
+    <message id="bt_chooser_sentence">
+        <source></source>
+        <translation>Plug the adapter into the car's diagnostic port, switch the ignition on, and choose it in the list.</translation>
+    </message>
+    <message id="bt_devices">
+        <source></source>
+        <translation>Bluetooth devices</translation>
+    </message>
+    <message id="bt_col_name">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="bt_col_address">
+        <source></source>
+        <translation>Address</translation>
+    </message>
+    <message id="bt_col_paired">
+        <source></source>
+        <translation>Paired</translation>
+    </message>
+    <message id="bt_col_signal">
+        <source></source>
+        <translation>Signal</translation>
+    </message>
+    <message id="bt_col_serial">
+        <source></source>
+        <translation>Serial port</translation>
+    </message>
+    <message id="bt_yes">
+        <source></source>
+        <translation>yes</translation>
+    </message>
+    <message id="bt_no">
+        <source></source>
+        <translation>no</translation>
+    </message>
+    <message id="bt_when_connecting">
+        <source></source>
+        <translation>not asked yet</translation>
+    </message>
+    <message id="bt_searching">
+        <source></source>
+        <translation>Searching for Bluetooth devices …</translation>
+    </message>
+    <message id="bt_search_over">
+        <source></source>
+        <translation>The search is over. Is the adapter missing? Unplug it, plug it in again, switch the ignition on, and search again.</translation>
+    </message>
+    <message id="bt_none_found">
+        <source></source>
+        <translation>No Bluetooth device was found.
+
+Is the adapter plugged in and the ignition on? Does a phone hold it? Then search again.</translation>
+    </message>
+    <message id="bt_connecting">
+        <source></source>
+        <translation>Connecting to %1 … If your desktop asks for a PIN, most adapters use 1234 or 0000.</translation>
+    </message>
+    <message id="bt_search_again">
+        <source></source>
+        <translation>&amp;Search again</translation>
+    </message>
+    <message id="bt_cancel">
+        <source></source>
+        <translation>C&amp;ancel</translation>
+    </message>
+    <message id="bt_connect">
+        <source></source>
+        <translation>&amp;Connect</translation>
+    </message>
+    <message id="bt_service_missing">
+        <source></source>
+        <translation>The Bluetooth service is not running on this computer.
+
+Install the package bluez if it is missing, and start the service:
+sudo systemctl enable --now bluetooth</translation>
+    </message>
+    <message id="bt_no_adapter">
+        <source></source>
+        <translation>This computer has no Bluetooth adapter that works.
+
+Plug in a Bluetooth stick, or use a Wi-Fi diagnostic adapter.</translation>
+    </message>
+    <message id="bt_switched_off">
+        <source></source>
+        <translation>Bluetooth is switched off.
+
+Switch it on in your desktop's settings, or with:
+bluetoothctl power on</translation>
+    </message>
+    <message id="bt_not_permitted">
+        <source></source>
+        <translation>You may not use Bluetooth on this computer.
+
+Log in at the computer itself, or ask its administrator to add you to the group bluetooth.</translation>
+    </message>
+    <message id="bt_in_use">
+        <source></source>
+        <translation>%1 is in use by another program on this computer. Close that program and try again.</translation>
+    </message>
+    <message id="bt_out_of_reach">
+        <source></source>
+        <translation>%1 does not answer. Is it plugged in, the ignition on, and the car near?</translation>
+    </message>
+    <message id="bt_no_serial_port">
+        <source></source>
+        <translation>%1 offers no serial port, so it is no adapter that Kestrom can talk to. Choose another device.</translation>
+    </message>
+    <message id="bt_refused">
+        <source></source>
+        <translation>%1 refused the connection. Does a phone or another computer use it? Unplug the adapter, plug it in again, and try once more.</translation>
+    </message>
+    <message id="bt_pairing_failed">
+        <source></source>
+        <translation>Pairing with %1 failed. Try again and confirm what your desktop asks; most adapters use the PIN 1234 or 0000.</translation>
+    </message>
+    <message id="bt_other_problem">
+        <source></source>
+        <translation>The connection to %1 failed. Unplug the adapter, plug it in again, and try once more.</translation>
+    </message>
+    <message id="bt_restart_to_connect">
+        <source></source>
+        <translation>Kestrom connects again after a restart.</translation>
+    </message>
+    <message id="bt_no_chooser">
+        <source></source>
+        <translation>No Bluetooth adapter was chosen. Name one with --bluetooth ADDRESS; kestrom bluetooth-scan lists those in reach.</translation>
     </message>
 </context>
 </TS>

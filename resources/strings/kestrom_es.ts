@@ -65,10 +65,6 @@ Compruebe que:
         <source></source>
         <translation>El adaptador aún no ha respondido. Compruebe que este equipo está en la red inalámbrica del adaptador y que la dirección y el puerto son correctos.</translation>
     </message>
-    <message id="bluetooth_not_built_MSG">
-        <source></source>
-        <translation>Los adaptadores Bluetooth aún no se admiten. Elija Wi-Fi en las preferencias.</translation>
-    </message>
     <message id="ui_where_to_begin">
         <source></source>
         <translation>Elija Preferencias para configurar su adaptador y después Códigos de avería para leer el coche.</translation>
@@ -311,11 +307,11 @@ Compruebe que:
     </message>
     <message id="ui_last_bt">
         <source></source>
-        <translation>Volver a usar el último adaptador</translation>
+        <translation>&amp;Volver a usar el último adaptador</translation>
     </message>
     <message id="ui_last_bt_hint">
         <source></source>
-        <translation>Los adaptadores Bluetooth aún no se admiten</translation>
+        <translation>Conectar sin preguntar con el último adaptador elegido</translation>
     </message>
     <message id="ui_units_group">
         <source></source>
@@ -424,6 +420,138 @@ Compruebe que:
     <message id="ui_export_done">
         <source></source>
         <translation>%1 filas exportadas a %2</translation>
+    </message>
+    <message id="bt_chooser_title">
+        <source></source>
+        <translation>Elegir un adaptador Bluetooth</translation>
+    </message>
+    <message id="bt_chooser_sentence">
+        <source></source>
+        <translation>Enchufe el adaptador en la toma de diagnóstico del coche, dé el contacto y elíjalo en la lista.</translation>
+    </message>
+    <message id="bt_devices">
+        <source></source>
+        <translation>Dispositivos Bluetooth</translation>
+    </message>
+    <message id="bt_col_name">
+        <source></source>
+        <translation>Nombre</translation>
+    </message>
+    <message id="bt_col_address">
+        <source></source>
+        <translation>Dirección</translation>
+    </message>
+    <message id="bt_col_paired">
+        <source></source>
+        <translation>Emparejado</translation>
+    </message>
+    <message id="bt_col_signal">
+        <source></source>
+        <translation>Señal</translation>
+    </message>
+    <message id="bt_col_serial">
+        <source></source>
+        <translation>Puerto serie</translation>
+    </message>
+    <message id="bt_yes">
+        <source></source>
+        <translation>sí</translation>
+    </message>
+    <message id="bt_no">
+        <source></source>
+        <translation>no</translation>
+    </message>
+    <message id="bt_when_connecting">
+        <source></source>
+        <translation>aún sin consultar</translation>
+    </message>
+    <message id="bt_searching">
+        <source></source>
+        <translation>Buscando dispositivos Bluetooth …</translation>
+    </message>
+    <message id="bt_search_over">
+        <source></source>
+        <translation>La búsqueda ha terminado. ¿Falta el adaptador? Desenchúfelo, vuelva a enchufarlo, dé el contacto y busque de nuevo.</translation>
+    </message>
+    <message id="bt_none_found">
+        <source></source>
+        <translation>No se ha encontrado ningún dispositivo Bluetooth.
+
+¿Está enchufado el adaptador y dado el contacto? ¿Lo ocupa un teléfono? Después, busque de nuevo.</translation>
+    </message>
+    <message id="bt_connecting">
+        <source></source>
+        <translation>Conectando con %1 … Si el escritorio pide un PIN, la mayoría de los adaptadores usan 1234 o 0000.</translation>
+    </message>
+    <message id="bt_search_again">
+        <source></source>
+        <translation>&amp;Buscar de nuevo</translation>
+    </message>
+    <message id="bt_cancel">
+        <source></source>
+        <translation>C&amp;ancelar</translation>
+    </message>
+    <message id="bt_connect">
+        <source></source>
+        <translation>&amp;Conectar</translation>
+    </message>
+    <message id="bt_service_missing">
+        <source></source>
+        <translation>El servicio Bluetooth no está en marcha en este equipo.
+
+Instale el paquete bluez si falta e inicie el servicio:
+sudo systemctl enable --now bluetooth</translation>
+    </message>
+    <message id="bt_no_adapter">
+        <source></source>
+        <translation>Este equipo no tiene ningún receptor Bluetooth que funcione.
+
+Enchufe una llave Bluetooth o use un adaptador de diagnóstico Wi-Fi.</translation>
+    </message>
+    <message id="bt_switched_off">
+        <source></source>
+        <translation>El Bluetooth está apagado.
+
+Enciéndalo en los ajustes del escritorio, o con:
+bluetoothctl power on</translation>
+    </message>
+    <message id="bt_not_permitted">
+        <source></source>
+        <translation>No tiene permiso para usar el Bluetooth en este equipo.
+
+Inicie la sesión en el propio equipo, o pida a su administrador que lo añada al grupo bluetooth.</translation>
+    </message>
+    <message id="bt_in_use">
+        <source></source>
+        <translation>Otro programa de este equipo está usando %1. Ciérrelo e inténtelo de nuevo.</translation>
+    </message>
+    <message id="bt_out_of_reach">
+        <source></source>
+        <translation>%1 no responde. ¿Está enchufado, dado el contacto y el coche cerca?</translation>
+    </message>
+    <message id="bt_no_serial_port">
+        <source></source>
+        <translation>%1 no ofrece ningún puerto serie, así que no es un adaptador con el que Kestrom pueda hablar. Elija otro dispositivo.</translation>
+    </message>
+    <message id="bt_refused">
+        <source></source>
+        <translation>%1 ha rechazado la conexión. ¿Lo usa un teléfono u otro equipo? Desenchufe el adaptador, vuelva a enchufarlo e inténtelo otra vez.</translation>
+    </message>
+    <message id="bt_pairing_failed">
+        <source></source>
+        <translation>El emparejamiento con %1 ha fallado. Inténtelo de nuevo y confirme lo que pida el escritorio; la mayoría de los adaptadores usan el PIN 1234 o 0000.</translation>
+    </message>
+    <message id="bt_other_problem">
+        <source></source>
+        <translation>La conexión con %1 ha fallado. Desenchufe el adaptador, vuelva a enchufarlo e inténtelo otra vez.</translation>
+    </message>
+    <message id="bt_restart_to_connect">
+        <source></source>
+        <translation>Kestrom volverá a conectarse tras reiniciarlo.</translation>
+    </message>
+    <message id="bt_no_chooser">
+        <source></source>
+        <translation>No se ha elegido ningún adaptador Bluetooth. Indique uno con --bluetooth DIRECCIÓN; kestrom bluetooth-scan muestra los que están al alcance.</translation>
     </message>
 </context>
 </TS>

@@ -65,10 +65,6 @@ Veuillez vérifier que :
         <source></source>
         <translation>L'adaptateur n'a pas encore répondu. Vérifiez que cet ordinateur est connecté au réseau sans fil de l'adaptateur et que l'adresse et le port sont corrects.</translation>
     </message>
-    <message id="bluetooth_not_built_MSG">
-        <source></source>
-        <translation>Les adaptateurs Bluetooth ne sont pas encore pris en charge. Veuillez choisir Wi-Fi dans les préférences.</translation>
-    </message>
     <message id="ui_where_to_begin">
         <source></source>
         <translation>Choisissez Préférences pour configurer votre adaptateur, puis Codes défaut pour lire la voiture.</translation>
@@ -311,11 +307,11 @@ Veuillez vérifier que :
     </message>
     <message id="ui_last_bt">
         <source></source>
-        <translation>Réutiliser le dernier adaptateur</translation>
+        <translation>Réutili&amp;ser le dernier adaptateur</translation>
     </message>
     <message id="ui_last_bt_hint">
         <source></source>
-        <translation>Les adaptateurs Bluetooth ne sont pas encore pris en charge</translation>
+        <translation>Se connecter sans demander au dernier adaptateur choisi</translation>
     </message>
     <message id="ui_units_group">
         <source></source>
@@ -424,6 +420,138 @@ Veuillez vérifier que :
     <message id="ui_export_done">
         <source></source>
         <translation>%1 lignes exportées vers %2</translation>
+    </message>
+    <message id="bt_chooser_title">
+        <source></source>
+        <translation>Choisir un adaptateur Bluetooth</translation>
+    </message>
+    <message id="bt_chooser_sentence">
+        <source></source>
+        <translation>Branchez l'adaptateur sur la prise de diagnostic de la voiture, mettez le contact et choisissez-le dans la liste.</translation>
+    </message>
+    <message id="bt_devices">
+        <source></source>
+        <translation>Appareils Bluetooth</translation>
+    </message>
+    <message id="bt_col_name">
+        <source></source>
+        <translation>Nom</translation>
+    </message>
+    <message id="bt_col_address">
+        <source></source>
+        <translation>Adresse</translation>
+    </message>
+    <message id="bt_col_paired">
+        <source></source>
+        <translation>Associé</translation>
+    </message>
+    <message id="bt_col_signal">
+        <source></source>
+        <translation>Signal</translation>
+    </message>
+    <message id="bt_col_serial">
+        <source></source>
+        <translation>Port série</translation>
+    </message>
+    <message id="bt_yes">
+        <source></source>
+        <translation>oui</translation>
+    </message>
+    <message id="bt_no">
+        <source></source>
+        <translation>non</translation>
+    </message>
+    <message id="bt_when_connecting">
+        <source></source>
+        <translation>pas encore demandé</translation>
+    </message>
+    <message id="bt_searching">
+        <source></source>
+        <translation>Recherche d'appareils Bluetooth …</translation>
+    </message>
+    <message id="bt_search_over">
+        <source></source>
+        <translation>La recherche est terminée. L'adaptateur manque ? Débranchez-le, rebranchez-le, mettez le contact et cherchez de nouveau.</translation>
+    </message>
+    <message id="bt_none_found">
+        <source></source>
+        <translation>Aucun appareil Bluetooth n'a été trouvé.
+
+L'adaptateur est-il branché, le contact mis ? Un téléphone l'occupe-t-il ? Cherchez ensuite de nouveau.</translation>
+    </message>
+    <message id="bt_connecting">
+        <source></source>
+        <translation>Connexion à %1 … Si le bureau demande un code PIN, la plupart des adaptateurs utilisent 1234 ou 0000.</translation>
+    </message>
+    <message id="bt_search_again">
+        <source></source>
+        <translation>&amp;Rechercher de nouveau</translation>
+    </message>
+    <message id="bt_cancel">
+        <source></source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message id="bt_connect">
+        <source></source>
+        <translation>&amp;Connecter</translation>
+    </message>
+    <message id="bt_service_missing">
+        <source></source>
+        <translation>Le service Bluetooth ne fonctionne pas sur cet ordinateur.
+
+Installez le paquet bluez s'il manque, et démarrez le service :
+sudo systemctl enable --now bluetooth</translation>
+    </message>
+    <message id="bt_no_adapter">
+        <source></source>
+        <translation>Cet ordinateur n'a pas d'émetteur Bluetooth en état de marche.
+
+Branchez une clé Bluetooth, ou utilisez un adaptateur de diagnostic Wi-Fi.</translation>
+    </message>
+    <message id="bt_switched_off">
+        <source></source>
+        <translation>Le Bluetooth est éteint.
+
+Allumez-le dans les réglages du bureau, ou avec :
+bluetoothctl power on</translation>
+    </message>
+    <message id="bt_not_permitted">
+        <source></source>
+        <translation>Vous n'avez pas le droit d'utiliser le Bluetooth sur cet ordinateur.
+
+Ouvrez une session sur l'ordinateur même, ou demandez à son administrateur de vous ajouter au groupe bluetooth.</translation>
+    </message>
+    <message id="bt_in_use">
+        <source></source>
+        <translation>%1 est utilisé par un autre programme de cet ordinateur. Fermez ce programme et réessayez.</translation>
+    </message>
+    <message id="bt_out_of_reach">
+        <source></source>
+        <translation>%1 ne répond pas. L'adaptateur est-il branché, le contact mis, la voiture à portée ?</translation>
+    </message>
+    <message id="bt_no_serial_port">
+        <source></source>
+        <translation>%1 n'offre pas de port série : ce n'est pas un adaptateur avec lequel Kestrom peut parler. Choisissez un autre appareil.</translation>
+    </message>
+    <message id="bt_refused">
+        <source></source>
+        <translation>%1 a refusé la connexion. Un téléphone ou un autre ordinateur l'utilise-t-il ? Débranchez l'adaptateur, rebranchez-le et réessayez.</translation>
+    </message>
+    <message id="bt_pairing_failed">
+        <source></source>
+        <translation>L'association avec %1 a échoué. Réessayez et confirmez ce que le bureau demande ; la plupart des adaptateurs utilisent le code PIN 1234 ou 0000.</translation>
+    </message>
+    <message id="bt_other_problem">
+        <source></source>
+        <translation>La connexion à %1 a échoué. Débranchez l'adaptateur, rebranchez-le et réessayez.</translation>
+    </message>
+    <message id="bt_restart_to_connect">
+        <source></source>
+        <translation>Kestrom se connectera de nouveau après un redémarrage.</translation>
+    </message>
+    <message id="bt_no_chooser">
+        <source></source>
+        <translation>Aucun adaptateur Bluetooth n'est choisi. Nommez-en un avec --bluetooth ADRESSE ; kestrom bluetooth-scan montre ceux qui sont à portée.</translation>
     </message>
 </context>
 </TS>

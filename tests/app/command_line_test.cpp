@@ -38,6 +38,8 @@ class shell : public testing::Test {
         surroundings.insert(QStringLiteral("XDG_CONFIG_HOME"), home.path());
         surroundings.insert(QStringLiteral("XDG_DATA_HOME"), home.path());
         surroundings.remove(QStringLiteral("DISPLAY"));
+        surroundings.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"),
+                            QStringLiteral("unix:path=/nonexistent")); // this machine's own
         process.setProcessEnvironment(surroundings);
         QStringList words;
         for (const std::string& argument : arguments)
@@ -62,22 +64,27 @@ class shell : public testing::Test {
 };
 
 TEST_F(shell, arguments_that_make_no_sense_end_with_2_and_a_reason) {
-    const std::vector<std::vector<std::string>> cases = {{"fly"},
-                                                         {"codes", "more"},
-                                                         {"clear"},
-                                                         {"send"},
-                                                         {"send", ""},
-                                                         {"send", std::string(39, '1')},
-                                                         {"--nonsense"},
-                                                         {"--adapter", "nowhere", "codes"},
-                                                         {"--adapter"},
-                                                         {"--demo", "--adapter", "a:1", "codes"},
-                                                         {"--screen", "garage"},
-                                                         {"--timeout", "soon", "codes"},
-                                                         {"--timeout", "0", "codes"},
-                                                         {"--json"},
-                                                         {"--demo=no-such-car", "codes"},
-                                                         {"--json=1", "codes"}};
+    const std::vector<std::vector<std::string>> cases = {
+        {"fly"},
+        {"codes", "more"},
+        {"clear"},
+        {"send"},
+        {"send", ""},
+        {"send", std::string(39, '1')},
+        {"--nonsense"},
+        {"--adapter", "nowhere", "codes"},
+        {"--adapter"},
+        {"--bluetooth", "OBDII", "codes"},
+        {"--bluetooth", "00:1D:A5:68:98", "codes"},
+        {"--bluetooth=00:1D:A5:68:98:8B", "--demo", "codes"},
+        {"bluetooth-scan", "now"},
+        {"--demo", "--adapter", "a:1", "codes"},
+        {"--screen", "garage"},
+        {"--timeout", "soon", "codes"},
+        {"--timeout", "0", "codes"},
+        {"--json"},
+        {"--demo=no-such-car", "codes"},
+        {"--json=1", "codes"}};
     for (const auto& arguments : cases) {
         const outcome result = run(arguments);
         EXPECT_EQ(result.status, 2) << arguments[0] << ": " << result.err;
@@ -111,6 +118,11 @@ TEST_F(shell, the_built_in_car_is_read_and_nothing_of_the_users_is_touched) {
               QLatin1String("Starting Read Codes"));
     EXPECT_EQ(QDir(home.path()).entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot).size(),
               0);
+}
+
+TEST_F(shell, a_bluetooth_adapter_named_once_leaves_the_settings_alone) {
+    EXPECT_EQ(run({"--bluetooth", "00:1D:A5:68:98:8B", "codes"}).status, 1);
+    EXPECT_TRUE(QDir(home.path()).isEmpty());
 }
 
 TEST_F(shell, clearing_clears_the_car) {
@@ -152,7 +164,9 @@ TEST_F(shell, a_link_that_fails_ends_with_1_and_the_reason) {
         {{"--adapter", "no-such-host.invalid:35000", "codes"}, "Couldn't connect...Please Check"},
         {{"--adapter", address(stalls), "codes"}, "Cur op timed out... Please Check/retry"},
         {{"--adapter", address(stalls), "codes", "--timeout", "0.5"}, "the time limit has passed"},
-        {{"codes"}, "Bluetooth"}, // a first start
+        {{"codes"}, "--bluetooth ADDRESS"}, // a first start
+        {{"bluetooth-scan"}, "The Bluetooth service is not running"},
+        {{"--bluetooth", "00-1d-a5-68-98-8b", "codes"}, "The Bluetooth service is not running"},
     };
     for (const auto& one : cases) {
         const outcome result = run(one.arguments);

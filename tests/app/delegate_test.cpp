@@ -218,12 +218,4 @@ TEST(help, shows_the_version_line_and_the_help_text) {
     EXPECT_EQ(app.messages.shown[0].buttons, std::vector<std::string>{"OK"});
 }
 
-TEST(bluetooth, sends_the_user_to_the_wifi_setting) {
-    app_harness app(app_harness::first_start);
-    expect_warning("not supported yet");
-    app.delegate->do_read_codes();
-    app.press("readCodes");
-    EXPECT_EQ(app.last_status(), app.resources.localized("bluetooth_not_built_MSG"));
-}
-
 } // namespace

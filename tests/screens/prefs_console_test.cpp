@@ -53,6 +53,20 @@ TEST_F(preferences, leaving_saves_and_choosing_them_again_does_not) {
     EXPECT_EQ(app.defaults.string_array(PIDS_ARRAY_KEY), (list{"0D", "0C", "05"}));
 }
 
+TEST_F(preferences, reusing_the_last_adapter_is_off_until_asked_for) {
+    EXPECT_FALSE(app.find<QCheckBox>("lastBTCheck")->isEnabled()) << "Wi-Fi";
+    app.find<QRadioButton>("interfaceBluetooth")->click();
+    EXPECT_TRUE(app.find<QCheckBox>("lastBTCheck")->isEnabled());
+    EXPECT_FALSE(app.find<QCheckBox>("lastBTCheck")->isChecked());
+    app.find<QCheckBox>("lastBTCheck")->setChecked(true);
+    leave();
+    EXPECT_TRUE(app.defaults.boolean(REUSE_LAST_BT_KEY));
+    app.delegate->do_prefs();
+    EXPECT_TRUE(app.find<QCheckBox>("lastBTCheck")->isChecked());
+    app.press("setDefaultsBtn");
+    EXPECT_FALSE(app.defaults.boolean(REUSE_LAST_BT_KEY));
+}
+
 TEST_F(preferences, quitting_saves_as_leaving_does) {
     app.find<QCheckBox>("unitsCheck")->setChecked(true);
     app.delegate->applicationWillTerminate();

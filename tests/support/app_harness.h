@@ -8,6 +8,7 @@
 #include "mac_toolies.h"
 #include "screen_factories.h"
 #include "scripted_alerts.h"
+#include "scripted_serial_port.h"
 #include "scripted_stream_pair.h"
 #include "user_defaults.h"
 #include "virtual_run_loop.h"
@@ -36,7 +37,8 @@ class app_harness {
                           wires.back()->host = host;
                           wires.back()->port = port;
                           return std::make_unique<scripted_stream_pair>(loop, wires.back());
-                      }},
+                      },
+                      bluetooth},
             all_screens());
         delegate->status_shown = [this](const std::string& text) { statuses.push_back(text); };
     }
@@ -47,7 +49,7 @@ class app_harness {
         store.set_string(WIFI_PORT_KEY, "35000");
         store.set_string_array(PIDS_ARRAY_KEY, {"0D", "11", "0C", "05"});
     }
-    static void first_start(user_defaults&) {}
+    static void first_start(user_defaults&) {} // Bluetooth
 
     scripted_stream_pair::wire& wire() { return *wires.back(); }
 
@@ -90,6 +92,7 @@ class app_harness {
     user_defaults defaults;
     bundle resources{":/kestrom", "en_GB"};
     notification_center notifications;
+    scripted_serial_port bluetooth{loop};
     std::vector<std::shared_ptr<scripted_stream_pair::wire>> wires;
     std::vector<std::string> statuses;
     std::unique_ptr<Ks_lite_delegate> delegate;

@@ -1,0 +1,17 @@
+// The Bluetooth door as this program opens it: with the dialog to choose an adapter in, or for
+// commands, where nobody can be asked. Failures that the link only logs are told in a message box.
+#pragma once
+
+#include <memory>
+
+class alerts;
+class bundle;
+class run_loop;
+class serial_port_profile;
+class user_defaults;
+
+// The arguments outlive the door.
+std::unique_ptr<serial_port_profile> make_bluetooth_door(run_loop& loop, alerts& message_boxes,
+                                                         const bundle& texts,
+                                                         const user_defaults& store,
+                                                         bool somebody_to_ask);

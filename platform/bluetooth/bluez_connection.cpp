@@ -1,0 +1,198 @@
+#include "bluez_connection.h"
+
+#include "system_log.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusUnixFileDescriptor>
+#include <QDBusVirtualObject>
+
+#include <fcntl.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int HAND_OVER_MS = 3'000; // between BlueZ's "connected" and its descriptor
+
+template <class handler>
+void when_answered(QObject* owner, const QDBusPendingCall& call, handler handle) {
+    auto* answer = new QDBusPendingCallWatcher(call, owner);
+    QObject::connect(answer, &QDBusPendingCallWatcher::finished, owner,
+                     [handle](QDBusPendingCallWatcher* done) {
+                         done->deleteLater();
+                         handle(done->reply());
+                     });
+}
+
+QDBusMessage manager_call(const char* method, const QString& path) {
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        BLUEZ, BLUEZ_ROOT, PROFILE_MANAGER_INTERFACE, QLatin1String(method));
+    message << QVariant::fromValue(QDBusObjectPath(path));
+    return message;
+}
+
+QString next_profile_path() {
+    static int number = 0;
+    return QStringLiteral("/org/kestrom/serial_port_%1").arg(++number);
+}
+
+} // namespace
+
+// Our end of org.bluez.Profile1, which BlueZ calls.
+class profile_object final : public QDBusVirtualObject {
+  public:
+    explicit profile_object(bluez_connection& owner) : owner_(owner) {
+        QDBusConnection bus = owner_.devices_.bus();
+        bus.registerVirtualObject(path_, this);
+    }
+    ~profile_object() override {
+        QDBusConnection bus = owner_.devices_.bus();
+        bus.asyncCall(manager_call("UnregisterProfile", path_));
+        bus.unregisterObject(path_);
+    }
+
+    const QString& path() const { return path_; }
+
+    QString introspect(const QString&) const override { return {}; }
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
+        if (message.interface() != PROFILE_INTERFACE)
+            return false;
+        if (message.member() == QLatin1String("NewConnection") && message.arguments().size() >= 2) {
+            const auto handed = qdbus_cast<QDBusUnixFileDescriptor>(message.arguments().at(1));
+            owner_.new_connection(
+                handed.isValid() ? ::fcntl(handed.fileDescriptor(), F_DUPFD_CLOEXEC, 0) : -1);
+        }
+        // Release and RequestDisconnection: the socket itself tells the end.
+        bus.send(message.createReply());
+        return true;
+    }
+
+  private:
+    bluez_connection& owner_;
+    const QString path_ = next_profile_path();
+};
+
+bluez_connection::bluez_connection(bluez_devices& devices, std::string address)
+    : devices_(devices), address_(std::move(address)) {
+    for (QTimer* limit : {&reach_limit_, &total_limit_}) {
+        limit->setSingleShot(true);
+        connect(limit, &QTimer::timeout, this, [this] { finish(bluetooth_problem::out_of_reach); });
+    }
+    total_limit_.start(TOTAL_MS);
+    connect(&devices_, &bluez_devices::changed, this, &bluez_connection::follow_devices,
+            Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &bluez_connection::follow_devices, Qt::QueuedConnection);
+}
+
+bluez_connection::~bluez_connection() {
+    if (!finished_ && connecting_) // takes the pending call back
+        devices_.bus().asyncCall(QDBusMessage::createMethodCall(
+            BLUEZ, device_path_, DEVICE_INTERFACE, QStringLiteral("Disconnect")));
+    if (descriptor_ != -1) {
+        ::shutdown(descriptor_, SHUT_RDWR);
+        ::close(descriptor_);
+    }
+}
+
+void bluez_connection::follow_devices() {
+    if (finished_ || devices_.starting())
+        return;
+    if (const bluetooth_problem problem = devices_.problem(); problem != bluetooth_problem::none) {
+        finish(problem);
+        return;
+    }
+    const auto device = devices_.find(address_);
+    if (!device_path_.isEmpty()) {
+        if (!device)
+            finish(bluetooth_problem::out_of_reach); // BlueZ has forgotten it meanwhile
+        else if (device->connected)
+            reach_limit_.stop();
+        return;
+    }
+    if (device) {
+        connect_device(*device);
+    } else if (!searched_) {
+        searched_ = true;
+        devices_.search();
+    } else if (!devices_.searching()) {
+        finish(bluetooth_problem::out_of_reach);
+    }
+}
+
+void bluez_connection::connect_device(const bluetooth_entry& device) {
+    device_path_ = device.path;
+    devices_.stop_search(); // a search slows connecting down
+    if (!device.connected)
+        reach_limit_.start(REACH_MS);
+    register_profile();
+}
+
+void bluez_connection::register_profile() {
+    profile_ = std::make_unique<profile_object>(*this);
+    QDBusMessage message = manager_call("RegisterProfile", profile_->path());
+    message << SERIAL_PORT_UUID_TEXT
+            << QVariantMap{{QStringLiteral("Role"), QStringLiteral("client")},
+                           {QStringLiteral("Name"), QStringLiteral("Kestrom")}};
+    when_answered(this, devices_.bus().asyncCall(message), [this](const QDBusMessage& reply) {
+        if (finished_)
+            return;
+        if (reply.type() == QDBusMessage::ErrorMessage)
+            call_failed(reply);
+        else
+            connect_profile();
+    });
+}
+
+void bluez_connection::connect_profile() {
+    connecting_ = true;
+    QDBusMessage message = QDBusMessage::createMethodCall(BLUEZ, device_path_, DEVICE_INTERFACE,
+                                                          QStringLiteral("ConnectProfile"));
+    message << SERIAL_PORT_UUID_TEXT;
+    when_answered(this, devices_.bus().asyncCall(message, 2 * TOTAL_MS),
+                  [this](const QDBusMessage& reply) {
+                      if (finished_)
+                          return;
+                      if (reply.type() == QDBusMessage::ErrorMessage)
+                          call_failed(reply);
+                      else // connected already, for somebody else, if nothing is handed over
+                          QTimer::singleShot(HAND_OVER_MS, this,
+                                             [this] { finish(bluetooth_problem::in_use); });
+                  });
+}
+
+void bluez_connection::call_failed(const QDBusMessage& reply) {
+    const auto device = devices_.find(address_);
+    qCInfo(log_platform, "Bluetooth connection to %s: %s: %s", address_.c_str(),
+           qUtf8Printable(reply.errorName()), qUtf8Printable(reply.errorMessage()));
+    finish(problem_of_error(reply.errorName().toStdString(), reply.errorMessage().toStdString(),
+                            device && device->paired));
+}
+
+void bluez_connection::new_connection(int descriptor) {
+    if (finished_ || descriptor == -1) {
+        if (descriptor != -1)
+            ::close(descriptor);
+        return;
+    }
+    descriptor_ = descriptor;
+    finish(bluetooth_problem::none);
+}
+
+int bluez_connection::take_descriptor() {
+    return std::exchange(descriptor_, -1);
+}
+
+void bluez_connection::finish(bluetooth_problem problem) {
+    if (finished_)
+        return;
+    finished_ = true;
+    problem_ = problem;
+    reach_limit_.stop();
+    total_limit_.stop();
+    if (problem != bluetooth_problem::none && connecting_)
+        devices_.bus().asyncCall(QDBusMessage::createMethodCall(
+            BLUEZ, device_path_, DEVICE_INTERFACE, QStringLiteral("Disconnect")));
+    QMetaObject::invokeMethod(this, &bluez_connection::done, Qt::QueuedConnection);
+}

@@ -1,0 +1,62 @@
+// One attempt to get the serial port of one Bluetooth device from BlueZ: find the device, register
+// as a client of the Serial Port profile, let BlueZ look up the service, pair if need be and
+// connect, and take the descriptor it hands over. Lives as long as the channel: without the
+// registration BlueZ would close it.
+#pragma once
+
+#include "bluez_devices.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <memory>
+#include <optional>
+#include <string>
+
+class profile_object;
+class QDBusMessage;
+
+class bluez_connection final : public QObject {
+    Q_OBJECT
+  public:
+    // `address` as bluetooth_address() gives it. Begins at once, but never finishes from inside.
+    bluez_connection(bluez_devices& devices, std::string address);
+    // Gives up when it has not finished.
+    ~bluez_connection() override;
+
+    static constexpr int REACH_MS = 20'000; // until the device answers at all
+    static constexpr int TOTAL_MS = 60'000; // pairing may ask the user
+
+    bool finished() const { return finished_; }
+    // After finishing: none when connected.
+    bluetooth_problem problem() const { return problem_; }
+    const std::string& address() const { return address_; }
+    // The connected socket, once; -1 when there is none. The caller closes it, after a shutdown:
+    // BlueZ keeps a copy.
+    int take_descriptor();
+
+  Q_SIGNALS:
+    void done();
+
+  private:
+    friend class profile_object;
+
+    void follow_devices();
+    void connect_device(const bluetooth_entry& device);
+    void register_profile();
+    void connect_profile();
+    void call_failed(const QDBusMessage& reply);
+    void new_connection(int descriptor);
+    void finish(bluetooth_problem problem);
+
+    bluez_devices& devices_;
+    std::string address_;
+    QString device_path_; // empty until BlueZ knows the device
+    std::unique_ptr<profile_object> profile_;
+    QTimer reach_limit_, total_limit_;
+    bool searched_ = false;
+    bool connecting_ = false;
+    bool finished_ = false;
+    bluetooth_problem problem_ = bluetooth_problem::none;
+    int descriptor_ = -1;
+};

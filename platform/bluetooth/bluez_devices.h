@@ -1,0 +1,96 @@
+// The Bluetooth devices that BlueZ knows, kept up to date while this object lives: what is paired,
+// what a search finds, and whether Bluetooth can be used at all. Nothing here blocks, except
+// load_now() for a bounded time. Owned by the serial-port door.
+#pragma once
+
+#include "bluetooth_problem.h"
+#include "bluez_names.h"
+
+#include <QDBusConnection>
+#include <QDBusServiceWatcher>
+#include <QObject>
+#include <QTimer>
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class QDBusError;
+class QDBusMessage;
+
+enum class serial_port_offer { unknown, yes, no }; // unknown: the device was never asked
+
+struct bluetooth_entry {
+    QString path;              // BlueZ's object
+    std::string address;       // "00:1A:7D:DA:71:13"
+    std::string name;          // any bytes that are UTF-8; the address when the device told none
+    std::optional<int> signal; // dBm, of the running or last search
+    bool paired = false;
+    bool connected = false;
+    serial_port_offer serial_port = serial_port_offer::unknown;
+};
+
+// "00:1A:7D:DA:71:13" from any case, with colons or dashes; nothing when the text is no address.
+std::optional<std::string> bluetooth_address(std::string_view text);
+
+class bluez_devices final : public QObject {
+    Q_OBJECT
+  public:
+    explicit bluez_devices(QDBusConnection bus);
+    ~bluez_devices() override;
+
+    static constexpr int SEARCH_MS = 12'000; // an inquiry takes 10.24 s
+
+    const QDBusConnection& bus() const { return bus_; }
+    // BlueZ has not answered yet.
+    bool starting() const { return starting_; }
+    // What stands in the way of any search or connection.
+    bluetooth_problem problem() const;
+    bool searching() const { return searching_; }
+    // Those of the adapter in use: paired ones first by name, then the others as they were found.
+    std::vector<bluetooth_entry> devices() const;
+    std::optional<bluetooth_entry> find(std::string_view address) const;
+
+    // Searches for SEARCH_MS, as soon as BlueZ is ready; a running search begins anew.
+    void search();
+    void stop_search();
+    // Waits for BlueZ's answer, `limit_ms` at most.
+    void load_now(int limit_ms);
+
+  Q_SIGNALS:
+    // Anything above is different now.
+    void changed();
+
+  private Q_SLOTS:
+    void take(const QDBusMessage& reply);
+    void load_failed(const QDBusError& error);
+    void interfaces_added(const QDBusMessage& message);
+    void interfaces_removed(const QDBusMessage& message);
+    void properties_changed(const QDBusMessage& message);
+
+  private:
+    struct known_object {
+        interface_properties interfaces;
+        quint64 order = 0; // of appearance
+    };
+
+    void load();
+    void add(const QString& path, const interface_properties& interfaces);
+    void start_search();
+    void search_failed(const QDBusMessage& reply);
+    void choose_adapter();
+    void service_went();
+    bluetooth_entry entry(const QString& path, const QVariantMap& properties) const;
+
+    QDBusConnection bus_;
+    QDBusServiceWatcher watcher_;
+    QTimer search_limit_;
+    QMap<QString, known_object> objects_;
+    quint64 appeared_ = 0;
+    QString adapter_; // the first that is switched on, else the first; empty: none
+    bluetooth_problem load_problem_ = bluetooth_problem::none;
+    bool starting_ = true;
+    bool search_wanted_ = false;
+    bool searching_ = false;
+};

@@ -1,0 +1,130 @@
+#include "bluez_serial_port.h"
+
+#include "bluez_channel.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCall>
+
+#include <algorithm>
+#include <cerrno>
+
+namespace {
+
+constexpr int ASKING_LIMIT_MS = 500;
+
+// BlueZ looks the channel number up in the device's own record whenever it connects.
+class bluez_service_record final : public sdp_service_record {
+  public:
+    int getRFCOMMChannelID(std::uint8_t& channel_id) const override {
+        channel_id = 0;
+        return 0;
+    }
+};
+
+} // namespace
+
+class bluez_device final : public bluetooth_device {
+  public:
+    bluez_device(bluez_serial_port& door, std::string address,
+                 std::unique_ptr<bluez_connection> connection = nullptr)
+        : door_(door), address_(std::move(address)), connection_(std::move(connection)) {}
+
+    std::string address_text() const override {
+        std::string text = address_;
+        std::ranges::replace(text, ':', '-');
+        return text;
+    }
+
+    std::shared_ptr<sdp_service_record> getServiceRecordForUUID(std::uint16_t uuid) override {
+        bluez_devices& devices = door_.devices();
+        if (!connection_)
+            devices.load_now(ASKING_LIMIT_MS);
+        // A device that was never asked is asked when connecting.
+        const auto known = devices.find(address_);
+        if (known && known->serial_port == serial_port_offer::no) {
+            door_.tell_(bluetooth_problem::no_serial_port, known->name);
+            return nullptr;
+        }
+        if (uuid != SERIAL_PORT_UUID)
+            return nullptr;
+        return std::make_shared<bluez_service_record>();
+    }
+
+    int openRFCOMMChannelAsync(std::shared_ptr<rfcomm_channel>& channel, std::uint8_t,
+                               rfcomm_channel_delegate delegate) override {
+        if (!connection_)
+            connection_ = std::make_unique<bluez_connection>(door_.devices(), address_);
+        channel = std::make_shared<bluez_channel>(
+            door_.loop_, std::move(connection_), std::move(delegate),
+            [&door = door_, address = address_](bluetooth_problem problem) {
+                const auto known = door.devices().find(address);
+                door.tell_(problem, known ? known->name : address);
+            });
+        return 0;
+    }
+
+    int closeConnection() override {
+        bluez_devices& devices = door_.devices();
+        if (!devices.bus().isConnected())
+            return ENOTCONN;
+        const auto known = devices.find(address_);
+        if (known && known->connected)
+            devices.bus().asyncCall(QDBusMessage::createMethodCall(
+                BLUEZ, known->path, DEVICE_INTERFACE, QStringLiteral("Disconnect")));
+        return 0;
+    }
+
+  private:
+    bluez_serial_port& door_;
+    std::string address_;
+    std::unique_ptr<bluez_connection> connection_;
+};
+
+// Every device that the chooser connects offers the serial port, the only service it knows.
+class bluez_selector final : public device_selector {
+  public:
+    explicit bluez_selector(bluez_serial_port& door) : door_(door) {}
+
+    void addAllowedUUID(std::uint16_t) override {}
+    int runModal() override {
+        const modal_hold hold(door_.loop_);
+        auto connection = door_.choose_(door_.devices());
+        if (!connection)
+            return SELECTOR_SUCCESS - 1;
+        std::string address = connection->address();
+        chosen_ = std::make_shared<bluez_device>(door_, std::move(address), std::move(connection));
+        return SELECTOR_SUCCESS;
+    }
+    std::vector<std::shared_ptr<bluetooth_device>> getResults() const override {
+        return chosen_ ? std::vector<std::shared_ptr<bluetooth_device>>{chosen_}
+                       : std::vector<std::shared_ptr<bluetooth_device>>{};
+    }
+
+  private:
+    bluez_serial_port& door_;
+    std::shared_ptr<bluetooth_device> chosen_;
+};
+
+bluez_serial_port::bluez_serial_port(run_loop& loop, device_chooser choose, problem_teller tell,
+                                     std::function<QDBusConnection()> bus)
+    : loop_(loop), choose_(std::move(choose)), tell_(std::move(tell)), bus_(std::move(bus)) {}
+
+bluez_serial_port::~bluez_serial_port() = default;
+
+bluez_devices& bluez_serial_port::devices() {
+    if (!devices_)
+        devices_ = std::make_unique<bluez_devices>(bus_());
+    return *devices_;
+}
+
+std::unique_ptr<device_selector> bluez_serial_port::deviceSelector() {
+    if (choose_)
+        return std::make_unique<bluez_selector>(*this);
+    tell_(bluetooth_problem::nobody_to_ask, "");
+    return nullptr;
+}
+
+std::shared_ptr<bluetooth_device> bluez_serial_port::device_with_address(std::string_view text) {
+    auto address = bluetooth_address(text);
+    return address ? std::make_shared<bluez_device>(*this, *std::move(address)) : nullptr;
+}

@@ -1,0 +1,125 @@
+// The list of Bluetooth devices against a mock of BlueZ, and what stands in its way.
+#include "bluetooth_scan.h"
+#include "bluez_devices.h"
+#include "bundle.h"
+#include "mock_bluez.h"
+
+#include <sstream>
+
+namespace {
+
+using names = std::vector<std::string>;
+
+names names_of(const bluez_devices& devices) {
+    names found;
+    for (const bluetooth_entry& device : devices.devices())
+        found.push_back(device.name);
+    return found;
+}
+
+bool problem_becomes(const bluez_devices& devices, bluetooth_problem problem) {
+    return QTest::qWaitFor([&] { return !devices.starting() && devices.problem() == problem; });
+}
+
+const QVariantMap SERIAL_PORT{{QStringLiteral("UUIDs"), QStringList{SERIAL_PORT_UUID_TEXT}}};
+const QVariantMap HEADSET{
+    {QStringLiteral("UUIDs"), QStringList{QStringLiteral("0000111e-0000-1000-8000-00805f9b34fb")}}};
+const QVariantMap PAIRED{{QStringLiteral("Paired"), true}};
+
+TEST(bluetooth_addresses, have_six_pairs_of_hexadecimal_digits) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"00:1a:7D:da:71:13", "00:1A:7D:DA:71:13"},
+        {"00-1a-7d-da-71-13", "00:1A:7D:DA:71:13"},
+        {"00:1a:7D:da:71:1", ""},
+        {"00:1a:7D:da:71:133", ""},
+        {"00:1a:7D:da:71:1g", ""},
+        {"001a:7D:da:71:133", ""},
+        {"", ""},
+    };
+    for (const auto& [text, expected] : cases)
+        EXPECT_EQ(bluetooth_address(text).value_or(""), expected) << text;
+}
+
+TEST(bluetooth_devices, paired_ones_come_first_then_the_others_as_they_are_found) {
+    mock_bluez mock;
+    ASSERT_TRUE(mock.usable());
+    mock.add_adapter();
+    const std::string hostile = "<b>\n\x1b[31m\xE2\x80\xAE" + std::string(200, 'x');
+    const std::string known = mock.add_device("00:00:00:00:00:09", "Zebra");
+    mock.set_device(known, PAIRED);
+    mock.set_device(known, SERIAL_PORT);
+    bluez_devices devices(mock.connect());
+    ASSERT_TRUE(problem_becomes(devices, bluetooth_problem::none));
+    EXPECT_EQ(names_of(devices), names{"Zebra"});
+    devices.search();
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return mock.calls("/org/bluez/hci0", "StartDiscovery") == 1; }));
+    mock.add_device("00:00:00:00:00:05", hostile);
+    const std::string headset = mock.add_device("00:00:00:00:00:01", "");
+    const std::string second = mock.add_device("00:00:00:00:00:07", "Anne's headset");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return devices.devices().size() == 4; }));
+    mock.set_device(second, PAIRED);
+    mock.set_device(second, HEADSET);
+    mock.set_device(headset, HEADSET);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return names_of(devices).front() == "Anne's headset"; }));
+    EXPECT_EQ(names_of(devices), (names{"Anne's headset", "Zebra", hostile, "00:00:00:00:00:01"}));
+    const auto list = devices.devices();
+    EXPECT_EQ(list[0].serial_port, serial_port_offer::no) << "paired, so its services are known";
+    EXPECT_EQ(list[1].serial_port, serial_port_offer::yes);
+    EXPECT_EQ(list[2].serial_port, serial_port_offer::unknown);
+    EXPECT_EQ(list[3].serial_port, serial_port_offer::unknown) << "told only what it broadcasts";
+    EXPECT_EQ(list[2].signal, -79);
+    EXPECT_EQ(devices.find("00:00:00:00:00:07")->path.toStdString(), second);
+    mock.remove_device(second);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !devices.find("00:00:00:00:00:07"); }));
+    EXPECT_TRUE(devices.searching());
+    devices.stop_search();
+    EXPECT_FALSE(devices.searching());
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return mock.calls("/org/bluez/hci0", "StopDiscovery") == 1; }));
+}
+
+TEST(bluetooth_devices, what_stands_in_the_way_is_told_apart_and_may_go_away) {
+    bluez_devices nowhere{QDBusConnection(QStringLiteral("no such bus"))};
+    EXPECT_EQ(nowhere.problem(), bluetooth_problem::service_missing);
+    EXPECT_FALSE(nowhere.starting());
+    mock_bluez mock(false);
+    ASSERT_TRUE(mock.usable());
+    bluez_devices devices(mock.connect());
+    devices.search();
+    EXPECT_TRUE(problem_becomes(devices, bluetooth_problem::service_missing));
+    mock.start_service();
+    EXPECT_TRUE(problem_becomes(devices, bluetooth_problem::no_adapter));
+    mock.add_adapter();
+    EXPECT_TRUE(problem_becomes(devices, bluetooth_problem::none));
+    EXPECT_TRUE(devices.searching()) << "as asked for while it was not possible";
+    mock.power(false);
+    EXPECT_TRUE(problem_becomes(devices, bluetooth_problem::switched_off));
+    EXPECT_FALSE(devices.searching());
+    mock.power(true);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return devices.searching(); }));
+    mock.stop_service();
+    EXPECT_TRUE(problem_becomes(devices, bluetooth_problem::service_missing));
+    EXPECT_TRUE(devices.devices().empty());
+}
+
+TEST(bluetooth_scan, prints_what_was_found_or_why_it_cannot) {
+    const bundle texts(":/kestrom", "en");
+    mock_bluez mock;
+    ASSERT_TRUE(mock.usable());
+    std::ostringstream out, err;
+    {
+        bluez_devices devices(mock.connect());
+        EXPECT_EQ(run_bluetooth_scan(devices, texts, 5, false, out, err), 1);
+        EXPECT_NE(err.str().find("no Bluetooth adapter"), std::string::npos) << err.str();
+        EXPECT_EQ(out.str(), "");
+    }
+    mock.add_adapter();
+    mock.set_device(mock.add_device("00:1D:A5:68:98:8B", "OBD\x1b[31m"), SERIAL_PORT);
+    bluez_devices devices(mock.connect());
+    EXPECT_EQ(run_bluetooth_scan(devices, texts, 0.3, false, out, err), 0);
+    EXPECT_EQ(out.str(), "Address            Paired  Signal    Serial port    Name\n"
+                         "00:1D:A5:68:98:8B  no      -79 dBm   yes            OBD [31m\n");
+}
+
+} // namespace

@@ -151,7 +151,7 @@ int scan_for_bluetooth(int argc, char** argv, const cli_request& asked) {
     const bundle resources;
     bluez_devices devices(QDBusConnection::systemBus());
     const double seconds =
-        std::min(asked.timeout_seconds, bluez_devices::SEARCH_MS / 1000.0 + 10); // BlueZ may start
+        std::min(asked.timeout_seconds.value_or(60), bluez_devices::SEARCH_MS / 1000.0 + 10); // BlueZ may start
     return run_bluetooth_scan(devices, resources, seconds, asked.json, std::cout, std::cerr);
 }
 

@@ -2,6 +2,7 @@
 #include "actions.h"
 #include "alerts.h"
 #include "answering_server.h"
+#include "bluetooth_door.h"
 #include "bundle.h"
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
@@ -9,6 +10,7 @@
 #include "qt_run_loop.h"
 #include "ratio_table.h"
 #include "screen_factories.h"
+#include "serial_port_profile.h"
 #include "tcp_stream_pair.h"
 #include "thumbnail_strip.h"
 #include "user_defaults.h"
@@ -63,7 +65,8 @@ class running_program {
             app_doors{loop_, alerts_, defaults_, resources_, notifications_,
                       [this](const std::string& host, long to) -> std::unique_ptr<stream_pair> {
                           return std::make_unique<tcp_stream_pair>(loop_, host, to);
-                      }},
+                      },
+                      *bluetooth_},
             all_screens());
         window_ = std::make_unique<main_window>(*delegate_);
         window_->show();
@@ -112,6 +115,8 @@ class running_program {
     bundle resources_;
     notification_center notifications_;
     no_alerts alerts_{loop_};
+    std::unique_ptr<serial_port_profile> bluetooth_ =
+        make_bluetooth_door(loop_, alerts_, resources_, defaults_, false);
     std::unique_ptr<Ks_lite_delegate> delegate_;
     std::unique_ptr<main_window> window_;
 };

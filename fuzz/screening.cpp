@@ -5,6 +5,7 @@
 #include "globalVars.h"
 #include "obd_screen.h"
 #include "scripted_alerts.h"
+#include "scripted_serial_port.h"
 #include "text.h"
 #include "virtual_run_loop.h"
 
@@ -25,7 +26,8 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
     scripted_alerts boxes(loop);
     user_defaults settings("/nonexistent/settings.conf");
     notification_center notifications;
-    Ks_lite_delegate delegate({loop, boxes, settings, resources, notifications, {}}, {});
+    scripted_serial_port serial_ports(loop);
+    Ks_lite_delegate delegate({loop, boxes, settings, resources, notifications, {}, serial_ports}, {});
     bare_screen screen(delegate);
     codes_handshake handshake(screen);
 

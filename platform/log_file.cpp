@@ -110,9 +110,14 @@ std::optional<std::string> log_file::create(const std::string& path, existing fi
     const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | mode, 0666);
     if (fd < 0)
         return in_words(errno);
+    try {
+        flusher_ = std::make_unique<disk_flusher>(fd, path);
+    } catch (const std::system_error& no_thread) {
+        ::close(fd);
+        return std::string(no_thread.what());
+    }
     path_ = path;
     fd_ = fd;
-    flusher_ = std::make_unique<disk_flusher>(fd_, path_);
     return std::nullopt;
 }
 

@@ -11,7 +11,6 @@
 #include "user_defaults.h"
 
 #include <algorithm>
-#include <cstdio>
 
 namespace {
 
@@ -95,7 +94,7 @@ void actions::rework_gui_objects(int mode) {
     if (mode == TASK_BOOST)
         g_cur_barom_press = STANDARD_BAROMETER;
     build_views();
-    view_->show_next_sensors(mode == TASK_O2_SAMPLING && run_ &&
+    view_->show_next_sensors(mode == TASK_O2_SAMPLING && keep_logging &&
                              _pid_logitems_list.size() > SENSORS_A_PAGE);
 }
 
@@ -144,6 +143,7 @@ void actions::run_a_log() {
     frames_.request();
     run_ = make_live_run(g_cur_task, toolies);
     requests_answered_ = cycles_ = 0;
+    straggler_came_ = true;
     keep_logging = true;
     next_step_idx = 0;
     set_status_msg("Starting run log");
@@ -218,9 +218,8 @@ void actions::link_lost() {
 }
 
 void actions::set_status_msg(const std::string& message) {
-    note_status(message);
-    status_changed_ = true;
-    frames_.request();
+    status_changed_ = false;
+    obd_screen::set_status_msg(message);
 }
 
 void actions::cellCicked() {

@@ -55,6 +55,11 @@ class actions final : public obd_screen {
     bool isFlipped() const { return true; }
 
     bool running() const { return keep_logging; }
+    // A run waits for the adapter or for the link to it.
+    bool awaits_adapter() const {
+        return keep_logging &&
+               (straggler_bound_ != 0 || awaits_old_reply() || KS_delegate.anything_outstanding());
+    }
     const std::vector<std::string>& pids() const { return _pid_logitems_list; }
     // Of the run: when its first cycle began, and what was answered since.
     run_loop::milliseconds sampling_since() const { return sampling_since_; }
@@ -89,11 +94,11 @@ class actions final : public obd_screen {
     void first_question_answered();
     std::optional<std::string> screened_reply();
     void take_reply();
-    std::string reply_to_request(std::string reply);
     void ask_next(bool out_of_step);
     void continue_in_step();
     void ask(const sample_request& request);
     void prep_and_send_cmd(std::string_view command, int this_time_out);
+    void note_reply(const std::string& reply);
     void add_item_to_log_vector(std::string_view this_item_val, int this_idx);
     void output_MPG_item(int index, const std::string& this_reply_cp);
     void show_needle(int index);
@@ -131,6 +136,7 @@ class actions final : public obd_screen {
 
     std::vector<sample_request> requests_;
     std::size_t cur_request_ = 0;
+    bool asks_first_question_ = false;
     run_loop::timer_id straggler_bound_ = 0; // the answer that an adapter still owes is awaited
     bool straggler_came_ = true;
     run_loop::milliseconds sampling_since_{0};

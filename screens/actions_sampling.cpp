@@ -11,7 +11,6 @@
 #include "user_defaults.h"
 
 #include <algorithm>
-#include <cctype>
 #include <exception>
 #include <stdexcept>
 
@@ -50,9 +49,7 @@ std::string first_line(const std::string& text) {
 bool answers_another(std::string_view reply, std::string_view pid) {
     const std::string_view answered = slice(reply, 2, 2);
     return reply.starts_with("41") && is_hex(answered) && answered.size() == 2 &&
-           !std::ranges::equal(answered, pid, [](unsigned char a, unsigned char b) {
-               return std::toupper(a) == std::toupper(b);
-           });
+           !answers_parameter(reply, pid);
 }
 
 // A reply as it goes into the log, where "," and line ends have a meaning of their own.
@@ -145,12 +142,13 @@ bool actions::take_supported_pids(const std::string& reply) {
 }
 
 void actions::begin_cycle() {
-    if (const auto question = run_->first_question()) {
+    cur_request_ = 0;
+    g_this_delta = REPLY_TIME_OUT;
+    const auto question = run_->first_question();
+    asks_first_question_ = question.has_value();
+    if (question) {
         requests_ = {{*question, 0}};
-        cur_request_ = 0;
-        g_this_delta = REPLY_TIME_OUT;
         ask(requests_.front());
-        next_step_idx = FIRST_QUESTION_ANSWERED;
         return;
     }
     if (const auto found = run_->parameters_found()) {
@@ -165,9 +163,6 @@ void actions::begin_cycle() {
     requests_ = run_->requests(_pid_logitems_list);
     if (requests_.empty())
         throw std::out_of_range("no PIDs selected");
-    cur_request_ = 0;
-    g_this_delta = REPLY_TIME_OUT;
-    straggler_came_ = true;
     sampling_since_ = KS_delegate.doors().loop.now();
     ask(requests_.front());
 }
@@ -176,6 +171,12 @@ void actions::first_question_answered() {
     const std::optional<std::string> reply = screened_reply();
     if (!reply)
         return;
+    if (answers_another(*reply, requests_.front().pid) && straggler_came_) {
+        straggler_came_ = false;
+        straggler_bound_ =
+            KS_delegate.doors().loop.after(STRAGGLER_BOUND, [this] { continue_in_step(); });
+        return; // and ask once more
+    }
     run_->first_question_answered(*reply);
     begin_cycle();
 }
@@ -184,7 +185,7 @@ void actions::ask(const sample_request& request) {
     cur_log_idx = request.place;
     const std::string command = "01 " + request.pid + "\r";
     cur_cmd = std::string_view(command);
-    next_step_idx = REPLY;
+    next_step_idx = asks_first_question_ ? FIRST_QUESTION_ANSWERED : REPLY;
     prep_and_send_cmd(cur_cmd, g_this_delta);
 }
 
@@ -244,7 +245,7 @@ std::optional<std::string> actions::screened_reply() {
         ++g_retries;
         reply = "~";
     }
-    reply = first_line(without(reply, " "));
+    reply = first_line(without(reply, " \n"));
     reply.resize(std::min(reply.size(), LONGEST_SAMPLE));
     return reply;
 }
@@ -258,7 +259,7 @@ void actions::take_reply() {
     const bool out_of_step = answers_another(*screened, asked.pid);
     // What answers another request is not filed under this one's name.
     const std::string reply = run_->reply_to_file(asked, out_of_step ? "~" : *screened);
-    show_err_msg("Got proper reply: ( " + *screened + ")");
+    note_reply(*screened);
     qCDebug(log_screens, "loggy:%s", reply.c_str());
     add_item_to_log_vector(reply, cur_log_idx);
     pictures_.use_realtime_labels(false);
@@ -277,6 +278,13 @@ void actions::take_reply() {
     }
     ask_next(out_of_step); // before the disk and the listener take their time
     complete_cycle();
+}
+
+// Replies come faster than they can be read: the status line follows with the frames.
+void actions::note_reply(const std::string& reply) {
+    cur_err_msg = "Got proper reply: ( " + reply + ")";
+    note_status(cur_err_msg);
+    status_changed_ = true;
 }
 
 void actions::show_needle(int index) {
@@ -336,6 +344,7 @@ void actions::complete_cycle() {
 
 void actions::work_out_log_file() {
     log_failure_.clear();
+    cur_log_file_name.clear();
     view_->show_log_mark("");
     if (!KS_delegate.doors().defaults.boolean(LOG_RUNS_KEY))
         return;
@@ -345,6 +354,7 @@ void actions::work_out_log_file() {
                         (g_cur_task == TASK_RUN_LOG ? ".gol" : ".txt");
     if (const auto why = log_out_stream.create(cur_log_file_name)) {
         qCWarning(log_screens, "work_out_log_file::%s", why->c_str());
+        cur_log_file_name.clear();
         log_failed(*why);
     }
 }

@@ -4,6 +4,7 @@
 #include "busy_indicator.h"
 #include "display_text.h"
 #include "Ks_lite_delegate.h"
+#include "stall_hint.h"
 #include "status_line.h"
 
 #include <QFile>
@@ -124,6 +125,7 @@ screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view titl
         bones.status = new status_line(bones.root);
         bones.status->setAccessibleDescription(ui_text(delegate, "ui_status"));
         foot->addWidget(bones.status, 1);
+        foot->addWidget(new stall_hint(delegate, bones.root));
         foot->addWidget(bones.waity);
         column->addLayout(foot);
     }

@@ -18,7 +18,9 @@ frame_pacer::~frame_pacer() {
 }
 
 void frame_pacer::request() {
-    if (pending_ != 0)
+    if (drawing_)
+        requested_while_drawing_ = true;
+    if (pending_ != 0 || drawing_)
         return;
     const auto wait = std::max(next_frame_ - loop_.fine_now(), run_loop::microseconds(0));
     pending_ =
@@ -28,7 +30,12 @@ void frame_pacer::request() {
 void frame_pacer::draw_frame() {
     pending_ = 0;
     const auto begun = loop_.fine_now();
+    drawing_ = true;
+    requested_while_drawing_ = false;
     draw_();
+    drawing_ = false;
     const auto ended = loop_.fine_now();
     next_frame_ = std::max(begun + SHORTEST_INTERVAL, ended + WAIT_AFTER_FRAME * (ended - begun));
+    if (requested_while_drawing_)
+        request();
 }

@@ -1,6 +1,5 @@
-// Paces drawing: at most 30 frames a second, which a dial needs to
-// move smoothly, and after a frame that took d the next waits at least
-// 3 d, so that drawing never takes more than a quarter of the time. Owned by a screen.
+// Paces drawing: at most 30 frames a second, which a dial needs to move smoothly, and after a frame
+// that took d the next waits at least 3 d, so that drawing never takes more than a quarter of the time. Owned by a screen.
 #pragma once
 
 #include "run_loop.h"
@@ -23,5 +22,7 @@ class frame_pacer {
     run_loop& loop_;
     std::function<void()> draw_;
     run_loop::timer_id pending_ = 0;
+    bool drawing_ = false;
+    bool requested_while_drawing_ = false;
     run_loop::microseconds next_frame_{0};
 };

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -19,7 +20,7 @@ constexpr double NO_READING = std::numeric_limits<double>::quiet_NaN();
 // The data bytes of an answer to that parameter, at most two, as one number; NaN when it is none.
 double raw_value(std::string_view reply, std::string_view pid, std::size_t bytes) {
     const std::string_view data = slice(reply, 4, 2 * bytes);
-    if (!reply.starts_with("41") || slice(reply, 2, 2) != pid || data.size() != 2 * bytes ||
+    if (!answers_parameter(reply, pid) || data.size() != 2 * bytes ||
         !is_hex(data))
         return NO_READING;
     return mac_toolies::convertStr2Byte(data);
@@ -121,7 +122,7 @@ class oxygen_run final : public live_run {
         return questions_[questions_asked_];
     }
     void first_question_answered(std::string_view reply) override {
-        if (slice(reply, 2, 2) == questions_[questions_asked_])
+        if (answers_parameter(reply, questions_[questions_asked_]))
             sensors_ = oxygen_sensors_in(reply);
         ++questions_asked_;
     }
@@ -137,6 +138,13 @@ class oxygen_run final : public live_run {
 };
 
 } // namespace
+
+bool answers_parameter(std::string_view reply, std::string_view pid) {
+    return reply.starts_with("41") &&
+           std::ranges::equal(slice(reply, 2, 2), pid, [](unsigned char a, unsigned char b) {
+               return std::toupper(a) == std::toupper(b);
+           });
+}
 
 std::vector<sample_request>
 live_run::requests(const std::vector<std::string>& parameters) const {

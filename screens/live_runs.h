@@ -24,6 +24,9 @@ struct computed_sample {
     std::string reply; // as an adapter would have answered, without blanks
 };
 
+// Whether the reply, without blanks, answers the service 01 request for that parameter.
+bool answers_parameter(std::string_view reply, std::string_view pid);
+
 class live_run {
   public:
     virtual ~live_run() = default;

@@ -62,7 +62,6 @@ class live_view {
     void build_controls(QHBoxLayout* row);
     void build_strip(QVBoxLayout* column);
     void fit_thumbnails();
-    bool visible_to_user() const;
 
     Ks_lite_delegate& delegate_;
     std::unique_ptr<QWidget> root_;

@@ -40,7 +40,10 @@ void obd_screen::work_when_adapter_is_free() {
         work_current_task();
     else
         old_reply_bound_ =
-            KS_delegate.doors().loop.after(OLD_REPLY_BOUND, [this] { old_reply_is_over(); });
+            KS_delegate.doors().loop.after(OLD_REPLY_BOUND, [this] {
+                KS_delegate.give_up_on_reply();
+                old_reply_is_over();
+            });
 }
 
 void obd_screen::old_reply_is_over() {

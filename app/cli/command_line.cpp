@@ -200,6 +200,8 @@ class argument_reader {
         if (asked.command != "live" && (!asked.pids.empty() || asked.log || asked.run != "log" ||
                                         asked.seconds > 0 || asked.cycles > 0))
             fail("--pids, --run, --seconds, --cycles and --log belong to the command live");
+        if (asked.seconds > 0 && asked.cycles > 0)
+            fail("--seconds and --cycles exclude each other");
         static const std::set<std::string, std::less<>> RUNS{"log", "fuel", "o2", "boost"};
         if (!RUNS.contains(asked.run))
             fail("--run is one of log, fuel, o2, boost");

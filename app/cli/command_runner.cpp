@@ -107,8 +107,8 @@ void command_runner::take_reply(const std::string& chunk) {
 bool command_runner::over() const {
     if (codes_ && !codes_->task_running())
         return true;
-    if (live_ && live_->over())
-        return true;
+    if (live_)
+        return live_->over() || messages_.endless();
     return reply_complete_ || messages_.endless() || !delegate_.anything_outstanding();
 }
 
@@ -162,7 +162,8 @@ void command_runner::finish_live() {
 }
 
 void command_runner::interrupt() {
-    end(false, "interrupted");
+    // A run without an end is ended so.
+    end(live_ && live_->has_no_end() && live_->sampled(), "interrupted");
 }
 
 void command_runner::end(bool succeeded, const std::string& why) {

@@ -47,6 +47,8 @@ void live_command::start() {
     if (const int task = task_of(asked_.run); task != TASK_RUN_LOG)
         screen_->choose_run(task);
     screen_->cycle_completed = [this](const std::vector<translated>& values) {
+        if (finished_)
+            return;
         print_cycle(values);
         if (asked_.cycles != 0 && screen_->cycles() >= asked_.cycles) {
             finished_as_asked_ = true;
@@ -64,11 +66,15 @@ void live_command::start() {
 }
 
 bool live_command::over() const {
-    return !screen_->running();
+    return !screen_->awaits_adapter();
+}
+
+bool live_command::sampled() const {
+    return screen_->cycles() > 0;
 }
 
 bool live_command::succeeded() const {
-    return screen_->cycles() > 0 && finished_as_asked_;
+    return sampled() && finished_as_asked_;
 }
 
 std::string live_command::what_went_wrong() const {
@@ -79,7 +85,8 @@ std::string live_command::what_went_wrong() const {
 
 void live_command::finish() {
     ended_ = delegate_.doors().loop.now();
-    screen_->cycle_completed = nullptr;
+    delegate_.doors().loop.cancel(limit_);
+    finished_ = true;
     if (screen_->running())
         screen_->runLogs();
     print_summary();
@@ -117,7 +124,7 @@ void live_command::print_cycle(const std::vector<translated>& values) {
     for (std::size_t i = 0; i < values.size(); ++i) {
         line += i == 0 ? "" : ",";
         if (asked_.json)
-            line += "\"" + header_of_[i] + "\":" + number_text(values[i].value, "null");
+            line += json_string(header_of_[i]) + ":" + number_text(values[i].value, "null");
         else
             line += number_text(values[i].value, "nan");
     }

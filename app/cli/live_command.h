@@ -24,6 +24,9 @@ class live_command {
     bool over() const;
     // At least one cycle was completed, and the run ended as asked.
     bool succeeded() const;
+    // Neither a number of cycles nor a time was asked for.
+    bool has_no_end() const { return asked_.cycles == 0 && asked_.seconds <= 0; }
+    bool sampled() const;
     // Why the run, or its log, ended early; empty when it did not.
     std::string what_went_wrong() const;
     // Stops a run that still goes on and prints the summary.
@@ -43,5 +46,6 @@ class live_command {
     run_loop::milliseconds ended_{0};
     run_loop::timer_id limit_ = 0;
     bool finished_as_asked_ = false;
+    bool finished_ = false;
     std::vector<std::string> header_of_;
 };

@@ -22,6 +22,7 @@ Ks_lite_delegate::Ks_lite_delegate(app_doors doors, screen_factories factories)
 
 Ks_lite_delegate::~Ks_lite_delegate() {
     doors_.notifications.remove_observer(observer_);
+    doors_.loop.cancel(release_);
 }
 
 void Ks_lite_delegate::load_settings() {
@@ -75,8 +76,9 @@ void Ks_lite_delegate::release_current_screen() {
     mainViewController->view()->hide();
     mainViewController->view()->setParent(nullptr);
     // One of the screen's own operations may be running: let it go only from the run loop.
-    doors_.loop.after(run_loop::milliseconds(0),
-                      [old = std::shared_ptr<screen_controller>(std::move(mainViewController))] {});
+    released_.push_back(std::move(mainViewController));
+    doors_.loop.cancel(release_);
+    release_ = doors_.loop.after(run_loop::milliseconds(0), [this] { released_.clear(); });
 }
 
 void Ks_lite_delegate::do_help_button() {

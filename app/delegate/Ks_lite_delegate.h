@@ -19,6 +19,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 class alerts;
 class bundle;
@@ -88,6 +89,8 @@ class Ks_lite_delegate {
     void adapter_changed();
     // A reply, a connection or a deferred call is still to come.
     bool anything_outstanding() const;
+    // The last command's reply counts as lost, and is no time-out any more.
+    void give_up_on_reply();
     // Since when the last command waits for its prompt; zero when none does.
     run_loop::milliseconds waiting_since() const { return reply_awaited_since_; }
 
@@ -130,6 +133,8 @@ class Ks_lite_delegate {
     QWidget* mainView = nullptr;
     std::unique_ptr<screen_controller> mainViewController;
     std::string screen_name_;
+    std::vector<std::unique_ptr<screen_controller>> released_; // until the run loop's next turn
+    run_loop::timer_id release_ = 0;
 
     run_loop::timer_id obdTimeOutTimer = 0;
     run_loop::milliseconds reply_awaited_since_{0};

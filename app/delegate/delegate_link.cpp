@@ -64,6 +64,12 @@ void Ks_lite_delegate::adapter_changed() {
     disconnect(); // an attempt that still runs is to the old address as well
 }
 
+void Ks_lite_delegate::give_up_on_reply() {
+    doors_.loop.cancel(obdTimeOutTimer);
+    obdTimeOutTimer = 0;
+    reply_awaited_since_ = {};
+}
+
 bool Ks_lite_delegate::anything_outstanding() const {
     return reply_awaited_since_.count() != 0 || deferred_call_ != 0 ||
            attempt_state_ == attempt_state::connecting || bluetooth_opening_;

@@ -105,8 +105,10 @@ void tcp_stream_pair::disconnected() {
     if (socket_.error() != QAbstractSocket::RemoteHostClosedError || ended_)
         return;
     ended_ = true;
-    if (!bytes_announced_)
-        raise(stream_side::input, STREAM_END);
+    if (bytes_announced_)
+        return; // the end follows the last read
+    bytes_announced_ = socket_.bytesAvailable() > 0;
+    raise(stream_side::input, bytes_announced_ ? STREAM_BYTES_AVAILABLE : STREAM_END);
 }
 
 void tcp_stream_pair::close() {
@@ -126,8 +128,14 @@ std::function<void()> tcp_stream_pair::event(stream_side side, int event_code) {
             return;
         const event_handler call = handler_; // the pair may be replaced meanwhile
         call(side, event_code);
-        if (!alive.expired() && event_code == STREAM_BYTES_AVAILABLE && !written_since_read_ &&
-            socket_.socketDescriptor() != -1)
+        if (alive.expired() || event_code != STREAM_BYTES_AVAILABLE)
+            return;
+        if (!written_since_read_ && socket_.socketDescriptor() != -1)
             acknowledge_at_once();
+        // What came under a dialog of the handler's raised no signal: this one was still out.
+        if (socket_.bytesAvailable() > 0 && !bytes_announced_) {
+            bytes_announced_ = true;
+            raise(stream_side::input, STREAM_BYTES_AVAILABLE);
+        }
     };
 }

@@ -189,6 +189,10 @@ Bitte prüfen Sie:
         <source></source>
         <translation>Live-Daten</translation>
     </message>
+    <message id="ui_stall_hint">
+        <source></source>
+        <translation>wartet auf den Adapter, %1 s</translation>
+    </message>
     <message id="ui_live_run">
         <source></source>
         <translation>&amp;Fahrt:</translation>

@@ -189,6 +189,10 @@ Please check:
         <source></source>
         <translation>Live data</translation>
     </message>
+    <message id="ui_stall_hint">
+        <source></source>
+        <translation>waiting for the adapter, %1 s</translation>
+    </message>
     <message id="ui_live_run">
         <source></source>
         <translation>&amp;Run:</translation>

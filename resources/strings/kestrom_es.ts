@@ -189,6 +189,10 @@ Compruebe que:
         <source></source>
         <translation>Datos en vivo</translation>
     </message>
+    <message id="ui_stall_hint">
+        <source></source>
+        <translation>esperando al adaptador, %1 s</translation>
+    </message>
     <message id="ui_live_run">
         <source></source>
         <translation>&amp;Medición:</translation>

@@ -189,6 +189,10 @@ Veuillez vérifier que :
         <source></source>
         <translation>Données en direct</translation>
     </message>
+    <message id="ui_stall_hint">
+        <source></source>
+        <translation>en attente de l'adaptateur, %1 s</translation>
+    </message>
     <message id="ui_live_run">
         <source></source>
         <translation>&amp;Mesure :</translation>

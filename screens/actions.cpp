@@ -117,7 +117,7 @@ void actions::build_views() {
     gauge_2_idx = -1;
     view_->show_second_dial(false);
     pictures_.rebuild(_pid_logitems_list);
-    pictures_.set_title(ALL_POINTS);
+    set_chart_title(ALL_POINTS);
     pictures_.set_points_shown(-1);
     view_->reset_zoom();
     view_->set_thumbnails(names);
@@ -269,8 +269,13 @@ void actions::zoomSliderDidChange(double v) {
                        : v >= 1 ? -1
                                 : static_cast<int>(static_cast<double>(cur_log_points.rows()) * v);
     pictures_.set_points_shown(points);
-    pictures_.set_title(points < 0 ? ALL_POINTS : title_of_last(points));
+    set_chart_title(points < 0 ? ALL_POINTS : title_of_last(points));
     frames_.request();
+}
+
+void actions::set_chart_title(const std::string& title) {
+    pictures_.set_title(title);
+    view_->chartFull().setAccessibleDescription(display_text(title));
 }
 
 void actions::clickIt() {

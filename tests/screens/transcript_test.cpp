@@ -3,6 +3,7 @@
 // of the strings table.
 #include "actions.h"
 #include "app_harness.h"
+#include "qt_warnings.h"
 
 #include <QAbstractItemModel>
 #include <QLabel>
@@ -104,6 +105,7 @@ void transcript::run_line(const std::string& verb, const std::string& text) {
         expect_row(text);
     } else if (verb == "connection") { // "lost" or the words of a failure
         if (text == "lost") {
+            expect_warning("Disconected");
             scripted_stream_pair::raise(app.wire(), app.loop, STREAM_END);
             app.loop.settle();
         } else {
@@ -130,16 +132,17 @@ void transcript::go_the_way_to(const std::string& command) {
         {"AT Z\r", "ELM327 v1.5\r\r>"},
         {"AT I\r", "ELM327 v1.5\r\r>"},
         {"AT DP\r", "AUTO\r\r>"},
-        {"01 00\r", "41 00 BE 1F A8 13 \r\r>"},
-        {"01 20\r", "41 20 80 00 00 01 \r\r>"},
-        {"01 40\r", "41 40 80 00 00 00 \r\r>"}};
+        {"01 00\r", "7E8 06 41 00 BE 1F A8 13 \r\r>"},
+        {"01 20\r", "7E8 06 41 20 80 00 00 01 \r\r>"},
+        {"01 40\r", "7E8 06 41 40 80 00 00 00 \r\r>"}};
     app.press("startStopBtn");
     app.loop.settle();
     if (!connected_2_WIFI_interface)
         app.connect();
     for (std::string sent; (sent = app.sent()) != command;) {
-        ASSERT_NE(sent, "") << "the way does not lead there";
         const auto answer = GOOD_ANSWERS.find(sent);
+        ASSERT_TRUE(sent.starts_with("AT") || answer != GOOD_ANSWERS.end())
+            << "the way does not lead there, but to " << sent;
         app.receive(answer == GOOD_ANSWERS.end() ? "OK\r\r>" : answer->second);
     }
 }

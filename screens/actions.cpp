@@ -116,7 +116,7 @@ void actions::build_views() {
     gauge_2_idx = -1;
     view_->show_second_dial(false);
     pictures_.rebuild(_pid_logitems_list);
-    pictures_.set_title(ALL_POINTS);
+    set_chart_title(ALL_POINTS);
     pictures_.set_points_shown(-1);
     view_->reset_zoom();
     view_->set_thumbnails(names);
@@ -143,7 +143,7 @@ void actions::run_a_log() {
     frames_.request();
     run_ = make_live_run(g_cur_task, toolies);
     requests_answered_ = cycles_ = 0;
-    straggler_came_ = true;
+    waits_in_vain_ = 0;
     keep_logging = true;
     next_step_idx = 0;
     set_status_msg("Starting run log");
@@ -195,7 +195,7 @@ void actions::handleOBDRcvdMsg(const std::string& text) {
     if (awaits_old_reply())
         old_reply_is_over();
     else if (straggler_bound_ != 0)
-        continue_in_step();
+        straggler_came();
     else
         work_current_task();
 }
@@ -268,8 +268,13 @@ void actions::zoomSliderDidChange(double v) {
                        : v >= 1 ? -1
                                 : static_cast<int>(static_cast<double>(cur_log_points.rows()) * v);
     pictures_.set_points_shown(points);
-    pictures_.set_title(points < 0 ? ALL_POINTS : title_of_last(points));
+    set_chart_title(points < 0 ? ALL_POINTS : title_of_last(points));
     frames_.request();
+}
+
+void actions::set_chart_title(const std::string& title) {
+    pictures_.set_title(title);
+    view_->chartFull().setAccessibleDescription(display_text(title));
 }
 
 void actions::clickIt() {

@@ -78,6 +78,7 @@ class actions final : public obd_screen {
     void awakeFromNib();
     void build_views();
     void run_a_log();
+    void set_chart_title(const std::string& title);
     void choose_second_dial(const std::set<int>& selected, std::size_t selected_before, int shown_before);
     void draw_frame();
     void show_status_now_and_then();
@@ -94,7 +95,11 @@ class actions final : public obd_screen {
     void first_question_answered();
     std::optional<std::string> screened_reply();
     void take_reply();
-    void ask_next(bool out_of_step);
+    enum class order_of_answer { in_step, one_behind, wrong };
+    order_of_answer order_of(std::string_view reply) const;
+    void ask_next(order_of_answer order);
+    bool await_straggler(order_of_answer order);
+    void straggler_came();
     void continue_in_step();
     void ask(const sample_request& request);
     void prep_and_send_cmd(std::string_view command, int this_time_out);
@@ -138,7 +143,8 @@ class actions final : public obd_screen {
     std::size_t cur_request_ = 0;
     bool asks_first_question_ = false;
     run_loop::timer_id straggler_bound_ = 0; // the answer that an adapter still owes is awaited
-    bool straggler_came_ = true;
+    int waits_in_vain_ = 0;                  // for one
+    int answers_in_step_ = 0;                // since the last that was not
     run_loop::milliseconds sampling_since_{0};
     std::uint64_t requests_answered_ = 0, cycles_ = 0;
     bool status_changed_ = false;

@@ -27,8 +27,11 @@ constexpr int REPLY_TIME_OUT = 3000;
 constexpr std::size_t LONGEST_SAMPLE = 331;
 
 // How long the answer that is still owed is awaited after one to another request: as long as an
-// adapter at most waits for the car.
+// adapter at most waits for the car, and longer when that was not enough.
 constexpr run_loop::milliseconds STRAGGLER_BOUND{1000};
+constexpr run_loop::milliseconds LONG_STRAGGLER_BOUND{4000};
+constexpr int MOST_WAITS_IN_VAIN = 3;
+constexpr int ANSWERS_TO_TRUST_AGAIN = 50; // in a row
 
 // The toolkit's operation has another name: asking for this one fails.
 std::string fix_3dos(std::string_view reply) {
@@ -43,6 +46,13 @@ std::string first_line(const std::string& text) {
         if (!line.empty())
             return std::string(line);
     return text;
+}
+
+// The next answer arrived in one piece with this one.
+bool another_reply_behind(std::string_view reply) {
+    const std::size_t prompt = reply.find('>');
+    return prompt != std::string_view::npos &&
+           reply.find_first_not_of("> \r\n", prompt) != std::string_view::npos;
 }
 
 // An answer to a service 01 request for another parameter.
@@ -171,12 +181,9 @@ void actions::first_question_answered() {
     const std::optional<std::string> reply = screened_reply();
     if (!reply)
         return;
-    if (answers_another(*reply, requests_.front().pid) && straggler_came_) {
-        straggler_came_ = false;
-        straggler_bound_ =
-            KS_delegate.doors().loop.after(STRAGGLER_BOUND, [this] { continue_in_step(); });
+    if (answers_another(*reply, requests_.front().pid) &&
+        await_straggler(order_of_answer::one_behind))
         return; // and ask once more
-    }
     run_->first_question_answered(*reply);
     begin_cycle();
 }
@@ -250,13 +257,22 @@ std::optional<std::string> actions::screened_reply() {
     return reply;
 }
 
+actions::order_of_answer actions::order_of(std::string_view reply) const {
+    const sample_request& before =
+        requests_[(cur_request_ == 0 ? requests_.size() : cur_request_) - 1];
+    if (!answers_another(reply, requests_[cur_request_].pid))
+        return order_of_answer::in_step;
+    return answers_another(reply, before.pid) ? order_of_answer::wrong : order_of_answer::one_behind;
+}
+
 void actions::take_reply() {
     const std::optional<std::string> screened = screened_reply();
     if (!screened)
         return;
     ++requests_answered_;
     const sample_request asked = requests_[cur_request_];
-    const bool out_of_step = answers_another(*screened, asked.pid);
+    const order_of_answer order = order_of(*screened);
+    const bool out_of_step = order != order_of_answer::in_step;
     // What answers another request is not filed under this one's name.
     const std::string reply = run_->reply_to_file(asked, out_of_step ? "~" : *screened);
     note_reply(*screened);
@@ -268,7 +284,7 @@ void actions::take_reply() {
     frames_.request();
 
     if (++cur_request_ < requests_.size()) {
-        ask_next(out_of_step);
+        ask_next(order);
         return;
     }
     cur_request_ = 0;
@@ -276,7 +292,7 @@ void actions::take_reply() {
         cur_log_idx = computed->place;
         output_MPG_item(computed->place, computed->reply);
     }
-    ask_next(out_of_step); // before the disk and the listener take their time
+    ask_next(order); // before the disk and the listener take their time
     complete_cycle();
 }
 
@@ -308,18 +324,34 @@ void actions::output_MPG_item(int index, const std::string& this_reply_cp) {
 }
 
 // An answer to another request than the last means that the adapter owes one: it is awaited and
-// dropped, or every answer from now on would be one behind. An adapter that owed none after all is
-// not waited for again until it has given a right answer.
-void actions::ask_next(bool out_of_step) {
-    if (!out_of_step)
-        straggler_came_ = true;
-    if (out_of_step && straggler_came_) {
-        straggler_came_ = false;
-        straggler_bound_ =
-            KS_delegate.doors().loop.after(STRAGGLER_BOUND, [this] { continue_in_step(); });
-        return;
+// dropped, or every answer from now on would be one behind.
+void actions::ask_next(order_of_answer order) {
+    if (order == order_of_answer::in_step) {
+        if (++answers_in_step_ >= ANSWERS_TO_TRUST_AGAIN)
+            waits_in_vain_ = 0;
+    } else {
+        answers_in_step_ = 0;
+        if (!another_reply_behind(odb_curReplyMsg) && await_straggler(order))
+            return;
     }
     ask(requests_[cur_request_]);
+}
+
+// False for an adapter that has been waited for in vain before: it owes nothing, it answers wrong.
+bool actions::await_straggler(order_of_answer order) {
+    if (waits_in_vain_ >= (order == order_of_answer::one_behind ? MOST_WAITS_IN_VAIN : 1))
+        return false;
+    const auto bound = waits_in_vain_ == 0 ? STRAGGLER_BOUND : LONG_STRAGGLER_BOUND;
+    straggler_bound_ = KS_delegate.doors().loop.after(bound, [this] {
+        ++waits_in_vain_;
+        continue_in_step();
+    });
+    return true;
+}
+
+void actions::straggler_came() {
+    waits_in_vain_ = 0;
+    continue_in_step();
 }
 
 void actions::continue_in_step() {

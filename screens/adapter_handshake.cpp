@@ -222,7 +222,8 @@ void adapter_handshake::headers_on_not_confirmed() {
 void adapter_handshake::pids_answered(const pid_group& group) {
     const bool first = group.number == 0;
     std::string reply = odb_curReplyMsg;
-    if (first && texts_.first_pids_screened) {
+    // Without a test of their own the later groups would take silence for an answer.
+    if (texts_.first_pids_screened && (first || g_obd_msg_state == S_FAIL)) {
         reply = check_initial_car_reply();
         if (contains(reply, REPLY_REJECTED)) {
             screen_.leave_cur_op_gracefully("");

@@ -1,90 +1,45 @@
 // The program as a user runs it from a shell, against virtual cars over real loopback TCP.
 #include "car_library.h"
 #include "command_line.h"
-#include "tcp_adapter_server.h"
+#include "shell_fixture.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 namespace {
 
-struct outcome {
-    int status = -1;
-    std::string out, err;
-    QJsonObject json() const {
-        return QJsonDocument::fromJson(QByteArray::fromStdString(out)).object();
-    }
-    std::string text(const char* key) const {
-        return json().value(QLatin1String(key)).toString().toStdString();
-    }
-};
-
-class shell : public testing::Test {
-  protected:
-    // Runs kestrom while this process goes on serving its virtual car.
-    outcome run(const std::vector<std::string>& arguments) {
-        QProcess process;
-        QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
-        surroundings.insert(QStringLiteral("HOME"), home.path());
-        surroundings.insert(QStringLiteral("XDG_CONFIG_HOME"), home.path());
-        surroundings.insert(QStringLiteral("XDG_DATA_HOME"), home.path());
-        surroundings.remove(QStringLiteral("DISPLAY"));
-        surroundings.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"),
-                            QStringLiteral("unix:path=/nonexistent")); // this machine's own
-        process.setProcessEnvironment(surroundings);
-        QStringList words;
-        for (const std::string& argument : arguments)
-            words.append(QString::fromStdString(argument));
-        process.start(QStringLiteral(KESTROM_PROGRAM), words);
-        while (process.state() != QProcess::NotRunning)
-            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents,
-                                            100);
-        return {process.exitCode(), process.readAllStandardOutput().toStdString(),
-                process.readAllStandardError().toStdString()};
-    }
-    std::string address(const tcp_adapter_server& server) {
-        return "127.0.0.1:" + std::to_string(server.port());
-    }
-
-    static adapter_options quick() {
-        adapter_options options;
-        options.latency = std::chrono::milliseconds(0);
-        return options;
-    }
-    QTemporaryDir home;
-};
-
 TEST_F(shell, arguments_that_make_no_sense_end_with_2_and_a_reason) {
-    const std::vector<std::vector<std::string>> cases = {
-        {"fly"},
-        {"codes", "more"},
-        {"clear"},
-        {"send"},
-        {"send", ""},
-        {"send", std::string(39, '1')},
-        {"--nonsense"},
-        {"--adapter", "nowhere", "codes"},
-        {"--adapter"},
-        {"--bluetooth", "OBDII", "codes"},
+    const std::vector<std::vector<std::string>> cases = {{"fly"},
+                                                         {"codes", "more"},
+                                                         {"clear"},
+                                                         {"send"},
+                                                         {"send", ""},
+                                                         {"send", std::string(39, '1')},
+                                                         {"--nonsense"},
+                                                         {"--adapter", "nowhere", "codes"},
+                                                         {"--adapter"},
+                                                         {"--demo", "--adapter", "a:1", "codes"},
+                                                         {"--screen", "garage"},
+                                                         {"--timeout", "soon", "codes"},
+                                                         {"--timeout", "0", "codes"},
+                                                         {"--json"},
+                                                         {"--demo=no-such-car", "codes"},
+                                                         {"--json=1", "codes"},
+                                                         {"live", "--cycles", "0"},
+                                                         {"live", "--cycles=-1"},
+                                                         {"live", "--seconds", "nan"},
+                                                         {"live", "--run", "walk"},
+                                                         {"live", "--pids", "0D,C"},
+                                                         {"live", "--pids="},
+                                                         {"live", "--run=fuel", "--pids=0D"},
+                                                         {"--bluetooth", "OBDII", "codes"},
         {"--bluetooth", "00:1D:A5:68:98", "codes"},
         {"--bluetooth=00:1D:A5:68:98:8B", "--demo", "codes"},
         {"bluetooth-scan", "now"},
-        {"--demo", "--adapter", "a:1", "codes"},
-        {"--screen", "garage"},
-        {"--timeout", "soon", "codes"},
-        {"--timeout", "0", "codes"},
-        {"--json"},
-        {"--demo=no-such-car", "codes"},
-        {"--json=1", "codes"}};
+        {"live", "--cycles", "3", "--seconds", "3"},
+                                                         {"codes", "--log"}};
     for (const auto& arguments : cases) {
         const outcome result = run(arguments);
         EXPECT_EQ(result.status, 2) << arguments[0] << ": " << result.err;

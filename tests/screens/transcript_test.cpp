@@ -1,7 +1,9 @@
 // Conversations with the adapter as data: every file of data/ is one test. The verbs are those of
-// run_line() below;
-// "\r" and "\n" stand for themselves behind a backslash.
+// run_line() below; "\r" and "\n" stand for themselves behind a backslash, and "@key" for the text
+// of the strings table.
+#include "actions.h"
 #include "app_harness.h"
+#include "qt_warnings.h"
 
 #include <QAbstractItemModel>
 #include <QLabel>
@@ -10,6 +12,7 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace {
 
@@ -23,11 +26,17 @@ std::string unescaped(std::string text) {
 
 class transcript : public testing::TestWithParam<std::string> {
   protected:
+    void run_file(const std::string& name, const std::string& last_line = "");
     void run_line(const std::string& verb, const std::string& text);
     void expect_row(const std::string& text);
+    void go_the_way_to(const std::string& command);
+    std::string told(const std::string& text) const {
+        return text.starts_with('@') ? app.resources.localized(text.substr(1)) : unescaped(text);
+    }
 
     app_harness app;
     std::size_t alerts_seen = 0;
+    int beeps_heard = 0;
 };
 
 void transcript::run_line(const std::string& verb, const std::string& text) {
@@ -36,9 +45,15 @@ void transcript::run_line(const std::string& verb, const std::string& text) {
             app.delegate->do_read_codes();
         else if (text == "expert")
             app.delegate->do_expert();
+        else if (text == "live")
+            app.delegate->do_actions();
         else
             app.delegate->do_prefs();
         app.loop.settle();
+    } else if (verb == "follow") { // another file, as far as its line behind "until"
+        const std::size_t until = text.find(" until ");
+        run_file(text.substr(0, until),
+                 until == std::string::npos ? "" : text.substr(until + 7));
     } else if (verb == "press") {
         app.press(text.c_str());
         app.loop.settle();
@@ -55,15 +70,27 @@ void transcript::run_line(const std::string& verb, const std::string& text) {
     } else if (verb == "quiet") { // nothing (more) was sent
         EXPECT_EQ(app.sent(), "");
     } else if (verb == "status") {
-        EXPECT_EQ(app.last_status(), unescaped(text));
+        EXPECT_EQ(app.last_status(), told(text));
     } else if (verb == "alert") {
         ASSERT_LT(alerts_seen, app.messages.shown.size()) << "no alert; expected: " << text;
-        EXPECT_EQ(app.messages.shown[alerts_seen++].message, unescaped(text));
+        EXPECT_EQ(app.messages.shown[alerts_seen++].message, told(text));
     } else if (verb == "alert-begins") {
         ASSERT_LT(alerts_seen, app.messages.shown.size()) << "no alert; expected: " << text;
         EXPECT_TRUE(app.messages.shown[alerts_seen++].message.starts_with(text));
     } else if (verb == "noalert") {
         EXPECT_EQ(app.messages.shown.size(), alerts_seen);
+    } else if (verb == "beep") {
+        EXPECT_EQ(app.messages.beeps, ++beeps_heard);
+    } else if (verb == "way") { // a run is started; all is well until this command has been sent
+        go_the_way_to(text + "\r");
+    } else if (verb == "transport") { // as far as messages name it
+        g_connect_with = text == "bluetooth" ? KS_USE_BT : KS_USE_WIFI;
+    } else if (verb == "run") { // of the live-data screen: "goes-on" or "ended"
+        const bool runs = static_cast<actions*>(app.delegate->current_screen())->running();
+        EXPECT_EQ(runs, text == "goes-on");
+        EXPECT_EQ(app.find("waity")->isHidden(), !runs);
+        EXPECT_EQ(app.find("startStopBtn")->accessibleName().toStdString(),
+                  app.resources.localized(runs ? "ui_live_stop" : "ui_live_start"));
     } else if (verb == "label") {
         const std::size_t blank = text.find(' ');
         EXPECT_EQ(app.find<QLabel>(text.substr(0, blank).c_str())->text().toStdString(),
@@ -78,6 +105,7 @@ void transcript::run_line(const std::string& verb, const std::string& text) {
         expect_row(text);
     } else if (verb == "connection") { // "lost" or the words of a failure
         if (text == "lost") {
+            expect_warning("Disconected");
             scripted_stream_pair::raise(app.wire(), app.loop, STREAM_END);
             app.loop.settle();
         } else {
@@ -99,21 +127,47 @@ void transcript::expect_row(const std::string& text) {
     EXPECT_EQ(model->index(row, column).data().toString().toStdString(), expected);
 }
 
-TEST_P(transcript, is_followed) {
-    std::ifstream file(KESTROM_TEST_DATA "/" + GetParam() + ".txt");
+void transcript::go_the_way_to(const std::string& command) {
+    static const std::map<std::string, std::string> GOOD_ANSWERS = {
+        {"AT Z\r", "ELM327 v1.5\r\r>"},
+        {"AT I\r", "ELM327 v1.5\r\r>"},
+        {"AT DP\r", "AUTO\r\r>"},
+        {"01 00\r", "7E8 06 41 00 BE 1F A8 13 \r\r>"},
+        {"01 20\r", "7E8 06 41 20 80 00 00 01 \r\r>"},
+        {"01 40\r", "7E8 06 41 40 80 00 00 00 \r\r>"}};
+    app.press("startStopBtn");
+    app.loop.settle();
+    if (!connected_2_WIFI_interface)
+        app.connect();
+    for (std::string sent; (sent = app.sent()) != command;) {
+        const auto answer = GOOD_ANSWERS.find(sent);
+        ASSERT_TRUE(sent.starts_with("AT") || answer != GOOD_ANSWERS.end())
+            << "the way does not lead there, but to " << sent;
+        app.receive(answer == GOOD_ANSWERS.end() ? "OK\r\r>" : answer->second);
+    }
+}
+
+void transcript::run_file(const std::string& name, const std::string& last_line) {
+    std::ifstream file(KESTROM_TEST_DATA "/" + name + ".txt");
     ASSERT_TRUE(file);
     std::string line;
     for (int number = 1; std::getline(file, line); ++number) {
         if (line.empty() || line.front() == '#')
             continue;
-        SCOPED_TRACE(GetParam() + ":" + std::to_string(number) + ": " + line);
+        SCOPED_TRACE(name + ":" + std::to_string(number) + ": " + line);
         const std::size_t blank = line.find(' ');
         run_line(line.substr(0, blank), blank == std::string::npos ? "" : line.substr(blank + 1));
-        if (HasFatalFailure())
+        if (HasFatalFailure() || line == last_line)
             return;
     }
+    EXPECT_EQ(last_line, "") << "not in " << name;
+}
+
+TEST_P(transcript, is_followed) {
+    run_file(GetParam());
     EXPECT_EQ(app.sent(), "") << "left over at the end";
     EXPECT_EQ(app.messages.shown.size(), alerts_seen) << "alerts nobody expected";
+    EXPECT_EQ(app.messages.beeps, beeps_heard) << "beeps nobody expected";
 }
 
 std::vector<std::string> transcript_files() {

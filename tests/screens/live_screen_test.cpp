@@ -1,0 +1,346 @@
+// The live-data screen by its widgets, against answers given by hand: run selector, thumbnails,
+// dials, zoom, log, and the answers that an adapter still owes.
+#include "actions.h"
+#include "app_harness.h"
+#include "qt_warnings.h"
+#include "thumbnail_strip.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QSlider>
+#include <QTest>
+
+#include <deque>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <regex>
+
+namespace {
+
+using std::chrono::milliseconds;
+using list = std::vector<std::string>;
+
+class live_screen : public testing::Test {
+  protected:
+    live_screen() { open(); }
+
+    void open() {
+        expect_warning("propagateSizeHints"); // of a view that is a window of its own
+        app.delegate->do_actions();
+        QWidget* view = screen().view();
+        view->resize(1100, 640);
+        view->show();
+        draw();
+    }
+    // Starts a run at its first request; the way to the adapter has been gone before.
+    void start() {
+        connected_2_KS_interface = true;
+        app.press("startStopBtn");
+        if (!connected_2_WIFI_interface)
+            app.connect();
+        app.loop.settle();
+    }
+    void draw() { app.loop.advance(milliseconds(200)); }
+    // Answers the next request for the parameter at this place as `share` of its range.
+    void answer(std::size_t place, bool high) {
+        const std::string& pid = screen().pids()[place];
+        ASSERT_EQ(app.sent(), "01 " + pid + "\r");
+        const std::string data = pid == "0C" ? (high ? "60 00" : "10 00") : high ? "90" : "30";
+        app.receive("41 " + pid + " " + data + "\r\r>");
+    }
+    void cycle(bool high = false) {
+        for (std::size_t place = 0; place < screen().pids().size(); ++place)
+            answer(place, high);
+    }
+    // Places of the parameters whose samples change this picture.
+    std::string moved_by(const char* picture) {
+        cycle(false);
+        draw();
+        std::string places;
+        for (std::size_t place = 0; place < screen().pids().size(); ++place) {
+            const QImage before = app.find(picture)->grab().toImage();
+            answer(place, true);
+            draw();
+            if (app.find(picture)->grab().toImage() != before)
+                places += std::to_string(place);
+        }
+        return places;
+    }
+    list log_lines() {
+        std::ifstream file(screen().log_path());
+        list lines;
+        for (std::string line; std::getline(file, line);)
+            lines.push_back(line + (file.eof() ? " without its end" : ""));
+        return lines;
+    }
+    actions& screen() { return static_cast<actions&>(*app.delegate->current_screen()); }
+    thumbnail_strip& strip() { return *static_cast<thumbnail_strip*>(app.find("thumbiesMtrx")); }
+
+    app_harness app;
+};
+
+TEST_F(live_screen, the_selector_names_the_runs_and_each_rebuilds_the_screen) {
+    auto* selector = app.find<QComboBox>("runSelectorCombo");
+    const struct {
+        const char* name;
+        int task;
+        list pids;
+    } runs[] = {{"Log Run", 4, {"0D", "11", "0C", "05"}},
+                {"Fuel consumption", 7, {"E4", "0D", "10"}},
+                {"O2 Diags/Sampling", 13, {"E4", "0D", "10"}}, // until the car has named them
+                {"Boost", 12, {"E5", "06", "08", "0A"}}};
+    for (int index : {1, 2, 3, 0}) {
+        selector->setCurrentIndex(0);
+        selector->setCurrentIndex(1); // so that every rebuild starts from another list
+        start();
+        strip().choose({1});
+        EXPECT_TRUE(screen().running());
+        screen().comboBoxSelectionDidChange(1);
+        EXPECT_TRUE(screen().running()) << "the entry that was chosen already";
+        EXPECT_EQ(strip().selected(), std::set<int>{1});
+        selector->setCurrentIndex(index);
+        EXPECT_EQ(selector->currentText(), QLatin1String(runs[index].name));
+        EXPECT_EQ(g_cur_task, runs[index].task);
+        EXPECT_EQ(screen().pids(), runs[index].pids);
+        EXPECT_EQ(screen().running(), index == 1);
+        if (index != 1) {
+            EXPECT_EQ(strip().selected(), std::set<int>{0});
+            EXPECT_EQ(strip().cells(), static_cast<int>(runs[index].pids.size()));
+        } else {
+            app.press("startStopBtn");
+        }
+    }
+    EXPECT_EQ(g_cur_barom_press, 101);
+}
+
+TEST_F(live_screen, without_parameters_says_so_and_samples_nothing) {
+    app.defaults.set_string_array(PIDS_ARRAY_KEY, {});
+    app.delegate->do_read_codes();
+    open();
+    EXPECT_EQ(app.messages.messages(),
+              list{"No PIDs selected ... select them on the prefs option "});
+    EXPECT_FALSE(app.find("emptyStrip")->isHidden());
+    start();
+    EXPECT_FALSE(screen().running());
+    EXPECT_EQ(app.sent(), "");
+    QTest::keyClick(&strip(), Qt::Key_Right);
+    QTest::mouseClick(&strip(), Qt::LeftButton);
+    screen().zoomSliderDidChange(0);
+    draw();
+}
+
+struct choice {
+    const char* what;
+    int cell;           // clicked, or
+    Qt::Key key;        // pressed
+    Qt::KeyboardModifiers with;
+    std::set<int> selected;
+    bool second_dial;
+    const char* dial_1;     // moved by which parameters
+    const char* dial_2;
+    const char* chart;
+};
+
+// In this order. The first dial follows the first parameter alone, whatever else is selected.
+TEST_F(live_screen, thumbnails_are_chosen_by_mouse_and_keys_and_choose_what_dials_and_chart_show) {
+    const Qt::Key none = Qt::Key_unknown;
+    const choice choices[] = {
+        {"another", 2, none, {}, {2}, false, "", "", "2"},
+        {"two", 0, none, Qt::ControlModifier, {0, 2}, true, "0", "0", "02"},
+        {"three", 1, none, Qt::ShiftModifier, {0, 1}, true, "0", "0", "01"},
+        {"one away", 1, none, Qt::ControlModifier, {0}, false, "0", "", "0"},
+        {"the last one stays", 0, none, Qt::ControlModifier, {0}, false, "0", "", "0"},
+        {"right", -1, Qt::Key_Right, {}, {1}, false, "", "", "1"},
+        {"extend", -1, Qt::Key_Right, Qt::ShiftModifier, {1, 2}, true, "", "2", "12"},
+        {"extend more", -1, Qt::Key_Right, Qt::ShiftModifier, {1, 2, 3}, true, "", "2", "123"},
+        {"beyond the end", -1, Qt::Key_Right, Qt::ShiftModifier, {1, 2, 3}, true, "", "2", "123"},
+        {"back to two", -1, Qt::Key_Left, Qt::ShiftModifier, {1, 2}, true, "", "2", "12"},
+        {"move on", -1, Qt::Key_Right, Qt::ControlModifier, {1, 2}, true, "", "2", "12"},
+        {"toggle there", -1, Qt::Key_Space, {}, {1, 2, 3}, true, "", "2", "123"},
+        {"first", -1, Qt::Key_Home, {}, {0}, false, "0", "", "0"},
+        {"all", 3, none, Qt::ShiftModifier, {0, 1, 2, 3}, true, "0", "1", "0123"},
+        {"last", -1, Qt::Key_End, {}, {3}, false, "", "", "3"},
+    };
+    start();
+    for (const choice& one : choices) {
+        SCOPED_TRACE(one.what);
+        const int width = strip().cell_size().width();
+        if (one.cell >= 0)
+            QTest::mouseClick(&strip(), Qt::LeftButton, one.with,
+                              QPoint(one.cell * width + width / 2, 40));
+        else
+            QTest::keyClick(&strip(), one.key, one.with);
+        EXPECT_EQ(strip().selected(), one.selected);
+        EXPECT_EQ(app.find("gauge_dos")->isVisible(), one.second_dial);
+        EXPECT_EQ(moved_by("gauge_uno"), one.dial_1);
+        if (one.second_dial) {
+            EXPECT_EQ(moved_by("gauge_dos"), one.dial_2);
+        }
+        EXPECT_EQ(moved_by("chartFull"), one.chart);
+    }
+}
+
+TEST_F(live_screen, the_slider_comes_with_the_21st_row_and_names_what_the_chart_shows) {
+    auto* slider = app.find<QSlider>("charty_zoomer");
+    const auto title = [this] {
+        return app.find("chartFull")->accessibleDescription().toStdString();
+    };
+    start();
+    for (int row = 1; row < 20; ++row)
+        cycle(row % 2 == 0);
+    draw();
+    EXPECT_EQ(screen().samples().rows(), 20u);
+    EXPECT_FALSE(slider->isVisible());
+    cycle();
+    draw();
+    EXPECT_TRUE(slider->isVisible());
+    for (int row = 21; row < 100; ++row)
+        cycle(row % 2 == 0);
+    draw();
+    EXPECT_EQ(title(), "All sampling points");
+    const struct {
+        int value;
+        const char* title;
+    } zooms[] = {{0, "Charting last 20 sampling points"},
+                 {1, "Charting last 0 sampling points"},
+                 {10, "Charting last 1 sampling points"},
+                 {555, "Charting last 55 sampling points"},
+                 {999, "Charting last 99 sampling points"},
+                 {1000, "All sampling points"}};
+    QImage before;
+    for (const auto& [value, expected] : zooms) {
+        slider->setValue(value);
+        draw();
+        EXPECT_EQ(title(), expected);
+        const QImage shown = app.find("chartFull")->grab().toImage();
+        EXPECT_NE(shown, before);
+        before = shown;
+    }
+    app.press("startStopBtn");
+    app.press("startStopBtn"); // one answer is still owed
+    draw();
+    EXPECT_FALSE(slider->isVisible());
+}
+
+// However long the reply time-out of a run is.
+TEST_F(live_screen, what_a_stopped_run_asked_for_is_awaited_for_three_seconds) {
+    start();
+    cycle();
+    EXPECT_EQ(g_this_delta, 3000);
+    EXPECT_EQ(app.sent(), "01 0D\r");
+    app.press("startStopBtn");
+    app.press("startStopBtn");
+    app.loop.advance(milliseconds(2999));
+    EXPECT_EQ(app.sent(), "");
+    app.loop.advance(milliseconds(1));
+    EXPECT_EQ(app.sent(), "01 0D\r");
+    EXPECT_EQ(screen().samples().rows(), 1u);
+    EXPECT_EQ(screen().samples().text(0, 0), "-1");
+}
+
+// What it answers meanwhile is filed under no name that it does not belong to.
+TEST_F(live_screen, gets_back_in_step_with_an_adapter_that_is_one_answer_behind) {
+    for (const int latency : {1, 900, 1500}) {
+        SCOPED_TRACE(latency);
+        start();
+        std::deque<std::string> owed{"01 05\r"}; // of a run before
+        for (int answers = 0; answers < 12; ++answers) {
+            if (const std::string asked = app.sent(); !asked.empty())
+                owed.push_back(asked);
+            app.loop.advance(milliseconds(latency));
+            if (owed.empty()) {
+                app.loop.advance(milliseconds(5000));
+                continue;
+            }
+            app.receive("41 " + owed.front().substr(3, 2) + " 30\r\r>");
+            owed.pop_front();
+        }
+        ASSERT_GE(screen().samples().rows(), 3u);
+        const std::size_t last = screen().samples().rows() - 2;
+        for (std::size_t place = 0; place < 4; ++place)
+            EXPECT_EQ(screen().samples().text(last, place), "41" + screen().pids()[place] + "30");
+        app.press("startStopBtn");
+        app.loop.advance(milliseconds(5000));
+        app.receive("NO DATA\r\r>");
+        app.wire().written.clear();
+    }
+}
+
+class logged_run : public live_screen {
+  protected:
+    logged_run() { app.defaults.set_boolean(LOG_RUNS_KEY, true); }
+    QLabel* mark() { return app.find<QLabel>("logMark"); }
+};
+
+TEST_F(logged_run, holds_whole_cycles_as_they_were_answered) {
+    start();
+    EXPECT_TRUE(std::regex_match(
+        std::filesystem::path(screen().log_path()).filename().string(),
+        std::regex("log_[A-Z][a-z]{2}_[0-9]{2}_[0-9]{4}-[01][0-9][0-5][0-9]_[0-5][0-9]\\.gol")))
+        << screen().log_path();
+    cycle();
+    EXPECT_EQ(log_lines().size(), 1u) << "written as the cycle ends";
+    for (const char* reply : {"NO DATA\r\r>", "?\r\r>", "41 0C 1A F8\r41 0C 1A F4\r\r>", "4,1\x02 05\n7B\r\r>"})
+        app.receive(reply);
+    answer(0, true); // half a cycle
+    app.press("startStopBtn");
+    EXPECT_EQ(log_lines(), (list{"410D30,411130,410C1000,410530", "NODATA,~,410C1AF8,41057B"}));
+    EXPECT_EQ(mark()->text(), QString());
+}
+
+TEST_F(logged_run, of_another_kind_has_its_own_name_and_the_computed_item_first) {
+    screen().choose_run(TASK_FUEL_ECONOMY);
+    start();
+    app.receive("41 0D 60\r\r>");
+    app.receive("41 10 0C 80\r\r>");
+    EXPECT_EQ(log_lines(), list{"41E4038A,410D60,41100C80"});
+    const std::string name = std::filesystem::path(screen().log_path()).filename().string();
+    EXPECT_TRUE(name.starts_with("fuel_") && name.ends_with(".txt")) << name;
+}
+
+TEST_F(logged_run, within_the_same_second_replaces_the_first_file) {
+    for (int attempt = 0; attempt < 5; ++attempt) { // a second may end in between
+        start();
+        cycle();
+        const std::string first = screen().log_path();
+        app.press("startStopBtn");
+        app.receive("41 0D 30\r\r>");
+        app.sent();
+        start();
+        const bool same_second = screen().log_path() == first;
+        EXPECT_TRUE(log_lines().empty());
+        app.press("startStopBtn");
+        app.receive("41 0D 30\r\r>");
+        app.sent();
+        if (same_second)
+            return;
+    }
+    FAIL() << "no two runs within a second";
+}
+
+TEST_F(logged_run, that_cannot_be_written_goes_on_with_a_lasting_mark) {
+    expect_warning("work_out_log_file::");
+    const auto data = std::filesystem::path(app.folder.path().toStdString()) / "data";
+    std::ofstream(data.string()) << "a file where the folder should be";
+    start();
+    cycle();
+    draw();
+    EXPECT_TRUE(screen().running());
+    EXPECT_EQ(screen().samples().rows(), 2u);
+    EXPECT_TRUE(mark()->isVisible());
+    const QString why = mark()->text();
+    EXPECT_TRUE(why.startsWith(QString::fromStdString(app.resources.localized("ui_live_log_failed"))));
+    EXPECT_GT(why.size(), 30);
+    app.press("startStopBtn");
+    EXPECT_EQ(mark()->text(), why); // until the next run
+    app.receive("41 0D 30\r\r>");
+    app.sent();
+    std::filesystem::remove(data);
+    start();
+    EXPECT_TRUE(mark()->isHidden());
+    cycle();
+    EXPECT_EQ(log_lines().size(), 1u);
+}
+
+} // namespace

@@ -33,14 +33,23 @@ struct column_spans {
     std::vector<std::uint32_t> top, height;
 };
 
+// `shade`, premultiplied, over a pixel.
+QRgb laid_over(QRgb shade, QRgb ground) {
+    const std::uint32_t rest = 255 - (shade >> 24);
+    const auto scaled = [rest](std::uint32_t two) {
+        two *= rest;
+        return (two + ((two >> 8) & 0xFF00FF) + 0x800080) >> 8 & 0xFF00FF;
+    };
+    return shade + (scaled(ground & 0xFF00FF) | scaled(ground >> 8 & 0xFF00FF) << 8);
+}
+
 // The pixels of the area and of the columns, put together line by line and laid over the chart at
 // once: the same by polygons and rectangles takes QPainter many times longer.
 class pixel_layer {
   public:
-    pixel_layer(const canvas& target, double scale)
-        : image_(raw_image(QSizeF(target.width(), target.height()), scale)), scale_(scale),
-          height_(target.height()), area_(image_.width()), left_halves_(image_.width()),
-          right_halves_(image_.width()) {}
+    explicit pixel_layer(canvas& target)
+        : image_(target.pixels()), scale_(image_.devicePixelRatio()), height_(target.height()),
+          area_(image_.width()), left_halves_(image_.width()), right_halves_(image_.width()) {}
 
     // The area between a segment and the base line. A pixel belongs to it when its centre does.
     void add_area(double from_x, double from_y, double to_x, double to_y, double base_y) {
@@ -59,27 +68,26 @@ class pixel_layer {
         add_half(right_halves_, run, run.x);
     }
 
-    const QImage& paint(QRgb ink, QRgb shade) {
-        auto* const pixels = reinterpret_cast<QRgb*>(image_.bits());
-        const int width = image_.width();
+    void paint(QRgb ink, QRgb shade) {
         for (int py = 0; py < image_.height(); ++py)
-            paint_line(pixels + py * width, static_cast<std::uint32_t>(py), ink, shade);
+            paint_line(line(py), static_cast<std::uint32_t>(py), ink, shade);
         for (const QRect& more : more_runs_)
             for (int py = more.top(); py <= more.bottom(); ++py)
-                std::fill_n(pixels + py * width + more.left(), more.width(), ink);
-        return image_;
+                std::fill_n(line(py) + more.left(), more.width(), ink);
     }
 
   private:
-    // Lines follow each other without padding. Without branches, so that several pixels are done at
-    // a time.
-    void paint_line(QRgb* line, std::uint32_t py, QRgb ink, QRgb shade) const {
+    QRgb* line(int py) { return reinterpret_cast<QRgb*>(image_.scanLine(py)); }
+
+    // Without branches, so that several pixels are done at a time.
+    void paint_line(QRgb* pixels, std::uint32_t py, QRgb ink, QRgb shade) const {
         const auto covered = [py](const column_spans& spans, std::size_t px) {
             return py - spans.top[px] < spans.height[px];
         };
         for (std::size_t px = 0; px < area_.top.size(); ++px) {
-            const QRgb ground = covered(area_, px) ? shade : 0;
-            line[px] = covered(left_halves_, px) | covered(right_halves_, px) ? ink : ground;
+            const QRgb ground =
+                covered(area_, px) ? laid_over(shade, pixels[px]) : pixels[px];
+            pixels[px] = covered(left_halves_, px) | covered(right_halves_, px) ? ink : ground;
         }
     }
 
@@ -107,7 +115,7 @@ class pixel_layer {
             spans.set(px, half.top(), half.bottom() + 1);
     }
 
-    QImage image_;
+    QImage& image_;
     double scale_;
     double height_;
     column_spans area_, left_halves_, right_halves_;
@@ -115,7 +123,7 @@ class pixel_layer {
 };
 
 void paint_pixels(canvas& target, const std::vector<column_run>& runs, const curve_style& style) {
-    pixel_layer layer(target, target.painter().device()->devicePixelRatioF());
+    pixel_layer layer(target);
     for (std::size_t i = 1; i < runs.size(); ++i)
         if (runs[i].joined)
             layer.add_area(runs[i - 1].x, runs[i - 1].last, runs[i].x, runs[i].first, style.base_y);
@@ -124,8 +132,7 @@ void paint_pixels(canvas& target, const std::vector<column_run>& runs, const cur
             layer.add_run(run);
     QColor shade = style.ink;
     shade.setAlphaF(static_cast<float>(AREA_ALPHA));
-    target.painter().drawImage(
-        QPointF(0, 0), layer.paint(qPremultiply(style.ink.rgba()), qPremultiply(shade.rgba())));
+    layer.paint(qPremultiply(style.ink.rgba()), qPremultiply(shade.rgba()));
 }
 
 // The part of a line that is not too far above or below; what is left keeps its slope.

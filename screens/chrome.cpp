@@ -130,9 +130,10 @@ screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view titl
         bones.waity =
             new busy_indicator(bones.root, [&delegate] { return delegate.anything_outstanding(); });
         bones.waity->setAccessibleName(ui_text(delegate, "ui_busy"));
-        bones.status = new status_line(bones.root);
+        auto* place = new status_place(bones.root);
+        bones.status = place->line();
         bones.status->setAccessibleDescription(ui_text(delegate, "ui_status"));
-        foot->addWidget(bones.status, 1);
+        foot->addWidget(place, 1);
         foot->addWidget(bones.waity);
         column->addLayout(foot);
     }

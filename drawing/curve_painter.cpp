@@ -33,14 +33,19 @@ struct column_spans {
     std::vector<std::uint32_t> top, height;
 };
 
-// `shade`, premultiplied, over a pixel.
-QRgb laid_over(QRgb shade, QRgb ground) {
-    const std::uint32_t rest = 255 - (shade >> 24);
-    const auto scaled = [rest](std::uint32_t two) {
-        two *= rest;
-        return (two + ((two >> 8) & 0xFF00FF) + 0x800080) >> 8 & 0xFF00FF;
-    };
-    return shade + (scaled(ground & 0xFF00FF) | scaled(ground >> 8 & 0xFF00FF) << 8);
+// A line of premultiplied shade laid over a line's pixels: byte by byte in 16 bits, so that many are
+// done at a time. All three are of one length.
+void lay_over(const QRgb* pixels, const std::vector<QRgb>& shade, std::vector<QRgb>& result) {
+    const std::size_t bytes = shade.size() * sizeof(QRgb);
+    const auto rest = static_cast<std::uint16_t>(shade.empty() ? 0 : 255 - qAlpha(shade.front()));
+    const auto* ground = reinterpret_cast<const std::uint8_t*>(pixels);
+    const auto* added = reinterpret_cast<const std::uint8_t*>(shade.data());
+    auto* sum = reinterpret_cast<std::uint8_t*>(result.data());
+    for (std::size_t i = 0; i < bytes; ++i) {
+        const auto product = static_cast<std::uint16_t>(ground[i] * rest);
+        const auto rounded = static_cast<std::uint16_t>(product + (product >> 8) + 128);
+        sum[i] = static_cast<std::uint8_t>((rounded >> 8) + added[i]);
+    }
 }
 
 // The pixels of the area and of the columns, put together line by line and laid over the chart at
@@ -49,7 +54,8 @@ class pixel_layer {
   public:
     explicit pixel_layer(canvas& target)
         : image_(target.pixels()), scale_(image_.devicePixelRatio()), height_(target.height()),
-          area_(image_.width()), left_halves_(image_.width()), right_halves_(image_.width()) {}
+          area_(image_.width()), left_halves_(image_.width()), right_halves_(image_.width()),
+          shaded_(area_.top.size()) {}
 
     // The area between a segment and the base line. A pixel belongs to it when its centre does.
     void add_area(double from_x, double from_y, double to_x, double to_y, double base_y) {
@@ -69,8 +75,9 @@ class pixel_layer {
     }
 
     void paint(QRgb ink, QRgb shade) {
+        const std::vector<QRgb> shades(shaded_.size(), shade);
         for (int py = 0; py < image_.height(); ++py)
-            paint_line(line(py), static_cast<std::uint32_t>(py), ink, shade);
+            paint_line(line(py), static_cast<std::uint32_t>(py), ink, shades);
         for (const QRect& more : more_runs_)
             for (int py = more.top(); py <= more.bottom(); ++py)
                 std::fill_n(line(py) + more.left(), more.width(), ink);
@@ -80,13 +87,14 @@ class pixel_layer {
     QRgb* line(int py) { return reinterpret_cast<QRgb*>(image_.scanLine(py)); }
 
     // Without branches, so that several pixels are done at a time.
-    void paint_line(QRgb* pixels, std::uint32_t py, QRgb ink, QRgb shade) const {
+    void paint_line(QRgb* pixels, std::uint32_t py, QRgb ink, const std::vector<QRgb>& shades) {
         const auto covered = [py](const column_spans& spans, std::size_t px) {
             return py - spans.top[px] < spans.height[px];
         };
-        for (std::size_t px = 0; px < area_.top.size(); ++px) {
-            const QRgb ground =
-                covered(area_, px) ? laid_over(shade, pixels[px]) : pixels[px];
+        const std::size_t width = area_.top.size();
+        lay_over(pixels, shades, shaded_);
+        for (std::size_t px = 0; px < width; ++px) {
+            const QRgb ground = covered(area_, px) ? shaded_[px] : pixels[px];
             pixels[px] = covered(left_halves_, px) | covered(right_halves_, px) ? ink : ground;
         }
     }
@@ -119,6 +127,7 @@ class pixel_layer {
     double scale_;
     double height_;
     column_spans area_, left_halves_, right_halves_;
+    std::vector<QRgb> shaded_; // a line as it is with the area's shade over it
     std::vector<QRect> more_runs_;
 };
 

@@ -15,6 +15,7 @@
 #include "main_window.h"
 #include "message_box_alerts.h"
 #include "qt_run_loop.h"
+#include "quick_style.h"
 #include "quit_signals.h"
 #include "screen_factories.h"
 #include "serial_port_profile.h"
@@ -33,6 +34,7 @@
 #include <exception>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -59,12 +61,12 @@ std::unique_ptr<tcp_adapter_server> start_demo_car(const std::string& name) {
 }
 
 // The store to use. A demo, a named adapter and a live run with parameters of its own work
-// on a copy in `scratch`, so that nothing of the user's changes.
-std::string settings_path(const cli_request& asked, const QTemporaryDir& scratch) {
+// on a copy in `scratch`, made then, so that nothing of the user's changes.
+std::string settings_path(const cli_request& asked, std::optional<QTemporaryDir>& scratch) {
     const std::string path = asked.settings.value_or(user_defaults::default_path());
     if (!asked.demo && !asked.adapter_host && !asked.bluetooth && asked.command != "live")
         return path;
-    const QString copy = scratch.filePath(QStringLiteral("kestrom.conf"));
+    const QString copy = scratch.emplace().filePath(QStringLiteral("kestrom.conf"));
     QFile::copy(QString::fromStdString(path), copy); // a file that is not there yet is none here
     return copy.toStdString();
 }
@@ -156,7 +158,7 @@ int scan_for_bluetooth(int argc, char** argv, const cli_request& asked) {
 }
 
 int run(QApplication& application, const cli_request& asked) {
-    const QTemporaryDir scratch;
+    std::optional<QTemporaryDir> scratch;
     std::unique_ptr<tcp_adapter_server> car;
     user_defaults defaults(settings_path(asked, scratch));
     if (asked.demo) {
@@ -249,6 +251,7 @@ int main(int argc, char** argv) {
         return FAILURE_STATUS;
     }
     QApplication application(argc, argv);
+    QApplication::setStyle(new quick_style);
     QApplication::setApplicationName(QStringLiteral("kestrom"));
     QApplication::setApplicationDisplayName(QStringLiteral("Kestrom"));
     QApplication::setDesktopFileName(QStringLiteral("kestrom"));

@@ -53,7 +53,11 @@ QColor colour(double red, double green, double blue, double alpha) {
     return QColor::fromRgbF(component(red), component(green), component(blue), component(alpha));
 }
 
-canvas::canvas(QImage& image) : size_(image.deviceIndependentSize()), painter_(&image) {
+canvas::canvas(QImage& image)
+    : image_(image), size_(image.deviceIndependentSize()), painter_(&image) {
+    // QPainter leaves out a device pixel ratio below 1.
+    if (const double scale = image.devicePixelRatio(); scale < 1)
+        painter_.scale(scale, scale);
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                             QPainter::SmoothPixmapTransform);
 }
@@ -112,7 +116,7 @@ void canvas::shadow_of(const QRectF& area, const QColor& shade, QPointF offset,
                        double blur_radius) {
     const QRectF shape = flipped(area.translated(offset));
     const cast_shadow cast =
-        cast_shadow_of(shape, blur_radius, painter_.device()->devicePixelRatio(), shade,
+        cast_shadow_of(shape, blur_radius, std::max(1.0, image_.devicePixelRatio()), shade,
                        [&shape](QPainter& painter) { painter.drawRect(shape); });
     painter_.drawImage(cast.at, cast.image);
 }

@@ -32,6 +32,8 @@ class canvas {
 
     // For what this class has no word for; y of its points must be flipped.
     QPainter& painter() { return painter_; }
+    // The picture itself, of raw_image()'s format, for who sets pixels.
+    QImage& pixels() { return image_; }
     double width() const { return size_.width(); }
     double height() const { return size_.height(); }
     QPointF flipped(double x, double y) const { return {x, height() - y}; }
@@ -54,6 +56,7 @@ class canvas {
     void text_on_base_line(double x, double base_y, const QString& text, const QFont& font,
                            const QColor& ink);
 
+    QImage& image_;
     QSizeF size_;
     QPainter painter_;
 };

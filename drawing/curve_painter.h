@@ -10,7 +10,7 @@
 class canvas;
 
 struct curve_style {
-    QColor ink;
+    QColor ink; // opaque
     double line_width;
     int base_y;              // the area under the curve ends here
     bool antialiased = true; // off only to compare pictures

@@ -14,6 +14,7 @@
 #include <QImage>
 
 #include <array>
+#include <map>
 #include <set>
 #include <string>
 #include <string_view>
@@ -87,7 +88,7 @@ class drawChartyItem {
     static double upper_limit(const label_record& record);
     static double lower_limit(const label_record& record);
     // The room the axis values need, in units.
-    static double get_width_of_axis_label(const label_record& record);
+    double get_width_of_axis_label(const label_record& record) const;
 
     // Background, plot frame, grid, axes and title. What did not change since the last call is not
     // painted anew.
@@ -141,6 +142,7 @@ class drawChartyItem {
     void extend_realtime_curve(std::size_t parameter, double value);
     chart_point realtime_point(std::size_t sample, double value) const;
 
+    mutable std::map<std::string, double> axis_label_widths_; // those that were asked for lately
     QImage image_;
     std::string imageID_;
     chart_area drawSizes;

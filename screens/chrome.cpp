@@ -21,42 +21,47 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 
 namespace {
 
-// Renders the drawing at whatever size is asked for and tints it.
+// Renders the drawing at whatever size is asked for, in its own colours or in the palette's text
+// colour. It reads the drawing when it is first shown, and needs no plugin for that.
 class drawn_icon_engine final : public QIconEngine {
   public:
-    drawn_icon_engine(QString path, QPalette palette)
-        : path_(std::move(path)), palette_(std::move(palette)),
-          drawing_(std::make_shared<QSvgRenderer>(path_)) {}
+    drawn_icon_engine(QString path, std::optional<QPalette> tint)
+        : path_(std::move(path)), tint_(std::move(tint)) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
         const double ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
-        painter->drawPixmap(rect, tinted(rect.size() * ratio, mode));
+        painter->drawPixmap(rect, drawn(rect.size() * ratio, mode));
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
-        return tinted(size, mode);
+        return drawn(size, mode);
     }
-    QIconEngine* clone() const override { return new drawn_icon_engine(path_, palette_); }
+    QIconEngine* clone() const override { return new drawn_icon_engine(path_, tint_); }
 
   private:
-    QPixmap tinted(const QSize& size, QIcon::Mode mode) const {
+    QPixmap drawn(const QSize& size, QIcon::Mode mode) {
+        if (!drawing_)
+            drawing_ = std::make_unique<QSvgRenderer>(path_);
         QPixmap image(size);
         image.fill(Qt::transparent);
         QPainter painter(&image);
         drawing_->render(&painter);
+        if (!tint_)
+            return image;
         painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         const auto role =
             mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
-        painter.fillRect(image.rect(), palette_.color(group, role));
+        painter.fillRect(image.rect(), tint_->color(group, role));
         return image;
     }
 
     QString path_;
-    QPalette palette_;
-    std::shared_ptr<QSvgRenderer> drawing_;
+    std::optional<QPalette> tint_;
+    std::unique_ptr<QSvgRenderer> drawing_;
 };
 
 } // namespace
@@ -65,6 +70,10 @@ QIcon drawn_icon(std::string_view name, const QPalette& palette) {
     const QString path =
         QStringLiteral(":/kestrom/icons/") + display_text(name) + QStringLiteral(".svg");
     return QFile::exists(path) ? QIcon(new drawn_icon_engine(path, palette)) : QIcon();
+}
+
+QIcon picture_icon(const QString& path) {
+    return QIcon(new drawn_icon_engine(path, std::nullopt));
 }
 
 QString ui_text(Ks_lite_delegate& delegate, std::string_view key) {
@@ -122,9 +131,10 @@ screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view titl
         bones.waity =
             new busy_indicator(bones.root, [&delegate] { return delegate.anything_outstanding(); });
         bones.waity->setAccessibleName(ui_text(delegate, "ui_busy"));
-        bones.status = new status_line(bones.root);
+        auto* place = new status_place(bones.root);
+        bones.status = place->line();
         bones.status->setAccessibleDescription(ui_text(delegate, "ui_status"));
-        foot->addWidget(bones.status, 1);
+        foot->addWidget(place, 1);
         foot->addWidget(new stall_hint(delegate, bones.root));
         foot->addWidget(bones.waity);
         column->addLayout(foot);

@@ -21,6 +21,8 @@ inline constexpr int GRID = 8;
 
 // The drawing icons/NAME.svg in the colour of the palette's text, sharp at every scale.
 QIcon drawn_icon(std::string_view name, const QPalette& palette);
+// The drawing of this path in its own colours.
+QIcon picture_icon(const QString& path);
 
 // A text of the strings table as a widget shows it.
 QString ui_text(Ks_lite_delegate& delegate, std::string_view key);

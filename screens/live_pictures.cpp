@@ -91,13 +91,15 @@ void live_pictures::draw_dial(dial& shown, picture_view& view) {
         return;
     const bool resized = scale != shown.scale;
     shown.scale = scale;
+    if (!resized && !shown.put_back && !shown.needle_moved)
+        return;
+    view.let_go();
     shown.gauge.set_pixel_scale(scale);
     if (shown.put_back)
         shown.gauge.swapCurGaugeBack(shown.pid);
     if (shown.needle_moved)
         shown.gauge.draw_cur_needle_value(shown.value);
-    if (resized || shown.put_back || shown.needle_moved)
-        view.set_image(shown.gauge.imageRepresentation());
+    view.set_image(shown.gauge.imageRepresentation());
     shown.put_back = shown.needle_moved = false;
 }
 
@@ -114,9 +116,10 @@ void live_pictures::draw(live_view& view, const sample_rows& rows, const sample_
     };
 
     thumbnail_strip& strip = view.thumbiesMtrx();
-    // Never below 1: a smaller cell gets the picture shrunk, which keeps its lines.
-    const double thumbnail_scale = std::max(
-        1.0, strip.cell_size().width() * strip.devicePixelRatioF() / THUMBNAIL_SIZE.width());
+    // As the longer side of a cell needs it; the other is shrunk to fit.
+    const QSizeF cell = strip.cell_size() * strip.devicePixelRatioF();
+    const double thumbnail_scale = std::max(cell.width() / THUMBNAIL_SIZE.width(),
+                                            cell.height() / THUMBNAIL_SIZE.height());
     for (std::size_t i = 0; i < images_4_top.size(); ++i) {
         thumbnail& at = images_4_top[i];
         if (!(at.changed || thumbnail_scale != thumbnail_scale_))
@@ -131,6 +134,7 @@ void live_pictures::draw(live_view& view, const sample_rows& rows, const sample_
 
     if (const double scale = view.chartFull().pixel_scale();
         scale > 0 && (large_chart_changed_ || scale != chart_scale_)) {
+        view.chartFull().let_go();
         paint(cur_zoom_chart, scale, cur_chart_title);
         view.chartFull().set_image(cur_zoom_chart.imageRepresentation());
         chart_scale_ = scale;

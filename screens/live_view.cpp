@@ -164,7 +164,7 @@ void live_view::fit_thumbnails() {
 void live_view::show_running(bool running) {
     const bundle& resources = delegate_.doors().resources;
     startStopBtn_->setIcon(
-        QIcon(display_text(resources.image_path(running ? "stop.svg" : "start.svg"))));
+        picture_icon(display_text(resources.image_path(running ? "stop.svg" : "start.svg"))));
     const QString what = ui_text(delegate_, running ? "ui_live_stop" : "ui_live_start");
     startStopBtn_->setToolTip(what);
     startStopBtn_->setAccessibleName(what);

@@ -12,6 +12,8 @@ class picture_view final : public QWidget {
     picture_view(const QString& name, QSizeF units, QWidget* parent);
 
     void set_image(const QImage& image);
+    // Forgets the picture, so that whoever drew it can draw the next one in the same memory.
+    void let_go() { image_ = QImage(); }
     // Pixels a unit; 0 while nothing would be seen.
     double pixel_scale() const;
 

@@ -28,3 +28,12 @@ void status_line::set_text(const std::string& message) {
                               : QStringLiteral("<span style='white-space:pre-wrap'>%1</span>")
                                     .arg(text.toHtmlEscaped()));
 }
+
+status_place::status_place(QWidget* parent) : QWidget(parent), line_(new status_line(this)) {
+    setSizePolicy(line_->sizePolicy());
+    setFixedHeight(line_->height());
+}
+
+void status_place::resizeEvent(QResizeEvent*) {
+    line_->resize(size());
+}

@@ -12,3 +12,17 @@ class status_line final : public QLabel {
     explicit status_line(QWidget* parent);
     void set_text(const std::string& message);
 };
+
+// The line's place in a layout. A label asks for a new layout of the whole screen with every text;
+// this one always takes the same room, and so stops it. Owned like any widget.
+class status_place final : public QWidget {
+  public:
+    explicit status_place(QWidget* parent);
+    status_line* line() const { return line_; }
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    status_line* line_;
+};

@@ -1,15 +1,42 @@
 #include "background_picture.h"
 
+#include <QApplication>
 #include <QPainter>
+#include <QPointer>
 #include <QSvgRenderer>
+#include <QThreadPool>
+#include <QTimer>
 #include <QVBoxLayout>
 
+#include <chrono>
+
 namespace {
+
 constexpr double OPACITY = 0.92;
+const QColor GROUND(31, 36, 44);
+// The window comes first, then its picture.
+constexpr std::chrono::milliseconds ONE_FRAME{16};
+
+// The drawing on its ground. It covers the whole picture; what does not fit is cut evenly.
+QImage painted_scene(QSize pixels) {
+    QSvgRenderer drawing(QStringLiteral(":/kestrom/images/background.svg"));
+    QImage scene(pixels, QImage::Format_RGB32);
+    scene.fill(GROUND);
+    const QSizeF whole =
+        QSizeF(drawing.defaultSize()).scaled(pixels, Qt::KeepAspectRatioByExpanding);
+    QRectF place(QPointF(0, 0), whole);
+    place.moveCenter(QRectF(scene.rect()).center());
+    QPainter painter(&scene);
+    painter.setOpacity(OPACITY);
+    drawing.render(&painter, place);
+    return scene;
 }
+
+} // namespace
 
 background_picture::background_picture(const QString& hint, QWidget* parent)
     : QWidget(parent), hint_(new QLabel(hint, this)) {
+    setAttribute(Qt::WA_OpaquePaintEvent); // nothing beneath shines through
     hint_->setAlignment(Qt::AlignCenter);
     hint_->setWordWrap(true);
     QPalette light = hint_->palette();
@@ -24,21 +51,36 @@ background_picture::background_picture(const QString& hint, QWidget* parent)
     column->addStretch(1);
 }
 
-void background_picture::paintEvent(QPaintEvent*) {
+// In a thread of the pool: the window waits for no picture, and painting so large an area from
+// outside Qt would hand every stroke to the pool in pieces and wait for them.
+void background_picture::begin_scene() {
     const QSize pixels = size() * devicePixelRatioF();
-    if (scaled_.size() != pixels) {
-        QSvgRenderer drawing(QStringLiteral(":/kestrom/images/background.svg"));
-        scaled_ = QPixmap(pixels);
-        scaled_.fill(QColor(31, 36, 44));
-        // Covers the whole view; what does not fit is cut evenly.
-        const QSizeF whole =
-            QSizeF(drawing.defaultSize()).scaled(pixels, Qt::KeepAspectRatioByExpanding);
-        QPainter painter(&scaled_);
-        painter.setOpacity(OPACITY);
-        drawing.render(&painter, QRectF(QPointF((pixels.width() - whole.width()) / 2,
-                                                (pixels.height() - whole.height()) / 2),
-                                        whole));
-        scaled_.setDevicePixelRatio(devicePixelRatioF());
-    }
-    QPainter(this).drawPixmap(0, 0, scaled_);
+    if (being_painted_ || scene_.size() == pixels || pixels.isEmpty())
+        return;
+    being_painted_ = true;
+    QThreadPool::globalInstance()->start([pixels, view = QPointer(this)] {
+        QImage scene = painted_scene(pixels);
+        QMetaObject::invokeMethod(
+            qApp,
+            [view, scene] {
+                if (view)
+                    view->show_scene(scene);
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void background_picture::show_scene(const QImage& scene) {
+    being_painted_ = false;
+    scene_ = scene;
+    update(); // begins another one if the size has changed meanwhile
+}
+
+void background_picture::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (scene_.isNull())
+        painter.fillRect(rect(), GROUND);
+    else
+        painter.drawImage(rect(), scene_); // one of another size is stretched till the next comes
+    QTimer::singleShot(ONE_FRAME, this, &background_picture::begin_scene);
 }

@@ -1,9 +1,9 @@
 // What the main view shows until a screen is chosen: the picture, and one line that says where to
-// begin.
+// begin. The picture is painted beside the window's own work and appears a moment after it.
 #pragma once
 
+#include <QImage>
 #include <QLabel>
-#include <QPixmap>
 #include <QWidget>
 
 class background_picture final : public QWidget {
@@ -14,6 +14,10 @@ class background_picture final : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void begin_scene();
+    void show_scene(const QImage& scene);
+
     QLabel* hint_;
-    QPixmap scaled_; // the drawing at the present size
+    QImage scene_; // the drawing as last painted, for one size
+    bool being_painted_ = false;
 };

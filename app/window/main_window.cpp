@@ -27,7 +27,7 @@ constexpr int RAIL_WIDTH = 128;
 
 main_window::main_window(Ks_lite_delegate& delegate) : delegate_(delegate) {
     setWindowTitle(QStringLiteral("Kestrom"));
-    setWindowIcon(QIcon(QStringLiteral(":/kestrom/images/kestrom.svg")));
+    setWindowIcon(picture_icon(QStringLiteral(":/kestrom/images/kestrom.svg")));
     auto* whole = new QWidget(this);
     auto* row = new QHBoxLayout(whole);
     row->setContentsMargins(0, 0, 0, 0);

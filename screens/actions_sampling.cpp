@@ -382,7 +382,8 @@ void actions::work_out_log_file() {
         return;
     do_the_log = true;
     const std::string vehicle = g_vehicle_idx > 0 ? std::to_string(g_vehicle_idx) : std::string();
-    cur_log_file_name = vehicle + toolies.work_out_log_fname_for_mode(g_cur_task) +
+    cur_log_file_name = vehicle +
+                        mac_toolies::sharedManager().work_out_log_fname_for_mode(g_cur_task) +
                         (g_cur_task == TASK_RUN_LOG ? ".gol" : ".txt");
     if (const auto why = log_out_stream.create(cur_log_file_name)) {
         qCWarning(log_screens, "work_out_log_file::%s", why->c_str());

@@ -1,5 +1,5 @@
-// `kestrom live` as a user runs it from a shell: what it prints, and what is left of its log however
-// it ends.
+// `kestrom live` as a user runs it from a shell: what it prints, and what is left of its log
+// however it ends.
 #include "car_library.h"
 #include "shell_fixture.h"
 
@@ -57,10 +57,10 @@ class live_command_line : public shell {
 TEST_F(live_command_line, prints_a_line_of_values_for_each_cycle_and_logs_it) {
     const outcome told = live({"--pids", "0d,0C,11,05", "--cycles", "3", "--log"});
     EXPECT_EQ(told.status, 0) << told.err;
-    EXPECT_EQ(lines_of(told.out), (list{"Vehicle Speed (mph),Engine Speed (RPM),"
-                                        "Absolute Throttle Position (%),Engine Coolant Temperature (° F)",
-                                        "62.5,1726,nan,181.4", "62.5,1726,nan,181.4",
-                                        "62.5,1726,nan,181.4"}));
+    EXPECT_EQ(lines_of(told.out),
+              (list{"Vehicle Speed (mph),Engine Speed (RPM),"
+                    "Absolute Throttle Position (%),Engine Coolant Temperature (° F)",
+                    "62.5,1726,nan,181.4", "62.5,1726,nan,181.4", "62.5,1726,nan,181.4"}));
     EXPECT_THAT(told.err, HasSubstr("3 cycles, 12 requests in "));
     EXPECT_THAT(told.err, HasSubstr(" requests per second\nLog: " + home.path().toStdString()));
     EXPECT_EQ(lines_of(only_log_below(home.path())), list(3, "410D64,410C1AF8,NODATA,41057B"));

@@ -84,8 +84,8 @@ const std::map<int, byte_string> AIR_180_OVER_90{{0x0A, {100}}, {0x0B, {180}}, {
 const std::map<int, byte_string> AIR_180_OVER_0{{0x0A, {100}}, {0x0B, {180}}, {0x33, {0}}};
 
 // 96 km/h are 59.65 mph. 32 g/s of air burn 2.177 g/s of petrol: 10.59 l/h or 2.798 gallons. The
-// economy is kept in hundredths of a km/l, 9.06. Boost is what exceeds the air around, 101 kPa where
-// the car does not measure it: 79, -71, 90 kPa; 6.895 kPa a psi.
+// economy is kept in hundredths of a km/l, 9.06. Boost is what exceeds the air around, 101 kPa
+// where the car does not measure it: 79, -71, 90 kPa; 6.895 kPa a psi.
 TEST(live_runs, compute_what_a_calculation_by_hand_gives) {
     const struct {
         const char* name;
@@ -94,8 +94,16 @@ TEST(live_runs, compute_what_a_calculation_by_hand_gives) {
         const std::map<int, byte_string>& engine;
         list shown;
     } cases[] = {
-        {"economy", TASK_FUEL_ECONOMY, true, SPEED_96_AIR_32, {"9.06 kpl", "96.00  Km/h", "32.00  gm/s"}},
-        {"mpg", TASK_FUEL_ECONOMY, false, SPEED_96_AIR_32, {"21.31 mpg", "60.00 mph", "4.27  lb/min"}},
+        {"economy",
+         TASK_FUEL_ECONOMY,
+         true,
+         SPEED_96_AIR_32,
+         {"9.06 kpl", "96.00  Km/h", "32.00  gm/s"}},
+        {"mpg",
+         TASK_FUEL_ECONOMY,
+         false,
+         SPEED_96_AIR_32,
+         {"21.31 mpg", "60.00 mph", "4.27  lb/min"}},
         {"standing", TASK_FUEL_ECONOMY, true, STANDING, {"0.00 kpl", "0.00  Km/h", "4.00  gm/s"}},
         {"no air", TASK_FUEL_ECONOMY, true, NO_AIR, {"~", "96.00  Km/h", "0.00  gm/s"}},
         {"no meter", TASK_FUEL_ECONOMY, true, NO_AIR_METER, {"~", "96.00  Km/h", "~"}},
@@ -103,7 +111,11 @@ TEST(live_runs, compute_what_a_calculation_by_hand_gives) {
         {"psi", TASK_BOOST, false, AIR_180, {"11.46 psi", "12.50  %", "~", "43.5  psi"}},
         {"vacuum", TASK_BOOST, true, AIR_30, {"-71.00 KPa", "12.50  %", "~", "300.0  KPa"}},
         {"altitude", TASK_BOOST, true, AIR_180_OVER_90, {"90.00 KPa", "~", "~", "300.0  KPa"}},
-        {"broken barometer", TASK_BOOST, true, AIR_180_OVER_0, {"79.00 KPa", "~", "~", "300.0  KPa"}},
+        {"broken barometer",
+         TASK_BOOST,
+         true,
+         AIR_180_OVER_0,
+         {"79.00 KPa", "~", "~", "300.0  KPa"}},
     };
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
@@ -124,7 +136,10 @@ TEST(live_runs, oxygen_sensors_are_those_that_the_car_names) {
         {"two banks", {{0x13, {0x33}}}, {"14", "15", "18", "19"}, false},
         {"four banks", {{0x1D, {0x0F}}}, {"14", "15", "16", "17"}, false},
         {"more than fit", {{0x13, {0xFF}}}, {"14", "15", "16", "17", "18", "19", "1A", "1B"}, true},
-        {"none named by one, some by the other", {{0x13, {0}}, {0x1D, {0x81}}}, {"14", "1B"}, false},
+        {"none named by one, some by the other",
+         {{0x13, {0}}, {0x1D, {0x81}}},
+         {"14", "1B"},
+         false},
         {"none", {{0x0D, {0}}}, {}, false},
     };
     for (const auto& one : cases) {
@@ -136,8 +151,7 @@ TEST(live_runs, oxygen_sensors_are_those_that_the_car_names) {
         EXPECT_EQ(bench.screen().running(), !one.sensors.empty());
         EXPECT_EQ(bench.app.find("o2SwapBtn")->isHidden(), !one.swaps);
         if (one.sensors.empty()) {
-            EXPECT_EQ(bench.app.last_status(),
-                      bench.app.resources.localized("ui_live_no_sensors"));
+            EXPECT_EQ(bench.app.last_status(), bench.app.resources.localized("ui_live_no_sensors"));
             continue;
         }
         EXPECT_EQ(bench.screen().pids(), one.sensors);
@@ -156,13 +170,24 @@ TEST(live_runs, oxygen_sensors_are_those_that_the_car_names) {
 TEST(live_runs, no_fault_files_a_value_under_another_name) {
     const std::map<int, byte_string> engine{
         {0x0D, {0x0D}}, {0x11, {0x11}}, {0x0C, {0x0C, 0x0C}}, {0x05, {0x05}}};
-    const std::pair<const char*, double> faults[] = {
-        {"wrong_pid=1", 0},        {"wrong_pid=3", 0.6},       {"wrong_pid=2", 0.45},
-        {"duplicate_reply=1", 0.45}, {"duplicate_reply=2", 0.45}, {"duplicate_reply=3", 0.6},
-        {"late_reply=20", 0.9},       {"data_error=4", 0.7},      {"can_error=4", 0.7},
-        {"merge_replies", 1},      {"one_byte_chunks", 1},     {"split_prompt", 1},
-        {"crlf", 1},               {"padding", 1},             {"echo_stuck", 0},
-        {"buffer_full=14", 0.7},      {"nagle", 1},               {"latency=700", 1}};
+    const std::pair<const char*, double> faults[] = {{"wrong_pid=1", 0},
+                                                     {"wrong_pid=3", 0.6},
+                                                     {"wrong_pid=2", 0.45},
+                                                     {"duplicate_reply=1", 0.45},
+                                                     {"duplicate_reply=2", 0.45},
+                                                     {"duplicate_reply=3", 0.6},
+                                                     {"late_reply=20", 0.9},
+                                                     {"data_error=4", 0.7},
+                                                     {"can_error=4", 0.7},
+                                                     {"merge_replies", 1},
+                                                     {"one_byte_chunks", 1},
+                                                     {"split_prompt", 1},
+                                                     {"crlf", 1},
+                                                     {"padding", 1},
+                                                     {"echo_stuck", 0},
+                                                     {"buffer_full=14", 0.7},
+                                                     {"nagle", 1},
+                                                     {"latency=700", 1}};
     for (const auto& [fault, least] : faults) {
         SCOPED_TRACE(fault);
         expect_warning("");
@@ -203,7 +228,8 @@ TEST(live_runs, end_when_the_link_does) {
 TEST(live_runs, stop_at_any_moment_and_start_again) {
     const std::map<int, byte_string> engine{{0x0D, {1}}, {0x11, {2}}, {0x0C, {3, 4}}, {0x05, {5}}};
     for (const char* fault : {"crlf", "wrong_pid=2", "duplicate_reply=2", "late_reply=20"})
-        for (int after : {0, 1, 500, 999, 1000, 1005, 1015, 1035, 1055, 1200, 1500, 3000, 4400, 9000}) {
+        for (int after :
+             {0, 1, 500, 999, 1000, 1005, 1015, 1035, 1055, 1200, 1500, 3000, 4400, 9000}) {
             SCOPED_TRACE(std::string(fault) + " after " + std::to_string(after));
             car_on_the_road bench(engine, {fault});
             bench.screen().runLogs();

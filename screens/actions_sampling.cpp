@@ -48,18 +48,20 @@ std::string first_line(const std::string& text) {
     return text;
 }
 
-// The next answer arrived in one piece with this one.
-bool another_reply_behind(std::string_view reply) {
-    const std::size_t prompt = reply.find('>');
-    return prompt != std::string_view::npos &&
-           reply.find_first_not_of("> \r\n", prompt) != std::string_view::npos;
-}
-
 // An answer to a service 01 request for another parameter.
 bool answers_another(std::string_view reply, std::string_view pid) {
     const std::string_view answered = slice(reply, 2, 2);
     return reply.starts_with("41") && is_hex(answered) && answered.size() == 2 &&
            !answers_parameter(reply, pid);
+}
+
+// Of several replies that came in one piece the one that answers the request, if any does: what
+// stands before it was left over.
+std::string reply_to(std::string_view pid, const std::string& replies) {
+    for (const std::string_view each : split(replies, ">"))
+        if (answers_parameter(first_line(without(each, " \n")), pid))
+            return std::string(each);
+    return replies;
 }
 
 // A reply as it goes into the log, where "," and line ends have a meaning of their own.
@@ -237,7 +239,8 @@ std::optional<std::string> actions::screened_reply() {
         end_by_timeout("Timed out** .. Try again");
         return std::nullopt;
     }
-    std::string reply = p_obdTimeOutCnt < 1 ? odb_curReplyMsg : "~";
+    std::string reply =
+        p_obdTimeOutCnt < 1 ? reply_to(requests_[cur_request_].pid, odb_curReplyMsg) : "~";
     if (contains(reply, "UNABLE TO CONNECT")) {
         fail_with_alert("Did not get a reply from Car port.  Check ignition key is at least in "
                         "position 2(right before crank) and pairing/connections");
@@ -331,7 +334,7 @@ void actions::ask_next(order_of_answer order) {
             waits_in_vain_ = 0;
     } else {
         answers_in_step_ = 0;
-        if (!another_reply_behind(odb_curReplyMsg) && await_straggler(order))
+        if (await_straggler(order))
             return;
     }
     ask(requests_[cur_request_]);

@@ -36,7 +36,10 @@ std::string word_reply(std::string_view pid, int word) {
 class log_run final : public live_run {
   public:
     std::optional<std::vector<std::string>> parameters(const user_defaults& store) const override {
-        return store.string_array(PIDS_ARRAY_KEY).value_or(std::vector<std::string>{});
+        auto chosen = store.string_array(PIDS_ARRAY_KEY).value_or(std::vector<std::string>{});
+        // What a hand wrote into the settings file need not be parameters.
+        std::erase_if(chosen, [](const std::string& pid) { return pid.size() != 2 || !is_hex(pid); });
+        return chosen;
     }
 };
 

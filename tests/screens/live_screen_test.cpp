@@ -115,7 +115,7 @@ TEST_F(live_screen, the_selector_names_the_runs_and_each_rebuilds_the_screen) {
 }
 
 TEST_F(live_screen, without_parameters_says_so_and_samples_nothing) {
-    app.defaults.set_string_array(PIDS_ARRAY_KEY, {});
+    app.defaults.set_string_array(PIDS_ARRAY_KEY, {"", "C", "0D ", "speed"}); // none of them one
     app.delegate->do_read_codes();
     open();
     EXPECT_EQ(app.messages.messages(),

@@ -161,6 +161,7 @@ double with_slow_pieces() {
     return program.requests_a_second(SPAN);
 }
 
+// At the window's own size; QT_SCALE_FACTOR=2 in front of the bench tells it for 200 %.
 double percent_of_a_core() {
     answering_server server({1, milliseconds(0), milliseconds(20)});
     running_program program(server.port(), FEW_ROWS, running_program::shows::one_curve);

@@ -5,6 +5,7 @@
 #include "thumbnail_strip.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -31,6 +32,8 @@ void live_pictures::rebuild(const std::vector<std::string>& pids) {
         item.use_this_pids(pids);
         item.set_thumb_selected(i == 0);
     }
+    if (!images_4_top.empty())
+        images_4_top.front().realtime_labels = false;
     cur_zoom_chart.use_this_pids(pids);
     set_large_chart(0, {});
     for (int i = 0; i < 2; ++i)
@@ -57,13 +60,17 @@ void live_pictures::set_points_shown(int count) {
 
 void live_pictures::select_thumbnail(int index, bool selected) {
     thumbnail& at = images_4_top[static_cast<std::size_t>(index)];
-    at.changed = at.changed || at.chart.isSelectedThumb() != selected;
+    at.changed = at.changed || at.realtime_labels || at.chart.isSelectedThumb() != selected;
+    at.realtime_labels = false;
     at.chart.set_thumb_selected(selected);
 }
 
 void live_pictures::sample_changed(int index) {
-    if (static_cast<std::size_t>(index) < images_4_top.size())
-        images_4_top[static_cast<std::size_t>(index)].changed = true;
+    if (static_cast<std::size_t>(index) < images_4_top.size()) {
+        thumbnail& at = images_4_top[static_cast<std::size_t>(index)];
+        at.changed = true;
+        at.realtime_labels = false;
+    }
     if (is_plotting(index))
         large_chart_changed_ = true;
 }
@@ -106,9 +113,17 @@ void live_pictures::draw_dial(dial& shown, picture_view& view) {
 void live_pictures::draw(live_view& view, const sample_rows& rows, const sample_set& samples) {
     if (pids_.empty())
         return;
-    const label_records labels = realtime_labels_ ? cur_zoom_chart.work_out_labels_4_realtime()
-                                                  : cur_zoom_chart.work_out_labels(rows);
-    const auto paint = [&](drawChartyItem& chart, double scale, const std::string& title) {
+    std::optional<label_records> kinds[2]; // worked out when the first picture needs them
+    const auto labels_of = [&](bool realtime) -> const label_records& {
+        std::optional<label_records>& kind = kinds[realtime ? 1 : 0];
+        if (!kind)
+            kind = realtime ? cur_zoom_chart.work_out_labels_4_realtime()
+                            : cur_zoom_chart.work_out_labels(rows);
+        return *kind;
+    };
+    const auto paint = [&](drawChartyItem& chart, double scale, const std::string& title,
+                           bool realtime) {
+        const label_records& labels = labels_of(realtime);
         chart.set_pixel_scale(scale);
         chart.update_cur_sample(samples);
         chart.draw_grid(labels, title);
@@ -127,7 +142,7 @@ void live_pictures::draw(live_view& view, const sample_rows& rows, const sample_
         at.changed = !strip.in_sight(static_cast<int>(i));
         if (at.changed)
             continue; // once it comes into sight
-        paint(at.chart, thumbnail_scale, "");
+        paint(at.chart, thumbnail_scale, "", at.realtime_labels);
         strip.set_picture(static_cast<int>(i), at.chart.imageRepresentation());
     }
     thumbnail_scale_ = thumbnail_scale;
@@ -135,7 +150,7 @@ void live_pictures::draw(live_view& view, const sample_rows& rows, const sample_
     if (const double scale = view.chartFull().pixel_scale();
         scale > 0 && (large_chart_changed_ || scale != chart_scale_)) {
         view.chartFull().let_go();
-        paint(cur_zoom_chart, scale, cur_chart_title);
+        paint(cur_zoom_chart, scale, cur_chart_title, realtime_labels_);
         view.chartFull().set_image(cur_zoom_chart.imageRepresentation());
         chart_scale_ = scale;
         large_chart_changed_ = false;

@@ -48,6 +48,7 @@ class live_pictures {
     struct thumbnail {
         drawChartyItem chart;
         bool changed = true;
+        bool realtime_labels = true; // until it is drawn for a sample or a selection
     };
     struct dial {
         myGauge gauge;

@@ -7,6 +7,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QSlider>
 #include <QTest>
 
@@ -14,7 +15,6 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <regex>
 
 namespace {
 
@@ -273,10 +273,10 @@ class logged_run : public live_screen {
 
 TEST_F(logged_run, holds_whole_cycles_as_they_were_answered) {
     start();
-    EXPECT_TRUE(std::regex_match(
-        std::filesystem::path(screen().log_path()).filename().string(),
-        std::regex("log_[A-Z][a-z]{2}_[0-9]{2}_[0-9]{4}-[01][0-9][0-5][0-9]_[0-5][0-9]\\.gol")))
-        << screen().log_path();
+    const QRegularExpression form(QRegularExpression::anchoredPattern(QStringLiteral(
+        "log_[A-Z][a-z]{2}_[0-9]{2}_[0-9]{4}-[01][0-9][0-5][0-9]_[0-5][0-9]\\.gol")));
+    const std::filesystem::path log = screen().log_path();
+    EXPECT_TRUE(form.match(QString::fromStdString(log.filename().string())).hasMatch()) << log;
     cycle();
     EXPECT_EQ(log_lines().size(), 1u) << "written as the cycle ends";
     for (const char* reply :

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr run_loop::microseconds SHORTEST_INTERVAL{1'000'000 / 30};
+constexpr run_loop::microseconds SHORTEST_INTERVAL{1'000'000 / 20};
 constexpr int WAIT_AFTER_FRAME = 3; // times what the frame took
 
 } // namespace

@@ -1,5 +1,6 @@
 // Paces drawing: at most 20 frames a second, more than a car sends new values, and after a frame
-// that took d the next waits at least 3 d, so that drawing never takes more than a quarter of the time. Owned by a screen.
+// that took d the next waits at least 3 d, so that drawing never takes more than a quarter of the
+// time. Owned by a screen.
 #pragma once
 
 #include "run_loop.h"

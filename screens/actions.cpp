@@ -147,12 +147,7 @@ void actions::run_a_log() {
     keep_logging = true;
     next_step_idx = 0;
     set_status_msg("Starting run log");
-    if (!KS_delegate.openInterfaceConnection())
-        return; // the transport starts the work once the link is up
-    view_->show_waity(true);
-    if (g_connect_with == KS_USE_BT && !connected_2_BT_interface)
-        return;
-    work_when_adapter_is_free();
+    work_over_link([this] { view_->show_waity(true); });
 }
 
 void actions::work_current_task() {

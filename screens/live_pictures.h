@@ -40,7 +40,6 @@ class live_pictures {
 
     bool is_plotting(int index) const { return cur_zoom_chart.isPlottingThisIndex(index); }
     const std::string& title() const { return cur_chart_title; }
-    QSizeF dial_size() const { return dials_[0].gauge.size(); }
 
     void draw(live_view& view, const sample_rows& rows, const sample_set& samples);
 

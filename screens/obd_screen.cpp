@@ -35,6 +35,15 @@ void obd_screen::end_task() {
     task_running_ = false;
 }
 
+void obd_screen::work_over_link(const std::function<void()>& link_usable) {
+    if (!KS_delegate.openInterfaceConnection())
+        return;
+    link_usable();
+    if (g_connect_with == KS_USE_BT && !connected_2_BT_interface)
+        return;
+    work_when_adapter_is_free();
+}
+
 void obd_screen::work_when_adapter_is_free() {
     if (KS_delegate.waiting_since().count() == 0)
         work_current_task();

@@ -6,6 +6,7 @@
 #include "mac_toolies.h"
 #include "run_loop.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -51,6 +52,9 @@ class obd_screen : public screen_controller {
     void show_status();
     // A task begins; what an earlier one waited for is forgotten.
     void begin_task();
+    // Opens the link and starts the task over it; the transport starts a task whose link is still
+    // coming up. `link_usable` is called when it is up already.
+    void work_over_link(const std::function<void()>& link_usable);
     // Starts the task's first step, now or when the adapter is done with another command: that
     // command's reply must not be taken for this task's first, and a character sent meanwhile would
     // interrupt it.

@@ -66,12 +66,7 @@ void readCodes::start_task(int task, const std::string& status) {
     longer_timeout_asked_for_ = false;
     begin_task();
     set_status_msg(status);
-    if (!KS_delegate.openInterfaceConnection())
-        return; // the transport starts the work once the link is up
-    view_->show_waity(true);
-    if (g_connect_with == KS_USE_BT && !connected_2_BT_interface)
-        return;
-    work_when_adapter_is_free();
+    work_over_link([this] { view_->show_waity(true); });
 }
 
 void readCodes::work_current_task() {

@@ -85,12 +85,7 @@ expertCtrlr::expertCtrlr(Ks_lite_delegate& delegate) : obd_screen(delegate) {
 expertCtrlr::~expertCtrlr() = default;
 
 void expertCtrlr::awakeFromNib() {
-    g_BT_cur_status = BT_DISCONNECTED;
-    g_retries = 0;
-    odb_curReplyBuffyMsg.clear();
-    odb_curReplyMsg.clear();
-    g_cur_mode = MODE_HANDSHAKE;
-    next_step_idx = 0;
+    begin_afresh();
     waity->hide();
 }
 

@@ -16,6 +16,7 @@
 #include "mac_toolies.h"
 #include "main_window.h"
 #include "message_box_alerts.h"
+#include "progress_line.h"
 #include "qt_run_loop.h"
 #include "quick_style.h"
 #include "quit_signals.h"
@@ -28,6 +29,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -178,6 +180,7 @@ bool start_recording(conversation_recorder& recorder, const cli_request& asked, 
     const std::string& path = *asked.record;
     const char* adapter = asked.demo ? "demo" : interface == KS_USE_BT ? "bluetooth" : "wifi";
     recorder.stopped = [path](const std::string& why) {
+        clear_progress();
         std::fprintf(stderr, "kestrom: the recording %s ends here: %s\n", path.c_str(), why.c_str());
     };
     const auto failure = recorder.start(path, KESTROM_VERSION, adapter);
@@ -277,6 +280,8 @@ int main(int argc, char** argv) {
     }
     if (asked.without_display())
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!asked.command.empty()) // it tells by itself why the link failed
+        QLoggingCategory::setFilterRules(QStringLiteral("kestrom.link.warning=false"));
     if (asked.command == BLUETOOTH_SCAN)
         return scan_for_bluetooth(argc, argv, asked);
     if (decodes(asked.command))

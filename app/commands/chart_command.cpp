@@ -153,8 +153,7 @@ int run_chart(std::span<const std::string> arguments, const mac_toolies& toolies
     const chart_request request = read_chart_request(arguments);
     if (!request.error.empty()) {
         err << "kestrom: " << request.error
-            << "\nUsage: kestrom chart LOG.gol --pid PID [--pid PID] -o FILE.png [--scale N] "
-               "[--dial]\n";
+            << "\nTry 'kestrom chart --help'.\n";
         return USAGE_STATUS;
     }
     std::string error;

@@ -168,7 +168,9 @@ struct link_doors {
     std::unique_ptr<serial_port_profile> bluetooth;
     std::unique_ptr<serial_port_profile> recorded_bluetooth;
 
-    serial_port_profile& serial_port() { return *(recorded_bluetooth ? recorded_bluetooth : bluetooth); }
+    serial_port_profile& serial_port() {
+        return *(recorded_bluetooth ? recorded_bluetooth : bluetooth);
+    }
     void record(conversation_recorder& recorder) {
         make_streams = recorded_streams(std::move(make_streams), recorder);
         recorded_bluetooth = recorded_serial_port(*bluetooth, recorder);
@@ -181,7 +183,8 @@ bool start_recording(conversation_recorder& recorder, const cli_request& asked, 
     const char* adapter = asked.demo ? "demo" : interface == KS_USE_BT ? "bluetooth" : "wifi";
     recorder.stopped = [path](const std::string& why) {
         clear_progress();
-        std::fprintf(stderr, "kestrom: the recording %s ends here: %s\n", path.c_str(), why.c_str());
+        std::fprintf(stderr, "kestrom: the recording %s ends here: %s\n", path.c_str(),
+                     why.c_str());
     };
     const auto failure = recorder.start(path, KESTROM_VERSION, adapter);
     if (failure)
@@ -189,10 +192,10 @@ bool start_recording(conversation_recorder& recorder, const cli_request& asked, 
     return !failure;
 }
 
-int run(QApplication& application, const cli_request& asked) {
-    std::optional<QTemporaryDir> scratch;
+// Puts the command line's choices into the store; answers the demo's car.
+std::unique_ptr<tcp_adapter_server> use_what_is_asked(user_defaults& defaults,
+                                                      const cli_request& asked) {
     std::unique_ptr<tcp_adapter_server> car;
-    user_defaults defaults(settings_path(asked, scratch));
     if (asked.demo) {
         car = start_demo_car(asked.demo_car);
         use_adapter(defaults, "127.0.0.1", std::to_string(car->port()));
@@ -203,6 +206,13 @@ int run(QApplication& application, const cli_request& asked) {
     }
     if (asked.command == "live")
         use_run(defaults, asked);
+    return car;
+}
+
+int run(QApplication& application, const cli_request& asked) {
+    std::optional<QTemporaryDir> scratch;
+    user_defaults defaults(settings_path(asked, scratch));
+    const auto car = use_what_is_asked(defaults, asked);
 
     qt_run_loop loop;
     const bundle resources;

@@ -38,8 +38,7 @@ std::optional<std::string> conversation_recorder::start(const std::string& path,
     if (auto why = file_.create(path, log_file::existing::refuse))
         return why;
     started_ = loop_.now();
-    const std::string now =
-        QDateTime::currentDateTimeUtc().toString(Qt::ISODate).toStdString();
+    const std::string now = QDateTime::currentDateTimeUtc().toString(Qt::ISODate).toStdString();
     return file_.append_line("{\"kestrom_recording\":" + std::to_string(FORMAT_VERSION) + "," +
                              member("version", version) + "," + member("date", now) + "," +
                              member("adapter", adapter) + "}\n");

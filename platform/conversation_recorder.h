@@ -1,5 +1,6 @@
-// Writes down the conversation with the adapter as it happens, so that somebody else can look at it or
-// answer from it (docs/json/recording.schema.json). Owned by main; outlives the doors it listens at.
+// Writes down the conversation with the adapter as it happens, so that somebody else can look at it
+// or answer from it (docs/json/recording.schema.json). Owned by main; outlives the doors it listens
+// at.
 //
 // A line of JSON each: a header, then what was sent and received and what became of the connection.
 // Bytes stand as the characters U+0000 to U+00FF, so nothing is lost and the file is plain ASCII.

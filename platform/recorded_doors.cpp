@@ -119,7 +119,8 @@ class recorded_device final : public bluetooth_device {
                 recorder.failed("status " + std::to_string(status));
             tell(status);
         };
-        heard.data = [&recorder = recorder_, tell = std::move(delegate.data)](std::string_view data) {
+        heard.data = [&recorder = recorder_,
+                      tell = std::move(delegate.data)](std::string_view data) {
             recorder.received(data);
             tell(data);
         };

@@ -1,6 +1,6 @@
-// Whatever answers a client as an adapter does: the virtual one, or a recording of a genuine one. It
-// has neither clock, event loop nor sockets: its owner tells it what arrived and when, and asks what
-// is due.
+// Whatever answers a client as an adapter does: the virtual one, or a recording of a genuine one.
+// It has neither clock, event loop nor sockets: its owner tells it what arrived and when, and asks
+// what is due.
 #pragma once
 
 #include <chrono>

@@ -1,6 +1,6 @@
-// Answers as a recorded adapter did. A command gets the bytes that followed it in the recording, in their
-// pieces and at their times; commands are looked for in recorded order, past the last one found first,
-// then from the start. One that was never recorded is answered with "?".
+// Answers as a recorded adapter did. A command gets the bytes that followed it in the recording, in
+// their pieces and at their times; commands are looked for in recorded order, past the last one
+// found first, then from the start. One that was never recorded is answered with "?".
 //
 // Each client meets the next recorded connection, after the last the first again.
 #pragma once

@@ -1,5 +1,5 @@
-// A recorded conversation with an adapter, as `kestrom --record` writes it: what was asked and what came
-// back when. docs/json/recording.schema.json describes the file.
+// A recorded conversation with an adapter, as `kestrom --record` writes it: what was asked and what
+// came back when. docs/json/recording.schema.json describes the file.
 #pragma once
 
 #include <chrono>

@@ -25,8 +25,9 @@ constexpr int FAILED_STATUS = 1;
 constexpr std::string_view NO_ANSWER = "~"; // of the toolkit's, to what it cannot translate
 
 // What adapters say instead of data, without blanks. "BUS" and "ERROR" stand in several notices.
-constexpr std::string_view NOTICES[] = {"NODATA", "SEARCHING",  "UNABLETOCONNECT", "STOPPED", "BUS",
-                                        "ERROR",  "BUFFERFULL", "LVRESET",         "ACTALERT", "?"};
+constexpr std::string_view NOTICES[] = {"NODATA",   "SEARCHING", "UNABLETOCONNECT", "STOPPED",
+                                        "BUS",      "ERROR",     "BUFFERFULL",      "LVRESET",
+                                        "ACTALERT", "?"};
 
 int refuse(std::ostream& err, std::string_view why, std::string_view command) {
     err << "kestrom: " << why << "\nTry 'kestrom " << command << " --help'.\n";
@@ -51,7 +52,8 @@ bool take_json(std::vector<std::string>& arguments) {
     return std::erase(arguments, "--json") > 0;
 }
 
-// Whether an adapter may have sent that for a request of service 01: its answer, a refusal, or a notice.
+// Whether an adapter may have sent that for a request of service 01: its answer, a refusal, or a
+// notice.
 bool may_be_reply(const std::string& reply) {
     std::string plain = without(reply, " \r\n\t");
     std::ranges::transform(plain, plain.begin(), [](unsigned char c) { return std::toupper(c); });

@@ -1,6 +1,7 @@
 // Commands that decode replies given on the command line: decode, vin and mode6. Each is handed its
-// own arguments, prints a line per answer to `out`, or with --json an object (docs/json), and returns the
-// exit status: 0, or 2 with a message on `err` when the arguments make no sense. A reply may write its line ends as \r and \n.
+// own arguments, prints a line per answer to `out`, or with --json an object (docs/json), and
+// returns the exit status: 0, or 2 with a message on `err` when the arguments make no sense. A
+// reply may write its line ends as \r and \n.
 #pragma once
 
 #include <iosfwd>

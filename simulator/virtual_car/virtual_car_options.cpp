@@ -117,7 +117,8 @@ std::string usage() {
         left.resize(std::max<std::size_t>(left.size() + 2, 24), ' ');
         text += left + std::string(row.effect) + "\n";
     }
-    text += "\nExit status: 0 success, 1 it cannot listen or write, 2 the arguments, the car file or the "
+    text += "\nExit status: 0 success, 1 it cannot listen or write, 2 the arguments, the car file "
+            "or the "
             "recording make no sense.\n\n"
             "Examples\n"
             "  kestrom-virtual-car --car diesel\n"

@@ -1,5 +1,4 @@
 #include "conversation_recorder.h"
-
 #include "full_disk.h"
 #include "recorded_doors.h"
 #include "scripted_serial_port.h"
@@ -34,9 +33,10 @@ TEST_F(conversation_recorder_test, a_tcp_conversation_is_written_as_it_happens) 
     ASSERT_EQ(start(), std::nullopt);
     const auto wire = std::make_shared<scripted_stream_pair::wire>();
     wire->error = "gone";
-    const auto make = recorded_streams(
-        [&](const std::string&, long) { return std::make_unique<scripted_stream_pair>(loop, wire); },
-        recorder);
+    const auto make =
+        recorded_streams([&](const std::string&,
+                             long) { return std::make_unique<scripted_stream_pair>(loop, wire); },
+                         recorder);
     auto pair = make("host", 1);
     std::string read;
     pair->open([&](stream_side side, int code) {

@@ -19,6 +19,8 @@
 #include <QScrollBar>
 #include <QTextCursor>
 
+#include <utility>
+
 namespace {
 
 constexpr int ECHO_POINT_SIZE = 14;
@@ -144,16 +146,21 @@ void expertCtrlr::append_echo(const std::string& command) {
     font.setPointSize(ECHO_POINT_SIZE);
     format.setFont(font);
     format.setForeground(echo_blue(replyTxt->palette()));
-    append(replyTxt, display_text(command) + u'\n', format);
+    // Of a reply that stopped within a letter that is all there will be.
+    append(replyTxt, display_text(std::exchange(half_letter_, {})) + display_text(command) + u'\n',
+           format);
 }
 
 void expertCtrlr::append_reply(const std::string& chunk) {
     QTextCharFormat format;
     format.setFont(replyTxt->font());
-    std::string_view text = chunk;
+    const std::string whole = half_letter_ + chunk;
+    std::string_view text = whole;
     if (ended_in_return_ && text.starts_with('\n')) // a line end that came in two pieces
         text.remove_prefix(1);
-    ended_in_return_ = chunk.ends_with('\r');
+    ended_in_return_ = whole.ends_with('\r');
+    half_letter_ = text.substr(text.size() - unfinished_letter(text));
+    text.remove_suffix(half_letter_.size());
     append(replyTxt, display_text(text), format);
     if (replyTxt->document()->characterCount() > TRANSCRIPT_CHARACTERS)
         replyTxt->clear(); // a flood without line ends

@@ -555,7 +555,7 @@ Melden Sie sich am Rechner selbst an, oder bitten Sie die Verwaltung, Sie in die
     </message>
     <message id="bt_no_chooser">
         <source></source>
-        <translation>Es ist kein Bluetooth-Adapter gewählt. Nennen Sie einen mit --bluetooth ADRESSE; kestrom bluetooth-scan zeigt, welche in Reichweite sind.</translation>
+        <translation>Es ist kein Bluetooth-Adapter gewählt. Nennen Sie einen mit --bluetooth ADRESSE (kestrom bluetooth-scan zeigt, welche in Reichweite sind) oder einen WLAN-Adapter mit --adapter RECHNER:PORT; --demo braucht keinen.</translation>
     </message>
 </context>
 </TS>

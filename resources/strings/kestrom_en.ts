@@ -555,7 +555,7 @@ Log in at the computer itself, or ask its administrator to add you to the group 
     </message>
     <message id="bt_no_chooser">
         <source></source>
-        <translation>No Bluetooth adapter was chosen. Name one with --bluetooth ADDRESS; kestrom bluetooth-scan lists those in reach.</translation>
+        <translation>No Bluetooth adapter was chosen. Name one with --bluetooth ADDRESS (kestrom bluetooth-scan lists those in reach) or a Wi-Fi adapter with --adapter HOST:PORT; --demo needs neither.</translation>
     </message>
 </context>
 </TS>

@@ -555,7 +555,7 @@ Inicie la sesión en el propio equipo, o pida a su administrador que lo añada a
     </message>
     <message id="bt_no_chooser">
         <source></source>
-        <translation>No se ha elegido ningún adaptador Bluetooth. Indique uno con --bluetooth DIRECCIÓN; kestrom bluetooth-scan muestra los que están al alcance.</translation>
+        <translation>No se ha elegido ningún adaptador Bluetooth. Indique uno con --bluetooth DIRECCIÓN (kestrom bluetooth-scan muestra los que están al alcance) o un adaptador Wi-Fi con --adapter HOST:PUERTO; --demo no necesita ninguno.</translation>
     </message>
 </context>
 </TS>

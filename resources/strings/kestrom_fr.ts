@@ -555,7 +555,7 @@ Ouvrez une session sur l'ordinateur même, ou demandez à son administrateur de 
     </message>
     <message id="bt_no_chooser">
         <source></source>
-        <translation>Aucun adaptateur Bluetooth n'est choisi. Nommez-en un avec --bluetooth ADRESSE ; kestrom bluetooth-scan montre ceux qui sont à portée.</translation>
+        <translation>Aucun adaptateur Bluetooth n'est choisi. Nommez-en un avec --bluetooth ADRESSE (kestrom bluetooth-scan montre ceux qui sont à portée) ou un adaptateur Wi-Fi avec --adapter HÔTE:PORT ; --demo n'en demande aucun.</translation>
     </message>
 </context>
 </TS>

@@ -305,7 +305,7 @@ int main(int argc, char** argv) {
     QApplication::setStyle(new quick_style);
     QApplication::setApplicationName(QStringLiteral("kestrom"));
     QApplication::setApplicationDisplayName(QStringLiteral("Kestrom"));
-    QApplication::setDesktopFileName(QStringLiteral("kestrom"));
+    QApplication::setDesktopFileName(QStringLiteral(APPLICATION_ID));
     try {
         return run(application, asked);
     } catch (const car_file_error& unusable) {

@@ -163,6 +163,9 @@ void far_end::serve(scripted_serial_port& door) {
 
 void far_end::connect(const std::shared_ptr<client>& who) {
     client_ = who;
+    ++connection_;
+    wire_free_ = loop_.now();
+    mid_reply_ = false;
     adapter_->connection_opened(loop_.now());
     slot_ = ledger::NOBODY;
     held_.clear();
@@ -216,7 +219,9 @@ void far_end::apply_fate(std::string bytes) {
     held_ += bytes;
     if (!held_.ends_with('>'))
         return;
-    const auto whole = [this, slot = slot_, reply = held_] { arrive(slot, reply); };
+    const auto whole = [this, slot = slot_, reply = held_, on = connection_] {
+        arrive(slot, reply, on);
+    };
     loop_.after(WIRE_TIME + fate_.delay, whole);
     if (fate_.twice_after >= 0)
         loop_.after(WIRE_TIME + fate_.delay + milliseconds(fate_.twice_after), whole);
@@ -231,11 +236,15 @@ void far_end::send(std::size_t slot, std::string bytes, milliseconds delay) {
     for (std::size_t at = 0; at < bytes.size(); at += length) {
         wire_free_ += at > 0 ? step : milliseconds(0);
         loop_.after(wire_free_ - loop_.now(),
-                    [this, slot, part = bytes.substr(at, length)] { arrive(slot, part); });
+                    [this, slot, part = bytes.substr(at, length), on = connection_] {
+                        arrive(slot, part, on);
+                    });
     }
 }
 
-void far_end::arrive(std::size_t slot, const std::string& bytes) {
+void far_end::arrive(std::size_t slot, const std::string& bytes, int connection) {
+    if (connection != connection_)
+        return;
     if (slot != arriving_ && mid_reply_) { // two answers run into one another
         book_.damaged(arriving_);
         book_.damaged(slot);

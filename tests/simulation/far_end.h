@@ -53,7 +53,7 @@ class far_end {
     void pump();
     void apply_fate(std::string bytes);
     void send(std::size_t slot, std::string bytes, run_loop::milliseconds delay);
-    void arrive(std::size_t slot, const std::string& bytes);
+    void arrive(std::size_t slot, const std::string& bytes, int connection);
 
     virtual_run_loop& loop_;
     trace& story_;
@@ -71,4 +71,5 @@ class far_end {
     std::size_t arriving_ = ledger::NOBODY; // whose answer came last
     bool mid_reply_ = false;                // and has not come to its prompt
     int open_pairs_ = 0;
+    int connection_ = 0; // counts them: what is under way on one does not reach the next
 };

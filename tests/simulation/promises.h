@@ -36,7 +36,7 @@ class promises {
     // The button of the live-data screen has started a run.
     void run_begins();
     // Of the trouble-codes screen: a task begins.
-    void task_begins() { task_began_ = app_.book.moment(); }
+    void task_begins(std::uint64_t moment) { task_began_ = moment; }
 
   private:
     void delivery_begins();

@@ -116,7 +116,7 @@ void random_user::expect_answer(const char* what, std::uint64_t before) {
 
 void random_user::read_codes() {
     const std::uint64_t before = app_.story.effects();
-    promises_.task_begins();
+    promises_.task_begins(app_.book.moment());
     press("readCodes");
     expect_answer("read codes", before);
 }
@@ -126,9 +126,11 @@ void random_user::use_codes() {
     if (dice_.happens(65)) {
         read_codes();
     } else if (dice_.happens(75)) {
-        promises_.task_begins();
+        const std::uint64_t began = app_.book.moment();
         press("clearCodes");
         expect_answer("clear codes", before);
+        if (app_.story.effects() > before + 1) // the question, and more than that
+            promises_.task_begins(began);
     } else {
         app_.story.note("user", "diagnose");
         app_.find<QAction>("obd_sim")->trigger();

@@ -234,7 +234,8 @@ void random_user::change_port_and_back() {
         app_.find<>("interfaceWifi")->click();
         app_.find<QLineEdit>("ipLbl")->setText(QStringLiteral("10.0.0.9"));
         app_.find<QLineEdit>("portsLbl")->setText(QLatin1String(port));
-        app_.delegate->do_read_codes();
+        app_.delegate->do_expert();
     }
+    app_.delegate->do_read_codes();
     app_.loop.settle();
 }

@@ -147,7 +147,8 @@ void actions::run_a_log() {
     keep_logging = true;
     next_step_idx = 0;
     set_status_msg("Starting run log");
-    work_over_link([this] { view_->show_waity(true); });
+    if (!work_over_link([this] { view_->show_waity(true); }))
+        leave_cur_op_gracefully("");
 }
 
 void actions::work_current_task() {

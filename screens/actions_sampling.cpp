@@ -182,7 +182,7 @@ void actions::first_question_answered() {
     if (answers_another(*reply, requests_.front().pid) &&
         await_straggler(order_of_answer::one_behind))
         return; // and ask once more
-    run_->first_question_answered(*reply);
+    run_->first_question_answered(whole_answer(*reply, requests_.front().pid) ? *reply : "~");
     begin_cycle();
 }
 
@@ -264,6 +264,11 @@ actions::order_of_answer actions::order_of(std::string_view reply) const {
     return answers_another(reply, before.pid) ? order_of_answer::wrong : order_of_answer::one_behind;
 }
 
+// It would be read as a value although it is no whole answer.
+bool actions::misreads(const std::string& reply, const std::string& pid) const {
+    return !whole_answer(reply, pid) && toolies.translateResponse(reply) != "~";
+}
+
 void actions::take_reply() {
     const std::optional<std::string> screened = screened_reply();
     if (!screened)
@@ -273,7 +278,8 @@ void actions::take_reply() {
     const order_of_answer order = order_of(*screened);
     const bool out_of_step = order != order_of_answer::in_step;
     // What answers another request is not filed under this one's name.
-    const std::string reply = run_->reply_to_file(asked, out_of_step ? "~" : *screened);
+    const std::string reply =
+        run_->reply_to_file(asked, out_of_step || misreads(*screened, asked.pid) ? "~" : *screened);
     note_reply(*screened);
     qCDebug(log_screens, "loggy:%s", reply.c_str());
     add_item_to_log_vector(reply, cur_log_idx);

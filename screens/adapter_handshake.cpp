@@ -23,6 +23,10 @@ enum step : int {
 };
 
 constexpr std::string_view NOT_UNDERSTOOD = "Did not understand cmd  ... Try again ";
+// So often "AT SP A3" is tried; an adapter that has not changed its mind by then, or whose answers
+// are one behind, never will.
+constexpr int MOST_FIXED_PROTOCOLS = 10;
+
 constexpr std::string_view NO_INTERFACE =
     "Unable to connect to interface ... Timed out .. Try again";
 
@@ -106,6 +110,7 @@ bool adapter_handshake::connect_2_interface(int step) {
 }
 
 void adapter_handshake::start() {
+    fixed_protocols_told_ = 0;
     send_waiting(KS_did_connect_2_car ? "AT E0\r" : "AT Z\r", RESET_ANSWERED);
 }
 
@@ -196,7 +201,9 @@ void adapter_handshake::protocol_answered() {
         screen_.show_protocol(screen_.cur_err_msg);
         g_cur_protocol = std::string_view(reply);
     }
-    if (contains(reply, "AUTO")) {
+    const bool rejected = contains(reply, REPLY_REJECTED);
+    if (contains(reply, "AUTO") ||
+        (!rejected && ++fixed_protocols_told_ > MOST_FIXED_PROTOCOLS)) {
         send("AT H1\r", HEADERS_ON_ANSWERED);
     } else {
         odb_curReplyMsg.clear();

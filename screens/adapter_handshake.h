@@ -45,6 +45,8 @@ class adapter_handshake {
   private:
     struct pid_group;
 
+    int fixed_protocols_told_ = 0;
+
     void start();
     void reset_answered();
     void echo_off_answered();

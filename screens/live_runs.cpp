@@ -149,6 +149,25 @@ bool answers_parameter(std::string_view reply, std::string_view pid) {
            });
 }
 
+bool whole_answer(std::string_view reply, std::string_view pid) {
+    // By PID, 00 to 5F, a row for each sixteen.
+    static constexpr std::string_view DATA_BYTES = "4422111111112111"
+                                                   "2111222222221112"
+                                                   "4222444444441111"
+                                                   "1221444444442222"
+                                                   "4422211111111224"
+                                                   "4112222222111221";
+    const std::string_view data = slice(reply, 4);
+    if (!answers_parameter(reply, pid) || !is_hex(data) || data.size() % 2 != 0)
+        return false;
+    const std::size_t number = mac_toolies::convertStr2Byte(pid);
+    const std::size_t bytes = number < DATA_BYTES.size()
+                                  ? static_cast<std::size_t>(DATA_BYTES[number] - '0')
+                                  : data.size() / 2;
+    const bool sensor_without_trim = number >= 0x14 && number <= 0x1B && data.size() == 2;
+    return data.size() == 2 * bytes || sensor_without_trim;
+}
+
 std::vector<sample_request>
 live_run::requests(const std::vector<std::string>& parameters) const {
     std::vector<sample_request> all;

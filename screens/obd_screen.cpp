@@ -44,13 +44,17 @@ void obd_screen::end_task() {
     task_running_ = false;
 }
 
-void obd_screen::work_over_link(const std::function<void()>& link_usable) {
+bool obd_screen::work_over_link(const std::function<void()>& link_usable) {
     if (!KS_delegate.openInterfaceConnection())
-        return;
+        return KS_delegate.link_coming_up();
     link_usable();
-    if (g_connect_with == KS_USE_BT && !connected_2_BT_interface)
-        return;
-    work_when_adapter_is_free();
+    if (g_connect_with != KS_USE_BT || connected_2_BT_interface) {
+        work_when_adapter_is_free();
+    } else if (!KS_delegate.link_coming_up()) { // a channel that has closed is never opened again
+        set_status_msg(localized("bt_closed_MSG"));
+        return false;
+    }
+    return true;
 }
 
 void obd_screen::work_when_adapter_is_free() {

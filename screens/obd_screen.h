@@ -55,8 +55,8 @@ class obd_screen : public screen_controller {
     // A task begins; what an earlier one waited for is forgotten.
     void begin_task();
     // Opens the link and starts the task over it; the transport starts a task whose link is still
-    // coming up. `link_usable` is called when it is up already.
-    void work_over_link(const std::function<void()>& link_usable);
+    // coming up. `link_usable` is called when it is up already. False: no link will come up.
+    bool work_over_link(const std::function<void()>& link_usable);
     // Starts the task's first step, now or when the adapter is done with another command: that
     // command's reply must not be taken for this task's first, and a character sent meanwhile would
     // interrupt it.

@@ -59,9 +59,11 @@ void readCodes::start_task(int task, const std::string& status) {
     next_step_idx = 0;
     succeeded_ = false;
     longer_timeout_asked_for_ = false;
+    headers_repeated_ = 0;
     begin_task();
     set_status_msg(status);
-    work_over_link([this] { view_->show_waity(true); });
+    if (!work_over_link([this] { view_->show_waity(true); }))
+        leave_cur_op_gracefully("");
 }
 
 void readCodes::work_current_task() {

@@ -88,5 +88,6 @@ class readCodes final : public obd_screen {
     bool status_told_ = false;              // a unit answered "01 01" in this task
     bool status_answer_was_can_ = false;    // by its headers
     bool longer_timeout_asked_for_ = false; // "AT ST FF" is tried once a task
+    int headers_repeated_ = 0;
     bool succeeded_ = false;
 };

@@ -48,6 +48,18 @@ bool looks_like_can(std::string_view spaceless_reply) {
            line.substr(0, line.find_first_of("\r\n>")).size() != 14;
 }
 
+// Of several replies that came in one piece the last that answers: an adapter that says everything
+// twice must not count twice.
+std::string last_reply_with(std::string_view marker, const std::string& replies) {
+    std::string found = replies;
+    for (const std::string_view each : split(replies, ">"))
+        if (contains(without(each, " "), marker))
+            found = std::string(each) + ">";
+    return found;
+}
+
+constexpr int MOST_HEADER_REPEATS = 12; // in one task
+
 } // namespace
 
 void readCodes::work_out_read_codes(int step) {
@@ -102,14 +114,15 @@ void readCodes::headers_answered(std::string_view next_command, int next_step) {
     send_and_go_to(next_command, next_step);
 }
 
-// A lost confirmation of "AT H0" repeats the whole status exchange as well.
+// A lost confirmation of "AT H0" repeats the whole status exchange as well. Its end counts from
+// zero again, so that an adapter which never confirms would be asked for ever.
 void readCodes::retry_headers() {
     cur_cmd = std::string_view("AT H1\r");
     next_step_idx = HEADERS_ON_ANSWERED;
     g_replies_expected = 1;
     const int before = g_retries;
     g_retries = before + 1;
-    if (before <= 3) {
+    if (before <= 3 && ++headers_repeated_ <= MOST_HEADER_REPEATS) {
         g_retries = before + 2; // by two on purpose
         set_status_msg("Didn't get a confirmation from interface ... Trying again");
         sendOBDcmd(cur_cmd);
@@ -130,6 +143,7 @@ void readCodes::end_by_timeout() {
 
 void readCodes::status_answered() {
     connecting_2_car_port = false;
+    odb_curReplyMsg = last_reply_with("4101", odb_curReplyMsg);
     const std::string reply = handshake_.check_initial_car_reply();
     if (contains(reply, REPLY_REJECTED)) {
         end_task();
@@ -157,10 +171,11 @@ void readCodes::decode_status(const std::string& screened_reply) {
     status_told_ = false;
     status_answer_was_can_ = false;
     p_cur_01_pid.clear();
-    bool lamp_on = false;
+    bool lamp_on = false, engine_told = false, some_unreadable = contains(screened_reply, "<");
     for (const std::string& line : lines) {
         const std::string data = status_data(line);
         if (!data.starts_with("4101") || data.size() < 6) {
+            some_unreadable = true;
             set_status_msg("Did not read initial header .. continuing"); // what others told stays
             continue;
         }
@@ -169,6 +184,7 @@ void readCodes::decode_status(const std::string& screened_reply) {
         const unsigned byte_a = mac_toolies::convertStr2Byte(std::string_view(data).substr(4, 2));
         const bool unit_lamp = (byte_a & 0x80u) != 0;
         if (contains(mac_toolies::pull_ECU(line), "Engine") || answers == 1) {
+            engine_told = true;
             p_cur_01_pid = std::string_view(data).substr(6);
             lamp_on = lamp_on || unit_lamp;
         }
@@ -177,8 +193,10 @@ void readCodes::decode_status(const std::string& screened_reply) {
             no_of_codes += static_cast<int>(byte_a & 0x7Fu);
     }
 
-    // Nobody told: neither "OFF" nor "0" would be true.
-    view_->set_lamp(!status_told_ ? "N/A" : lamp_on ? "ON" : "OFF");
+    // Nobody told: neither "OFF" nor "0" would be true. Nor is "OFF" when the engine's answer is
+    // the one that cannot be read.
+    const bool lamp_unknown = !status_told_ || (some_unreadable && !engine_told);
+    view_->set_lamp(lamp_on ? "ON" : lamp_unknown ? "N/A" : "OFF");
     view_->set_count(status_told_ ? std::to_string(no_of_codes) : "N/A");
     cur_err_msg =
         QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat).toStdString();
@@ -197,7 +215,7 @@ readCodes::work_reply_to_error_codes_pid(std::string_view mode, std::string_view
 }
 
 void readCodes::codes_answered() {
-    const std::string reply = odb_curReplyMsg;
+    const std::string reply = last_reply_with("43", odb_curReplyMsg);
     if (contains(reply, "~")) {
         refresh_readiness();
         set_status_msg("Failed to receive the error codes");

@@ -10,6 +10,7 @@
 namespace {
 
 constexpr std::size_t CODE_DIGITS = 4;
+constexpr std::size_t LONGEST_FRAME = 14; // digits of a numbered frame
 
 // One control unit's answer: a line of its own, or a length line and the numbered frames that
 // followed it (ISO 15765-2, as the adapter prints it: "00A", "0:430401330220", "1:03000420000000").
@@ -52,6 +53,9 @@ class answer_gatherer {
     // same later frame, the one that began first gets it. Nobody gets a frame behind a gap: its
     // bytes would be misread.
     void take_frame(std::string_view frame, std::size_t number) {
+        const std::size_t digits = frame.size() - 2;
+        if (digits > LONGEST_FRAME || digits % 2 != 0)
+            return; // something else has run into it
         std::size_t receiver = 0;
         if (number == 0 && !opened_.empty()) {
             receiver = opened_.back();
@@ -74,10 +78,13 @@ class answer_gatherer {
     std::array<std::set<std::size_t>, 16> awaiting_; // by the number of the next frame
 };
 
-// What is not hex (a line broken on the bus) is no code.
-void add_code(std::string_view digits, std::vector<std::string>& codes) {
-    if (is_hex(digits))
-        codes.push_back(mac_toolies::pull_DTC_code(digits));
+// What is not hex is no code, and what follows it is none either: the line broke off there, and
+// another may have run into it. False then.
+bool add_code(std::string_view digits, std::vector<std::string>& codes) {
+    if (!is_hex(digits))
+        return false;
+    codes.push_back(mac_toolies::pull_DTC_code(digits));
+    return true;
 }
 
 // Whether the leading decimal digits are a number above 0.
@@ -91,17 +98,21 @@ bool has_decimal_value(std::string_view digits) {
 void decode_line(std::string_view line, std::vector<std::string>& codes) {
     const std::string padded = mac_toolies::padString(line, '0', 14, true);
     const std::string_view groups = std::string_view(padded).substr(2);
-    add_code(groups.substr(0, CODE_DIGITS), codes);
-    for (const std::size_t position : {4, 8})
-        if (const auto group = groups.substr(position, CODE_DIGITS); has_decimal_value(group))
-            add_code(group, codes);
+    if (!add_code(groups.substr(0, CODE_DIGITS), codes))
+        return;
+    for (const std::size_t position : {4, 8}) {
+        const auto group = groups.substr(position, CODE_DIGITS);
+        if (!is_hex(group) || (has_decimal_value(group) && !add_code(group, codes)))
+            return;
+    }
 }
 
 // The answer's two digits, the number of codes as a byte, then the codes; fill bytes may follow.
 void decode_CAN_message(std::string_view message, std::vector<std::string>& codes) {
     const std::uint32_t count = mac_toolies::convertStr2Byte(slice(message, 2, 2));
     for (std::size_t i = 0; i < count && i * 4 + 8 <= message.size(); ++i)
-        add_code(message.substr(i * 4 + 4, CODE_DIGITS), codes);
+        if (!add_code(message.substr(i * 4 + 4, CODE_DIGITS), codes))
+            return;
 }
 
 } // namespace

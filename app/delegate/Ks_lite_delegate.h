@@ -87,6 +87,8 @@ class Ks_lite_delegate {
     void disconnect();
     // The settings name another adapter: closes an open link and forgets what the old adapter said.
     void adapter_changed();
+    // The link is on its way up, and will start the screen's work.
+    bool link_coming_up() const;
     // A reply, a connection or a deferred call is still to come.
     bool anything_outstanding() const;
     // The last command's reply counts as lost, and is no time-out any more.

@@ -70,7 +70,10 @@ void Ks_lite_delegate::give_up_on_reply() {
     reply_awaited_since_ = {};
 }
 
+bool Ks_lite_delegate::link_coming_up() const {
+    return deferred_call_ != 0 || attempt_state_ == attempt_state::connecting || bluetooth_opening_;
+}
+
 bool Ks_lite_delegate::anything_outstanding() const {
-    return reply_awaited_since_.count() != 0 || deferred_call_ != 0 ||
-           attempt_state_ == attempt_state::connecting || bluetooth_opening_;
+    return reply_awaited_since_.count() != 0 || link_coming_up();
 }

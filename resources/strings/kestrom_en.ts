@@ -65,6 +65,10 @@ Please check:
         <source></source>
         <translation>The adapter has not answered yet. Check that this computer is in the adapter's wireless network and that address and port are right.</translation>
     </message>
+    <message id="bt_closed_MSG">
+        <source></source>
+        <translation>The Bluetooth connection has ended. Restart Kestrom to connect again.</translation>
+    </message>
     <message id="ui_where_to_begin">
         <source></source>
         <translation>Choose Preferences to set up your adapter, then Trouble codes to read the car.</translation>

@@ -65,6 +65,10 @@ Compruebe que:
         <source></source>
         <translation>El adaptador aún no ha respondido. Compruebe que este equipo está en la red inalámbrica del adaptador y que la dirección y el puerto son correctos.</translation>
     </message>
+    <message id="bt_closed_MSG">
+        <source></source>
+        <translation>La conexión Bluetooth ha terminado. Reinicie Kestrom para volver a conectar.</translation>
+    </message>
     <message id="ui_where_to_begin">
         <source></source>
         <translation>Elija Preferencias para configurar su adaptador y después Códigos de avería para leer el coche.</translation>

@@ -26,6 +26,9 @@ class scripted_serial_port final : public serial_port_profile {
     int close_connection_error = 0;
     // Runs while the chooser is open.
     std::function<void()> while_choosing;
+    // Run when the channel is asked for, and with whatever is written to it.
+    std::function<void()> when_opened = [] {};
+    std::function<void(std::string_view)> when_written = [](std::string_view) {};
 
     // --- what happened
     std::string address = "00-1a-7d-da-71-13"; // of the device chosen
@@ -61,6 +64,7 @@ class scripted_serial_port final : public serial_port_profile {
         explicit wire(scripted_serial_port& s) : script(s) {}
         int writeSync(std::string_view bytes) override {
             script.written.emplace_back(bytes);
+            script.when_written(bytes);
             return script.write_error;
         }
         int closeChannel() override { return ++script.closed_channels, 0; }
@@ -90,6 +94,7 @@ class scripted_serial_port final : public serial_port_profile {
             script.channel = std::move(delegate);
             if (script.open_leaves_channel)
                 channel = std::make_shared<wire>(script);
+            script.when_opened();
             return script.open_error;
         }
         int closeConnection() override {

@@ -19,7 +19,7 @@ class virtual_run_loop final : public run_loop {
             now_ = std::max(now_, when);
             fall_due(id);
         }
-        now_ = end;
+        now_ = std::max(now_, end); // time may have passed inside, under a dialog
         deliver_due();
     }
     // Delivers what is due now.

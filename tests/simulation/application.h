@@ -1,0 +1,74 @@
+// One start of the whole program over the virtual clock, with the far end behind its doors. A
+// session starts it once, and again where only a new start helps.
+#pragma once
+
+#include "bundle.h"
+#include "far_end.h"
+#include "globalVars.h"
+#include "Ks_lite_delegate.h"
+#include "mac_toolies.h"
+#include "screen_factories.h"
+#include "scripted_alerts.h"
+#include "scripted_serial_port.h"
+#include "user_defaults.h"
+#include "virtual_run_loop.h"
+
+#include <QAbstractButton>
+
+#include <ctime>
+#include <memory>
+#include <string>
+
+struct application {
+    application(const std::string& folder, trace& told, ledger& kept, fault_plan& plan)
+        : story(told), book(kept), far(loop, told, kept, plan),
+          defaults(folder + "/settings.conf") {
+        story.use_clock(&loop);
+        reset_global_vars();
+        mac_toolies::initialize({&resources(), &defaults, &messages, &notifications,
+                                 folder + "/data",
+                                 [this] { return wall_clock + loop.now().count() / 1000; }});
+        far.serve(bluetooth);
+    }
+    // Apart from the constructor: whoever watches the deliveries has to come first.
+    void start() {
+        delegate = std::make_unique<Ks_lite_delegate>(
+            app_doors{loop, messages, defaults, resources(), notifications,
+                      [this](const std::string& host, long port) {
+                          return far.make_streams(host, port);
+                      },
+                      bluetooth},
+            all_screens());
+    }
+    ~application() { story.use_clock(nullptr); }
+
+    static const bundle& resources() {
+        static const bundle compiled_in(":/kestrom", "en_GB");
+        return compiled_in;
+    }
+
+    QWidget* view() { return delegate->current_screen()->view(); }
+    template <class widget = QAbstractButton>
+    widget* find(const char* name) {
+        return view()->findChild<widget*>(QLatin1String(name));
+    }
+    // The screen, when it is that one.
+    template <class screen>
+    screen* showing(const char* interface_file) {
+        return delegate && delegate->current_screen_name() == interface_file
+                   ? static_cast<screen*>(delegate->current_screen())
+                   : nullptr;
+    }
+    bool advance(run_loop::milliseconds span) { return loop.advance(span), !story.failed(); }
+
+    trace& story;
+    ledger& book;
+    std::time_t wall_clock = 1'790'000'000;
+    virtual_run_loop loop;
+    far_end far;
+    scripted_alerts messages{loop};
+    user_defaults defaults;
+    notification_center notifications;
+    scripted_serial_port bluetooth{loop};
+    std::unique_ptr<Ks_lite_delegate> delegate;
+};

@@ -1,0 +1,273 @@
+#include "far_end.h"
+
+#include <algorithm>
+
+using std::chrono::milliseconds;
+
+namespace {
+
+// One connection of the Wi-Fi transport.
+class simulated_pair final : public stream_pair {
+  public:
+    simulated_pair(far_end& far, bool reachable) : far_(far), reachable_(reachable) {
+        far_.count_pairs(1);
+    }
+    ~simulated_pair() override {
+        close();
+        far_.count_pairs(-1);
+    }
+
+    void open(event_handler handler) override {
+        handler_ = std::move(handler);
+        const bool refused = !reachable_ || far_.plan().refuses();
+        const milliseconds delay = far_.plan().opening();
+        later(delay, [this, refused] {
+            if (refused)
+                return handler_call(STREAM_ERROR);
+            connect();
+        });
+    }
+    std::string read(std::size_t most) override {
+        std::string chunk;
+        std::size_t wanted = std::min(most, far_.plan().chunk(waiting_));
+        waiting_ -= wanted;
+        while (wanted > 0) {
+            auto& [slot, bytes] = incoming_.front();
+            const std::string part = bytes.substr(0, wanted);
+            far_.book().delivered(slot, part);
+            chunk += part;
+            wanted -= part.size();
+            bytes.erase(0, part.size());
+            if (bytes.empty())
+                incoming_.pop_front();
+        }
+        if (waiting_ > 0)
+            later(milliseconds(0), [this] { handler_call(STREAM_BYTES_AVAILABLE); });
+        far_.story().note("<", chunk);
+        return chunk;
+    }
+    void write(std::string_view bytes) override {
+        if (handler_ && connection_)
+            far_.write(bytes);
+    }
+    void close() override {
+        alive_.reset();
+        connection_.reset();
+        handler_ = nullptr;
+    }
+    std::string error_description() const override { return "Connection refused"; }
+
+  private:
+    void connect() {
+        connection_ = std::make_shared<far_end::client>();
+        connection_->take = [this](std::size_t slot, const std::string& bytes) {
+            const bool announce = waiting_ == 0;
+            incoming_.emplace_back(slot, bytes);
+            waiting_ += bytes.size();
+            if (announce)
+                later(milliseconds(0), [this] { handler_call(STREAM_BYTES_AVAILABLE); });
+        };
+        connection_->closed = [this] {
+            connection_.reset();
+            later(milliseconds(0), [this] { handler_call(STREAM_END); });
+        };
+        far_.connect(connection_);
+        handler_call(STREAM_OPEN_COMPLETED);
+        later(milliseconds(0), [this] { handler_call(STREAM_OPEN_COMPLETED, stream_side::output); });
+    }
+    void handler_call(int code, stream_side side = stream_side::input) {
+        const event_handler call = handler_;
+        if (call)
+            call(side, code);
+    }
+    template <class call>
+    void later(milliseconds delay, call what) {
+        far_.loop().after(delay, [alive = std::weak_ptr<bool>(alive_), what] {
+            if (!alive.expired())
+                what();
+        });
+    }
+
+    far_end& far_;
+    bool reachable_;
+    event_handler handler_;
+    std::shared_ptr<far_end::client> connection_;
+    std::deque<std::pair<std::size_t, std::string>> incoming_;
+    std::size_t waiting_ = 0;
+    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
+};
+
+// Nothing comes back at once, whatever breaks off.
+constexpr milliseconds WIRE_TIME{10};
+
+std::string with_rubbish(std::string bytes, int count, dice& choices) {
+    for (; count > 0; --count) {
+        const char rubbish = choices.byte();
+        bytes.insert(static_cast<std::size_t>(choices.below(static_cast<int>(bytes.size()) + 1)), 1,
+                     rubbish == '>' ? '<' : rubbish);
+    }
+    return bytes;
+}
+
+} // namespace
+
+far_end::far_end(virtual_run_loop& loop, trace& story, ledger& book, fault_plan& plan)
+    : loop_(loop), story_(story), book_(book), plan_(plan) {}
+
+void far_end::plug_in(const car& the_car, adapter_options options) {
+    car_ = the_car;
+    options_ = std::move(options);
+    adapter_.emplace(car_, options_);
+    slot_ = ledger::NOBODY;
+    fate_ = {};
+    held_.clear();
+}
+
+std::unique_ptr<stream_pair> far_end::make_streams(const std::string& host, long port) {
+    const bool reachable = host.starts_with("10.0.0.") && port >= 35000 && port <= 35009;
+    return std::make_unique<simulated_pair>(*this, reachable);
+}
+
+void far_end::serve(scripted_serial_port& door) {
+    const auto open = std::make_shared<std::shared_ptr<client>>();
+    door.when_opened = [this, &door, open] {
+        loop_.after(plan_.opening(), [this, &door, open, refused = plan_.refuses()] {
+            if (refused)
+                return door.channel.open_complete(111);
+            *open = std::make_shared<client>();
+            (*open)->take = [this, &door, open](std::size_t slot, const std::string& bytes) {
+                for (std::size_t at = 0; at < bytes.size();) {
+                    const std::string part = bytes.substr(at, plan_.chunk(bytes.size() - at));
+                    at += part.size();
+                    loop_.after(milliseconds(0), [this, &door, slot, part] {
+                        book_.delivered(slot, part);
+                        story_.note("<", part);
+                        door.channel.data(part);
+                    });
+                }
+            };
+            (*open)->closed = [&door, open] {
+                open->reset();
+                door.drop();
+            };
+            connect(*open);
+            door.channel.open_complete(0);
+        });
+    };
+    door.when_written = [this, &door, open](std::string_view bytes) {
+        door.written.clear();
+        if (*open || plan_.early_write_arrives())
+            write(bytes);
+    };
+}
+
+void far_end::connect(const std::shared_ptr<client>& who) {
+    client_ = who;
+    ++connection_;
+    wire_free_ = loop_.now();
+    mid_reply_ = false;
+    adapter_->connection_opened(loop_.now());
+    slot_ = ledger::NOBODY;
+    held_.clear();
+}
+
+void far_end::write(std::string_view bytes) {
+    story_.note(">", bytes);
+    story_.expect(!must_be_silent(), "no step runs while an alert is open",
+                  "sent: " + std::string(bytes));
+    slot_ = book_.written(bytes, car_);
+    fate_ = plan_.next_reply();
+    if (fate_.damages() || fate_.lost)
+        book_.damaged(slot_);
+    held_.clear();
+    passed_ = 0;
+    adapter_->receive(bytes, loop_.now());
+    pump();
+}
+
+// Passes on what the adapter has to say by now, and comes back when more is due.
+void far_end::pump() {
+    for (auto due = adapter_->next_output(); due && *due <= loop_.now();
+         due = adapter_->next_output()) {
+        const std::string bytes = adapter_->take_output(loop_.now());
+        book_.said(slot_, bytes);
+        apply_fate(bytes);
+    }
+    if (const auto due = adapter_->next_output())
+        loop_.after(*due - loop_.now(), [this] { pump(); });
+}
+
+void far_end::apply_fate(std::string bytes) {
+    if (fate_.lost)
+        return;
+    dice& choices = plan_.choices();
+    if (fate_.cut_at >= 0) {
+        const std::size_t room = static_cast<std::size_t>(fate_.cut_at);
+        const std::size_t left = room - std::min(room, passed_);
+        passed_ += bytes.size();
+        bytes.resize(std::min(bytes.size(), left));
+    }
+    if (fate_.rubbish > 0)
+        bytes = with_rubbish(std::move(bytes), fate_.rubbish, choices);
+    if (fate_.percent_dropped > 0)
+        std::erase_if(bytes, [&](char) { return choices.happens(fate_.percent_dropped); });
+    if (fate_.crlf)
+        for (std::size_t at = 0; (at = bytes.find('\r', at)) != std::string::npos; at += 2)
+            bytes.insert(at + 1, 1, '\n');
+    if (!fate_.overtaken && fate_.twice_after < 0)
+        return send(slot_, std::move(bytes), fate_.delay);
+    held_ += bytes;
+    if (!held_.ends_with('>'))
+        return;
+    const auto whole = [this, slot = slot_, reply = held_, on = connection_] {
+        arrive(slot, reply, on);
+    };
+    loop_.after(WIRE_TIME + fate_.delay, whole);
+    if (fate_.twice_after >= 0)
+        loop_.after(WIRE_TIME + fate_.delay + milliseconds(fate_.twice_after), whole);
+    held_.clear();
+}
+
+// In its turn behind what is on the wire.
+void far_end::send(std::size_t slot, std::string bytes, milliseconds delay) {
+    const milliseconds step = fate_.gap;
+    const std::size_t length = step.count() > 0 ? 1 : std::max<std::size_t>(bytes.size(), 1);
+    wire_free_ = std::max(wire_free_, loop_.now() + WIRE_TIME + delay);
+    for (std::size_t at = 0; at < bytes.size(); at += length) {
+        wire_free_ += at > 0 ? step : milliseconds(0);
+        loop_.after(wire_free_ - loop_.now(),
+                    [this, slot, part = bytes.substr(at, length), on = connection_] {
+                        arrive(slot, part, on);
+                    });
+    }
+}
+
+void far_end::arrive(std::size_t slot, const std::string& bytes, int connection) {
+    if (connection != connection_)
+        return;
+    if (slot != arriving_ && mid_reply_) { // two answers run into one another
+        book_.damaged(arriving_);
+        book_.damaged(slot);
+    }
+    arriving_ = slot;
+    mid_reply_ = !bytes.ends_with('>');
+    if (const auto who = client_.lock())
+        who->take(slot, bytes);
+}
+
+void far_end::restart_adapter(bool banner) {
+    story_.note("!", banner ? "adapter restarts and says so" : "adapter restarts");
+    book_.damaged(slot_);
+    adapter_.emplace(car_, options_);
+    adapter_->connection_opened(loop_.now());
+    if (banner)
+        chatter("\r\rELM327 v1.5\r\r>");
+}
+
+void far_end::hang_up() {
+    story_.note("!", "far end hangs up");
+    const auto who = client_.lock();
+    client_.reset();
+    if (who)
+        who->closed();
+}

@@ -1,0 +1,75 @@
+// The far end of the link: a virtual adapter in a virtual car, and the wire from it, on which the
+// faults of a plan happen. Serves one connection at a time, as a stream pair or as the channel of
+// the scripted Bluetooth door. Keeps the ledger.
+#pragma once
+
+#include "fault_plan.h"
+#include "ledger.h"
+#include "scripted_serial_port.h"
+#include "stream_pair.h"
+#include "trace.h"
+#include "virtual_run_loop.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+class far_end {
+  public:
+    // Whoever is connected.
+    struct client {
+        std::function<void(std::size_t slot, const std::string& bytes)> take;
+        std::function<void()> closed;
+    };
+
+    far_end(virtual_run_loop& loop, trace& story, ledger& book, fault_plan& plan);
+
+    // Another car, and an adapter that has just been given power.
+    void plug_in(const car& the_car, adapter_options options);
+    std::unique_ptr<stream_pair> make_streams(const std::string& host, long port);
+    void serve(scripted_serial_port& door);
+
+    // --- incidents
+    void restart_adapter(bool banner);
+    void hang_up();
+    void chatter(std::string bytes) { send(ledger::NOBODY, std::move(bytes), {}); }
+
+    const car& the_car() const { return car_; }
+    int open_pairs() const { return open_pairs_; }
+    fault_plan& plan() { return plan_; }
+    virtual_run_loop& loop() { return loop_; }
+    ledger& book() { return book_; }
+    trace& story() { return story_; }
+
+    // For the connections.
+    void connect(const std::shared_ptr<client>& who);
+    void write(std::string_view bytes);
+    void count_pairs(int more) { open_pairs_ += more; }
+    // Set while no command may leave the program: a dialog is up.
+    std::function<bool()> must_be_silent = [] { return false; };
+
+  private:
+    void pump();
+    void apply_fate(std::string bytes);
+    void send(std::size_t slot, std::string bytes, run_loop::milliseconds delay);
+    void arrive(std::size_t slot, const std::string& bytes, int connection);
+
+    virtual_run_loop& loop_;
+    trace& story_;
+    ledger& book_;
+    fault_plan& plan_;
+    car car_;
+    adapter_options options_;
+    std::optional<virtual_adapter> adapter_;
+    std::weak_ptr<client> client_;
+    std::size_t slot_ = ledger::NOBODY; // whose answer the adapter is giving
+    reply_fate fate_;
+    std::string held_; // of an overtaken or doubled reply, until its prompt
+    std::size_t passed_ = 0; // bytes of the reply
+    run_loop::milliseconds wire_free_{0};
+    std::size_t arriving_ = ledger::NOBODY; // whose answer came last
+    bool mid_reply_ = false;                // and has not come to its prompt
+    int open_pairs_ = 0;
+    int connection_ = 0; // counts them: what is under way on one does not reach the next
+};

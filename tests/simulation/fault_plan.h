@@ -1,0 +1,55 @@
+// What goes wrong in one session: drawn once from the seed, asked for each reply and connection.
+#pragma once
+
+#include "dice.h"
+#include "virtual_adapter.h"
+
+#include <chrono>
+#include <string>
+
+// What becomes of one reply on the wire.
+struct reply_fate {
+    std::chrono::milliseconds delay{0};
+    bool overtaken = false; // later replies do not wait for it
+    bool lost = false;
+    int twice_after = -1;             // milliseconds; -1: sent once
+    int cut_at = -1;                  // bytes; -1: whole
+    int rubbish = 0;                  // bytes strewn in
+    int percent_dropped = 0;          // of its bytes
+    bool crlf = false;
+    std::chrono::milliseconds gap{0}; // between its bytes
+
+    bool damages() const { return cut_at >= 0 || rubbish > 0 || percent_dropped > 0; }
+};
+
+class fault_plan {
+  public:
+    explicit fault_plan(std::uint64_t seed);
+
+    // Faults of the adapter and of the car, which it knows of itself.
+    adapter_options adapter();
+    // No more faults from now on.
+    void stop();
+
+    reply_fate next_reply();
+    // How much of what waits one read gets.
+    std::size_t chunk(std::size_t waiting);
+    // A connection: refused, and how long it takes.
+    bool refuses() { return dice_.happens(refused_); }
+    std::chrono::milliseconds opening();
+    // Whether a write to a Bluetooth channel that is still opening reaches the adapter.
+    bool early_write_arrives() { return dice_.happens(50); }
+    // Now and then: the adapter restarts, the connection breaks, somebody speaks unasked ...
+    enum class incident { none, reset, reset_with_banner, hang_up, chatter, flood, disk_full,
+                          folder_gone, folder_blocked, disk_well, clock_jump };
+    incident next_incident();
+
+    dice& choices() { return dice_; }
+
+  private:
+    dice dice_;
+    // In percent of replies.
+    int delayed_ = 0, overtaken_ = 0, lost_ = 0, twice_ = 0, cut_ = 0, rubbish_ = 0, dropped_ = 0,
+        crlf_ = 0, trickled_ = 0;
+    int refused_ = 0, slow_opening_ = 0, split_ = 0, incidents_ = 0;
+};

@@ -1,0 +1,86 @@
+#include "ledger.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace {
+
+constexpr std::size_t MOST_KEPT = 1 << 16; // of one answer
+
+// Calls with every line, until one answers true.
+template <class call>
+bool any_line(std::string_view text, call fits) {
+    const std::string lines = bare(text);
+    for (std::size_t start = 0; start <= lines.size();) {
+        const std::size_t end = std::min(lines.find('\r', start), lines.size());
+        if (fits(std::string_view(lines).substr(start, end - start)))
+            return true;
+        start = end + 1;
+    }
+    return false;
+}
+
+void keep(std::string& text, std::string_view more) {
+    text += more.substr(0, MOST_KEPT - std::min(MOST_KEPT, text.size()));
+}
+
+} // namespace
+
+std::string bare(std::string_view text) {
+    std::string left;
+    for (const char c : text)
+        if (c != ' ' && c != '\n' && c != '\0' && c != '>')
+            left += c;
+    return left;
+}
+
+bool all_hex(std::string_view text) {
+    return std::ranges::all_of(text, [](unsigned char c) { return std::isxdigit(c); });
+}
+
+bool answer_slot::holds(std::string_view line) const {
+    if (any_line(said, [&](std::string_view one) { return one == line; }))
+        return true;
+    return damaged && all_hex(line) && bare(arrived).find(line) != std::string::npos &&
+           any_line(said, [&](std::string_view one) { return one.size() == line.size(); });
+}
+
+bool answer_slot::holds_digits(std::string_view digits) const {
+    std::string run; // the digits of all lines, without the numbers of frames
+    any_line(arrived, [&](std::string_view line) {
+        run += line.size() > 1 && line[1] == ':' ? line.substr(2) : line;
+        return false;
+    });
+    return run.find(digits) != std::string::npos;
+}
+
+void ledger::forget() {
+    slots_.assign(1, {});
+    moment_ = 0;
+}
+
+std::size_t ledger::written(std::string_view command, const car& asked) {
+    answer_slot slot;
+    for (const char c : bare(command))
+        if (c != '\r')
+            slot.command += static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    slot.written = ++moment_;
+    if (slot.command == "03" || slot.command == "0101")
+        slot.car = truth_of(asked);
+    slots_.push_back(std::move(slot));
+    return slots_.size() - 1;
+}
+
+void ledger::delivered(std::size_t slot, std::string_view bytes) {
+    if (bytes.empty())
+        return;
+    slots_[slot].delivered = ++moment_;
+    keep(slots_[slot].arrived, bytes);
+}
+
+const answer_slot* ledger::asked(std::string_view command, std::uint64_t before) const {
+    for (auto slot = slots_.rbegin(); slot != slots_.rend(); ++slot)
+        if (slot->written < before && slot->command == command)
+            return &*slot;
+    return nullptr;
+}

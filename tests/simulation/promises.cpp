@@ -1,0 +1,304 @@
+#include "promises.h"
+
+#include "actions.h"
+#include "readCodes.h"
+#include "reply_accumulator.h"
+
+#include <QPlainTextEdit>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+
+namespace {
+
+constexpr char NEVER_NESTED[] = "no step runs while another runs";
+constexpr char SILENT_UNDER_ALERT[] = "no step runs while an alert is open";
+constexpr char TRUE_CODES[] = "every code shown was sent by the car in answer to that request";
+constexpr char TRUE_VALUES[] = "every value shown was sent by the car in answer to that request";
+constexpr char BOUNDED[] = "no buffer grows without bound";
+constexpr char RESTS[] = "after the time-outs a screen is idle or sampling";
+constexpr char NOTHING_LEFT[] = "no timer and no file outlives its screen";
+constexpr char WHOLE_LOGS[] = "a log holds every announced cycle in complete lines";
+constexpr char WORKS_AGAIN[] = "a healthy car's codes are read after the faults";
+
+constexpr std::size_t CHUNK = 1024;
+constexpr int TRANSCRIPT_BOUND = 4'000'000 + 2 * 1024;
+
+std::string file_text(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+bool unusable(const std::string& shown) {
+    return shown == "~" || shown == "N/A" || shown == "NOT FOUND";
+}
+
+std::string code_digits(const std::string& code) {
+    const auto system = std::string("PCBU").find(code[0]);
+    const unsigned first = static_cast<unsigned>(system) * 4 + static_cast<unsigned>(code[1] - '0');
+    return "0123456789ABCDEF"[first & 15] + code.substr(2);
+}
+
+// A field as a line of the log has it.
+std::string log_field(std::string_view reply) {
+    std::string field;
+    for (const char c : reply)
+        if (static_cast<unsigned char>(c) >= ' ' && c != ',' && c != 0x7F)
+            field += c;
+    return field.empty() ? "~" : field;
+}
+
+} // namespace
+
+promises::promises(application& app) : app_(app) {
+    before_ = app.notifications.add_observer(OBD_EVENT,
+                                             [this](const std::string&) { delivery_begins(); });
+    app.far.must_be_silent = [this] { return app_.loop.held(); };
+}
+
+promises::~promises() {
+    app_.notifications.remove_observer(before_);
+    app_.notifications.remove_observer(after_);
+}
+
+void promises::started() {
+    after_ = app_.notifications.add_observer(OBD_EVENT,
+                                             [this](const std::string&) { delivery_ends(); });
+    app_.delegate->screen_changed = [this] { screen_changed(); };
+    app_.delegate->status_shown = [this](const std::string& text) {
+        app_.story.note("status", text);
+        app_.story.expect(!app_.loop.held(), SILENT_UNDER_ALERT, "status: " + text);
+    };
+}
+
+void promises::delivery_begins() {
+    app_.story.expect(++depth_ == 1, NEVER_NESTED, "a chunk came while one was being handled");
+    app_.story.expect(!app_.loop.held(), SILENT_UNDER_ALERT, "a chunk was delivered");
+    delivery_began_ = app_.book.moment();
+}
+
+void promises::delivery_ends() {
+    --depth_;
+    hold_now();
+}
+
+void promises::screen_changed() {
+    app_.story.note("screen", app_.delegate->current_screen_name());
+    codes_shown_.clear();
+    status_shown_.clear();
+    states_shown_.clear();
+    answers_seen_ = 0;
+    if (auto* const live = app_.showing<actions>(ACTIONS_VIEW))
+        live->cycle_completed = [this, live](const auto&) { cycle_announced(*live); };
+}
+
+void promises::hold_now() {
+    app_.story.expect(odb_curReplyBuffyMsg.size() <= LONGEST_REPLY + CHUNK, BOUNDED,
+                      "the accumulator holds " + std::to_string(odb_curReplyBuffyMsg.size()));
+    app_.story.expect(odb_curReplyMsg.size() <= LONGEST_REPLY + CHUNK, BOUNDED, "the last reply");
+    if (auto* const codes = app_.showing<readCodes>(READ_CODES_VIEW))
+        codes_are_true(*codes);
+    else if (auto* const live = app_.showing<actions>(ACTIONS_VIEW))
+        samples_are_true(*live);
+    else if (app_.showing<screen_controller>(EXPERT_VIEW))
+        app_.story.expect(app_.find<QPlainTextEdit>("replyTxt")->document()->characterCount() <=
+                              TRANSCRIPT_BOUND,
+                          BOUNDED, "the transcript");
+}
+
+void promises::codes_are_true(readCodes& screen) {
+    const codes_report shown = screen.report();
+    std::string codes;
+    for (const code_row& row : shown.codes)
+        codes += " " + row[0];
+    if (codes != codes_shown_) {
+        app_.story.note("shown", codes_shown_ = codes);
+        for (const code_row& row : shown.codes)
+            app_.story.expect(code_was_sent(row[0]), TRUE_CODES, row[0]);
+    }
+    std::string status = shown.lamp + (shown.count ? std::to_string(*shown.count) : "-");
+    if (status != status_shown_) {
+        app_.story.note("shown", status_shown_ = status);
+        status_is_true(shown);
+    }
+    std::vector<std::string> states;
+    for (const readiness_flag& flag : shown.readiness)
+        states.push_back(flag.state);
+    if (states != states_shown_) {
+        states_shown_ = states;
+        app_.story.expect(states.empty() || car_told([&](const truth& car) {
+                              return car.states == states;
+                          }),
+                          TRUE_CODES, "readiness");
+    }
+}
+
+bool promises::code_was_sent(const std::string& code) const {
+    return app_.book.any_answer("03", task_began_, [&](const answer_slot& slot) {
+        return slot.car.codes.contains(code) ||
+               (slot.damaged && slot.holds_digits(code_digits(code)));
+    });
+}
+
+// An answer to this task's question for the status says so, or one that nobody can vouch for.
+bool promises::car_told(const std::function<bool(const truth&)>& fits) const {
+    return app_.book.any_answer("0101", task_began_, [&](const answer_slot& slot) {
+        return slot.damaged || fits(slot.car);
+    });
+}
+
+void promises::status_is_true(const codes_report& shown) {
+    if (shown.lamp == "ON" || shown.lamp == "OFF")
+        app_.story.expect(car_told([&](const truth& car) { return car.lamp == shown.lamp; }),
+                          TRUE_CODES, "lamp " + shown.lamp);
+    // A unit that is not heard adds nothing.
+    if (shown.count && shown.lamp != "N/A" && !shown.lamp.empty())
+        app_.story.expect(car_told([&](const truth& car) { return car.count >= *shown.count; }),
+                          TRUE_CODES, "count " + std::to_string(*shown.count));
+}
+
+// The request for the parameter that was outstanding last has an answer that holds the text.
+bool promises::was_answered(const std::string& pid, const std::string& text) const {
+    const answer_slot* const asked = app_.book.asked("01" + pid, delivery_began_);
+    return asked && text.starts_with("41" + pid) &&
+           app_.book.any_answer("01" + pid, asked->written,
+                                [&](const answer_slot& slot) { return slot.holds(text); });
+}
+
+bool promises::sample_was_sent(actions& screen, std::size_t row, std::size_t place,
+                               const std::string& text) {
+    const std::string& pid = screen.pids()[place];
+    const auto usable = [&](std::size_t other) {
+        return !unusable(screen.toolies.translateResponse(screen.samples().text(row, other)));
+    };
+    if (pid == "E4") // computed from the two others
+        return usable(1) && usable(2);
+    if (pid == "E5")
+        return app_.book.any_answer("010B", 0, [](const answer_slot&) { return true; });
+    return was_answered(pid, text);
+}
+
+void promises::samples_are_true(actions& screen) {
+    if (screen.requests_answered() == answers_seen_ || !screen.running())
+        return;
+    if (screen.requests_answered() < answers_seen_)
+        checked_ = {0, 0}; // another run
+    answers_seen_ = screen.requests_answered();
+    sample_rows& rows = screen.samples();
+    for (auto& [row, place] = checked_; row < rows.rows(); ++row, place = 0)
+        for (; place < screen.pids().size(); ++place) {
+            const std::string text(rows.text(row, place));
+            if (text == "-1" && row + 1 == rows.rows())
+                return; // to come
+            if (text == "-1" || text == "~")
+                continue;
+            const std::string shown = screen.toolies.translateResponse(text);
+            if (!unusable(shown) && !sample_was_sent(screen, row, place, text))
+                app_.story.broken(TRUE_VALUES,
+                                  screen.pids()[place] + ": " + text + " shown as " + shown);
+        }
+}
+
+// A new run under an old name replaces the file.
+void promises::run_begins() {
+    if (auto* const live = app_.showing<actions>(ACTIONS_VIEW); live && !live->log_path().empty())
+        logs_[live->log_path()] = {};
+}
+
+void promises::cycle_announced(actions& screen) {
+    const std::string path = screen.log_path();
+    if (path.empty())
+        return;
+    run_record& record = logs_[path];
+    record.failed = record.failed || !screen.log_failure().empty();
+    if (record.failed)
+        return;
+    sample_rows& rows = screen.samples();
+    for (std::size_t place = 0; place < screen.pids().size(); ++place)
+        record.lines += (place == 0 ? "" : ",") + log_field(rows.text(rows.rows() - 2, place));
+    record.lines += '\n';
+}
+
+void promises::logs_are_complete(const std::string& folder) {
+    std::error_code failed;
+    for (std::filesystem::directory_iterator entry(folder + "/data/loggies", failed), end;
+         !failed && entry != end; entry.increment(failed)) {
+        const std::string name = entry->path().filename().string();
+        if (name.ends_with(".csv") || name.ends_with(".export.txt") ||
+            (name.starts_with("log_") && name.ends_with(".txt")))
+            continue;
+        const std::string text = file_text(entry->path().string());
+        app_.story.note("log", name + " " + std::to_string(text.size()));
+        app_.story.expect(text.empty() || text.ends_with('\n'), WHOLE_LOGS, name + " ends: " + text);
+    }
+    for (const auto& [path, record] : logs_) {
+        const std::string text = file_text(path);
+        app_.story.expect(text == record.lines, WHOLE_LOGS,
+                          path + " holds " + std::to_string(text.size()) + " bytes of " +
+                              std::to_string(record.lines.size()));
+    }
+}
+
+void promises::come_to_rest() {
+    // The longest time-out of all is that of a run: 3000 s.
+    const milliseconds end = app_.loop.now() + seconds(2 * 3000 + 200);
+    auto* const live = app_.showing<actions>(ACTIONS_VIEW);
+    int calm = 0, told_again = 0, talking = 0;
+    while (app_.loop.now() < end && talking < 60 && !app_.story.failed()) {
+        const std::uint64_t effects = app_.story.effects();
+        const std::size_t commands = app_.book.commands();
+        const std::uint64_t answered = live ? live->requests_answered() : 0;
+        app_.advance(seconds(5));
+        if (live && live->running() && live->requests_answered() > answered + 2)
+            return; // sampling
+        if (app_.book.commands() == commands && !app_.delegate->anything_outstanding() &&
+            !(live && live->running()) && ++calm == 2)
+            return; // idle
+        talking += app_.book.commands() != commands;
+        // An adapter that never understands "AT DP" is asked for ever, on purpose, and the user told
+        // each time.
+        if (app_.book.last().command == "ATDP" || app_.book.last().command == "ATSPA3")
+            told_again += app_.story.effects() > effects;
+        if (told_again > 20)
+            return;
+    }
+    const bool half_a_reply = app_.delegate->waiting_since().count() != 0 &&
+                              app_.book.moment() > app_.book.last().written;
+    // The first chunk of a reply ends its time-out: when its prompt never comes, only the user does
+    // something about it. The stall hint counts the seconds.
+    app_.story.expect(half_a_reply, RESTS, app_.delegate->current_screen_name());
+}
+
+void promises::nothing_outlives_its_screen() {
+    std::error_code failed;
+    for (std::filesystem::directory_iterator entry("/proc/self/fd", failed), end;
+         !failed && entry != end; entry.increment(failed)) {
+        std::error_code gone;
+        const std::string target = std::filesystem::read_symlink(entry->path(), gone).string();
+        app_.story.expect(target.find("/loggies/") == std::string::npos, NOTHING_LEFT,
+                          target + " is open");
+    }
+}
+
+void promises::shows(const truth& car) {
+    auto* const screen = app_.showing<readCodes>(READ_CODES_VIEW);
+    const codes_report shown = screen->report();
+    std::multiset<std::string> codes;
+    for (const code_row& row : shown.codes)
+        codes.insert(row[0]);
+    std::vector<std::string> states;
+    for (const readiness_flag& flag : shown.readiness)
+        states.push_back(flag.state);
+    app_.story.expect(screen->succeeded(), WORKS_AGAIN, "the task: " + screen->status());
+    app_.story.expect(codes == car.codes, WORKS_AGAIN, "codes: " + std::to_string(codes.size()));
+    app_.story.expect(shown.lamp == car.lamp, WORKS_AGAIN, "lamp " + shown.lamp);
+    app_.story.expect(shown.count == car.count, WORKS_AGAIN, "count");
+    app_.story.expect(states == car.states, WORKS_AGAIN, "readiness");
+}

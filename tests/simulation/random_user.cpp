@@ -1,0 +1,241 @@
+#include "random_user.h"
+
+#include "actions.h"
+#include "thumbnail_strip.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScrollArea>
+#include <QSlider>
+#include <QTableView>
+
+using std::chrono::milliseconds;
+
+namespace {
+
+constexpr char ANSWERS[] = "the program answers every button";
+
+constexpr const char* COMMANDS[] = {
+    "AT Z",    "AT I",    "AT E0",    "AT E1",   "AT H1",    "AT H0",    "AT DP",   "AT D",
+    "AT WS",   "AT SP 0", "AT SP 3",  "AT SP A6", "AT L1",   "AT S0",    "AT ST 10", "AT RV",
+    "AT PC",   "AT MA",   "AT CAF0",  "AT SH 7E0", "01 00",  "01 0C",    "0101",    "03",
+    "07",      "0A",      "09 02",    "06 00",   "02 02 00", "01 0D 1",  "Timeout", "?",
+    "hello",   "",        " ",        "AT@1",    "ATSPA3",   "01 0C 0D 05 11", "\xC3\xA9",
+    "a command that is far too long for any adapter"};
+
+constexpr const char* PORTS[] = {"35000", "35001", "35002", "1", "abc", "", "99999999999", "35000x"};
+constexpr const char* HOSTS[] = {"10.0.0.9", "10.0.0.10", "nowhere", ""};
+
+} // namespace
+
+random_user::random_user(application& app, promises& kept, std::uint64_t seed)
+    : app_(app), promises_(kept), dice_(seed) {
+    answer_dialogs();
+}
+
+void random_user::answer_dialogs() {
+    app_.messages.while_open = [this](const alert_request& request) {
+        app_.story.note("alert", request.message);
+        if (dice_.happens(50))
+            app_.loop.advance(dice_.time(0, 8000));
+        app_.messages.answers.assign(
+            1, dice_.below(static_cast<int>(request.buttons.size())));
+        app_.messages.shown.clear();
+    };
+    app_.bluetooth.while_choosing = [this] {
+        app_.story.note("alert", "device chooser");
+        if (dice_.happens(50))
+            app_.loop.advance(dice_.time(0, 8000));
+        app_.bluetooth.selector_result = dice_.happens(80) ? SELECTOR_SUCCESS : -1001;
+        app_.bluetooth.nothing_selected = dice_.happens(3);
+        app_.bluetooth.no_service_record = dice_.happens(3);
+        app_.bluetooth.open_error = dice_.happens(5) ? 5 : 0;
+        app_.bluetooth.open_leaves_channel = dice_.happens(97);
+    };
+}
+
+void random_user::act() {
+    if (!app_.delegate->current_screen() || dice_.happens(12))
+        switch_screen();
+    else if (dice_.happens(3))
+        app_.delegate->do_help_button();
+    else if (dice_.happens(3))
+        export_a_log();
+    else if (dice_.happens(45))
+        wait();
+    else if (const std::string& screen = app_.delegate->current_screen_name();
+             screen == READ_CODES_VIEW)
+        use_codes();
+    else if (screen == ACTIONS_VIEW)
+        use_live_data();
+    else if (screen == PREFS_VIEW)
+        use_preferences();
+    else
+        use_console();
+    app_.loop.settle();
+}
+
+void random_user::switch_screen() {
+    switch (dice_.below(10)) {
+    case 0:
+    case 1:
+    case 2:
+        return app_.delegate->do_read_codes();
+    case 3:
+    case 4:
+    case 5:
+    case 6:
+        return app_.delegate->do_actions();
+    case 7:
+        return app_.delegate->do_prefs();
+    default:
+        return app_.delegate->do_expert();
+    }
+}
+
+void random_user::wait() {
+    static constexpr int SPANS[] = {1, 20, 100, 400, 1000, 1500, 3000, 3500, 8000, 27000};
+    const milliseconds span(dice_.one_of(SPANS));
+    app_.story.note("user", "waits");
+    app_.loop.advance(span);
+}
+
+void random_user::press(const char* name) {
+    auto* const button = app_.find<>(name);
+    if (!button || button->isHidden() || !button->isEnabled())
+        return;
+    app_.story.note("user", name);
+    button->click();
+}
+
+void random_user::expect_answer(const char* what, std::uint64_t before) {
+    app_.story.expect(app_.story.effects() != before, ANSWERS, what);
+}
+
+void random_user::read_codes() {
+    const std::uint64_t before = app_.story.effects();
+    promises_.task_begins(app_.book.moment());
+    press("readCodes");
+    expect_answer("read codes", before);
+}
+
+void random_user::use_codes() {
+    const std::uint64_t before = app_.story.effects();
+    if (dice_.happens(65)) {
+        read_codes();
+    } else if (dice_.happens(75)) {
+        const std::uint64_t began = app_.book.moment();
+        press("clearCodes");
+        expect_answer("clear codes", before);
+        if (app_.story.effects() > before + 1) // the question, and more than that
+            promises_.task_begins(began);
+    } else {
+        app_.story.note("user", "diagnose");
+        app_.find<QAction>("obd_sim")->trigger();
+        expect_answer("diagnose", before);
+    }
+}
+
+void random_user::use_live_data() {
+    auto& screen = static_cast<actions&>(*app_.delegate->current_screen());
+    auto* const area = app_.find<QScrollArea>("xtopActionCharts");
+    auto& strip = static_cast<thumbnail_strip&>(*area->widget());
+    switch (dice_.below(8)) {
+    case 0: {
+        const int kind = dice_.below(4);
+        app_.story.note("user", "kind of run " + std::to_string(kind));
+        app_.find<QComboBox>("runSelectorCombo")->setCurrentIndex(kind);
+        break;
+    }
+    case 1: {
+        std::set<int> some;
+        for (int count = dice_.between(1, 3); count > 0; --count)
+            some.insert(dice_.below(8));
+        app_.story.note("user", "selects thumbnails");
+        strip.choose(some);
+        app_.story.expect(strip.cells() == 0 || !strip.selected().empty(), ANSWERS, "thumbnails");
+        break;
+    }
+    case 2:
+        if (auto* const zoom = app_.find<QSlider>("charty_zoomer"); !zoom->isHidden())
+            zoom->setValue(dice_.between(0, 1000));
+        break;
+    case 3:
+        press("o2SwapBtn");
+        break;
+    default: {
+        const bool running = screen.running();
+        const std::uint64_t before = app_.story.effects();
+        press("startStopBtn");
+        if (screen.running())
+            promises_.run_begins();
+        app_.story.expect(screen.running() != running || app_.story.effects() != before, ANSWERS,
+                          "start or stop");
+    }
+    }
+}
+
+void random_user::use_preferences() {
+    static constexpr const char* BOXES[] = {"unitsCheck", "logRunsCheck", "lastBTCheck"};
+    switch (dice_.below(8)) {
+    case 0:
+        return press(dice_.happens(25) ? "interfaceBluetooth" : "interfaceWifi");
+    case 1:
+        app_.story.note("user", "port");
+        return app_.find<QLineEdit>("portsLbl")
+            ->setText(QString::fromUtf8(dice_.happens(60) ? PORTS[dice_.below(3)]
+                                                          : dice_.one_of(PORTS)));
+    case 2:
+        app_.story.note("user", "address");
+        return app_.find<QLineEdit>("ipLbl")
+            ->setText(QString::fromUtf8(dice_.happens(80) ? HOSTS[dice_.below(2)]
+                                                          : dice_.one_of(HOSTS)));
+    case 3:
+    case 4: {
+        auto* const table = app_.find<QTableView>("_pid_availableTableView");
+        app_.story.note("user", "parameter");
+        Q_EMIT table->clicked(table->model()->index(dice_.below(4), 0));
+        return;
+    }
+    case 5:
+        return dice_.happens(30) ? press("setDefaultsBtn") : press("logRunsCheck");
+    default:
+        return press(dice_.one_of(BOXES));
+    }
+}
+
+void random_user::use_console() {
+    auto* const transcript = app_.find<QPlainTextEdit>("replyTxt");
+    const int length = transcript->document()->characterCount();
+    const std::uint64_t before = app_.story.effects();
+    app_.find<QLineEdit>("cmdTxt")->setText(QString::fromUtf8(dice_.one_of(COMMANDS)));
+    press("sendBtn");
+    app_.story.expect(transcript->document()->characterCount() != length ||
+                          app_.story.effects() != before,
+                      ANSWERS, "send");
+}
+
+void random_user::export_a_log() {
+    const mac_toolies& toolies = mac_toolies::sharedManager();
+    auto logs = toolies.list_logs();
+    if (logs.empty())
+        return;
+    std::ranges::sort(logs, {}, &logged_run::name); // files of one second have no order
+    const std::string& name = dice_.one_of(logs).name;
+    app_.story.note("user", "exports " + name);
+    toolies.export_to_CSV(name, dice_.happens(50));
+}
+
+void random_user::change_port_and_back() {
+    for (const char* port : {"35009", "35000"}) {
+        app_.delegate->do_prefs();
+        app_.find<>("interfaceWifi")->click();
+        app_.find<QLineEdit>("ipLbl")->setText(QStringLiteral("10.0.0.9"));
+        app_.find<QLineEdit>("portsLbl")->setText(QLatin1String(port));
+        app_.delegate->do_expert();
+    }
+    app_.delegate->do_read_codes();
+    app_.loop.settle();
+}

@@ -1,0 +1,35 @@
+// Somebody who presses whatever can be pressed, in an order that follows from a seed. One act is
+// one press, or some waiting.
+#pragma once
+
+#include "application.h"
+#include "dice.h"
+#include "promises.h"
+
+#include <string>
+
+class random_user {
+  public:
+    random_user(application& app, promises& kept, std::uint64_t seed);
+
+    void act();
+    // What a user does when nothing helps: other settings and back, or so.
+    void change_port_and_back();
+    void read_codes();
+
+  private:
+    void switch_screen();
+    void use_codes();
+    void use_live_data();
+    void use_preferences();
+    void use_console();
+    void export_a_log();
+    void wait();
+    void press(const char* name);
+    void expect_answer(const char* what, std::uint64_t before);
+    void answer_dialogs();
+
+    application& app_;
+    promises& promises_;
+    dice dice_;
+};

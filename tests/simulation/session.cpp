@@ -1,0 +1,190 @@
+#include "session.h"
+
+#include "application.h"
+#include "car_library.h"
+#include "disk.h"
+#include "promises.h"
+#include "random_user.h"
+#include "readCodes.h"
+
+#include <QCoreApplication>
+
+using std::chrono::seconds;
+
+namespace {
+
+constexpr int ACTS = 40;
+constexpr seconds SPAN{60};
+
+const std::vector<car>& library() {
+    static const std::vector<car> all = [] {
+        std::vector<car> cars;
+        for (const std::string& name : car_names())
+            cars.push_back(load_car(name));
+        return cars;
+    }();
+    return all;
+}
+
+class session {
+  public:
+    session(std::uint64_t seed, const std::string& folder, trace& story)
+        : dice_(seed), folder_(folder), story_(story), disk_(folder), plan_(dice_.seed()) {}
+
+    void run() {
+        write_settings();
+        {
+            application app(folder_, story_, book_, plan_);
+            promises kept(app);
+            begin(app, kept, plan_.adapter());
+            random_user user(app, kept, dice_.seed());
+            for (int i = 0; i < ACTS && app.loop.now() < SPAN && !story_.failed(); ++i) {
+                user.act();
+                kept.hold_now();
+                meet(app, kept);
+            }
+            stop_faults(app);
+            if (!story_.failed())
+                kept.come_to_rest();
+            const bool over_wifi = g_connect_with == KS_USE_WIFI;
+            if (!story_.failed() && over_wifi)
+                read_healthy_car(app, kept, user);
+            leave(app, kept);
+            if (over_wifi || story_.failed())
+                return;
+        }
+        start_anew();
+    }
+
+  private:
+    void write_settings() {
+        user_defaults settings(folder_ + "/settings.conf");
+        if (dice_.happens(5))
+            return; // a first start
+        settings.set_integer(KS_INTERFACE_KEY, dice_.happens(70) ? KS_USE_WIFI : KS_USE_BT);
+        settings.set_string(WIFI_IP_KEY, "10.0.0.9");
+        settings.set_string(WIFI_PORT_KEY, "35000");
+        settings.set_boolean(KS_METRIC_UNITS_KEY, dice_.happens(50));
+        settings.set_boolean(LOG_RUNS_KEY, dice_.happens(60));
+        settings.set_boolean(REUSE_LAST_BT_KEY, dice_.happens(30));
+        static const std::vector<std::vector<std::string>> LISTS{
+            {"0D", "11", "0C", "05"}, {"0C"}, {"0C", "42", "1F", "03", "06"}, {}};
+        settings.set_string_array(PIDS_ARRAY_KEY, dice_.one_of(LISTS));
+        settings.synchronize();
+    }
+
+    void begin(application& app, promises& kept, adapter_options options) {
+        book_.forget();
+        app.far.plug_in(dice_.one_of(library()), std::move(options));
+        app.start();
+        kept.started();
+    }
+
+    void meet(application& app, promises& kept) {
+        using enum fault_plan::incident;
+        switch (plan_.next_incident()) {
+        case none:
+            break;
+        case reset:
+        case reset_with_banner:
+            app.far.restart_adapter(dice_.happens(50));
+            break;
+        case hang_up:
+            app.far.hang_up();
+            break;
+        case chatter:
+            app.far.chatter("STOPPED\r\r>");
+            break;
+        case flood:
+            app.far.chatter(std::string(100'000, 'F'));
+            break;
+        case disk_full:
+            disk_.fill();
+            break;
+        case folder_gone:
+            disk_.remove_logs();
+            kept.forget_logs();
+            break;
+        case folder_blocked:
+            disk_.block_logs();
+            kept.forget_logs();
+            break;
+        case disk_well:
+            disk_.mend();
+            break;
+        case clock_jump:
+            app.wall_clock += dice_.between(-90000, 90000);
+            break;
+        }
+    }
+
+    void stop_faults(application& app) {
+        story_.note("!", "faults stop");
+        plan_.stop();
+        disk_.mend();
+        app.messages.while_open = [this](const alert_request& request) {
+            story_.note("alert", request.message);
+        };
+        app.messages.answers.clear();
+    }
+
+    void read_healthy_car(application& app, promises& kept, random_user& user) {
+        app.far.plug_in(dice_.one_of(library()), healthy());
+        user.change_port_and_back();
+        read_and_compare(app, kept, user);
+    }
+
+    void start_anew() {
+        application app(folder_, story_, book_, plan_);
+        promises kept(app);
+        begin(app, kept, healthy());
+        random_user user(app, kept, dice_.seed());
+        stop_faults(app);
+        app.bluetooth.while_choosing = [] {};
+        app.delegate->do_read_codes();
+        read_and_compare(app, kept, user);
+        leave(app, kept);
+    }
+
+    static adapter_options healthy() {
+        adapter_options options;
+        options.latency = run_loop::milliseconds(20);
+        return options;
+    }
+
+    void read_and_compare(application& app, promises& kept, random_user& user) {
+        story_.note("!", "a healthy car: " + app.far.the_car().name);
+        const truth expected = truth_of(app.far.the_car());
+        user.read_codes();
+        auto* const screen = app.showing<readCodes>(READ_CODES_VIEW);
+        for (int i = 0; i < 60 && (i < 5 || screen->task_running()) && !story_.failed(); ++i)
+            app.advance(seconds(1));
+        kept.shows(expected);
+    }
+
+    void leave(application& app, promises& kept) {
+        app.delegate->do_expert(); // it costs least
+        app.loop.settle();
+        kept.nothing_outlives_its_screen();
+        kept.logs_are_complete(folder_);
+        app.delegate->applicationWillTerminate();
+        app.delegate.reset();
+        QCoreApplication::removePostedEvents(nullptr);
+        story_.expect(app.far.open_pairs() == 0, "no socket outlives the program", "open");
+    }
+
+    dice dice_;
+    std::string folder_;
+    trace& story_;
+    ledger book_;
+    disk disk_;
+    fault_plan plan_;
+};
+
+} // namespace
+
+session_result run_session(std::uint64_t seed, const std::string& folder, bool print) {
+    trace story(print);
+    session(seed, folder, story).run();
+    return {story.promise(), story.how(), story.hash(), story.last_lines()};
+}

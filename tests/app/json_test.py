@@ -84,7 +84,7 @@ def check_car(name):
 class json_test(unittest.TestCase):
     def test_every_car_fits_the_schemas_and_replays(self):
         self.assertGreater(len(CARS), 10)
-        with ThreadPoolExecutor(4) as pool:  # they mostly wait
+        with ThreadPoolExecutor(8) as pool:  # they mostly wait
             self.assertEqual(list(pool.map(check_car, CARS)), [21] * len(CARS))
 
     def test_what_needs_no_car_fits_the_schemas(self):

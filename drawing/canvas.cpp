@@ -31,6 +31,14 @@ void copy_picture(const QImage& from, QImage& to) {
         to = from.copy();
 }
 
+void copy_pixels(const QImage& from, QImage& to, const QRect& pixels) {
+    const QRect inside = pixels & from.rect();
+    const auto left = inside.left() * qsizetype(sizeof(QRgb));
+    for (int y = inside.top(); y <= inside.bottom(); ++y)
+        std::memcpy(to.scanLine(y) + left, from.constScanLine(y) + left,
+                    static_cast<std::size_t>(inside.width()) * sizeof(QRgb));
+}
+
 QFont image_font(const QString& family, int pixels, bool bold) {
     QFont font(family);
     font.setPixelSize(pixels);
@@ -95,6 +103,15 @@ void canvas::text_within(double room, int smallest, double x, double y, const QS
 
 void canvas::fill(const QRectF& area, const QBrush& brush) {
     painter_.fillRect(flipped(area), brush);
+}
+
+QRect canvas::pixels_of(const QRectF& area) const {
+    const double scale = image_.devicePixelRatio();
+    const QRectF shown = flipped(area);
+    return QRectF(shown.topLeft() * scale, shown.size() * scale)
+               .toAlignedRect()
+               .adjusted(-1, -1, 1, 1) &
+           image_.rect();
 }
 
 void canvas::fill_gradient(const QRectF& area, const QColor& from, const QColor& to,

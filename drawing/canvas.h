@@ -18,6 +18,9 @@ QImage raw_image(QSizeF size, double scale);
 // Makes `to` a picture of its own that shows what `from` shows, in the memory it has if that fits.
 void copy_picture(const QImage& from, QImage& to);
 
+// The same within these pixels only; both are of one size.
+void copy_pixels(const QImage& from, QImage& to, const QRect& pixels);
+
 // A font of `pixels` image units, sharp at every scale.
 QFont image_font(const QString& family, int pixels, bool bold = false);
 double text_width(const QFont& font, const QString& text);
@@ -46,6 +49,8 @@ class canvas {
     void text_within(double room, int smallest, double x, double y, const QString& text, QFont font,
                      const QColor& ink);
     void fill(const QRectF& area, const QBrush& brush);
+    // All pixels that painting within the area touches.
+    QRect pixels_of(const QRectF& area) const;
     // From the first colour to the second along `degrees`, counter-clockwise from rightwards; the
     // corners of the area get the pure colours.
     void fill_gradient(const QRectF& area, const QColor& from, const QColor& to, double degrees);

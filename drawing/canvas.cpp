@@ -61,6 +61,22 @@ QColor colour(double red, double green, double blue, double alpha) {
     return QColor::fromRgbF(component(red), component(green), component(blue), component(alpha));
 }
 
+namespace {
+
+// Both of premultiplied pixels.
+void lay_over(QRgb* ground, const QRgb* picture, int count) {
+    for (int i = 0; i < count; ++i) {
+        const QRgb rest = 255U - static_cast<QRgb>(qAlpha(picture[i]));
+        const auto left_of = [rest](QRgb two_bytes) {
+            const QRgb product = (two_bytes & 0x00FF00FF) * rest;
+            return ((product + ((product >> 8) & 0x00FF00FF) + 0x00800080) >> 8) & 0x00FF00FF;
+        };
+        ground[i] = picture[i] + (left_of(ground[i]) | (left_of(ground[i] >> 8) << 8));
+    }
+}
+
+} // namespace
+
 canvas::canvas(QImage& image)
     : image_(image), size_(image.deviceIndependentSize()), painter_(&image) {
     // QPainter leaves out a device pixel ratio below 1.
@@ -103,6 +119,23 @@ void canvas::text_within(double room, int smallest, double x, double y, const QS
 
 void canvas::fill(const QRectF& area, const QBrush& brush) {
     painter_.fillRect(flipped(area), brush);
+}
+
+void canvas::put(kept_detail& detail, const std::string& what, const QRectF& area,
+                 const std::function<void(canvas&)>& paint) {
+    if (detail.what != what || detail.picture_size != image_.size()) {
+        QImage picture = empty_image(size_, image_.devicePixelRatio());
+        {
+            canvas alone(picture);
+            paint(alone);
+        }
+        const QRect pixels = pixels_of(area);
+        detail = {what, image_.size(), picture.copy(pixels), pixels.topLeft()};
+    }
+    for (int y = 0; y < detail.image.height(); ++y)
+        lay_over(reinterpret_cast<QRgb*>(image_.scanLine(detail.at.y() + y)) + detail.at.x(),
+                 reinterpret_cast<const QRgb*>(detail.image.constScanLine(y)),
+                 detail.image.width());
 }
 
 QRect canvas::pixels_of(const QRectF& area) const {

@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QString>
 
+#include <functional>
+#include <string>
 #include <string_view>
 
 // An empty image of `size` image units at `scale` pixels a unit.
@@ -20,6 +22,15 @@ void copy_picture(const QImage& from, QImage& to);
 
 // The same within these pixels only; both are of one size.
 void copy_pixels(const QImage& from, QImage& to, const QRect& pixels);
+
+// A detail of a picture that seldom changes, as it was painted upon nothing. Owned by whoever paints
+// the picture.
+struct kept_detail {
+    std::string what;
+    QSize picture_size;
+    QImage image;
+    QPoint at; // its upper-left corner, in pixels
+};
 
 // A font of `pixels` image units, sharp at every scale.
 QFont image_font(const QString& family, int pixels, bool bold = false);
@@ -49,6 +60,10 @@ class canvas {
     void text_within(double room, int smallest, double x, double y, const QString& text, QFont font,
                      const QColor& ink);
     void fill(const QRectF& area, const QBrush& brush);
+    // Puts the detail there that `paint` paints within the area, painted anew when `what` it shows
+    // is another than before.
+    void put(kept_detail& detail, const std::string& what, const QRectF& area,
+             const std::function<void(canvas&)>& paint);
     // All pixels that painting within the area touches.
     QRect pixels_of(const QRectF& area) const;
     // From the first colour to the second along `degrees`, counter-clockwise from rightwards; the

@@ -36,7 +36,10 @@ class myGauge {
 
     const QImage& imageRepresentation() const { return image_; }
     const QImage& image() const { return image_; }
-    void setImage(const QImage& image) { image_ = image; }
+    void setImage(const QImage& image) {
+        image_ = image;
+        face_is_new_ = true;
+    }
     const std::string& imageID() const { return imageID_; }
     const std::string& imageTitle() const { return imageID_; }
     const std::string& imageUID() const { return imageID_; }

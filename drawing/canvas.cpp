@@ -6,8 +6,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
 #include <numbers>
+#include <vector>
 
 QImage raw_image(QSizeF size, double scale) {
     const QSize pixels = (size * scale).toSize().expandedTo(QSize(1, 1));
@@ -37,6 +39,32 @@ void copy_pixels(const QImage& from, QImage& to, const QRect& pixels) {
     for (int y = inside.top(); y <= inside.bottom(); ++y)
         std::memcpy(to.scanLine(y) + left, from.constScanLine(y) + left,
                     static_cast<std::size_t>(inside.width()) * sizeof(QRgb));
+}
+
+QImage squeezed(const QImage& picture, int lines) {
+    constexpr int ONE = 256; // weights of a line's sources add up to that
+    QImage result(picture.width(), lines, picture.format());
+    const auto bytes = static_cast<std::size_t>(picture.width()) * sizeof(QRgb);
+    std::vector<std::uint16_t> sums(bytes);
+    const double step = static_cast<double>(picture.height()) / lines;
+    for (int y = 0; y < lines; ++y) {
+        std::ranges::fill(sums, ONE / 2);
+        const double end = std::min((y + 1) * step, double(picture.height()));
+        int given = 0;
+        for (int from = static_cast<int>(y * step); from < end; ++from) {
+            const double along = std::min<double>(from + 1, end) - y * step;
+            const int upto = from + 1 >= end ? ONE : static_cast<int>(along / step * ONE + 0.5);
+            const auto weight = static_cast<std::uint16_t>(upto - given);
+            given = upto;
+            const uchar* const source = picture.constScanLine(from);
+            for (std::size_t i = 0; i < bytes; ++i)
+                sums[i] = static_cast<std::uint16_t>(sums[i] + source[i] * weight);
+        }
+        uchar* const target = result.scanLine(y);
+        for (std::size_t i = 0; i < bytes; ++i)
+            target[i] = static_cast<uchar>(sums[i] / ONE);
+    }
+    return result;
 }
 
 QFont image_font(const QString& family, int pixels, bool bold) {

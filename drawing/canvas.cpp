@@ -41,6 +41,16 @@ void copy_pixels(const QImage& from, QImage& to, const QRect& pixels) {
                     static_cast<std::size_t>(inside.width()) * sizeof(QRgb));
 }
 
+namespace {
+
+void add_weighted(std::uint16_t* __restrict sums, const uchar* __restrict source,
+                  std::uint16_t weight, std::size_t bytes) {
+    for (std::size_t i = 0; i < bytes; ++i)
+        sums[i] = static_cast<std::uint16_t>(sums[i] + source[i] * weight);
+}
+
+} // namespace
+
 QImage squeezed(const QImage& picture, int lines) {
     constexpr int ONE = 256; // weights of a line's sources add up to that
     QImage result(picture.width(), lines, picture.format());
@@ -57,8 +67,7 @@ QImage squeezed(const QImage& picture, int lines) {
             const auto weight = static_cast<std::uint16_t>(upto - given);
             given = upto;
             const uchar* const source = picture.constScanLine(from);
-            for (std::size_t i = 0; i < bytes; ++i)
-                sums[i] = static_cast<std::uint16_t>(sums[i] + source[i] * weight);
+            add_weighted(sums.data(), source, weight, bytes);
         }
         uchar* const target = result.scanLine(y);
         for (std::size_t i = 0; i < bytes; ++i)
@@ -101,6 +110,23 @@ void lay_over(QRgb* ground, const QRgb* picture, int count) {
         };
         ground[i] = picture[i] + (left_of(ground[i]) | (left_of(ground[i] >> 8) << 8));
     }
+}
+
+QRect painted_pixels(const QImage& picture) {
+    QRect painted;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        const auto* end = line + picture.width();
+        const auto* first = std::find_if(line, end, [](QRgb pixel) { return pixel != 0; });
+        if (first == end)
+            continue;
+        const auto* last = end - 1;
+        while (*last == 0)
+            --last;
+        painted |= QRect(QPoint(static_cast<int>(first - line), y),
+                         QPoint(static_cast<int>(last - line), y));
+    }
+    return painted;
 }
 
 } // namespace
@@ -149,7 +175,7 @@ void canvas::fill(const QRectF& area, const QBrush& brush) {
     painter_.fillRect(flipped(area), brush);
 }
 
-void canvas::put(kept_detail& detail, const std::string& what, const QRectF& area,
+void canvas::put(kept_detail& detail, const std::string& what,
                  const std::function<void(canvas&)>& paint) {
     if (detail.what != what || detail.picture_size != image_.size()) {
         QImage picture = empty_image(size_, image_.devicePixelRatio());
@@ -157,7 +183,7 @@ void canvas::put(kept_detail& detail, const std::string& what, const QRectF& are
             canvas alone(picture);
             paint(alone);
         }
-        const QRect pixels = pixels_of(area);
+        const QRect pixels = painted_pixels(picture);
         detail = {what, image_.size(), picture.copy(pixels), pixels.topLeft()};
     }
     for (int y = 0; y < detail.image.height(); ++y)

@@ -64,9 +64,9 @@ class canvas {
     void text_within(double room, int smallest, double x, double y, const QString& text, QFont font,
                      const QColor& ink);
     void fill(const QRectF& area, const QBrush& brush);
-    // Puts the detail there that `paint` paints within the area, painted anew when `what` it shows
-    // is another than before.
-    void put(kept_detail& detail, const std::string& what, const QRectF& area,
+    // Puts the detail there that `paint` paints, painted anew when `what` it shows is another than
+    // before.
+    void put(kept_detail& detail, const std::string& what,
              const std::function<void(canvas&)>& paint);
     // All pixels that painting within the area touches.
     QRect pixels_of(const QRectF& area) const;

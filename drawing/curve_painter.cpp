@@ -164,7 +164,10 @@ class pixel_layer {
     int line_of(double units) const {
         return std::clamp(first_centre_from(units), 0, image_.height());
     }
-    int nearest(double units) const { return static_cast<int>(std::lround(units * scale_)); }
+    // As std::lround(), which is a call into the library for each corner.
+    int nearest(double units) const {
+        return static_cast<int>(units * scale_ + (units < 0 ? -0.5 : 0.5));
+    }
 
     void add_half(column_spans& spans, const column_run& run, int x) {
         const int high = std::clamp(run.high, -FARTHEST, FARTHEST);

@@ -55,9 +55,7 @@ void drawChartyItem::paint_readout(canvas& target, double x, double y, const rea
                        image_font(QStringLiteral("Arial"), look.value_pixels),
                        white(look.value_alpha));
     const double name_y = y - NAME_BELOW_VALUE;
-    const QRectF line(x - look.name_pixels, name_y - look.name_pixels,
-                      target.width() - x + look.name_pixels, 3 * look.name_pixels);
-    target.put(readout_name_, names_[k], line, [&](canvas& alone) {
+    target.put(readout_name_, names_[k], [&](canvas& alone) {
         alone.text_within(room, look.smallest_name_pixels, x, name_y, qstring(names_[k]),
                           system_font(look.name_pixels), white(0.8));
     });
@@ -73,11 +71,10 @@ void drawChartyItem::paint_level_bar(canvas& target, int segments) {
     const int level =
         level_of(leading_number(cur_sample_set[k][1]), toolies.get_PID_min_max(pid, false),
                  toolies.get_PID_min_max(pid, true), segments);
-    const QRectF bar(target.width() / 3 + 1, target.height() - 20, 4 * segments, 15);
-    target.put(level_bar_, std::to_string(level), bar, [&](canvas& alone) {
+    target.put(level_bar_, std::to_string(level), [&](canvas& alone) {
         const QColor lit = colour(1, 1, 0, 0.4);
         for (int i = 0; i < segments; ++i) {
-            const QRectF segment(bar.x() + 4 * i, bar.y(), 4, bar.height());
+            const QRectF segment(4 * i + alone.width() / 3 + 1, alone.height() - 20, 4, 15);
             alone.fill(segment.adjusted(1, 1, -1, -1), i <= level ? lit : white(0.4));
         }
     });

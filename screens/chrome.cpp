@@ -15,6 +15,7 @@
 #include <QIconEngine>
 #include <QLabel>
 #include <QPainter>
+#include <QResource>
 #include <QSvgRenderer>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -26,7 +27,8 @@
 namespace {
 
 // Renders the drawing at whatever size is asked for, in its own colours or in the palette's text
-// colour. It reads the drawing when it is first shown, and needs no plugin for that.
+// colour. It reads the drawing when it is first shown, and needs no plugin for that. At the sizes of
+// the rail a one-coloured drawing is taken as it was drawn when the program was built.
 class drawn_icon_engine final : public QIconEngine {
   public:
     drawn_icon_engine(QString path, std::optional<QPalette> tint)
@@ -43,20 +45,35 @@ class drawn_icon_engine final : public QIconEngine {
 
   private:
     QPixmap drawn(const QSize& size, QIcon::Mode mode) {
-        if (!drawing_)
-            drawing_ = std::make_unique<QSvgRenderer>(path_);
-        QPixmap image(size);
-        image.fill(Qt::transparent);
-        QPainter painter(&image);
-        drawing_->render(&painter);
+        QImage image = tint_ ? drawn_before(size) : QImage();
+        if (image.isNull()) {
+            if (!drawing_)
+                drawing_ = std::make_unique<QSvgRenderer>(path_);
+            image = QImage(size, QImage::Format_ARGB32_Premultiplied);
+            image.fill(Qt::transparent);
+            QPainter painter(&image);
+            drawing_->render(&painter);
+        }
         if (!tint_)
-            return image;
+            return QPixmap::fromImage(image);
+        QPainter painter(&image);
         painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         const auto role =
             mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
         painter.fillRect(image.rect(), tint_->color(group, role));
-        return image;
+        painter.end();
+        return QPixmap::fromImage(image);
+    }
+
+    QImage drawn_before(const QSize& size) const {
+        const QResource mask(QString(path_).replace(
+            QLatin1String(".svg"), QStringLiteral("-%1.mask").arg(size.width())));
+        if (mask.size() != qint64{size.width()} * size.height())
+            return {};
+        return QImage(mask.data(), size.width(), size.height(), size.width(),
+                      QImage::Format_Alpha8)
+            .convertToFormat(QImage::Format_ARGB32_Premultiplied);
     }
 
     QString path_;

@@ -1,5 +1,6 @@
 #include "main_window.h"
 
+#include "alerts.h"
 #include "background_picture.h"
 #include "bundle.h"
 #include "chrome.h"
@@ -71,10 +72,24 @@ void main_window::build_menu() {
             export_window_ = new export_window(delegate_, this);
         export_window_->open_beside();
     });
+    QAction* about = file->addAction(ui_text(delegate_, "ui_menu_about"));
+    about->setObjectName(QStringLiteral("about"));
+    connect(about, &QAction::triggered, this, [this] { show_about(); });
     file->addSeparator();
     QAction* quit = file->addAction(ui_text(delegate_, "ui_menu_quit"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, &QWidget::close);
+}
+
+void main_window::show_about() {
+    const bundle& texts = delegate_.doors().resources;
+    alert_request box;
+    box.title = ui_text(delegate_, "ui_menu_about").remove(u'&').toStdString();
+    box.message = "Kestrom " KESTROM_VERSION;
+    box.informative = texts.localized("ui_about") + "\n\nQt " + qVersion();
+    box.buttons = {texts.localized("ui_about_close")};
+    box.style = alert_style::informational;
+    delegate_.doors().message_boxes.show(box);
 }
 
 QWidget* main_window::build_rail() {

@@ -19,6 +19,7 @@ class main_window final : public QMainWindow {
 
   private:
     void build_menu();
+    void show_about();
     QWidget* build_rail();
     void follow_screen();
     void restore_place();

@@ -557,5 +557,19 @@ Melden Sie sich am Rechner selbst an, oder bitten Sie die Verwaltung, Sie in die
         <source></source>
         <translation>Es ist kein Bluetooth-Adapter gewählt. Nennen Sie einen mit --bluetooth ADRESSE; kestrom bluetooth-scan zeigt, welche in Reichweite sind.</translation>
     </message>
+    <message id="ui_menu_about">
+        <source></source>
+        <translation>Über &amp;Kestrom</translation>
+    </message>
+    <message id="ui_about">
+        <source></source>
+        <translation>Liest die Fahrzeugdiagnose (OBD-II) über einen Adapter vom Typ ELM327: Fehlercodes, Stand der Überwachung, Live-Daten, Aufzeichnungen und eine Konsole.
+
+Freie Software unter der MIT-Lizenz. © 2026 The Kestrom developers</translation>
+    </message>
+    <message id="ui_about_close">
+        <source></source>
+        <translation>Schließen</translation>
+    </message>
 </context>
 </TS>

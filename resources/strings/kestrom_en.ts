@@ -557,5 +557,19 @@ Log in at the computer itself, or ask its administrator to add you to the group 
         <source></source>
         <translation>No Bluetooth adapter was chosen. Name one with --bluetooth ADDRESS; kestrom bluetooth-scan lists those in reach.</translation>
     </message>
+    <message id="ui_menu_about">
+        <source></source>
+        <translation>&amp;About Kestrom</translation>
+    </message>
+    <message id="ui_about">
+        <source></source>
+        <translation>Reads a car's on-board diagnostics (OBD-II) through an ELM327-type adapter: trouble codes, readiness, live data, run logs and a console.
+
+Free software under the MIT licence. © 2026 The Kestrom developers</translation>
+    </message>
+    <message id="ui_about_close">
+        <source></source>
+        <translation>Close</translation>
+    </message>
 </context>
 </TS>

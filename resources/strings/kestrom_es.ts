@@ -557,5 +557,19 @@ Inicie la sesión en el propio equipo, o pida a su administrador que lo añada a
         <source></source>
         <translation>No se ha elegido ningún adaptador Bluetooth. Indique uno con --bluetooth DIRECCIÓN; kestrom bluetooth-scan muestra los que están al alcance.</translation>
     </message>
+    <message id="ui_menu_about">
+        <source></source>
+        <translation>&amp;Acerca de Kestrom</translation>
+    </message>
+    <message id="ui_about">
+        <source></source>
+        <translation>Lee el diagnóstico de a bordo (OBD-II) de un coche con un adaptador de tipo ELM327: códigos de avería, monitores, datos en vivo, registros y una consola.
+
+Software libre con licencia MIT. © 2026 The Kestrom developers</translation>
+    </message>
+    <message id="ui_about_close">
+        <source></source>
+        <translation>Cerrar</translation>
+    </message>
 </context>
 </TS>

@@ -557,5 +557,19 @@ Ouvrez une session sur l'ordinateur même, ou demandez à son administrateur de 
         <source></source>
         <translation>Aucun adaptateur Bluetooth n'est choisi. Nommez-en un avec --bluetooth ADRESSE ; kestrom bluetooth-scan montre ceux qui sont à portée.</translation>
     </message>
+    <message id="ui_menu_about">
+        <source></source>
+        <translation>À &amp;propos de Kestrom</translation>
+    </message>
+    <message id="ui_about">
+        <source></source>
+        <translation>Lit le diagnostic embarqué (OBD-II) d'une voiture par un adaptateur de type ELM327 : codes défaut, moniteurs, données en direct, journaux et une console.
+
+Logiciel libre sous licence MIT. © 2026 The Kestrom developers</translation>
+    </message>
+    <message id="ui_about_close">
+        <source></source>
+        <translation>Fermer</translation>
+    </message>
 </context>
 </TS>

@@ -20,7 +20,7 @@ class chooser_on_show final : public QObject {
             mock_.set_device(refusing,
                              {{QStringLiteral("Paired"), true},
                               {QStringLiteral("UUIDs"), QStringList{SERIAL_PORT_UUID_TEXT}}});
-            mock_.add_device("AA:BB:CC:11:22:33", "Vgate wireless diagnostic adapter, workshop 2");
+            mock_.add_device("AA:BB:CC:11:22:33", "Wireless diagnostic adapter, workshop 2");
             mock_.set_device(mock_.add_device("5C:F3:70:8A:01:02", "Headphones"),
                              {{QStringLiteral("Paired"), true},
                               {QStringLiteral("UUIDs"),

@@ -177,6 +177,8 @@ void check_tables(const QWidget& window, complaints& told) {
                         return option;
                     }(),
                     cell);
+                if (cell.data(Qt::ToolTipRole).isValid())
+                    continue;
                 if (!table->wordWrap() && need.width() > room.width())
                     told.push_back("a cell is wider than its column: " +
                                    cell.data().toString().toStdString());

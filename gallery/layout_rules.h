@@ -10,6 +10,5 @@ class QWidget;
 // - what can be operated by hand has a name for a screen reader and a tooltip when it has no text;
 // - no two mnemonics that are reachable at once share a letter;
 // - Tab goes through the widgets from top to bottom, and from left to right in a row;
-// - no text is wider or higher than the place it stands in;
-// - top-level spacing keeps to the grid.
+// - no text is wider or higher than the place it stands in, unless a tooltip has the whole.
 std::vector<std::string> broken_layout_rules(const QWidget& window);

@@ -29,10 +29,9 @@ void read_codes(stage& on) {
     codes(on);
     on.press("readCodes", CODES_SECONDS);
 }
-void stalled_codes(stage& on) {
+void busy_codes(stage& on) {
     codes(on);
     on.press("readCodes", 2.5);
-    static_cast<stall_hint*>(on.app.find("stallHint"))->refresh();
 }
 void no_reply_box(stage& on) {
     on.look_at_message();
@@ -162,6 +161,7 @@ void export_list(stage& on) {
 void export_running(stage& on) {
     write_logs(100'000);
     open_export(on);
+    on.freeze();
     on.window.findChild<QAbstractButton*>(QStringLiteral("startExport"))->click();
 }
 void export_done(stage& on) {
@@ -205,8 +205,7 @@ const std::vector<scene>& scenes() {
     static const std::vector<scene> ALL = {
         {"start", "Nothing chosen yet", nothing_chosen},
         {"codes-empty", "Trouble codes, nothing read", codes},
-        {"codes-stalled", "Reading codes, an adapter that says nothing for longer than five seconds",
-         stalled_codes, "can11", {{fault_kind::stall_after, 3}}},
+        {"codes-busy", "Codes are being read", busy_codes, "can11", {{fault_kind::stall_after, 3}}},
         {"codes-read", "Codes read", read_codes},
         {"codes-three-units", "Codes of three control units", read_codes, "three_units"},
         {"codes-thirty", "Thirty codes", read_codes, "thirty"},

@@ -15,6 +15,7 @@
 namespace {
 
 constexpr int TITLE_HEIGHT = 28;
+constexpr char ANY_HOME[] = "/home/you/.local/share";
 constexpr char ANY_DAY[] = "24 Apr 2025 10:30";
 
 adapter_options options_of(const scene& shown) {
@@ -71,7 +72,8 @@ void stage::settle() {
         QThread::msleep(round ? 20 : 0); // the background picture is begun a frame later
         QApplication::processEvents();
         QThreadPool::globalInstance()->waitForDone();
-        app.loop.advance(std::chrono::milliseconds(60)); // a frame of the charts
+        if (!frozen_)
+            app.loop.advance(std::chrono::milliseconds(60)); // a frame of the charts
         QApplication::processEvents();
     }
 }
@@ -94,10 +96,20 @@ void stage::show_message(const alert_request& request) {
     shown.show(request);
 }
 
+// Its name is another one each time.
+void stage::hide_folder(QWidget& in) {
+    for (QLabel* label : in.findChildren<QLabel*>())
+        if (label->text().contains(app.folder.path()))
+            label->setText(QString(label->text()).replace(app.folder.path(), QLatin1String(ANY_HOME)));
+}
+
 void stage::take_picture(QWidget* dialog) {
     if (auto* read_on = window.findChild<QLabel*>(QStringLiteral("readOnLbl"));
         read_on && read_on->text().contains(u':'))
         read_on->setText(QLatin1String(ANY_DAY));
+    hide_folder(window);
+    if (dialog)
+        hide_folder(*dialog);
     picture_ = window.grab().toImage();
     complaints_ = broken_layout_rules(window);
     if (!dialog)

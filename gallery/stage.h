@@ -38,7 +38,7 @@ class stage {
     ~stage();
 
     void pass(double seconds);
-    // Reads the codes or starts the run, and lets that long pass.
+    // Presses a button of the screen and lets that long pass.
     void press(const char* button, double seconds) {
         app.press(button);
         pass(seconds);
@@ -47,8 +47,10 @@ class stage {
     void answer(int button) { app.messages.answers.push_back(button); }
     // The picture shows this dialog above the window.
     void show_dialog(QWidget* dialog);
-    // Only the dialogs of message boxes are looked at from here on; the first is kept.
+    // The picture is that of the next message box.
     void look_at_message() { looks_at_message_ = true; }
+    // No time passes any more.
+    void freeze() { frozen_ = true; }
     // Lets the event loop run until nothing is left to paint.
     void settle();
 
@@ -63,10 +65,12 @@ class stage {
 
   private:
     void take_picture(QWidget* dialog);
+    void hide_folder(QWidget& in);
     void show_message(const alert_request& request);
 
     QPointer<QWidget> dialog_;
     bool looks_at_message_ = false;
+    bool frozen_ = false;
     QImage picture_;
     std::vector<std::string> complaints_;
 };

@@ -6,6 +6,7 @@
 #include "chrome.h"
 #include "export_window.h"
 #include "Ks_lite_delegate.h"
+#include "mac_toolies.h"
 #include "rail_button.h"
 #include "user_defaults.h"
 
@@ -15,13 +16,14 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QMenuBar>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr char GEOMETRY_KEY[] = "window_geometry";
 constexpr QSize DEFAULT_SIZE{1100, 720};
-constexpr QSize SMALLEST_SIZE{800, 560};
+constexpr QSize SMALLEST_SIZE{800, 480}; // a screen of 1920 x 1080 at 200 %, with a panel
 constexpr int RAIL_WIDTH = 128;
 
 } // namespace
@@ -33,7 +35,8 @@ main_window::main_window(Ks_lite_delegate& delegate) : delegate_(delegate) {
     auto* row = new QHBoxLayout(whole);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
-    row->addWidget(build_rail());
+    row->addWidget(rail_ = build_rail());
+    shade_rail();
 
     mainView = new QWidget(whole);
     mainView->setObjectName(QStringLiteral("mainView"));
@@ -96,18 +99,15 @@ QWidget* main_window::build_rail() {
     auto* rail = new QWidget(this);
     rail->setObjectName(QStringLiteral("rail"));
     rail->setAutoFillBackground(true);
-    QPalette quiet = rail->palette();
-    const bool dark = quiet.color(QPalette::Window).lightness() < 128;
-    quiet.setColor(QPalette::Window, quiet.color(QPalette::Window).darker(dark ? 120 : 106));
-    rail->setPalette(quiet);
-    rail->setFixedWidth(RAIL_WIDTH);
+    rail->setMinimumWidth(RAIL_WIDTH);
+    rail->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     auto* column = new QVBoxLayout(rail);
     column->setContentsMargins(GRID, GRID, GRID, GRID);
     column->setSpacing(GRID);
 
     switches_ = new QButtonGroup(this);
     auto make = [&](const char* name, const char* icon, std::string_view key) {
-        auto* button = new rail_button(drawn_icon(icon, quiet), ui_text(delegate_, key), rail);
+        auto* button = new rail_button(drawn_icon(icon), ui_text(delegate_, key), rail);
         button->setObjectName(QLatin1String(name));
         column->addWidget(button);
         return button;
@@ -122,7 +122,8 @@ QWidget* main_window::build_rail() {
     make_switch(ACTIONS_VIEW, "live", "ui_rail_live", [this] { delegate_.do_actions(); });
     auto* logs = make("logs", "logs", "ui_rail_logs");
     logs->setEnabled(false);
-    logs->setToolTip(ui_text(delegate_, "ui_rail_logs_hint"));
+    logs->setToolTip(ui_text(delegate_, "ui_rail_logs_hint") + u'\n' +
+                     QString::fromStdString(mac_toolies::sharedManager().log_folder()));
     connect(logs, &QToolButton::clicked, this, [this] { delegate_.do_logs(); });
     make_switch(EXPERT_VIEW, "expert", "ui_rail_expert", [this] { delegate_.do_expert(); });
     make_switch(PREFS_VIEW, "prefs", "ui_rail_prefs", [this] { delegate_.do_prefs(); });
@@ -131,6 +132,20 @@ QWidget* main_window::build_rail() {
     help->setShortcut(QKeySequence::HelpContents);
     connect(help, &QToolButton::clicked, this, [this] { delegate_.do_help_button(); });
     return rail;
+}
+
+// A little darker than the window, whatever the desktop's scheme is now.
+void main_window::shade_rail() {
+    QPalette quiet = QGuiApplication::palette();
+    const QColor window = quiet.color(QPalette::Window);
+    quiet.setColor(QPalette::Window, window.darker(window.lightness() < 128 ? 120 : 106));
+    rail_->setPalette(quiet);
+}
+
+void main_window::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && rail_)
+        shade_rail();
 }
 
 void main_window::follow_screen() {
@@ -147,7 +162,7 @@ void main_window::restore_place() {
     const std::string stored = delegate_.doors().defaults.string(GEOMETRY_KEY);
     if (stored.empty() ||
         !restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(stored))))
-        resize(DEFAULT_SIZE);
+        resize(DEFAULT_SIZE.boundedTo(screen()->availableSize()));
 }
 
 void main_window::closeEvent(QCloseEvent* event) {

@@ -13,7 +13,7 @@ Codes défaut : « Lire les codes » affiche les codes enregistrés avec leur si
 
 Données en direct : choisissez le type d'enregistrement et appuyez sur le bouton de départ. Chaque paramètre a son petit graphique ; cliquez dessus pour le voir en grand et sur le cadran, maintenez Ctrl pour en choisir un autre pour le second cadran. La liste des paramètres et les unités se règlent dans les préférences.
 
-Journaux : lorsque l'enregistrement est activé dans les préférences, chaque session est écrite dans son propre fichier du dossier « loggies » ; le bouton Journaux indique où il se trouve.
+Journaux : lorsque l'enregistrement est activé dans les préférences, chaque session est écrite dans son propre fichier du dossier « loggies » ; l'infobulle de Journaux indique où il se trouve, et Fichier &gt; Exporter un journal… en fait des tableaux.
 
 Expert : tapez une commande de l'adaptateur (AT I) ou une requête (01 0C) et lisez la réponse brute.
 
@@ -570,6 +570,22 @@ Logiciel libre sous licence MIT. © 2026 The Kestrom developers</translation>
     <message id="ui_about_close">
         <source></source>
         <translation>Fermer</translation>
+    </message>
+    <message id="ui_run_log">
+        <source></source>
+        <translation>Paramètres choisis</translation>
+    </message>
+    <message id="ui_run_fuel">
+        <source></source>
+        <translation>Consommation</translation>
+    </message>
+    <message id="ui_run_sensors">
+        <source></source>
+        <translation>Sondes à oxygène</translation>
+    </message>
+    <message id="ui_run_boost">
+        <source></source>
+        <translation>Suralimentation</translation>
     </message>
 </context>
 </TS>

@@ -16,6 +16,7 @@
 #include <QIconEngine>
 #include <QLabel>
 #include <QPainter>
+#include <QStyledItemDelegate>
 #include <QSvgRenderer>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -65,6 +66,17 @@ class drawn_icon_engine final : public QIconEngine {
     std::unique_ptr<QSvgRenderer> drawing_;
 };
 
+// Rows as high as their text needs between the paddings, which Qt forgets when it wraps lines.
+class padded_cells final : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QStyleOptionViewItem narrow = option;
+        narrow.rect.setWidth(option.rect.width() - 2 * GRID);
+        return QStyledItemDelegate::sizeHint(narrow, index);
+    }
+};
+
 } // namespace
 
 QIcon drawn_icon(std::string_view name) {
@@ -86,6 +98,7 @@ void give_room(QTableView* table) {
         "QTableView::item { border: 0px solid; padding: 4px 8px; }"
         "QHeaderView::section { padding: 4px 8px; border: none; border-bottom: 1px solid palette(mid);"
         " background: palette(button); }"));
+    table->setItemDelegate(new padded_cells(table));
     table->setTabKeyNavigation(false);
     table->verticalHeader()->hide();
     table->horizontalHeader()->setHighlightSections(false);

@@ -14,6 +14,7 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -147,11 +148,22 @@ void codes_view::build_tables(QVBoxLayout* column) {
     fit_column(readinessCodesTableView_, 0, QStringLiteral("\u2013  N/A"));
     readinessCodesTableView_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     fit_column(readinessCodesTableView_, 2, QStringLiteral("Non-Continous"));
+    make_room_for_monitors();
     new empty_hint(readinessCodesTableView_, ui_text(delegate_, "ui_readiness_empty"));
 
     split->setStretchFactor(0, 3);
     split->setStretchFactor(1, 2);
     column->addWidget(split, 1);
+}
+
+// Keeps the longest word of a monitor's name whole, also beside a scroll bar.
+void codes_view::make_room_for_monitors() {
+    QTableView* table = readinessCodesTableView_;
+    const int monitor =
+        table->fontMetrics().horizontalAdvance(QStringLiteral("Comprehensive")) + 4 * GRID;
+    const QHeaderView* header = table->horizontalHeader();
+    table->setMinimumWidth(header->sectionSize(0) + monitor + header->sectionSize(2) +
+                           table->verticalScrollBar()->sizeHint().width() + 2 * table->frameWidth());
 }
 
 void codes_view::show_codes(const std::vector<code_row>& rows) {

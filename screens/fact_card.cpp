@@ -93,7 +93,8 @@ void fact_card::show_value(const QString& caption, const QString& value) {
     value_->setText(value.size() > LONGEST_VALUE ? value.left(LONGEST_VALUE) + QChar(0x2026)
                                                  : value);
     value_->setToolTip(QStringLiteral("<span>%1</span>").arg(value.left(4000).toHtmlEscaped()));
-    value_->setAccessibleName(own_caption_ + QStringLiteral(": ") + value_->text());
+    const QString colon = caption.endsWith(u':') ? QString() : QStringLiteral(":");
+    value_->setAccessibleName(caption + colon + u' ' + value_->text());
     set_weight(value_, QFont::DemiBold);
     value_->setForegroundRole(QPalette::WindowText);
 }

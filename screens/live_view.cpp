@@ -98,7 +98,8 @@ void live_view::build_controls(QHBoxLayout* row) {
     charty_zoomer_->setRange(0, ZOOM_STEPS);
     charty_zoomer_->setValue(ZOOM_STEPS);
     charty_zoomer_->setPageStep(ZOOM_STEPS / 10);
-    charty_zoomer_->setFixedWidth(140);
+    charty_zoomer_->setMinimumWidth(8 * GRID);
+    charty_zoomer_->setMaximumWidth(18 * GRID);
     charty_zoomer_->setToolTip(ui_text(delegate_, "ui_live_zoom_hint"));
     charty_zoomer_->setAccessibleName(ui_text(delegate_, "ui_live_zoom_hint"));
     zoom_label->setBuddy(charty_zoomer_);

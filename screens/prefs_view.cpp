@@ -103,6 +103,8 @@ QWidget* prefs_view::build_adapter() {
     ipLbl_->setObjectName(QStringLiteral("ipLbl"));
     portsLbl_ = new QLineEdit(wifiTabView_);
     portsLbl_->setObjectName(QStringLiteral("portsLbl"));
+    for (QLineEdit* field : {ipLbl_, portsLbl_})
+        field->setMaximumWidth(40 * GRID);
     form->addRow(ui_text(delegate_, "ui_address"), ipLbl_);
     form->addRow(ui_text(delegate_, "ui_port"), portsLbl_);
 

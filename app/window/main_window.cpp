@@ -24,6 +24,7 @@ namespace {
 constexpr char GEOMETRY_KEY[] = "window_geometry";
 constexpr QSize DEFAULT_SIZE{1100, 720};
 constexpr QSize SMALLEST_SIZE{800, 480}; // a screen of 1920 x 1080 at 200 %, with a panel
+constexpr QSize FRAME{8, 40}; // that a window manager adds, at most
 constexpr int RAIL_WIDTH = 128;
 
 } // namespace
@@ -158,11 +159,16 @@ void main_window::follow_screen() {
         screen->view()->setFocus();
 }
 
+// Where it was, or where that is now: the screen may be another one.
 void main_window::restore_place() {
     const std::string stored = delegate_.doors().defaults.string(GEOMETRY_KEY);
-    if (stored.empty() ||
-        !restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(stored))))
-        resize(DEFAULT_SIZE.boundedTo(screen()->availableSize()));
+    const bool known = !stored.empty() &&
+                       restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(stored)));
+    const QRect room = screen()->availableGeometry();
+    const QSize wanted = known ? size() : DEFAULT_SIZE;
+    resize(wanted.boundedTo(room.size() - FRAME));
+    if (known && size() != wanted && !isMaximized() && !isFullScreen())
+        move(room.topLeft());
 }
 
 void main_window::closeEvent(QCloseEvent* event) {

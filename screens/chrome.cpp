@@ -10,29 +10,31 @@
 #include <QFile>
 #include <QFont>
 #include <QFontDatabase>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QIconEngine>
 #include <QLabel>
 #include <QPainter>
 #include <QResource>
+#include <QStyledItemDelegate>
 #include <QSvgRenderer>
 #include <QTableView>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <memory>
-#include <optional>
 
 namespace {
 
-// Renders the drawing at whatever size is asked for, in its own colours or in the palette's text
+constexpr int TITLE_ROW_HEIGHT = 6 * GRID; // the highest control of any screen
+
+// Renders the drawing at whatever size is asked for, in its own colours or in the desktop's text
 // colour. It reads the drawing when it is first shown, and needs no plugin for that. At the sizes of
 // the rail a one-coloured drawing is taken as it was drawn when the program was built.
 class drawn_icon_engine final : public QIconEngine {
   public:
-    drawn_icon_engine(QString path, std::optional<QPalette> tint)
-        : path_(std::move(path)), tint_(std::move(tint)) {}
+    drawn_icon_engine(QString path, bool tinted) : path_(std::move(path)), tinted_(tinted) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
         const double ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
@@ -41,11 +43,11 @@ class drawn_icon_engine final : public QIconEngine {
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
         return drawn(size, mode);
     }
-    QIconEngine* clone() const override { return new drawn_icon_engine(path_, tint_); }
+    QIconEngine* clone() const override { return new drawn_icon_engine(path_, tinted_); }
 
   private:
     QPixmap drawn(const QSize& size, QIcon::Mode mode) {
-        QImage image = tint_ ? drawn_before(size) : QImage();
+        QImage image = tinted_ ? drawn_before(size) : QImage();
         if (image.isNull()) {
             if (!drawing_)
                 drawing_ = std::make_unique<QSvgRenderer>(path_);
@@ -54,14 +56,14 @@ class drawn_icon_engine final : public QIconEngine {
             QPainter painter(&image);
             drawing_->render(&painter);
         }
-        if (!tint_)
+        if (!tinted_)
             return QPixmap::fromImage(image);
         QPainter painter(&image);
         painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         const auto role =
             mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
-        painter.fillRect(image.rect(), tint_->color(group, role));
+        painter.fillRect(image.rect(), QGuiApplication::palette().color(group, role));
         painter.end();
         return QPixmap::fromImage(image);
     }
@@ -77,20 +79,31 @@ class drawn_icon_engine final : public QIconEngine {
     }
 
     QString path_;
-    std::optional<QPalette> tint_;
+    bool tinted_;
     std::unique_ptr<QSvgRenderer> drawing_;
+};
+
+// Rows as high as their text needs between the paddings, which Qt forgets when it wraps lines.
+class padded_cells final : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QStyleOptionViewItem narrow = option;
+        narrow.rect.setWidth(option.rect.width() - 2 * GRID);
+        return QStyledItemDelegate::sizeHint(narrow, index);
+    }
 };
 
 } // namespace
 
-QIcon drawn_icon(std::string_view name, const QPalette& palette) {
+QIcon drawn_icon(std::string_view name) {
     const QString path =
         QStringLiteral(":/kestrom/icons/") + display_text(name) + QStringLiteral(".svg");
-    return QFile::exists(path) ? QIcon(new drawn_icon_engine(path, palette)) : QIcon();
+    return QFile::exists(path) ? QIcon(new drawn_icon_engine(path, true)) : QIcon();
 }
 
 QIcon picture_icon(const QString& path) {
-    return QIcon(new drawn_icon_engine(path, std::nullopt));
+    return QIcon(new drawn_icon_engine(path, false));
 }
 
 QString ui_text(Ks_lite_delegate& delegate, std::string_view key) {
@@ -99,9 +112,10 @@ QString ui_text(Ks_lite_delegate& delegate, std::string_view key) {
 
 void give_room(QTableView* table) {
     table->setStyleSheet(QStringLiteral(
-        "QTableView::item { padding: 4px 8px; }"
-        "QHeaderView::section { padding: 4px; border: none; border-bottom: 1px solid palette(mid);"
+        "QTableView::item { border: 0px solid; padding: 4px 8px; }"
+        "QHeaderView::section { padding: 4px 8px; border: none; border-bottom: 1px solid palette(mid);"
         " background: palette(button); }"));
+    table->setItemDelegate(new padded_cells(table));
     table->setTabKeyNavigation(false);
     table->verticalHeader()->hide();
     table->horizontalHeader()->setHighlightSections(false);
@@ -123,8 +137,8 @@ screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view titl
     screen_bones bones;
     bones.root = new QWidget;
     auto* column = new QVBoxLayout(bones.root);
-    column->setContentsMargins(2 * GRID, 2 * GRID, 2 * GRID, GRID);
-    column->setSpacing(2 * GRID);
+    column->setContentsMargins(2 * GRID, GRID, 2 * GRID, GRID);
+    column->setSpacing(GRID);
 
     bones.title_row = new QHBoxLayout;
     bones.title_row->setSpacing(GRID);
@@ -134,6 +148,7 @@ screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view titl
     font.setPointSizeF(font.pointSizeF() * 1.5);
     font.setWeight(QFont::DemiBold);
     title->setFont(font);
+    title->setMinimumHeight(TITLE_ROW_HEIGHT);
     bones.title_row->addWidget(title);
     bones.title_row->addStretch(1);
     column->addLayout(bones.title_row);

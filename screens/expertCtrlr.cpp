@@ -58,6 +58,7 @@ expertCtrlr::expertCtrlr(Ks_lite_delegate& delegate) : obd_screen(delegate) {
     replyTxt->setPlaceholderText(ui_text(delegate, "ui_transcript_empty"));
     replyTxt->setAccessibleName(ui_text(delegate, "ui_transcript"));
     replyTxt->setTabChangesFocus(true);
+    replyTxt->document()->setDocumentMargin(GRID);
     bones.content->addWidget(replyTxt, 1);
 
     auto* row = new QHBoxLayout;
@@ -70,7 +71,7 @@ expertCtrlr::expertCtrlr(Ks_lite_delegate& delegate) : obd_screen(delegate) {
     recall_ = std::make_unique<command_recall>(cmdTxt);
     auto* label = new QLabel(ui_text(delegate, "ui_command_label"), root_.get());
     label->setBuddy(cmdTxt);
-    auto* send = new QPushButton(drawn_icon("send", root_->palette()), ui_text(delegate, "ui_send"),
+    auto* send = new QPushButton(drawn_icon("send"), ui_text(delegate, "ui_send"),
                                  root_.get());
     send->setObjectName(QStringLiteral("sendBtn"));
     row->addWidget(label);

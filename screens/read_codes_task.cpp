@@ -58,6 +58,7 @@ std::string last_reply_with(std::string_view marker, const std::string& replies)
     return found;
 }
 
+constexpr std::size_t SHORTEST_ANSWER = 12; // digits of header, "4101" and byte A
 constexpr int MOST_HEADER_REPEATS = 12; // in one task
 
 } // namespace
@@ -165,17 +166,26 @@ void readCodes::status_answered() {
 
 void readCodes::decode_status(const std::string& screened_reply) {
     std::vector<std::string> lines = reply_lines(screened_reply);
-    const auto answers = std::ranges::count_if(
-        lines, [](const std::string& line) { return status_data(line).starts_with("4101"); });
+    std::erase(lines, "0101"); // the echo
+    // Rubbish in a line's header would make another unit or bus of it, rubbish behind it another lamp.
+    const auto readable = [](const std::string& line) {
+        const std::string data = status_data(line);
+        return is_hex(line) && data.starts_with("4101") && data.size() >= 6;
+    };
+    // Short words are notices; anything else may have been a unit's answer.
+    const bool all_readable =
+        !contains(screened_reply, "<") && std::ranges::none_of(lines, [&](const auto& line) {
+            return !readable(line) && (line.size() >= SHORTEST_ANSWER || is_hex(line));
+        });
+    const auto answers = std::ranges::count_if(lines, readable);
     no_of_codes = 0;
     status_told_ = false;
     status_answer_was_can_ = false;
     p_cur_01_pid.clear();
-    bool lamp_on = false, engine_told = false, some_unreadable = contains(screened_reply, "<");
+    bool lamp_on = false, engine_told = false;
     for (const std::string& line : lines) {
         const std::string data = status_data(line);
-        if (!data.starts_with("4101") || data.size() < 6) {
-            some_unreadable = true;
+        if (!readable(line)) {
             set_status_msg("Did not read initial header .. continuing"); // what others told stays
             continue;
         }
@@ -183,7 +193,8 @@ void readCodes::decode_status(const std::string& screened_reply) {
         status_answer_was_can_ = status_answer_was_can_ || has_can_header(line);
         const unsigned byte_a = mac_toolies::convertStr2Byte(std::string_view(data).substr(4, 2));
         const bool unit_lamp = (byte_a & 0x80u) != 0;
-        if (contains(mac_toolies::pull_ECU(line), "Engine") || answers == 1) {
+        if (contains(mac_toolies::pull_ECU(line), "Engine") ||
+            (answers == 1 && all_readable)) {
             engine_told = true;
             p_cur_01_pid = std::string_view(data).substr(6);
             lamp_on = lamp_on || unit_lamp;
@@ -195,7 +206,7 @@ void readCodes::decode_status(const std::string& screened_reply) {
 
     // Nobody told: neither "OFF" nor "0" would be true. Nor is "OFF" when the engine's answer is
     // the one that cannot be read.
-    const bool lamp_unknown = !status_told_ || (some_unreadable && !engine_told);
+    const bool lamp_unknown = !status_told_ || (!all_readable && !engine_told);
     view_->set_lamp(lamp_on ? "ON" : lamp_unknown ? "N/A" : "OFF");
     view_->set_count(status_told_ ? std::to_string(no_of_codes) : "N/A");
     cur_err_msg =

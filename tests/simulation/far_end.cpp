@@ -99,6 +99,7 @@ class simulated_pair final : public stream_pair {
 
 // Nothing comes back at once, whatever breaks off.
 constexpr milliseconds WIRE_TIME{10};
+constexpr std::size_t LONGEST_TRICKLE = 1000;
 
 std::string with_rubbish(std::string bytes, int count, dice& choices) {
     for (; count > 0; --count) {
@@ -231,7 +232,8 @@ void far_end::apply_fate(std::string bytes) {
 // In its turn behind what is on the wire.
 void far_end::send(std::size_t slot, std::string bytes, milliseconds delay) {
     const milliseconds step = fate_.gap;
-    const std::size_t length = step.count() > 0 ? 1 : std::max<std::size_t>(bytes.size(), 1);
+    const bool in_bytes = step.count() > 0 && bytes.size() <= LONGEST_TRICKLE;
+    const std::size_t length = in_bytes ? 1 : std::max<std::size_t>(bytes.size(), 1);
     wire_free_ = std::max(wire_free_, loop_.now() + WIRE_TIME + delay);
     for (std::size_t at = 0; at < bytes.size(); at += length) {
         wire_free_ += at > 0 ? step : milliseconds(0);

@@ -1,5 +1,7 @@
 // Runs whole sessions of the program against virtual cars, on a virtual clock.
 // kestrom-soak [--seeds FROM..TO] [--minutes M] [--trace] [--twice]
+// kestrom-soak --cycles N: one long run instead
+#include "long_run.h"
 #include "session.h"
 
 #include <QApplication>
@@ -17,6 +19,7 @@ namespace {
 struct wishes {
     std::uint64_t from = 1, to = 100;
     double minutes = 0; // 0: no bound
+    long cycles = 0;
     bool print = false;
     bool twice = false; // each seed, and compare
 };
@@ -32,6 +35,8 @@ wishes read_wishes(int argc, char** argv) {
             asked.twice = true;
         else if (option == "--minutes")
             asked.minutes = std::atof(value());
+        else if (option == "--cycles")
+            asked.cycles = std::atol(value());
         else if (option != "--seeds" ||
                  std::sscanf(value(), "%lu..%lu", &asked.from, &asked.to) < 1) {
             std::fputs("kestrom-soak [--seeds FROM..TO] [--minutes M] [--trace] [--twice]\n", stderr);
@@ -63,6 +68,8 @@ int main(int argc, char** argv) {
     QApplication::setStyle(QStringLiteral("windows")); // the quickest
     const QApplication application(argc, argv);
     qInstallMessageHandler(say_nothing);
+    if (asked.cycles > 0)
+        return run_cycles(asked.cycles) ? 0 : 1;
     const std::string root = (access("/dev/shm", W_OK) == 0 ? "/dev/shm" : "/tmp") +
                              std::string("/kestrom-soak.") + std::to_string(getpid());
     const auto begun = clock::now();

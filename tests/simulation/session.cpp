@@ -141,7 +141,10 @@ class session {
         random_user user(app, kept, dice_.seed());
         stop_faults(app);
         app.bluetooth.while_choosing = [] {};
-        app.delegate->do_read_codes();
+        if (g_connect_with == KS_USE_WIFI) // chosen last, and saved at the end
+            user.change_port_and_back();
+        else
+            app.delegate->do_read_codes();
         read_and_compare(app, kept, user);
         leave(app, kept);
     }

@@ -4,6 +4,7 @@
 #include "run_loop.h"
 
 #include <map>
+#include <unordered_map>
 #include <utility>
 
 class virtual_run_loop final : public run_loop {
@@ -16,6 +17,7 @@ class virtual_run_loop final : public run_loop {
         while (!armed_.empty() && armed_.begin()->first.first <= end) {
             const auto [when, id] = armed_.begin()->first;
             armed_.erase(armed_.begin());
+            due_of_.erase(id);
             now_ = std::max(now_, when);
             fall_due(id);
         }
@@ -32,9 +34,11 @@ class virtual_run_loop final : public run_loop {
     void arm(timer_id id, milliseconds delay) override {
         const milliseconds due = now_ + std::max(delay, milliseconds(0));
         armed_[{due, id}] = true;
+        due_of_[id] = due;
     }
     void disarm(timer_id id) override {
-        std::erase_if(armed_, [id](const auto& entry) { return entry.first.second == id; });
+        if (const auto due = due_of_.extract(id))
+            armed_.erase({due.mapped(), id});
     }
     void wake() override {
         // advance() and settle() deliver what waited behind a dialog.
@@ -43,4 +47,5 @@ class virtual_run_loop final : public run_loop {
   private:
     milliseconds now_{0};
     std::map<std::pair<milliseconds, timer_id>, bool> armed_;
+    std::unordered_map<timer_id, milliseconds> due_of_;
 };

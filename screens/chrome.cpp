@@ -27,8 +27,8 @@
 namespace {
 
 // Renders the drawing at whatever size is asked for, in its own colours or in the palette's text
-// colour. It reads the drawing when it is first shown, and needs no plugin for that. At the sizes of
-// the rail a one-coloured drawing is taken as it was drawn when the program was built.
+// colour. It reads the drawing when it is first shown, and needs no plugin for that. At the sizes
+// of the rail a one-coloured drawing is taken as it was drawn when the program was built.
 class drawn_icon_engine final : public QIconEngine {
   public:
     drawn_icon_engine(QString path, std::optional<QPalette> tint)
@@ -67,12 +67,11 @@ class drawn_icon_engine final : public QIconEngine {
     }
 
     QImage drawn_before(const QSize& size) const {
-        const QResource mask(QString(path_).replace(
-            QLatin1String(".svg"), QStringLiteral("-%1.mask").arg(size.width())));
+        const QResource mask(QString(path_).replace(QLatin1String(".svg"),
+                                                    QStringLiteral("-%1.mask").arg(size.width())));
         if (mask.size() != qint64{size.width()} * size.height())
             return {};
-        return QImage(mask.data(), size.width(), size.height(), size.width(),
-                      QImage::Format_Alpha8)
+        return QImage(mask.data(), size.width(), size.height(), size.width(), QImage::Format_Alpha8)
             .convertToFormat(QImage::Format_ARGB32_Premultiplied);
     }
 

@@ -23,12 +23,12 @@ void copy_picture(const QImage& from, QImage& to);
 // The same within these pixels only; both are of one size.
 void copy_pixels(const QImage& from, QImage& to, const QRect& pixels);
 
-// The picture with fewer lines, each the mean of those it stands for, as QImage::scaled() makes it but
-// for rounding, in half the time. From 1 to as many lines as it has.
+// The picture with fewer lines, each the mean of those it stands for, as QImage::scaled() makes it
+// but for rounding, in half the time. From 1 to as many lines as it has.
 QImage squeezed(const QImage& picture, int lines);
 
-// A detail of a picture that seldom changes, as it was painted upon nothing. Owned by whoever paints
-// the picture.
+// A detail of a picture that seldom changes, as it was painted upon nothing. Owned by whoever
+// paints the picture.
 struct kept_detail {
     std::string what;
     QSize picture_size;

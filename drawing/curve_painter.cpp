@@ -39,7 +39,8 @@ class line_cover {
   public:
     line_cover(QSize size, QRgb ink, QRgb shade)
         : ink_(ink), shade_(shade), state_(static_cast<std::size_t>(size.width()), 0),
-          rest_(state_.size(), ALL), added_(state_.size(), 0), covered_(state_.size() / BLOCK + 1, 0),
+          rest_(state_.size(), ALL), added_(state_.size(), 0),
+          covered_(state_.size() / BLOCK + 1, 0),
           first_change_(static_cast<std::size_t>(size.height()) + 1, NONE) {}
 
     void add_shade(const column_spans& spans) { add(spans, SHADED); }

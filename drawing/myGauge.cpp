@@ -164,8 +164,8 @@ void myGauge::draw_cur_needle_value(double value) {
     last_OBD_val = value;
     if (image_without_needle.isNull())
         return;
-    const bool whole = face_is_new_ || !image_.isDetached() ||
-                       image_.size() != image_without_needle.size();
+    const bool whole =
+        face_is_new_ || !image_.isDetached() || image_.size() != image_without_needle.size();
     const QRect restored = whole ? image_without_needle.rect() : needle_pixels_;
     if (whole)
         copy_picture(image_without_needle, image_);
@@ -180,8 +180,8 @@ void myGauge::draw_cur_needle_value(double value) {
 }
 
 QRect myGauge::draw_gauge_needle_raw(canvas& target, int x, int at_y, double this_val,
-                                    double alpha_min, double alpha_max, double min_val,
-                                    double max_val, double needle_w, double needle_h) {
+                                     double alpha_min, double alpha_max, double min_val,
+                                     double max_val, double needle_w, double needle_h) {
     const double angle = needle_angle(this_val, alpha_min, alpha_max, min_val, max_val);
     const needle_points needle = needle_shape({static_cast<double>(x), static_cast<double>(at_y)},
                                               angle, needle_w, needle_h);
@@ -207,8 +207,8 @@ void myGauge::draw_hub(int x, int y, const canvas& target) {
         target.flipped(QRectF(x - HUB_RADIUS, y - HUB_RADIUS, 2 * HUB_RADIUS, 2 * HUB_RADIUS));
     hub_ = cast_shadow_of(hub, GLOW_RADIUS, pixel_scale_, GLOW,
                           [&hub](QPainter& painter) { painter.drawEllipse(hub); });
-    const QImage glow = std::exchange(
-        hub_.image, empty_image(hub_.image.deviceIndependentSize(), pixel_scale_));
+    const QImage glow =
+        std::exchange(hub_.image, empty_image(hub_.image.deviceIndependentSize(), pixel_scale_));
     QPainter painter(&hub_.image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(-hub_.at);

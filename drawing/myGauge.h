@@ -64,8 +64,8 @@ class myGauge {
     void paint_units(canvas& target, double room) const;
     // Returns what it has painted upon.
     QRect draw_gauge_needle_raw(canvas& target, int x, int at_y, double this_val, double alpha_min,
-                               double alpha_max, double min_val, double max_val, double needle_w,
-                               double needle_h);
+                                double alpha_max, double min_val, double max_val, double needle_w,
+                                double needle_h);
     // Its picture, which stays as it is.
     void draw_hub(int x, int y, const canvas& target);
 

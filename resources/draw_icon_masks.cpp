@@ -1,5 +1,5 @@
-// Draws icons at build time: draw_icon_masks FOLDER NAME.svg... writes FOLDER/NAME-SIZE.mask for each size
-// that the window's rail shows, one byte of opacity a pixel, line by line.
+// Draws icons at build time: draw_icon_masks FOLDER NAME.svg... writes FOLDER/NAME-SIZE.mask for
+// each size that the window's rail shows, one byte of opacity a pixel, line by line.
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
@@ -30,9 +30,10 @@ int main(int argc, char** argv) {
         QSvgRenderer drawing(QString::fromLocal8Bit(argv[i]));
         const QString name = QFileInfo(QString::fromLocal8Bit(argv[i])).baseName();
         for (const int size : {28, 56})
-            if (!drawing.isValid() ||
-                !write_mask(drawing, size,
-                            QStringLiteral("%1/%2-%3.mask").arg(QString::fromLocal8Bit(argv[1]), name).arg(size)))
+            if (!drawing.isValid() || !write_mask(drawing, size,
+                                                  QStringLiteral("%1/%2-%3.mask")
+                                                      .arg(QString::fromLocal8Bit(argv[1]), name)
+                                                      .arg(size)))
                 return 1;
     }
     return 0;

@@ -30,8 +30,8 @@ namespace {
 constexpr int TITLE_ROW_HEIGHT = 6 * GRID; // the highest control of any screen
 
 // Renders the drawing at whatever size is asked for, in its own colours or in the desktop's text
-// colour. It reads the drawing when it is first shown, and needs no plugin for that. At the sizes of
-// the rail a one-coloured drawing is taken as it was drawn when the program was built.
+// colour. It reads the drawing when it is first shown, and needs no plugin for that. At the sizes
+// of the rail a one-coloured drawing is taken as it was drawn when the program was built.
 class drawn_icon_engine final : public QIconEngine {
   public:
     drawn_icon_engine(QString path, bool tinted) : path_(std::move(path)), tinted_(tinted) {}
@@ -69,12 +69,11 @@ class drawn_icon_engine final : public QIconEngine {
     }
 
     QImage drawn_before(const QSize& size) const {
-        const QResource mask(QString(path_).replace(
-            QLatin1String(".svg"), QStringLiteral("-%1.mask").arg(size.width())));
+        const QResource mask(QString(path_).replace(QLatin1String(".svg"),
+                                                    QStringLiteral("-%1.mask").arg(size.width())));
         if (mask.size() != qint64{size.width()} * size.height())
             return {};
-        return QImage(mask.data(), size.width(), size.height(), size.width(),
-                      QImage::Format_Alpha8)
+        return QImage(mask.data(), size.width(), size.height(), size.width(), QImage::Format_Alpha8)
             .convertToFormat(QImage::Format_ARGB32_Premultiplied);
     }
 

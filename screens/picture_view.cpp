@@ -28,9 +28,9 @@ void picture_view::set_image(const QImage& image, const QRect& changed) {
         return;
     }
     const double ratio = devicePixelRatioF();
-    update(QRectF(place.topLeft() + QPointF(changed.topLeft()) / ratio,
-                  QSizeF(changed.size()) / ratio)
-               .toAlignedRect());
+    update(
+        QRectF(place.topLeft() + QPointF(changed.topLeft()) / ratio, QSizeF(changed.size()) / ratio)
+            .toAlignedRect());
 }
 
 // Whether the picture is drawn for this place and is copied, not resampled.

@@ -24,7 +24,7 @@ namespace {
 constexpr char GEOMETRY_KEY[] = "window_geometry";
 constexpr QSize DEFAULT_SIZE{1100, 720};
 constexpr QSize SMALLEST_SIZE{800, 480}; // a screen of 1920 x 1080 at 200 %, with a panel
-constexpr QSize FRAME{8, 40}; // that a window manager adds, at most
+constexpr QSize FRAME{8, 40};            // that a window manager adds, at most
 constexpr int RAIL_WIDTH = 128;
 
 } // namespace

@@ -21,10 +21,11 @@ class chooser_on_show final : public QObject {
                              {{QStringLiteral("Paired"), true},
                               {QStringLiteral("UUIDs"), QStringList{SERIAL_PORT_UUID_TEXT}}});
             mock_.add_device("AA:BB:CC:11:22:33", "Wireless diagnostic adapter, workshop 2");
-            mock_.set_device(mock_.add_device("5C:F3:70:8A:01:02", "Headphones"),
-                             {{QStringLiteral("Paired"), true},
-                              {QStringLiteral("UUIDs"),
-                               QStringList{QStringLiteral("0000110b-0000-1000-8000-00805f9b34fb")}}});
+            mock_.set_device(
+                mock_.add_device("5C:F3:70:8A:01:02", "Headphones"),
+                {{QStringLiteral("Paired"), true},
+                 {QStringLiteral("UUIDs"),
+                  QStringList{QStringLiteral("0000110b-0000-1000-8000-00805f9b34fb")}}});
         }
         if (there.refuse)
             mock_.on_connect(refusing,

@@ -62,7 +62,8 @@ void check_names(const QWidget& window, complaints& told) {
         const bool has_text = button && !button->text().isEmpty();
         if (!has_text && widget->accessibleName().isEmpty() && !buddies.contains(widget))
             told.push_back(name_of(*widget) + " has no accessible name");
-        if (button && !has_text && widget->toolTip().isEmpty() && !qobject_cast<const QAbstractItemView*>(widget->parentWidget()))
+        if (button && !has_text && widget->toolTip().isEmpty() &&
+            !qobject_cast<const QAbstractItemView*>(widget->parentWidget()))
             told.push_back(name_of(*widget) + " has neither text nor tooltip");
     }
 }
@@ -70,7 +71,8 @@ void check_names(const QWidget& window, complaints& told) {
 void check_mnemonics(const QWidget& window, complaints& told) {
     std::map<QChar, QString> taken;
     const auto take = [&](const QString& text) {
-        const qsizetype mark = QString(text).replace(QLatin1String("&&"), QLatin1String("  ")).indexOf(u'&');
+        const qsizetype mark =
+            QString(text).replace(QLatin1String("&&"), QLatin1String("  ")).indexOf(u'&');
         if (mark < 0 || mark + 1 >= text.size())
             return;
         const auto [other, free] = taken.emplace(text[mark + 1].toLower(), text);
@@ -105,7 +107,8 @@ bool in_reading_order(const QRect& a, const QRect& b) {
 void check_tab_order(const QWidget& window, complaints& told) {
     const QWidget* start = nullptr;
     for (const QWidget* widget : visible(window))
-        if (takes_tab(*widget) && (!start || widget->mapTo(&window, QPoint()).y() < start->mapTo(&window, QPoint()).y()))
+        if (takes_tab(*widget) &&
+            (!start || widget->mapTo(&window, QPoint()).y() < start->mapTo(&window, QPoint()).y()))
             start = widget;
     std::vector<const QWidget*> chain;
     for (const QWidget* at = window.nextInFocusChain(); at && at != &window;
@@ -128,19 +131,24 @@ void check_labels(const QWidget& window, complaints& told) {
         const QSize room = label->contentsRect().size();
         const QString text = label->buddy() ? QString(label->text()).remove(u'&') : label->text();
         const int flags = (label->wordWrap() ? Qt::TextWordWrap : 0) | Qt::TextExpandTabs;
-        const QSize need = label->fontMetrics().boundingRect(QRect(QPoint(), QSize(room.width(), 10'000)), flags, text).size();
+        const QSize need =
+            label->fontMetrics()
+                .boundingRect(QRect(QPoint(), QSize(room.width(), 10'000)), flags, text)
+                .size();
         const bool whole_in_tooltip = !label->toolTip().isEmpty();
-        if (!whole_in_tooltip && (need.width() > room.width() + 1 || need.height() > room.height() + 1))
+        if (!whole_in_tooltip &&
+            (need.width() > room.width() + 1 || need.height() > room.height() + 1))
             told.push_back(name_of(*label) + " needs " + std::to_string(need.width()) + " x " +
-                           std::to_string(need.height()) + " and has " + std::to_string(room.width()) +
-                           " x " + std::to_string(room.height()) + ": " + text.toStdString());
+                           std::to_string(need.height()) + " and has " +
+                           std::to_string(room.width()) + " x " + std::to_string(room.height()) +
+                           ": " + text.toStdString());
     }
 }
 
 void check_buttons(const QWidget& window, complaints& told) {
     for (const QWidget* widget : visible(window)) {
-        if (!qobject_cast<const QAbstractButton*>(widget) && !qobject_cast<const QComboBox*>(widget) &&
-            !qobject_cast<const QGroupBox*>(widget))
+        if (!qobject_cast<const QAbstractButton*>(widget) &&
+            !qobject_cast<const QComboBox*>(widget) && !qobject_cast<const QGroupBox*>(widget))
             continue;
         if (widget->objectName().startsWith(QLatin1String("qt_")))
             continue;
@@ -193,8 +201,8 @@ void check_tables(const QWidget& window, complaints& told) {
 
 std::vector<std::string> broken_layout_rules(const QWidget& window) {
     complaints told;
-    for (const auto check : {check_names, check_mnemonics, check_tab_order, check_labels,
-                             check_buttons, check_tables})
+    for (const auto check :
+         {check_names, check_mnemonics, check_tab_order, check_labels, check_buttons, check_tables})
         check(window, told);
     std::ranges::sort(told);
     told.erase(std::ranges::unique(told).begin(), told.end());

@@ -1,7 +1,8 @@
 // kestrom-gallery: renders every state of the program to a picture and checks what holds for every
 // window. One run is one language, size, scale and palette; scripts/gallery runs it for each.
 //   kestrom-gallery --list
-//   kestrom-gallery [--language de] [--size 1024x600] [--scale 150] [--dark] [--check | --into FOLDER] [SCENE...]
+//   kestrom-gallery [--language de] [--size 1024x600] [--scale 150] [--dark] [--check | --into
+//   FOLDER] [SCENE...]
 // Exit status 1 when a rule is broken.
 #include "quick_style.h"
 #include "stage.h"
@@ -69,7 +70,8 @@ struct wanted {
 int show_all(const wanted& asked) {
     bool sound = true;
     for (const scene& each : scenes()) {
-        const QString name = QLatin1String(each.name.data(), static_cast<qsizetype>(each.name.size()));
+        const QString name =
+            QLatin1String(each.name.data(), static_cast<qsizetype>(each.name.size()));
         if (!asked.names.isEmpty() && !asked.names.contains(name))
             continue;
         stage on(each, asked.language, asked.size);
@@ -79,7 +81,8 @@ int show_all(const wanted& asked) {
             std::fprintf(stderr, "%s: %s\n", qPrintable(name), complaint.c_str());
             sound = false;
         }
-        if (!asked.folder.isEmpty() && !picture.save(asked.folder + u'/' + name + QStringLiteral(".png")))
+        if (!asked.folder.isEmpty() &&
+            !picture.save(asked.folder + u'/' + name + QStringLiteral(".png")))
             return 2;
     }
     return sound ? 0 : 1;

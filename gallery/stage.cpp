@@ -100,7 +100,8 @@ void stage::show_message(const alert_request& request) {
 void stage::hide_folder(QWidget& in) {
     for (QLabel* label : in.findChildren<QLabel*>())
         if (label->text().contains(app.folder.path()))
-            label->setText(QString(label->text()).replace(app.folder.path(), QLatin1String(ANY_HOME)));
+            label->setText(
+                QString(label->text()).replace(app.folder.path(), QLatin1String(ANY_HOME)));
 }
 
 void stage::take_picture(QWidget* dialog) {

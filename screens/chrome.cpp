@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QResource>
+#include <QStyle>
 #include <QStyledItemDelegate>
 #include <QSvgRenderer>
 #include <QTableView>
@@ -82,15 +83,29 @@ class drawn_icon_engine final : public QIconEngine {
     std::unique_ptr<QSvgRenderer> drawing_;
 };
 
-// Rows as high as their text needs between the paddings, which Qt forgets when it wraps lines.
+// Cells with air around their text. Not by a style sheet: that would forget the air when it wraps
+// lines, and keep its colours when the desktop's scheme changes.
 class padded_cells final : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        QStyleOptionViewItem narrow = option;
-        narrow.rect.setWidth(option.rect.width() - 2 * GRID);
-        return QStyledItemDelegate::sizeHint(narrow, index);
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
+        option.widget->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter,
+                                              option.widget);
+        cell.rect = inner(option.rect);
+        QStyledItemDelegate::paint(painter, cell, index);
     }
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QStyleOptionViewItem cell = option;
+        cell.rect = inner(option.rect);
+        return QStyledItemDelegate::sizeHint(cell, index) + QSize(GRID, GRID + GRID / 2);
+    }
+
+  private:
+    static QRect inner(const QRect& cell) { return cell.adjusted(GRID / 2, 0, -GRID / 2, 0); }
 };
 
 } // namespace
@@ -110,14 +125,11 @@ QString ui_text(Ks_lite_delegate& delegate, std::string_view key) {
 }
 
 void give_room(QTableView* table) {
-    table->setStyleSheet(QStringLiteral(
-        "QTableView::item { border: 0px solid; padding: 4px 8px; }"
-        "QHeaderView::section { padding: 4px 8px; border: none; border-bottom: 1px solid palette(mid);"
-        " background: palette(button); }"));
     table->setItemDelegate(new padded_cells(table));
     table->setTabKeyNavigation(false);
     table->verticalHeader()->hide();
     table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setFixedHeight(table->fontMetrics().height() + 2 * GRID);
 }
 
 void fit_column(QTableView* table, int column, const QString& widest) {

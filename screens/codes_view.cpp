@@ -63,8 +63,7 @@ codes_view::~codes_view() = default;
 void codes_view::build_buttons(QHBoxLayout* row) {
     auto make = [&](const char* name, const char* icon, std::string_view key,
                     std::function<void()>& call) {
-        auto* button =
-            new QPushButton(drawn_icon(icon), ui_text(delegate_, key), root());
+        auto* button = new QPushButton(drawn_icon(icon), ui_text(delegate_, key), root());
         button->setObjectName(QLatin1String(name));
         QObject::connect(button, &QPushButton::clicked, root(), [&call] { call(); });
         row->addWidget(button);
@@ -163,7 +162,8 @@ void codes_view::make_room_for_monitors() {
         table->fontMetrics().horizontalAdvance(QStringLiteral("Comprehensive")) + 4 * GRID;
     const QHeaderView* header = table->horizontalHeader();
     table->setMinimumWidth(header->sectionSize(0) + monitor + header->sectionSize(2) +
-                           table->verticalScrollBar()->sizeHint().width() + 2 * table->frameWidth());
+                           table->verticalScrollBar()->sizeHint().width() +
+                           2 * table->frameWidth());
 }
 
 void codes_view::show_codes(const std::vector<code_row>& rows) {

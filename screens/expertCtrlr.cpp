@@ -71,8 +71,7 @@ expertCtrlr::expertCtrlr(Ks_lite_delegate& delegate) : obd_screen(delegate) {
     recall_ = std::make_unique<command_recall>(cmdTxt);
     auto* label = new QLabel(ui_text(delegate, "ui_command_label"), root_.get());
     label->setBuddy(cmdTxt);
-    auto* send = new QPushButton(drawn_icon("send"), ui_text(delegate, "ui_send"),
-                                 root_.get());
+    auto* send = new QPushButton(drawn_icon("send"), ui_text(delegate, "ui_send"), root_.get());
     send->setObjectName(QStringLiteral("sendBtn"));
     row->addWidget(label);
     row->addWidget(cmdTxt, 1);

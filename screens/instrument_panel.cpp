@@ -19,8 +19,7 @@ double scale_in(QSizeF units, double width, double height) {
 // The picture's width counts; its height follows.
 QRect place(QSizeF units, double width, int left, int top) {
     const int whole = static_cast<int>(width);
-    return {left, top, whole,
-            static_cast<int>(std::ceil(whole * units.height() / units.width()))};
+    return {left, top, whole, static_cast<int>(std::ceil(whole * units.height() / units.width()))};
 }
 
 } // namespace
@@ -38,7 +37,8 @@ panel_layout lay_out_panel(QSize room, QSizeF chart, QSizeF dial, int dials, int
     layout.chart = place(chart, std::max(beside, below) * chart.width(), 0, 0);
     for (int i = 0; i < dials; ++i)
         if (beside >= below) { // as wide as the chart leaves room
-            const double width = std::min(room.width() - layout.chart.width() - double(gap), highest);
+            const double width =
+                std::min(room.width() - layout.chart.width() - double(gap), highest);
             const int left = room.width() - static_cast<int>(width);
             const int step = static_cast<int>(width / dial_aspect) + gap;
             layout.dials.push_back(place(dial, width, left, i * step));
@@ -63,8 +63,8 @@ void instrument_panel::rearrange() {
     std::vector<QWidget*> shown;
     std::copy_if(dials_.begin(), dials_.end(), std::back_inserter(shown),
                  [](const QWidget* dial) { return !dial->isHidden(); });
-    const panel_layout layout = lay_out_panel(size(), chart_units_, dial_units_,
-                                              static_cast<int>(shown.size()), 2 * GRID);
+    const panel_layout layout =
+        lay_out_panel(size(), chart_units_, dial_units_, static_cast<int>(shown.size()), 2 * GRID);
     chart_->setGeometry(layout.chart);
     for (std::size_t i = 0; i < shown.size(); ++i)
         shown[i]->setGeometry(layout.dials[i]);

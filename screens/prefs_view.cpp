@@ -180,7 +180,9 @@ QWidget* prefs_view::build_parameters() {
 }
 
 void prefs_view::select_wifi(bool wifi) {
-    (wifi ? wifi_ : bluetooth_)->setChecked(true);
+    QRadioButton* chosen = wifi ? wifi_ : bluetooth_;
+    chosen->setChecked(true);
+    root()->setFocusProxy(chosen);
 }
 bool prefs_view::wifi_selected() const {
     return wifi_->isChecked();

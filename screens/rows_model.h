@@ -33,9 +33,8 @@ class rows_model final : public QAbstractTableModel {
     QVariant data(const QModelIndex& index, int role) const override {
         if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole)
             return text_(index.row(), columns_[index.column()].identifier);
-        if (decorate &&
-            (role == Qt::FontRole || role == Qt::ForegroundRole || role == Qt::TextAlignmentRole ||
-             role == Qt::ToolTipRole))
+        if (decorate && (role == Qt::FontRole || role == Qt::ForegroundRole ||
+                         role == Qt::TextAlignmentRole || role == Qt::ToolTipRole))
             return decorate(index.row(), columns_[index.column()].identifier, role);
         return {};
     }

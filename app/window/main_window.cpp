@@ -24,8 +24,13 @@ namespace {
 constexpr char GEOMETRY_KEY[] = "window_geometry";
 constexpr QSize DEFAULT_SIZE{1100, 720};
 constexpr QSize SMALLEST_SIZE{800, 480}; // a screen of 1920 x 1080 at 200 %, with a panel
-constexpr QSize FRAME{8, 40}; // that a window manager adds, at most
+constexpr QSize FRAME{8, 40};            // that a window manager adds, at most
 constexpr int RAIL_WIDTH = 128;
+
+// Offscreen there is neither a real screen nor a place to remember.
+bool somebody_looks() {
+    return QGuiApplication::platformName() != QLatin1String("offscreen");
+}
 
 } // namespace
 
@@ -166,14 +171,14 @@ void main_window::restore_place() {
                        restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(stored)));
     const QRect room = screen()->availableGeometry();
     const QSize wanted = known ? size() : DEFAULT_SIZE;
-    resize(wanted.boundedTo(room.size() - FRAME));
+    resize(somebody_looks() ? wanted.boundedTo(room.size() - FRAME) : wanted);
     if (known && size() != wanted && !isMaximized() && !isFullScreen())
         move(room.topLeft());
 }
 
 void main_window::closeEvent(QCloseEvent* event) {
     // A window that nobody saw has no place to remember.
-    if (isVisible() && QGuiApplication::platformName() != QLatin1String("offscreen")) {
+    if (isVisible() && somebody_looks()) {
         delegate_.doors().defaults.set_string(GEOMETRY_KEY,
                                               saveGeometry().toBase64().toStdString());
         delegate_.doors().defaults.synchronize();

@@ -25,9 +25,10 @@ void widen_for(QMessageBox& box, qsizetype characters) {
     constexpr qsizetype LONG = 600;
     constexpr int WIDTH = 720, EDGES = 64;
     if (auto* grid = qobject_cast<QGridLayout*>(box.layout()); grid && characters > LONG)
-        grid->addItem(new QSpacerItem(std::min(WIDTH, box.screen()->availableSize().width() - EDGES),
-                                      0, QSizePolicy::Minimum, QSizePolicy::Fixed),
-                      grid->rowCount(), 0, 1, grid->columnCount());
+        grid->addItem(
+            new QSpacerItem(std::min(WIDTH, box.screen()->availableSize().width() - EDGES), 0,
+                            QSizePolicy::Minimum, QSizePolicy::Fixed),
+            grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 } // namespace

@@ -26,7 +26,8 @@ class app_harness {
   public:
     explicit app_harness(const std::function<void(user_defaults&)>& prepare = use_wifi,
                          const std::string& language = "en_GB")
-        : resources(":/kestrom", language), defaults(folder.filePath(QStringLiteral("settings.conf")).toStdString()) {
+        : resources(":/kestrom", language),
+          defaults(folder.filePath(QStringLiteral("settings.conf")).toStdString()) {
         reset_global_vars();
         prepare(defaults);
         mac_toolies::initialize({&resources, &defaults, &messages, &notifications,

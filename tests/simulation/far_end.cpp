@@ -1,5 +1,7 @@
 #include "far_end.h"
 
+#include "globalVars.h"
+
 #include <algorithm>
 
 using std::chrono::milliseconds;
@@ -47,6 +49,7 @@ class simulated_pair final : public stream_pair {
         return chunk;
     }
     void write(std::string_view bytes) override {
+        far_.expect_link_timer(std::chrono::seconds(g_this_delta));
         if (handler_ && connection_)
             far_.write(bytes);
     }
@@ -82,7 +85,7 @@ class simulated_pair final : public stream_pair {
     }
     template <class call>
     void later(milliseconds delay, call what) {
-        far_.loop().after(delay, [alive = std::weak_ptr<bool>(alive_), what] {
+        far_.after(delay, [alive = std::weak_ptr<bool>(alive_), what] {
             if (!alive.expired())
                 what();
         });
@@ -99,6 +102,7 @@ class simulated_pair final : public stream_pair {
 
 // Nothing comes back at once, whatever breaks off.
 constexpr milliseconds WIRE_TIME{10};
+constexpr milliseconds FIRST_COMMAND_OR_FAREWELL{1000};
 constexpr std::size_t LONGEST_TRICKLE = 1000;
 
 std::string with_rubbish(std::string bytes, int count, dice& choices) {
@@ -124,7 +128,35 @@ void far_end::plug_in(const car& the_car, adapter_options options) {
     held_.clear();
 }
 
+void far_end::after(milliseconds delay, std::function<void()> call) {
+    const milliseconds due = loop_.now() + delay;
+    own_timers_.insert(due);
+    loop_.after(delay, [this, due, call = std::move(call)] {
+        own_timers_.erase(own_timers_.find(due));
+        call();
+    });
+}
+
+// Those that the link arms for what has just happened.
+void far_end::expect_link_timer(milliseconds delay) {
+    link_timers_.insert(loop_.now() + delay);
+}
+
+std::vector<milliseconds> far_end::timers_of_others() const {
+    std::vector<milliseconds> others;
+    auto own = own_timers_;
+    loop_.for_each_armed([&](milliseconds due) {
+        if (const auto found = own.find(due); found != own.end())
+            own.erase(found);
+        else if (!link_timers_.contains(due))
+            others.push_back(due);
+    });
+    return others;
+}
+
 std::unique_ptr<stream_pair> far_end::make_streams(const std::string& host, long port) {
+    expect_link_timer(TCP_TIME_OUT);
+    expect_link_timer(std::chrono::seconds(g_this_delta)); // of a command that is dropped
     const bool reachable = host.starts_with("10.0.0.") && port >= 35000 && port <= 35009;
     return std::make_unique<simulated_pair>(*this, reachable);
 }
@@ -132,7 +164,10 @@ std::unique_ptr<stream_pair> far_end::make_streams(const std::string& host, long
 void far_end::serve(scripted_serial_port& door) {
     const auto open = std::make_shared<std::shared_ptr<client>>();
     door.when_opened = [this, &door, open] {
-        loop_.after(plan_.opening(), [this, &door, open, refused = plan_.refuses()] {
+        expect_link_timer(std::chrono::seconds(g_this_delta)); // of a command without a channel
+        after(plan_.opening(), [this, &door, open, refused = plan_.refuses()] {
+            expect_link_timer(FIRST_COMMAND_OR_FAREWELL);
+            expect_link_timer(std::chrono::seconds(g_this_delta));
             if (refused)
                 return door.channel.open_complete(111);
             *open = std::make_shared<client>();
@@ -140,7 +175,7 @@ void far_end::serve(scripted_serial_port& door) {
                 for (std::size_t at = 0; at < bytes.size();) {
                     const std::string part = bytes.substr(at, plan_.chunk(bytes.size() - at));
                     at += part.size();
-                    loop_.after(milliseconds(0), [this, &door, slot, part] {
+                    after(milliseconds(0), [this, &door, slot, part] {
                         book_.delivered(slot, part);
                         story_.note("<", part);
                         door.channel.data(part);
@@ -157,6 +192,7 @@ void far_end::serve(scripted_serial_port& door) {
     };
     door.when_written = [this, &door, open](std::string_view bytes) {
         door.written.clear();
+        expect_link_timer(std::chrono::seconds(g_this_delta));
         if (*open || plan_.early_write_arrives())
             write(bytes);
     };
@@ -164,6 +200,7 @@ void far_end::serve(scripted_serial_port& door) {
 
 void far_end::connect(const std::shared_ptr<client>& who) {
     client_ = who;
+    expect_link_timer(FIRST_COMMAND_OR_FAREWELL);
     ++connection_;
     wire_free_ = loop_.now();
     mid_reply_ = false;
@@ -174,6 +211,7 @@ void far_end::connect(const std::shared_ptr<client>& who) {
 
 void far_end::write(std::string_view bytes) {
     story_.note(">", bytes);
+    expect_link_timer(std::chrono::seconds(g_this_delta));
     story_.expect(!must_be_silent(), "no step runs while an alert is open",
                   "sent: " + std::string(bytes));
     slot_ = book_.written(bytes, car_);
@@ -195,7 +233,7 @@ void far_end::pump() {
         apply_fate(bytes);
     }
     if (const auto due = adapter_->next_output())
-        loop_.after(*due - loop_.now(), [this] { pump(); });
+        after(*due - loop_.now(), [this] { pump(); });
 }
 
 void far_end::apply_fate(std::string bytes) {
@@ -220,13 +258,21 @@ void far_end::apply_fate(std::string bytes) {
     held_ += bytes;
     if (!held_.ends_with('>'))
         return;
-    const auto whole = [this, slot = slot_, reply = held_, on = connection_] {
-        arrive(slot, reply, on);
-    };
-    loop_.after(WIRE_TIME + fate_.delay, whole);
+    send_whole(slot_, held_, fate_.delay);
     if (fate_.twice_after >= 0)
-        loop_.after(WIRE_TIME + fate_.delay + milliseconds(fate_.twice_after), whole);
+        send_whole(slot_, held_, fate_.delay + milliseconds(fate_.twice_after));
     held_.clear();
+}
+
+// Out of turn, but no two at once: what answers everything twice would soon drown us in answers.
+void far_end::send_whole(std::size_t slot, const std::string& reply, milliseconds delay) {
+    milliseconds due = loop_.now() + WIRE_TIME + delay;
+    while (!wholes_due_.insert(due).second)
+        due += WIRE_TIME;
+    after(due - loop_.now(), [this, slot, reply, due, on = connection_] {
+        wholes_due_.erase(due);
+        arrive(slot, reply, on);
+    });
 }
 
 // In its turn behind what is on the wire.
@@ -237,7 +283,7 @@ void far_end::send(std::size_t slot, std::string bytes, milliseconds delay) {
     wire_free_ = std::max(wire_free_, loop_.now() + WIRE_TIME + delay);
     for (std::size_t at = 0; at < bytes.size(); at += length) {
         wire_free_ += at > 0 ? step : milliseconds(0);
-        loop_.after(wire_free_ - loop_.now(),
+        after(wire_free_ - loop_.now(),
                     [this, slot, part = bytes.substr(at, length), on = connection_] {
                         arrive(slot, part, on);
                     });
@@ -270,6 +316,7 @@ void far_end::hang_up() {
     story_.note("!", "far end hangs up");
     const auto who = client_.lock();
     client_.reset();
+    expect_link_timer(FIRST_COMMAND_OR_FAREWELL);
     if (who)
         who->closed();
 }

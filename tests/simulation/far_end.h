@@ -13,6 +13,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 
 class far_end {
@@ -35,10 +36,14 @@ class far_end {
     void hang_up();
     void chatter(std::string bytes) { send(ledger::NOBODY, std::move(bytes), {}); }
 
+    // Timers that are neither the wire's nor the link's.
+    std::vector<std::chrono::milliseconds> timers_of_others() const;
+    void expect_link_timer(std::chrono::milliseconds delay);
+
     const car& the_car() const { return car_; }
     int open_pairs() const { return open_pairs_; }
     fault_plan& plan() { return plan_; }
-    virtual_run_loop& loop() { return loop_; }
+    void after(std::chrono::milliseconds delay, std::function<void()> call);
     ledger& book() { return book_; }
     trace& story() { return story_; }
 
@@ -53,6 +58,7 @@ class far_end {
     void pump();
     void apply_fate(std::string bytes);
     void send(std::size_t slot, std::string bytes, run_loop::milliseconds delay);
+    void send_whole(std::size_t slot, const std::string& reply, run_loop::milliseconds delay);
     void arrive(std::size_t slot, const std::string& bytes, int connection);
 
     virtual_run_loop& loop_;
@@ -70,6 +76,9 @@ class far_end {
     run_loop::milliseconds wire_free_{0};
     std::size_t arriving_ = ledger::NOBODY; // whose answer came last
     bool mid_reply_ = false;                // and has not come to its prompt
+    std::set<run_loop::milliseconds> wholes_due_;
+    std::multiset<std::chrono::milliseconds> own_timers_;
+    std::set<std::chrono::milliseconds> link_timers_;
     int open_pairs_ = 0;
     int connection_ = 0; // counts them: what is under way on one does not reach the next
 };

@@ -277,6 +277,8 @@ void promises::come_to_rest() {
 }
 
 void promises::nothing_outlives_its_screen() {
+    for (const milliseconds due : app_.far.timers_of_others())
+        app_.story.broken(NOTHING_LEFT, "a timer is armed for " + std::to_string(due.count()));
     std::error_code failed;
     for (std::filesystem::directory_iterator entry("/proc/self/fd", failed), end;
          !failed && entry != end; entry.increment(failed)) {

@@ -48,6 +48,7 @@ void random_user::answer_dialogs() {
         app_.story.note("alert", "device chooser");
         if (dice_.happens(50))
             app_.loop.advance(dice_.time(0, 8000));
+        app_.far.expect_link_timer(std::chrono::seconds(g_this_delta)); // a command without channel
         app_.bluetooth.selector_result = dice_.happens(80) ? SELECTOR_SUCCESS : -1001;
         app_.bluetooth.nothing_selected = dice_.happens(3);
         app_.bluetooth.no_service_record = dice_.happens(3);
@@ -78,6 +79,14 @@ void random_user::act() {
 }
 
 void random_user::switch_screen() {
+    show_some_screen();
+    app_.loop.settle();
+    if (const std::string& now = app_.delegate->current_screen_name();
+        now == PREFS_VIEW || now == EXPERT_VIEW) // neither has timers or files of its own
+        promises_.nothing_outlives_its_screen();
+}
+
+void random_user::show_some_screen() {
     switch (dice_.below(10)) {
     case 0:
     case 1:

@@ -19,6 +19,7 @@ class random_user {
 
   private:
     void switch_screen();
+    void show_some_screen();
     void use_codes();
     void use_live_data();
     void use_preferences();

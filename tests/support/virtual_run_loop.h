@@ -26,6 +26,11 @@ class virtual_run_loop final : public run_loop {
     }
     // Delivers what is due now.
     void settle() { advance(milliseconds(0)); }
+    template <class call>
+    void for_each_armed(call tell) const {
+        for (const auto& entry : armed_)
+            tell(entry.first.first);
+    }
     bool anything_armed() const { return !armed_.empty(); }
     // When the next call falls due.
     milliseconds next_due() const { return armed_.begin()->first.first; }

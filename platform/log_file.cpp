@@ -4,6 +4,7 @@
 #include <condition_variable>
 #include <fcntl.h>
 #include <mutex>
+#include <sys/stat.h>
 #include <system_error>
 #include <thread>
 #include <unistd.h>
@@ -126,6 +127,9 @@ std::optional<std::string> log_file::append_line(std::string_view lines) {
         return std::nullopt;
     if (const int error = flusher_->error())
         return fail(error);
+    struct stat there {};
+    if (::fstat(fd_, &there) == 0 && there.st_nlink == 0)
+        return fail(ENOENT); // somebody has removed it: what is written is lost
     const off_t end = ::lseek(fd_, 0, SEEK_END);
     if (const int error = write_whole(fd_, lines)) {
         // A device has no length to go back to.

@@ -27,8 +27,8 @@ class log_file {
                                       existing file_there = existing::replace);
 
     // Appends `lines`, whole lines with their ends, all or nothing: when they cannot be written,
-    // or the disk failed earlier lines, the file is cut back to where it stood and closed, and the
-    // reason returned. What is appended to a closed file goes nowhere, without an error.
+    // the disk failed earlier lines or the file has been removed, the file is cut back to where it
+    // stood and closed, and the reason returned. What is appended to a closed file goes nowhere, without an error.
     std::optional<std::string> append_line(std::string_view lines);
 
     // Waits until all is on disk. The reason when the disk failed.

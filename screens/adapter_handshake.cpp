@@ -2,6 +2,7 @@
 
 #include "globalVars.h"
 #include "obd_screen.h"
+#include "reply_lines.h"
 #include "text.h"
 
 #include <exception>
@@ -39,6 +40,15 @@ int control_units_in(std::string_view bare_reply) {
         if (contains(line, "4100"))
             answers.insert(line);
     return static_cast<int>(answers.size());
+}
+
+// Which bus the first whole answer to "01 00" came from.
+void note_bus_form(std::string_view bare_reply) {
+    for (const std::string& line : reply_lines(bare_reply))
+        if (is_hex(line) && contains(line, "4100")) {
+            g_bus_form = has_can_header(line, "4100") ? bus_form::can : bus_form::older;
+            return;
+        }
 }
 
 } // namespace
@@ -259,6 +269,7 @@ void adapter_handshake::pids_answered(const pid_group& group) {
         const std::string bare = without(without(reply, " "), ">");
         mac_toolies::handle_00_replies(bare, group.number);
         if (first) {
+            note_bus_form(bare);
             const int units = control_units_in(bare);
             screen_.cur_err_msg = "No of ECUS: " + std::to_string(units);
             screen_.show_control_units(units);

@@ -164,8 +164,7 @@ bool whole_answer(std::string_view reply, std::string_view pid) {
     const std::size_t bytes = number < DATA_BYTES.size()
                                   ? static_cast<std::size_t>(DATA_BYTES[number] - '0')
                                   : data.size() / 2;
-    const bool sensor_without_trim = number >= 0x14 && number <= 0x1B && data.size() == 2;
-    return data.size() == 2 * bytes || sensor_without_trim;
+    return data.size() == 2 * bytes;
 }
 
 std::vector<sample_request>

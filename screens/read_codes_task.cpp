@@ -29,10 +29,6 @@ std::string status_data(std::string_view line) {
     return mac_toolies::pull_PID_msg(line, "01", "").value_or(std::string());
 }
 
-bool has_can_header(std::string_view line) {
-    return line.starts_with("7E") || marker_behind_29_bit_header(line, "4101", "4101");
-}
-
 // Whether the adapter's answer to "AT DP" tells which bus it talks on; "AUTO" alone does not.
 bool names_a_bus(std::string_view protocol) {
     return contains(protocol, "ISO") || contains(protocol, "SAE") || contains(protocol, "J1") ||
@@ -190,7 +186,7 @@ void readCodes::decode_status(const std::string& screened_reply) {
             continue;
         }
         status_told_ = true;
-        status_answer_was_can_ = status_answer_was_can_ || has_can_header(line);
+        status_answer_was_can_ = status_answer_was_can_ || has_can_header(line, "4101");
         const unsigned byte_a = mac_toolies::convertStr2Byte(std::string_view(data).substr(4, 2));
         const bool unit_lamp = (byte_a & 0x80u) != 0;
         if (contains(mac_toolies::pull_ECU(line), "Engine") ||
@@ -218,8 +214,9 @@ std::vector<std::string>
 readCodes::work_reply_to_error_codes_pid(std::string_view mode, std::string_view this_reply) const {
     // The protocol text is the first answer to "AT DP": it may be "AUTO" from before the bus was
     // found, or of the car that the adapter sat in before. The headers of this task's status answer
-    // know better.
-    const bool is_can = status_told_                  ? status_answer_was_can_
+    // know better, and those of the handshake.
+    const bool is_can = status_told_                        ? status_answer_was_can_
+                        : g_bus_form != bus_form::unknown ? g_bus_form == bus_form::can
                         : names_a_bus(g_cur_protocol) ? g_cur_protocol.contains("CAN")
                                                       : looks_like_can(this_reply);
     return mac_toolies::decode_trouble_codes(mode, this_reply, is_can);

@@ -38,6 +38,10 @@ bool marker_behind_29_bit_header(std::string_view line, std::string_view marker,
     return slice(line, 10, 4) == marker && slice(line, 6, 4) != other;
 }
 
+bool has_can_header(std::string_view line, std::string_view marker) {
+    return line.starts_with("7E") || marker_behind_29_bit_header(line, marker, marker);
+}
+
 bool has_29_bit_header(std::string_view line) {
     // The markers that rule a line out are the ones that stand in the field, two of them not their
     // own.

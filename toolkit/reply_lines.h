@@ -18,6 +18,9 @@ std::vector<std::string> reply_lines(std::string_view reply);
 bool marker_behind_29_bit_header(std::string_view line, std::string_view marker,
                                  std::string_view other);
 
+// Whether a spaceless line carries a CAN header, of either length, in front of the marker.
+bool has_can_header(std::string_view line, std::string_view marker);
+
 // Whether a spaceless line carries a 29-bit CAN header, as far as the answers to "01 00", "01 01",
 // "01 20" and "01 30" tell it.
 bool has_29_bit_header(std::string_view line);

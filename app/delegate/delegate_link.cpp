@@ -60,6 +60,7 @@ void Ks_lite_delegate::tell_link_lost() {
 void Ks_lite_delegate::adapter_changed() {
     connected_2_KS_interface = false;
     g_cur_protocol.clear();
+    g_bus_form = bus_form::unknown;
     connected_2_WIFI_interface = false;
     disconnect(); // an attempt that still runs is to the old address as well
 }

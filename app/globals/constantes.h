@@ -20,6 +20,9 @@ inline constexpr int S_FAIL = -1;
 inline constexpr int S_SUCCESS = 2;
 inline constexpr int S_LOGGING = 3;
 
+// The kind of bus that the headers of an answer have told.
+enum class bus_form { unknown, can, older };
+
 inline constexpr std::chrono::seconds TCP_TIME_OUT{25};
 
 // Values of g_cur_task and g_cur_mode.

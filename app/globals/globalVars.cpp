@@ -21,6 +21,7 @@ bool connected_2_KS_interface = false;
 bool KS_did_connect_2_car = false;
 bounded_text<40> g_cur_interface;
 bounded_text<80> g_cur_protocol;
+bus_form g_bus_form = bus_form::unknown;
 bounded_text<16> g_Supported_obd_mask_0;
 bounded_text<16> g_Supported_obd_mask_1;
 bounded_text<16> g_Supported_obd_mask_2;
@@ -53,6 +54,7 @@ void reset_global_vars() {
     KS_did_connect_2_car = false;
     g_cur_interface.clear();
     g_cur_protocol.clear();
+    g_bus_form = bus_form::unknown;
     g_Supported_obd_mask_0.clear();
     g_Supported_obd_mask_1.clear();
     g_Supported_obd_mask_2.clear();

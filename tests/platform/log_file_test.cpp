@@ -66,6 +66,14 @@ TEST_F(log_file_test, no_half_line_stays_when_the_disk_is_full) {
     EXPECT_EQ(log.append_line("line\n"), "No space left on device");
 }
 
+TEST_F(log_file_test, a_file_that_is_removed_meanwhile_takes_no_more_lines) {
+    log_file log;
+    ASSERT_EQ(log.create(path()), std::nullopt);
+    ASSERT_EQ(std::remove(path().c_str()), 0);
+    EXPECT_EQ(log.append_line("line\n"), "No such file or directory");
+    EXPECT_FALSE(log.is_open());
+}
+
 // Every line that was announced is in the file, and nothing but whole lines.
 TEST_F(log_file_test, lines_survive_a_kill_of_the_process) {
     for (int round = 0; round < 20; ++round) {

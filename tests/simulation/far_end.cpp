@@ -182,9 +182,12 @@ void far_end::serve(scripted_serial_port& door) {
                     });
                 }
             };
-            (*open)->closed = [&door, open] {
+            (*open)->closed = [this, &door, open] {
                 open->reset();
-                door.drop();
+                after(milliseconds(0), [this, &door] {
+                    expect_link_timer(FIRST_COMMAND_OR_FAREWELL);
+                    door.channel.closed();
+                });
             };
             connect(*open);
             door.channel.open_complete(0);

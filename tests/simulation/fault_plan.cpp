@@ -5,6 +5,10 @@
 
 using std::chrono::milliseconds;
 
+namespace {
+constexpr std::size_t LONGEST_SPLIT = 4096; // a flood comes in whole buffers
+}
+
 fault_plan::fault_plan(std::uint64_t seed) : dice_(seed) {
     if (dice_.happens(15))
         return; // a day without faults
@@ -70,7 +74,7 @@ reply_fate fault_plan::next_reply() {
 }
 
 std::size_t fault_plan::chunk(std::size_t waiting) {
-    if (!dice_.happens(split_))
+    if (!dice_.happens(split_) || waiting > LONGEST_SPLIT)
         return waiting;
     const int wanted = dice_.happens(50) ? 1 : dice_.between(1, 12);
     return std::min(waiting, static_cast<std::size_t>(wanted));

@@ -32,7 +32,7 @@ class promises {
     void shows(const truth& car);
 
     // Somebody else has touched the logs of the folder: nothing is known of them any more.
-    void forget_logs() { logs_.clear(); }
+    void forget_logs();
     // The button of the live-data screen has started a run.
     void run_begins();
     // Of the trouble-codes screen: a task begins.
@@ -55,6 +55,7 @@ class promises {
     struct run_record {
         std::string lines;
         bool failed = false;
+        bool removed = false;
     };
 
     application& app_;

@@ -116,6 +116,8 @@ void random_user::press(const char* name) {
     if (!button || button->isHidden() || !button->isEnabled())
         return;
     app_.story.note("user", name);
+    if (!app_.bluetooth.open_leaves_channel) // a command goes nowhere, its time-out is armed
+        app_.far.expect_link_timer(std::chrono::seconds(g_this_delta));
     button->click();
 }
 

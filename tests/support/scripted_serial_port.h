@@ -92,9 +92,10 @@ class scripted_serial_port final : public serial_port_profile {
             ++script.opens;
             script.opened_channel_id = channel_id;
             script.channel = std::move(delegate);
-            if (script.open_leaves_channel)
+            if (script.open_leaves_channel) {
                 channel = std::make_shared<wire>(script);
-            script.when_opened();
+                script.when_opened();
+            }
             return script.open_error;
         }
         int closeConnection() override {

@@ -54,17 +54,21 @@ std::string last_reply_with(std::string_view marker, const std::string& replies)
     return found;
 }
 
-// Without the lines that the adapter marks as damaged ("<DATA ERROR"), and on the older buses those
-// that are longer than a message: another answer has run into them.
+// Without the lines that the adapter marks as damaged ("<DATA ERROR"). On the older buses also
+// without those that are longer than a message, since another answer has run into them, and without
+// the rest of a code whose other digits are lost.
 std::string trustworthy_lines(std::string_view reply, bool is_can) {
-    constexpr std::size_t LONGEST_MESSAGE = 14;
+    constexpr std::size_t SHORTEST_MESSAGE = 6, LONGEST_MESSAGE = 14; // digits
     std::string left;
     for (const std::string_view line : split(reply, "\r")) {
-        const std::string digits = without(without(line, "\n"), ">");
-        const bool too_long =
-            !is_can && digits.starts_with("43") && digits.size() > LONGEST_MESSAGE;
-        if (!too_long && !contains(line, "<"))
-            left.append(line).append("\r");
+        std::string digits = without(without(line, "\n"), ">");
+        if (!is_can && digits.starts_with("43")) {
+            if (digits.size() < SHORTEST_MESSAGE || digits.size() > LONGEST_MESSAGE)
+                continue;
+            digits.resize(digits.size() - (digits.size() - 2) % 4);
+        }
+        if (!contains(line, "<"))
+            left.append(digits).append("\r");
     }
     return left;
 }

@@ -54,6 +54,25 @@ std::string last_reply_with(std::string_view marker, const std::string& replies)
     return found;
 }
 
+// Without the lines that the adapter marks as damaged ("<DATA ERROR"). On the older buses also
+// without those that are longer than a message, since another answer has run into them, and without
+// the rest of a code whose other digits are lost.
+std::string trustworthy_lines(std::string_view reply, bool is_can) {
+    constexpr std::size_t SHORTEST_MESSAGE = 6, LONGEST_MESSAGE = 14; // digits
+    std::string left;
+    for (const std::string_view line : split(reply, "\r")) {
+        std::string digits = without(without(line, "\n"), ">");
+        if (!is_can && digits.starts_with("43")) {
+            if (digits.size() < SHORTEST_MESSAGE || digits.size() > LONGEST_MESSAGE)
+                continue;
+            digits.resize(digits.size() - (digits.size() - 2) % 4);
+        }
+        if (!contains(line, "<"))
+            left.append(digits).append("\r");
+    }
+    return left;
+}
+
 constexpr std::size_t SHORTEST_ANSWER = 12; // digits of header, "4101" and byte A
 constexpr int MOST_HEADER_REPEATS = 12; // in one task
 
@@ -170,7 +189,7 @@ void readCodes::decode_status(const std::string& screened_reply) {
     };
     // Short words are notices; anything else may have been a unit's answer.
     const bool all_readable =
-        !contains(screened_reply, "<") && std::ranges::none_of(lines, [&](const auto& line) {
+        std::ranges::none_of(lines, [&](const auto& line) {
             return !readable(line) && (line.size() >= SHORTEST_ANSWER || is_hex(line));
         });
     const auto answers = std::ranges::count_if(lines, readable);
@@ -219,7 +238,7 @@ readCodes::work_reply_to_error_codes_pid(std::string_view mode, std::string_view
                         : g_bus_form != bus_form::unknown ? g_bus_form == bus_form::can
                         : names_a_bus(g_cur_protocol) ? g_cur_protocol.contains("CAN")
                                                       : looks_like_can(this_reply);
-    return mac_toolies::decode_trouble_codes(mode, this_reply, is_can);
+    return mac_toolies::decode_trouble_codes(mode, trustworthy_lines(this_reply, is_can), is_can);
 }
 
 void readCodes::codes_answered() {

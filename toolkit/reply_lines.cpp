@@ -6,7 +6,6 @@ namespace {
 
 constexpr std::string_view REPLY_NOISE{" \n>\0", 4};
 constexpr std::string_view SEARCH_DOTS = "...";
-constexpr std::string_view DAMAGED = "<"; // "<DATA ERROR", "<RX ERROR" behind a line's bytes
 constexpr std::string_view BUS_NOTICE = "BUSINIT:"; // "BUS INIT: " without its blanks
 
 std::string_view without_notices(std::string_view line) {
@@ -27,8 +26,7 @@ std::vector<std::string> reply_lines(std::string_view reply) {
     const std::string text = without(reply, REPLY_NOISE);
     std::vector<std::string> lines;
     for (const std::string_view line : split(text, "\r"))
-        if (const std::string_view data = without_notices(line);
-            !data.empty() && data.find(DAMAGED) == data.npos)
+        if (const std::string_view data = without_notices(line); !data.empty())
             lines.emplace_back(data);
     return lines;
 }

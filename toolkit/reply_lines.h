@@ -8,8 +8,7 @@
 
 // The lines of a reply that carry something, without blanks: the prompt, line feeds and stray NULs
 // (an adapter may insert them) are noise, and search and bus-initialisation notices
-// ("SEARCHING...", "BUS INIT: ...OK") are left out, also when data follows them on their line, and
-// so are lines that the adapter marks as damaged on the bus.
+// ("SEARCHING...", "BUS INIT: ...OK") are left out, also when data follows them on their line.
 std::vector<std::string> reply_lines(std::string_view reply);
 
 // Whether `marker` stands where data begins behind a 29-bit CAN header (ISO 15765-4: eight digits,

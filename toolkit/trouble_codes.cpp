@@ -96,8 +96,6 @@ bool has_decimal_value(std::string_view digits) {
 // Three codes to a line, filled up with zeros. The first place is always read, the others only with
 // a decimal value.
 void decode_line(std::string_view line, std::vector<std::string>& codes) {
-    if (line.size() > 2 + 3 * CODE_DIGITS)
-        return; // another answer has run into it
     const std::string padded = mac_toolies::padString(line, '0', 14, true);
     const std::string_view groups = std::string_view(padded).substr(2);
     if (!add_code(groups.substr(0, CODE_DIGITS), codes))

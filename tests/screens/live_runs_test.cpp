@@ -251,4 +251,19 @@ TEST(live_runs, stop_at_any_moment_and_start_again) {
         }
 }
 
+// What lost or gained bytes on the way would read as another value.
+TEST(live_answers, count_only_whole) {
+    const struct {
+        const char* reply;
+        const char* pid;
+        bool whole;
+    } cases[] = {{"410C1AF8", "0C", true},          {"410D64", "0d", true},
+                 {"410C1A", "0C", false},           {"410C1AF", "0C", false},
+                 {"410D6400", "0D", false},         {"410D", "0D", false},
+                 {"410C1A<DATAERROR", "0C", false}, {"2410D64", "0D", false},
+                 {"41158F", "15", false},           {"41710102", "71", true}};
+    for (const auto& c : cases)
+        EXPECT_EQ(whole_answer(c.reply, c.pid), c.whole) << c.reply;
+}
+
 } // namespace

@@ -51,7 +51,8 @@ TEST(trouble_codes, older_buses_tell_three_codes_a_line) {
         {"no data", "NO DATA\r\r>", {}},
         {"refused", "7F 03 11\r\r>", {}},
         {"one unit refuses", "7F 03 11\r43 01 33 00 00 00 00\r\r>", {"P0133"}},
-        {"broken line", "43 01 33 <DATA ERROR\r\r>", {}},
+        {"broken line", "43 01 33 <DATA ERROR\r\r>", {"P0133"}},
+        {"broken in the middle", "43 01 33 0? 20 04 20\r\r>", {"P0133"}},
         {"stray nul", "43 01 3\0003 00 00\r\r>"sv, {"P0133"}},
         {"rubbish", "43\xFF\x01:..>>\r\xC3\r:\r", {}},
         {"empty", "", {}},
@@ -73,7 +74,7 @@ TEST(trouble_codes, can_tells_the_number_of_codes_first) {
         {"no data", "NO DATA\r\r>", {}},
         {"refused by one", "7F 03 11\r43 01 07 00\r\r>", {"P0700"}},
         {"notice and echo", "03\rSEARCHING...\r43 01 01 33\r\r>", {"P0133"}},
-        {"broken line", "43 02 01 33 <RX ERROR\r\r>", {}},
+        {"broken line", "43 02 01 33 <RX ERROR\r\r>", {"P0133"}},
     };
     for (const reply_case& row : cases)
         EXPECT_EQ(toolkit::decode_trouble_codes("03", row.reply, true), row.expected) << row.name;
@@ -82,6 +83,8 @@ TEST(trouble_codes, can_tells_the_number_of_codes_first) {
 TEST(trouble_codes, numbered_frames_are_gathered_unit_by_unit) {
     const codes four{"P0133", "P0220", "P0300", "P0420"};
     const reply_case cases[] = {
+        {"another answer run into a frame", "00A \r0: 43 04 01 33 02 20\r1: 03 00 7E8 06 41 01 9E 37\r>",
+         {"P0133", "P0220"}},
         {"one unit", "00A \r0: 43 04 01 33 02 20\r1: 03 00 04 20 00 00 00\r\r>", four},
         {"line feeds", "\n00A \r\n0: 43 04 01 33 02 20 \r\n1: 03 00 04 20 00 00 00\r\n\r\n>", four},
         {"echo and notice", "03\rSEARCHING...\r00A\r0:430401330220\r1:03000420000000\r\r>", four},

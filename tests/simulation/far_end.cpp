@@ -162,16 +162,15 @@ std::unique_ptr<stream_pair> far_end::make_streams(const std::string& host, long
 }
 
 void far_end::serve(scripted_serial_port& door) {
-    const auto open = std::make_shared<std::shared_ptr<client>>();
-    door.when_opened = [this, &door, open] {
+    door.when_opened = [this, &door] {
         expect_link_timer(std::chrono::seconds(g_this_delta)); // of a command without a channel
-        after(plan_.opening(), [this, &door, open, refused = plan_.refuses()] {
+        after(plan_.opening(), [this, &door, refused = plan_.refuses()] {
             expect_link_timer(FIRST_COMMAND_OR_FAREWELL);
             expect_link_timer(std::chrono::seconds(g_this_delta));
             if (refused)
                 return door.channel.open_complete(111);
-            *open = std::make_shared<client>();
-            (*open)->take = [this, &door, open](std::size_t slot, const std::string& bytes) {
+            channel_ = std::make_shared<client>();
+            channel_->take = [this, &door](std::size_t slot, const std::string& bytes) {
                 for (std::size_t at = 0; at < bytes.size();) {
                     const std::string part = bytes.substr(at, plan_.chunk(bytes.size() - at));
                     at += part.size();
@@ -182,21 +181,21 @@ void far_end::serve(scripted_serial_port& door) {
                     });
                 }
             };
-            (*open)->closed = [this, &door, open] {
-                open->reset();
+            channel_->closed = [this, &door] {
+                channel_.reset();
                 after(milliseconds(0), [this, &door] {
                     expect_link_timer(FIRST_COMMAND_OR_FAREWELL);
                     door.channel.closed();
                 });
             };
-            connect(*open);
+            connect(channel_);
             door.channel.open_complete(0);
         });
     };
-    door.when_written = [this, &door, open](std::string_view bytes) {
+    door.when_written = [this, &door](std::string_view bytes) {
         door.written.clear();
         expect_link_timer(std::chrono::seconds(g_this_delta));
-        if (*open || plan_.early_write_arrives())
+        if (channel_ || plan_.early_write_arrives())
             write(bytes);
     };
 }

@@ -69,6 +69,7 @@ class far_end {
     adapter_options options_;
     std::optional<virtual_adapter> adapter_;
     std::weak_ptr<client> client_;
+    std::shared_ptr<client> channel_; // while a Bluetooth channel is open
     std::size_t slot_ = ledger::NOBODY; // whose answer the adapter is giving
     reply_fate fate_;
     std::string held_; // of an overtaken or doubled reply, until its prompt

@@ -6,7 +6,9 @@
 #include "chart_command.h"
 #include "command_line.h"
 #include "command_runner.h"
+#include "commands.h"
 #include "console_alerts.h"
+#include "conversation_recorder.h"
 #include "decode_command.h"
 #include "export_command.h"
 #include "globalVars.h"
@@ -14,9 +16,11 @@
 #include "mac_toolies.h"
 #include "main_window.h"
 #include "message_box_alerts.h"
+#include "progress_line.h"
 #include "qt_run_loop.h"
 #include "quick_style.h"
 #include "quit_signals.h"
+#include "recorded_doors.h"
 #include "screen_factories.h"
 #include "serial_port_profile.h"
 #include "tcp_adapter_server.h"
@@ -25,6 +29,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -157,10 +162,40 @@ int scan_for_bluetooth(int argc, char** argv, const cli_request& asked) {
     return run_bluetooth_scan(devices, resources, seconds, asked.json, std::cout, std::cerr);
 }
 
-int run(QApplication& application, const cli_request& asked) {
-    std::optional<QTemporaryDir> scratch;
+// The doors to adapters as the command line asks for them: with a recorder listening, or bare.
+struct link_doors {
+    stream_pair_factory make_streams;
+    std::unique_ptr<serial_port_profile> bluetooth;
+    std::unique_ptr<serial_port_profile> recorded_bluetooth;
+
+    serial_port_profile& serial_port() {
+        return *(recorded_bluetooth ? recorded_bluetooth : bluetooth);
+    }
+    void record(conversation_recorder& recorder) {
+        make_streams = recorded_streams(std::move(make_streams), recorder);
+        recorded_bluetooth = recorded_serial_port(*bluetooth, recorder);
+    }
+};
+
+// No, with the reason told, when the file cannot be made.
+bool start_recording(conversation_recorder& recorder, const cli_request& asked, int interface) {
+    const std::string& path = *asked.record;
+    const char* adapter = asked.demo ? "demo" : interface == KS_USE_BT ? "bluetooth" : "wifi";
+    recorder.stopped = [path](const std::string& why) {
+        clear_progress();
+        std::fprintf(stderr, "kestrom: the recording %s ends here: %s\n", path.c_str(),
+                     why.c_str());
+    };
+    const auto failure = recorder.start(path, KESTROM_VERSION, adapter);
+    if (failure)
+        std::fprintf(stderr, "kestrom: cannot record to %s: %s\n", path.c_str(), failure->c_str());
+    return !failure;
+}
+
+// Puts the command line's choices into the store; answers the demo's car.
+std::unique_ptr<tcp_adapter_server> use_what_is_asked(user_defaults& defaults,
+                                                      const cli_request& asked) {
     std::unique_ptr<tcp_adapter_server> car;
-    user_defaults defaults(settings_path(asked, scratch));
     if (asked.demo) {
         car = start_demo_car(asked.demo_car);
         use_adapter(defaults, "127.0.0.1", std::to_string(car->port()));
@@ -171,6 +206,13 @@ int run(QApplication& application, const cli_request& asked) {
     }
     if (asked.command == "live")
         use_run(defaults, asked);
+    return car;
+}
+
+int run(QApplication& application, const cli_request& asked) {
+    std::optional<QTemporaryDir> scratch;
+    user_defaults defaults(settings_path(asked, scratch));
+    const auto car = use_what_is_asked(defaults, asked);
 
     qt_run_loop loop;
     const bundle resources;
@@ -180,15 +222,21 @@ int run(QApplication& application, const cli_request& asked) {
     alerts& message_boxes =
         asked.without_display() ? static_cast<alerts&>(printed_alerts) : shown_alerts;
     mac_toolies::initialize({&resources, &defaults, &message_boxes, &notifications});
-    const auto bluetooth =
-        make_bluetooth_door(loop, message_boxes, resources, defaults, !asked.without_display());
-    Ks_lite_delegate delegate(
-        {loop, message_boxes, defaults, resources, notifications,
-         [&loop](const std::string& host, long port) -> std::unique_ptr<stream_pair> {
-             return std::make_unique<tcp_stream_pair>(loop, host, port);
-         },
-         *bluetooth},
-        all_screens());
+    conversation_recorder recorder(loop);
+    link_doors link{
+        [&loop](const std::string& host, long port) -> std::unique_ptr<stream_pair> {
+            return std::make_unique<tcp_stream_pair>(loop, host, port);
+        },
+        make_bluetooth_door(loop, message_boxes, resources, defaults, !asked.without_display()),
+        nullptr};
+    if (asked.record) {
+        if (!start_recording(recorder, asked, static_cast<int>(defaults.integer(KS_INTERFACE_KEY))))
+            return USAGE_STATUS;
+        link.record(recorder);
+    }
+    Ks_lite_delegate delegate({loop, message_boxes, defaults, resources, notifications,
+                               link.make_streams, link.serial_port()},
+                              all_screens());
     main_window window(delegate);
     first_paint painted;
     if (asked.quit_when_shown)
@@ -232,7 +280,8 @@ int main(int argc, char** argv) {
         return USAGE_STATUS;
     }
     if (asked.help) {
-        std::fputs(usage_text().c_str(), stdout);
+        const command_row* command = find_command(asked.command);
+        std::fputs((command ? command_help(*command) : usage_text()).c_str(), stdout);
         return 0;
     }
     if (asked.version) {
@@ -241,6 +290,8 @@ int main(int argc, char** argv) {
     }
     if (asked.without_display())
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!asked.command.empty()) // it tells by itself why the link failed
+        QLoggingCategory::setFilterRules(QStringLiteral("kestrom.link.warning=false"));
     if (asked.command == BLUETOOTH_SCAN)
         return scan_for_bluetooth(argc, argv, asked);
     if (decodes(asked.command))
@@ -254,7 +305,7 @@ int main(int argc, char** argv) {
     QApplication::setStyle(new quick_style);
     QApplication::setApplicationName(QStringLiteral("kestrom"));
     QApplication::setApplicationDisplayName(QStringLiteral("Kestrom"));
-    QApplication::setDesktopFileName(QStringLiteral("kestrom"));
+    QApplication::setDesktopFileName(QStringLiteral(APPLICATION_ID));
     try {
         return run(application, asked);
     } catch (const car_file_error& unusable) {

@@ -6,8 +6,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
 #include <numbers>
+#include <vector>
 
 QImage raw_image(QSizeF size, double scale) {
     const QSize pixels = (size * scale).toSize().expandedTo(QSize(1, 1));
@@ -31,6 +33,49 @@ void copy_picture(const QImage& from, QImage& to) {
         to = from.copy();
 }
 
+void copy_pixels(const QImage& from, QImage& to, const QRect& pixels) {
+    const QRect inside = pixels & from.rect();
+    const auto left = inside.left() * qsizetype(sizeof(QRgb));
+    for (int y = inside.top(); y <= inside.bottom(); ++y)
+        std::memcpy(to.scanLine(y) + left, from.constScanLine(y) + left,
+                    static_cast<std::size_t>(inside.width()) * sizeof(QRgb));
+}
+
+namespace {
+
+void add_weighted(std::uint16_t* __restrict sums, const uchar* __restrict source,
+                  std::uint16_t weight, std::size_t bytes) {
+    for (std::size_t i = 0; i < bytes; ++i)
+        sums[i] = static_cast<std::uint16_t>(sums[i] + source[i] * weight);
+}
+
+} // namespace
+
+QImage squeezed(const QImage& picture, int lines) {
+    constexpr int ONE = 256; // weights of a line's sources add up to that
+    QImage result(picture.width(), lines, picture.format());
+    const auto bytes = static_cast<std::size_t>(picture.width()) * sizeof(QRgb);
+    std::vector<std::uint16_t> sums(bytes);
+    const double step = static_cast<double>(picture.height()) / lines;
+    for (int y = 0; y < lines; ++y) {
+        std::ranges::fill(sums, ONE / 2);
+        const double end = std::min((y + 1) * step, double(picture.height()));
+        int given = 0;
+        for (int from = static_cast<int>(y * step); from < end; ++from) {
+            const double along = std::min<double>(from + 1, end) - y * step;
+            const int upto = from + 1 >= end ? ONE : static_cast<int>(along / step * ONE + 0.5);
+            const auto weight = static_cast<std::uint16_t>(upto - given);
+            given = upto;
+            const uchar* const source = picture.constScanLine(from);
+            add_weighted(sums.data(), source, weight, bytes);
+        }
+        uchar* const target = result.scanLine(y);
+        for (std::size_t i = 0; i < bytes; ++i)
+            target[i] = static_cast<uchar>(sums[i] / ONE);
+    }
+    return result;
+}
+
 QFont image_font(const QString& family, int pixels, bool bold) {
     QFont font(family);
     font.setPixelSize(pixels);
@@ -52,6 +97,39 @@ QColor colour(double red, double green, double blue, double alpha) {
     const auto component = [](double c) { return static_cast<float>(std::clamp(c, 0.0, 1.0)); };
     return QColor::fromRgbF(component(red), component(green), component(blue), component(alpha));
 }
+
+namespace {
+
+// Both of premultiplied pixels.
+void lay_over(QRgb* ground, const QRgb* picture, int count) {
+    for (int i = 0; i < count; ++i) {
+        const QRgb rest = 255U - static_cast<QRgb>(qAlpha(picture[i]));
+        const auto left_of = [rest](QRgb two_bytes) {
+            const QRgb product = (two_bytes & 0x00FF00FF) * rest;
+            return ((product + ((product >> 8) & 0x00FF00FF) + 0x00800080) >> 8) & 0x00FF00FF;
+        };
+        ground[i] = picture[i] + (left_of(ground[i]) | (left_of(ground[i] >> 8) << 8));
+    }
+}
+
+QRect painted_pixels(const QImage& picture) {
+    QRect painted;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        const auto* end = line + picture.width();
+        const auto* first = std::find_if(line, end, [](QRgb pixel) { return pixel != 0; });
+        if (first == end)
+            continue;
+        const auto* last = end - 1;
+        while (*last == 0)
+            --last;
+        painted |= QRect(QPoint(static_cast<int>(first - line), y),
+                         QPoint(static_cast<int>(last - line), y));
+    }
+    return painted;
+}
+
+} // namespace
 
 canvas::canvas(QImage& image)
     : image_(image), size_(image.deviceIndependentSize()), painter_(&image) {
@@ -95,6 +173,32 @@ void canvas::text_within(double room, int smallest, double x, double y, const QS
 
 void canvas::fill(const QRectF& area, const QBrush& brush) {
     painter_.fillRect(flipped(area), brush);
+}
+
+void canvas::put(kept_detail& detail, const std::string& what,
+                 const std::function<void(canvas&)>& paint) {
+    if (detail.what != what || detail.picture_size != image_.size()) {
+        QImage picture = empty_image(size_, image_.devicePixelRatio());
+        {
+            canvas alone(picture);
+            paint(alone);
+        }
+        const QRect pixels = painted_pixels(picture);
+        detail = {what, image_.size(), picture.copy(pixels), pixels.topLeft()};
+    }
+    for (int y = 0; y < detail.image.height(); ++y)
+        lay_over(reinterpret_cast<QRgb*>(image_.scanLine(detail.at.y() + y)) + detail.at.x(),
+                 reinterpret_cast<const QRgb*>(detail.image.constScanLine(y)),
+                 detail.image.width());
+}
+
+QRect canvas::pixels_of(const QRectF& area) const {
+    const double scale = image_.devicePixelRatio();
+    const QRectF shown = flipped(area);
+    return QRectF(shown.topLeft() * scale, shown.size() * scale)
+               .toAlignedRect()
+               .adjusted(-1, -1, 1, 1) &
+           image_.rect();
 }
 
 void canvas::fill_gradient(const QRectF& area, const QColor& from, const QColor& to,

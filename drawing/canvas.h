@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QString>
 
+#include <functional>
+#include <string>
 #include <string_view>
 
 // An empty image of `size` image units at `scale` pixels a unit.
@@ -17,6 +19,22 @@ QImage empty_image(QSizeF size, double scale);
 QImage raw_image(QSizeF size, double scale);
 // Makes `to` a picture of its own that shows what `from` shows, in the memory it has if that fits.
 void copy_picture(const QImage& from, QImage& to);
+
+// The same within these pixels only; both are of one size.
+void copy_pixels(const QImage& from, QImage& to, const QRect& pixels);
+
+// The picture with fewer lines, each the mean of those it stands for, as QImage::scaled() makes it
+// but for rounding, in half the time. From 1 to as many lines as it has.
+QImage squeezed(const QImage& picture, int lines);
+
+// A detail of a picture that seldom changes, as it was painted upon nothing. Owned by whoever
+// paints the picture.
+struct kept_detail {
+    std::string what;
+    QSize picture_size;
+    QImage image;
+    QPoint at; // its upper-left corner, in pixels
+};
 
 // A font of `pixels` image units, sharp at every scale.
 QFont image_font(const QString& family, int pixels, bool bold = false);
@@ -46,6 +64,12 @@ class canvas {
     void text_within(double room, int smallest, double x, double y, const QString& text, QFont font,
                      const QColor& ink);
     void fill(const QRectF& area, const QBrush& brush);
+    // Puts the detail there that `paint` paints, painted anew when `what` it shows is another than
+    // before.
+    void put(kept_detail& detail, const std::string& what,
+             const std::function<void(canvas&)>& paint);
+    // All pixels that painting within the area touches.
+    QRect pixels_of(const QRectF& area) const;
     // From the first colour to the second along `degrees`, counter-clockwise from rightwards; the
     // corners of the area get the pure colours.
     void fill_gradient(const QRectF& area, const QColor& from, const QColor& to, double degrees);

@@ -22,31 +22,100 @@ constexpr int FARTHEST = 1 << 14;
 
 // For each pixel column the lines that something covers.
 struct column_spans {
-    explicit column_spans(int columns) : top(static_cast<std::size_t>(columns), 0), height(top) {}
-    bool free(int column) const { return height[at(column)] == 0; }
-    void set(int column, int from, int end) {
-        top[at(column)] = static_cast<std::uint32_t>(from);
-        height[at(column)] = static_cast<std::uint32_t>(std::max(end - from, 0));
+    explicit column_spans(int columns) : top(static_cast<std::size_t>(columns), 0), end(top) {}
+    bool free(int column) const { return top[at(column)] >= end[at(column)]; }
+    void set(int column, int from, int to) {
+        top[at(column)] = from;
+        end[at(column)] = to;
     }
     static std::size_t at(int column) { return static_cast<std::size_t>(column); }
 
-    std::vector<std::uint32_t> top, height;
+    std::vector<int> top, end;
 };
 
-// A line of premultiplied shade laid over a line's pixels: byte by byte in 16 bits, so that many are
-// done at a time. All three are of one length.
-void lay_over(const QRgb* pixels, const std::vector<QRgb>& shade, std::vector<QRgb>& result) {
-    const std::size_t bytes = shade.size() * sizeof(QRgb);
-    const auto rest = static_cast<std::uint16_t>(shade.empty() ? 0 : 255 - qAlpha(shade.front()));
-    const auto* ground = reinterpret_cast<const std::uint8_t*>(pixels);
-    const auto* added = reinterpret_cast<const std::uint8_t*>(shade.data());
-    auto* sum = reinterpret_cast<std::uint8_t*>(result.data());
-    for (std::size_t i = 0; i < bytes; ++i) {
-        const auto product = static_cast<std::uint16_t>(ground[i] * rest);
-        const auto rounded = static_cast<std::uint16_t>(product + (product >> 8) + 128);
-        sum[i] = static_cast<std::uint8_t>((rounded >> 8) + added[i]);
+// What lies over the pixels of one line: nothing, the shade or the ink. From line to line only the
+// columns that change are touched, and stretches that nothing covers are passed over.
+class line_cover {
+  public:
+    line_cover(QSize size, QRgb ink, QRgb shade)
+        : ink_(ink), shade_(shade), state_(static_cast<std::size_t>(size.width()), 0),
+          rest_(state_.size(), ALL), added_(state_.size(), 0),
+          covered_(state_.size() / BLOCK + 1, 0),
+          first_change_(static_cast<std::size_t>(size.height()) + 1, NONE) {}
+
+    void add_shade(const column_spans& spans) { add(spans, SHADED); }
+    void add_ink(const column_spans& spans) { add(spans, INKED); }
+
+    // Lines in order.
+    void go_to_line(std::size_t line) {
+        for (std::size_t i = first_change_[line]; i != NONE; i = changes_[i].next)
+            apply(changes_[i]);
     }
-}
+
+    void paint(QRgb* pixels) const {
+        for (std::size_t block = 0; block < covered_.size(); ++block) {
+            if (covered_[block] == 0)
+                continue;
+            const std::size_t first = block * BLOCK;
+            while (block + 1 < covered_.size() && covered_[block + 1] > 0)
+                ++block;
+            lay_over(pixels + first, &rest_[first], &added_[first],
+                     std::min((block + 1) * BLOCK, state_.size()) - first);
+        }
+    }
+
+  private:
+    static constexpr std::size_t BLOCK = 32, NONE = SIZE_MAX;
+    static constexpr QRgb ALL = 0xFFFFFFFF;
+    static constexpr int SHADED = 1, INKED = 2; // ink may lie twice
+
+    struct change {
+        std::size_t column, next;
+        int by;
+    };
+
+    void add(const column_spans& spans, int kind) {
+        for (std::size_t column = 0; column < state_.size(); ++column)
+            if (spans.top[column] < spans.end[column]) {
+                note(spans.top[column], column, kind);
+                note(spans.end[column], column, -kind);
+            }
+    }
+    void note(int line, std::size_t column, int by) {
+        std::size_t& first = first_change_[static_cast<std::size_t>(line)];
+        changes_.push_back({column, first, by});
+        first = changes_.size() - 1;
+    }
+
+    void apply(const change& c) {
+        int& state = state_[c.column];
+        const bool was_covered = state != 0;
+        state += c.by;
+        covered_[c.column / BLOCK] += int(state != 0) - int(was_covered);
+        const auto rest_of_shade = static_cast<QRgb>(255 - qAlpha(shade_));
+        rest_[c.column] = state == 0 ? ALL : state == SHADED ? rest_of_shade * 0x01010101U : 0;
+        added_[c.column] = state == 0 ? 0 : state == SHADED ? shade_ : ink_;
+    }
+
+    // Byte by byte in 16 bits, so that many are done at a time.
+    static void lay_over(QRgb* pixels, const QRgb* rest, const QRgb* added, std::size_t count) {
+        auto* __restrict ground = reinterpret_cast<std::uint8_t*>(pixels);
+        const auto* __restrict left = reinterpret_cast<const std::uint8_t*>(rest);
+        const auto* __restrict more = reinterpret_cast<const std::uint8_t*>(added);
+        for (std::size_t i = 0; i < count * sizeof(QRgb); ++i) {
+            const auto product = static_cast<std::uint16_t>(ground[i] * left[i]);
+            const auto rounded = static_cast<std::uint16_t>(product + (product >> 8) + 128);
+            ground[i] = static_cast<std::uint8_t>((rounded >> 8) + more[i]);
+        }
+    }
+
+    QRgb ink_, shade_;
+    std::vector<int> state_;
+    std::vector<QRgb> rest_, added_; // what remains of the pixel below, and what comes on top
+    std::vector<int> covered_;       // columns of each block
+    std::vector<std::size_t> first_change_; // of each line
+    std::vector<change> changes_;
+};
 
 // The pixels of the area and of the columns, put together line by line and laid over the chart at
 // once: the same by polygons and rectangles takes QPainter many times longer.
@@ -54,8 +123,7 @@ class pixel_layer {
   public:
     explicit pixel_layer(canvas& target)
         : image_(target.pixels()), scale_(image_.devicePixelRatio()), height_(target.height()),
-          area_(image_.width()), left_halves_(image_.width()), right_halves_(image_.width()),
-          shaded_(area_.top.size()) {}
+          area_(image_.width()), left_halves_(image_.width()), right_halves_(image_.width()) {}
 
     // The area between a segment and the base line. A pixel belongs to it when its centre does.
     void add_area(double from_x, double from_y, double to_x, double to_y, double base_y) {
@@ -75,9 +143,14 @@ class pixel_layer {
     }
 
     void paint(QRgb ink, QRgb shade) {
-        const std::vector<QRgb> shades(shaded_.size(), shade);
-        for (int py = 0; py < image_.height(); ++py)
-            paint_line(line(py), static_cast<std::uint32_t>(py), ink, shades);
+        line_cover cover(image_.size(), ink, shade);
+        cover.add_shade(area_);
+        cover.add_ink(left_halves_);
+        cover.add_ink(right_halves_);
+        for (int py = 0; py < image_.height(); ++py) {
+            cover.go_to_line(static_cast<std::size_t>(py));
+            cover.paint(line(py));
+        }
         for (const QRect& more : more_runs_)
             for (int py = more.top(); py <= more.bottom(); ++py)
                 std::fill_n(line(py) + more.left(), more.width(), ink);
@@ -86,26 +159,16 @@ class pixel_layer {
   private:
     QRgb* line(int py) { return reinterpret_cast<QRgb*>(image_.scanLine(py)); }
 
-    // Without branches, so that several pixels are done at a time.
-    void paint_line(QRgb* pixels, std::uint32_t py, QRgb ink, const std::vector<QRgb>& shades) {
-        const auto covered = [py](const column_spans& spans, std::size_t px) {
-            return py - spans.top[px] < spans.height[px];
-        };
-        const std::size_t width = area_.top.size();
-        lay_over(pixels, shades, shaded_);
-        for (std::size_t px = 0; px < width; ++px) {
-            const QRgb ground = covered(area_, px) ? shaded_[px] : pixels[px];
-            pixels[px] = (covered(left_halves_, px) | covered(right_halves_, px)) ? ink : ground;
-        }
-    }
-
     int first_centre_from(double units) const {
         return saturating_int(std::ceil(units * scale_ - 0.5));
     }
     int line_of(double units) const {
         return std::clamp(first_centre_from(units), 0, image_.height());
     }
-    int nearest(double units) const { return static_cast<int>(std::lround(units * scale_)); }
+    // As std::lround(), which is a call into the library for each corner.
+    int nearest(double units) const {
+        return static_cast<int>(units * scale_ + (units < 0 ? -0.5 : 0.5));
+    }
 
     void add_half(column_spans& spans, const column_run& run, int x) {
         const int high = std::clamp(run.high, -FARTHEST, FARTHEST);
@@ -127,7 +190,6 @@ class pixel_layer {
     double scale_;
     double height_;
     column_spans area_, left_halves_, right_halves_;
-    std::vector<QRgb> shaded_; // a line as it is with the area's shade over it
     std::vector<QRect> more_runs_;
 };
 

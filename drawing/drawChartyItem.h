@@ -6,6 +6,7 @@
 // set_pixel_scale() says how many pixels a unit has where it is shown, so that it is sharp there.
 #pragma once
 
+#include "canvas.h"
 #include "chart_geometry.h"
 #include "mac_toolies.h"
 #include "sample_rows.h"
@@ -19,8 +20,6 @@
 #include <string>
 #include <string_view>
 #include <vector>
-
-class canvas;
 
 // What a chart writes at a parameter's value axis; upper and lower as decimal text.
 struct label_record {
@@ -134,15 +133,18 @@ class drawChartyItem {
     bool has_two_axes() const { return !is_thumbnail && cur_ITEMS_2_PLOT.size() > 1; }
     void plot_one_curve(canvas& target, const sample_rows& points, std::size_t parameter,
                         const label_record& label);
-    void display_value(canvas& target) const;
-    void display_value_4_thumbnail(canvas& target) const;
-    void paint_level_bar(canvas& target, int segments) const;
+    struct readout_look;
+    void display_value(canvas& target);
+    void display_value_4_thumbnail(canvas& target);
+    void paint_readout(canvas& target, double x, double y, const readout_look& look);
+    void paint_level_bar(canvas& target, int segments);
 
     void start_realtime_curve(std::size_t parameter, const std::string& text);
     void extend_realtime_curve(std::size_t parameter, double value);
     chart_point realtime_point(std::size_t sample, double value) const;
 
     mutable std::map<std::string, double> axis_label_widths_; // those that were asked for lately
+    kept_detail readout_name_, level_bar_;
     QImage image_;
     std::string imageID_;
     chart_area drawSizes;

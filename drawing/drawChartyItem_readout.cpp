@@ -22,46 +22,48 @@ QFont system_font(int pixels) {
 
 } // namespace
 
-void drawChartyItem::display_value(canvas& target) const {
+struct drawChartyItem::readout_look {
+    int value_pixels, smallest_value_pixels;
+    double value_alpha;
+    int name_pixels, smallest_name_pixels;
+    int segments;
+};
+
+void drawChartyItem::display_value(canvas& target) {
     const int width = static_cast<int>(target.width());
     const int height = static_cast<int>(target.height());
     const int third = height / 3;
     const int bottom = 2 * height / 3;
     target.fill(QRectF(0, bottom, width, third), SHADE);
-
-    const auto k = static_cast<std::size_t>(cur_item_2_PLOT);
-    if (cur_item_2_PLOT < 0 || k >= cur_sample_set.size() || k >= names_.size())
-        return;
-    const int x = width / 3;
-    const int y = bottom + third / 3;
-    const double room = width - x - RIGHT_MARGIN;
-    target.text_within(room, 12, x, y, qstring(cur_sample_set[k][1]),
-                       image_font(QStringLiteral("Arial"), 30), white(0.7));
-    target.text_within(room, 10, x, y - NAME_BELOW_VALUE, qstring(names_[k]), system_font(10),
-                       white(0.8));
-    paint_level_bar(target, LARGE_SEGMENTS);
+    paint_readout(target, width / 3, bottom + third / 3, {30, 12, 0.7, 10, 10, LARGE_SEGMENTS});
 }
 
-void drawChartyItem::display_value_4_thumbnail(canvas& target) const {
+void drawChartyItem::display_value_4_thumbnail(canvas& target) {
     const double width = target.width();
     const double height = target.height();
     target.fill(QRectF(0, height / 3, width, height), SHADE);
+    paint_readout(target, width / 3, height / 3 + height * 0.25,
+                  {70, 18, 0.9, 20, 16, THUMBNAIL_SEGMENTS});
+}
 
+void drawChartyItem::paint_readout(canvas& target, double x, double y, const readout_look& look) {
     const auto k = static_cast<std::size_t>(cur_item_2_PLOT);
     if (cur_item_2_PLOT < 0 || k >= cur_sample_set.size() || k >= names_.size())
         return;
-    const double x = width / 3;
-    const double y = height / 3 + height * 0.25;
-    const double room = width - x - RIGHT_MARGIN;
-    target.text_within(room, 18, x, y, qstring(cur_sample_set[k][1]),
-                       image_font(QStringLiteral("Arial"), 70), white(0.9));
-    target.text_within(room, 16, x, y - NAME_BELOW_VALUE, qstring(names_[k]), system_font(20),
-                       white(0.8));
-    paint_level_bar(target, THUMBNAIL_SEGMENTS);
+    const double room = target.width() - x - RIGHT_MARGIN;
+    target.text_within(room, look.smallest_value_pixels, x, y, qstring(cur_sample_set[k][1]),
+                       image_font(QStringLiteral("Arial"), look.value_pixels),
+                       white(look.value_alpha));
+    const double name_y = y - NAME_BELOW_VALUE;
+    target.put(readout_name_, names_[k], [&](canvas& alone) {
+        alone.text_within(room, look.smallest_name_pixels, x, name_y, qstring(names_[k]),
+                          system_font(look.name_pixels), white(0.8));
+    });
+    paint_level_bar(target, look.segments);
 }
 
 // The lowest segment is lit even at the minimum.
-void drawChartyItem::paint_level_bar(canvas& target, int segments) const {
+void drawChartyItem::paint_level_bar(canvas& target, int segments) {
     const auto k = static_cast<std::size_t>(cur_item_2_PLOT);
     if (k >= _pid_logitems_list.size())
         return;
@@ -69,9 +71,11 @@ void drawChartyItem::paint_level_bar(canvas& target, int segments) const {
     const int level =
         level_of(leading_number(cur_sample_set[k][1]), toolies.get_PID_min_max(pid, false),
                  toolies.get_PID_min_max(pid, true), segments);
-    const QColor lit = colour(1, 1, 0, 0.4);
-    for (int i = 0; i < segments; ++i) {
-        const QRectF segment(4 * i + target.width() / 3 + 1, target.height() - 20, 4, 15);
-        target.fill(segment.adjusted(1, 1, -1, -1), i <= level ? lit : white(0.4));
-    }
+    target.put(level_bar_, std::to_string(level), [&](canvas& alone) {
+        const QColor lit = colour(1, 1, 0, 0.4);
+        for (int i = 0; i < segments; ++i) {
+            const QRectF segment(4 * i + alone.width() / 3 + 1, alone.height() - 20, 4, 15);
+            alone.fill(segment.adjusted(1, 1, -1, -1), i <= level ? lit : white(0.4));
+        }
+    });
 }

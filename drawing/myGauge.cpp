@@ -127,6 +127,7 @@ void myGauge::work_out_base_gauge() {
     if (empty_dial_.isNull())
         load_empty_dial();
     image_without_needle = empty_dial_;
+    face_is_new_ = true;
     const unsigned pid = mac_toolies::convertStr2Byte(cur_PID);
     const std::array<int, 3> range = gauge_range(pid);
     range_lo = range[0];
@@ -163,44 +164,57 @@ void myGauge::draw_cur_needle_value(double value) {
     last_OBD_val = value;
     if (image_without_needle.isNull())
         return;
-    copy_picture(image_without_needle, image_);
+    const bool whole =
+        face_is_new_ || !image_.isDetached() || image_.size() != image_without_needle.size();
+    const QRect restored = whole ? image_without_needle.rect() : needle_pixels_;
+    if (whole)
+        copy_picture(image_without_needle, image_);
+    else
+        copy_pixels(image_without_needle, image_, restored);
+    face_is_new_ = false;
     canvas target(image_);
-    draw_gauge_needle_raw(target, NEEDLE_X, NEEDLE_Y, value / range_scaling, NEEDLE_START,
-                          NEEDLE_END, range_lo, range_hi, NEEDLE_WIDTH, NEEDLE_LENGTH);
+    needle_pixels_ =
+        draw_gauge_needle_raw(target, NEEDLE_X, NEEDLE_Y, value / range_scaling, NEEDLE_START,
+                              NEEDLE_END, range_lo, range_hi, NEEDLE_WIDTH, NEEDLE_LENGTH);
+    changed_ = restored | needle_pixels_;
 }
 
-void myGauge::draw_gauge_needle_raw(canvas& target, int x, int at_y, double this_val,
-                                    double alpha_min, double alpha_max, double min_val,
-                                    double max_val, double needle_w, double needle_h) {
+QRect myGauge::draw_gauge_needle_raw(canvas& target, int x, int at_y, double this_val,
+                                     double alpha_min, double alpha_max, double min_val,
+                                     double max_val, double needle_w, double needle_h) {
     const double angle = needle_angle(this_val, alpha_min, alpha_max, min_val, max_val);
     const needle_points needle = needle_shape({static_cast<double>(x), static_cast<double>(at_y)},
                                               angle, needle_w, needle_h);
     const auto at = [&](dial_point p) { return target.flipped(p.x, p.y); };
+    const QPolygonF right{at(needle.centre), at(needle.left), at(needle.tip)};
+    const QPolygonF left{at(needle.centre), at(needle.right), at(needle.tip)};
     QPainter& painter = target.painter();
     painter.setPen(Qt::NoPen);
     painter.setBrush(NEEDLE_RIGHT);
-    painter.drawPolygon(QPolygonF{at(needle.centre), at(needle.left), at(needle.tip)});
+    painter.drawPolygon(right);
     painter.setBrush(NEEDLE_LEFT);
-    painter.drawPolygon(QPolygonF{at(needle.centre), at(needle.right), at(needle.tip)});
-    paint_hub(target, x, at_y);
+    painter.drawPolygon(left);
+    draw_hub(x, at_y, target);
+    painter.drawImage(hub_.at, hub_.image);
+    const QRectF hub(hub_.at, hub_.image.deviceIndependentSize());
+    return target.pixels_of(target.flipped(right.boundingRect() | left.boundingRect() | hub));
 }
 
-void myGauge::paint_hub(canvas& target, int x, int y) {
+void myGauge::draw_hub(int x, int y, const canvas& target) {
+    if (!hub_.image.isNull())
+        return;
     const QRectF hub =
         target.flipped(QRectF(x - HUB_RADIUS, y - HUB_RADIUS, 2 * HUB_RADIUS, 2 * HUB_RADIUS));
-    if (hub_.image.isNull()) {
-        hub_ = cast_shadow_of(hub, GLOW_RADIUS, pixel_scale_, GLOW,
-                              [&hub](QPainter& painter) { painter.drawEllipse(hub); });
-        const QImage glow = std::exchange(
-            hub_.image, empty_image(hub_.image.deviceIndependentSize(), pixel_scale_));
-        QPainter painter(&hub_.image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.translate(-hub_.at);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(HUB);
-        painter.drawEllipse(hub);
-        painter.drawImage(hub_.at, glow);
-        painter.drawEllipse(hub);
-    }
-    target.painter().drawImage(hub_.at, hub_.image);
+    hub_ = cast_shadow_of(hub, GLOW_RADIUS, pixel_scale_, GLOW,
+                          [&hub](QPainter& painter) { painter.drawEllipse(hub); });
+    const QImage glow =
+        std::exchange(hub_.image, empty_image(hub_.image.deviceIndependentSize(), pixel_scale_));
+    QPainter painter(&hub_.image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(-hub_.at);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(HUB);
+    painter.drawEllipse(hub);
+    painter.drawImage(hub_.at, glow);
+    painter.drawEllipse(hub);
 }

@@ -36,7 +36,10 @@ class myGauge {
 
     const QImage& imageRepresentation() const { return image_; }
     const QImage& image() const { return image_; }
-    void setImage(const QImage& image) { image_ = image; }
+    void setImage(const QImage& image) {
+        image_ = image;
+        face_is_new_ = true;
+    }
     const std::string& imageID() const { return imageID_; }
     const std::string& imageTitle() const { return imageID_; }
     const std::string& imageUID() const { return imageID_; }
@@ -44,6 +47,8 @@ class myGauge {
     void my_set(std::string_view identifier) { imageID_ = identifier; }
     bool isFlipped() const { return false; }
     QSizeF size() const { return gaugeSize; }
+    // The pixels that may differ since the value before was drawn.
+    const QRect& changed_pixels() const { return changed_; }
 
     double get_OBDVal(std::string_view reply) const { return toolies.get_OBDVal(reply); }
     static chart_point scale_point(int x, double this_y, int scr_x, int scr_y, int scr_width,
@@ -57,16 +62,20 @@ class myGauge {
     void load_empty_dial();
     void work_out_base_gauge();
     void paint_units(canvas& target, double room) const;
-    void draw_gauge_needle_raw(canvas& target, int x, int at_y, double this_val, double alpha_min,
-                               double alpha_max, double min_val, double max_val, double needle_w,
-                               double needle_h);
-    void paint_hub(canvas& target, int x, int y);
+    // Returns what it has painted upon.
+    QRect draw_gauge_needle_raw(canvas& target, int x, int at_y, double this_val, double alpha_min,
+                                double alpha_max, double min_val, double max_val, double needle_w,
+                                double needle_h);
+    // Its picture, which stays as it is.
+    void draw_hub(int x, int y, const canvas& target);
 
     const bundle& resources_;
     const mac_toolies& toolies;
     QImage image_;
     std::string imageID_;
     QImage image_without_needle;
+    bool face_is_new_ = true; // and not in image_ yet
+    QRect needle_pixels_, changed_;
     QSizeF gaugeSize;
     std::string cur_PID;
     double last_OBD_val = 0;

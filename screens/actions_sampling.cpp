@@ -101,12 +101,8 @@ void actions::work_out_log(int step) {
 
 void actions::start_sampling() {
     set_status_msg("Starting log");
-    if (!connected_2_KS_interface) {
-        next_step_idx = 0;
-        g_cur_mode = MODE_HANDSHAKE;
-        handshake_.connect_2_interface(0);
+    if (handshake_.comes_first())
         return;
-    }
     const std::string reply = odb_curReplyMsg;
     odb_curReplyMsg.clear();
     if (p_cur_avail_pids && p_cur_avail_pids->empty()) {

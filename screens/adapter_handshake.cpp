@@ -63,6 +63,15 @@ struct adapter_handshake::pid_group {
     const bounded_text<16>* mask;
 };
 
+bool adapter_handshake::comes_first() {
+    if (connected_2_KS_interface)
+        return false;
+    next_step_idx = START;
+    g_cur_mode = MODE_HANDSHAKE;
+    connect_2_interface(START);
+    return true;
+}
+
 bool adapter_handshake::connect_2_interface(int step) {
     static const pid_group GROUP_00{0,         "01 00",          "20",
                                     "01 20\r", PIDS_20_ANSWERED, &g_Supported_obd_mask_0};

@@ -32,6 +32,8 @@ class adapter_handshake {
         : screen_(screen), texts_(texts) {}
     virtual ~adapter_handshake() = default;
 
+    // Whether the adapter has to be brought up before a task; then the handshake has been started.
+    bool comes_first();
     // Runs one step. True when the handshake has just completed and the task has been started.
     bool connect_2_interface(int step);
     // The last complete reply cleaned, or REPLY_REJECTED.

@@ -10,27 +10,32 @@
 #include <QFile>
 #include <QFont>
 #include <QFontDatabase>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QIconEngine>
 #include <QLabel>
 #include <QPainter>
+#include <QResource>
+#include <QStyle>
+#include <QStyledItemDelegate>
 #include <QSvgRenderer>
 #include <QTableView>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <memory>
-#include <optional>
 
 namespace {
 
-// Renders the drawing at whatever size is asked for, in its own colours or in the palette's text
-// colour. It reads the drawing when it is first shown, and needs no plugin for that.
+constexpr int TITLE_ROW_HEIGHT = 6 * GRID; // the highest control of any screen
+
+// Renders the drawing at whatever size is asked for, in its own colours or in the desktop's text
+// colour. It reads the drawing when it is first shown, and needs no plugin for that. At the sizes
+// of the rail a one-coloured drawing is taken as it was drawn when the program was built.
 class drawn_icon_engine final : public QIconEngine {
   public:
-    drawn_icon_engine(QString path, std::optional<QPalette> tint)
-        : path_(std::move(path)), tint_(std::move(tint)) {}
+    drawn_icon_engine(QString path, bool tinted) : path_(std::move(path)), tinted_(tinted) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
         const double ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
@@ -39,41 +44,80 @@ class drawn_icon_engine final : public QIconEngine {
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
         return drawn(size, mode);
     }
-    QIconEngine* clone() const override { return new drawn_icon_engine(path_, tint_); }
+    QIconEngine* clone() const override { return new drawn_icon_engine(path_, tinted_); }
 
   private:
     QPixmap drawn(const QSize& size, QIcon::Mode mode) {
-        if (!drawing_)
-            drawing_ = std::make_unique<QSvgRenderer>(path_);
-        QPixmap image(size);
-        image.fill(Qt::transparent);
+        QImage image = tinted_ ? drawn_before(size) : QImage();
+        if (image.isNull()) {
+            if (!drawing_)
+                drawing_ = std::make_unique<QSvgRenderer>(path_);
+            image = QImage(size, QImage::Format_ARGB32_Premultiplied);
+            image.fill(Qt::transparent);
+            QPainter painter(&image);
+            drawing_->render(&painter);
+        }
+        if (!tinted_)
+            return QPixmap::fromImage(image);
         QPainter painter(&image);
-        drawing_->render(&painter);
-        if (!tint_)
-            return image;
         painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         const auto role =
             mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
-        painter.fillRect(image.rect(), tint_->color(group, role));
-        return image;
+        painter.fillRect(image.rect(), QGuiApplication::palette().color(group, role));
+        painter.end();
+        return QPixmap::fromImage(image);
+    }
+
+    QImage drawn_before(const QSize& size) const {
+        const QResource mask(QString(path_).replace(QLatin1String(".svg"),
+                                                    QStringLiteral("-%1.mask").arg(size.width())));
+        if (mask.size() != qint64{size.width()} * size.height())
+            return {};
+        return QImage(mask.data(), size.width(), size.height(), size.width(), QImage::Format_Alpha8)
+            .convertToFormat(QImage::Format_ARGB32_Premultiplied);
     }
 
     QString path_;
-    std::optional<QPalette> tint_;
+    bool tinted_;
     std::unique_ptr<QSvgRenderer> drawing_;
+};
+
+// Cells with air around their text. Not by a style sheet: that would forget the air when it wraps
+// lines, and keep its colours when the desktop's scheme changes.
+class padded_cells final : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
+        option.widget->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter,
+                                              option.widget);
+        cell.rect = inner(option.rect);
+        QStyledItemDelegate::paint(painter, cell, index);
+    }
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QStyleOptionViewItem cell = option;
+        cell.rect = inner(option.rect);
+        return QStyledItemDelegate::sizeHint(cell, index) + QSize(GRID, GRID + GRID / 2);
+    }
+
+  private:
+    static QRect inner(const QRect& cell) { return cell.adjusted(GRID / 2, 0, -GRID / 2, 0); }
 };
 
 } // namespace
 
-QIcon drawn_icon(std::string_view name, const QPalette& palette) {
+QIcon drawn_icon(std::string_view name) {
     const QString path =
         QStringLiteral(":/kestrom/icons/") + display_text(name) + QStringLiteral(".svg");
-    return QFile::exists(path) ? QIcon(new drawn_icon_engine(path, palette)) : QIcon();
+    return QFile::exists(path) ? QIcon(new drawn_icon_engine(path, true)) : QIcon();
 }
 
 QIcon picture_icon(const QString& path) {
-    return QIcon(new drawn_icon_engine(path, std::nullopt));
+    return QIcon(new drawn_icon_engine(path, false));
 }
 
 QString ui_text(Ks_lite_delegate& delegate, std::string_view key) {
@@ -81,13 +125,11 @@ QString ui_text(Ks_lite_delegate& delegate, std::string_view key) {
 }
 
 void give_room(QTableView* table) {
-    table->setStyleSheet(QStringLiteral(
-        "QTableView::item { padding: 4px 8px; }"
-        "QHeaderView::section { padding: 4px; border: none; border-bottom: 1px solid palette(mid);"
-        " background: palette(button); }"));
+    table->setItemDelegate(new padded_cells(table));
     table->setTabKeyNavigation(false);
     table->verticalHeader()->hide();
     table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setFixedHeight(table->fontMetrics().height() + 2 * GRID);
 }
 
 void fit_column(QTableView* table, int column, const QString& widest) {
@@ -106,8 +148,8 @@ screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view titl
     screen_bones bones;
     bones.root = new QWidget;
     auto* column = new QVBoxLayout(bones.root);
-    column->setContentsMargins(2 * GRID, 2 * GRID, 2 * GRID, GRID);
-    column->setSpacing(2 * GRID);
+    column->setContentsMargins(2 * GRID, GRID, 2 * GRID, GRID);
+    column->setSpacing(GRID);
 
     bones.title_row = new QHBoxLayout;
     bones.title_row->setSpacing(GRID);
@@ -117,6 +159,7 @@ screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view titl
     font.setPointSizeF(font.pointSizeF() * 1.5);
     font.setWeight(QFont::DemiBold);
     title->setFont(font);
+    title->setMinimumHeight(TITLE_ROW_HEIGHT);
     bones.title_row->addWidget(title);
     bones.title_row->addStretch(1);
     column->addLayout(bones.title_row);

@@ -19,8 +19,9 @@ class status_line;
 // Spacing goes in steps of this many pixels.
 inline constexpr int GRID = 8;
 
-// The drawing icons/NAME.svg in the colour of the palette's text, sharp at every scale.
-QIcon drawn_icon(std::string_view name, const QPalette& palette);
+// The drawing icons/NAME.svg in the colour of the desktop's text, also after a change of its
+// scheme; sharp at every scale.
+QIcon drawn_icon(std::string_view name);
 // The drawing of this path in its own colours.
 QIcon picture_icon(const QString& path);
 

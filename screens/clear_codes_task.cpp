@@ -11,12 +11,8 @@ void readCodes::work_out_clear_codes(int step) {
     try {
         if (step == 0) {
             set_status_msg("Starting Clear codes");
-            if (!connected_2_KS_interface) {
-                next_step_idx = 0;
-                g_cur_mode = MODE_HANDSHAKE;
-                handshake_.connect_2_interface(0);
+            if (handshake_.comes_first())
                 return;
-            }
             g_obd_msg_state = S_WAITING;
             send_and_go_to("04\r", 1);
         } else if (step == 1) {

@@ -14,6 +14,7 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -62,8 +63,7 @@ codes_view::~codes_view() = default;
 void codes_view::build_buttons(QHBoxLayout* row) {
     auto make = [&](const char* name, const char* icon, std::string_view key,
                     std::function<void()>& call) {
-        auto* button =
-            new QPushButton(drawn_icon(icon, root()->palette()), ui_text(delegate_, key), root());
+        auto* button = new QPushButton(drawn_icon(icon), ui_text(delegate_, key), root());
         button->setObjectName(QLatin1String(name));
         QObject::connect(button, &QPushButton::clicked, root(), [&call] { call(); });
         row->addWidget(button);
@@ -92,9 +92,9 @@ void codes_view::build_cards(QVBoxLayout* column) {
         cards->setColumnStretch(at++, stretch);
         return card;
     };
-    lamp_card_ = make("MILLbl", "ui_lamp", 2);
-    count_card_ = make("noOfCodesLbl", "ui_count", 2);
-    read_on_card_ = make("readOnLbl", "ui_read_on", 3);
+    lamp_card_ = make("MILLbl", "ui_lamp", 3);
+    count_card_ = make("noOfCodesLbl", "ui_count", 3);
+    read_on_card_ = make("readOnLbl", "ui_read_on", 4);
     interface_card_ = make("interfaceLbl", "ui_adapter", 4);
     protocol_card_ = make("protocolLbl", "ui_protocol", 4);
     extra_card_ = make("xtraInfoLbl", "ui_units", 3);
@@ -104,6 +104,7 @@ void codes_view::build_cards(QVBoxLayout* column) {
 void codes_view::build_tables(QVBoxLayout* column) {
     auto* split = new QSplitter(Qt::Horizontal, root());
     split->setChildrenCollapsible(false);
+    split->setHandleWidth(2 * GRID);
 
     codesReadTableView_ = make_table("codesReadTableView", split);
     codes_model_ = new rows_model(
@@ -146,11 +147,23 @@ void codes_view::build_tables(QVBoxLayout* column) {
     fit_column(readinessCodesTableView_, 0, QStringLiteral("\u2013  N/A"));
     readinessCodesTableView_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     fit_column(readinessCodesTableView_, 2, QStringLiteral("Non-Continous"));
+    make_room_for_monitors();
     new empty_hint(readinessCodesTableView_, ui_text(delegate_, "ui_readiness_empty"));
 
     split->setStretchFactor(0, 3);
     split->setStretchFactor(1, 2);
     column->addWidget(split, 1);
+}
+
+// Keeps the longest word of a monitor's name whole, also beside a scroll bar.
+void codes_view::make_room_for_monitors() {
+    QTableView* table = readinessCodesTableView_;
+    const int monitor =
+        table->fontMetrics().horizontalAdvance(QStringLiteral("Comprehensive")) + 4 * GRID;
+    const QHeaderView* header = table->horizontalHeader();
+    table->setMinimumWidth(header->sectionSize(0) + monitor + header->sectionSize(2) +
+                           table->verticalScrollBar()->sizeHint().width() +
+                           2 * table->frameWidth());
 }
 
 void codes_view::show_codes(const std::vector<code_row>& rows) {
@@ -183,13 +196,13 @@ void codes_view::set_read_on(const std::string& text) {
 }
 
 void codes_view::set_interface(const std::string& text) {
-    interface_card_->set_value(without(text, ">"));
+    interface_card_->set_labelled_value(without(text, ">"));
 }
 void codes_view::set_protocol(const std::string& text) {
     protocol_card_->set_value(text);
 }
 void codes_view::set_extra_info(const std::string& text) {
-    extra_card_->set_value(text);
+    extra_card_->set_labelled_value(text);
 }
 
 void codes_view::reset_labels() {

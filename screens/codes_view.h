@@ -45,6 +45,7 @@ class codes_view {
     void build_buttons(class QHBoxLayout* row);
     void build_cards(class QVBoxLayout* column);
     void build_tables(class QVBoxLayout* column);
+    void make_room_for_monitors();
 
     Ks_lite_delegate& delegate_;
     std::unique_ptr<QWidget> bones_root_;

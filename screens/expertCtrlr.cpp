@@ -19,6 +19,8 @@
 #include <QScrollBar>
 #include <QTextCursor>
 
+#include <utility>
+
 namespace {
 
 constexpr int ECHO_POINT_SIZE = 14;
@@ -56,6 +58,7 @@ expertCtrlr::expertCtrlr(Ks_lite_delegate& delegate) : obd_screen(delegate) {
     replyTxt->setPlaceholderText(ui_text(delegate, "ui_transcript_empty"));
     replyTxt->setAccessibleName(ui_text(delegate, "ui_transcript"));
     replyTxt->setTabChangesFocus(true);
+    replyTxt->document()->setDocumentMargin(GRID);
     bones.content->addWidget(replyTxt, 1);
 
     auto* row = new QHBoxLayout;
@@ -68,8 +71,7 @@ expertCtrlr::expertCtrlr(Ks_lite_delegate& delegate) : obd_screen(delegate) {
     recall_ = std::make_unique<command_recall>(cmdTxt);
     auto* label = new QLabel(ui_text(delegate, "ui_command_label"), root_.get());
     label->setBuddy(cmdTxt);
-    auto* send = new QPushButton(drawn_icon("send", root_->palette()), ui_text(delegate, "ui_send"),
-                                 root_.get());
+    auto* send = new QPushButton(drawn_icon("send"), ui_text(delegate, "ui_send"), root_.get());
     send->setObjectName(QStringLiteral("sendBtn"));
     row->addWidget(label);
     row->addWidget(cmdTxt, 1);
@@ -85,12 +87,7 @@ expertCtrlr::expertCtrlr(Ks_lite_delegate& delegate) : obd_screen(delegate) {
 expertCtrlr::~expertCtrlr() = default;
 
 void expertCtrlr::awakeFromNib() {
-    g_BT_cur_status = BT_DISCONNECTED;
-    g_retries = 0;
-    odb_curReplyBuffyMsg.clear();
-    odb_curReplyMsg.clear();
-    g_cur_mode = MODE_HANDSHAKE;
-    next_step_idx = 0;
+    begin_afresh();
     waity->hide();
 }
 
@@ -149,16 +146,21 @@ void expertCtrlr::append_echo(const std::string& command) {
     font.setPointSize(ECHO_POINT_SIZE);
     format.setFont(font);
     format.setForeground(echo_blue(replyTxt->palette()));
-    append(replyTxt, display_text(command) + u'\n', format);
+    // Of a reply that stopped within a letter that is all there will be.
+    append(replyTxt, display_text(std::exchange(half_letter_, {})) + display_text(command) + u'\n',
+           format);
 }
 
 void expertCtrlr::append_reply(const std::string& chunk) {
     QTextCharFormat format;
     format.setFont(replyTxt->font());
-    std::string_view text = chunk;
+    const std::string whole = half_letter_ + chunk;
+    std::string_view text = whole;
     if (ended_in_return_ && text.starts_with('\n')) // a line end that came in two pieces
         text.remove_prefix(1);
-    ended_in_return_ = chunk.ends_with('\r');
+    ended_in_return_ = whole.ends_with('\r');
+    half_letter_ = text.substr(text.size() - unfinished_letter(text));
+    text.remove_suffix(half_letter_.size());
     append(replyTxt, display_text(text), format);
     if (replyTxt->document()->characterCount() > TRANSCRIPT_CHARACTERS)
         replyTxt->clear(); // a flood without line ends

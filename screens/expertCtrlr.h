@@ -45,4 +45,5 @@ class expertCtrlr final : public obd_screen {
     std::unique_ptr<command_recall> recall_;
     bool asked_to_send_ = false;
     bool ended_in_return_ = false;
+    std::string half_letter_; // of the last chunk's end
 };

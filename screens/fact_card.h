@@ -1,5 +1,5 @@
 // A small card with one fact: a quiet caption over its value. While there is no value the card
-// shows only its resting text.
+// shows only its resting text, as quiet as a caption.
 #pragma once
 
 #include <QFrame>
@@ -12,6 +12,8 @@ class fact_card final : public QFrame {
     fact_card(const QString& value_name, const QString& caption, QWidget* parent);
 
     void set_value(const std::string& text);
+    // "LABEL: VALUE", whose label stands for the card's own caption.
+    void set_labelled_value(const std::string& text);
     void set_resting(const std::string& text);
     // A lamp beside the value: dark or amber.
     void show_lamp(bool lit);
@@ -19,6 +21,9 @@ class fact_card final : public QFrame {
 
   private:
     class lamp;
+    void show_value(const QString& caption, const QString& value);
+
+    const QString own_caption_;
     QLabel* caption_;
     QLabel* value_;
     lamp* lamp_;

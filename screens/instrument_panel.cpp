@@ -3,49 +3,50 @@
 #include "chrome.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
 // The part of the room's width or height that the dials take, at most.
-constexpr double DIALS_SHARE_BESIDE = 0.4;
+constexpr double DIALS_SHARE_BESIDE = 0.28;
 constexpr double DIALS_SHARE_BELOW = 0.42;
+constexpr int DIAL_PLACES = 2;
 
 double scale_in(QSizeF units, double width, double height) {
     return std::min(width / units.width(), height / units.height());
 }
 
+// The picture's width counts; its height follows.
+QRect place(QSizeF units, double width, int left, int top) {
+    const int whole = static_cast<int>(width);
+    return {left, top, whole, static_cast<int>(std::ceil(whole * units.height() / units.width()))};
+}
+
 } // namespace
 
 panel_layout lay_out_panel(QSize room, QSizeF chart, QSizeF dial, int dials, int gap) {
-    const int columns_below = std::max(dials, 1);
-    // Beside: dials in one column at the right.
-    const double dial_height = (room.height() - gap * (dials - 1)) / double(columns_below);
-    const double beside_width =
-        std::min(room.width() * DIALS_SHARE_BESIDE, dial_height / dial.height() * dial.width());
-    const double beside =
-        dials == 0 ? 0 : scale_in(chart, room.width() - beside_width - gap, room.height());
-    // Below: dials in one row.
-    const double below_width = (room.width() - gap * (dials - 1)) / double(columns_below);
-    const double below_height =
-        std::min(room.height() * DIALS_SHARE_BELOW, below_width / dial.width() * dial.height());
-    const double below = scale_in(chart, room.width(), room.height() - below_height - gap);
+    const double dial_aspect = dial.width() / dial.height();
+    const double highest = (room.height() - gap) / double(DIAL_PLACES) * dial_aspect;
+    const double column = std::min(room.width() * DIALS_SHARE_BESIDE, highest);
+    const double beside = scale_in(chart, room.width() - column - gap, room.height());
+    const double widest = (room.width() - gap) / double(DIAL_PLACES);
+    const double row = std::min(room.height() * DIALS_SHARE_BELOW, widest / dial_aspect);
+    const double below = scale_in(chart, room.width(), room.height() - row - gap);
 
     panel_layout layout;
-    if (dials == 0) {
-        layout.chart = QRect(QPoint(0, 0), room);
-    } else if (beside >= below) {
-        const int width = static_cast<int>(beside_width);
-        layout.chart = QRect(0, 0, room.width() - width - gap, room.height());
-        const int each = static_cast<int>(dial_height);
-        for (int i = 0; i < dials; ++i)
-            layout.dials.emplace_back(room.width() - width, i * (each + gap), width, each);
-    } else {
-        const int height = static_cast<int>(below_height);
-        layout.chart = QRect(0, 0, room.width(), room.height() - height - gap);
-        const int each = static_cast<int>(below_width);
-        for (int i = 0; i < dials; ++i)
-            layout.dials.emplace_back(i * (each + gap), room.height() - height, each, height);
-    }
+    layout.chart = place(chart, std::max(beside, below) * chart.width(), 0, 0);
+    for (int i = 0; i < dials; ++i)
+        if (beside >= below) { // as wide as the chart leaves room
+            const double width =
+                std::min(room.width() - layout.chart.width() - double(gap), highest);
+            const int left = room.width() - static_cast<int>(width);
+            const int step = static_cast<int>(width / dial_aspect) + gap;
+            layout.dials.push_back(place(dial, width, left, i * step));
+        } else {
+            const double width = row * dial_aspect;
+            const int step = static_cast<int>(width) + gap;
+            layout.dials.push_back(place(dial, width, i * step, layout.chart.height() + gap));
+        }
     return layout;
 }
 
@@ -62,8 +63,8 @@ void instrument_panel::rearrange() {
     std::vector<QWidget*> shown;
     std::copy_if(dials_.begin(), dials_.end(), std::back_inserter(shown),
                  [](const QWidget* dial) { return !dial->isHidden(); });
-    const panel_layout layout = lay_out_panel(size(), chart_units_, dial_units_,
-                                              static_cast<int>(shown.size()), 2 * GRID);
+    const panel_layout layout =
+        lay_out_panel(size(), chart_units_, dial_units_, static_cast<int>(shown.size()), 2 * GRID);
     chart_->setGeometry(layout.chart);
     for (std::size_t i = 0; i < shown.size(); ++i)
         shown[i]->setGeometry(layout.dials[i]);

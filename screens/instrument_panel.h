@@ -1,5 +1,6 @@
 // Lays out the large chart and the dials: the dials beside the chart in a wide panel, below it in a
-// narrow one, all as large as they fit.
+// narrow one, all as large as they fit. There is always room for two dials: the chart keeps its
+// size when the second one is chosen.
 #pragma once
 
 #include <QSizeF>
@@ -13,8 +14,8 @@ struct panel_layout {
     std::vector<QRect> dials;
 };
 
-// Where `dials` dials of that size in units and the chart go; each picture keeps its aspect within
-// its rectangle.
+// Where `dials` dials of that size in units and the chart go; each rectangle has the aspect of its
+// picture.
 panel_layout lay_out_panel(QSize room, QSizeF chart, QSizeF dial, int dials, int gap);
 
 class instrument_panel final : public QWidget {

@@ -101,12 +101,14 @@ void live_pictures::draw_dial(dial& shown, picture_view& view) {
     if (!resized && !shown.put_back && !shown.needle_moved)
         return;
     view.let_go();
+    const bool whole = resized || shown.put_back;
     shown.gauge.set_pixel_scale(scale);
     if (shown.put_back)
         shown.gauge.swapCurGaugeBack(shown.pid);
     if (shown.needle_moved)
         shown.gauge.draw_cur_needle_value(shown.value);
-    view.set_image(shown.gauge.imageRepresentation());
+    const QImage& picture = shown.gauge.imageRepresentation();
+    view.set_image(picture, whole ? picture.rect() : shown.gauge.changed_pixels());
     shown.put_back = shown.needle_moved = false;
 }
 

@@ -190,10 +190,10 @@ std::unique_ptr<live_run> make_live_run(int task, const mac_toolies& toolies) {
 
 std::span<const run_choice> run_choices() {
     static constexpr run_choice CHOICES[] = {
-        {TASK_RUN_LOG, "Log Run"},
-        {TASK_FUEL_ECONOMY, "Fuel consumption"},
-        {TASK_O2_SAMPLING, "O2 Diags/Sampling"},
-        {TASK_BOOST, "Boost"},
+        {TASK_RUN_LOG, "ui_run_log"},
+        {TASK_FUEL_ECONOMY, "ui_run_fuel"},
+        {TASK_O2_SAMPLING, "ui_run_sensors"},
+        {TASK_BOOST, "ui_run_boost"},
     };
     return CHOICES;
 }

@@ -61,10 +61,10 @@ class live_run {
 // outlive it.
 std::unique_ptr<live_run> make_live_run(int task, const mac_toolies& toolies);
 
-// The tasks in the order of the run selector, with its texts.
+// The tasks in the order of the run selector, with the keys of its texts.
 struct run_choice {
     int task;
-    const char* name;
+    const char* key;
 };
 std::span<const run_choice> run_choices();
 

@@ -13,6 +13,7 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSlider>
@@ -22,10 +23,30 @@
 namespace {
 
 constexpr int ZOOM_STEPS = 1000;
-constexpr int BUTTON_SIZE = 48;
+constexpr int BUTTON_SIZE = 5 * GRID;
 constexpr double CELL_SHARE = 0.25; // of the large chart's width
 constexpr int CELL_GAP = 2;
 constexpr int SMALLEST_CELL = 83;
+
+// A text that stays in sight: heavy, with an amber bar before it.
+class warning_label final : public QLabel {
+  public:
+    explicit warning_label(QWidget* parent) : QLabel(parent) {
+        setContentsMargins(GRID + BAR, 0, 0, 0);
+        QFont heavy = font();
+        heavy.setWeight(QFont::DemiBold);
+        setFont(heavy);
+    }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override {
+        QLabel::paintEvent(event);
+        QPainter(this).fillRect(0, 0, BAR, height(), QColor(240, 140, 0));
+    }
+
+  private:
+    static constexpr int BAR = 4;
+};
 
 void keep_room(QWidget* widget) {
     QSizePolicy policy = widget->sizePolicy();
@@ -43,7 +64,11 @@ live_view::live_view(Ks_lite_delegate& delegate, QSizeF chart_units, QSizeF dial
     waity_ = bones.waity;
     waity_->hide();
     build_controls(bones.title_row);
-    build_strip(bones.content);
+    build_log_mark(bones.content);
+    auto* instruments = new QVBoxLayout;
+    instruments->setSpacing(0); // the strip keeps room for its scroll bar
+    bones.content->addLayout(instruments, 1);
+    build_strip(instruments);
 
     panel_ = new instrument_panel(chart_units, dial_units, root());
     const auto make = [&](const char* name, QSizeF units, std::string_view key) {
@@ -61,27 +86,20 @@ live_view::live_view(Ks_lite_delegate& delegate, QSizeF chart_units, QSizeF dial
             on_resized();
     };
     panel_->set_instruments(chartFull_, {gauge_uno_, gauge_dos_});
-    bones.content->addWidget(panel_, 1);
+    instruments->addWidget(panel_, 1);
 }
 
 live_view::~live_view() = default;
 
 void live_view::build_controls(QHBoxLayout* row) {
-    log_mark_ = new QLabel(root());
-    log_mark_->setObjectName(QStringLiteral("logMark"));
-    log_mark_->setTextFormat(Qt::PlainText);
-    log_mark_->setWordWrap(true);
-    log_mark_->setMaximumWidth(280);
-    log_mark_->hide();
-    row->addWidget(log_mark_);
-
     auto* zoom_label = new QLabel(ui_text(delegate_, "ui_live_zoom"), root());
     charty_zoomer_ = new QSlider(Qt::Horizontal, root());
     charty_zoomer_->setObjectName(QStringLiteral("charty_zoomer"));
     charty_zoomer_->setRange(0, ZOOM_STEPS);
     charty_zoomer_->setValue(ZOOM_STEPS);
     charty_zoomer_->setPageStep(ZOOM_STEPS / 10);
-    charty_zoomer_->setFixedWidth(140);
+    charty_zoomer_->setMinimumWidth(8 * GRID);
+    charty_zoomer_->setMaximumWidth(18 * GRID);
     charty_zoomer_->setToolTip(ui_text(delegate_, "ui_live_zoom_hint"));
     charty_zoomer_->setAccessibleName(ui_text(delegate_, "ui_live_zoom_hint"));
     zoom_label->setBuddy(charty_zoomer_);
@@ -108,7 +126,7 @@ void live_view::build_controls(QHBoxLayout* row) {
     runSelectorCombo_->setObjectName(QStringLiteral("runSelectorCombo"));
     runSelectorCombo_->setAccessibleName(ui_text(delegate_, "ui_live_run_hint"));
     for (const run_choice& choice : run_choices())
-        runSelectorCombo_->addItem(QLatin1String(choice.name));
+        runSelectorCombo_->addItem(ui_text(delegate_, choice.key));
     run_label->setBuddy(runSelectorCombo_);
     QObject::connect(runSelectorCombo_, &QComboBox::currentIndexChanged, root(), [this](int index) {
         if (on_run_selected)
@@ -123,12 +141,22 @@ void live_view::build_controls(QHBoxLayout* row) {
     startStopBtn_->setObjectName(QStringLiteral("startStopBtn"));
     startStopBtn_->setAutoRaise(true);
     startStopBtn_->setIconSize({BUTTON_SIZE, BUTTON_SIZE});
+    startStopBtn_->setFixedSize(BUTTON_SIZE + GRID, BUTTON_SIZE + GRID);
     startStopBtn_->setFocusPolicy(Qt::StrongFocus);
     startStopBtn_->setShortcut(Qt::CTRL | Qt::Key_R);
     QObject::connect(startStopBtn_, &QToolButton::clicked, root(), [this] { on_start_stop(); });
     row->addWidget(startStopBtn_);
     root()->setFocusProxy(startStopBtn_);
     show_running(false);
+}
+
+void live_view::build_log_mark(QVBoxLayout* column) {
+    log_mark_ = new warning_label(root());
+    log_mark_->setObjectName(QStringLiteral("logMark"));
+    log_mark_->setTextFormat(Qt::PlainText);
+    log_mark_->setWordWrap(true);
+    log_mark_->hide();
+    column->addWidget(log_mark_);
 }
 
 void live_view::build_strip(QVBoxLayout* column) {

@@ -60,6 +60,7 @@ class live_view {
 
   private:
     void build_controls(QHBoxLayout* row);
+    void build_log_mark(QVBoxLayout* column);
     void build_strip(QVBoxLayout* column);
     void fit_thumbnails();
 

@@ -24,6 +24,15 @@ obd_screen::~obd_screen() {
     KS_delegate.doors().loop.cancel(old_reply_bound_);
 }
 
+void obd_screen::begin_afresh() {
+    g_BT_cur_status = BT_DISCONNECTED;
+    g_retries = 0;
+    odb_curReplyBuffyMsg.clear();
+    odb_curReplyMsg.clear();
+    g_cur_mode = MODE_HANDSHAKE;
+    next_step_idx = 0;
+}
+
 void obd_screen::begin_task() {
     end_task();
     task_running_ = true;

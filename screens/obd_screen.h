@@ -50,6 +50,8 @@ class obd_screen : public screen_controller {
     // read: the first takes note, the second shows the last one noted.
     void note_status(const std::string& message);
     void show_status();
+    // Forgets what an earlier screen was about: replies, retries, the step.
+    void begin_afresh();
     // A task begins; what an earlier one waited for is forgotten.
     void begin_task();
     // Opens the link and starts the task over it; the transport starts a task whose link is still

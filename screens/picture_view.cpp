@@ -20,9 +20,24 @@ double picture_view::pixel_scale() const {
                              devicePixelRatioF());
 }
 
-void picture_view::set_image(const QImage& image) {
+void picture_view::set_image(const QImage& image, const QRect& changed) {
     image_ = image;
-    update(shown_rect().toAlignedRect());
+    const QRectF place = shown_rect();
+    if (changed == image.rect() || !fits(place)) {
+        update(place.toAlignedRect());
+        return;
+    }
+    const double ratio = devicePixelRatioF();
+    update(
+        QRectF(place.topLeft() + QPointF(changed.topLeft()) / ratio, QSizeF(changed.size()) / ratio)
+            .toAlignedRect());
+}
+
+// Whether the picture is drawn for this place and is copied, not resampled.
+bool picture_view::fits(const QRectF& place) const {
+    const double ratio = devicePixelRatioF();
+    return std::abs(image_.width() - place.width() * ratio) < 1.5 &&
+           std::abs(image_.height() - place.height() * ratio) < 1.5;
 }
 
 QRectF picture_view::shown_rect() const {
@@ -40,8 +55,7 @@ void picture_view::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QRectF place = shown_rect();
     const QSizeF drawn = QSizeF(image_.size()) / devicePixelRatioF();
-    const bool same = std::abs(drawn.width() - place.width()) * devicePixelRatioF() < 1.5 &&
-                      std::abs(drawn.height() - place.height()) * devicePixelRatioF() < 1.5;
+    const bool same = fits(place);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, !same);
     painter.drawImage(same ? QRectF(place.topLeft(), drawn) : place, image_,
                       QRectF(image_.rect()));

@@ -11,7 +11,9 @@ class picture_view final : public QWidget {
     // `units`: the picture's size as its drawing counts.
     picture_view(const QString& name, QSizeF units, QWidget* parent);
 
-    void set_image(const QImage& image);
+    // Nothing but these of the picture's pixels differs from the one shown before.
+    void set_image(const QImage& image, const QRect& changed);
+    void set_image(const QImage& image) { set_image(image, image.rect()); }
     // Forgets the picture, so that whoever drew it can draw the next one in the same memory.
     void let_go() { image_ = QImage(); }
     // Pixels a unit; 0 while nothing would be seen.
@@ -24,6 +26,7 @@ class picture_view final : public QWidget {
 
   private:
     QRectF shown_rect() const;
+    bool fits(const QRectF& place) const;
 
     QSizeF units_;
     QImage image_;

@@ -86,14 +86,13 @@ QWidget* prefs_view::build_adapter() {
     column->setSpacing(GRID);
     bluetooth_ = new QRadioButton(ui_text(delegate_, "ui_bluetooth"), group);
     bluetooth_->setObjectName(QStringLiteral("interfaceBluetooth"));
+    lastBTCheck_ = new QCheckBox(ui_text(delegate_, "ui_last_bt"), group);
+    lastBTCheck_->setObjectName(QStringLiteral("lastBTCheck"));
+    lastBTCheck_->setToolTip(ui_text(delegate_, "ui_last_bt_hint"));
     wifi_ = new QRadioButton(ui_text(delegate_, "ui_wifi"), group);
     wifi_->setObjectName(QStringLiteral("interfaceWifi"));
     QObject::connect(bluetooth_, &QRadioButton::clicked, root(), [this] { on_bluetooth(); });
     QObject::connect(wifi_, &QRadioButton::clicked, root(), [this] { on_wifi(); });
-
-    lastBTCheck_ = new QCheckBox(ui_text(delegate_, "ui_last_bt"), group);
-    lastBTCheck_->setObjectName(QStringLiteral("lastBTCheck"));
-    lastBTCheck_->setToolTip(ui_text(delegate_, "ui_last_bt_hint"));
 
     wifiTabView_ = new QWidget(group);
     wifiTabView_->setObjectName(QStringLiteral("wifiTabView"));
@@ -104,11 +103,16 @@ QWidget* prefs_view::build_adapter() {
     ipLbl_->setObjectName(QStringLiteral("ipLbl"));
     portsLbl_ = new QLineEdit(wifiTabView_);
     portsLbl_->setObjectName(QStringLiteral("portsLbl"));
+    for (QLineEdit* field : {ipLbl_, portsLbl_})
+        field->setMaximumWidth(40 * GRID);
     form->addRow(ui_text(delegate_, "ui_address"), ipLbl_);
     form->addRow(ui_text(delegate_, "ui_port"), portsLbl_);
 
     column->addWidget(bluetooth_);
-    column->addWidget(lastBTCheck_);
+    auto* indented = new QHBoxLayout;
+    indented->addSpacing(3 * GRID);
+    indented->addWidget(lastBTCheck_);
+    column->addLayout(indented);
     column->addWidget(wifi_);
     column->addWidget(wifiTabView_);
     return group;
@@ -176,7 +180,9 @@ QWidget* prefs_view::build_parameters() {
 }
 
 void prefs_view::select_wifi(bool wifi) {
-    (wifi ? wifi_ : bluetooth_)->setChecked(true);
+    QRadioButton* chosen = wifi ? wifi_ : bluetooth_;
+    chosen->setChecked(true);
+    root()->setFocusProxy(chosen);
 }
 bool prefs_view::wifi_selected() const {
     return wifi_->isChecked();

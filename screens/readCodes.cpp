@@ -20,12 +20,7 @@ QWidget* readCodes::view() {
 }
 
 void readCodes::awakeFromNib() {
-    g_BT_cur_status = BT_DISCONNECTED;
-    g_retries = 0;
-    odb_curReplyBuffyMsg.clear();
-    odb_curReplyMsg.clear();
-    g_cur_mode = MODE_HANDSHAKE;
-    next_step_idx = 0;
+    begin_afresh();
     view_->on_read = [this] { readCodes_clicked(); };
     view_->on_clear = [this] { clearCodes_clicked(); };
     view_->on_diagnose = [this] { obd_sim(); };

@@ -109,12 +109,8 @@ void readCodes::work_out_read_codes(int step) {
 
 void readCodes::start_reading() {
     set_status_msg("Starting Read codes");
-    if (!connected_2_KS_interface) {
-        next_step_idx = 0;
-        g_cur_mode = MODE_HANDSHAKE;
-        handshake_.connect_2_interface(0);
+    if (handshake_.comes_first())
         return;
-    }
     g_obd_msg_state = S_WAITING;
     send_and_go_to("AT H1\r", HEADERS_ON_ANSWERED);
 }

@@ -33,8 +33,8 @@ class rows_model final : public QAbstractTableModel {
     QVariant data(const QModelIndex& index, int role) const override {
         if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole)
             return text_(index.row(), columns_[index.column()].identifier);
-        if (decorate &&
-            (role == Qt::FontRole || role == Qt::ForegroundRole || role == Qt::TextAlignmentRole))
+        if (decorate && (role == Qt::FontRole || role == Qt::ForegroundRole ||
+                         role == Qt::TextAlignmentRole || role == Qt::ToolTipRole))
             return decorate(index.row(), columns_[index.column()].identifier, role);
         return {};
     }
@@ -46,7 +46,7 @@ class rows_model final : public QAbstractTableModel {
         return {};
     }
 
-    // Font, colour and alignment of a cell, when wanted.
+    // Font, colour, alignment and tooltip of a cell, when wanted.
     std::function<QVariant(int row, const QString& identifier, int role)> decorate;
 
   private:

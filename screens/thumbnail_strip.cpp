@@ -1,5 +1,7 @@
 #include "thumbnail_strip.h"
 
+#include "canvas.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -40,8 +42,12 @@ void thumbnail_strip::set_cell_size(QSize size) {
 void thumbnail_strip::set_picture(int cell, const QImage& picture) {
     const QSize pixels = cell_size_ * devicePixelRatioF();
     QPixmap& shown = cells_.at(static_cast<std::size_t>(cell)).picture;
+    const bool only_lower =
+        picture.width() == pixels.width() && picture.height() >= pixels.height() &&
+        picture.format() == QImage::Format_ARGB32_Premultiplied && !pixels.isEmpty();
     shown = QPixmap::fromImage(
-        picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        only_lower ? squeezed(picture, pixels.height())
+                   : picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     shown.setDevicePixelRatio(devicePixelRatioF());
     update(rect_of(cell));
 }

@@ -10,12 +10,17 @@ constexpr std::size_t LONGEST_REQUEST = 16; // digits
 
 } // namespace
 
-command_line read_command(std::string_view text) {
+std::string plain_command(std::string_view text) {
     std::string plain;
     for (const char c : text) {
         if (static_cast<unsigned char>(c) > ' ')
             plain += c >= 'a' && c <= 'z' ? char(c - 'a' + 'A') : c;
     }
+    return plain;
+}
+
+command_line read_command(std::string_view text) {
+    const std::string plain = plain_command(text);
     command_line read;
     if (plain.empty()) {
         read.type = command_line::kind::empty;

@@ -15,6 +15,8 @@ struct command_line {
     int expected_replies = 0; // an odd digit at a request's end; 0: as many as come
 };
 
-// `text` without its carriage return. Blanks and control characters do not count, letters may be
-// small.
+// What counts of a command: without blanks and control characters, in capitals.
+std::string plain_command(std::string_view text);
+
+// `text` without its carriage return.
 command_line read_command(std::string_view text);

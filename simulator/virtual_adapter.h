@@ -1,9 +1,9 @@
-// An ELM327-type adapter (v1.5) plugged into a virtual car. It has neither clock, event loop nor
-// sockets: its owner tells it what arrived and when, and asks what is due. Same car, options, bytes
-// and times give the same output. Clearing codes changes the car, which belongs to somebody else
+// An ELM327-type adapter (v1.5) plugged into a virtual car. Same car, options, bytes and times give
+// the same output. Clearing codes changes the car, which belongs to somebody else
 // and must live longer.
 #pragma once
 
+#include "adapter.h"
 #include "adapter_state.h"
 #include "faults.h"
 #include "output_queue.h"
@@ -26,28 +26,22 @@ struct adapter_options {
     double speed = 1; // of the car's drive against the clock
 };
 
-class virtual_adapter {
+class virtual_adapter final : public adapter {
   public:
-    using milliseconds = std::chrono::milliseconds;
-
     virtual_adapter(car& the_car, adapter_options options = {});
 
-    // A client has connected: what the last one left half said is gone; settings stay, as on a
-    // genuine one.
-    void connection_opened(milliseconds now);
-    void receive(std::string_view bytes, milliseconds now);
+    // What the last client left half said is gone; settings stay, as on a genuine one.
+    void connection_opened(milliseconds now) override;
+    void receive(std::string_view bytes, milliseconds now) override;
 
-    // When something is due; nothing when there is nothing to say.
-    std::optional<milliseconds> next_output() const;
-    // What is due by now. Under the fault one_byte_chunks one byte a call.
-    std::string take_output(milliseconds now);
+    std::optional<milliseconds> next_output() const override;
+    // Under the fault one_byte_chunks one byte a call.
+    std::string take_output(milliseconds now) override;
 
     // What faults ask of the transport.
-    bool refuses() const { return options_.faults.has(fault_kind::refuse); }
-    bool wants_close(milliseconds now) const;
-    bool sends_without_delay() const {
-        return !options_.faults.has(fault_kind::nagle);
-    } // TCP_NODELAY
+    bool refuses() const override { return options_.faults.has(fault_kind::refuse); }
+    bool wants_close(milliseconds now) const override;
+    bool sends_without_delay() const override { return !options_.faults.has(fault_kind::nagle); }
 
   private:
     bool interrupted(milliseconds now);

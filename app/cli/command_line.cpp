@@ -1,5 +1,6 @@
 #include "command_line.h"
 
+#include "commands.h"
 #include "expertCtrlr.h"
 #include "text.h"
 
@@ -11,17 +12,6 @@
 #include <string_view>
 
 namespace {
-
-// The commands and how many arguments each takes.
-struct verb {
-    std::string_view name;
-    std::size_t least, most;
-};
-constexpr verb VERBS[] = {
-    {"codes", 0, 0},    {"clear", 0, 0},      {"send", 1, 10'000},  {"live", 0, 0},
-    {"decode", 0, 10'000}, {"vin", 0, 10'000}, {"mode6", 0, 10'000}, {"chart", 0, 10'000},
-    {"export", 0, 10'000}, {BLUETOOTH_SCAN, 0, 0},
-};
 
 bool plain_ascii(std::string_view text) {
     return std::ranges::all_of(text, [](char c) { return c >= ' ' && c <= '~'; });
@@ -43,12 +33,12 @@ class argument_reader {
     void take(const std::string& argument) {
         // A command's own arguments may begin with anything but "--", unless it reads its own
         // options.
-        if (decodes(result_.asked.command))
+        if (argument == "--help" || argument == "-h")
+            result_.asked.help = true;
+        else if (decodes(result_.asked.command))
             result_.asked.arguments.push_back(argument);
         else if (argument.size() > 1 && argument.starts_with("--"))
             take_option(argument);
-        else if (argument == "-h")
-            result_.asked.help = true;
         else if (result_.asked.command.empty())
             result_.asked.command = argument;
         else
@@ -69,6 +59,8 @@ class argument_reader {
             take_adapter(value(name));
         } else if (name == "--bluetooth") {
             take_bluetooth(value(name));
+        } else if (name == "--record") {
+            asked.record = value(name);
         } else if (name == "--settings") {
             asked.settings = value(name);
         } else if (name == "--screen") {
@@ -94,8 +86,6 @@ class argument_reader {
             asked.yes = true;
         } else if (name == "--quit-when-shown") {
             asked.quit_when_shown = true;
-        } else if (name == "--help") {
-            asked.help = true;
         } else if (name == "--version") {
             asked.version = true;
         } else {
@@ -177,6 +167,9 @@ class argument_reader {
 
     void check() {
         const cli_request& asked = result_.asked;
+        const command_row* command = find_command(asked.command);
+        if (!asked.command.empty() && !command)
+            fail("unknown command " + asked.command);
         if (asked.help || asked.version)
             return;
         static const std::set<std::string, std::less<>> SCREENS{"", "codes", "live", "prefs",
@@ -190,13 +183,17 @@ class argument_reader {
                 fail("--json needs a command");
             return;
         }
-        const auto found = std::ranges::find(VERBS, asked.command, &verb::name);
-        if (found == std::end(VERBS))
-            fail("unknown command " + asked.command);
-        else if (asked.arguments.size() < found->least)
+        if (!command)
+            return;
+        if (asked.arguments.size() < command->least)
             fail("command " + asked.command + " needs an argument");
-        else if (asked.arguments.size() > found->most)
-            fail("command " + asked.command + " takes no argument " + asked.arguments[found->most]);
+        else if (asked.arguments.size() > command->most)
+            fail("command " + asked.command + " takes no argument " +
+                 asked.arguments[command->most]);
+        if (asked.json && command->far_end == talks_to::nobody)
+            result_.asked.arguments.push_back("--json"); // it reads its own options
+        if (asked.record && command->far_end != talks_to::car)
+            fail("command " + asked.command + " talks to no adapter: there is nothing to record");
         if (asked.command != "live" && (!asked.pids.empty() || asked.log || asked.run != "log" ||
                                         asked.seconds > 0 || asked.cycles > 0))
             fail("--pids, --run, --seconds, --cycles and --log belong to the command live");
@@ -229,56 +226,10 @@ class argument_reader {
 } // namespace
 
 bool decodes(std::string_view command) {
-    return command == "decode" || command == "vin" || command == "mode6" || command == "chart" ||
-           command == "export";
+    const command_row* found = find_command(command);
+    return found && found->far_end == talks_to::nobody;
 }
 
 parsed_command_line parse_command_line(std::span<const std::string> arguments) {
     return argument_reader(arguments).read();
-}
-
-std::string usage_text() {
-    return R"(Usage: kestrom [OPTIONS] [COMMAND]
-
-Reads a car's on-board diagnostics through an ELM327-type adapter. Without a command the window opens.
-
-Commands
-  codes                 read lamp, trouble codes and readiness monitors
-  clear --yes           clear the trouble codes
-  send COMMAND...       send each command and print the raw reply
-  live [--pids 0D,0C] [--run log|fuel|o2|boost] [--seconds N | --cycles N] [--log]
-                        sample without pause and print the values of each cycle
-  decode REPLY... [--units metric|imperial]
-                        what replies to service 01 requests mean: text and number
-  vin REPLY             the vehicle identification number in a reply to 09 02
-  chart LOG.gol --pid PID [--pid PID] -o FILE.png [--scale N] [--dial]
-                        draw a run log as a chart, or its last value on a dial
-  export LOG.gol [--txt] [--json]
-                        turn a run log into a table (CSV) beside it
-  bluetooth-scan        list the Bluetooth devices that are paired or in reach
-  mode6 ID VALUE        a test result scaled by its unit-and-scaling identifier
-
-Options
-  --demo[=CAR]          talk to the built-in virtual car
-  --adapter HOST:PORT   talk to this Wi-Fi adapter instead of the one in the settings
-  --bluetooth ADDRESS   talk to this Bluetooth adapter, without asking
-  --settings FILE       use this settings file
-  --screen NAME         open with codes, live, prefs or expert
-  --screenshot FILE     save a picture of the window (PNG) and leave
-  --quit-when-shown     leave once the window has been painted (for measuring the start)
-  --json                print one JSON object
-  --timeout SECONDS     bound for the whole command (default 60; none for live)
-  --help, --version
-
-Exit status: 0 success, 1 the task failed or timed out, 2 the arguments make no sense.
-
-Examples
-  kestrom --demo codes
-  kestrom --adapter 192.168.0.10:35000 codes --json
-  kestrom --bluetooth 00:1D:A5:68:98:8B codes
-  kestrom --adapter 192.168.0.10:35000 send "AT RV" "01 0C"
-  kestrom --demo live --pids 0C,0D --cycles 20
-  kestrom decode "41 0C 1A F8" --units metric
-  kestrom export log_Nov_15_2026-0254_33.gol
-)";
 }

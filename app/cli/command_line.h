@@ -15,6 +15,7 @@ struct cli_request {
     std::optional<std::string> adapter_host; // with adapter_port, as typed
     std::string adapter_port;
     std::optional<std::string> bluetooth; // an adapter's address, as typed
+    std::optional<std::string> record;    // the conversation, to this file
     std::optional<std::string> settings;
     std::string screen; // "codes", "live", "prefs", "expert" or empty
     std::optional<std::string> screenshot;
@@ -45,5 +46,3 @@ struct parsed_command_line {
 bool decodes(std::string_view command);
 
 parsed_command_line parse_command_line(std::span<const std::string> arguments);
-
-std::string usage_text();

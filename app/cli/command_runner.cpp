@@ -5,6 +5,7 @@
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
 #include "live_command.h"
+#include "progress_line.h"
 #include "readCodes.h"
 #include "reply_accumulator.h"
 #include "report_printer.h"
@@ -24,6 +25,8 @@ command_runner::command_runner(const cli_request& asked, Ks_lite_delegate& deleg
     delegate_.status_shown = [this](const std::string& text) {
         if (text.empty())
             return;
+        if (!live_ || !live_->sampled()) // cycles tell more then
+            show_progress(text);
         if (live_ && !statuses_.empty()) // a run may last a day: only the last one counts
             statuses_.back() = text;
         else
@@ -131,12 +134,15 @@ void command_runner::look() {
         return;
     }
     if (!reply_complete_) {
-        end(false, "no reply to '" + asked_.arguments[sent_ - 1] + "'");
+        end(false, "no reply to '" + asked_.arguments[sent_ - 1] + "'" +
+                       (statuses_.empty() ? "" : ": " + statuses_.back()));
         return;
     }
     replies_.push_back(reply_);
-    if (!asked_.json)
+    if (!asked_.json) {
+        clear_progress();
         print_raw_reply(reply_);
+    }
     if (sent_ < asked_.arguments.size())
         next_send();
     else
@@ -169,6 +175,7 @@ void command_runner::interrupt() {
 void command_runner::end(bool succeeded, const std::string& why) {
     look_timer_.stop();
     bound_.stop();
+    clear_progress();
     if (live_) {
         live_->finish();
     } else if (asked_.json) {
@@ -189,7 +196,10 @@ void command_runner::end(bool succeeded, const std::string& why) {
         done_(1);
         return;
     }
-    if (!succeeded)
+    const auto& told = messages_.messages();
+    if (!succeeded && !told.empty() && told.back() == why) // it has just been read
+        std::fprintf(stderr, "kestrom: %s failed\n", asked_.command.c_str());
+    else if (!succeeded)
         std::fprintf(stderr, "kestrom: %s failed: %s\n", asked_.command.c_str(),
                      printable(why).c_str());
     done_(succeeded ? 0 : 1);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "alerts.h"
+#include "progress_line.h"
 #include "report_printer.h"
 
 #include <cstdio>
@@ -25,6 +26,7 @@ class console_alerts final : public alerts {
         std::string printed = request.message;
         if (!request.informative.empty())
             printed += "\n" + request.informative;
+        clear_progress();
         std::fprintf(stderr, "%s\n", printable(printed).c_str());
         return 0;
     }

@@ -4,17 +4,20 @@
 #include "constantes.h"
 #include "fixed_decimals.h"
 #include "Ks_lite_delegate.h"
+#include "progress_line.h"
 #include "report_printer.h"
 #include "text.h"
 
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <unistd.h>
 #include <utility>
 
 namespace {
 
 constexpr int TIME_DECIMALS = 3;
+constexpr run_loop::milliseconds PROGRESS_EVERY{200};
 
 int task_of(const std::string& run) {
     if (run == "fuel")
@@ -134,8 +137,23 @@ void live_command::print_cycle(const std::vector<translated>& values) {
                ",\"seconds\":" + fixed_decimals(seconds(), TIME_DECIMALS) + ",\"values\":{" + line +
                "}}";
     }
+    show_cycles();
     std::printf("%s\n", line.c_str());
     std::fflush(stdout); // whoever reads along sees each cycle as it completes
+}
+
+// Of a run whose lines go elsewhere: on a terminal they tell it themselves.
+void live_command::show_cycles() {
+    static const bool lines_seen = isatty(STDOUT_FILENO) == 1;
+    const auto now = delegate_.doors().loop.now();
+    if (lines_seen)
+        clear_progress();
+    else if (screen_->cycles() == 1 || now - progress_shown_ >= PROGRESS_EVERY) {
+        progress_shown_ = now;
+        show_progress("Cycle " + std::to_string(screen_->cycles()) +
+                      (asked_.cycles ? " of " + std::to_string(asked_.cycles) : "") + ", " +
+                      std::to_string((now - started_).count() / 1000) + " s");
+    }
 }
 
 void live_command::print_summary() const {

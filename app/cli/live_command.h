@@ -35,6 +35,7 @@ class live_command {
   private:
     void print_header();
     void print_cycle(const std::vector<translated>& values);
+    void show_cycles();
     void print_summary() const;
     double seconds() const;
 
@@ -44,6 +45,7 @@ class live_command {
     actions* screen_ = nullptr;
     run_loop::milliseconds started_{0};
     run_loop::milliseconds ended_{0};
+    run_loop::milliseconds progress_shown_{0};
     run_loop::timer_id limit_ = 0;
     bool finished_as_asked_ = false;
     bool finished_ = false;

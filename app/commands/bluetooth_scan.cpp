@@ -1,7 +1,9 @@
 #include "bluetooth_scan.h"
 
 #include "bundle.h"
+#include "progress_line.h"
 
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -13,6 +15,8 @@
 #include <ostream>
 
 namespace {
+
+constexpr int PROGRESS_EVERY_MS = 250;
 
 // A device may name itself anything: nothing of that drives the terminal, and a row stays a row.
 std::string printable_name(const std::string& name) {
@@ -67,8 +71,18 @@ int run_bluetooth_scan(bluez_devices& devices, const bundle& texts, double secon
     QObject::connect(&devices, &bluez_devices::changed, &waiting, look, Qt::QueuedConnection);
     QTimer::singleShot(static_cast<int>(std::min(seconds * 1000, 2e9)), &waiting,
                        &QEventLoop::quit);
+    QElapsedTimer searching;
+    searching.start();
+    QTimer ticking;
+    QObject::connect(&ticking, &QTimer::timeout, &waiting, [&] {
+        show_progress("Searching: " + std::to_string(devices.devices().size()) + " devices, " +
+                      std::to_string(searching.elapsed() / 1000) + " s");
+    });
+    ticking.start(PROGRESS_EVERY_MS);
     devices.search();
     waiting.exec();
+    ticking.stop();
+    clear_progress();
     const bluetooth_problem problem =
         devices.starting() ? bluetooth_problem::service_missing : devices.problem();
     devices.stop_search();

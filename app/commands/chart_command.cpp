@@ -152,9 +152,7 @@ int run_chart(std::span<const std::string> arguments, const mac_toolies& toolies
               const bundle& resources, std::ostream& out, std::ostream& err) {
     const chart_request request = read_chart_request(arguments);
     if (!request.error.empty()) {
-        err << "kestrom: " << request.error
-            << "\nUsage: kestrom chart LOG.gol --pid PID [--pid PID] -o FILE.png [--scale N] "
-               "[--dial]\n";
+        err << "kestrom: " << request.error << "\nTry 'kestrom chart --help'.\n";
         return USAGE_STATUS;
     }
     std::string error;

@@ -5,6 +5,12 @@
 #include "text.h"
 #include "user_defaults.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <optional>
@@ -15,13 +21,45 @@
 namespace {
 
 constexpr int USAGE_STATUS = 2;
-constexpr std::string_view DECODE_USAGE = "decode REPLY... [--units metric|imperial]";
-constexpr std::string_view VIN_USAGE = "vin REPLY";
-constexpr std::string_view MODE6_USAGE = "mode6 ID VALUE";
+constexpr int FAILED_STATUS = 1;
+constexpr std::string_view NO_ANSWER = "~"; // of the toolkit's, to what it cannot translate
 
-int refuse(std::ostream& err, std::string_view why, std::string_view usage) {
-    err << "kestrom: " << why << "\nUsage: kestrom " << usage << "\n";
+// What adapters say instead of data, without blanks. "BUS" and "ERROR" stand in several notices.
+constexpr std::string_view NOTICES[] = {"NODATA",   "SEARCHING", "UNABLETOCONNECT", "STOPPED",
+                                        "BUS",      "ERROR",     "BUFFERFULL",      "LVRESET",
+                                        "ACTALERT", "?"};
+
+int refuse(std::ostream& err, std::string_view why, std::string_view command) {
+    err << "kestrom: " << why << "\nTry 'kestrom " << command << " --help'.\n";
     return USAGE_STATUS;
+}
+
+int done(std::ostream& out, const QJsonObject& object) {
+    out << QJsonDocument(object).toJson().toStdString();
+    return 0;
+}
+
+QString json_text(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+QJsonValue json_number(double value) {
+    return std::isfinite(value) ? QJsonValue(value) : QJsonValue();
+}
+
+// Takes --json out.
+bool take_json(std::vector<std::string>& arguments) {
+    return std::erase(arguments, "--json") > 0;
+}
+
+// Whether an adapter may have sent that for a request of service 01: its answer, a refusal, or a
+// notice.
+bool may_be_reply(const std::string& reply) {
+    std::string plain = without(reply, " \r\n\t");
+    std::ranges::transform(plain, plain.begin(), [](unsigned char c) { return std::toupper(c); });
+    if (plain.starts_with("41") || plain.starts_with("7F"))
+        return true;
+    return std::ranges::any_of(NOTICES, [&](std::string_view one) { return contains(plain, one); });
 }
 
 std::string reply_of(const std::string& argument) {
@@ -47,6 +85,7 @@ std::string number_text(double value) {
 struct decode_request {
     std::vector<std::string> replies;
     std::optional<std::string> units;
+    bool json = false;
     std::string error;
 };
 
@@ -61,6 +100,8 @@ decode_request read_decode_request(std::span<const std::string> arguments) {
             request.units = arguments[++i];
         else if (argument == UNITS)
             request.error = "--units needs metric or imperial";
+        else if (argument == "--json")
+            request.json = true;
         else if (argument.starts_with("--"))
             request.error = "unknown option " + argument;
         else
@@ -79,34 +120,65 @@ int run_decode(std::span<const std::string> arguments, const mac_toolies& toolie
                user_defaults& units, std::ostream& out, std::ostream& err) {
     const decode_request request = read_decode_request(arguments);
     if (!request.error.empty())
-        return refuse(err, request.error, DECODE_USAGE);
+        return refuse(err, request.error, "decode");
     if (request.units)
         units.set_boolean(KS_METRIC_UNITS_KEY, *request.units == "metric");
+    QJsonArray decoded;
+    std::string nonsense;
     for (const std::string& reply : request.replies) {
         const auto [text, value] = toolies.translate_once(reply);
-        out << printable(text) << '\t' << number_text(value) << '\n';
+        if (text == NO_ANSWER && !may_be_reply(reply))
+            nonsense += (nonsense.empty() ? "'" : ", '") + printable(reply) + "'";
+        if (request.json)
+            decoded.append(QJsonObject{{QStringLiteral("reply"), json_text(reply)},
+                                       {QStringLiteral("text"), json_text(text)},
+                                       {QStringLiteral("value"), json_number(value)}});
+        else
+            out << printable(text) << '\t' << number_text(value) << '\n';
     }
-    return 0;
+    if (request.json)
+        done(out, {{QStringLiteral("replies"), decoded}});
+    if (nonsense.empty())
+        return 0;
+    err << "kestrom: no reply to a service 01 request: " << nonsense << '\n';
+    return FAILED_STATUS;
 }
 
-int run_vin(std::span<const std::string> arguments, const mac_toolies& toolies, std::ostream& out,
+int run_vin(std::span<const std::string> given, const mac_toolies& toolies, std::ostream& out,
             std::ostream& err) {
+    std::vector<std::string> arguments(given.begin(), given.end());
+    const bool json = take_json(arguments);
     if (arguments.size() != 1)
-        return refuse(err, "vin takes one reply", VIN_USAGE);
-    out << printable(toolies.work_out_vin(reply_of(arguments[0]))) << '\n';
+        return refuse(err, "vin takes one reply", "vin");
+    const std::string vin = toolies.work_out_vin(reply_of(arguments[0]));
+    if (json)
+        return done(out, {{QStringLiteral("vin"),
+                           vin == "N/A" ? QJsonValue() : QJsonValue(json_text(vin))}});
+    out << printable(vin) << '\n';
     return 0;
 }
 
-int run_mode6(std::span<const std::string> arguments, const mac_toolies& toolies, std::ostream& out,
+int run_mode6(std::span<const std::string> given, const mac_toolies& toolies, std::ostream& out,
               std::ostream& err) {
+    std::vector<std::string> arguments(given.begin(), given.end());
+    const bool json = take_json(arguments);
     if (arguments.size() != 2)
-        return refuse(err, "mode6 takes an identifier and a value", MODE6_USAGE);
+        return refuse(err, "mode6 takes an identifier and a value", "mode6");
     const std::string& identifier = arguments[0];
     const std::string value = without(arguments[1], " ");
     if (!is_hex(identifier) || identifier.size() > 2)
-        return refuse(err, "the identifier is two hex digits", MODE6_USAGE);
+        return refuse(err, "the identifier is two hex digits", "mode6");
     if (!is_hex(value))
-        return refuse(err, "the value is hex digits", MODE6_USAGE);
-    out << toolies.CAN_scale_and_units(identifier, value, true) << '\n';
-    return 0;
+        return refuse(err, "the value is hex digits", "mode6");
+    const std::string text = toolies.CAN_scale_and_units(identifier, value, true);
+    if (!json) {
+        out << text << '\n';
+        return 0;
+    }
+    double number = std::nan("");
+    const auto [end, bad] = std::from_chars(text.data(), text.data() + text.size(), number);
+    const std::string unit(trimmed(std::string_view(end, text.data() + text.size())));
+    return done(out, {{QStringLiteral("text"), json_text(text)},
+                      {QStringLiteral("value"), json_number(number)},
+                      {QStringLiteral("unit"), json_text(unit)}});
 }

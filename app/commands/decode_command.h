@@ -1,6 +1,7 @@
 // Commands that decode replies given on the command line: decode, vin and mode6. Each is handed its
-// own arguments, prints a line per answer to `out` and returns the exit status: 0, or 2 with a
-// message on `err` when the arguments make no sense. A reply may write its line ends as \r and \n.
+// own arguments, prints a line per answer to `out`, or with --json an object (docs/json), and
+// returns the exit status: 0, or 2 with a message on `err` when the arguments make no sense. A
+// reply may write its line ends as \r and \n.
 #pragma once
 
 #include <iosfwd>
@@ -12,7 +13,7 @@ class user_defaults;
 
 // REPLY... [--units metric|imperial]: the display text, a tab and the number of each reply. The
 // units go to `units`, the store that `toolies` reads; without the option they stay as they are
-// there.
+// there. Exit status 1 when a text is nothing that an adapter sends; the others are decoded still.
 int run_decode(std::span<const std::string> arguments, const mac_toolies& toolies,
                user_defaults& units, std::ostream& out, std::ostream& err);
 

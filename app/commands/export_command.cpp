@@ -2,6 +2,7 @@
 
 #include "log_export.h"
 #include "mac_toolies.h"
+#include "progress_line.h"
 #include "text.h"
 
 #include <QJsonDocument>
@@ -9,6 +10,7 @@
 
 #include <filesystem>
 #include <ostream>
+#include <utility>
 
 namespace {
 
@@ -66,13 +68,19 @@ int run_export(std::span<const std::string> arguments, const mac_toolies& toolie
                std::ostream& out, std::ostream& err) {
     const export_request request = read_export_request(arguments);
     if (!request.error.empty()) {
-        err << "kestrom: " << request.error << "\nUsage: kestrom export LOG.gol [--txt] [--json]\n";
+        err << "kestrom: " << request.error << "\nTry 'kestrom export --help'.\n";
         return USAGE_STATUS;
     }
     const std::filesystem::path log = path_of(request.log, toolies.log_folder());
     const std::filesystem::path output =
         log.parent_path() / log_export::output_name(log.filename().string(), request.as_txt);
-    const export_outcome outcome = export_log(toolies, log.string(), output.string());
+    const export_outcome outcome =
+        export_log(toolies, log.string(), output.string(), [shown = -1](double done) mutable {
+            const int percent = static_cast<int>(done * 100); // 0 to 1
+            if (std::exchange(shown, percent) != percent)
+                show_progress("Exporting: " + std::to_string(percent) + " %");
+        });
+    clear_progress();
     if (request.json)
         print_json(output.string(), outcome, out);
     if (outcome.result != export_result::exported) {

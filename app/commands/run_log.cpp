@@ -55,7 +55,10 @@ std::optional<run_log> read_run_log(const std::string& path, const mac_toolies& 
         }
         log.samples.append_fresh_row();
         for (std::size_t p = 0; p < parameters; ++p) {
-            const std::string reply = without(replies[p], " \r");
+            std::string_view field = replies[p];
+            if (field.ends_with('\r')) // the line's end, as other systems write it
+                field.remove_suffix(1);
+            const std::string reply = without(field, " ");
             if (log.pids[p].empty())
                 log.pids[p] = pid_of_reply(reply);
             log.last_values[p] = toolies.translate_once(reply);

@@ -42,9 +42,6 @@ background_picture::background_picture(const QString& hint, QWidget* parent)
     QPalette light = hint_->palette();
     light.setColor(QPalette::WindowText, QColor(214, 220, 228));
     hint_->setPalette(light);
-    QFont face = hint_->font();
-    face.setPointSizeF(face.pointSizeF() * 1.2);
-    hint_->setFont(face);
     auto* column = new QVBoxLayout(this);
     column->addStretch(5);
     column->addWidget(hint_);

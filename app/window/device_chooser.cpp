@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr QSize DEFAULT_SIZE{680, 440};
+constexpr QSize DEFAULT_SIZE{720, 440};
 constexpr int REFRESH_MS = 100; // hundreds of devices report many times a second
 constexpr int TICK_MS = 1000;
 constexpr int PATIENCE_MS = 5000; // afterwards the seconds are counted
@@ -87,6 +87,8 @@ void device_chooser::build_table() {
         if (role == Qt::ForegroundRole &&
             entries_[static_cast<std::size_t>(row)].serial_port == serial_port_offer::no)
             return palette().color(QPalette::PlaceholderText);
+        if (role == Qt::ToolTipRole && column == QLatin1String("Name")) // may be cut short
+            return QStringLiteral("<span>%1</span>").arg(cell(row, column).toHtmlEscaped());
         return {};
     };
     table_->setModel(model_);

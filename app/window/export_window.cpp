@@ -143,7 +143,9 @@ void export_window::list_logs() {
     }
     logs_->setVisible(!logs.empty());
     no_logs_->setVisible(logs.empty());
-    start_->setEnabled(!logs.empty());
+    for (QWidget* widget : {static_cast<QWidget*>(start_), static_cast<QWidget*>(as_csv_),
+                            static_cast<QWidget*>(as_txt_)})
+        widget->setEnabled(!logs.empty());
     if (!logs.empty())
         logs_->selectRow(0);
 }

@@ -1,10 +1,12 @@
 #include "main_window.h"
 
+#include "alerts.h"
 #include "background_picture.h"
 #include "bundle.h"
 #include "chrome.h"
 #include "export_window.h"
 #include "Ks_lite_delegate.h"
+#include "mac_toolies.h"
 #include "rail_button.h"
 #include "user_defaults.h"
 
@@ -14,14 +16,21 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QMenuBar>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr char GEOMETRY_KEY[] = "window_geometry";
 constexpr QSize DEFAULT_SIZE{1100, 720};
-constexpr QSize SMALLEST_SIZE{800, 560};
+constexpr QSize SMALLEST_SIZE{800, 480}; // a screen of 1920 x 1080 at 200 %, with a panel
+constexpr QSize FRAME{8, 40};            // that a window manager adds, at most
 constexpr int RAIL_WIDTH = 128;
+
+// Offscreen there is neither a real screen nor a place to remember.
+bool somebody_looks() {
+    return QGuiApplication::platformName() != QLatin1String("offscreen");
+}
 
 } // namespace
 
@@ -32,7 +41,8 @@ main_window::main_window(Ks_lite_delegate& delegate) : delegate_(delegate) {
     auto* row = new QHBoxLayout(whole);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
-    row->addWidget(build_rail());
+    row->addWidget(rail_ = build_rail());
+    shade_rail();
 
     mainView = new QWidget(whole);
     mainView->setObjectName(QStringLiteral("mainView"));
@@ -71,28 +81,39 @@ void main_window::build_menu() {
             export_window_ = new export_window(delegate_, this);
         export_window_->open_beside();
     });
+    QAction* about = file->addAction(ui_text(delegate_, "ui_menu_about"));
+    about->setObjectName(QStringLiteral("about"));
+    connect(about, &QAction::triggered, this, [this] { show_about(); });
     file->addSeparator();
     QAction* quit = file->addAction(ui_text(delegate_, "ui_menu_quit"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, &QWidget::close);
 }
 
+void main_window::show_about() {
+    const bundle& texts = delegate_.doors().resources;
+    alert_request box;
+    box.title = ui_text(delegate_, "ui_menu_about").remove(u'&').toStdString();
+    box.message = "Kestrom " KESTROM_VERSION;
+    box.informative = texts.localized("ui_about") + "\n\nQt " + qVersion();
+    box.buttons = {texts.localized("ui_about_close")};
+    box.style = alert_style::informational;
+    delegate_.doors().message_boxes.show(box);
+}
+
 QWidget* main_window::build_rail() {
     auto* rail = new QWidget(this);
     rail->setObjectName(QStringLiteral("rail"));
     rail->setAutoFillBackground(true);
-    QPalette quiet = rail->palette();
-    const bool dark = quiet.color(QPalette::Window).lightness() < 128;
-    quiet.setColor(QPalette::Window, quiet.color(QPalette::Window).darker(dark ? 120 : 106));
-    rail->setPalette(quiet);
-    rail->setFixedWidth(RAIL_WIDTH);
+    rail->setMinimumWidth(RAIL_WIDTH);
+    rail->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     auto* column = new QVBoxLayout(rail);
     column->setContentsMargins(GRID, GRID, GRID, GRID);
     column->setSpacing(GRID);
 
     switches_ = new QButtonGroup(this);
     auto make = [&](const char* name, const char* icon, std::string_view key) {
-        auto* button = new rail_button(drawn_icon(icon, quiet), ui_text(delegate_, key), rail);
+        auto* button = new rail_button(drawn_icon(icon), ui_text(delegate_, key), rail);
         button->setObjectName(QLatin1String(name));
         column->addWidget(button);
         return button;
@@ -107,7 +128,8 @@ QWidget* main_window::build_rail() {
     make_switch(ACTIONS_VIEW, "live", "ui_rail_live", [this] { delegate_.do_actions(); });
     auto* logs = make("logs", "logs", "ui_rail_logs");
     logs->setEnabled(false);
-    logs->setToolTip(ui_text(delegate_, "ui_rail_logs_hint"));
+    logs->setToolTip(ui_text(delegate_, "ui_rail_logs_hint") + u'\n' +
+                     QString::fromStdString(mac_toolies::sharedManager().log_folder()));
     connect(logs, &QToolButton::clicked, this, [this] { delegate_.do_logs(); });
     make_switch(EXPERT_VIEW, "expert", "ui_rail_expert", [this] { delegate_.do_expert(); });
     make_switch(PREFS_VIEW, "prefs", "ui_rail_prefs", [this] { delegate_.do_prefs(); });
@@ -116,6 +138,20 @@ QWidget* main_window::build_rail() {
     help->setShortcut(QKeySequence::HelpContents);
     connect(help, &QToolButton::clicked, this, [this] { delegate_.do_help_button(); });
     return rail;
+}
+
+// A little darker than the window, whatever the desktop's scheme is now.
+void main_window::shade_rail() {
+    QPalette quiet = QGuiApplication::palette();
+    const QColor window = quiet.color(QPalette::Window);
+    quiet.setColor(QPalette::Window, window.darker(window.lightness() < 128 ? 120 : 106));
+    rail_->setPalette(quiet);
+}
+
+void main_window::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && rail_)
+        shade_rail();
 }
 
 void main_window::follow_screen() {
@@ -128,16 +164,21 @@ void main_window::follow_screen() {
         screen->view()->setFocus();
 }
 
+// Where it was, or where that is now: the screen may be another one.
 void main_window::restore_place() {
     const std::string stored = delegate_.doors().defaults.string(GEOMETRY_KEY);
-    if (stored.empty() ||
-        !restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(stored))))
-        resize(DEFAULT_SIZE);
+    const bool known = !stored.empty() &&
+                       restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(stored)));
+    const QRect room = screen()->availableGeometry();
+    const QSize wanted = known ? size() : DEFAULT_SIZE;
+    resize(somebody_looks() ? wanted.boundedTo(room.size() - FRAME) : wanted);
+    if (known && size() != wanted && !isMaximized() && !isFullScreen())
+        move(room.topLeft());
 }
 
 void main_window::closeEvent(QCloseEvent* event) {
     // A window that nobody saw has no place to remember.
-    if (isVisible() && QGuiApplication::platformName() != QLatin1String("offscreen")) {
+    if (isVisible() && somebody_looks()) {
         delegate_.doors().defaults.set_string(GEOMETRY_KEY,
                                               saveGeometry().toBase64().toStdString());
         delegate_.doors().defaults.synchronize();

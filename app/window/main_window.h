@@ -16,14 +16,18 @@ class main_window final : public QMainWindow {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     void build_menu();
+    void show_about();
     QWidget* build_rail();
+    void shade_rail();
     void follow_screen();
     void restore_place();
 
     Ks_lite_delegate& delegate_;
+    QWidget* rail_ = nullptr;
     QWidget* mainView = nullptr;
     QWidget* back_pic = nullptr;
     QButtonGroup* switches_ = nullptr;

@@ -16,12 +16,17 @@ class rail_button final : public QToolButton {
         setAutoRaise(true);
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         setMinimumHeight(64);
-        connect(this, &QToolButton::toggled, this, [this](bool on) {
-            QFont face = font();
-            face.setWeight(on ? QFont::DemiBold : QFont::Normal);
-            setFont(face);
-        });
+        connect(this, &QToolButton::toggled, this, [this](bool on) { set_weight(on); });
     }
+
+    // As wide as the chosen one needs, so that nothing moves when another is chosen.
+    QSize sizeHint() const override {
+        QFont heavy = font();
+        heavy.setWeight(QFont::DemiBold);
+        const int word = QFontMetrics(heavy).size(Qt::TextShowMnemonic, text()).width();
+        return QToolButton::sizeHint().expandedTo({word + 16, 64});
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
 
   protected:
     void paintEvent(QPaintEvent* event) override {
@@ -30,5 +35,12 @@ class rail_button final : public QToolButton {
             return;
         QPainter painter(this);
         painter.fillRect(0, 8, 3, height() - 16, palette().color(QPalette::Highlight));
+    }
+
+  private:
+    void set_weight(bool chosen) {
+        QFont face = font();
+        face.setWeight(chosen ? QFont::DemiBold : QFont::Normal);
+        setFont(face);
     }
 };

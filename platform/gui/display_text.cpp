@@ -1,5 +1,7 @@
 #include "display_text.h"
 
+#include <algorithm>
+
 QString display_text(std::string_view text) {
     QString shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
@@ -8,4 +10,18 @@ QString display_text(std::string_view text) {
         if (c.category() == QChar::Other_Control && c != u'\n' && c != u'\t')
             c = u' ';
     return shown;
+}
+
+std::size_t unfinished_letter(std::string_view text) {
+    for (std::size_t back = 1; back <= std::min<std::size_t>(3, text.size()); ++back) {
+        const auto byte = static_cast<unsigned char>(text[text.size() - back]);
+        if ((byte & 0xC0) == 0x80)
+            continue;
+        const std::size_t whole = byte < 0xC2 || byte > 0xF4 ? 1
+                                  : byte < 0xE0              ? 2
+                                  : byte < 0xF0              ? 3
+                                                             : 4;
+        return back < whole ? back : 0;
+    }
+    return 0;
 }

@@ -3,8 +3,12 @@
 #include "display_text.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace {
 
@@ -14,6 +18,17 @@ QString shortened(QString text) {
     const qsizetype end = text.size();
     text = text.section(u'\n', 0, MOST_LINES - 1).left(MOST_CHARACTERS);
     return text.size() < end ? text + QChar(0x2026) : text;
+}
+
+// A long text in lines of a readable length: by itself the box makes it a narrow, high column.
+void widen_for(QMessageBox& box, qsizetype characters) {
+    constexpr qsizetype LONG = 600;
+    constexpr int WIDTH = 720, EDGES = 64;
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout()); grid && characters > LONG)
+        grid->addItem(
+            new QSpacerItem(std::min(WIDTH, box.screen()->availableSize().width() - EDGES), 0,
+                            QSizePolicy::Minimum, QSizePolicy::Fixed),
+            grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 } // namespace
@@ -29,6 +44,7 @@ int message_box_alerts::run_modal(const alert_request& request) {
                                              : display_text(request.title));
     box.setText(shortened(display_text(request.message)));
     box.setInformativeText(display_text(request.informative));
+    widen_for(box, box.informativeText().size());
     constexpr QMessageBox::Icon ICONS[] = {QMessageBox::Warning, QMessageBox::Information,
                                            QMessageBox::Critical};
     box.setIcon(ICONS[static_cast<int>(request.style)]);

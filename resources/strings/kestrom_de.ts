@@ -13,7 +13,7 @@ Fehlercodes: „Codes lesen“ zeigt die gespeicherten Codes mit ihrer Bedeutung
 
 Live-Daten: Wählen Sie die Art der Aufzeichnung und drücken Sie auf Start. Jeder Messwert hat ein kleines Diagramm; ein Klick zeigt ihn groß und auf dem Rundinstrument, mit Strg wählen Sie einen weiteren für das zweite Instrument. Die Liste der Messwerte und die Einheiten stehen in den Einstellungen.
 
-Aufzeichnungen: Ist die Aufzeichnung in den Einstellungen eingeschaltet, wird jede Fahrt in eine eigene Datei im Ordner „loggies“ geschrieben; wo er liegt, sagt der Schalter Aufzeichnungen.
+Aufzeichnungen: Ist die Aufzeichnung in den Einstellungen eingeschaltet, wird jede Fahrt in eine eigene Datei im Ordner „loggies“ geschrieben; wo er liegt, sagt der Hinweis über Aufzeichnungen, und Datei &gt; Aufzeichnung exportieren… macht Tabellen daraus.
 
 Experte: Geben Sie einen beliebigen Adapterbefehl (AT I) oder eine Anfrage (01 0C) ein und lesen Sie die unveränderte Antwort.
 
@@ -559,7 +559,37 @@ Melden Sie sich am Rechner selbst an, oder bitten Sie die Verwaltung, Sie in die
     </message>
     <message id="bt_no_chooser">
         <source></source>
-        <translation>Es ist kein Bluetooth-Adapter gewählt. Nennen Sie einen mit --bluetooth ADRESSE; kestrom bluetooth-scan zeigt, welche in Reichweite sind.</translation>
+        <translation>Es ist kein Bluetooth-Adapter gewählt. Nennen Sie einen mit --bluetooth ADRESSE (kestrom bluetooth-scan zeigt, welche in Reichweite sind) oder einen WLAN-Adapter mit --adapter RECHNER:PORT; --demo braucht keinen.</translation>
+    </message>
+    <message id="ui_menu_about">
+        <source></source>
+        <translation>Über &amp;Kestrom</translation>
+    </message>
+    <message id="ui_about">
+        <source></source>
+        <translation>Liest die Fahrzeugdiagnose (OBD-II) über einen Adapter vom Typ ELM327: Fehlercodes, Stand der Überwachung, Live-Daten, Aufzeichnungen und eine Konsole.
+
+Freie Software unter der MIT-Lizenz. © 2026 The Kestrom developers</translation>
+    </message>
+    <message id="ui_about_close">
+        <source></source>
+        <translation>Schließen</translation>
+    </message>
+    <message id="ui_run_log">
+        <source></source>
+        <translation>Messwerte</translation>
+    </message>
+    <message id="ui_run_fuel">
+        <source></source>
+        <translation>Kraftstoffverbrauch</translation>
+    </message>
+    <message id="ui_run_sensors">
+        <source></source>
+        <translation>Lambdasonden</translation>
+    </message>
+    <message id="ui_run_boost">
+        <source></source>
+        <translation>Ladedruck</translation>
     </message>
 </context>
 </TS>

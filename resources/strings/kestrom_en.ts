@@ -13,7 +13,7 @@ Trouble codes: “Read codes” shows the stored codes with their meaning, the m
 
 Live data: choose a kind of run and press start. Each parameter has a small chart; click one to see it large and on the dial, hold Ctrl to pick a second one for the second dial. Preferences holds the list of parameters and the units.
 
-Logs: with run logging switched on in Preferences, every run is written to a file of its own in the folder “loggies”; the Logs switch says where that folder is.
+Logs: with run logging switched on in Preferences, every run is written to a file of its own in the folder “loggies”; the tooltip of Logs says where that folder is, and File &gt; Export run log… makes tables of them.
 
 Expert: type any adapter command (AT I) or request (01 0C) and read the raw reply.
 
@@ -559,7 +559,37 @@ Log in at the computer itself, or ask its administrator to add you to the group 
     </message>
     <message id="bt_no_chooser">
         <source></source>
-        <translation>No Bluetooth adapter was chosen. Name one with --bluetooth ADDRESS; kestrom bluetooth-scan lists those in reach.</translation>
+        <translation>No Bluetooth adapter was chosen. Name one with --bluetooth ADDRESS (kestrom bluetooth-scan lists those in reach) or a Wi-Fi adapter with --adapter HOST:PORT; --demo needs neither.</translation>
+    </message>
+    <message id="ui_menu_about">
+        <source></source>
+        <translation>&amp;About Kestrom</translation>
+    </message>
+    <message id="ui_about">
+        <source></source>
+        <translation>Reads a car's on-board diagnostics (OBD-II) through an ELM327-type adapter: trouble codes, readiness, live data, run logs and a console.
+
+Free software under the MIT licence. © 2026 The Kestrom developers</translation>
+    </message>
+    <message id="ui_about_close">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="ui_run_log">
+        <source></source>
+        <translation>Log Run</translation>
+    </message>
+    <message id="ui_run_fuel">
+        <source></source>
+        <translation>Fuel consumption</translation>
+    </message>
+    <message id="ui_run_sensors">
+        <source></source>
+        <translation>O2 Diags/Sampling</translation>
+    </message>
+    <message id="ui_run_boost">
+        <source></source>
+        <translation>Boost</translation>
     </message>
 </context>
 </TS>

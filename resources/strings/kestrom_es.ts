@@ -13,7 +13,7 @@ Códigos de avería: «Leer códigos» muestra los códigos guardados con su sig
 
 Datos en vivo: elija el tipo de registro y pulse el botón de inicio. Cada parámetro tiene una gráfica pequeña; haga clic en ella para verla en grande y en el indicador, y mantenga Ctrl para elegir otra para el segundo indicador. La lista de parámetros y las unidades están en las preferencias.
 
-Registros: con el registro activado en las preferencias, cada sesión se guarda en su propio archivo de la carpeta «loggies»; el botón Registros indica dónde está.
+Registros: con el registro activado en las preferencias, cada sesión se guarda en su propio archivo de la carpeta «loggies»; la indicación de Registros dice dónde está, y Archivo &gt; Exportar registro… hace tablas con ellos.
 
 Experto: escriba una orden del adaptador (AT I) o una petición (01 0C) y lea la respuesta sin tratar.
 
@@ -559,7 +559,37 @@ Inicie la sesión en el propio equipo, o pida a su administrador que lo añada a
     </message>
     <message id="bt_no_chooser">
         <source></source>
-        <translation>No se ha elegido ningún adaptador Bluetooth. Indique uno con --bluetooth DIRECCIÓN; kestrom bluetooth-scan muestra los que están al alcance.</translation>
+        <translation>No se ha elegido ningún adaptador Bluetooth. Indique uno con --bluetooth DIRECCIÓN (kestrom bluetooth-scan muestra los que están al alcance) o un adaptador Wi-Fi con --adapter HOST:PUERTO; --demo no necesita ninguno.</translation>
+    </message>
+    <message id="ui_menu_about">
+        <source></source>
+        <translation>&amp;Acerca de Kestrom</translation>
+    </message>
+    <message id="ui_about">
+        <source></source>
+        <translation>Lee el diagnóstico de a bordo (OBD-II) de un coche con un adaptador de tipo ELM327: códigos de avería, monitores, datos en vivo, registros y una consola.
+
+Software libre con licencia MIT. © 2026 The Kestrom developers</translation>
+    </message>
+    <message id="ui_about_close">
+        <source></source>
+        <translation>Cerrar</translation>
+    </message>
+    <message id="ui_run_log">
+        <source></source>
+        <translation>Parámetros elegidos</translation>
+    </message>
+    <message id="ui_run_fuel">
+        <source></source>
+        <translation>Consumo</translation>
+    </message>
+    <message id="ui_run_sensors">
+        <source></source>
+        <translation>Sondas de oxígeno</translation>
+    </message>
+    <message id="ui_run_boost">
+        <source></source>
+        <translation>Sobrealimentación</translation>
     </message>
 </context>
 </TS>

@@ -13,7 +13,7 @@ Codes défaut : « Lire les codes » affiche les codes enregistrés avec leur si
 
 Données en direct : choisissez le type d'enregistrement et appuyez sur le bouton de départ. Chaque paramètre a son petit graphique ; cliquez dessus pour le voir en grand et sur le cadran, maintenez Ctrl pour en choisir un autre pour le second cadran. La liste des paramètres et les unités se règlent dans les préférences.
 
-Journaux : lorsque l'enregistrement est activé dans les préférences, chaque session est écrite dans son propre fichier du dossier « loggies » ; le bouton Journaux indique où il se trouve.
+Journaux : lorsque l'enregistrement est activé dans les préférences, chaque session est écrite dans son propre fichier du dossier « loggies » ; l'infobulle de Journaux indique où il se trouve, et Fichier &gt; Exporter un journal… en fait des tableaux.
 
 Expert : tapez une commande de l'adaptateur (AT I) ou une requête (01 0C) et lisez la réponse brute.
 
@@ -559,7 +559,37 @@ Ouvrez une session sur l'ordinateur même, ou demandez à son administrateur de 
     </message>
     <message id="bt_no_chooser">
         <source></source>
-        <translation>Aucun adaptateur Bluetooth n'est choisi. Nommez-en un avec --bluetooth ADRESSE ; kestrom bluetooth-scan montre ceux qui sont à portée.</translation>
+        <translation>Aucun adaptateur Bluetooth n'est choisi. Nommez-en un avec --bluetooth ADRESSE (kestrom bluetooth-scan montre ceux qui sont à portée) ou un adaptateur Wi-Fi avec --adapter HÔTE:PORT ; --demo n'en demande aucun.</translation>
+    </message>
+    <message id="ui_menu_about">
+        <source></source>
+        <translation>À &amp;propos de Kestrom</translation>
+    </message>
+    <message id="ui_about">
+        <source></source>
+        <translation>Lit le diagnostic embarqué (OBD-II) d'une voiture par un adaptateur de type ELM327 : codes défaut, moniteurs, données en direct, journaux et une console.
+
+Logiciel libre sous licence MIT. © 2026 The Kestrom developers</translation>
+    </message>
+    <message id="ui_about_close">
+        <source></source>
+        <translation>Fermer</translation>
+    </message>
+    <message id="ui_run_log">
+        <source></source>
+        <translation>Paramètres choisis</translation>
+    </message>
+    <message id="ui_run_fuel">
+        <source></source>
+        <translation>Consommation</translation>
+    </message>
+    <message id="ui_run_sensors">
+        <source></source>
+        <translation>Sondes à oxygène</translation>
+    </message>
+    <message id="ui_run_boost">
+        <source></source>
+        <translation>Suralimentation</translation>
     </message>
 </context>
 </TS>

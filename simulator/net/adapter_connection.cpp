@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-adapter_connection::adapter_connection(QTcpSocket* socket, virtual_adapter& adapter,
+adapter_connection::adapter_connection(QTcpSocket* socket, adapter& served,
                                        const QElapsedTimer& clock, QObject* parent)
-    : QObject(parent), socket_(socket), adapter_(adapter), clock_(clock) {
+    : QObject(parent), socket_(socket), adapter_(served), clock_(clock) {
     socket_->setParent(this);
     socket_->setSocketOption(QAbstractSocket::LowDelayOption,
                              adapter_.sends_without_delay() ? 1 : 0);

@@ -1,9 +1,9 @@
-// One client's connection to a virtual adapter: carries bytes between socket and adapter and wakes
+// One client's connection to an adapter: carries bytes between socket and adapter and wakes
 // when the adapter has something to say. Owned by the server; deletes itself never, says when it is
 // over.
 #pragma once
 
-#include "virtual_adapter.h"
+#include "adapter.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -15,7 +15,7 @@ class adapter_connection : public QObject {
 
   public:
     // Takes over the socket. `clock` is the server's: one time for all connections.
-    adapter_connection(QTcpSocket* socket, virtual_adapter& adapter, const QElapsedTimer& clock,
+    adapter_connection(QTcpSocket* socket, adapter& served, const QElapsedTimer& clock,
                        QObject* parent);
 
     // Reads what already waits, which may end the connection: connect to over() first.
@@ -31,7 +31,7 @@ class adapter_connection : public QObject {
     void write_due();
 
     QTcpSocket* socket_;
-    virtual_adapter& adapter_;
+    adapter& adapter_;
     const QElapsedTimer& clock_;
     QTimer timer_;
 };

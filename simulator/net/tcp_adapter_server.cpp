@@ -5,7 +5,13 @@
 #include <QHostAddress>
 
 tcp_adapter_server::tcp_adapter_server(car the_car, adapter_options options, QObject* parent)
-    : QObject(parent), car_(std::move(the_car)), adapter_(car_, std::move(options)) {
+    : tcp_adapter_server(nullptr, parent) {
+    car_ = std::move(the_car);
+    adapter_ = std::make_unique<virtual_adapter>(car_, std::move(options));
+}
+
+tcp_adapter_server::tcp_adapter_server(std::unique_ptr<adapter> served, QObject* parent)
+    : QObject(parent), adapter_(std::move(served)) {
     clock_.start();
     connect(&server_, &QTcpServer::newConnection, this, &tcp_adapter_server::serve_next);
 }
@@ -22,7 +28,7 @@ bool tcp_adapter_server::listen(const std::string& address, int port) {
             host.isNull() ? "not an IP address: " + address : "not a port: " + std::to_string(port);
         return false;
     }
-    if (adapter_.refuses())
+    if (adapter_->refuses())
         return refuse_at(address, port);
     if (!server_.listen(host, quint16(port))) {
         error_ = server_.errorString().toStdString();
@@ -56,7 +62,7 @@ void tcp_adapter_server::serve_next() {
         return;
     if (connection_)
         connection_->deleteLater();
-    connection_ = new adapter_connection(socket, adapter_, clock_, this);
+    connection_ = new adapter_connection(socket, *adapter_, clock_, this);
     connect(connection_, &adapter_connection::over, this, &tcp_adapter_server::serve_next,
             Qt::QueuedConnection);
     connection_->start();

@@ -19,6 +19,8 @@ class tcp_adapter_server : public QObject {
   public:
     explicit tcp_adapter_server(car the_car, adapter_options options = {},
                                 QObject* parent = nullptr);
+    // Whoever else answers as an adapter does.
+    explicit tcp_adapter_server(std::unique_ptr<adapter> served, QObject* parent = nullptr);
     ~tcp_adapter_server() override;
 
     // Port 0 takes any that is free. No: error() says why. Under the fault "refuse" the port is
@@ -34,7 +36,7 @@ class tcp_adapter_server : public QObject {
     void serve_next();
 
     car car_;
-    virtual_adapter adapter_;
+    std::unique_ptr<adapter> adapter_;
     QElapsedTimer clock_;
     QTcpServer server_;
     std::unique_ptr<QTcpSocket> refusing_;

@@ -1,7 +1,9 @@
 // kestrom-virtual-car: a car and its adapter on a TCP port or on standard input and output.
 #include "car_library.h"
+#include "recorded_adapter.h"
 #include "stdio_adapter.h"
 #include "tcp_adapter_server.h"
+#include "virtual_adapter.h"
 #include "virtual_car_options.h"
 
 #include <QCoreApplication>
@@ -9,6 +11,7 @@
 #include <csignal>
 #include <cstdio>
 #include <iostream>
+#include <memory>
 #include <unistd.h>
 
 namespace {
@@ -40,9 +43,9 @@ void print_list() {
     }
 }
 
-int serve_tcp(QCoreApplication& app, const virtual_car_options& options, car the_car) {
-    const std::string title = the_car.title;
-    tcp_adapter_server server(std::move(the_car), options.adapter);
+int serve_tcp(QCoreApplication& app, const virtual_car_options& options, const std::string& title,
+              std::unique_ptr<adapter> served) {
+    tcp_adapter_server server(std::move(served));
     if (!server.listen(options.address, options.port)) {
         std::cerr << "kestrom-virtual-car: cannot listen on " << options.address << " port "
                   << options.port << ": " << server.error() << "\n";
@@ -53,6 +56,13 @@ int serve_tcp(QCoreApplication& app, const virtual_car_options& options, car the
               << (ipv6 ? "[" + options.address + "]" : options.address) << ":" << server.port()
               << std::endl;
     return app.exec();
+}
+
+int serve(QCoreApplication& app, const virtual_car_options& options, const std::string& title,
+          std::unique_ptr<adapter> served) {
+    if (!options.stdio)
+        return serve_tcp(app, options, title, std::move(served));
+    return serve_descriptors(*served, STDIN_FILENO, STDOUT_FILENO) ? 0 : FAILED;
 }
 
 int run(QCoreApplication& app) {
@@ -68,13 +78,20 @@ int run(QCoreApplication& app) {
         print_list();
         return 0;
     }
+    if (options.version) {
+        std::cout << "kestrom-virtual-car " KESTROM_VERSION "\n";
+        return 0;
+    }
+    if (!options.replay.empty())
+        return serve(app, options, options.replay,
+                     std::make_unique<recorded_adapter>(load_recording(options.replay),
+                                                        options.adapter.timing,
+                                                        options.adapter.latency));
     car the_car = load_car(options.car);
     if (!options.protocol.empty())
         change_protocol(the_car, *protocol_named(options.protocol));
-    if (!options.stdio)
-        return serve_tcp(app, options, std::move(the_car));
-    virtual_adapter adapter(the_car, options.adapter);
-    return serve_descriptors(adapter, STDIN_FILENO, STDOUT_FILENO) ? 0 : FAILED;
+    return serve(app, options, the_car.title,
+                 std::make_unique<virtual_adapter>(the_car, options.adapter));
 }
 
 } // namespace
@@ -85,8 +102,11 @@ int main(int argc, char** argv) {
     try {
         return run(app);
     } catch (const usage_error& error) {
-        std::cerr << "kestrom-virtual-car: " << error.what() << "\n\n" << usage();
+        std::cerr << "kestrom-virtual-car: " << error.what()
+                  << "\nTry 'kestrom-virtual-car --help'.\n";
     } catch (const car_file_error& error) {
+        std::cerr << error.what() << "\n";
+    } catch (const recording_error& error) {
         std::cerr << error.what() << "\n";
     }
     return BAD_USAGE;

@@ -26,8 +26,8 @@ bool write_all(int output, std::string_view text) {
 }
 
 // Milliseconds until the adapter has something to say; -1 for never.
-int patience(const virtual_adapter& adapter) {
-    const auto next = adapter.next_output();
+int patience(const adapter& served) {
+    const auto next = served.next_output();
     return next ? int(std::max<long long>(
                       0, std::min<long long>((*next - clock_now()).count(), 60000)))
                 : -1;
@@ -35,21 +35,21 @@ int patience(const virtual_adapter& adapter) {
 
 } // namespace
 
-bool serve_descriptors(virtual_adapter& adapter, int input, int output) {
-    adapter.connection_opened(clock_now());
+bool serve_descriptors(adapter& served, int input, int output) {
+    served.connection_opened(clock_now());
     bool open = true;
-    while ((open || adapter.next_output()) && !adapter.wants_close(clock_now())) {
+    while ((open || served.next_output()) && !served.wants_close(clock_now())) {
         pollfd waited{input, POLLIN, 0};
-        if (::poll(&waited, open ? 1 : 0, patience(adapter)) < 0 && errno != EINTR)
+        if (::poll(&waited, open ? 1 : 0, patience(served)) < 0 && errno != EINTR)
             return false;
         if (open && (waited.revents & (POLLIN | POLLHUP | POLLERR))) {
             char bytes[1024];
             const ssize_t count = ::read(input, bytes, sizeof bytes);
             open = count > 0 || (count < 0 && errno == EINTR);
             if (count > 0)
-                adapter.receive(std::string_view(bytes, std::size_t(count)), clock_now());
+                served.receive(std::string_view(bytes, std::size_t(count)), clock_now());
         }
-        if (!write_all(output, adapter.take_output(clock_now())))
+        if (!write_all(output, served.take_output(clock_now())))
             return false;
     }
     return true;

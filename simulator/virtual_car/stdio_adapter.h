@@ -1,8 +1,8 @@
-// The virtual adapter on two file descriptors: standard input and output, or a pty for a Bluetooth
+// An adapter on two file descriptors: standard input and output, or a pty for a Bluetooth
 // test.
 #pragma once
 
-#include "virtual_adapter.h"
+#include "adapter.h"
 
 // Until the input ends and the last reply has left, or a fault closes. False when writing failed.
-bool serve_descriptors(virtual_adapter& adapter, int input, int output);
+bool serve_descriptors(adapter& served, int input, int output);

@@ -1,5 +1,6 @@
 #include "virtual_car_options.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -59,18 +60,26 @@ const std::array OPTIONS = {
                        throw usage_error(error.what());
                    }
                }},
+    option_row{"--replay", "FILE", "answer from a recording of kestrom --record instead of a car",
+               [](auto& o, auto&, auto&, auto& v) { o.replay = v; }},
     option_row{"--stdio", "", "speak on standard input and output instead of TCP",
                [](auto& o, auto&, auto&, auto&) { o.stdio = true; }},
     option_row{"--list", "", "list cars, protocols and faults",
                [](auto& o, auto&, auto&, auto&) { o.list = true; }},
     option_row{"--help", "", "this text", [](auto& o, auto&, auto&, auto&) { o.help = true; }},
+    option_row{"--version", "", "the version",
+               [](auto& o, auto&, auto&, auto&) { o.version = true; }},
 };
+
+// What a recording has already decided.
+constexpr std::array OPTIONS_OF_A_CAR = {"--car", "--protocol", "--speed", "--seed", "--fault"};
 
 } // namespace
 
 virtual_car_options read_options(std::span<const std::string> arguments) {
     virtual_car_options options;
     std::vector<fault> faults;
+    std::string of_a_car;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::size_t equals = arguments[i].find('=');
         const std::string name = arguments[i].substr(0, equals);
@@ -87,7 +96,11 @@ virtual_car_options read_options(std::span<const std::string> arguments) {
         if (!found->value.empty())
             value = equals != std::string::npos ? arguments[i].substr(equals + 1) : arguments[++i];
         found->set(options, faults, name, value);
+        if (std::ranges::find(OPTIONS_OF_A_CAR, name) != OPTIONS_OF_A_CAR.end())
+            of_a_car = name;
     }
+    if (!options.replay.empty() && !of_a_car.empty())
+        throw usage_error(of_a_car + " has no effect on a recording");
     if (!options.protocol.empty() && !protocol_named(options.protocol))
         throw usage_error("--protocol: there is no \"" + options.protocol + "\"; see --list");
     options.adapter.faults = fault_set(std::move(faults));
@@ -104,5 +117,13 @@ std::string usage() {
         left.resize(std::max<std::size_t>(left.size() + 2, 24), ' ');
         text += left + std::string(row.effect) + "\n";
     }
+    text += "\nExit status: 0 success, 1 it cannot listen or write, 2 the arguments, the car file "
+            "or the "
+            "recording make no sense.\n\n"
+            "Examples\n"
+            "  kestrom-virtual-car --car diesel\n"
+            "  kestrom-virtual-car --car can11 --latency 0 --fault split_prompt\n"
+            "  kestrom-virtual-car --replay talk.jsonl --timing 0.1\n"
+            "then  kestrom --adapter 127.0.0.1:35000 codes\n";
     return text;
 }

@@ -12,9 +12,11 @@ struct virtual_car_options {
     std::string address = "127.0.0.1";
     int port = 35000;
     std::string protocol; // empty: the car's own
+    std::string replay;   // a recording to answer from; empty: the car answers
     bool stdio = false;
     bool list = false;
     bool help = false;
+    bool version = false;
     adapter_options adapter;
 };
 

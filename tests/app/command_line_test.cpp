@@ -1,6 +1,7 @@
 // The program as a user runs it from a shell, against virtual cars over real loopback TCP.
 #include "car_library.h"
 #include "command_line.h"
+#include "commands.h"
 #include "shell_fixture.h"
 
 #include <QDir>
@@ -8,38 +9,45 @@
 #include <QImage>
 #include <QJsonArray>
 
+#include <gmock/gmock.h>
+
 namespace {
 
 TEST_F(shell, arguments_that_make_no_sense_end_with_2_and_a_reason) {
-    const std::vector<std::vector<std::string>> cases = {{"fly"},
-                                                         {"codes", "more"},
-                                                         {"clear"},
-                                                         {"send"},
-                                                         {"send", ""},
-                                                         {"send", std::string(39, '1')},
-                                                         {"--nonsense"},
-                                                         {"--adapter", "nowhere", "codes"},
-                                                         {"--adapter"},
-                                                         {"--demo", "--adapter", "a:1", "codes"},
-                                                         {"--screen", "garage"},
-                                                         {"--timeout", "soon", "codes"},
-                                                         {"--timeout", "0", "codes"},
-                                                         {"--json"},
-                                                         {"--demo=no-such-car", "codes"},
-                                                         {"--json=1", "codes"},
-                                                         {"live", "--cycles", "0"},
-                                                         {"live", "--cycles=-1"},
-                                                         {"live", "--seconds", "nan"},
-                                                         {"live", "--run", "walk"},
-                                                         {"live", "--pids", "0D,C"},
-                                                         {"live", "--pids="},
-                                                         {"live", "--run=fuel", "--pids=0D"},
-                                                         {"--bluetooth", "OBDII", "codes"},
+    const std::vector<std::vector<std::string>> cases = {
+        {"fly"},
+        {"codes", "more"},
+        {"clear"},
+        {"send"},
+        {"send", ""},
+        {"send", std::string(39, '1')},
+        {"--nonsense"},
+        {"--adapter", "nowhere", "codes"},
+        {"--adapter"},
+        {"--demo", "--adapter", "a:1", "codes"},
+        {"--screen", "garage"},
+        {"--timeout", "soon", "codes"},
+        {"--timeout", "0", "codes"},
+        {"--json"},
+        {"--demo=no-such-car", "codes"},
+        {"--json=1", "codes"},
+        {"live", "--cycles", "0"},
+        {"live", "--cycles=-1"},
+        {"live", "--seconds", "nan"},
+        {"live", "--run", "walk"},
+        {"live", "--pids", "0D,C"},
+        {"live", "--pids="},
+        {"live", "--run=fuel", "--pids=0D"},
+        {"--bluetooth", "OBDII", "codes"},
         {"--bluetooth", "00:1D:A5:68:98", "codes"},
         {"--bluetooth=00:1D:A5:68:98:8B", "--demo", "codes"},
         {"bluetooth-scan", "now"},
         {"live", "--cycles", "3", "--seconds", "3"},
-                                                         {"codes", "--log"}};
+        {"codes", "--log"},
+        {"--record", "/proc/t", "--demo", "codes"},
+        {"--record", "t", "decode", "410C1AF8"},
+        {"--record"},
+        {"fly", "--help"}};
     for (const auto& arguments : cases) {
         const outcome result = run(arguments);
         EXPECT_EQ(result.status, 2) << arguments[0] << ": " << result.err;
@@ -115,7 +123,7 @@ TEST_F(shell, a_link_that_fails_ends_with_1_and_the_reason) {
     } cases[] = {
         {{"--adapter", "127.0.0.1:1", "codes"}, "Couldn't connect...Please Check"},
         {{"--adapter", "127.0.0.1:abc", "codes"}, "Couldn't connect...Please Check"},
-        {{"--adapter", "127.0.0.1:70000", "send", "AT I"}, "AT I"},
+        {{"--adapter", "127.0.0.1:70000", "send", "AT I"}, "'AT I': Couldn't connect"},
         {{"--adapter", "no-such-host.invalid:35000", "codes"}, "Couldn't connect...Please Check"},
         {{"--adapter", address(stalls), "codes"}, "Cur op timed out... Please Check/retry"},
         {{"--adapter", address(stalls), "codes", "--timeout", "0.5"}, "the time limit has passed"},
@@ -126,7 +134,33 @@ TEST_F(shell, a_link_that_fails_ends_with_1_and_the_reason) {
     for (const auto& one : cases) {
         const outcome result = run(one.arguments);
         EXPECT_EQ(result.status, 1) << one.reason;
-        EXPECT_NE(result.err.find(one.reason), std::string::npos) << result.err;
+        EXPECT_THAT(result.err, testing::HasSubstr(one.reason));
+        EXPECT_EQ(result.err.rfind(one.reason), result.err.find(one.reason)) << "told twice";
+    }
+}
+
+TEST_F(shell, a_recording_is_made_beside_the_command_and_never_over_a_file) {
+    const std::string talk = home.filePath(QStringLiteral("talk.jsonl")).toStdString();
+    EXPECT_EQ(run({"--demo", "--record", talk, "send", "AT I"}).status, 0);
+    const outcome refused = run({"--demo", "--record", talk, "send", "AT I"});
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_THAT(refused.err,
+                testing::EndsWith("kestrom: cannot record to " + talk + ": File exists\n"));
+    QFile file(QString::fromStdString(talk));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray text = file.readAll();
+    EXPECT_TRUE(text.startsWith("{\"kestrom_recording\":1,")) << text.toStdString();
+    EXPECT_TRUE(text.contains("\"sent\":\"AT I\\r\"}\n")) << text.toStdString();
+    EXPECT_TRUE(text.endsWith("\"event\":\"closed\"}\n")) << text.toStdString();
+}
+
+TEST_F(shell, every_command_has_help_with_an_example) {
+    for (const command_row& command : all_commands()) {
+        const std::string name(command.name);
+        const outcome told = run({name, "--help"});
+        EXPECT_EQ(told.status, 0) << told.err;
+        EXPECT_THAT(told.out, testing::HasSubstr("\n  kestrom "));
+        EXPECT_THAT(told.out, testing::HasSubstr("Exit status"));
     }
 }
 
@@ -141,6 +175,10 @@ TEST_F(shell, replies_are_decoded_without_an_adapter) {
          "1726.00 RPM\t1726\n~\tnan\n"},
         {{"decode", "410564", "--units", "parsecs"}, 2, ""},
         {{"decode"}, 2, ""},
+        {{"decode", "zz", "410564"},
+         1,
+         "~\tnan\n"
+         "140.00 ° F\t140\n"},
         {{"vin", "490201000000 31\\r490202 47314A43\\r"}, 0, "1G1JC\n"},
         {{"mode6", "16", "01F4"}, 0, "10.000000 ^C\n"},
         {{"mode6", "16"}, 2, ""},

@@ -45,9 +45,11 @@ class decode_command_test : public testing::Test {
 };
 
 TEST_F(decode_command_test, each_reply_is_a_line_of_text_and_number) {
-    EXPECT_EQ(decode({"41 0C 1A F8", "410D64", "NO DATA", "-1", "41 03 02 00"}), 0);
+    EXPECT_EQ(decode({"41 0C 1A F8", "410D64", "no data\\r\\r>", "7F 01 12", "41 03 02 00"}), 0);
     EXPECT_EQ(printed(), "1726.00 RPM\t1726\n62.50 mph\t62.5\n~\tnan\n~\tnan\n"
                          "Close Loop - Using O2 snsr as feedback\t0\n");
+    for (const char* text : {"-1", "01 0C", "SOME CAR", "7E8 04 41 0C 1A F8"})
+        EXPECT_EQ(decode({text}), 1);
     EXPECT_EQ(decode({"--units", "metric", "41 0D 64\\r41 0D 00\\r>"}), 0);
     EXPECT_EQ(printed(), "100.00  Km/h\t100\n");
     EXPECT_EQ(decode({"41 0D 64", "--units=imperial"}), 0);

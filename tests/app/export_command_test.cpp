@@ -77,9 +77,9 @@ TEST_F(export_command_test, refusals_have_their_reason_and_status) {
                  {{"none.gol"}, 1, "none.gol: No such file"},
                  {{path("none.gol"), "--json"}, 1, "none.gol: No such file"},
                  {{path("empty.gol")}, 1, "empty.gol: no samples"},
-                 {{}, 2, "Usage:"},
-                 {{"a.gol", "b.gol"}, 2, "Usage:"},
-                 {{"--csv", "run.gol"}, 2, "Usage:"}};
+                 {{}, 2, "--help"},
+                 {{"a.gol", "b.gol"}, 2, "--help"},
+                 {{"--csv", "run.gol"}, 2, "--help"}};
     for (const auto& c : cases) {
         EXPECT_EQ(run(c.arguments), c.status);
         EXPECT_THAT(err.str(), HasSubstr(c.complaint));

@@ -1,8 +1,8 @@
+#include "full_disk.h"
 #include "log_file.h"
 
 #include <QTemporaryDir>
 
-#include <csignal>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -26,25 +26,6 @@ class log_file_test : public testing::Test {
 
   private:
     QTemporaryDir folder_;
-};
-
-// While it lives, no file grows beyond so many bytes: what a full disk does to a write, a short one
-// first.
-class full_disk {
-  public:
-    explicit full_disk(rlim_t bytes) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limit{bytes, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~full_disk() {
-        setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, SIG_DFL);
-    }
-
-  private:
-    rlimit before_{};
 };
 
 TEST_F(log_file_test, a_new_file_replaces_the_old_one_or_refuses_to) {

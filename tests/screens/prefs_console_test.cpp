@@ -174,6 +174,9 @@ TEST_F(console, chunks_are_shown_as_they_come_and_never_as_rich_text) {
     EXPECT_TRUE(app.find("waity")->isHidden());
     app.receive(std::string("\xff\x01\0y\r\r>", 7));
     EXPECT_EQ(transcript(), "<b>AT</b>\n<i>x</i>\n\xEF\xBF\xBD  y\n\n>");
+    for (const char* piece : {"\xE2", "\x82", "\xAC\xC3", "\xA4\r>"}) // letters in pieces
+        app.receive(piece);
+    EXPECT_TRUE(transcript().ends_with("\n\n>\xE2\x82\xAC\xC3\xA4\n>")) << transcript();
 }
 
 TEST_F(console, up_and_down_bring_earlier_commands_back) {

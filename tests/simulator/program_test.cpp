@@ -3,6 +3,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -45,7 +46,10 @@ TEST(program_test, a_broken_car_file_ends_it_with_two_and_names_file_line_and_re
     EXPECT_EQ(broken.err.find(path.toStdString() + ":1: the file lacks \"protocol\""), 0u)
         << broken.err;
     EXPECT_EQ(run({QStringLiteral("--car"), QStringLiteral("nobody")}).code, 2);
-    EXPECT_EQ(run({QStringLiteral("--fault"), QStringLiteral("gremlins")}).code, 2);
+    const outcome unknown = run({QStringLiteral("--fault"), QStringLiteral("gremlins")});
+    EXPECT_EQ(unknown.code, 2);
+    EXPECT_EQ(std::ranges::count(unknown.err, '\n'), 2) << unknown.err;
+    EXPECT_EQ(run({QStringLiteral("--replay"), path}).code, 2);
 }
 
 TEST(program_test, lists_cars_protocols_and_faults) {

@@ -40,7 +40,9 @@ TEST(virtual_car_options_test, what_cannot_be_meant_is_refused) {
                                  {"--seed", "-1"},
                                  {"--fault", "gremlins"},
                                  {"--fault", "close_after"},
-                                 {"--protocol", "can"}})
+                                 {"--protocol", "can"},
+                                 {"--replay", "talk", "--car", "van"},
+                                 {"--fault=crlf", "--replay=talk"}})
         EXPECT_THROW(read_options(bad), usage_error) << bad.front();
 }
 

@@ -24,8 +24,10 @@
 
 class app_harness {
   public:
-    explicit app_harness(const std::function<void(user_defaults&)>& prepare = use_wifi)
-        : defaults(folder.filePath(QStringLiteral("settings.conf")).toStdString()) {
+    explicit app_harness(const std::function<void(user_defaults&)>& prepare = use_wifi,
+                         const std::string& language = "en_GB")
+        : resources(":/kestrom", language),
+          defaults(folder.filePath(QStringLiteral("settings.conf")).toStdString()) {
         reset_global_vars();
         prepare(defaults);
         mac_toolies::initialize({&resources, &defaults, &messages, &notifications,
@@ -87,10 +89,10 @@ class app_harness {
     std::string last_status() const { return statuses.empty() ? std::string() : statuses.back(); }
 
     QTemporaryDir folder;
+    bundle resources;
     virtual_run_loop loop;
     scripted_alerts messages{loop};
     user_defaults defaults;
-    bundle resources{":/kestrom", "en_GB"};
     notification_center notifications;
     scripted_serial_port bluetooth{loop};
     std::vector<std::shared_ptr<scripted_stream_pair::wire>> wires;

@@ -1,0 +1,14 @@
+// The dialog that picks a Bluetooth adapter, over a Bluetooth service that is none.
+#pragma once
+
+class stage;
+
+struct bluetooth_surroundings {
+    bool service = true;
+    bool adapter = true;
+    bool devices = false;
+    bool connect = false; // to the first device
+    bool refuse = false;
+};
+
+void show_device_chooser(stage& on, const bluetooth_surroundings& there);

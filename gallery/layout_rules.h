@@ -1,0 +1,14 @@
+// What holds for every window and dialog, whatever its state, language, size and scale.
+#pragma once
+
+#include <string>
+#include <vector>
+
+class QWidget;
+
+// One sentence for each rule that the visible widgets of `window` break:
+// - what can be operated by hand has a name for a screen reader and a tooltip when it has no text;
+// - no two mnemonics that are reachable at once share a letter;
+// - Tab goes through the widgets from top to bottom, and from left to right in a row;
+// - no text is wider or higher than the place it stands in, unless a tooltip has the whole.
+std::vector<std::string> broken_layout_rules(const QWidget& window);

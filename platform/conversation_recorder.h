@@ -1,0 +1,49 @@
+// Writes down the conversation with the adapter as it happens, so that somebody else can look at it
+// or answer from it (docs/json/recording.schema.json). Owned by main; outlives the doors it listens
+// at.
+//
+// A line of JSON each: a header, then what was sent and received and what became of the connection.
+// Bytes stand as the characters U+0000 to U+00FF, so nothing is lost and the file is plain ASCII.
+// A line is whole in the file when the call returns, whatever ends the program.
+#pragma once
+
+#include "log_file.h"
+#include "run_loop.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+class conversation_recorder {
+  public:
+    explicit conversation_recorder(const run_loop& loop) : loop_(loop), started_(loop.now()) {}
+
+    // Creates the file, which must not be there yet, with its header; the times count from now.
+    // `adapter` is "demo", "wifi" or "bluetooth". The reason when that fails.
+    std::optional<std::string> start(const std::string& path, const std::string& version,
+                                     std::string_view adapter);
+
+    void sent(std::string_view bytes) { note("sent", bytes); }
+    // Meant to be sent, but there was no connection, or it did not take them.
+    void unsent(std::string_view bytes) { note("unsent", bytes); }
+    void received(std::string_view bytes) { note("received", bytes); }
+    // `over` is "wifi" or "bluetooth".
+    void connecting(std::string_view over) { event("connecting", "over", over); }
+    void opened() { event("open"); }
+    void ended() { event("end"); } // by the far end
+    void closed() { event("closed"); }
+    void failed(std::string_view why) { event("error", "text", why); }
+
+    // Told once why nothing more is written.
+    std::function<void(const std::string& why)> stopped;
+
+  private:
+    void note(std::string_view key, std::string_view bytes);
+    void event(std::string_view what, std::string_view key = {}, std::string_view text = {});
+    void append(const std::string& members);
+
+    const run_loop& loop_;
+    run_loop::milliseconds started_;
+    log_file file_;
+};

@@ -1,0 +1,14 @@
+// The doors to the adapter with a recorder listening at them: what passes is written down and
+// handed on unchanged. Made by main when a recording is asked for.
+#pragma once
+
+#include "serial_port_profile.h"
+#include "stream_pair.h"
+
+class conversation_recorder;
+
+stream_pair_factory recorded_streams(stream_pair_factory make, conversation_recorder& recorder);
+
+// `door` and `recorder` outlive it.
+std::unique_ptr<serial_port_profile> recorded_serial_port(serial_port_profile& door,
+                                                          conversation_recorder& recorder);

@@ -187,7 +187,7 @@ class session {
 } // namespace
 
 session_result run_session(std::uint64_t seed, const std::string& folder, bool print) {
-    trace story(print);
+    trace story(print, folder);
     session(seed, folder, story).run();
     return {story.promise(), story.how(), story.hash(), story.last_lines()};
 }

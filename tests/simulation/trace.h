@@ -9,15 +9,20 @@
 #include <deque>
 #include <string>
 #include <string_view>
+#include <utility>
 
 class trace {
   public:
-    explicit trace(bool print) : print_(print) {}
+    // The name of the session's folder differs from run to run and is left out.
+    trace(bool print, std::string folder) : print_(print), folder_(std::move(folder)) {}
 
     void use_clock(const run_loop* clock) { clock_ = clock; }
     void note(std::string_view kind, std::string_view what) {
+        std::string text(what);
+        if (const std::size_t at = text.find(folder_); at != std::string::npos)
+            text.replace(at, folder_.size(), "...");
         std::string line = std::to_string(clock_ ? clock_->now().count() : 0) + " ";
-        line.append(kind).append(" ").append(visible(what));
+        line.append(kind).append(" ").append(visible(text));
         for (const char c : line)
             hash_ = (hash_ ^ static_cast<unsigned char>(c)) * 0x100000001B3u;
         if (print_)
@@ -62,6 +67,7 @@ class trace {
     }
 
     bool print_;
+    std::string folder_;
     const run_loop* clock_ = nullptr;
     std::uint64_t hash_ = 0xCBF29CE484222325u;
     std::uint64_t effects_ = 0;

@@ -121,7 +121,7 @@ class drawChartyItem {
         bool operator==(const grid_look&) const = default;
     };
     grid_look look_of_grid(const label_records& labels, std::string_view title) const;
-    void paint_grid(canvas& target, const grid_look& look) const;
+    void paint_grid(canvas& target, const grid_look& look);
     static void paint_plot_frame(canvas& target, const chart_area& plot);
     static void paint_grid_lines(canvas& target, const chart_area& plot);
     static void print_axis_values_4_grid(canvas& target, const value_axis& axis,
@@ -144,7 +144,7 @@ class drawChartyItem {
     chart_point realtime_point(std::size_t sample, double value) const;
 
     mutable std::map<std::string, double> axis_label_widths_; // those that were asked for lately
-    kept_detail readout_name_, level_bar_;
+    kept_detail plot_frame_, readout_name_, level_bar_;
     QImage image_;
     std::string imageID_;
     chart_area drawSizes;

@@ -75,11 +75,14 @@ const QImage& drawChartyItem::grid_of(grid_look look) {
     return grids_.front().image;
 }
 
-void drawChartyItem::paint_grid(canvas& target, const grid_look& look) const {
+void drawChartyItem::paint_grid(canvas& target, const grid_look& look) {
     target.fill(QRectF(0, 0, target.width(), target.height()), BACKGROUND);
     for (const value_axis& axis : look.axes)
         paint_axis_band(target, axis, look.plot);
-    paint_plot_frame(target, look.plot);
+    const chart_area& plot = look.plot;
+    const std::string place = std::to_string(plot.x) + ' ' + std::to_string(plot.y) + ' ' +
+                              std::to_string(plot.width) + ' ' + std::to_string(plot.height);
+    target.put(plot_frame_, place, [&plot](canvas& alone) { paint_plot_frame(alone, plot); });
     paint_grid_lines(target, look.plot);
     // Above the plot: long values reach into it and are to be read whole.
     for (const value_axis& axis : look.axes)

@@ -111,8 +111,7 @@ void myGauge::load_empty_dial() {
     if (QFile::exists(svg) && drawing.load(svg)) {
         gaugeSize = drawing.defaultSize();
         empty_dial_ = empty_image(gaugeSize, pixel_scale_);
-        QPainter painter(&empty_dial_);
-        drawing.render(&painter, QRectF(QPointF(0, 0), gaugeSize));
+        drawing.render(&canvas(empty_dial_).painter(), QRectF(QPointF(0, 0), gaugeSize));
         return;
     }
     const QImage picture(qstring(resources_.image_path("gauge_empty_no_numbers.gif")));
@@ -120,7 +119,7 @@ void myGauge::load_empty_dial() {
         qCWarning(log_drawing, "no picture of an empty dial");
     gaugeSize = picture.isNull() ? DIAL_SIZE : QSizeF(picture.size());
     empty_dial_ = empty_image(gaugeSize, pixel_scale_);
-    QPainter(&empty_dial_).drawImage(QRectF(QPointF(0, 0), gaugeSize), picture);
+    canvas(empty_dial_).painter().drawImage(QRectF(QPointF(0, 0), gaugeSize), picture);
 }
 
 void myGauge::work_out_base_gauge() {
@@ -205,10 +204,11 @@ void myGauge::draw_hub(int x, int y, const canvas& target) {
         return;
     const QRectF hub =
         target.flipped(QRectF(x - HUB_RADIUS, y - HUB_RADIUS, 2 * HUB_RADIUS, 2 * HUB_RADIUS));
-    hub_ = cast_shadow_of(hub, GLOW_RADIUS, pixel_scale_, GLOW,
+    const double scale = std::max(1.0, pixel_scale_); // QPainter leaves out a smaller one
+    hub_ = cast_shadow_of(hub, GLOW_RADIUS, scale, GLOW,
                           [&hub](QPainter& painter) { painter.drawEllipse(hub); });
     const QImage glow =
-        std::exchange(hub_.image, empty_image(hub_.image.deviceIndependentSize(), pixel_scale_));
+        std::exchange(hub_.image, empty_image(hub_.image.deviceIndependentSize(), scale));
     QPainter painter(&hub_.image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(-hub_.at);

@@ -196,6 +196,7 @@ void live_view::show_running(bool running) {
     const QString what = ui_text(delegate_, running ? "ui_live_stop" : "ui_live_start");
     startStopBtn_->setToolTip(what);
     startStopBtn_->setAccessibleName(what);
+    statusLbl_->set_selectable(!running); // replaced ten times a second
 }
 
 void live_view::show_waity(bool visible) {

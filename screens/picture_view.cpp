@@ -15,9 +15,7 @@ picture_view::picture_view(const QString& name, QSizeF units, QWidget* parent)
 double picture_view::pixel_scale() const {
     if (!isVisible() || width() < 1 || height() < 1)
         return 0;
-    // A view that is smaller than the picture gets it shrunk, which keeps its lines.
-    return std::max(1.0, std::min(width() / units_.width(), height() / units_.height()) *
-                             devicePixelRatioF());
+    return std::min(width() / units_.width(), height() / units_.height()) * devicePixelRatioF();
 }
 
 void picture_view::set_image(const QImage& image, const QRect& changed) {

@@ -7,8 +7,7 @@
 status_line::status_line(QWidget* parent) : QLabel(parent) {
     setObjectName(QStringLiteral("statusLbl"));
     setTextFormat(Qt::PlainText);
-    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    setFocusPolicy(Qt::ClickFocus);
+    set_selectable(true);
     setWordWrap(true);
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setMargin(0);
@@ -27,6 +26,12 @@ void status_line::set_text(const std::string& message) {
     setToolTip(text.isEmpty() ? QString()
                               : QStringLiteral("<span style='white-space:pre-wrap'>%1</span>")
                                     .arg(text.toHtmlEscaped()));
+}
+
+void status_line::set_selectable(bool selectable) {
+    setTextInteractionFlags(selectable ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
+                                       : Qt::NoTextInteraction);
+    setFocusPolicy(selectable ? Qt::ClickFocus : Qt::NoFocus); // the flags have set others
 }
 
 status_place::status_place(QWidget* parent) : QWidget(parent), line_(new status_line(this)) {

@@ -1,5 +1,5 @@
-// The status line at the foot of every screen: selectable plain text, elided to two lines' height
-// with the whole text in the tooltip. The label's text is the message itself, whatever is visible
+// The status line at the foot of every screen: plain text, elided to two lines' height with the
+// whole text in the tooltip; selectable unless it changes too fast for that. The label's text is the message itself, whatever is visible
 // of it.
 #pragma once
 
@@ -11,6 +11,7 @@ class status_line final : public QLabel {
   public:
     explicit status_line(QWidget* parent);
     void set_text(const std::string& message);
+    void set_selectable(bool selectable);
 };
 
 // The line's place in a layout. A label asks for a new layout of the whole screen with every text;

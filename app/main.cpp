@@ -255,9 +255,11 @@ int run(QApplication& application, const cli_request& asked) {
         runner = std::make_unique<command_runner>(asked, delegate, printed_alerts);
         QTimer::singleShot(0, &application, [&] { runner->start(leave); });
     } else {
-        open_screen(delegate, asked.screen);
-        if (asked.screenshot) // once the window has been laid out
-            QTimer::singleShot(200, &application, [&] { leave(0); });
+        QTimer::singleShot(0, &application, [&] { // a box that it opens must not hold up the start
+            open_screen(delegate, asked.screen);
+            if (asked.screenshot) // once the window has been laid out
+                QTimer::singleShot(200, &application, [&] { leave(0); });
+        });
     }
     const int ended = application.exec();
     return status ? status : ended;

@@ -287,7 +287,7 @@ TEST_F(logged_run, holds_whole_cycles_as_they_were_answered) {
         app.receive(reply);
     answer(0, true); // half a cycle
     app.press("startStopBtn");
-    EXPECT_EQ(log_lines(), (list{"410D30,411130,410C1000,410530", "NODATA,~,410C1AF8,41057B"}));
+    EXPECT_EQ(log_lines(), (list{"410D30,411130,410C1000,410530", "NODATA,~,410C1AF8,4.1.057B"}));
     EXPECT_EQ(mark()->text(), QString());
 }
 

@@ -3,6 +3,7 @@
 #include "actions.h"
 #include "readCodes.h"
 #include "reply_accumulator.h"
+#include "sample_reply.h"
 
 #include <QPlainTextEdit>
 
@@ -48,10 +49,10 @@ std::string code_digits(const std::string& code) {
 
 // A field as a line of the log has it.
 std::string log_field(std::string_view reply) {
-    std::string field;
-    for (const char c : reply)
-        if (static_cast<unsigned char>(c) >= ' ' && c != ',' && c != 0x7F)
-            field += c;
+    std::string field(reply);
+    for (char& c : field)
+        if (c < ' ' || c > '~' || c == ',')
+            c = '.';
     return field.empty() ? "~" : field;
 }
 
@@ -204,7 +205,7 @@ void promises::samples_are_true(actions& screen) {
                 return; // to come
             if (text == "-1" || text == "~")
                 continue;
-            const std::string shown = screen.toolies.translateResponse(text);
+            const std::string shown = screen.toolies.translateResponse(answer_in(text));
             if (!unusable(shown) && !sample_was_sent(screen, row, place, text))
                 app_.story.broken(TRUE_VALUES,
                                   screen.pids()[place] + ": " + text + " shown as " + shown);

@@ -310,13 +310,19 @@ TEST_F(logged_run, holds_whole_cycles_as_they_were_answered) {
     for (const char* reply :
          {"NO DATA\r\r>", "?\r\r>", "41 0C 1A F8\r41 0C 1A F4\r\r>", "4,1\x02 05\n7B\r\r>"})
         app.receive(reply);
+    list told;
+    screen().cycle_completed = [&](const std::vector<translated>& values) {
+        for (const translated& value : values)
+            told.push_back(value.text);
+    };
     for (const char* no_answer : // each would be read as a value
          {"FB ERROR\r\r>", "41 11 80 <DATA ERROR\r\r>", "41 0C 1A\r\r>", "41 05 7B 7B\r\r>"})
         app.receive(no_answer);
     answer(0, true); // half a cycle
     app.press("startStopBtn");
-    EXPECT_EQ(log_lines(), (list{"410D30,411130,410C1000,410530", "NODATA,~,410C1AF8,41057B",
-                                 "~,~,~,~"}));
+    EXPECT_EQ(log_lines(), (list{"410D30,411130,410C1000,410530", "NODATA,~,410C1AF8,4.1.057B",
+                                 "FBERROR,411180<DATAERROR,410C1A,41057B7B"}));
+    EXPECT_EQ(told, (list{"~", "~", "~", "~"}));
     EXPECT_EQ(mark()->text(), QString());
 }
 

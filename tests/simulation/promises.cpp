@@ -3,11 +3,13 @@
 #include "actions.h"
 #include "readCodes.h"
 #include "reply_accumulator.h"
+#include "sample_reply.h"
 #include "text.h"
 
 #include <QPlainTextEdit>
 
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -49,23 +51,19 @@ std::string code_digits(const std::string& code) {
     return "0123456789ABCDEF"[first & 15] + code.substr(2);
 }
 
-bool forbidden_in_log(char c) {
-    return static_cast<unsigned char>(c) < ' ' || c == ',' || c == 0x7F;
+bool plain_in_log(char c) {
+    return c >= ' ' && c <= '~' && c != ',';
 }
 
-// Whether a field of the log is that reply without what has a meaning of its own there.
+// Whether a field of the log reads as that reply does: as long, the same where it is plain text, and
+// the same answer or none.
 bool field_tells(std::string_view field, std::string_view reply) {
-    const auto left_out = std::ranges::count_if(reply, forbidden_in_log);
-    if (reply.size() == static_cast<std::size_t>(left_out))
+    if (reply.empty())
         return field == "~";
-    auto at = reply.begin();
-    for (const char c : field) {
-        at = std::find(at, reply.end(), c);
-        if (at++ == reply.end())
-            return false;
-    }
-    return std::ranges::none_of(field, forbidden_in_log) &&
-           field.size() + static_cast<std::size_t>(left_out) == reply.size();
+    const auto alike = [](char in_log, char came) {
+        return plain_in_log(in_log) && (in_log == came || !plain_in_log(came));
+    };
+    return std::ranges::equal(field, reply, alike) && answer_in(field) == answer_in(reply);
 }
 
 // Whether the text is one line for each cycle and one field for each of its replies.
@@ -269,8 +267,9 @@ void promises::samples_are_true(actions& screen) {
                 return; // to come
             if (text == "-1" || text == "~")
                 continue;
-            const std::string shown = screen.toolies.translateResponse(text);
-            if (!unusable(shown) && !sample_was_sent(screen, row, place, text))
+            const std::string shown = screen.toolies.translateResponse(answer_in(text));
+            const bool told = !unusable(shown) || !std::isnan(rows.value(row, place));
+            if (told && !sample_was_sent(screen, row, place, text))
                 app_.story.broken(TRUE_VALUES,
                                   screen.pids()[place] + ": " + text + " shown as " + shown);
         }

@@ -55,8 +55,8 @@ bool plain_in_log(char c) {
     return c >= ' ' && c <= '~' && c != ',';
 }
 
-// Whether a field of the log reads as that reply does: as long, the same where it is plain text, and
-// the same answer or none.
+// Whether a field of the log reads as that reply does: as long, the same where it is plain text,
+// and the same answer or none.
 bool field_tells(std::string_view field, std::string_view reply) {
     if (reply.empty())
         return field == "~";
@@ -111,8 +111,8 @@ promises::~promises() {
 }
 
 void promises::started() {
-    after_ = app_.notifications.add_observer(OBD_EVENT,
-                                             [this](const std::string&) { delivery_ends(); });
+    after_ =
+        app_.notifications.add_observer(OBD_EVENT, [this](const std::string&) { delivery_ends(); });
     app_.delegate->screen_changed = [this] { screen_changed(); };
     app_.delegate->status_shown = [this](const std::string& text) {
         app_.story.note("status", text);
@@ -196,8 +196,7 @@ bool promises::code_was_sent(const std::string& code) const {
 bool promises::car_told(const std::function<bool(const truth&)>& fits,
                         const std::function<bool(const std::string& digits)>& reads) const {
     return app_.book.any_answer("0101", task_began_, [&](const answer_slot& slot) {
-        return fits(slot.car) ||
-               (slot.damaged && std::ranges::any_of(slot.status_digits(), reads));
+        return fits(slot.car) || (slot.damaged && std::ranges::any_of(slot.status_digits(), reads));
     });
 }
 
@@ -215,13 +214,12 @@ bool promises::count_was_sent(int count) const {
 
 void promises::status_is_true(const codes_report& shown) {
     if (shown.lamp == "ON" || shown.lamp == "OFF")
-        app_.story.expect(
-            car_told([&](const truth& car) { return car.lamp == shown.lamp; },
-                     [&](const std::string& digits) {
-                         const auto byte = hex_byte(digits, 0);
-                         return byte && ((*byte & 0x80) != 0) == (shown.lamp == "ON");
-                     }),
-            TRUE_CODES, "lamp " + shown.lamp);
+        app_.story.expect(car_told([&](const truth& car) { return car.lamp == shown.lamp; },
+                                   [&](const std::string& digits) {
+                                       const auto byte = hex_byte(digits, 0);
+                                       return byte && ((*byte & 0x80) != 0) == (shown.lamp == "ON");
+                                   }),
+                          TRUE_CODES, "lamp " + shown.lamp);
     if (shown.count && !shown.lamp.empty())
         app_.story.expect(count_was_sent(*shown.count), TRUE_CODES,
                           "count " + std::to_string(*shown.count));
@@ -312,7 +310,8 @@ void promises::logs_are_complete(const std::string& folder) {
             continue;
         const std::string text = file_text(entry->path().string());
         app_.story.note("log", name + " " + std::to_string(text.size()));
-        app_.story.expect(text.empty() || text.ends_with('\n'), WHOLE_LOGS, name + " ends: " + text);
+        app_.story.expect(text.empty() || text.ends_with('\n'), WHOLE_LOGS,
+                          name + " ends: " + text);
     }
     for (const auto& [path, record] : logs_) {
         const std::string text = file_text(path);
@@ -338,8 +337,8 @@ void promises::come_to_rest() {
             !(live && live->running()) && ++calm == 2)
             return; // idle
         talking += app_.book.commands() != commands;
-        // An adapter that never understands "AT DP" is asked for ever, on purpose, and the user told
-        // each time.
+        // An adapter that never understands "AT DP" is asked for ever, on purpose, and the user
+        // told each time.
         if (app_.book.last().command == "ATDP" || app_.book.last().command == "ATSPA3")
             told_again += app_.story.effects() > effects;
         if (told_again > 20)

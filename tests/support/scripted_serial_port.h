@@ -86,8 +86,7 @@ class scripted_serial_port final : public serial_port_profile {
                 return nullptr;
             return std::make_shared<record>(script);
         }
-        int openRFCOMMChannelAsync(std::shared_ptr<rfcomm_channel>& opened,
-                                   std::uint8_t channel_id,
+        int openRFCOMMChannelAsync(std::shared_ptr<rfcomm_channel>& opened, std::uint8_t channel_id,
                                    rfcomm_channel_delegate delegate) override {
             ++script.opens;
             script.opened_channel_id = channel_id;

@@ -6,6 +6,7 @@
 #include "text.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace {
 
@@ -23,7 +24,8 @@ bool holds(const std::string& answer, const std::string& digits) {
     const auto same = [](char a, char b) {
         return std::toupper(static_cast<unsigned char>(a)) == b || a == b;
     };
-    return !std::ranges::search(answer, digits, same).empty();
+    return std::search(answer.begin(), answer.end(), digits.begin(), digits.end(), same) !=
+           answer.end();
 }
 
 void codes_were_sent(const codes_report& shown, const std::string& answer) {

@@ -28,7 +28,8 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
     user_defaults settings("/nonexistent/settings.conf");
     notification_center notifications;
     scripted_serial_port serial_ports(loop);
-    Ks_lite_delegate delegate({loop, boxes, settings, resources, notifications, {}, serial_ports}, {});
+    Ks_lite_delegate delegate({loop, boxes, settings, resources, notifications, {}, serial_ports},
+                              {});
     bare_screen screen(delegate);
     codes_handshake of_codes(screen);
     live_handshake of_live_data(screen);

@@ -170,7 +170,8 @@ class ended_live_command : public shell {
         EXPECT_TRUE(run.log.ends_with('\n'));
         for (const std::string& line : run.logged)
             ASSERT_THAT(line, testing::MatchesRegex("410C[0-9A-F]{4}(,410D[0-9A-F]{2})?"));
-        for (std::size_t cycle = 0; cycle < std::min(run.printed.size(), run.logged.size()); ++cycle)
+        for (std::size_t cycle = 0; cycle < std::min(run.printed.size(), run.logged.size());
+             ++cycle)
             EXPECT_EQ(run.printed[cycle].substr(0, run.printed[cycle].find(',')),
                       engine_speed(run.logged[cycle]));
     }

@@ -149,8 +149,8 @@ void transcript::label(const std::string& text) {
     const std::size_t blank = text.find(' ');
     const auto* label = app.find<QLabel>(text.substr(0, blank).c_str());
     // A text that brings its own label is spread over caption and value, and read out whole.
-    EXPECT_THAT(text.substr(blank + 1), testing::AnyOf(label->text().toStdString(),
-                                                       label->accessibleName().toStdString()));
+    EXPECT_THAT(text.substr(blank + 1),
+                testing::AnyOf(label->text().toStdString(), label->accessibleName().toStdString()));
 }
 
 // TABLE COUNT

@@ -33,11 +33,10 @@ struct application {
     // Apart from the constructor: whoever watches the deliveries has to come first.
     void start() {
         delegate = std::make_unique<Ks_lite_delegate>(
-            app_doors{loop, messages, defaults, resources(), notifications,
-                      [this](const std::string& host, long port) {
-                          return far.make_streams(host, port);
-                      },
-                      bluetooth},
+            app_doors{
+                loop, messages, defaults, resources(), notifications,
+                [this](const std::string& host, long port) { return far.make_streams(host, port); },
+                bluetooth},
             all_screens());
     }
     ~application() { story.use_clock(nullptr); }

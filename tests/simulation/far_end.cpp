@@ -76,7 +76,8 @@ class simulated_pair final : public stream_pair {
         };
         far_.connect(connection_);
         handler_call(STREAM_OPEN_COMPLETED);
-        later(milliseconds(0), [this] { handler_call(STREAM_OPEN_COMPLETED, stream_side::output); });
+        later(milliseconds(0),
+              [this] { handler_call(STREAM_OPEN_COMPLETED, stream_side::output); });
     }
     void handler_call(int code, stream_side side = stream_side::input) {
         const event_handler call = handler_;
@@ -285,10 +286,8 @@ void far_end::send(std::size_t slot, std::string bytes, milliseconds delay) {
     wire_free_ = std::max(wire_free_, loop_.now() + WIRE_TIME + delay);
     for (std::size_t at = 0; at < bytes.size(); at += length) {
         wire_free_ += at > 0 ? step : milliseconds(0);
-        after(wire_free_ - loop_.now(),
-                    [this, slot, part = bytes.substr(at, length), on = connection_] {
-                        arrive(slot, part, on);
-                    });
+        after(wire_free_ - loop_.now(), [this, slot, part = bytes.substr(at, length),
+                                         on = connection_] { arrive(slot, part, on); });
     }
 }
 

@@ -69,10 +69,10 @@ class far_end {
     adapter_options options_;
     std::optional<virtual_adapter> adapter_;
     std::weak_ptr<client> client_;
-    std::shared_ptr<client> channel_; // while a Bluetooth channel is open
+    std::shared_ptr<client> channel_;   // while a Bluetooth channel is open
     std::size_t slot_ = ledger::NOBODY; // whose answer the adapter is giving
     reply_fate fate_;
-    std::string held_; // of an overtaken or doubled reply, until its prompt
+    std::string held_;       // of an overtaken or doubled reply, until its prompt
     std::size_t passed_ = 0; // bytes of the reply
     run_loop::milliseconds wire_free_{0};
     std::size_t arriving_ = ledger::NOBODY; // whose answer came last

@@ -12,9 +12,9 @@ constexpr std::size_t LONGEST_SPLIT = 4096; // a flood comes in whole buffers
 fault_plan::fault_plan(std::uint64_t seed) : dice_(seed) {
     if (dice_.happens(15))
         return; // a day without faults
-    std::array<int*, 13> kinds{&delayed_, &overtaken_, &lost_,         &twice_, &cut_,
-                               &rubbish_, &dropped_,   &crlf_,         &trickled_,
-                               &refused_, &split_,     &slow_opening_, &incidents_};
+    std::array<int*, 13> kinds{&delayed_, &overtaken_,    &lost_,     &twice_,    &cut_,
+                               &rubbish_, &dropped_,      &crlf_,     &trickled_, &refused_,
+                               &split_,   &slow_opening_, &incidents_};
     static constexpr std::array RATES{2, 5, 10, 20, 50, 100};
     const int count = dice_.between(1, 4);
     for (int i = 0; i < count; ++i)
@@ -31,13 +31,17 @@ void fault_plan::stop() {
 }
 
 adapter_options fault_plan::adapter() {
-    static constexpr std::array KINDS{
-        fault{fault_kind::echo_stuck},    fault{fault_kind::text_after_prompt},
-        fault{fault_kind::crlf},          fault{fault_kind::padding},
-        fault{fault_kind::wrong_pid, 4},  fault{fault_kind::data_error, 5},
-        fault{fault_kind::buffer_full, 9}, fault{fault_kind::can_error, 4},
-        fault{fault_kind::clone},         fault{fault_kind::no_bus},
-        fault{fault_kind::ignition_off_at, 20}};
+    static constexpr std::array KINDS{fault{fault_kind::echo_stuck},
+                                      fault{fault_kind::text_after_prompt},
+                                      fault{fault_kind::crlf},
+                                      fault{fault_kind::padding},
+                                      fault{fault_kind::wrong_pid, 4},
+                                      fault{fault_kind::data_error, 5},
+                                      fault{fault_kind::buffer_full, 9},
+                                      fault{fault_kind::can_error, 4},
+                                      fault{fault_kind::clone},
+                                      fault{fault_kind::no_bus},
+                                      fault{fault_kind::ignition_off_at, 20}};
     adapter_options options;
     options.seed = dice_.seed();
     if (dice_.happens(80))

@@ -12,10 +12,10 @@ struct reply_fate {
     std::chrono::milliseconds delay{0};
     bool overtaken = false; // later replies do not wait for it
     bool lost = false;
-    int twice_after = -1;             // milliseconds; -1: sent once
-    int cut_at = -1;                  // bytes; -1: whole
-    int rubbish = 0;                  // bytes strewn in
-    int percent_dropped = 0;          // of its bytes
+    int twice_after = -1;    // milliseconds; -1: sent once
+    int cut_at = -1;         // bytes; -1: whole
+    int rubbish = 0;         // bytes strewn in
+    int percent_dropped = 0; // of its bytes
     bool crlf = false;
     std::chrono::milliseconds gap{0}; // between its bytes
 
@@ -40,8 +40,19 @@ class fault_plan {
     // Whether a write to a Bluetooth channel that is still opening reaches the adapter.
     bool early_write_arrives() { return dice_.happens(50); }
     // Now and then: the adapter restarts, the connection breaks, somebody speaks unasked ...
-    enum class incident { none, reset, reset_with_banner, hang_up, chatter, flood, disk_full,
-                          folder_gone, folder_blocked, disk_well, clock_jump };
+    enum class incident {
+        none,
+        reset,
+        reset_with_banner,
+        hang_up,
+        chatter,
+        flood,
+        disk_full,
+        folder_gone,
+        folder_blocked,
+        disk_well,
+        clock_jump
+    };
     incident next_incident();
 
     dice& choices() { return dice_; }

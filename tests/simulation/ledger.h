@@ -1,6 +1,6 @@
-// What was said on the wire in answer to what, kept on the adapter's side: what the program shows is
-// held against it. Every command opens a slot; every byte from the adapter belongs to the slot of
-// the command it answers, whatever a fault makes of it on the way.
+// What was said on the wire in answer to what, kept on the adapter's side: what the program shows
+// is held against it. Every command opens a slot; every byte from the adapter belongs to the slot
+// of the command it answers, whatever a fault makes of it on the way.
 #pragma once
 
 #include "car_truth.h"

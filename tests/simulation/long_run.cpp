@@ -27,7 +27,9 @@ double resident_bytes() {
 
 // What the car answers in a cycle, and the line of the log that it makes.
 std::string answer_to(const std::string& pid, long cycle) {
-    const auto digits = [](unsigned value) { return mac_toolies::convertByte2HexStr(value & 0xFF); };
+    const auto digits = [](unsigned value) {
+        return mac_toolies::convertByte2HexStr(value & 0xFF);
+    };
     const auto n = static_cast<unsigned>(cycle);
     return "41" + pid + digits(n) + (pid == "0C" ? digits(n >> 8) : "");
 }
@@ -87,11 +89,11 @@ bool run_cycles(long count) {
     run.cycles(count - timed, count);
     const double at_end = (processor_seconds() - begun) / replies;
     const double a_sample = (resident_bytes() - memory) / (static_cast<double>(count) * 4);
-    const bool complete = run.screen().cycles() == static_cast<std::uint64_t>(count) &&
-                          run.log_holds(count);
-    std::printf("%ld cycles: %.1f bytes a sample, %.2f us a reply at the start, %.2f us at the end, "
-                "log %s\n",
-                count, a_sample, at_start * 1e6, at_end * 1e6,
-                complete ? "complete" : "NOT COMPLETE");
+    const bool complete =
+        run.screen().cycles() == static_cast<std::uint64_t>(count) && run.log_holds(count);
+    std::printf(
+        "%ld cycles: %.1f bytes a sample, %.2f us a reply at the start, %.2f us at the end, "
+        "log %s\n",
+        count, a_sample, at_start * 1e6, at_end * 1e6, complete ? "complete" : "NOT COMPLETE");
     return complete;
 }

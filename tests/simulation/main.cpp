@@ -39,7 +39,8 @@ wishes read_wishes(int argc, char** argv) {
             asked.cycles = std::atol(value());
         else if (option != "--seeds" ||
                  std::sscanf(value(), "%lu..%lu", &asked.from, &asked.to) < 1) {
-            std::fputs("kestrom-soak [--seeds FROM..TO] [--minutes M] [--trace] [--twice]\n", stderr);
+            std::fputs("kestrom-soak [--seeds FROM..TO] [--minutes M] [--trace] [--twice]\n",
+                       stderr);
             std::exit(2);
         } else if (!std::strstr(argv[i], ".."))
             asked.to = asked.from;

@@ -17,15 +17,29 @@ namespace {
 
 constexpr char ANSWERS[] = "the program answers every button";
 
-constexpr const char* COMMANDS[] = {
-    "AT Z",    "AT I",    "AT E0",    "AT E1",   "AT H1",    "AT H0",    "AT DP",   "AT D",
-    "AT WS",   "AT SP 0", "AT SP 3",  "AT SP A6", "AT L1",   "AT S0",    "AT ST 10", "AT RV",
-    "AT PC",   "AT MA",   "AT CAF0",  "AT SH 7E0", "01 00",  "01 0C",    "0101",    "03",
-    "07",      "0A",      "09 02",    "06 00",   "02 02 00", "01 0D 1",  "Timeout", "?",
-    "hello",   "",        " ",        "AT@1",    "ATSPA3",   "01 0C 0D 05 11", "\xC3\xA9",
-    "a command that is far too long for any adapter"};
+constexpr const char* COMMANDS[] = {"AT Z",     "AT I",
+                                    "AT E0",    "AT E1",
+                                    "AT H1",    "AT H0",
+                                    "AT DP",    "AT D",
+                                    "AT WS",    "AT SP 0",
+                                    "AT SP 3",  "AT SP A6",
+                                    "AT L1",    "AT S0",
+                                    "AT ST 10", "AT RV",
+                                    "AT PC",    "AT MA",
+                                    "AT CAF0",  "AT SH 7E0",
+                                    "01 00",    "01 0C",
+                                    "0101",     "03",
+                                    "07",       "0A",
+                                    "09 02",    "06 00",
+                                    "02 02 00", "01 0D 1",
+                                    "Timeout",  "?",
+                                    "hello",    "",
+                                    " ",        "AT@1",
+                                    "ATSPA3",   "01 0C 0D 05 11",
+                                    "\xC3\xA9", "a command that is far too long for any adapter"};
 
-constexpr const char* PORTS[] = {"35000", "35001", "35002", "1", "abc", "", "99999999999", "35000x"};
+constexpr const char* PORTS[] = {"35000", "35001", "35002",       "1",
+                                 "abc",   "",      "99999999999", "35000x"};
 constexpr const char* HOSTS[] = {"10.0.0.9", "10.0.0.10", "nowhere", ""};
 
 } // namespace
@@ -40,8 +54,7 @@ void random_user::answer_dialogs() {
         app_.story.note("alert", request.message);
         if (dice_.happens(50))
             app_.loop.advance(dice_.time(0, 8000));
-        app_.messages.answers.assign(
-            1, dice_.below(static_cast<int>(request.buttons.size())));
+        app_.messages.answers.assign(1, dice_.below(static_cast<int>(request.buttons.size())));
         app_.messages.shown.clear();
     };
     app_.bluetooth.while_choosing = [this] {
@@ -196,13 +209,12 @@ void random_user::use_preferences() {
     case 1:
         app_.story.note("user", "port");
         return app_.find<QLineEdit>("portsLbl")
-            ->setText(QString::fromUtf8(dice_.happens(60) ? PORTS[dice_.below(3)]
-                                                          : dice_.one_of(PORTS)));
+            ->setText(
+                QString::fromUtf8(dice_.happens(60) ? PORTS[dice_.below(3)] : dice_.one_of(PORTS)));
     case 2:
         app_.story.note("user", "address");
-        return app_.find<QLineEdit>("ipLbl")
-            ->setText(QString::fromUtf8(dice_.happens(80) ? HOSTS[dice_.below(2)]
-                                                          : dice_.one_of(HOSTS)));
+        return app_.find<QLineEdit>("ipLbl")->setText(
+            QString::fromUtf8(dice_.happens(80) ? HOSTS[dice_.below(2)] : dice_.one_of(HOSTS)));
     case 3:
     case 4: {
         auto* const table = app_.find<QTableView>("_pid_availableTableView");

@@ -86,14 +86,13 @@ class scripted_serial_port final : public serial_port_profile {
                 return nullptr;
             return std::make_shared<record>(script);
         }
-        int openRFCOMMChannelAsync(std::shared_ptr<rfcomm_channel>& channel,
-                                   std::uint8_t channel_id,
+        int openRFCOMMChannelAsync(std::shared_ptr<rfcomm_channel>& opened, std::uint8_t channel_id,
                                    rfcomm_channel_delegate delegate) override {
             ++script.opens;
             script.opened_channel_id = channel_id;
             script.channel = std::move(delegate);
             if (script.open_leaves_channel) {
-                channel = std::make_shared<wire>(script);
+                opened = std::make_shared<wire>(script);
                 script.when_opened();
             }
             return script.open_error;

@@ -127,7 +127,7 @@ void codes_view::build_tables(QVBoxLayout* column) {
     codesReadTableView_->setAccessibleName(ui_text(delegate_, "ui_codes_table"));
     fit_column(codesReadTableView_, 0, QStringLiteral("U0100"));
     codesReadTableView_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
-    new empty_hint(codesReadTableView_, ui_text(delegate_, "ui_codes_empty"));
+    no_codes_ = new empty_hint(codesReadTableView_, QString());
 
     readinessCodesTableView_ = make_table("readinessCodesTableView", split);
     readiness_model_ = new rows_model(
@@ -188,6 +188,7 @@ void codes_view::set_lamp(const std::string& text) {
 
 void codes_view::set_count(const std::string& text) {
     count_card_->set_value(text);
+    no_codes_->setText(ui_text(delegate_, text == "0" ? "ui_codes_none" : "ui_codes_empty"));
 }
 
 void codes_view::set_read_on(const std::string& text) {
@@ -210,6 +211,7 @@ void codes_view::reset_labels() {
     read_on_.clear();
     lamp_card_->set_resting("MIL Lamp:");
     count_card_->set_resting("No of DTC Codes:");
+    no_codes_->setText(ui_text(delegate_, "ui_codes_empty"));
     read_on_card_->set_resting("Read on");
     extra_card_->set_resting("");
 }

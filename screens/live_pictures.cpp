@@ -144,6 +144,7 @@ void live_pictures::draw(live_view& view, const sample_rows& rows, const sample_
         at.changed = !strip.in_sight(static_cast<int>(i));
         if (at.changed)
             continue; // once it comes into sight
+        at.chart.set_stretch(cell.width() / cell.height());
         paint(at.chart, thumbnail_scale, "", at.realtime_labels);
         strip.set_picture(static_cast<int>(i), at.chart.imageRepresentation());
     }

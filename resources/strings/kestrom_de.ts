@@ -169,6 +169,10 @@ Bitte prüfen Sie:
         <source></source>
         <translation>Nach „Codes lesen“ stehen hier die gespeicherten Fehlercodes.</translation>
     </message>
+    <message id="ui_codes_none">
+        <source></source>
+        <translation>Das Auto meldet keine gespeicherten Fehlercodes.</translation>
+    </message>
     <message id="ui_col_state">
         <source></source>
         <translation>Stand</translation>

@@ -169,6 +169,10 @@ Please check:
         <source></source>
         <translation>Stored trouble codes appear here after “Read codes”.</translation>
     </message>
+    <message id="ui_codes_none">
+        <source></source>
+        <translation>The car reports no stored trouble codes.</translation>
+    </message>
     <message id="ui_col_state">
         <source></source>
         <translation>State</translation>

@@ -169,6 +169,10 @@ Compruebe que:
         <source></source>
         <translation>Los códigos de avería guardados aparecen aquí después de «Leer códigos».</translation>
     </message>
+    <message id="ui_codes_none">
+        <source></source>
+        <translation>El coche no comunica ningún código de avería guardado.</translation>
+    </message>
     <message id="ui_col_state">
         <source></source>
         <translation>Estado</translation>

@@ -169,6 +169,10 @@ Veuillez vérifier que :
         <source></source>
         <translation>Les codes défaut enregistrés apparaissent ici après « Lire les codes ».</translation>
     </message>
+    <message id="ui_codes_none">
+        <source></source>
+        <translation>La voiture ne signale aucun code défaut enregistré.</translation>
+    </message>
     <message id="ui_col_state">
         <source></source>
         <translation>État</translation>

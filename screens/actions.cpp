@@ -114,7 +114,6 @@ void actions::build_views() {
     cur_thumbs_selected.clear();
     gauge_1_idx = 0;
     gauge_2_idx = -1;
-    view_->show_second_dial(false);
     pictures_.rebuild(_pid_logitems_list);
     set_chart_title(ALL_POINTS);
     pictures_.set_points_shown(-1);

@@ -40,7 +40,7 @@ QString readiness_mark(const std::string& state) {
         return QStringLiteral("\u2713  OK");
     if (state == "X")
         return QStringLiteral("\u2717  X");
-    return QStringLiteral("\u2013  N/A");
+    return QStringLiteral("\u2212  N/A");
 }
 
 } // namespace
@@ -65,6 +65,7 @@ void codes_view::build_buttons(QHBoxLayout* row) {
                     std::function<void()>& call) {
         auto* button = new QPushButton(drawn_icon(icon), ui_text(delegate_, key), root());
         button->setObjectName(QLatin1String(name));
+        button->setMinimumHeight(4 * GRID);
         QObject::connect(button, &QPushButton::clicked, root(), [&call] { call(); });
         row->addWidget(button);
         return button;
@@ -144,7 +145,7 @@ void codes_view::build_tables(QVBoxLayout* column) {
         readinessCodesTableView_);
     readinessCodesTableView_->setModel(readiness_model_);
     readinessCodesTableView_->setAccessibleName(ui_text(delegate_, "ui_readiness_table"));
-    fit_column(readinessCodesTableView_, 0, QStringLiteral("\u2013  N/A"));
+    fit_column(readinessCodesTableView_, 0, QStringLiteral("\u2212  N/A"));
     readinessCodesTableView_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     fit_column(readinessCodesTableView_, 2, QStringLiteral("Non-Continous"));
     make_room_for_monitors();

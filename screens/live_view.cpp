@@ -114,7 +114,8 @@ void live_view::build_controls(QHBoxLayout* row) {
     charty_zoomer_->setAccessibleName(ui_text(delegate_, "ui_live_zoom_hint"));
     zoom_label->setBuddy(charty_zoomer_);
     zoom_label->setObjectName(QStringLiteral("zoomLabel"));
-    for (QWidget* widget : {static_cast<QWidget*>(zoom_label), static_cast<QWidget*>(charty_zoomer_)}) {
+    for (QWidget* widget :
+         {static_cast<QWidget*>(zoom_label), static_cast<QWidget*>(charty_zoomer_)}) {
         keep_room(widget);
         widget->hide();
         row->addWidget(widget);
@@ -253,8 +254,7 @@ void live_view::set_thumbnails(const std::vector<QString>& names) {
 }
 
 void live_view::scroll_to_thumbnail(int index) {
-    xtopActionCharts_->horizontalScrollBar()->setValue(index *
-                                                       thumbiesMtrx_->cell_size().width());
+    xtopActionCharts_->horizontalScrollBar()->setValue(index * thumbiesMtrx_->cell_size().width());
 }
 
 void live_view::show_log_mark(const std::string& text) {

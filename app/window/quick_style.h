@@ -1,9 +1,11 @@
 // The desktop's style with this program's few rules: headings of tables begin where the cells'
-// texts do, buttons have air around their words, titles of groups are heavier than what they group.
-// And without reading icons that nothing shows yet: every menu bar asks for the arrow of its
-// overflow when it is made, and for the first picture read Qt loads all its picture plugins. Owned
-// by the application.
+// texts do, buttons have air around their words, titles of groups are heavier than what they group,
+// message boxes have the program's drawings, frames are whole at every scale. And without reading
+// icons that nothing shows yet: every menu bar asks for the arrow of its overflow when it is made,
+// and for the first picture read Qt loads all its picture plugins. Owned by the application.
 #pragma once
+
+#include "chrome.h"
 
 #include <QCommonStyle>
 #include <QIconEngine>
@@ -19,6 +21,13 @@ class quick_style final : public QProxyStyle {
                        const QWidget* widget) const override {
         if (which == SP_ToolBarHorizontalExtensionButton)
             return QIcon(new late_icon(which));
+        // Message boxes: the program's own drawings, sharp at every scale.
+        if (which == SP_MessageBoxWarning)
+            return picture_icon(QStringLiteral(":/kestrom/icons/warn.svg"));
+        if (which == SP_MessageBoxQuestion)
+            return drawn_icon("help");
+        if (which == SP_MessageBoxInformation)
+            return picture_icon(QStringLiteral(":/kestrom/images/kestrom.svg"));
         return QProxyStyle::standardIcon(which, option, widget);
     }
 
@@ -52,8 +61,8 @@ class quick_style final : public QProxyStyle {
         return type == CT_PushButton ? size + QSize(BUTTON_AIR, 0) : size;
     }
 
-    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
-                         SubControl part, const QWidget* widget) const override {
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override {
         if (const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
             group && widget) {
             QStyleOptionGroupBox heavy = *group;

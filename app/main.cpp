@@ -16,6 +16,7 @@
 #include "mac_toolies.h"
 #include "main_window.h"
 #include "message_box_alerts.h"
+#include "network.h"
 #include "progress_line.h"
 #include "qt_run_loop.h"
 #include "quick_style.h"
@@ -23,8 +24,6 @@
 #include "recorded_doors.h"
 #include "screen_factories.h"
 #include "serial_port_profile.h"
-#include "tcp_adapter_server.h"
-#include "tcp_stream_pair.h"
 #include "user_defaults.h"
 
 #include <QApplication>
@@ -57,12 +56,8 @@ bool display_there() {
 }
 
 // The built-in virtual car, listening on loopback.
-std::unique_ptr<tcp_adapter_server> start_demo_car(const std::string& name) {
-    auto server = std::make_unique<tcp_adapter_server>(
-        load_car(name.empty() ? DEFAULT_DEMO_CAR : name), adapter_options());
-    if (!server->listen("127.0.0.1", 0))
-        throw std::runtime_error("the virtual car cannot listen on 127.0.0.1");
-    return server;
+std::unique_ptr<network::served_car> start_demo_car(const std::string& name) {
+    return load_network().serve(load_car(name.empty() ? DEFAULT_DEMO_CAR : name));
 }
 
 // The store to use. A demo, a named adapter and a live run with parameters of its own work
@@ -193,9 +188,9 @@ bool start_recording(conversation_recorder& recorder, const cli_request& asked, 
 }
 
 // Puts the command line's choices into the store; answers the demo's car.
-std::unique_ptr<tcp_adapter_server> use_what_is_asked(user_defaults& defaults,
-                                                      const cli_request& asked) {
-    std::unique_ptr<tcp_adapter_server> car;
+std::unique_ptr<network::served_car> use_what_is_asked(user_defaults& defaults,
+                                                       const cli_request& asked) {
+    std::unique_ptr<network::served_car> car;
     if (asked.demo) {
         car = start_demo_car(asked.demo_car);
         use_adapter(defaults, "127.0.0.1", std::to_string(car->port()));
@@ -224,9 +219,7 @@ int run(QApplication& application, const cli_request& asked) {
     mac_toolies::initialize({&resources, &defaults, &message_boxes, &notifications});
     conversation_recorder recorder(loop);
     link_doors link{
-        [&loop](const std::string& host, long port) -> std::unique_ptr<stream_pair> {
-            return std::make_unique<tcp_stream_pair>(loop, host, port);
-        },
+        tcp_streams(loop),
         make_bluetooth_door(loop, message_boxes, resources, defaults, !asked.without_display()),
         nullptr};
     if (asked.record) {
@@ -262,9 +255,11 @@ int run(QApplication& application, const cli_request& asked) {
         runner = std::make_unique<command_runner>(asked, delegate, printed_alerts);
         QTimer::singleShot(0, &application, [&] { runner->start(leave); });
     } else {
-        open_screen(delegate, asked.screen);
-        if (asked.screenshot) // once the window has been laid out
-            QTimer::singleShot(200, &application, [&] { leave(0); });
+        QTimer::singleShot(0, &application, [&] { // a box that it opens must not hold up the start
+            open_screen(delegate, asked.screen);
+            if (asked.screenshot) // once the window has been laid out
+                QTimer::singleShot(200, &application, [&] { leave(0); });
+        });
     }
     const int ended = application.exec();
     return status ? status : ended;

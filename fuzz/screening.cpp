@@ -3,6 +3,7 @@
 #include "fuzz_one.h"
 #include "fuzz_toolkit.h"
 #include "globalVars.h"
+#include "live_handshake.h"
 #include "obd_screen.h"
 #include "scripted_alerts.h"
 #include "scripted_serial_port.h"
@@ -29,20 +30,23 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
     scripted_serial_port serial_ports(loop);
     Ks_lite_delegate delegate({loop, boxes, settings, resources, notifications, {}, serial_ports}, {});
     bare_screen screen(delegate);
-    codes_handshake handshake(screen);
+    codes_handshake of_codes(screen);
+    live_handshake of_live_data(screen);
 
-    for (const int step : STEPS) {
-        reset_global_vars();
-        cur_cmd = std::string_view("AT I\r");
-        odb_curReplyMsg = std::string(as_text(bytes)) + ">";
-        const std::string screened = handshake.check_initial_car_reply();
-        REQUIRE(screened.size() <= odb_curReplyMsg.size() || screened == REPLY_REJECTED);
-        REQUIRE(!contains(screened, ">"));
-        boxes.shown.clear();
-        const bool done = handshake.connect_2_interface(step);
-        REQUIRE(done == (step == 5 && connected_2_KS_interface));
-        REQUIRE(boxes.shown.size() <= 2); // the screener's and the step's
-        REQUIRE(cur_cmd.str().ends_with('\r'));
-    }
+    for (adapter_handshake* handshake : {static_cast<adapter_handshake*>(&of_codes),
+                                         static_cast<adapter_handshake*>(&of_live_data)})
+        for (const int step : STEPS) {
+            reset_global_vars();
+            cur_cmd = std::string_view("AT I\r");
+            odb_curReplyMsg = std::string(as_text(bytes)) + ">";
+            const std::string screened = handshake->check_initial_car_reply();
+            REQUIRE(screened.size() <= odb_curReplyMsg.size() || screened == REPLY_REJECTED);
+            REQUIRE(handshake == &of_live_data || !contains(screened, ">")); // the other keeps it
+            boxes.shown.clear();
+            const bool done = handshake->connect_2_interface(step);
+            REQUIRE(done == (step == 5 && connected_2_KS_interface));
+            REQUIRE(boxes.shown.size() <= 2); // the screener's and the step's
+            REQUIRE(cur_cmd.str().ends_with('\r'));
+        }
     return 0;
 }

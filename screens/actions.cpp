@@ -208,6 +208,7 @@ void actions::leave_cur_op_gracefully(const std::string&) {
 }
 
 void actions::link_lost() {
+    KS_delegate.give_up_on_reply(); // or its time-out would end a later run
     if (keep_logging)
         leave_cur_op_gracefully("");
 }

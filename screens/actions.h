@@ -97,7 +97,6 @@ class actions final : public obd_screen {
     void take_reply();
     enum class order_of_answer { in_step, one_behind, wrong };
     order_of_answer order_of(std::string_view reply) const;
-    bool misreads(const std::string& reply, const std::string& pid) const;
     void ask_next(order_of_answer order);
     bool await_straggler(order_of_answer order);
     void straggler_came();

@@ -6,6 +6,7 @@
 #include "fuel_economy.h"
 #include "globalVars.h"
 #include "live_view.h"
+#include "sample_reply.h"
 #include "system_log.h"
 #include "text.h"
 #include "user_defaults.h"
@@ -64,12 +65,14 @@ std::string reply_to(std::string_view pid, const std::string& replies) {
     return replies;
 }
 
-// A reply as it goes into the log, where "," and line ends have a meaning of their own.
+// A reply as it goes into the log, where "," and line ends have a meaning of their own. What line
+// noise has made of it must not read as an answer there, so that nothing is left out.
 std::string log_field(std::string_view reply) {
-    std::string field;
-    for (const char c : reply)
-        if (static_cast<unsigned char>(c) >= ' ' && c != ',' && c != 0x7F)
-            field += c;
+    constexpr char NO_TEXT = '.';
+    std::string field(reply);
+    for (char& c : field)
+        if (c < ' ' || c > '~' || c == ',')
+            c = NO_TEXT;
     return field.empty() ? "~" : field;
 }
 
@@ -182,7 +185,7 @@ void actions::first_question_answered() {
     if (answers_another(*reply, requests_.front().pid) &&
         await_straggler(order_of_answer::one_behind))
         return; // and ask once more
-    run_->first_question_answered(whole_answer(*reply, requests_.front().pid) ? *reply : "~");
+    run_->first_question_answered(*reply);
     begin_cycle();
 }
 
@@ -207,7 +210,9 @@ void actions::add_item_to_log_vector(std::string_view this_item_val, int this_id
         return;
     }
     const auto place = static_cast<std::size_t>(this_idx);
-    cycle_values_[place] = toolies.translate_once(this_item_val);
+    // What is no whole answer stays as it came, but is no value.
+    const std::string_view answer = answer_in(this_item_val);
+    cycle_values_[place] = toolies.translate_once(answer.empty() ? "~" : answer);
     these_samples[place][1] = cycle_values_[place].text;
     cur_log_points.file(place, this_item_val, cycle_values_[place]);
 }
@@ -264,11 +269,6 @@ actions::order_of_answer actions::order_of(std::string_view reply) const {
     return answers_another(reply, before.pid) ? order_of_answer::wrong : order_of_answer::one_behind;
 }
 
-// It would be read as a value although it is no whole answer.
-bool actions::misreads(const std::string& reply, const std::string& pid) const {
-    return !whole_answer(reply, pid) && toolies.translateResponse(reply) != "~";
-}
-
 void actions::take_reply() {
     const std::optional<std::string> screened = screened_reply();
     if (!screened)
@@ -279,7 +279,7 @@ void actions::take_reply() {
     const bool out_of_step = order != order_of_answer::in_step;
     // What answers another request is not filed under this one's name.
     const std::string reply =
-        run_->reply_to_file(asked, out_of_step || misreads(*screened, asked.pid) ? "~" : *screened);
+        run_->reply_to_file(asked, out_of_step ? "~" : *screened);
     note_reply(*screened);
     qCDebug(log_screens, "loggy:%s", reply.c_str());
     add_item_to_log_vector(reply, cur_log_idx);

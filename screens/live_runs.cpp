@@ -3,12 +3,12 @@
 #include "constantes.h"
 #include "fuel_economy.h"
 #include "globalVars.h"
+#include "sample_reply.h"
 #include "text.h"
 #include "user_defaults.h"
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -18,12 +18,11 @@ namespace {
 constexpr double NO_READING = std::numeric_limits<double>::quiet_NaN();
 
 // The data bytes of an answer to that parameter, at most two, as one number; NaN when it is none.
-double raw_value(std::string_view reply, std::string_view pid, std::size_t bytes) {
-    const std::string_view data = slice(reply, 4, 2 * bytes);
-    if (!answers_parameter(reply, pid) || data.size() != 2 * bytes ||
-        !is_hex(data))
+double raw_value(std::string_view reply, std::string_view pid) {
+    const std::string_view answer = answer_in(reply);
+    if (answer.empty() || !answers_parameter(answer, pid))
         return NO_READING;
-    return mac_toolies::convertStr2Byte(data);
+    return mac_toolies::convertStr2Byte(slice(answer, 4));
 }
 
 // "41", the pseudo-parameter and its word.
@@ -56,9 +55,9 @@ class fuel_run final : public live_run {
     }
     std::string reply_to_file(const sample_request& asked, const std::string& reply) override {
         if (asked.pid == "0D")
-            cur_Speed = raw_value(reply, "0D", 1);
+            cur_Speed = raw_value(reply, "0D");
         else
-            cur_MAF = raw_value(reply, "10", 2) / 100;
+            cur_MAF = raw_value(reply, "10") / 100;
         return reply;
     }
     std::optional<computed_sample> cycle_answered() override {
@@ -89,7 +88,7 @@ class boost_run final : public live_run {
     }
     void first_question_answered(std::string_view reply) override {
         asked_ = true;
-        if (const double pressure = raw_value(reply, "33", 1); pressure > 0)
+        if (const double pressure = raw_value(reply, "33"); pressure > 0)
             barometric_kpa_ = static_cast<int>(pressure);
     }
     std::vector<sample_request> requests(const std::vector<std::string>&) const override {
@@ -98,7 +97,7 @@ class boost_run final : public live_run {
     std::string reply_to_file(const sample_request& asked, const std::string& reply) override {
         if (asked.place != 0)
             return reply;
-        const double manifold_kpa = raw_value(reply, "0B", 1);
+        const double manifold_kpa = raw_value(reply, "0B");
         if (std::isnan(manifold_kpa))
             return "~";
         return word_reply("E5",
@@ -141,31 +140,6 @@ class oxygen_run final : public live_run {
 };
 
 } // namespace
-
-bool answers_parameter(std::string_view reply, std::string_view pid) {
-    return reply.starts_with("41") &&
-           std::ranges::equal(slice(reply, 2, 2), pid, [](unsigned char a, unsigned char b) {
-               return std::toupper(a) == std::toupper(b);
-           });
-}
-
-bool whole_answer(std::string_view reply, std::string_view pid) {
-    // By PID, 00 to 5F, a row for each sixteen.
-    static constexpr std::string_view DATA_BYTES = "4422111111112111"
-                                                   "2111222222221112"
-                                                   "4222444444441111"
-                                                   "1221444444442222"
-                                                   "4422211111111224"
-                                                   "4112222222111221";
-    const std::string_view data = slice(reply, 4);
-    if (!answers_parameter(reply, pid) || !is_hex(data) || data.size() % 2 != 0)
-        return false;
-    const std::size_t number = mac_toolies::convertStr2Byte(pid);
-    const std::size_t bytes = number < DATA_BYTES.size()
-                                  ? static_cast<std::size_t>(DATA_BYTES[number] - '0')
-                                  : data.size() / 2;
-    return data.size() == 2 * bytes;
-}
 
 std::vector<sample_request>
 live_run::requests(const std::vector<std::string>& parameters) const {

@@ -24,13 +24,6 @@ struct computed_sample {
     std::string reply; // as an adapter would have answered, without blanks
 };
 
-// Whether the reply, without blanks, answers the service 01 request for that parameter.
-bool answers_parameter(std::string_view reply, std::string_view pid);
-// Whether it is such an answer from end to end: nothing but hexadecimal digits, and as many data
-// bytes as the parameter has (SAE J1979). What lost or gained bytes on the way reads as some other
-// value.
-bool whole_answer(std::string_view reply, std::string_view pid);
-
 class live_run {
   public:
     virtual ~live_run() = default;

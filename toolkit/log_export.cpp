@@ -2,6 +2,7 @@
 
 #include "fixed_decimals.h"
 #include "mac_toolies.h"
+#include "sample_reply.h"
 #include "text.h"
 
 #include <algorithm>
@@ -149,7 +150,8 @@ void log_export::add_header(std::span<const std::string_view> fields) {
 }
 
 void log_export::add_value(std::string_view field) {
-    const double value = toolies_.get_OBDVal(field);
+    const std::string_view answer = answer_in(trimmed(field)); // the last has the line's end
+    const double value = toolies_.get_OBDVal(answer.empty() ? "~" : answer);
     if (std::isnan(value)) {
         table_ += "nan"; // never "-nan"
         return;

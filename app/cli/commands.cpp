@@ -167,7 +167,7 @@ Options
   --quit-when-shown     leave once the window has been painted (for measuring the start)
   --json                print JSON; docs/json holds the schemas
   --timeout SECONDS     bound for the whole command (default 60; none for live)
-  --help, --version
+  --help (-h), --version
 
 Progress is told on standard error when that is a terminal.
 

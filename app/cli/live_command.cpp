@@ -139,7 +139,9 @@ void live_command::print_cycle(const std::vector<translated>& values) {
     }
     show_cycles();
     std::printf("%s\n", line.c_str());
-    std::fflush(stdout); // whoever reads along sees each cycle as it completes
+    // Whoever reads along sees each cycle as it completes.
+    if (std::fflush(stdout) != 0)
+        done_(); // nobody does, or nobody can
 }
 
 // Of a run whose lines go elsewhere: on a terminal they tell it themselves.

@@ -8,6 +8,7 @@
 
 namespace {
 
+constexpr int ENDING[] = {SIGINT, SIGTERM, SIGHUP};
 int write_end = -1;
 
 void wake_up(int) {
@@ -27,12 +28,14 @@ quit_signals::quit_signals(std::function<void()> quit) {
         [[maybe_unused]] const ssize_t got = ::read(pipe_[0], &byte, 1);
         quit();
     });
-    for (const int signal : {SIGINT, SIGTERM})
+    for (const int signal : ENDING)
         std::signal(signal, wake_up);
+    // Whoever writes to a reader that has gone is told by the write.
+    std::signal(SIGPIPE, SIG_IGN);
 }
 
 quit_signals::~quit_signals() {
-    for (const int signal : {SIGINT, SIGTERM})
+    for (const int signal : ENDING)
         std::signal(signal, SIG_DFL);
     ::close(pipe_[0]);
     ::close(pipe_[1]);

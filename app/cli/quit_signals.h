@@ -1,4 +1,4 @@
-// Turns SIGINT and SIGTERM into an orderly end: the callback runs from the event loop. One per
+// Turns SIGINT, SIGTERM and SIGHUP into an orderly end: the callback runs from the event loop. One per
 // program.
 #pragma once
 

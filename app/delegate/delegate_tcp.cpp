@@ -125,7 +125,7 @@ void Ks_lite_delegate::disconnect() {
     if (streams_)
         streams_->close();
     attempt_state_ = attempt_state::none;
-    reply_awaited_since_ = {};
+    give_up_on_reply();
     // Whatever was to begin on this connection begins on the next.
     doors_.loop.cancel(deferred_call_);
     deferred_call_ = 0;

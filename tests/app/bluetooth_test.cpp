@@ -1,4 +1,5 @@
 // The Bluetooth transport over a scripted door and a virtual clock.
+#include "actions.h"
 #include "app_harness.h"
 #include "qt_warnings.h"
 
@@ -72,6 +73,34 @@ TEST_F(link_over_bluetooth, the_codes_screen_waits_for_the_channel) {
     app.loop.settle();
     EXPECT_EQ(sent(), with_zero("AT Z\r"));
     EXPECT_EQ(sent(), "");
+}
+
+// A run waits for no link that nobody opens.
+TEST_F(link_over_bluetooth, a_run_ends_when_the_chooser_is_cancelled_or_the_channel_closes) {
+    app.defaults.set_string_array(PIDS_ARRAY_KEY, {"0D"});
+    app.delegate->do_actions();
+    const auto runs = [this] {
+        return static_cast<actions*>(app.delegate->current_screen())->running();
+    };
+    app.bluetooth.selector_result = -1001;
+    app.press("startStopBtn");
+    EXPECT_EQ(app.bluetooth.choosers, 1);
+    EXPECT_FALSE(runs());
+    app.bluetooth.selector_result = SELECTOR_SUCCESS;
+    app.press("startStopBtn");
+    EXPECT_TRUE(runs()) << "the channel is coming up";
+    app.bluetooth.open_completes();
+    app.loop.settle();
+    EXPECT_EQ(sent(), with_zero("AT Z\r"));
+    app.bluetooth.drop();
+    app.loop.settle();
+    EXPECT_FALSE(runs());
+    app.loop.advance(seconds(2));
+    app.press("startStopBtn");
+    EXPECT_FALSE(runs());
+    EXPECT_EQ(app.last_status(), app.resources.localized("bt_closed_MSG"));
+    EXPECT_EQ(sent(), "");
+    EXPECT_EQ(app.bluetooth.opens, 1);
 }
 
 TEST_F(link_over_bluetooth, every_failure_of_the_open_sequence_is_logged_and_shown_nowhere) {

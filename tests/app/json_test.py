@@ -87,6 +87,22 @@ class json_test(unittest.TestCase):
         with ThreadPoolExecutor(8) as pool:  # they mostly wait
             self.assertEqual(list(pool.map(check_car, CARS)), [21] * len(CARS))
 
+    def test_small_letters_are_told_as_they_came_and_fit_the_schemas(self):
+        talk, settings = Path(HOME.name, "letters.jsonl"), Path(HOME.name, "letters.conf")
+        with virtual_car("--car", "hybrid", "--timing", "0.05") as address:
+            kestrom("--adapter", address, "--record", str(talk), "codes")
+        told = [json.loads(line) for line in talk.read_text().splitlines()]
+        for entry in told:
+            if "43 " in entry.get("received", ""):
+                entry["received"] = entry["received"].lower()
+        talk.write_text("".join(json.dumps(entry) + "\n" for entry in told))
+        with virtual_car("--replay", str(talk)) as address:
+            codes = same_codes(kestrom("--adapter", address, "codes", "--json"))["codes"]
+        self.assertIn("P0a80", [code["code"] for code in codes])
+        settings.write_text("[General]\npidsArray=0d, 0C\n")
+        cycle, _ = lines_fit("live", kestrom("--demo", "--settings", str(settings), "live", "--cycles", "1", "--json"))
+        self.assertEqual(list(cycle["values"]), ["0d", "0C"])
+
     def test_what_needs_no_car_fits_the_schemas(self):
         Path(HOME.name, "run.gol").write_text("410C1AF8,NODATA\n")
         log = str(Path(HOME.name, "run.gol"))

@@ -126,7 +126,7 @@ std::vector<ended_run> runs_ended_by(int signal, int count,
     std::vector<std::unique_ptr<one>> all;
     for (int i = 0; i < count; ++i) {
         all.push_back(std::make_unique<one>());
-        start(all.back()->process, i % 2 == 0 ? "0D" : "0D,0C", all.back()->home.path());
+        start(all.back()->process, i % 2 == 0 ? "0C" : "0C,0D", all.back()->home.path());
     }
     QElapsedTimer clock;
     clock.start();
@@ -152,6 +152,13 @@ std::vector<ended_run> runs_ended_by(int signal, int count,
     return ended;
 }
 
+// The engine speed that a line of the log begins with, as it is printed (SAE J1979: quarters).
+std::string engine_speed(const std::string& logged) {
+    std::ostringstream printed;
+    printed << std::stoi(logged.substr(4, 4), nullptr, 16) / 4.0;
+    return printed.str();
+}
+
 class ended_live_command : public shell {
   protected:
     static void start_demo(QProcess& process, const std::string& pids, const QString& users_home) {
@@ -162,7 +169,10 @@ class ended_live_command : public shell {
         EXPECT_GE(run.logged.size(), run.printed.size()) << "announced, but not in the log";
         EXPECT_TRUE(run.log.ends_with('\n'));
         for (const std::string& line : run.logged)
-            EXPECT_THAT(line, testing::MatchesRegex("410D[0-9A-F]{2}(,410C[0-9A-F]{4})?"));
+            ASSERT_THAT(line, testing::MatchesRegex("410C[0-9A-F]{4}(,410D[0-9A-F]{2})?"));
+        for (std::size_t cycle = 0; cycle < std::min(run.printed.size(), run.logged.size()); ++cycle)
+            EXPECT_EQ(run.printed[cycle].substr(0, run.printed[cycle].find(',')),
+                      engine_speed(run.logged[cycle]));
     }
 };
 

@@ -3,6 +3,7 @@
 #include "actions.h"
 #include "app_harness.h"
 #include "car_library.h"
+#include "sample_reply.h"
 #include "qt_warnings.h"
 #include "virtual_car_pair.h"
 
@@ -251,19 +252,21 @@ TEST(live_runs, stop_at_any_moment_and_start_again) {
         }
 }
 
-// What lost or gained bytes on the way would read as another value.
+// What lost or gained bytes on the way would read as another value; a frame's filling is none.
 TEST(live_answers, count_only_whole) {
     const struct {
         const char* reply;
-        const char* pid;
-        bool whole;
-    } cases[] = {{"410C1AF8", "0C", true},          {"410D64", "0d", true},
-                 {"410C1A", "0C", false},           {"410C1AF", "0C", false},
-                 {"410D6400", "0D", false},         {"410D", "0D", false},
-                 {"410C1A<DATAERROR", "0C", false}, {"2410D64", "0D", false},
-                 {"41158F", "15", false},           {"41710102", "71", true}};
+        const char* answer;
+    } cases[] = {{"410C1AF8", "410C1AF8"},       {"410d64", "410d64"},
+                 {"410C1A", ""},                 {"410C1AF", ""},
+                 {"410D6400", ""},               {"410D", ""},
+                 {"410C1A<DATAERROR", ""},       {"2410D64", ""},
+                 {"41158F", ""},                 {"41710102", "41710102"},
+                 {"410D24AAAAAAAA", "410D24"}, {"410D24AAAAAAA5", ""},
+                 {"410D24AAAA", ""},             {"41068090", "410680"},
+                 {"4106", ""},                   {"", ""}};
     for (const auto& c : cases)
-        EXPECT_EQ(whole_answer(c.reply, c.pid), c.whole) << c.reply;
+        EXPECT_EQ(answer_in(c.reply), c.answer) << c.reply;
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "actions.h"
 #include "app_harness.h"
 #include "qt_warnings.h"
+#include "stall_hint.h"
 #include "thumbnail_strip.h"
 
 #include <QComboBox>
@@ -237,6 +238,30 @@ TEST_F(live_screen, what_a_stopped_run_asked_for_is_awaited_for_three_seconds) {
     EXPECT_EQ(screen().samples().text(0, 0), "-1");
 }
 
+TEST_F(live_screen, the_stall_hint_shows_after_five_seconds_and_changes_nothing) {
+    start();
+    cycle();
+    EXPECT_EQ(app.sent(), "01 0D\r");
+    draw();
+    auto* hint = static_cast<stall_hint*>(app.find("stallHint"));
+    const auto step = next_step_idx;
+    const std::string status = app.last_status();
+    app.loop.advance(milliseconds(4800)); // 200 have passed
+    hint->refresh();
+    EXPECT_EQ(hint->text(), QString());
+    app.loop.advance(milliseconds(1000));
+    hint->refresh();
+    EXPECT_EQ(hint->text().toStdString(),
+              QString::fromStdString(app.resources.localized("ui_stall_hint")).arg(6).toStdString());
+    EXPECT_EQ(app.last_status(), status);
+    EXPECT_EQ(next_step_idx, step);
+    EXPECT_EQ(app.sent(), "");
+    EXPECT_TRUE(screen().running());
+    app.receive("41 0D 30\r\r>");
+    hint->refresh();
+    EXPECT_EQ(hint->text(), QString());
+}
+
 // What it answers meanwhile is filed under no name that it does not belong to.
 TEST_F(live_screen, gets_back_in_step_with_an_adapter_that_is_one_answer_behind) {
     const auto answer = [](const std::string& pid) {
@@ -285,10 +310,31 @@ TEST_F(logged_run, holds_whole_cycles_as_they_were_answered) {
     for (const char* reply :
          {"NO DATA\r\r>", "?\r\r>", "41 0C 1A F8\r41 0C 1A F4\r\r>", "4,1\x02 05\n7B\r\r>"})
         app.receive(reply);
+    for (const char* no_answer : // each would be read as a value
+         {"FB ERROR\r\r>", "41 11 80 <DATA ERROR\r\r>", "41 0C 1A\r\r>", "41 05 7B 7B\r\r>"})
+        app.receive(no_answer);
     answer(0, true); // half a cycle
     app.press("startStopBtn");
-    EXPECT_EQ(log_lines(), (list{"410D30,411130,410C1000,410530", "NODATA,~,410C1AF8,41057B"}));
+    EXPECT_EQ(log_lines(), (list{"410D30,411130,410C1000,410530", "NODATA,~,410C1AF8,4.1.057B",
+                                 "FBERROR,411180<DATAERROR,410C1A,41057B7B"}));
+    for (std::size_t place = 0; place < 4; ++place)
+        EXPECT_TRUE(std::isnan(screen().samples().value(2, place))) << place;
     EXPECT_EQ(mark()->text(), QString());
+}
+
+TEST_F(logged_run, whose_file_is_removed_goes_on_with_the_mark) {
+    start();
+    cycle();
+    EXPECT_TRUE(mark()->isHidden());
+    std::filesystem::remove(screen().log_path());
+    cycle();
+    draw();
+    EXPECT_TRUE(screen().running());
+    EXPECT_TRUE(mark()->isVisible());
+    EXPECT_EQ(mark()->text().toStdString(),
+              app.resources.localized("ui_live_log_failed") + " No such file or directory");
+    cycle();
+    EXPECT_FALSE(std::filesystem::exists(screen().log_path()));
 }
 
 TEST_F(logged_run, of_another_kind_has_its_own_name_and_the_computed_item_first) {

@@ -45,6 +45,7 @@ class transcript : public testing::TestWithParam<std::string> {
     }
     void sent(const std::string& text) { EXPECT_EQ(app.sent(), unescaped(text)); }
     void received(const std::string& text) { app.receive(unescaped(text)); }
+    void rounds(const std::string& text);
     // Nothing (more) was sent
     void quiet(const std::string&) { EXPECT_EQ(app.sent(), ""); }
     void status(const std::string& text) { EXPECT_EQ(app.last_status(), told(text)); }
@@ -84,6 +85,7 @@ const std::map<std::string, void (transcript::*)(const std::string&)> transcript
     {"advance", &transcript::advance},
     {"sent", &transcript::sent},
     {"received", &transcript::received},
+    {"rounds", &transcript::rounds},
     {"quiet", &transcript::quiet},
     {"status", &transcript::status},
     {"alert", &transcript::alert},
@@ -165,6 +167,19 @@ void transcript::connection(const std::string& text) {
     expect_warning("Disconected");
     scripted_stream_pair::raise(app.wire(), app.loop, STREAM_END);
     app.loop.settle();
+}
+
+// COUNT SENT / RECEIVED / SENT / RECEIVED ...: the same exchange so many times
+void transcript::rounds(const std::string& text) {
+    const std::size_t blank = text.find(' ');
+    std::vector<std::string> turns;
+    for (std::size_t start = blank + 1, end = 0; end != std::string::npos; start = end + 3) {
+        end = text.find(" / ", start);
+        turns.push_back(text.substr(start, end - start));
+    }
+    for (int round = std::stoi(text.substr(0, blank)); round > 0; --round)
+        for (std::size_t turn = 0; turn < turns.size(); ++turn)
+            turn % 2 == 0 ? sent(turns[turn]) : received(turns[turn]);
 }
 
 // TABLE ROW COLUMN TEXT

@@ -54,6 +54,16 @@ bool answer_slot::holds_digits(std::string_view digits) const {
     return run.find(digits) != std::string::npos;
 }
 
+std::vector<std::string> answer_slot::status_digits() const {
+    std::vector<std::string> found;
+    any_line(arrived, [&](std::string_view line) {
+        for (std::size_t at = 0; (at = line.find("4101", at)) != std::string_view::npos; ++at)
+            found.emplace_back(line.substr(at + 4));
+        return false;
+    });
+    return found;
+}
+
 void ledger::forget() {
     slots_.assign(1, {});
     moment_ = 0;

@@ -26,6 +26,8 @@ struct answer_slot {
     bool holds(std::string_view line) const;
     // The digits stand in what arrived, whatever frames and headers are around them.
     bool holds_digits(std::string_view digits) const;
+    // What stands behind every "4101" in the lines that arrived.
+    std::vector<std::string> status_digits() const;
 };
 
 class ledger {

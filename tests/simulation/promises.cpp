@@ -3,12 +3,16 @@
 #include "actions.h"
 #include "readCodes.h"
 #include "reply_accumulator.h"
+#include "sample_reply.h"
+#include "text.h"
 
 #include <QPlainTextEdit>
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <optional>
+#include <set>
 #include <sstream>
 
 using std::chrono::milliseconds;
@@ -46,13 +50,45 @@ std::string code_digits(const std::string& code) {
     return "0123456789ABCDEF"[first & 15] + code.substr(2);
 }
 
-// A field as a line of the log has it.
-std::string log_field(std::string_view reply) {
-    std::string field;
-    for (const char c : reply)
-        if (static_cast<unsigned char>(c) >= ' ' && c != ',' && c != 0x7F)
-            field += c;
-    return field.empty() ? "~" : field;
+// Whether a field of the log is that reply, but for what has a meaning of its own there.
+bool field_tells(std::string_view field, std::string_view reply) {
+    if (reply.empty())
+        return field == "~";
+    return std::ranges::equal(field, reply, [](unsigned char written, unsigned char came) {
+        const bool plain = came >= 0x20 && came < 0x7F && came != ',';
+        return plain ? written == came : written == '.';
+    });
+}
+
+// Whether the text is one line for each cycle and one field for each of its replies.
+bool log_tells(const std::string& text, const std::vector<std::vector<std::string>>& cycles) {
+    std::istringstream log(text);
+    std::string line;
+    for (const auto& replies : cycles) {
+        if (!std::getline(log, line) || log.eof())
+            return false;
+        const auto fields = split(line, ",");
+        if (!std::ranges::equal(fields, replies, field_tells))
+            return false;
+    }
+    return !std::getline(log, line);
+}
+
+std::optional<unsigned> hex_byte(const std::string& digits, std::size_t at) {
+    if (digits.size() < at + 2 || !all_hex(digits.substr(at, 2)))
+        return std::nullopt;
+    return static_cast<unsigned>(std::stoul(digits.substr(at, 2), nullptr, 16));
+}
+
+bool digits_tell_states(const std::string& digits, const std::vector<std::string>& states) {
+    const auto b = hex_byte(digits, 2), c = hex_byte(digits, 4), d = hex_byte(digits, 6);
+    if (!b || !c)
+        return false;
+    readiness_bytes bytes;
+    bytes.continuous = static_cast<std::uint8_t>(*b);
+    bytes.available = static_cast<std::uint8_t>(*c);
+    bytes.not_complete = static_cast<std::uint8_t>(d.value_or(0));
+    return monitor_states(bytes) == states;
 }
 
 } // namespace
@@ -133,9 +169,11 @@ void promises::codes_are_true(readCodes& screen) {
         states.push_back(flag.state);
     if (states != states_shown_) {
         states_shown_ = states;
-        app_.story.expect(states.empty() || car_told([&](const truth& car) {
-                              return car.states == states;
-                          }),
+        app_.story.expect(states.empty() ||
+                              car_told([&](const truth& car) { return car.states == states; },
+                                       [&](const std::string& digits) {
+                                           return digits_tell_states(digits, states);
+                                       }),
                           TRUE_CODES, "readiness");
     }
 }
@@ -147,21 +185,40 @@ bool promises::code_was_sent(const std::string& code) const {
     });
 }
 
-// An answer to this task's question for the status says so, or one that nobody can vouch for.
-bool promises::car_told(const std::function<bool(const truth&)>& fits) const {
+// An answer to this task's question for the status says so: the car's own, or, when it was changed
+// on the way, the digits that arrived.
+bool promises::car_told(const std::function<bool(const truth&)>& fits,
+                        const std::function<bool(const std::string& digits)>& reads) const {
     return app_.book.any_answer("0101", task_began_, [&](const answer_slot& slot) {
-        return slot.damaged || fits(slot.car);
+        return fits(slot.car) ||
+               (slot.damaged && std::ranges::any_of(slot.status_digits(), reads));
+    });
+}
+
+// The numbers that some of the units told add up to it: one that is not heard adds nothing.
+bool promises::count_was_sent(int count) const {
+    return app_.book.any_answer("0101", task_began_, [&](const answer_slot& slot) {
+        std::set<int> sums{0};
+        for (const std::string& digits : slot.status_digits())
+            if (const auto byte = hex_byte(digits, 0); byte && (*byte & 0x80))
+                for (const int sum : std::set<int>(sums))
+                    sums.insert(sum + static_cast<int>(*byte & 0x7F));
+        return sums.contains(count);
     });
 }
 
 void promises::status_is_true(const codes_report& shown) {
     if (shown.lamp == "ON" || shown.lamp == "OFF")
-        app_.story.expect(car_told([&](const truth& car) { return car.lamp == shown.lamp; }),
-                          TRUE_CODES, "lamp " + shown.lamp);
-    // A unit that is not heard adds nothing.
-    if (shown.count && shown.lamp != "N/A" && !shown.lamp.empty())
-        app_.story.expect(car_told([&](const truth& car) { return car.count >= *shown.count; }),
-                          TRUE_CODES, "count " + std::to_string(*shown.count));
+        app_.story.expect(
+            car_told([&](const truth& car) { return car.lamp == shown.lamp; },
+                     [&](const std::string& digits) {
+                         const auto byte = hex_byte(digits, 0);
+                         return byte && ((*byte & 0x80) != 0) == (shown.lamp == "ON");
+                     }),
+            TRUE_CODES, "lamp " + shown.lamp);
+    if (shown.count && !shown.lamp.empty())
+        app_.story.expect(count_was_sent(*shown.count), TRUE_CODES,
+                          "count " + std::to_string(*shown.count));
 }
 
 // The request for the parameter that was outstanding last has an answer that holds the text. Text
@@ -204,7 +261,7 @@ void promises::samples_are_true(actions& screen) {
                 return; // to come
             if (text == "-1" || text == "~")
                 continue;
-            const std::string shown = screen.toolies.translateResponse(text);
+            const std::string shown = screen.toolies.translateResponse(answer_in(text));
             if (!unusable(shown) && !sample_was_sent(screen, row, place, text))
                 app_.story.broken(TRUE_VALUES,
                                   screen.pids()[place] + ": " + text + " shown as " + shown);
@@ -233,9 +290,9 @@ void promises::cycle_announced(actions& screen) {
     if (record.failed)
         return;
     sample_rows& rows = screen.samples();
+    record.cycles.emplace_back();
     for (std::size_t place = 0; place < screen.pids().size(); ++place)
-        record.lines += (place == 0 ? "" : ",") + log_field(rows.text(rows.rows() - 2, place));
-    record.lines += '\n';
+        record.cycles.back().emplace_back(rows.text(rows.rows() - 2, place));
 }
 
 void promises::logs_are_complete(const std::string& folder) {
@@ -252,9 +309,9 @@ void promises::logs_are_complete(const std::string& folder) {
     }
     for (const auto& [path, record] : logs_) {
         const std::string text = file_text(path);
-        app_.story.expect(record.removed || text == record.lines, WHOLE_LOGS,
-                          path + " holds " + std::to_string(text.size()) + " bytes of " +
-                              std::to_string(record.lines.size()));
+        app_.story.expect(record.removed || log_tells(text, record.cycles), WHOLE_LOGS,
+                          path + " of " + std::to_string(record.cycles.size()) +
+                              " cycles: " + text);
     }
 }
 

@@ -45,7 +45,9 @@ class promises {
     void cycle_announced(actions& screen);
     void codes_are_true(readCodes& screen);
     bool code_was_sent(const std::string& code) const;
-    bool car_told(const std::function<bool(const truth&)>& fits) const;
+    bool car_told(const std::function<bool(const truth&)>& fits,
+                  const std::function<bool(const std::string& digits)>& reads) const;
+    bool count_was_sent(int count) const;
     void status_is_true(const codes_report& shown);
     void samples_are_true(actions& screen);
     bool sample_was_sent(actions& screen, std::size_t row, std::size_t place,
@@ -53,7 +55,7 @@ class promises {
     bool was_answered(const std::string& pid, const std::string& text) const;
 
     struct run_record {
-        std::string lines;
+        std::vector<std::vector<std::string>> cycles; // the replies as they were filed
         bool failed = false;
         bool removed = false;
     };

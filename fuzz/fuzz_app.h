@@ -1,0 +1,40 @@
+// The whole application without a window, a network or real time, for targets that read what a
+// running task is answered. One for all inputs.
+#pragma once
+
+#include "app_harness.h"
+
+#include <QApplication>
+
+class fuzz_app {
+  public:
+    explicit fuzz_app(const std::function<void(user_defaults&)>& prepare) : app(prepare) {}
+
+    // Nothing of an earlier input is left; the adapter is up.
+    void begin() {
+        app.loop.advance(std::chrono::seconds(10)); // nothing is owed any more
+        app.messages.shown.clear();
+        app.statuses.clear();
+        if (!app.wires.empty())
+            app.wire().written.clear();
+        connected_2_KS_interface = true;
+        g_retries = 0;
+    }
+    // Presses the button of a task; its first command has been sent then.
+    void press(const char* button) {
+        app.press(button);
+        if (!connected_2_WIFI_interface)
+            app.connect();
+        app.loop.settle();
+    }
+
+  private:
+    int argc_ = 1;
+    char name_[5] = "fuzz";
+    char* argv_[2] = {name_, nullptr};
+    bool offscreen_ = qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication qt_{argc_, argv_};
+
+  public:
+    app_harness app;
+};

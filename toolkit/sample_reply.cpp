@@ -1,0 +1,58 @@
+#include "sample_reply.h"
+
+#include "mac_toolies.h"
+#include "text.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace {
+
+constexpr std::size_t HEAD = 4;         // "41" and the parameter
+constexpr std::size_t WHOLE_FRAME = 14; // seven bytes follow the length of a CAN frame
+
+// Data bytes by PID, 00 to 5F, a row for each sixteen. Beyond, any number.
+constexpr std::string_view DATA_BYTES = "4422111111112111"
+                                        "2111222222221112"
+                                        "4222444444441111"
+                                        "1221444444442222"
+                                        "4422211111111224"
+                                        "4112222222111221";
+
+bool is_filling(std::string_view digits) {
+    const std::string_view byte = digits.substr(0, 2);
+    if (byte != "00" && byte != "55" && byte != "AA" && byte != "CC" && byte != "FF")
+        return false;
+    for (std::size_t at = 2; at < digits.size(); at += 2)
+        if (digits.substr(at, 2) != byte)
+            return false;
+    return true;
+}
+
+// Fuel trims: with four banks of cylinders a car tells of two at a time, and the first counts.
+bool may_tell_of_two_banks(unsigned number) {
+    return number >= 0x06 && number <= 0x09;
+}
+
+} // namespace
+
+bool answers_parameter(std::string_view reply, std::string_view pid) {
+    return reply.starts_with("41") &&
+           std::ranges::equal(slice(reply, 2, 2), pid, [](unsigned char a, unsigned char b) {
+               return std::toupper(a) == std::toupper(b);
+           });
+}
+
+std::string_view answer_in(std::string_view reply) {
+    if (!reply.starts_with("41") || reply.size() <= HEAD || reply.size() % 2 != 0 || !is_hex(reply))
+        return {};
+    const unsigned number = mac_toolies::convertStr2Byte(reply.substr(2, 2));
+    if (number >= DATA_BYTES.size())
+        return reply;
+    const std::size_t whole = HEAD + 2 * static_cast<std::size_t>(DATA_BYTES[number] - '0');
+    const bool fits = reply.size() == whole ||
+                      (reply.size() == whole + 2 && may_tell_of_two_banks(number)) ||
+                      (reply.size() == WHOLE_FRAME && whole < WHOLE_FRAME &&
+                       is_filling(reply.substr(whole)));
+    return fits ? reply.substr(0, whole) : std::string_view();
+}

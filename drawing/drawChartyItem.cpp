@@ -33,6 +33,13 @@ void drawChartyItem::set_pixel_scale(double pixels_a_unit) {
     draw_empty_background();
 }
 
+void drawChartyItem::set_stretch(double times) {
+    if (times == stretch_ || !(times > 0))
+        return;
+    stretch_ = times;
+    readout_name_ = {};
+}
+
 void drawChartyItem::draw_empty_background() {
     image_ = empty_image(chartySize, pixel_scale_);
 }

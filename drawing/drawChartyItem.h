@@ -41,6 +41,9 @@ class drawChartyItem {
     void setDrawingSizes(QSizeF size);
     void resizeImage(QSizeF size) { setDrawingSizes(size); }
     void set_pixel_scale(double pixels_a_unit);
+    // How much wider than high the picture is shown than it is drawn: a thumbnail's letters are
+    // drawn as much narrower.
+    void set_stretch(double times);
     void draw_empty_background();
 
     void use_this_pids(std::vector<std::string> pids);
@@ -150,6 +153,7 @@ class drawChartyItem {
     chart_area drawSizes;
     QSizeF chartySize{1, 1};
     double pixel_scale_ = 1;
+    double stretch_ = 1;
     double last_OBD_val = 0;
     int r_prev_x = 0, r_prev_y = 0;
     bool r_prev_is_gap = true; // no segment leads on from there

@@ -27,7 +27,22 @@ struct drawChartyItem::readout_look {
     double value_alpha;
     int name_pixels, smallest_name_pixels;
     int segments;
+    double squeeze = 1; // of the letters' width
 };
+
+namespace {
+
+// Condensed letters, which get their proportions back where the picture is stretched.
+void squeezed_text(canvas& target, double squeeze, double room, int smallest, double x, double y,
+                   const QString& text, const QFont& font, const QColor& ink) {
+    QPainter& painter = target.painter();
+    painter.save();
+    painter.scale(squeeze, 1);
+    target.text_within(room / squeeze, smallest, x / squeeze, y, text, font, ink);
+    painter.restore();
+}
+
+} // namespace
 
 void drawChartyItem::display_value(canvas& target) {
     const int width = static_cast<int>(target.width());
@@ -43,7 +58,7 @@ void drawChartyItem::display_value_4_thumbnail(canvas& target) {
     const double height = target.height();
     target.fill(QRectF(0, height / 3, width, height), SHADE);
     paint_readout(target, width / 3, height / 3 + height * 0.25,
-                  {70, 18, 0.9, 20, 16, THUMBNAIL_SEGMENTS});
+                  {70, 18, 0.9, 20, 16, THUMBNAIL_SEGMENTS, 1 / stretch_});
 }
 
 void drawChartyItem::paint_readout(canvas& target, double x, double y, const readout_look& look) {
@@ -51,13 +66,13 @@ void drawChartyItem::paint_readout(canvas& target, double x, double y, const rea
     if (cur_item_2_PLOT < 0 || k >= cur_sample_set.size() || k >= names_.size())
         return;
     const double room = target.width() - x - RIGHT_MARGIN;
-    target.text_within(room, look.smallest_value_pixels, x, y, qstring(cur_sample_set[k][1]),
-                       image_font(QStringLiteral("Arial"), look.value_pixels),
-                       white(look.value_alpha));
+    squeezed_text(target, look.squeeze, room, look.smallest_value_pixels, x, y,
+                  qstring(cur_sample_set[k][1]),
+                  image_font(QStringLiteral("Arial"), look.value_pixels), white(look.value_alpha));
     const double name_y = y - NAME_BELOW_VALUE;
     target.put(readout_name_, names_[k], [&](canvas& alone) {
-        alone.text_within(room, look.smallest_name_pixels, x, name_y, qstring(names_[k]),
-                          system_font(look.name_pixels), white(0.8));
+        squeezed_text(alone, look.squeeze, room, look.smallest_name_pixels, x, name_y,
+                      qstring(names_[k]), system_font(look.name_pixels), white(0.8));
     });
     paint_level_bar(target, look.segments);
 }

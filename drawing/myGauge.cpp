@@ -9,6 +9,7 @@
 
 #include <QFile>
 #include <QFontMetricsF>
+#include <QPainterPath>
 #include <QSvgRenderer>
 
 #include <algorithm>
@@ -24,6 +25,8 @@ constexpr int LABEL_PIXELS = 30;
 constexpr int SMALLEST_LABEL_PIXELS = 20;
 constexpr int NAME_PIXELS = 20;
 constexpr double LABEL_GAP = 3;
+constexpr double NAME_EDGE = 3;
+const QColor FOOT = colour(7.0 / 255, 8.0 / 255, 9.0 / 255); // of the empty dial
 const QColor NAME_INK = colour(0.3450980484485626, 0.9803921580314636, 0.5098039507865906, 1.0);
 const QColor NEEDLE_RIGHT = colour(1.0, 0.125490203499794, 0, 0.9);
 const QColor NEEDLE_LEFT = colour(1.0, 0.1882352977991104, 0, 0.9);
@@ -62,15 +65,26 @@ QFont fitting_label_font(const std::array<std::string, 11>& labels) {
     return label_font(SMALLEST_LABEL_PIXELS);
 }
 
+// What stands behind the letters is parted from them.
+void paint_edge(canvas& target, double x, double y, const QString& text, const QFont& font,
+                const QColor& edge) {
+    QPainterPath letters;
+    letters.addText(target.flipped(x, y + QFontMetricsF(font).descent()), font, text);
+    target.painter().strokePath(
+        letters, QPen(edge, 2 * NAME_EDGE, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+}
+
 // Centred on `x`; letters are condensed rather than run into what stands beside.
 void condensed_text(canvas& target, double room, double x, double y, const QString& text,
-                    const QFont& font, const QColor& ink) {
+                    const QFont& font, const QColor& ink, const QColor& edge = Qt::transparent) {
     const double wide = text_width(font, text);
     const double squeeze = wide > room && room > 0 ? room / wide : 1;
     QPainter& painter = target.painter();
     painter.save();
     painter.translate(x, 0);
     painter.scale(squeeze, 1);
+    if (edge.alpha() > 0)
+        paint_edge(target, -wide / 2, y, text, font, edge);
     target.text(-wide / 2, y, text, font, ink);
     painter.restore();
 }
@@ -145,7 +159,7 @@ void myGauge::work_out_base_gauge() {
     paint_units(target, 2 * std::min(middle - left, right - middle));
     condensed_text(target, gaugeSize.width() - 2 * DIAL_EDGE, middle, 0,
                    qstring(toolies.get_pid_name(cur_PID, false)),
-                   image_font(QStringLiteral("Helvetica"), NAME_PIXELS, true), NAME_INK);
+                   image_font(QStringLiteral("Helvetica"), NAME_PIXELS, true), NAME_INK, FOOT);
 }
 
 // Between the first and the last label there is `room` for the units.

@@ -142,15 +142,18 @@ void open_export(stage& on) {
 void write_logs(int cycles) {
     const std::filesystem::path folder = mac_toolies::sharedManager().log_folder();
     std::filesystem::create_directories(folder);
-    int age = 0;
-    for (const char* name : {"log_Apr_24_2025-1030_07.gol", "fuel_Apr_24_2025-0912_44.txt",
-                             "o2_Apr_23_2025-1805_30.txt", "boost_Apr_21_2025-0758_01.txt"}) {
+    using namespace std::chrono;
+    constexpr sys_days TODAY = 2025y / 4 / 24;
+    const std::pair<const char*, sys_seconds> logs[] = {
+        {"log_Apr_24_2025-1030_07.gol", TODAY + 10h + 30min},
+        {"fuel_Apr_24_2025-0912_44.txt", TODAY + 9h + 12min},
+        {"o2_Apr_23_2025-1805_30.txt", TODAY - days(1) + 18h + 5min},
+        {"boost_Apr_21_2025-0758_01.txt", TODAY - days(3) + 7h + 58min}};
+    for (const auto& [name, written] : logs) {
         std::ofstream log(folder / name);
         for (int i = 0; i < cycles; ++i)
             log << "410C0FA0,410D64\n";
         log.close();
-        using namespace std::chrono;
-        const sys_seconds written = sys_days(2025y / 4 / 24) + 10h + 30min - hours(30 * age++);
         std::filesystem::last_write_time(folder / name, file_clock::from_sys(written));
     }
 }

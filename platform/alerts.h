@@ -15,6 +15,7 @@ struct alert_request {
     std::string title{};                    // window title; empty: the program's name
     std::vector<std::string> buttons{"OK"}; // the first is the default
     alert_style style = alert_style::warning;
+    bool is_help = false; // drawn as help, whatever its style
 };
 
 class alerts {

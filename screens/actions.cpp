@@ -114,7 +114,6 @@ void actions::build_views() {
     cur_thumbs_selected.clear();
     gauge_1_idx = 0;
     gauge_2_idx = -1;
-    view_->show_second_dial(false);
     pictures_.rebuild(_pid_logitems_list);
     set_chart_title(ALL_POINTS);
     pictures_.set_points_shown(-1);
@@ -248,8 +247,8 @@ void actions::choose_second_dial(const std::set<int>& selected, std::size_t sele
         (selected_before >= 3 && selected.size() == 2)) {
         if (selected.contains(shown_before))
             cur_pid_showing = shown_before;
-        const auto other = std::ranges::find_if(
-            selected, [this](int tag) { return tag != cur_pid_showing; });
+        const auto other =
+            std::ranges::find_if(selected, [this](int tag) { return tag != cur_pid_showing; });
         gauge_2_idx = *other;
         view_->show_second_dial(true);
         pictures_.put_dial_back(1, _pid_logitems_list[static_cast<std::size_t>(gauge_2_idx)]);

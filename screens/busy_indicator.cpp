@@ -15,9 +15,10 @@ busy_indicator::busy_indicator(QWidget* parent, std::function<bool()> awaiting)
     setSizePolicy(policy);
     timer_.setInterval(FRAME_MS);
     connect(&timer_, &QTimer::timeout, this, [this] {
-        if (!awaiting_())
+        if (awaiting_())
+            phase_ = (phase_ + 1) % DOTS;
+        else if (!shown_turning_)
             return;
-        phase_ = (phase_ + 1) % DOTS;
         update();
     });
 }
@@ -29,9 +30,11 @@ void busy_indicator::paintEvent(QPaintEvent*) {
     const double side = std::min(width(), height());
     painter.translate(width() / 2.0, height() / 2.0);
     const double radius = side * 0.09;
+    shown_turning_ = awaiting_();
     for (int i = 0; i < DOTS; ++i) {
         QColor color = palette().color(QPalette::WindowText);
-        color.setAlphaF(0.15f + 0.6f * static_cast<float>((i - phase_ + DOTS) % DOTS) / (DOTS - 1));
+        const float bright = static_cast<float>((i - phase_ + DOTS) % DOTS) / (DOTS - 1);
+        color.setAlphaF(shown_turning_ ? 0.15f + 0.6f * bright : 0.15f);
         painter.setBrush(color);
         painter.save();
         painter.rotate(360.0 * i / DOTS);

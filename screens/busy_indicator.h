@@ -1,5 +1,5 @@
 // The indeterminate busy indicator ("waity"): a ring of dots. Its screen decides when it is
-// visible; it turns only while something is awaited.
+// visible; it turns only while something is awaited, else it is a ring of equal dots.
 #pragma once
 
 #include <QTimer>
@@ -22,4 +22,5 @@ class busy_indicator final : public QWidget {
     std::function<bool()> awaiting_;
     QTimer timer_;
     int phase_ = 0;
+    bool shown_turning_ = false;
 };

@@ -61,10 +61,12 @@ class drawn_icon_engine final : public QIconEngine {
             return QPixmap::fromImage(image);
         QPainter painter(&image);
         painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        const QPalette palette = QGuiApplication::palette();
         const auto role =
             mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
-        painter.fillRect(image.rect(), QGuiApplication::palette().color(group, role));
+        painter.fillRect(image.rect(), mode == QIcon::Disabled
+                                           ? unavailable_text(palette)
+                                           : palette.color(QPalette::Active, role));
         painter.end();
         return QPixmap::fromImage(image);
     }
@@ -114,6 +116,16 @@ QIcon drawn_icon(std::string_view name) {
     const QString path =
         QStringLiteral(":/kestrom/icons/") + display_text(name) + QStringLiteral(".svg");
     return QFile::exists(path) ? QIcon(new drawn_icon_engine(path, true)) : QIcon();
+}
+
+QColor unavailable_text(const QPalette& palette) {
+    constexpr float SHARE = 0.45f;
+    const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
+    const QColor ground = palette.color(QPalette::Active, QPalette::Window);
+    const auto between = [](float a, float b) { return SHARE * a + (1 - SHARE) * b; };
+    return QColor::fromRgbF(between(text.redF(), ground.redF()),
+                            between(text.greenF(), ground.greenF()),
+                            between(text.blueF(), ground.blueF()));
 }
 
 QIcon picture_icon(const QString& path) {

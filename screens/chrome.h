@@ -22,6 +22,8 @@ inline constexpr int GRID = 8;
 // The drawing icons/NAME.svg in the colour of the desktop's text, also after a change of its
 // scheme; sharp at every scale.
 QIcon drawn_icon(std::string_view name);
+// The colour of a text that is not available, still legible.
+QColor unavailable_text(const QPalette& palette);
 // The drawing of this path in its own colours.
 QIcon picture_icon(const QString& path);
 

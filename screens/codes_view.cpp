@@ -40,7 +40,7 @@ QString readiness_mark(const std::string& state) {
         return QStringLiteral("\u2713  OK");
     if (state == "X")
         return QStringLiteral("\u2717  X");
-    return QStringLiteral("\u2013  N/A");
+    return QStringLiteral("\u2212  N/A");
 }
 
 } // namespace
@@ -65,6 +65,7 @@ void codes_view::build_buttons(QHBoxLayout* row) {
                     std::function<void()>& call) {
         auto* button = new QPushButton(drawn_icon(icon), ui_text(delegate_, key), root());
         button->setObjectName(QLatin1String(name));
+        button->setMinimumHeight(4 * GRID);
         QObject::connect(button, &QPushButton::clicked, root(), [&call] { call(); });
         row->addWidget(button);
         return button;
@@ -127,7 +128,7 @@ void codes_view::build_tables(QVBoxLayout* column) {
     codesReadTableView_->setAccessibleName(ui_text(delegate_, "ui_codes_table"));
     fit_column(codesReadTableView_, 0, QStringLiteral("U0100"));
     codesReadTableView_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
-    new empty_hint(codesReadTableView_, ui_text(delegate_, "ui_codes_empty"));
+    no_codes_ = new empty_hint(codesReadTableView_, QString());
 
     readinessCodesTableView_ = make_table("readinessCodesTableView", split);
     readiness_model_ = new rows_model(
@@ -144,7 +145,7 @@ void codes_view::build_tables(QVBoxLayout* column) {
         readinessCodesTableView_);
     readinessCodesTableView_->setModel(readiness_model_);
     readinessCodesTableView_->setAccessibleName(ui_text(delegate_, "ui_readiness_table"));
-    fit_column(readinessCodesTableView_, 0, QStringLiteral("\u2013  N/A"));
+    fit_column(readinessCodesTableView_, 0, QStringLiteral("\u2212  N/A"));
     readinessCodesTableView_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     fit_column(readinessCodesTableView_, 2, QStringLiteral("Non-Continous"));
     make_room_for_monitors();
@@ -188,6 +189,7 @@ void codes_view::set_lamp(const std::string& text) {
 
 void codes_view::set_count(const std::string& text) {
     count_card_->set_value(text);
+    no_codes_->setText(ui_text(delegate_, text == "0" ? "ui_codes_none" : "ui_codes_empty"));
 }
 
 void codes_view::set_read_on(const std::string& text) {
@@ -210,6 +212,7 @@ void codes_view::reset_labels() {
     read_on_.clear();
     lamp_card_->set_resting("MIL Lamp:");
     count_card_->set_resting("No of DTC Codes:");
+    no_codes_->setText(ui_text(delegate_, "ui_codes_empty"));
     read_on_card_->set_resting("Read on");
     extra_card_->set_resting("");
 }

@@ -59,6 +59,8 @@ class codes_view {
     QTableView* codesReadTableView_ = nullptr;
     QTableView* readinessCodesTableView_ = nullptr;
 
+    empty_hint* no_codes_ = nullptr;
+
     fact_card* lamp_card_ = nullptr;
     fact_card* count_card_ = nullptr;
     fact_card* read_on_card_ = nullptr;

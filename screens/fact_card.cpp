@@ -63,7 +63,7 @@ fact_card::fact_card(const QString& value_name, const QString& caption, QWidget*
     value_row->addWidget(lamp_, 0, Qt::AlignTop);
     value_row->addWidget(value_, 1, Qt::AlignTop);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(GRID, GRID / 2, GRID, GRID / 2);
+    column->setContentsMargins(GRID, GRID, GRID, GRID / 2);
     column->setSpacing(GRID / 2);
     column->addWidget(caption_);
     column->addLayout(value_row);

@@ -1,31 +1,31 @@
 // Lays out the large chart and the dials: the dials beside the chart in a wide panel, below it in a
 // narrow one, all as large as they fit. There is always room for two dials: the chart keeps its
-// size when the second one is chosen.
+// size when the second one is chosen; until then a hint may stand in that place.
 #pragma once
 
 #include <QSizeF>
 #include <QWidget>
 
+#include <array>
 #include <functional>
-#include <vector>
+
+inline constexpr int DIAL_PLACES = 2;
 
 struct panel_layout {
     QRect chart;
-    std::vector<QRect> dials;
+    std::array<QRect, DIAL_PLACES> dials;
 };
 
-// Where `dials` dials of that size in units and the chart go; each rectangle has the aspect of its
+// Where the chart and the dials of these sizes in units go; each rectangle has the aspect of its
 // picture.
-panel_layout lay_out_panel(QSize room, QSizeF chart, QSizeF dial, int dials, int gap);
+panel_layout lay_out_panel(QSize room, QSizeF chart, QSizeF dial, int gap);
 
 class instrument_panel final : public QWidget {
   public:
     instrument_panel(QSizeF chart_units, QSizeF dial_units, QWidget* parent);
 
-    // Children of this panel. A hidden dial takes no room.
-    void set_instruments(QWidget* chart, std::vector<QWidget*> dials);
-    // Lays out again after a dial was shown or hidden.
-    void rearrange();
+    // Children of this panel; the hint has the last dial's place.
+    void set_instruments(QWidget* chart, std::array<QWidget*, DIAL_PLACES> dials, QWidget* hint);
     std::function<void()> rearranged;
 
     QSize sizeHint() const override { return {640, 320}; }
@@ -35,7 +35,10 @@ class instrument_panel final : public QWidget {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    void rearrange();
+
     QSizeF chart_units_, dial_units_;
     QWidget* chart_ = nullptr;
-    std::vector<QWidget*> dials_;
+    std::array<QWidget*, DIAL_PLACES> dials_{};
+    QWidget* hint_ = nullptr;
 };

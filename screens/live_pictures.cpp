@@ -14,8 +14,9 @@ constexpr QSizeF THUMBNAIL_SIZE(200, 200);
 } // namespace
 
 live_pictures::live_pictures(const mac_toolies& toolies, const bundle& resources)
-    : doors_(toolies.doors()), cur_zoom_chart(toolies.doors()),
-      dials_{{myGauge(resources, toolies)}, {myGauge(resources, toolies)}} {
+    : doors_(toolies.doors()),
+      cur_zoom_chart(toolies.doors()), dials_{{myGauge(resources, toolies)},
+                                              {myGauge(resources, toolies)}} {
     cur_zoom_chart.initWitdim(chart_size(), "main");
     cur_zoom_chart.setThumbnail(false);
 }
@@ -135,8 +136,8 @@ void live_pictures::draw(live_view& view, const sample_rows& rows, const sample_
     thumbnail_strip& strip = view.thumbiesMtrx();
     // As the longer side of a cell needs it; the other is shrunk to fit.
     const QSizeF cell = strip.cell_size() * strip.devicePixelRatioF();
-    const double thumbnail_scale = std::max(cell.width() / THUMBNAIL_SIZE.width(),
-                                            cell.height() / THUMBNAIL_SIZE.height());
+    const double thumbnail_scale =
+        std::max(cell.width() / THUMBNAIL_SIZE.width(), cell.height() / THUMBNAIL_SIZE.height());
     for (std::size_t i = 0; i < images_4_top.size(); ++i) {
         thumbnail& at = images_4_top[i];
         if (!(at.changed || thumbnail_scale != thumbnail_scale_))
@@ -144,6 +145,7 @@ void live_pictures::draw(live_view& view, const sample_rows& rows, const sample_
         at.changed = !strip.in_sight(static_cast<int>(i));
         if (at.changed)
             continue; // once it comes into sight
+        at.chart.set_stretch(cell.width() / cell.height());
         paint(at.chart, thumbnail_scale, "", at.realtime_labels);
         strip.set_picture(static_cast<int>(i), at.chart.imageRepresentation());
     }

@@ -23,7 +23,7 @@
 namespace {
 
 constexpr int ZOOM_STEPS = 1000;
-constexpr int BUTTON_SIZE = 5 * GRID;
+constexpr int BUTTON_SIZE = 6 * GRID;
 constexpr double CELL_SHARE = 0.25; // of the large chart's width
 constexpr int CELL_GAP = 2;
 constexpr int SMALLEST_CELL = 83;
@@ -46,6 +46,14 @@ class warning_label final : public QLabel {
 
   private:
     static constexpr int BAR = 4;
+};
+
+// As large as its round picture, which ends where the other rows do.
+class round_button final : public QToolButton {
+  public:
+    using QToolButton::QToolButton;
+    QSize sizeHint() const override { return iconSize(); }
+    QSize minimumSizeHint() const override { return iconSize(); }
 };
 
 void keep_room(QWidget* widget) {
@@ -85,7 +93,9 @@ live_view::live_view(Ks_lite_delegate& delegate, QSizeF chart_units, QSizeF dial
         if (on_resized)
             on_resized();
     };
-    panel_->set_instruments(chartFull_, {gauge_uno_, gauge_dos_});
+    dial_hint_ = make_hint("dialHint", "ui_live_press_start", panel_);
+    empty_strip_ = make_hint("emptyStrip", "ui_live_empty", panel_);
+    panel_->set_instruments(chartFull_, {gauge_uno_, gauge_dos_}, dial_hint_);
     instruments->addWidget(panel_, 1);
 }
 
@@ -104,7 +114,8 @@ void live_view::build_controls(QHBoxLayout* row) {
     charty_zoomer_->setAccessibleName(ui_text(delegate_, "ui_live_zoom_hint"));
     zoom_label->setBuddy(charty_zoomer_);
     zoom_label->setObjectName(QStringLiteral("zoomLabel"));
-    for (QWidget* widget : {static_cast<QWidget*>(zoom_label), static_cast<QWidget*>(charty_zoomer_)}) {
+    for (QWidget* widget :
+         {static_cast<QWidget*>(zoom_label), static_cast<QWidget*>(charty_zoomer_)}) {
         keep_room(widget);
         widget->hide();
         row->addWidget(widget);
@@ -137,11 +148,11 @@ void live_view::build_controls(QHBoxLayout* row) {
     row->addWidget(runSelectorCombo_);
     row->addSpacing(GRID);
 
-    startStopBtn_ = new QToolButton(root());
+    startStopBtn_ = new round_button(root());
     startStopBtn_->setObjectName(QStringLiteral("startStopBtn"));
     startStopBtn_->setAutoRaise(true);
     startStopBtn_->setIconSize({BUTTON_SIZE, BUTTON_SIZE});
-    startStopBtn_->setFixedSize(BUTTON_SIZE + GRID, BUTTON_SIZE + GRID);
+    startStopBtn_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     startStopBtn_->setFocusPolicy(Qt::StrongFocus);
     startStopBtn_->setShortcut(Qt::CTRL | Qt::Key_R);
     QObject::connect(startStopBtn_, &QToolButton::clicked, root(), [this] { on_start_stop(); });
@@ -172,21 +183,25 @@ void live_view::build_strip(QVBoxLayout* column) {
     xtopActionCharts_->setFixedHeight(
         THUMBNAIL_HEIGHT + xtopActionCharts_->horizontalScrollBar()->sizeHint().height());
     column->addWidget(xtopActionCharts_);
+}
 
-    empty_strip_ = new QLabel(ui_text(delegate_, "ui_live_empty"), xtopActionCharts_->viewport());
-    empty_strip_->setObjectName(QStringLiteral("emptyStrip"));
-    empty_strip_->setTextFormat(Qt::PlainText);
-    empty_strip_->setForegroundRole(QPalette::PlaceholderText);
-    empty_strip_->setWordWrap(true);
-    empty_strip_->setMargin(GRID);
-    empty_strip_->hide();
+// What a place that is empty would hold.
+QLabel* live_view::make_hint(const char* name, std::string_view key, QWidget* parent) const {
+    auto* hint = new QLabel(ui_text(delegate_, key), parent);
+    hint->setObjectName(QLatin1String(name));
+    hint->setTextFormat(Qt::PlainText);
+    hint->setAlignment(Qt::AlignCenter);
+    hint->setForegroundRole(QPalette::PlaceholderText);
+    hint->setWordWrap(true);
+    hint->hide();
+    return hint;
 }
 
 // A quarter of the large chart's width each, so that the first four stand above it.
 void live_view::fit_thumbnails() {
     const int width = static_cast<int>(chartFull_->width() * CELL_SHARE - CELL_GAP);
     thumbiesMtrx_->set_cell_size({std::max(width, SMALLEST_CELL), THUMBNAIL_HEIGHT});
-    empty_strip_->resize(xtopActionCharts_->viewport()->size());
+    empty_strip_->resize(panel_->size());
 }
 
 void live_view::show_running(bool running) {
@@ -196,6 +211,8 @@ void live_view::show_running(bool running) {
     const QString what = ui_text(delegate_, running ? "ui_live_stop" : "ui_live_start");
     startStopBtn_->setToolTip(what);
     startStopBtn_->setAccessibleName(what);
+    if (running) // what to do next
+        dial_hint_->setText(ui_text(delegate_, "ui_live_second_dial"));
     statusLbl_->set_selectable(!running); // replaced ten times a second
 }
 
@@ -214,10 +231,8 @@ void live_view::reset_zoom() {
 }
 
 void live_view::show_second_dial(bool visible) {
-    if (gauge_dos_->isHidden() != visible)
-        return;
     gauge_dos_->setVisible(visible);
-    panel_->rearrange();
+    dial_hint_->setVisible(!visible && thumbiesMtrx_->cells() > 1);
 }
 
 void live_view::show_next_sensors(bool visible) {
@@ -230,13 +245,16 @@ void live_view::select_run(int index) {
 
 void live_view::set_thumbnails(const std::vector<QString>& names) {
     thumbiesMtrx_->renew(names);
+    if (names.empty()) // what was shown before belongs to another run
+        for (picture_view* view : {chartFull_, gauge_uno_})
+            view->set_image({});
     empty_strip_->setVisible(names.empty());
+    show_second_dial(false);
     fit_thumbnails();
 }
 
 void live_view::scroll_to_thumbnail(int index) {
-    xtopActionCharts_->horizontalScrollBar()->setValue(index *
-                                                       thumbiesMtrx_->cell_size().width());
+    xtopActionCharts_->horizontalScrollBar()->setValue(index * thumbiesMtrx_->cell_size().width());
 }
 
 void live_view::show_log_mark(const std::string& text) {

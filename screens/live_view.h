@@ -62,6 +62,7 @@ class live_view {
     void build_controls(QHBoxLayout* row);
     void build_log_mark(QVBoxLayout* column);
     void build_strip(QVBoxLayout* column);
+    QLabel* make_hint(const char* name, std::string_view key, QWidget* parent) const;
     void fit_thumbnails();
 
     Ks_lite_delegate& delegate_;
@@ -80,4 +81,5 @@ class live_view {
     picture_view* chartFull_ = nullptr;
     picture_view* gauge_uno_ = nullptr;
     picture_view* gauge_dos_ = nullptr;
+    QLabel* dial_hint_ = nullptr; // in the second dial's place
 };

@@ -42,6 +42,9 @@ class check_painter final : public QStyledItemDelegate {
                                             ground.widget);
         QRectF box(0, 0, CHECK_SIDE, CHECK_SIDE);
         box.moveCenter(QRectF(option.rect).center());
+        const int margin =
+            ground.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &ground) + 1;
+        box.moveLeft(option.rect.left() + GRID / 2 + margin); // where the heading's text begins
         const bool selected = index.data().toString() == QLatin1String("YES");
         (selected ? on_ : off_).render(painter, box);
     }

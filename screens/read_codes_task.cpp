@@ -54,21 +54,42 @@ std::string last_reply_with(std::string_view marker, const std::string& replies)
     return found;
 }
 
-// Without the lines that the adapter marks as damaged ("<DATA ERROR"). On the older buses also
-// without those that are longer than a message, since another answer has run into them, and without
-// the rest of a code whose other digits are lost.
-std::string trustworthy_lines(std::string_view reply, bool is_can) {
+// Digits of a CAN answer in one frame with the codes that it counts.
+std::size_t counted_digits(std::string_view line) {
+    constexpr std::size_t HEAD = 4, CODE = 4;
+    return HEAD + CODE * mac_toolies::convertStr2Byte(slice(line, 2, 2));
+}
+
+bool holds_its_codes(std::string_view line) {
+    return line.size() >= counted_digits(line) && line.size() % 2 == 0;
+}
+
+// On the older buses: without the rest of a code whose other digits are lost; empty for a line that
+// is longer than a message, since another answer has run into it, and for a shorter one that is
+// just what CAN would send, since then the bus is in doubt.
+std::string whole_codes(const std::string& line) {
     constexpr std::size_t SHORTEST_MESSAGE = 6, LONGEST_MESSAGE = 14; // digits
+    if (line.size() < SHORTEST_MESSAGE || line.size() > LONGEST_MESSAGE ||
+        (line.size() < LONGEST_MESSAGE && line.size() == counted_digits(line)))
+        return {};
+    return line.substr(0, line.size() - (line.size() - 2) % 4);
+}
+
+// Without the lines that the adapter marks as damaged ("<DATA ERROR"), that have lost a part or
+// that another answer has run into.
+std::string trustworthy_lines(std::string_view reply, bool is_can) {
     std::string left;
     for (const std::string_view line : split(reply, "\r")) {
-        std::string digits = without(without(line, "\n"), ">");
-        if (!is_can && digits.starts_with("43")) {
-            if (digits.size() < SHORTEST_MESSAGE || digits.size() > LONGEST_MESSAGE)
+        std::string digits = without(line, "\n>");
+        if (contains(line, "<"))
+            continue;
+        if (digits.starts_with("43")) {
+            if (!is_can)
+                digits = whole_codes(digits);
+            else if (!holds_its_codes(digits))
                 continue;
-            digits.resize(digits.size() - (digits.size() - 2) % 4);
         }
-        if (!contains(line, "<"))
-            left.append(digits).append("\r");
+        left.append(digits).append("\r");
     }
     return left;
 }

@@ -10,7 +10,7 @@
 namespace {
 
 constexpr std::size_t CODE_DIGITS = 4;
-constexpr std::size_t LONGEST_FRAME = 14; // digits of a numbered frame
+constexpr std::size_t FIRST_FRAME = 12, LONGEST_FRAME = 14; // digits of a numbered frame
 
 // One control unit's answer: a line of its own, or a length line and the numbered frames that
 // followed it (ISO 15765-2, as the adapter prints it: "00A", "0:430401330220", "1:03000420000000").
@@ -67,8 +67,13 @@ class answer_gatherer {
             return;
         }
         unit_answer& answer = answers[receiver];
+        // A byte that is missing would shift the codes behind it.
+        const bool last = answer.bytes_received + digits / 2 >= answer.bytes_announced;
+        if (number == 0 && answer.bytes_received == 0 ? digits != FIRST_FRAME
+                                                      : digits != LONGEST_FRAME && !last)
+            return;
         answer.text.append("\r").append(frame);
-        answer.bytes_received += (frame.size() - 2) / 2;
+        answer.bytes_received += digits / 2;
         if (answer.bytes_received < answer.bytes_announced)
             awaiting_[(number + 1) % awaiting_.size()].insert(receiver);
     }

@@ -44,7 +44,7 @@ void print_json(const std::vector<bluetooth_entry>& devices, std::ostream& out) 
 }
 
 void print_text(const std::vector<bluetooth_entry>& devices, std::ostream& out) {
-    constexpr const char* OFFERS[] = {"not asked yet", "yes", "no"};
+    constexpr const char* OFFERS[] = {"not known yet", "yes", "no"};
     out << "Address            Paired  Signal    Serial port    Name\n";
     for (const bluetooth_entry& device : devices) {
         const std::string signal =

@@ -85,6 +85,7 @@ void Ks_lite_delegate::do_help_button() {
     alert_request help;
     help.message = "Kestrom - 1.11";
     help.informative = doors_.resources.localized("KS_help");
+    help.is_help = true;
     doors_.message_boxes.show(help);
 }
 

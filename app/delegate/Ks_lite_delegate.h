@@ -139,6 +139,7 @@ class Ks_lite_delegate {
     run_loop::timer_id release_ = 0;
 
     run_loop::timer_id obdTimeOutTimer = 0;
+    std::uint64_t given_up_ = 0; // commands sent before this changed time out no more
     run_loop::milliseconds reply_awaited_since_{0};
     std::uint64_t commands_sent_ = 0;
 

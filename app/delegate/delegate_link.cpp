@@ -7,7 +7,10 @@ void Ks_lite_delegate::sendOBDcmd(std::string_view command) {
     // The timer armed before is left running on purpose: if it belongs to a command that is still
     // unanswered, it will report that.
     obdTimeOutTimer =
-        doors_.loop.after(std::chrono::seconds(g_this_delta), [this] { obdTimedOutHandler(); });
+        doors_.loop.after(std::chrono::seconds(g_this_delta), [this, given_up = given_up_] {
+            if (given_up == given_up_)
+                obdTimedOutHandler();
+        });
     if (g_connect_with == KS_USE_BT)
         sendOBDcmd_BT(command);
     else
@@ -66,6 +69,7 @@ void Ks_lite_delegate::adapter_changed() {
 }
 
 void Ks_lite_delegate::give_up_on_reply() {
+    ++given_up_;
     doors_.loop.cancel(obdTimeOutTimer);
     obdTimeOutTimer = 0;
     reply_awaited_since_ = {};

@@ -84,7 +84,7 @@ void device_chooser::build_table() {
     model_->decorate = [this](int row, const QString& column, int role) -> QVariant {
         if (role == Qt::FontRole && column == QLatin1String("Address"))
             return QFontDatabase::systemFont(QFontDatabase::FixedFont);
-        if (role == Qt::ForegroundRole &&
+        if (role == Qt::ForegroundRole && table_->isEnabled() &&
             entries_[static_cast<std::size_t>(row)].serial_port == serial_port_offer::no)
             return palette().color(QPalette::PlaceholderText);
         if (role == Qt::ToolTipRole && column == QLatin1String("Name")) // may be cut short

@@ -50,8 +50,8 @@ export_window::~export_window() {
 }
 
 void export_window::build_list(QVBoxLayout* column) {
-    auto* heading = new QLabel(ui_text(delegate_, "ui_export_logs"), this);
-    column->addWidget(heading);
+    heading_ = new QLabel(ui_text(delegate_, "ui_export_logs"), this);
+    column->addWidget(heading_);
     logs_ = new QTableWidget(0, COLUMNS, this);
     logs_->setObjectName(QStringLiteral("logs"));
     logs_->setHorizontalHeaderLabels({ui_text(delegate_, "ui_export_log"),
@@ -65,13 +65,14 @@ void export_window::build_list(QVBoxLayout* column) {
     logs_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     logs_->horizontalHeader()->setSectionResizeMode(NAME, QHeaderView::Stretch);
     connect(logs_, &QTableWidget::itemDoubleClicked, this, [this] { start_export(); });
-    heading->setBuddy(logs_);
+    heading_->setBuddy(logs_);
     column->addWidget(logs_, 1);
 
     no_logs_ = new QLabel(ui_text(delegate_, "ui_export_none"), this);
     no_logs_->setTextFormat(Qt::PlainText);
     no_logs_->setWordWrap(true);
     no_logs_->setAlignment(Qt::AlignCenter);
+    no_logs_->setForegroundRole(QPalette::PlaceholderText);
     column->addWidget(no_logs_, 1);
 
     as_csv_ = new QRadioButton(ui_text(delegate_, "ui_export_csv"), this);
@@ -141,6 +142,7 @@ void export_window::list_logs() {
             row, WRITTEN,
             cell(local.toString(QDateTime::fromSecsSinceEpoch(log.written), QLocale::ShortFormat)));
     }
+    heading_->setVisible(!logs.empty());
     logs_->setVisible(!logs.empty());
     no_logs_->setVisible(logs.empty());
     for (QWidget* widget : {static_cast<QWidget*>(start_), static_cast<QWidget*>(as_csv_),

@@ -48,6 +48,7 @@ class export_window final : public QDialog {
     run_loop::timer_id next_piece_ = 0;
 
     QTableWidget* logs_ = nullptr;
+    QLabel* heading_ = nullptr;
     QLabel* no_logs_ = nullptr;
     QRadioButton* as_csv_ = nullptr;
     QRadioButton* as_txt_ = nullptr;

@@ -145,6 +145,7 @@ void main_window::shade_rail() {
     QPalette quiet = QGuiApplication::palette();
     const QColor window = quiet.color(QPalette::Window);
     quiet.setColor(QPalette::Window, window.darker(window.lightness() < 128 ? 120 : 106));
+    quiet.setColor(QPalette::Disabled, QPalette::ButtonText, unavailable_text(quiet));
     rail_->setPalette(quiet);
 }
 

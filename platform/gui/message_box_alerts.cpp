@@ -47,7 +47,7 @@ int message_box_alerts::run_modal(const alert_request& request) {
     widen_for(box, box.informativeText().size());
     constexpr QMessageBox::Icon ICONS[] = {QMessageBox::Warning, QMessageBox::Information,
                                            QMessageBox::Critical};
-    box.setIcon(ICONS[static_cast<int>(request.style)]);
+    box.setIcon(request.is_help ? QMessageBox::Question : ICONS[static_cast<int>(request.style)]);
     QList<QPushButton*> buttons;
     for (const std::string& text : request.buttons)
         buttons.append(box.addButton(display_text(text), QMessageBox::AcceptRole));

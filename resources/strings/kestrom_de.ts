@@ -169,6 +169,10 @@ Bitte prüfen Sie:
         <source></source>
         <translation>Nach „Codes lesen“ stehen hier die gespeicherten Fehlercodes.</translation>
     </message>
+    <message id="ui_codes_none">
+        <source></source>
+        <translation>Das Auto meldet keine gespeicherten Fehlercodes.</translation>
+    </message>
     <message id="ui_col_state">
         <source></source>
         <translation>Stand</translation>
@@ -195,7 +199,7 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_stall_hint">
         <source></source>
-        <translation>wartet auf den Adapter, %1 s</translation>
+        <translation>Wartet auf den Adapter, %1 s</translation>
     </message>
     <message id="ui_live_run">
         <source></source>
@@ -248,6 +252,14 @@ Bitte prüfen Sie:
     <message id="ui_live_empty">
         <source></source>
         <translation>Es sind keine Messwerte gewählt. In den Einstellungen lässt sich wählen, was eine Fahrt abfragt.</translation>
+    </message>
+    <message id="ui_live_press_start">
+        <source></source>
+        <translation>Der runde Knopf oben rechts startet die Aufzeichnung.</translation>
+    </message>
+    <message id="ui_live_second_dial">
+        <source></source>
+        <translation>Strg+Klick auf einen zweiten Messwert oben zeigt hier sein Rundinstrument.</translation>
     </message>
     <message id="ui_live_log_failed">
         <source></source>
@@ -471,7 +483,7 @@ Bitte prüfen Sie:
     </message>
     <message id="bt_when_connecting">
         <source></source>
-        <translation>noch nicht gefragt</translation>
+        <translation>noch nicht bekannt</translation>
     </message>
     <message id="bt_searching">
         <source></source>
@@ -569,7 +581,8 @@ Melden Sie sich am Rechner selbst an, oder bitten Sie die Verwaltung, Sie in die
         <source></source>
         <translation>Liest die Fahrzeugdiagnose (OBD-II) über einen Adapter vom Typ ELM327: Fehlercodes, Stand der Überwachung, Live-Daten, Aufzeichnungen und eine Konsole.
 
-Freie Software unter der MIT-Lizenz. © 2026 The Kestrom developers</translation>
+Freie Software unter der MIT-Lizenz.
+© 2026 The Kestrom developers</translation>
     </message>
     <message id="ui_about_close">
         <source></source>

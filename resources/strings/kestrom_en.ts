@@ -169,6 +169,10 @@ Please check:
         <source></source>
         <translation>Stored trouble codes appear here after “Read codes”.</translation>
     </message>
+    <message id="ui_codes_none">
+        <source></source>
+        <translation>The car reports no stored trouble codes.</translation>
+    </message>
     <message id="ui_col_state">
         <source></source>
         <translation>State</translation>
@@ -195,7 +199,7 @@ Please check:
     </message>
     <message id="ui_stall_hint">
         <source></source>
-        <translation>waiting for the adapter, %1 s</translation>
+        <translation>Waiting for the adapter, %1 s</translation>
     </message>
     <message id="ui_live_run">
         <source></source>
@@ -248,6 +252,14 @@ Please check:
     <message id="ui_live_empty">
         <source></source>
         <translation>No parameters are chosen. Choose what a run asks for in Preferences.</translation>
+    </message>
+    <message id="ui_live_press_start">
+        <source></source>
+        <translation>The round button at the top right starts the run.</translation>
+    </message>
+    <message id="ui_live_second_dial">
+        <source></source>
+        <translation>Ctrl+click on a second parameter above shows its dial here.</translation>
     </message>
     <message id="ui_live_log_failed">
         <source></source>
@@ -471,7 +483,7 @@ Please check:
     </message>
     <message id="bt_when_connecting">
         <source></source>
-        <translation>not asked yet</translation>
+        <translation>not known yet</translation>
     </message>
     <message id="bt_searching">
         <source></source>
@@ -569,7 +581,8 @@ Log in at the computer itself, or ask its administrator to add you to the group 
         <source></source>
         <translation>Reads a car's on-board diagnostics (OBD-II) through an ELM327-type adapter: trouble codes, readiness, live data, run logs and a console.
 
-Free software under the MIT licence. © 2026 The Kestrom developers</translation>
+Free software under the MIT licence.
+© 2026 The Kestrom developers</translation>
     </message>
     <message id="ui_about_close">
         <source></source>

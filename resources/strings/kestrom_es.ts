@@ -169,6 +169,10 @@ Compruebe que:
         <source></source>
         <translation>Los códigos de avería guardados aparecen aquí después de «Leer códigos».</translation>
     </message>
+    <message id="ui_codes_none">
+        <source></source>
+        <translation>El coche no comunica ningún código de avería guardado.</translation>
+    </message>
     <message id="ui_col_state">
         <source></source>
         <translation>Estado</translation>
@@ -195,15 +199,15 @@ Compruebe que:
     </message>
     <message id="ui_stall_hint">
         <source></source>
-        <translation>esperando al adaptador, %1 s</translation>
+        <translation>Esperando al adaptador, %1 s</translation>
     </message>
     <message id="ui_live_run">
         <source></source>
-        <translation>&amp;Medición:</translation>
+        <translation>&amp;Sesión:</translation>
     </message>
     <message id="ui_live_run_hint">
         <source></source>
-        <translation>Tipo de medición</translation>
+        <translation>Tipo de sesión</translation>
     </message>
     <message id="ui_live_zoom">
         <source></source>
@@ -215,15 +219,15 @@ Compruebe que:
     </message>
     <message id="ui_live_start">
         <source></source>
-        <translation>Iniciar la medición (Ctrl+R)</translation>
+        <translation>Iniciar la sesión (Ctrl+R)</translation>
     </message>
     <message id="ui_live_stop">
         <source></source>
-        <translation>Detener la medición (Ctrl+R)</translation>
+        <translation>Detener la sesión (Ctrl+R)</translation>
     </message>
     <message id="ui_live_next_sensors">
         <source></source>
-        <translation>&amp;Siguientes sondas</translation>
+        <translation>Siguientes so&amp;ndas</translation>
     </message>
     <message id="ui_live_strip">
         <source></source>
@@ -247,7 +251,15 @@ Compruebe que:
     </message>
     <message id="ui_live_empty">
         <source></source>
-        <translation>No hay parámetros elegidos. Elija en las preferencias lo que pide una medición.</translation>
+        <translation>No hay parámetros elegidos. Elija en las preferencias lo que pide una sesión.</translation>
+    </message>
+    <message id="ui_live_press_start">
+        <source></source>
+        <translation>El botón redondo de arriba a la derecha inicia la sesión.</translation>
+    </message>
+    <message id="ui_live_second_dial">
+        <source></source>
+        <translation>Ctrl+clic en un segundo parámetro de arriba muestra aquí su indicador.</translation>
     </message>
     <message id="ui_live_log_failed">
         <source></source>
@@ -471,7 +483,7 @@ Compruebe que:
     </message>
     <message id="bt_when_connecting">
         <source></source>
-        <translation>aún sin consultar</translation>
+        <translation>aún desconocido</translation>
     </message>
     <message id="bt_searching">
         <source></source>
@@ -569,7 +581,8 @@ Inicie la sesión en el propio equipo, o pida a su administrador que lo añada a
         <source></source>
         <translation>Lee el diagnóstico de a bordo (OBD-II) de un coche con un adaptador de tipo ELM327: códigos de avería, monitores, datos en vivo, registros y una consola.
 
-Software libre con licencia MIT. © 2026 The Kestrom developers</translation>
+Software libre con licencia MIT.
+© 2026 The Kestrom developers</translation>
     </message>
     <message id="ui_about_close">
         <source></source>

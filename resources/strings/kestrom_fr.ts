@@ -169,6 +169,10 @@ Veuillez vérifier que :
         <source></source>
         <translation>Les codes défaut enregistrés apparaissent ici après « Lire les codes ».</translation>
     </message>
+    <message id="ui_codes_none">
+        <source></source>
+        <translation>La voiture ne signale aucun code défaut enregistré.</translation>
+    </message>
     <message id="ui_col_state">
         <source></source>
         <translation>État</translation>
@@ -195,15 +199,15 @@ Veuillez vérifier que :
     </message>
     <message id="ui_stall_hint">
         <source></source>
-        <translation>en attente de l'adaptateur, %1 s</translation>
+        <translation>En attente de l'adaptateur, %1 s</translation>
     </message>
     <message id="ui_live_run">
         <source></source>
-        <translation>&amp;Mesure :</translation>
+        <translation>&amp;Session :</translation>
     </message>
     <message id="ui_live_run_hint">
         <source></source>
-        <translation>Type de mesure</translation>
+        <translation>Type de session</translation>
     </message>
     <message id="ui_live_zoom">
         <source></source>
@@ -215,15 +219,15 @@ Veuillez vérifier que :
     </message>
     <message id="ui_live_start">
         <source></source>
-        <translation>Démarrer la mesure (Ctrl+R)</translation>
+        <translation>Démarrer la session (Ctrl+R)</translation>
     </message>
     <message id="ui_live_stop">
         <source></source>
-        <translation>Arrêter la mesure (Ctrl+R)</translation>
+        <translation>Arrêter la session (Ctrl+R)</translation>
     </message>
     <message id="ui_live_next_sensors">
         <source></source>
-        <translation>Sondes &amp;suivantes</translation>
+        <translation>Sondes sui&amp;vantes</translation>
     </message>
     <message id="ui_live_strip">
         <source></source>
@@ -247,7 +251,15 @@ Veuillez vérifier que :
     </message>
     <message id="ui_live_empty">
         <source></source>
-        <translation>Aucun paramètre n'est choisi. Choisissez dans les préférences ce qu'une mesure demande.</translation>
+        <translation>Aucun paramètre n'est choisi. Choisissez dans les préférences ce qu'une session demande.</translation>
+    </message>
+    <message id="ui_live_press_start">
+        <source></source>
+        <translation>Le bouton rond en haut à droite démarre la session.</translation>
+    </message>
+    <message id="ui_live_second_dial">
+        <source></source>
+        <translation>Ctrl+clic sur un deuxième paramètre ci-dessus montre ici son cadran.</translation>
     </message>
     <message id="ui_live_log_failed">
         <source></source>
@@ -471,7 +483,7 @@ Veuillez vérifier que :
     </message>
     <message id="bt_when_connecting">
         <source></source>
-        <translation>pas encore demandé</translation>
+        <translation>pas encore connu</translation>
     </message>
     <message id="bt_searching">
         <source></source>
@@ -569,7 +581,8 @@ Ouvrez une session sur l'ordinateur même, ou demandez à son administrateur de 
         <source></source>
         <translation>Lit le diagnostic embarqué (OBD-II) d'une voiture par un adaptateur de type ELM327 : codes défaut, moniteurs, données en direct, journaux et une console.
 
-Logiciel libre sous licence MIT. © 2026 The Kestrom developers</translation>
+Logiciel libre sous licence MIT.
+© 2026 The Kestrom developers</translation>
     </message>
     <message id="ui_about_close">
         <source></source>

@@ -225,16 +225,16 @@ void promises::status_is_true(const codes_report& shown) {
                           "count " + std::to_string(*shown.count));
 }
 
-// The request for the parameter that was outstanding last has an answer that holds the text. Text
-// behind a prompt is kept for the next reply on purpose: an answer that came twice in one piece may
-// be that of the request before.
+// Since the parameter was asked for last an answer arrived that holds the text. Text behind a prompt
+// is kept for the next reply on purpose: an answer that came twice in one piece may be that of the
+// request before. An adapter that answers another request with this parameter's value has told it.
 bool promises::was_answered(const std::string& pid, const std::string& text) const {
     const answer_slot* asked = app_.book.asked("01" + pid, delivery_began_);
     if (asked)
         if (const answer_slot* const before = app_.book.asked("01" + pid, asked->written))
             asked = before;
     return asked && text.starts_with("41" + pid) &&
-           app_.book.any_answer("01" + pid, asked->written,
+           app_.book.any_answer("01", asked->written,
                                 [&](const answer_slot& slot) { return slot.holds(text); });
 }
 

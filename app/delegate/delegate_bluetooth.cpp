@@ -130,6 +130,7 @@ void Ks_lite_delegate::sendOBDcmd_BT(std::string_view command) {
     std::string bytes(command);
     bytes.push_back('\0');
     bytes.resize(bytes.size() & LONGEST_WRITE);
+    ++commands_sent_;
     reply_awaited_since_ = std::max(doors_.loop.now(), run_loop::milliseconds(1));
     if (mRFCOMMChannel)
         (void)mRFCOMMChannel->writeSync(bytes); // a failure shows as the reply time-out

@@ -88,8 +88,8 @@ void Ks_lite_delegate::stream_opened() {
     doors_.loop.cancel(deferred_call_);
     deferred_call_ = doors_.loop.after(FIRST_COMMAND_DELAY, [this, sent = commands_sent_] {
         deferred_call_ = 0;
-        if (commands_sent_ != sent)
-            return; // the screen has begun by itself
+        if (commands_sent_ != sent || g_connect_with == KS_USE_BT)
+            return; // the screen has begun by itself, or over Bluetooth
         const std::string message = "Connected!  Querying ...";
         l_work_current_task(&message);
     });

@@ -89,6 +89,16 @@ TEST_F(link_over_tcp, the_deferred_call_does_nothing_when_a_command_went_out_bef
     EXPECT_EQ(app.sent(), "");
 }
 
+TEST_F(link_over_tcp, the_deferred_call_leaves_a_link_over_bluetooth_alone) {
+    send("AT I");
+    scripted_stream_pair::raise(app.wire(), app.loop, STREAM_OPEN_COMPLETED);
+    app.loop.settle();
+    g_connect_with = KS_USE_BT;
+    app.loop.advance(milliseconds(1500));
+    EXPECT_EQ(app.last_status(), "TCP Connected!! ... Sending intial request");
+    EXPECT_EQ(app.sent(), "");
+}
+
 TEST_F(link_over_tcp, the_first_chunk_stops_only_the_last_timer) {
     send("AT I");
     app.connect();

@@ -175,6 +175,18 @@ void canvas::fill(const QRectF& area, const QBrush& brush) {
     painter_.fillRect(flipped(area), brush);
 }
 
+void canvas::shade(const QRectF& area, const QColor& shade) {
+    const double scale = image_.devicePixelRatio();
+    const QRectF shown = flipped(area);
+    const QRect pixels =
+        QRectF(shown.topLeft() * scale, shown.size() * scale).toRect() & image_.rect();
+    const std::vector<QRgb> line(static_cast<std::size_t>(pixels.width()),
+                                 qPremultiply(shade.rgba()));
+    for (int y = pixels.top(); y <= pixels.bottom(); ++y)
+        lay_over(reinterpret_cast<QRgb*>(image_.scanLine(y)) + pixels.left(), line.data(),
+                 pixels.width());
+}
+
 void canvas::put(kept_detail& detail, const std::string& what,
                  const std::function<void(canvas&)>& paint) {
     if (detail.what != what || detail.picture_size != image_.size()) {

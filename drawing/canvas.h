@@ -64,6 +64,9 @@ class canvas {
     void text_within(double room, int smallest, double x, double y, const QString& text, QFont font,
                      const QColor& ink);
     void fill(const QRectF& area, const QBrush& brush);
+    // A translucent rectangle to the nearest pixel: QPainter shares so large a one among threads,
+    // which takes longer than the work.
+    void shade(const QRectF& area, const QColor& shade);
     // Puts the detail there that `paint` paints, painted anew when `what` it shows is another than
     // before.
     void put(kept_detail& detail, const std::string& what,

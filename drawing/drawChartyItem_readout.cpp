@@ -49,14 +49,14 @@ void drawChartyItem::display_value(canvas& target) {
     const int height = static_cast<int>(target.height());
     const int third = height / 3;
     const int bottom = 2 * height / 3;
-    target.fill(QRectF(0, bottom, width, third), SHADE);
+    target.shade(QRectF(0, bottom, width, third), SHADE);
     paint_readout(target, width / 3, bottom + third / 3, {30, 12, 0.7, 10, 10, LARGE_SEGMENTS});
 }
 
 void drawChartyItem::display_value_4_thumbnail(canvas& target) {
     const double width = target.width();
     const double height = target.height();
-    target.fill(QRectF(0, height / 3, width, height), SHADE);
+    target.shade(QRectF(0, height / 3, width, height), SHADE);
     paint_readout(target, width / 3, height / 3 + height * 0.25,
                   {70, 18, 0.9, 20, 16, THUMBNAIL_SEGMENTS, 1 / stretch_});
 }

@@ -6,7 +6,10 @@
 namespace {
 
 constexpr run_loop::microseconds SHORTEST_INTERVAL{1'000'000 / 20};
-constexpr int WAIT_AFTER_FRAME = 3; // times what the frame took
+// Times what the frame took.
+constexpr int WAIT_AFTER_FRAME = 3;
+constexpr int QUIET_AFTER_FRAME = 50;
+constexpr run_loop::microseconds LONGEST_QUIET{1'000'000 / 10};
 
 } // namespace
 
@@ -35,7 +38,10 @@ void frame_pacer::draw_frame() {
     draw_();
     drawing_ = false;
     const auto ended = loop_.fine_now();
-    next_frame_ = std::max(begun + SHORTEST_INTERVAL, ended + WAIT_AFTER_FRAME * (ended - begun));
+    const auto took = ended - begun;
+    const auto wait = std::max(WAIT_AFTER_FRAME * took,
+                               std::min(QUIET_AFTER_FRAME * took, LONGEST_QUIET));
+    next_frame_ = std::max(begun + SHORTEST_INTERVAL, ended + wait);
     if (requested_while_drawing_)
         request();
 }

@@ -8,11 +8,19 @@
 #include <QScrollArea>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
 const QColor CELL_GROUND = QColor::fromRgbF(0.92941176f, 0.95294118f, 0.99607843f, 0.88f);
 constexpr int FRAME = 3;
+
+QColor laid_over(const QColor& ground, const QColor& shade) {
+    QImage pixel(1, 1, QImage::Format_RGB32);
+    pixel.fill(ground);
+    QPainter(&pixel).fillRect(pixel.rect(), shade);
+    return pixel.pixelColor(0, 0);
+}
 
 } // namespace
 
@@ -45,9 +53,13 @@ void thumbnail_strip::set_picture(int cell, const QImage& picture) {
     const bool only_lower =
         picture.width() == pixels.width() && picture.height() >= pixels.height() &&
         picture.format() == QImage::Format_ARGB32_Premultiplied && !pixels.isEmpty();
-    shown = QPixmap::fromImage(
+    QImage whole(pixels, QImage::Format_RGB32);
+    whole.fill(laid_over(palette().color(QPalette::Window), CELL_GROUND));
+    QPainter(&whole).drawImage(
+        0, 0,
         only_lower ? squeezed(picture, pixels.height())
                    : picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    shown = QPixmap::fromImage(std::move(whole));
     shown.setDevicePixelRatio(devicePixelRatioF());
     update(rect_of(cell));
 }
@@ -172,10 +184,11 @@ void thumbnail_strip::paintEvent(QPaintEvent* event) {
         const QRect place = rect_of(cell);
         if (!event->region().intersects(place))
             continue;
-        painter.fillRect(place, CELL_GROUND);
         const QPixmap& picture = cells_[static_cast<std::size_t>(cell)].picture;
-        if (!picture.isNull())
-            painter.drawPixmap(place, picture);
+        if (picture.isNull())
+            painter.fillRect(place, CELL_GROUND);
+        else
+            painter.drawPixmap(place, picture); // has its ground
         if (selected_.contains(cell)) {
             painter.setPen(QPen(palette().color(QPalette::Highlight), FRAME));
             painter.drawRect(QRectF(place).adjusted(FRAME / 2.0, FRAME / 2.0, -FRAME / 2.0,

@@ -17,6 +17,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QTextCursor>
 
 #include <utility>
@@ -26,6 +27,8 @@ namespace {
 constexpr int ECHO_POINT_SIZE = 14;
 constexpr int TRANSCRIPT_CHARACTERS = 4'000'000;
 constexpr int TRANSCRIPT_LINES = 20'000; // a monitored bus must not eat the memory
+// Qt lays out a line anew for each piece that it gets: a flood without line ends is broken into such.
+constexpr int LONGEST_LINE = 4'000;
 
 // Blue that can be read on the ground it stands on.
 QColor echo_blue(const QPalette& palette) {
@@ -37,6 +40,8 @@ void append(QPlainTextEdit* view, const QString& text, const QTextCharFormat& fo
     QTextCursor end(view->document());
     end.movePosition(QTextCursor::End);
     end.beginEditBlock();
+    if (end.block().length() > LONGEST_LINE)
+        end.insertBlock();
     end.insertText(text, format);
     end.endEditBlock();
     view->verticalScrollBar()->setValue(view->verticalScrollBar()->maximum());

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 namespace {
 
 using std::chrono::milliseconds;
@@ -97,6 +99,17 @@ TEST_F(link_over_tcp, the_deferred_call_leaves_a_link_over_bluetooth_alone) {
     app.loop.advance(milliseconds(1500));
     EXPECT_EQ(app.last_status(), "TCP Connected!! ... Sending intial request");
     EXPECT_EQ(app.sent(), "");
+}
+
+TEST_F(link_over_tcp, a_flood_without_line_ends_is_broken_into_lines) {
+    send("AT MA");
+    app.connect();
+    app.receive(std::string(1'000'000, 'F'));
+    std::istringstream lines(transcript());
+    std::size_t longest = 0;
+    for (std::string line; std::getline(lines, line);)
+        longest = std::max(longest, line.size());
+    EXPECT_LT(longest, 10'000);
 }
 
 TEST_F(link_over_tcp, the_first_chunk_stops_only_the_last_timer) {

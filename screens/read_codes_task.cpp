@@ -204,9 +204,16 @@ void readCodes::decode_status(const std::string& screened_reply) {
     std::vector<std::string> lines = reply_lines(screened_reply);
     std::erase(lines, "0101"); // the echo
     // Rubbish in a line's header would make another unit or bus of it, rubbish behind it another lamp.
-    const auto readable = [](const std::string& line) {
+    const auto reads_as_status = [](const std::string& line) {
         const std::string data = status_data(line);
         return is_hex(line) && data.starts_with("4101") && data.size() >= 6;
+    };
+    const auto came_over_can = [](const std::string& line) { return has_can_header(line, "4101"); };
+    status_answer_was_can_ = std::ranges::any_of(lines, [&](const std::string& line) {
+        return reads_as_status(line) && came_over_can(line);
+    });
+    const auto readable = [&](const std::string& line) {
+        return reads_as_status(line) && came_over_can(line) == status_answer_was_can_;
     };
     // Short words are notices; anything else may have been a unit's answer.
     const bool all_readable =
@@ -216,7 +223,6 @@ void readCodes::decode_status(const std::string& screened_reply) {
     const auto answers = std::ranges::count_if(lines, readable);
     no_of_codes = 0;
     status_told_ = false;
-    status_answer_was_can_ = false;
     p_cur_01_pid.clear();
     bool lamp_on = false, engine_told = false;
     for (const std::string& line : lines) {
@@ -226,7 +232,6 @@ void readCodes::decode_status(const std::string& screened_reply) {
             continue;
         }
         status_told_ = true;
-        status_answer_was_can_ = status_answer_was_can_ || has_can_header(line, "4101");
         const unsigned byte_a = mac_toolies::convertStr2Byte(std::string_view(data).substr(4, 2));
         const bool unit_lamp = (byte_a & 0x80u) != 0;
         if (contains(mac_toolies::pull_ECU(line), "Engine") ||

@@ -199,7 +199,7 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_stall_hint">
         <source></source>
-        <translation>Wartet auf den Adapter, %1 s</translation>
+        <translation>wartet auf den Adapter, %1 s</translation>
     </message>
     <message id="ui_live_run">
         <source></source>

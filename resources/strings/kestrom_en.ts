@@ -199,7 +199,7 @@ Please check:
     </message>
     <message id="ui_stall_hint">
         <source></source>
-        <translation>Waiting for the adapter, %1 s</translation>
+        <translation>waiting for the adapter, %1 s</translation>
     </message>
     <message id="ui_live_run">
         <source></source>

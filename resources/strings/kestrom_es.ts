@@ -199,7 +199,7 @@ Compruebe que:
     </message>
     <message id="ui_stall_hint">
         <source></source>
-        <translation>Esperando al adaptador, %1 s</translation>
+        <translation>esperando al adaptador, %1 s</translation>
     </message>
     <message id="ui_live_run">
         <source></source>

@@ -199,7 +199,7 @@ Veuillez vérifier que :
     </message>
     <message id="ui_stall_hint">
         <source></source>
-        <translation>En attente de l'adaptateur, %1 s</translation>
+        <translation>en attente de l'adaptateur, %1 s</translation>
     </message>
     <message id="ui_live_run">
         <source></source>

@@ -5,7 +5,10 @@
 #include "car_library.h"
 #include "sample_reply.h"
 #include "qt_warnings.h"
+#include "thumbnail_strip.h"
 #include "virtual_car_pair.h"
+
+#include <QScrollArea>
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -158,6 +161,13 @@ TEST(live_runs, oxygen_sensors_are_those_that_the_car_names) {
         EXPECT_EQ(bench.screen().pids(), one.sensors);
         ASSERT_FALSE(shown.empty());
         EXPECT_TRUE(shown[0].starts_with("0.45")) << shown[0];
+        const auto& strip = static_cast<thumbnail_strip&>(
+            *bench.app.find<QScrollArea>("xtopActionCharts")->widget());
+        for (const int first : {4, 0}) { // four fit, then round again
+            if (one.swaps)
+                bench.app.press("o2SwapBtn");
+            EXPECT_EQ(strip.selected(), std::set<int>{one.swaps ? first : 0});
+        }
         // The next run asks again; the list of another run is its own.
         bench.screen().runLogs();
         bench.run(TASK_FUEL_ECONOMY);

@@ -6,6 +6,7 @@
 #include "sample_reply.h"
 #include "text.h"
 
+#include <QLineEdit>
 #include <QPlainTextEdit>
 
 #include <algorithm>
@@ -29,6 +30,7 @@ constexpr char BOUNDED[] = "no buffer grows without bound";
 constexpr char RESTS[] = "after the time-outs a screen is idle or sampling";
 constexpr char NOTHING_LEFT[] = "no timer and no file outlives its screen";
 constexpr char WHOLE_LOGS[] = "a log holds every announced cycle in complete lines";
+constexpr char SAMPLES_AGAIN[] = "a healthy car's live data runs and stops after the faults";
 constexpr char WORKS_AGAIN[] = "a healthy car's codes are read after the faults";
 
 constexpr std::size_t CHUNK = 1024;
@@ -271,6 +273,39 @@ void promises::samples_are_true(actions& screen) {
                 app_.story.broken(TRUE_VALUES,
                                   screen.pids()[place] + ": " + text + " shown as " + shown);
         }
+}
+
+void promises::told(const std::string& message) {
+    if (message.find("cleared sucessfully") != message.npos)
+        app_.story.expect(app_.book.any_answer("04", task_began_,
+                                               [](const answer_slot& slot) {
+                                                   return slot.holds_digits("44");
+                                               }),
+                          "codes are told cleared when a unit has said so", message);
+}
+
+void promises::answers_again() {
+    app_.defaults.set_string_array(PIDS_ARRAY_KEY, {"0C", "0D"}); // not of the car before
+    app_.delegate->do_actions();
+    app_.loop.settle();
+    const auto& live = *app_.showing<actions>(ACTIONS_VIEW);
+    app_.find<>("startStopBtn")->click();
+    run_begins();
+    const std::uint64_t before = live.requests_answered();
+    app_.advance(seconds(5));
+    app_.story.expect(live.running() && live.requests_answered() > before + 3, SAMPLES_AGAIN,
+                      std::to_string(live.requests_answered() - before) + " answers");
+    app_.find<>("startStopBtn")->click();
+    app_.story.expect(!live.running(), SAMPLES_AGAIN, "stop");
+    app_.advance(seconds(5));
+    app_.delegate->do_expert();
+    app_.loop.settle();
+    app_.find<QLineEdit>("cmdTxt")->setText(QStringLiteral("AT I"));
+    app_.find<>("sendBtn")->click();
+    app_.advance(seconds(1));
+    const QString transcript = app_.find<QPlainTextEdit>("replyTxt")->toPlainText();
+    app_.story.expect(transcript.trimmed().endsWith(u'>') && transcript.contains(u"ELM327"),
+                      "the console answers after the faults", transcript.toStdString());
 }
 
 // A new run under an old name replaces the file.

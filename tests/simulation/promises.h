@@ -37,6 +37,10 @@ class promises {
     void run_begins();
     // Of the trouble-codes screen: a task begins.
     void task_begins(std::uint64_t moment) { task_began_ = moment; }
+    // A message box is open.
+    void told(const std::string& message);
+    // Live data of a healthy car, and the console: both work again.
+    void answers_again();
 
   private:
     void delivery_begins();

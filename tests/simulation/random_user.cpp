@@ -52,6 +52,7 @@ random_user::random_user(application& app, promises& kept, std::uint64_t seed)
 void random_user::answer_dialogs() {
     app_.messages.while_open = [this](const alert_request& request) {
         app_.story.note("alert", request.message);
+        promises_.told(request.message);
         if (dice_.happens(50))
             app_.loop.advance(dice_.time(0, 8000));
         app_.messages.answers.assign(1, dice_.below(static_cast<int>(request.buttons.size())));
@@ -195,8 +196,9 @@ void random_user::use_live_data() {
         press("startStopBtn");
         if (screen.running())
             promises_.run_begins();
-        app_.story.expect(screen.running() != running || app_.story.effects() != before, ANSWERS,
-                          "start or stop");
+        app_.story.expect(running ? !screen.running()
+                                  : screen.running() || app_.story.effects() != before,
+                          ANSWERS, "start or stop");
     }
     }
 }

@@ -48,12 +48,13 @@ class codes_view {
     void make_room_for_monitors();
 
     Ks_lite_delegate& delegate_;
+    // Read by the tables up to their end.
+    std::vector<code_row> codes_;
+    std::vector<readiness_flag> readiness_;
     std::unique_ptr<QWidget> bones_root_;
     status_line* statusLbl_ = nullptr;
     busy_indicator* waity_ = nullptr;
 
-    std::vector<code_row> codes_;
-    std::vector<readiness_flag> readiness_;
     rows_model* codes_model_ = nullptr;
     rows_model* readiness_model_ = nullptr;
     QTableView* codesReadTableView_ = nullptr;

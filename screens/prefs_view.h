@@ -52,6 +52,7 @@ class prefs_view {
     QWidget* build_parameters();
 
     Ks_lite_delegate& delegate_;
+    std::vector<pid_row> pids_; // read by the table up to its end
     std::unique_ptr<QWidget> root_;
     QRadioButton* bluetooth_ = nullptr;
     QRadioButton* wifi_ = nullptr;
@@ -64,5 +65,4 @@ class prefs_view {
     QLabel* pidsStatus_ = nullptr;
     QTableView* pid_availableTableView_ = nullptr;
     rows_model* pids_model_ = nullptr;
-    std::vector<pid_row> pids_;
 };

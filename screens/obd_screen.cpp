@@ -45,8 +45,12 @@ void obd_screen::end_task() {
 }
 
 bool obd_screen::work_over_link(const std::function<void()>& link_usable) {
-    if (!KS_delegate.openInterfaceConnection())
-        return KS_delegate.link_coming_up();
+    if (!KS_delegate.openInterfaceConnection()) {
+        const bool coming_up = KS_delegate.link_coming_up();
+        if (!coming_up && g_connect_with == KS_USE_BT)
+            set_status_msg(localized("bt_no_adapter_MSG"));
+        return coming_up;
+    }
     link_usable();
     if (g_connect_with != KS_USE_BT || connected_2_BT_interface) {
         work_when_adapter_is_free();

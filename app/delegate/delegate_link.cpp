@@ -11,6 +11,7 @@ void Ks_lite_delegate::sendOBDcmd(std::string_view command) {
             if (given_up == given_up_)
                 obdTimedOutHandler();
         });
+    qCDebug(log_link, "sent %.*s", static_cast<int>(command.size()), command.data());
     if (g_connect_with == KS_USE_BT)
         sendOBDcmd_BT(command);
     else

@@ -65,6 +65,10 @@ Bitte prüfen Sie:
         <source></source>
         <translation>Der Adapter hat noch nicht geantwortet. Prüfen Sie, ob dieser Rechner im Funknetz des Adapters ist und ob Adresse und Port stimmen.</translation>
     </message>
+    <message id="bt_no_adapter_MSG">
+        <source></source>
+        <translation>Kein Bluetooth-Adapter gewählt. Erneut drücken, um einen zu wählen.</translation>
+    </message>
     <message id="bt_closed_MSG">
         <source></source>
         <translation>Die Bluetooth-Verbindung ist beendet. Starten Sie Kestrom neu, um wieder zu verbinden.</translation>

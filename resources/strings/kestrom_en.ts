@@ -65,6 +65,10 @@ Please check:
         <source></source>
         <translation>The adapter has not answered yet. Check that this computer is in the adapter's wireless network and that address and port are right.</translation>
     </message>
+    <message id="bt_no_adapter_MSG">
+        <source></source>
+        <translation>No Bluetooth adapter was chosen. Press again to choose one.</translation>
+    </message>
     <message id="bt_closed_MSG">
         <source></source>
         <translation>The Bluetooth connection has ended. Restart Kestrom to connect again.</translation>

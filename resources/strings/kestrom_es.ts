@@ -65,6 +65,10 @@ Compruebe que:
         <source></source>
         <translation>El adaptador aún no ha respondido. Compruebe que este equipo está en la red inalámbrica del adaptador y que la dirección y el puerto son correctos.</translation>
     </message>
+    <message id="bt_no_adapter_MSG">
+        <source></source>
+        <translation>No se ha elegido ningún adaptador Bluetooth. Pulse de nuevo para elegir uno.</translation>
+    </message>
     <message id="bt_closed_MSG">
         <source></source>
         <translation>La conexión Bluetooth ha terminado. Reinicie Kestrom para volver a conectar.</translation>

@@ -65,6 +65,10 @@ Veuillez vérifier que :
         <source></source>
         <translation>L'adaptateur n'a pas encore répondu. Vérifiez que cet ordinateur est connecté au réseau sans fil de l'adaptateur et que l'adresse et le port sont corrects.</translation>
     </message>
+    <message id="bt_no_adapter_MSG">
+        <source></source>
+        <translation>Aucun adaptateur Bluetooth choisi. Appuyez à nouveau pour en choisir un.</translation>
+    </message>
     <message id="bt_closed_MSG">
         <source></source>
         <translation>La connexion Bluetooth est terminée. Redémarrez Kestrom pour vous reconnecter.</translation>

@@ -15,7 +15,7 @@
 namespace {
 
 constexpr int TITLE_HEIGHT = 28;
-constexpr char ANY_HOME[] = "/home/you/.local/share";
+constexpr char ANY_DATA[] = "/home/you/.local/share/kestrom";
 constexpr char ANY_DAY[] = "24 Apr 2025 10:30";
 
 adapter_options options_of(const scene& shown) {
@@ -98,10 +98,11 @@ void stage::show_message(const alert_request& request) {
 
 // Its name is another one each time.
 void stage::hide_folder(QWidget& in) {
+    const QString data = app.folder.filePath(QStringLiteral("data"));
     for (QLabel* label : in.findChildren<QLabel*>())
-        if (label->text().contains(app.folder.path()))
+        if (label->text().contains(data))
             label->setText(
-                QString(label->text()).replace(app.folder.path(), QLatin1String(ANY_HOME)));
+                QString(label->text()).replace(data, QLatin1String(ANY_DATA)));
 }
 
 void stage::take_picture(QWidget* dialog) {

@@ -202,7 +202,10 @@ void readCodes::status_answered() {
 
 void readCodes::decode_status(const std::string& screened_reply) {
     std::vector<std::string> lines = reply_lines(screened_reply);
-    std::erase(lines, "0101"); // the echo
+    for (std::string& line : lines) // the echo, whose line end may be lost
+        if (line.starts_with("0101"))
+            line.erase(0, 4);
+    std::erase(lines, "");
     // Rubbish in a line's header would make another unit or bus of it, rubbish behind it another lamp.
     const auto reads_as_status = [](const std::string& line) {
         const std::string data = status_data(line);

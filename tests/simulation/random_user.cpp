@@ -194,7 +194,7 @@ void random_user::use_live_data() {
         const bool running = screen.running();
         const std::uint64_t before = app_.story.effects();
         press("startStopBtn");
-        if (screen.running())
+        if (!running) // also one that ended at once
             promises_.run_begins();
         app_.story.expect(running ? !screen.running()
                                   : screen.running() || app_.story.effects() != before,

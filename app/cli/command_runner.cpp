@@ -80,8 +80,8 @@ void command_runner::look_for_channel() {
         channel_awaited_ = false;
         next_send();
     } else if (!delegate_.anything_outstanding()) {
-        const auto& told = messages_.messages();
-        end(false, told.empty() ? "no Bluetooth connection" : told.back());
+        const std::string& told = messages_.last_printed();
+        end(false, told.empty() ? "no Bluetooth connection" : told);
     }
 }
 
@@ -151,8 +151,8 @@ void command_runner::look() {
 
 void command_runner::finish_codes() {
     // A failure that was only told in a message box leaves an older text on the status line.
-    const auto& told = messages_.messages();
-    end(codes_->succeeded(), !told.empty()       ? told.back()
+    const std::string& told = messages_.last_printed();
+    end(codes_->succeeded(), !told.empty()       ? told
                              : statuses_.empty() ? ""
                                                  : statuses_.back());
 }
@@ -160,8 +160,8 @@ void command_runner::finish_codes() {
 void command_runner::finish_live() {
     std::string why = live_->what_went_wrong();
     const bool logged = why.empty();
-    if (logged && !messages_.messages().empty())
-        why = messages_.messages().back();
+    if (logged && !messages_.last_printed().empty())
+        why = messages_.last_printed();
     else if (logged && !statuses_.empty())
         why = statuses_.back();
     end(live_->succeeded() && logged, why);
@@ -196,8 +196,7 @@ void command_runner::end(bool succeeded, const std::string& why) {
         done_(1);
         return;
     }
-    const auto& told = messages_.messages();
-    if (!succeeded && !told.empty() && told.back() == why) // it has just been read
+    if (!succeeded && !why.empty() && why == messages_.last_printed()) // it has just been read
         std::fprintf(stderr, "kestrom: %s failed\n", asked_.command.c_str());
     else if (!succeeded)
         std::fprintf(stderr, "kestrom: %s failed: %s\n", asked_.command.c_str(),

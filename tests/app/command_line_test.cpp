@@ -95,7 +95,7 @@ TEST_F(shell, clearing_clears_the_car) {
     EXPECT_EQ(cleared.status, 0) << cleared.err;
     EXPECT_EQ(cleared.json().value(QLatin1String("messages")).toArray().last().toString(),
               QLatin1String("Codes cleared sucessfully!!"));
-    EXPECT_NE(cleared.err.find("Are you sure you want clear DTC Codes "), std::string::npos);
+    EXPECT_EQ(cleared.err.find("Are you sure"), std::string::npos) << "--yes has answered it";
     const outcome result = run({"--adapter", address(server), "codes", "--json"});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.text("lamp"), "OFF");
@@ -122,6 +122,7 @@ TEST_F(shell, a_link_that_fails_ends_with_1_and_the_reason) {
         const char* reason;
     } cases[] = {
         {{"--adapter", "127.0.0.1:1", "codes"}, "Couldn't connect...Please Check"},
+        {{"--adapter", "127.0.0.1:1", "clear", "--yes"}, "Couldn't connect...Please Check"},
         {{"--adapter", "127.0.0.1:abc", "codes"}, "Couldn't connect...Please Check"},
         {{"--adapter", "127.0.0.1:70000", "send", "AT I"}, "'AT I': Couldn't connect"},
         {{"--adapter", "no-such-host.invalid:35000", "codes"}, "Couldn't connect...Please Check"},

@@ -86,7 +86,8 @@ Example
     {"chart", 0, MANY, talks_to::nobody,
      "chart LOG.gol --pid PID [--pid PID] -o FILE.png [--scale N] [--dial]",
      "draw a run log as a chart, or its last value on a dial",
-     R"(Prints the limits of the axes. --scale is a number from 0.1 to 8.
+     R"(Prints the limits of the axes. --scale is a number from 0.1 to 8. A plain name that is no file
+here is that of a log in the log folder.
 Exit status: 0 success, 1 the log or the picture failed, 2 the arguments make no sense.
 
 Examples

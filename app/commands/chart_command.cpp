@@ -150,11 +150,12 @@ QImage draw_dial(const chart_request& request, const run_log& log, int column,
 
 int run_chart(std::span<const std::string> arguments, const mac_toolies& toolies,
               const bundle& resources, std::ostream& out, std::ostream& err) {
-    const chart_request request = read_chart_request(arguments);
+    chart_request request = read_chart_request(arguments);
     if (!request.error.empty()) {
         err << "kestrom: " << request.error << "\nTry 'kestrom chart --help'.\n";
         return USAGE_STATUS;
     }
+    request.log = path_of_log(request.log, toolies);
     std::string error;
     const std::optional<run_log> log = read_run_log(request.log, toolies, error);
     std::vector<int> columns;

@@ -2,6 +2,7 @@
 
 #include "constantes.h"
 #include "mac_toolies.h"
+#include "sample_reply.h"
 #include "text.h"
 #include "user_defaults.h"
 
@@ -23,11 +24,6 @@ namespace {
 constexpr int USAGE_STATUS = 2;
 constexpr int FAILED_STATUS = 1;
 constexpr std::string_view NO_ANSWER = "~"; // of the toolkit's, to what it cannot translate
-
-// What adapters say instead of data, without blanks. "BUS" and "ERROR" stand in several notices.
-constexpr std::string_view NOTICES[] = {"NODATA",   "SEARCHING", "UNABLETOCONNECT", "STOPPED",
-                                        "BUS",      "ERROR",     "BUFFERFULL",      "LVRESET",
-                                        "ACTALERT", "?"};
 
 int refuse(std::ostream& err, std::string_view why, std::string_view command) {
     err << "kestrom: " << why << "\nTry 'kestrom " << command << " --help'.\n";
@@ -59,7 +55,7 @@ bool may_be_reply(const std::string& reply) {
     std::ranges::transform(plain, plain.begin(), [](unsigned char c) { return std::toupper(c); });
     if (plain.starts_with("41") || plain.starts_with("7F"))
         return true;
-    return std::ranges::any_of(NOTICES, [&](std::string_view one) { return contains(plain, one); });
+    return holds_notice(plain);
 }
 
 std::string reply_of(const std::string& argument) {

@@ -191,7 +191,7 @@ TEST_F(shell, replies_are_decoded_without_an_adapter) {
     }
 }
 
-TEST_F(shell, a_run_log_is_exported_by_name_in_the_units_of_the_settings) {
+TEST_F(shell, a_run_log_is_exported_and_charted_by_name_in_the_units_of_the_settings) {
     const QString folder = home.filePath(QStringLiteral("kestrom/loggies/"));
     QDir().mkpath(folder);
     const auto write = [](const QString& path, const char* text) {
@@ -209,6 +209,11 @@ TEST_F(shell, a_run_log_is_exported_by_name_in_the_units_of_the_settings) {
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll(), "Vehicle Speed (kph)\n100.000000\n");
     EXPECT_EQ(run({"export", "run.gol"}).status, 1); // it is there already
+    const std::string chart = home.filePath(QStringLiteral("run.png")).toStdString();
+    EXPECT_EQ(run({"--settings", settings.toStdString(), "chart", "run.gol", "--pid", "0D",
+                   "--dial", "-o", chart})
+                  .out,
+              "0D Vehicle Speed: 100.00  Km/h\n");
 }
 
 TEST_F(shell, a_picture_of_the_filled_screen_is_saved) {

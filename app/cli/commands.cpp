@@ -44,11 +44,12 @@ Examples
      "sample without pause and print the values of each cycle",
      R"(  --pids PID,...     parameters of service 01, two hex digits each; else the user's
   --run KIND         log (the default), fuel economy, o2 (oxygen sensors) or boost
-  --seconds N        end after so many seconds
+  --seconds N        end so many seconds after the first request of the run
   --cycles N         end after so many cycles; without either Ctrl+C ends it
   --log              write a run log, as the window does
 
-Prints CSV with a header, a line for each cycle as it completes; a summary follows on standard error.
+Prints CSV with a header, a line for each cycle as it completes; a summary follows on standard error;
+its seconds, and those of --seconds, do not count the way to the car.
 With --json: a line of JSON for each cycle and one for the summary (docs/json/live.schema.json).
 Exit status: 0 when it ended as asked after at least one cycle, else 1.
 

@@ -152,8 +152,8 @@ int scan_for_bluetooth(int argc, char** argv, const cli_request& asked) {
     const QCoreApplication application(argc, argv);
     const bundle resources;
     bluez_devices devices(QDBusConnection::systemBus());
-    const double seconds =
-        std::min(asked.timeout_seconds.value_or(60), bluez_devices::SEARCH_MS / 1000.0 + 10); // BlueZ may start
+    const double seconds = std::min(asked.timeout_seconds.value_or(60),
+                                    bluez_devices::SEARCH_MS / 1000.0 + 10); // BlueZ may start
     return run_bluetooth_scan(devices, resources, seconds, asked.json, std::cout, std::cerr);
 }
 
@@ -285,8 +285,10 @@ int main(int argc, char** argv) {
     }
     if (asked.without_display())
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (!asked.command.empty()) // it tells by itself why the link failed
-        QLoggingCategory::setFilterRules(QStringLiteral("kestrom.link.warning=false"));
+    if (!asked.command.empty()) // it tells by itself why it failed
+        QLoggingCategory::setFilterRules(QStringLiteral("kestrom.link.warning=false\n"
+                                                        "kestrom.toolkit.warning=false\n"
+                                                        "kestrom.screens.warning=false"));
     if (asked.command == BLUETOOTH_SCAN)
         return scan_for_bluetooth(argc, argv, asked);
     if (decodes(asked.command))

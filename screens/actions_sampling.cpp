@@ -394,7 +394,8 @@ void actions::work_out_log_file() {
     if (const auto why = log_out_stream.create(cur_log_file_name)) {
         qCWarning(log_screens, "work_out_log_file::%s", why->c_str());
         cur_log_file_name.clear();
-        log_failed(*why);
+        const std::string no_folder = toolies.make_log_folder();
+        log_failed(toolies.log_folder() + ": " + (no_folder.empty() ? *why : no_folder));
     }
 }
 

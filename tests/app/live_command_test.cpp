@@ -111,6 +111,8 @@ TEST_F(live_command_line, that_brings_nothing_fails_with_a_reason) {
     const outcome told = live({"--cycles", "2", "--log"});
     EXPECT_EQ(told.status, 1);
     EXPECT_EQ(lines_of(told.out).size(), 3u) << "the run goes on";
+    EXPECT_THAT(told.err, HasSubstr("kestrom/loggies: Not a directory\n"));
+    EXPECT_EQ(told.err.find("loggies folder"), std::string::npos) << told.err;
 }
 
 struct ended_run {

@@ -92,6 +92,8 @@ chart_request read_chart_request(std::span<const std::string> arguments) {
         request.error = "chart needs a log file";
     else if (request.pids.empty() || request.pids.size() > MOST_PIDS)
         request.error = "chart needs one --pid or two";
+    else if (request.dial && request.pids.size() > 1)
+        request.error = "a dial shows one --pid";
     else if (request.picture.empty())
         request.error = "chart needs -o FILE.png";
     return request;

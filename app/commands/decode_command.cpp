@@ -164,9 +164,10 @@ int run_mode6(std::span<const std::string> given, const mac_toolies& toolies, st
     const std::string value = without(arguments[1], " ");
     if (!is_hex(identifier) || identifier.size() > 2)
         return refuse(err, "the identifier is two hex digits", "mode6");
-    if (!is_hex(value))
-        return refuse(err, "the value is hex digits", "mode6");
-    const std::string text = toolies.CAN_scale_and_units(identifier, value, true);
+    if (!is_hex(value) || value.size() > 4)
+        return refuse(err, "the value is up to four hex digits", "mode6");
+    const std::string scaled = toolies.CAN_scale_and_units(identifier, value, true);
+    const std::string text(trimmed(scaled));
     if (!json) {
         out << text << '\n';
         return 0;

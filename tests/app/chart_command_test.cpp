@@ -99,6 +99,7 @@ TEST_F(chart_command_test, wrong_arguments_and_files_have_their_status) {
         {"--pid", "0C", "-o", picture_path, "--scale", "nan"},
         {"--pid", "0C", "-o", picture_path, "--huge"},
         {"--pid", "0C", "-o", picture_path, "second.gol"},
+        {"--pid", "0C", "--pid", "0D", "--dial", "-o", picture_path},
         {"--pid", "1", "--pid", "2", "--pid", "3", "-o", picture_path}};
     for (const auto& arguments : wrong) {
         EXPECT_EQ(chart(LOG, arguments), 2);

@@ -17,7 +17,7 @@
 namespace {
 constexpr int LOOK_EVERY_MS = 5;
 constexpr double DEFAULT_BOUND_SECONDS = 60;
-}
+} // namespace
 
 command_runner::command_runner(const cli_request& asked, Ks_lite_delegate& delegate,
                                console_alerts& messages)
@@ -152,9 +152,7 @@ void command_runner::look() {
 void command_runner::finish_codes() {
     // A failure that was only told in a message box leaves an older text on the status line.
     const std::string& told = messages_.last_printed();
-    end(codes_->succeeded(), !told.empty()       ? told
-                             : statuses_.empty() ? ""
-                                                 : statuses_.back());
+    end(codes_->succeeded(), !told.empty() ? told : statuses_.empty() ? "" : statuses_.back());
 }
 
 void command_runner::finish_live() {
@@ -188,6 +186,9 @@ void command_runner::end(bool succeeded, const std::string& why) {
             print_replies_json(asked_.arguments, replies_, log);
     } else if (codes_ && succeeded && asked_.command == "codes") {
         print_codes_text(codes_->report());
+        const codes_report report = codes_->report();
+        if (report.count && static_cast<std::size_t>(*report.count) != report.codes.size())
+            std::fprintf(stderr, "kestrom: %s\n", printable(codes_->status()).c_str());
     } else if (codes_ && succeeded) {
         std::printf("%s\n", codes_->status().c_str());
     }

@@ -183,7 +183,8 @@ bool start_recording(conversation_recorder& recorder, const cli_request& asked, 
     };
     const auto failure = recorder.start(path, KESTROM_VERSION, adapter);
     if (failure)
-        std::fprintf(stderr, "kestrom: cannot record to %s: %s\n", path.c_str(), failure->c_str());
+        std::fprintf(stderr, "kestrom: cannot record to %s: %s; name another file\n", path.c_str(),
+                     failure->c_str());
     return !failure;
 }
 

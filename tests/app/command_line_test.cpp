@@ -23,6 +23,13 @@ TEST_F(shell, arguments_that_make_no_sense_end_with_2_and_a_reason) {
         {"send", std::string(39, '1')},
         {"--nonsense"},
         {"--adapter", "nowhere", "codes"},
+        {"--adapter", "127.0.0.1:99999", "codes"},
+        {"--adapter", "127.0.0.1:0", "codes"},
+        {"--adapter", "127.0.0.1:abc", "codes"},
+        {"--adapter", "127.0.0.1:", "codes"},
+        {"--adapter", "::1:35123", "codes"},
+        {"--adapter", "[]:35123", "codes"},
+        {"--adapter", "[::1:35123", "codes"},
         {"--adapter"},
         {"--demo", "--adapter", "a:1", "codes"},
         {"--screen", "garage"},
@@ -44,6 +51,7 @@ TEST_F(shell, arguments_that_make_no_sense_end_with_2_and_a_reason) {
         {"bluetooth-scan", "now"},
         {"live", "--cycles", "3", "--seconds", "3"},
         {"codes", "--log"},
+        {"codes", "--yes"},
         {"--record", "/proc/t", "--demo", "codes"},
         {"--record", "t", "decode", "410C1AF8"},
         {"--record"},
@@ -81,6 +89,12 @@ TEST_F(shell, the_built_in_car_is_read_and_nothing_of_the_users_is_touched) {
               QLatin1String("Starting Read Codes"));
     EXPECT_EQ(QDir(home.path()).entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot).size(),
               0);
+}
+
+TEST_F(shell, a_count_that_differs_from_the_codes_is_told) {
+    const outcome result = run({"--demo=three_units", "codes"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.err, testing::HasSubstr("Codes read...but different no of codes recvd\n"));
 }
 
 TEST_F(shell, a_bluetooth_adapter_named_once_leaves_the_settings_alone) {
@@ -123,8 +137,7 @@ TEST_F(shell, a_link_that_fails_ends_with_1_and_the_reason) {
     } cases[] = {
         {{"--adapter", "127.0.0.1:1", "codes"}, "Couldn't connect...Please Check"},
         {{"--adapter", "127.0.0.1:1", "clear", "--yes"}, "Couldn't connect...Please Check"},
-        {{"--adapter", "127.0.0.1:abc", "codes"}, "Couldn't connect...Please Check"},
-        {{"--adapter", "127.0.0.1:70000", "send", "AT I"}, "'AT I': Couldn't connect"},
+        {{"--adapter", "127.0.0.1:1", "send", "AT I"}, "'AT I': Couldn't connect"},
         {{"--adapter", "no-such-host.invalid:35000", "codes"}, "Couldn't connect...Please Check"},
         {{"--adapter", address(stalls), "codes"}, "Cur op timed out... Please Check/retry"},
         {{"--adapter", address(stalls), "codes", "--timeout", "0.5"}, "the time limit has passed"},
@@ -145,8 +158,8 @@ TEST_F(shell, a_recording_is_made_beside_the_command_and_never_over_a_file) {
     EXPECT_EQ(run({"--demo", "--record", talk, "send", "AT I"}).status, 0);
     const outcome refused = run({"--demo", "--record", talk, "send", "AT I"});
     EXPECT_EQ(refused.status, 2);
-    EXPECT_THAT(refused.err,
-                testing::EndsWith("kestrom: cannot record to " + talk + ": File exists\n"));
+    EXPECT_THAT(refused.err, testing::EndsWith("kestrom: cannot record to " + talk +
+                                               ": File exists; name another file\n"));
     QFile file(QString::fromStdString(talk));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray text = file.readAll();

@@ -22,6 +22,7 @@
 #include "quick_style.h"
 #include "quit_signals.h"
 #include "recorded_doors.h"
+#include "report_printer.h"
 #include "screen_factories.h"
 #include "serial_port_profile.h"
 #include "user_defaults.h"
@@ -33,13 +34,16 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <iostream>
 #include <memory>
 #include <optional>
+#include <poll.h>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -266,9 +270,18 @@ int run(QApplication& application, const cli_request& asked) {
     return status ? status : ended;
 }
 
-} // namespace
+// What failed to reach standard output makes a failure of any command. A reader that has gone, such
+// as head(1), has all it wants: no word about it.
+int status_with_output(int status) {
+    if (!output_lost())
+        return status;
+    pollfd out{STDOUT_FILENO, 0, 0};
+    if (::poll(&out, 1, 0) <= 0 || !(out.revents & POLLERR))
+        std::fputs("kestrom: the output could not be written\n", stderr);
+    return FAILURE_STATUS;
+}
 
-int main(int argc, char** argv) {
+int start(int argc, char** argv) {
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     const auto [asked, error] = parse_command_line(arguments);
     if (!error.empty()) {
@@ -313,4 +326,11 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "kestrom: %s\n", failure.what());
         return FAILURE_STATUS;
     }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    std::signal(SIGPIPE, SIG_IGN); // the write itself tells that the reader has gone
+    return status_with_output(start(argc, argv));
 }

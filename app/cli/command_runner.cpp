@@ -192,8 +192,7 @@ void command_runner::end(bool succeeded, const std::string& why) {
     } else if (codes_ && succeeded) {
         std::printf("%s\n", codes_->status().c_str());
     }
-    if (std::fflush(stdout) != 0 || std::ferror(stdout)) {
-        std::fputs("kestrom: the output could not be written\n", stderr);
+    if (output_lost()) {
         done_(1);
         return;
     }

@@ -144,7 +144,7 @@ void live_command::print_cycle(const std::vector<translated>& values) {
     show_cycles();
     std::printf("%s\n", line.c_str());
     // Whoever reads along sees each cycle as it completes.
-    if (std::fflush(stdout) != 0)
+    if (output_lost())
         done_(); // nobody does, or nobody can
 }
 
@@ -176,7 +176,8 @@ void live_command::print_summary() const {
                     json_string(log).c_str());
         return;
     }
-    std::fflush(stdout);
+    if (output_lost())
+        return;
     std::fprintf(stderr, "%llu cycles, %llu requests in %s s: %s requests per second\n",
                  static_cast<unsigned long long>(screen_->cycles()),
                  static_cast<unsigned long long>(screen_->requests_answered()),

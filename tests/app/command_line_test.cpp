@@ -204,6 +204,27 @@ TEST_F(shell, replies_are_decoded_without_an_adapter) {
     }
 }
 
+TEST_F(shell, output_that_is_lost_fails_and_a_reader_that_has_gone_is_no_news) {
+    for (const char* arguments : {"--help", "decode '41 0C 1A F8'", "--demo live --cycles 2"}) {
+        const auto through = [&](const char* redirection) {
+            QProcess sh;
+            sh.start(
+                QStringLiteral("bash"),
+                {QStringLiteral("-c"),
+                 QStringLiteral("exec 3>&1; { sleep 0.2; " KESTROM_PROGRAM " %1; echo $? >&3; } %2")
+                     .arg(QLatin1String(arguments), QLatin1String(redirection))});
+            EXPECT_TRUE(sh.waitForFinished());
+            return sh.readAllStandardOutput().toStdString() +
+                   sh.readAllStandardError().toStdString();
+        };
+        EXPECT_THAT(through("> /dev/full"),
+                    testing::MatchesRegex("1\n(.*\n)?kestrom: the output could not be written\n"));
+        EXPECT_THAT(through("> >(exec <&-)"),
+                    testing::AllOf(testing::StartsWith("1\n"),
+                                   testing::Not(testing::HasSubstr("kestrom: "))));
+    }
+}
+
 TEST_F(shell, a_run_log_is_exported_and_charted_by_name_in_the_units_of_the_settings) {
     const QString folder = home.filePath(QStringLiteral("kestrom/loggies/"));
     QDir().mkpath(folder);

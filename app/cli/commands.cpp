@@ -78,7 +78,7 @@ Example
 )"},
     {"mode6", 0, MANY, talks_to::nobody, "mode6 ID VALUE [--json]",
      "a test result scaled by its unit-and-scaling identifier",
-     R"(Both in hex digits. With --json: docs/json/mode6.schema.json.
+     R"(Both in hex digits, the value of two bytes at most. With --json: docs/json/mode6.schema.json.
 Exit status: 0 success, 2 the arguments make no sense.
 
 Example
@@ -88,7 +88,7 @@ Example
      "chart LOG.gol --pid PID [--pid PID] -o FILE.png [--scale N] [--dial]",
      "draw a run log as a chart, or its last value on a dial",
      R"(Prints the limits of the axes. --scale is a number from 0.1 to 8. A plain name that is no file
-here is that of a log in the log folder.
+here is that of a log in the log folder. A dial shows one parameter.
 Exit status: 0 success, 1 the log or the picture failed, 2 the arguments make no sense.
 
 Examples

@@ -22,6 +22,7 @@
 #include "quick_style.h"
 #include "quit_signals.h"
 #include "recorded_doors.h"
+#include "report_printer.h"
 #include "screen_factories.h"
 #include "serial_port_profile.h"
 #include "user_defaults.h"
@@ -33,13 +34,16 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <iostream>
 #include <memory>
 #include <optional>
+#include <poll.h>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -152,8 +156,8 @@ int scan_for_bluetooth(int argc, char** argv, const cli_request& asked) {
     const QCoreApplication application(argc, argv);
     const bundle resources;
     bluez_devices devices(QDBusConnection::systemBus());
-    const double seconds =
-        std::min(asked.timeout_seconds.value_or(60), bluez_devices::SEARCH_MS / 1000.0 + 10); // BlueZ may start
+    const double seconds = std::min(asked.timeout_seconds.value_or(60),
+                                    bluez_devices::SEARCH_MS / 1000.0 + 10); // BlueZ may start
     return run_bluetooth_scan(devices, resources, seconds, asked.json, std::cout, std::cerr);
 }
 
@@ -183,7 +187,8 @@ bool start_recording(conversation_recorder& recorder, const cli_request& asked, 
     };
     const auto failure = recorder.start(path, KESTROM_VERSION, adapter);
     if (failure)
-        std::fprintf(stderr, "kestrom: cannot record to %s: %s\n", path.c_str(), failure->c_str());
+        std::fprintf(stderr, "kestrom: cannot record to %s: %s; name another file\n", path.c_str(),
+                     failure->c_str());
     return !failure;
 }
 
@@ -265,9 +270,18 @@ int run(QApplication& application, const cli_request& asked) {
     return status ? status : ended;
 }
 
-} // namespace
+// What failed to reach standard output makes a failure of any command. A reader that has gone, such
+// as head(1), has all it wants: no word about it.
+int status_with_output(int status) {
+    if (!output_lost())
+        return status;
+    pollfd out{STDOUT_FILENO, 0, 0};
+    if (::poll(&out, 1, 0) <= 0 || !(out.revents & POLLERR))
+        std::fputs("kestrom: the output could not be written\n", stderr);
+    return FAILURE_STATUS;
+}
 
-int main(int argc, char** argv) {
+int start(int argc, char** argv) {
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     const auto [asked, error] = parse_command_line(arguments);
     if (!error.empty()) {
@@ -285,8 +299,10 @@ int main(int argc, char** argv) {
     }
     if (asked.without_display())
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (!asked.command.empty()) // it tells by itself why the link failed
-        QLoggingCategory::setFilterRules(QStringLiteral("kestrom.link.warning=false"));
+    if (!asked.command.empty()) // it tells by itself why it failed
+        QLoggingCategory::setFilterRules(QStringLiteral("kestrom.link.warning=false\n"
+                                                        "kestrom.toolkit.warning=false\n"
+                                                        "kestrom.screens.warning=false"));
     if (asked.command == BLUETOOTH_SCAN)
         return scan_for_bluetooth(argc, argv, asked);
     if (decodes(asked.command))
@@ -310,4 +326,11 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "kestrom: %s\n", failure.what());
         return FAILURE_STATUS;
     }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    std::signal(SIGPIPE, SIG_IGN); // the write itself tells that the reader has gone
+    return status_with_output(start(argc, argv));
 }

@@ -61,8 +61,7 @@ class actions final : public obd_screen {
                (straggler_bound_ != 0 || awaits_old_reply() || KS_delegate.anything_outstanding());
     }
     const std::vector<std::string>& pids() const { return _pid_logitems_list; }
-    // Of the run: when its first cycle began, and what was answered since.
-    run_loop::milliseconds sampling_since() const { return sampling_since_; }
+    // Of the run: what was answered since its first cycle began.
     std::uint64_t requests_answered() const { return requests_answered_; }
     std::uint64_t cycles() const { return cycles_; }
     // The samples of the run; the last row is being filled.
@@ -71,6 +70,8 @@ class actions final : public obd_screen {
     const std::string& log_path() const { return cur_log_file_name; }
     // Why this run is not, or no longer, logged.
     const std::string& log_failure() const { return log_failure_; }
+    // Told as the first cycle of a run begins, before its first request.
+    std::function<void()> sampling_begins;
     // Told the values of a cycle, in the order of pids(), after its line is in the log.
     std::function<void(const std::vector<translated>&)> cycle_completed;
 
@@ -145,7 +146,6 @@ class actions final : public obd_screen {
     run_loop::timer_id straggler_bound_ = 0; // the answer that an adapter still owes is awaited
     int waits_in_vain_ = 0;                  // for one
     int answers_in_step_ = 0;                // since the last that was not
-    run_loop::milliseconds sampling_since_{0};
     std::uint64_t requests_answered_ = 0, cycles_ = 0;
     bool status_changed_ = false;
     run_loop::milliseconds status_shown_{0};

@@ -174,7 +174,8 @@ void actions::begin_cycle() {
     requests_ = run_->requests(_pid_logitems_list);
     if (requests_.empty())
         throw std::out_of_range("no PIDs selected");
-    sampling_since_ = KS_delegate.doors().loop.now();
+    if (sampling_begins)
+        sampling_begins();
     ask(requests_.front());
 }
 
@@ -266,7 +267,8 @@ actions::order_of_answer actions::order_of(std::string_view reply) const {
         requests_[(cur_request_ == 0 ? requests_.size() : cur_request_) - 1];
     if (!answers_another(reply, requests_[cur_request_].pid))
         return order_of_answer::in_step;
-    return answers_another(reply, before.pid) ? order_of_answer::wrong : order_of_answer::one_behind;
+    return answers_another(reply, before.pid) ? order_of_answer::wrong
+                                              : order_of_answer::one_behind;
 }
 
 void actions::take_reply() {
@@ -278,8 +280,7 @@ void actions::take_reply() {
     const order_of_answer order = order_of(*screened);
     const bool out_of_step = order != order_of_answer::in_step;
     // What answers another request is not filed under this one's name.
-    const std::string reply =
-        run_->reply_to_file(asked, out_of_step ? "~" : *screened);
+    const std::string reply = run_->reply_to_file(asked, out_of_step ? "~" : *screened);
     note_reply(*screened);
     qCDebug(log_screens, "loggy:%s", reply.c_str());
     add_item_to_log_vector(reply, cur_log_idx);
@@ -393,7 +394,8 @@ void actions::work_out_log_file() {
     if (const auto why = log_out_stream.create(cur_log_file_name)) {
         qCWarning(log_screens, "work_out_log_file::%s", why->c_str());
         cur_log_file_name.clear();
-        log_failed(*why);
+        const std::string no_folder = toolies.make_log_folder();
+        log_failed(toolies.log_folder() + ": " + (no_folder.empty() ? *why : no_folder));
     }
 }
 

@@ -9,6 +9,8 @@
 #include <cerrno>
 #include <cmath>
 #include <fcntl.h>
+#include <filesystem>
+#include <fstream>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -26,7 +28,32 @@ std::string in_words(int error) {
     return std::generic_category().message(error);
 }
 
+// A field of a run log that no other file is likely to hold: an answer, if cut, or a notice.
+bool is_reply(std::string_view field) {
+    if (field.starts_with("41") && field.size() >= 4 && is_hex(field))
+        return true;
+    const bool capitals = std::ranges::all_of(field, [](unsigned char c) {
+        return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+               std::string_view(".?<>:").find(static_cast<char>(c)) != std::string_view::npos;
+    });
+    return field == "~" || (capitals && holds_notice(field));
+}
+
 } // namespace
+
+std::optional<std::string> why_no_run_log(const std::string& path) {
+    std::error_code unknown;
+    if (!std::filesystem::is_regular_file(path, unknown))
+        return std::nullopt;
+    std::string text(PIECE_READ, '\0');
+    std::ifstream file(path, std::ios::binary);
+    file.read(text.data(), static_cast<std::streamsize>(text.size()));
+    text.resize(static_cast<std::size_t>(file.gcount()));
+    const std::string fields = replace_all(without(without(text, " "), "\r"), "\n", ",");
+    if (text.empty() || std::ranges::any_of(split(fields, ","), is_reply))
+        return std::nullopt;
+    return path + ":1: not a run log: no reply of an adapter in it";
+}
 
 log_export::~log_export() {
     if (input_ >= 0)

@@ -10,11 +10,17 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
 class mac_toolies;
+
+// Nothing for a run log, one with damaged replies too; for a file that holds no reply of an adapter
+// in its first 16 KiB why it is none, with its name and line. A file that cannot be read, or is
+// empty, passes: who reads it tells that.
+std::optional<std::string> why_no_run_log(const std::string& path);
 
 enum class export_result {
     working,

@@ -164,6 +164,8 @@ class mac_toolies {
     std::string get_todays_date(int flag) const;
     // "loggies" in the data folder; it may not exist yet.
     std::string log_folder() const;
+    // Makes the log folder where there is nothing yet; why it cannot be made, else empty.
+    std::string make_log_folder() const;
     // The path, without extension, of a log that a run of the task would begin now. Creates the log folder
     // when there is none; a failure is logged and the path returned all the same.
     std::string work_out_log_fname_for_mode(int task) const;

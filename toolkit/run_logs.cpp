@@ -85,13 +85,19 @@ std::string mac_toolies::log_folder() const {
     return doors_.data_folder + "/loggies";
 }
 
-std::string mac_toolies::work_out_log_fname_for_mode(int task) const {
+std::string mac_toolies::make_log_folder() const {
     const std::string folder = log_folder();
     std::error_code failed;
-    if (!std::filesystem::exists(std::filesystem::symlink_status(folder, failed)) &&
-        !std::filesystem::create_directories(folder, failed))
+    if (std::filesystem::exists(std::filesystem::symlink_status(folder, failed)) ||
+        std::filesystem::create_directories(folder, failed))
+        return {};
+    return failed.message();
+}
+
+std::string mac_toolies::work_out_log_fname_for_mode(int task) const {
+    if (!make_log_folder().empty())
         qCWarning(log_toolkit, "Couldn't create loggies folder");
-    return folder + "/" + std::string(prefix_of(task)) + get_todays_date(0);
+    return log_folder() + "/" + std::string(prefix_of(task)) + get_todays_date(0);
 }
 
 std::vector<logged_run> mac_toolies::list_logs() const {

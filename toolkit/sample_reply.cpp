@@ -19,6 +19,11 @@ constexpr std::string_view DATA_BYTES = "4422111111112111"
                                         "4422211111111224"
                                         "4112222222111221";
 
+// What adapters say instead of data, without blanks. "BUS" and "ERROR" stand in several notices.
+constexpr std::string_view NOTICES[] = {"NODATA",   "SEARCHING", "UNABLETOCONNECT", "STOPPED",
+                                        "BUS",      "ERROR",     "BUFFERFULL",      "LVRESET",
+                                        "ACTALERT", "?"};
+
 bool is_filling(std::string_view digits) {
     const std::string_view byte = digits.substr(0, 2);
     if (byte != "00" && byte != "55" && byte != "AA" && byte != "CC" && byte != "FF")
@@ -50,9 +55,12 @@ std::string_view answer_in(std::string_view reply) {
     if (number >= DATA_BYTES.size())
         return reply;
     const std::size_t whole = HEAD + 2 * static_cast<std::size_t>(DATA_BYTES[number] - '0');
-    const bool fits = reply.size() == whole ||
-                      (reply.size() == whole + 2 && may_tell_of_two_banks(number)) ||
-                      (reply.size() == WHOLE_FRAME && whole < WHOLE_FRAME &&
-                       is_filling(reply.substr(whole)));
+    const bool fits =
+        reply.size() == whole || (reply.size() == whole + 2 && may_tell_of_two_banks(number)) ||
+        (reply.size() == WHOLE_FRAME && whole < WHOLE_FRAME && is_filling(reply.substr(whole)));
     return fits ? reply.substr(0, whole) : std::string_view();
+}
+
+bool holds_notice(std::string_view reply) {
+    return std::ranges::any_of(NOTICES, [&](std::string_view one) { return contains(reply, one); });
 }

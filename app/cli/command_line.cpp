@@ -8,6 +8,7 @@
 #include <cctype>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <set>
 #include <string_view>
 
@@ -108,7 +109,7 @@ class argument_reader {
         return {};
     }
 
-    // HOST:PORT; an IPv6 address may stand in brackets.
+    // HOST:PORT; an IPv6 address stands in brackets.
     void take_adapter(const std::string& text) {
         const std::size_t colon = text.rfind(':');
         if (colon == std::string::npos || colon == 0) {
@@ -118,8 +119,15 @@ class argument_reader {
         std::string host = text.substr(0, colon);
         if (host.size() > 2 && host.front() == '[' && host.back() == ']')
             host = host.substr(1, host.size() - 2);
+        else if (host.find_first_of(":[]") != std::string::npos)
+            fail("--adapter needs an IPv6 address in brackets, such as [::1]:35000");
+        const std::string port = text.substr(colon + 1);
+        std::uint16_t number = 0;
+        const auto read = std::from_chars(port.data(), port.data() + port.size(), number);
+        if (read.ec != std::errc() || read.ptr != port.data() + port.size() || number == 0)
+            fail("the port of --adapter is a number from 1 to 65535: '" + port + "'");
         result_.asked.adapter_host = host;
-        result_.asked.adapter_port = text.substr(colon + 1);
+        result_.asked.adapter_port = port;
     }
 
     // Six pairs of hexadecimal digits, with colons or dashes between them.
@@ -197,6 +205,8 @@ class argument_reader {
         if (asked.command != "live" && (!asked.pids.empty() || asked.log || asked.run != "log" ||
                                         asked.seconds > 0 || asked.cycles > 0))
             fail("--pids, --run, --seconds, --cycles and --log belong to the command live");
+        if (asked.yes && asked.command != "clear")
+            fail("--yes belongs to the command clear");
         if (asked.seconds > 0 && asked.cycles > 0)
             fail("--seconds and --cycles exclude each other");
         static const std::set<std::string, std::less<>> RUNS{"log", "fuel", "o2", "boost"};

@@ -17,7 +17,7 @@
 namespace {
 constexpr int LOOK_EVERY_MS = 5;
 constexpr double DEFAULT_BOUND_SECONDS = 60;
-}
+} // namespace
 
 command_runner::command_runner(const cli_request& asked, Ks_lite_delegate& delegate,
                                console_alerts& messages)
@@ -80,8 +80,8 @@ void command_runner::look_for_channel() {
         channel_awaited_ = false;
         next_send();
     } else if (!delegate_.anything_outstanding()) {
-        const auto& told = messages_.messages();
-        end(false, told.empty() ? "no Bluetooth connection" : told.back());
+        const std::string& told = messages_.last_printed();
+        end(false, told.empty() ? "no Bluetooth connection" : told);
     }
 }
 
@@ -151,17 +151,15 @@ void command_runner::look() {
 
 void command_runner::finish_codes() {
     // A failure that was only told in a message box leaves an older text on the status line.
-    const auto& told = messages_.messages();
-    end(codes_->succeeded(), !told.empty()       ? told.back()
-                             : statuses_.empty() ? ""
-                                                 : statuses_.back());
+    const std::string& told = messages_.last_printed();
+    end(codes_->succeeded(), !told.empty() ? told : statuses_.empty() ? "" : statuses_.back());
 }
 
 void command_runner::finish_live() {
     std::string why = live_->what_went_wrong();
     const bool logged = why.empty();
-    if (logged && !messages_.messages().empty())
-        why = messages_.messages().back();
+    if (logged && !messages_.last_printed().empty())
+        why = messages_.last_printed();
     else if (logged && !statuses_.empty())
         why = statuses_.back();
     end(live_->succeeded() && logged, why);
@@ -188,16 +186,17 @@ void command_runner::end(bool succeeded, const std::string& why) {
             print_replies_json(asked_.arguments, replies_, log);
     } else if (codes_ && succeeded && asked_.command == "codes") {
         print_codes_text(codes_->report());
+        const codes_report report = codes_->report();
+        if (report.count && static_cast<std::size_t>(*report.count) != report.codes.size())
+            std::fprintf(stderr, "kestrom: %s\n", printable(codes_->status()).c_str());
     } else if (codes_ && succeeded) {
         std::printf("%s\n", codes_->status().c_str());
     }
-    if (std::fflush(stdout) != 0 || std::ferror(stdout)) {
-        std::fputs("kestrom: the output could not be written\n", stderr);
+    if (output_lost()) {
         done_(1);
         return;
     }
-    const auto& told = messages_.messages();
-    if (!succeeded && !told.empty() && told.back() == why) // it has just been read
+    if (!succeeded && !why.empty() && why == messages_.last_printed()) // it has just been read
         std::fprintf(stderr, "kestrom: %s failed\n", asked_.command.c_str());
     else if (!succeeded)
         std::fprintf(stderr, "kestrom: %s failed: %s\n", asked_.command.c_str(),

@@ -44,11 +44,12 @@ Examples
      "sample without pause and print the values of each cycle",
      R"(  --pids PID,...     parameters of service 01, two hex digits each; else the user's
   --run KIND         log (the default), fuel economy, o2 (oxygen sensors) or boost
-  --seconds N        end after so many seconds
+  --seconds N        end so many seconds after the first request of the run
   --cycles N         end after so many cycles; without either Ctrl+C ends it
   --log              write a run log, as the window does
 
-Prints CSV with a header, a line for each cycle as it completes; a summary follows on standard error.
+Prints CSV with a header, a line for each cycle as it completes; a summary follows on standard error;
+its seconds, and those of --seconds, do not count the way to the car.
 With --json: a line of JSON for each cycle and one for the summary (docs/json/live.schema.json).
 Exit status: 0 when it ended as asked after at least one cycle, else 1.
 
@@ -77,7 +78,7 @@ Example
 )"},
     {"mode6", 0, MANY, talks_to::nobody, "mode6 ID VALUE [--json]",
      "a test result scaled by its unit-and-scaling identifier",
-     R"(Both in hex digits. With --json: docs/json/mode6.schema.json.
+     R"(Both in hex digits, the value of two bytes at most. With --json: docs/json/mode6.schema.json.
 Exit status: 0 success, 2 the arguments make no sense.
 
 Example
@@ -86,7 +87,8 @@ Example
     {"chart", 0, MANY, talks_to::nobody,
      "chart LOG.gol --pid PID [--pid PID] -o FILE.png [--scale N] [--dial]",
      "draw a run log as a chart, or its last value on a dial",
-     R"(Prints the limits of the axes. --scale is a number from 0.1 to 8.
+     R"(Prints the limits of the axes. --scale is a number from 0.1 to 8. A plain name that is no file
+here is that of a log in the log folder. A dial shows one parameter.
 Exit status: 0 success, 1 the log or the picture failed, 2 the arguments make no sense.
 
 Examples

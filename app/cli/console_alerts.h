@@ -1,5 +1,5 @@
 // Alerts for the command line: printed to standard error, remembered, answered with the first
-// button.
+// button. A question is not printed: --yes has answered it.
 #pragma once
 
 #include "alerts.h"
@@ -16,6 +16,8 @@ class console_alerts final : public alerts {
 
     void beep() override {}
     const std::vector<std::string>& messages() const { return messages_; }
+    // The message printed last; empty while there was none.
+    const std::string& last_printed() const { return last_printed_; }
     // The same alert over and over: nobody is there to leave the screen.
     bool endless() const { return repeated_ >= MOST_REPEATED; }
 
@@ -23,6 +25,9 @@ class console_alerts final : public alerts {
     int run_modal(const alert_request& request) override {
         repeated_ = !messages_.empty() && messages_.back() == request.message ? repeated_ + 1 : 1;
         messages_.push_back(request.message);
+        if (request.buttons.size() > 1)
+            return 0;
+        last_printed_ = request.message;
         std::string printed = request.message;
         if (!request.informative.empty())
             printed += "\n" + request.informative;
@@ -34,5 +39,6 @@ class console_alerts final : public alerts {
   private:
     static constexpr int MOST_REPEATED = 10;
     std::vector<std::string> messages_;
+    std::string last_printed_;
     int repeated_ = 0;
 };

@@ -49,6 +49,7 @@ void live_command::start() {
     screen_ = static_cast<actions*>(delegate_.current_screen());
     if (const int task = task_of(asked_.run); task != TASK_RUN_LOG)
         screen_->choose_run(task);
+    screen_->sampling_begins = [this] { begin_sampling(); };
     screen_->cycle_completed = [this](const std::vector<translated>& values) {
         if (finished_)
             return;
@@ -58,14 +59,17 @@ void live_command::start() {
             done_();
         }
     };
-    started_ = delegate_.doors().loop.now();
+    screen_->runLogs();
+}
+
+void live_command::begin_sampling() {
+    sampling_since_ = delegate_.doors().loop.now();
     if (asked_.seconds > 0)
         limit_ = delegate_.doors().loop.after(
             run_loop::milliseconds(static_cast<std::int64_t>(asked_.seconds * 1000)), [this] {
                 finished_as_asked_ = true;
                 done_();
             });
-    screen_->runLogs();
 }
 
 bool live_command::over() const {
@@ -96,7 +100,7 @@ void live_command::finish() {
 }
 
 double live_command::seconds() const {
-    return static_cast<double>((ended_ - started_).count()) / 1000;
+    return static_cast<double>((ended_ - sampling_since_.value_or(ended_)).count()) / 1000;
 }
 
 void live_command::print_header() {
@@ -107,8 +111,8 @@ void live_command::print_header() {
     for (const std::string& pid : header_of_) {
         const mac_toolies& toolies = screen_->toolies;
         const std::string units = toolies.get_units(pid);
-        std::string name = toolies.get_pid_name(pid, false) + " (" +
-                           std::string(trimmed(units)) + ")";
+        std::string name =
+            toolies.get_pid_name(pid, false) + " (" + std::string(trimmed(units)) + ")";
         if (name.find_first_of(",\"") != std::string::npos) {
             std::string quoted = "\"";
             for (const char c : name)
@@ -140,7 +144,7 @@ void live_command::print_cycle(const std::vector<translated>& values) {
     show_cycles();
     std::printf("%s\n", line.c_str());
     // Whoever reads along sees each cycle as it completes.
-    if (std::fflush(stdout) != 0)
+    if (output_lost())
         done_(); // nobody does, or nobody can
 }
 
@@ -154,31 +158,30 @@ void live_command::show_cycles() {
         progress_shown_ = now;
         show_progress("Cycle " + std::to_string(screen_->cycles()) +
                       (asked_.cycles ? " of " + std::to_string(asked_.cycles) : "") + ", " +
-                      std::to_string((now - started_).count() / 1000) + " s");
+                      std::to_string((now - *sampling_since_).count() / 1000) + " s");
     }
 }
 
 void live_command::print_summary() const {
     const double elapsed = seconds();
-    // The way to the car is no sampling.
-    const double sampling = static_cast<double>((ended_ - screen_->sampling_since()).count()) / 1000;
     const double rate =
-        sampling > 0 ? static_cast<double>(screen_->requests_answered()) / sampling : 0;
+        elapsed > 0 ? static_cast<double>(screen_->requests_answered()) / elapsed : 0;
     const std::string& log = screen_->log_path();
     if (asked_.json) {
         std::printf("{\"cycles\":%llu,\"requests\":%llu,\"seconds\":%s,\"requests_per_second\":%s,"
                     "\"log\":%s}\n",
                     static_cast<unsigned long long>(screen_->cycles()),
                     static_cast<unsigned long long>(screen_->requests_answered()),
-                    fixed_decimals(elapsed, TIME_DECIMALS).c_str(),
-                    fixed_decimals(rate, 1).c_str(), json_string(log).c_str());
+                    fixed_decimals(elapsed, TIME_DECIMALS).c_str(), fixed_decimals(rate, 1).c_str(),
+                    json_string(log).c_str());
         return;
     }
-    std::fflush(stdout);
+    if (output_lost())
+        return;
     std::fprintf(stderr, "%llu cycles, %llu requests in %s s: %s requests per second\n",
                  static_cast<unsigned long long>(screen_->cycles()),
                  static_cast<unsigned long long>(screen_->requests_answered()),
-                 fixed_decimals(elapsed, 1).c_str(), fixed_decimals(rate, 1).c_str());
+                 fixed_decimals(elapsed, TIME_DECIMALS).c_str(), fixed_decimals(rate, 1).c_str());
     if (!log.empty())
         std::fprintf(stderr, "Log: %s\n", printable(log).c_str());
 }

@@ -7,6 +7,7 @@
 #include "run_loop.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,17 +34,18 @@ class live_command {
     void finish();
 
   private:
+    void begin_sampling();
     void print_header();
     void print_cycle(const std::vector<translated>& values);
     void show_cycles();
     void print_summary() const;
-    double seconds() const;
+    double seconds() const; // of sampling, up to ended_
 
     const cli_request& asked_;
     Ks_lite_delegate& delegate_;
     std::function<void()> done_;
     actions* screen_ = nullptr;
-    run_loop::milliseconds started_{0};
+    std::optional<run_loop::milliseconds> sampling_since_; // its first request
     run_loop::milliseconds ended_{0};
     run_loop::milliseconds progress_shown_{0};
     run_loop::timer_id limit_ = 0;

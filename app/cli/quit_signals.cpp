@@ -30,8 +30,6 @@ quit_signals::quit_signals(std::function<void()> quit) {
     });
     for (const int signal : ENDING)
         std::signal(signal, wake_up);
-    // Whoever writes to a reader that has gone is told by the write.
-    std::signal(SIGPIPE, SIG_IGN);
 }
 
 quit_signals::~quit_signals() {

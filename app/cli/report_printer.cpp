@@ -88,6 +88,10 @@ void print_replies_json(const std::vector<std::string>& commands,
     print_json({{QStringLiteral("replies"), array}}, log);
 }
 
+bool output_lost() {
+    return std::fflush(stdout) != 0 || std::ferror(stdout) != 0;
+}
+
 std::string printable(const std::string& text) {
     return display_text(text).toStdString();
 }

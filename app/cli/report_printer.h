@@ -19,6 +19,9 @@ void print_raw_reply(const std::string& reply);
 void print_replies_json(const std::vector<std::string>& commands,
                         const std::vector<std::string>& replies, const conversation_log& log);
 
+// Some of standard output could not be written; main tells it once the command is over.
+bool output_lost();
+
 // Without control characters, so that an adapter's bytes do not drive the terminal; line ends
 // become "\n".
 std::string printable(const std::string& text);

@@ -92,6 +92,8 @@ chart_request read_chart_request(std::span<const std::string> arguments) {
         request.error = "chart needs a log file";
     else if (request.pids.empty() || request.pids.size() > MOST_PIDS)
         request.error = "chart needs one --pid or two";
+    else if (request.dial && request.pids.size() > 1)
+        request.error = "a dial shows one --pid";
     else if (request.picture.empty())
         request.error = "chart needs -o FILE.png";
     return request;
@@ -150,11 +152,12 @@ QImage draw_dial(const chart_request& request, const run_log& log, int column,
 
 int run_chart(std::span<const std::string> arguments, const mac_toolies& toolies,
               const bundle& resources, std::ostream& out, std::ostream& err) {
-    const chart_request request = read_chart_request(arguments);
+    chart_request request = read_chart_request(arguments);
     if (!request.error.empty()) {
         err << "kestrom: " << request.error << "\nTry 'kestrom chart --help'.\n";
         return USAGE_STATUS;
     }
+    request.log = path_of_log(request.log, toolies);
     std::string error;
     const std::optional<run_log> log = read_run_log(request.log, toolies, error);
     std::vector<int> columns;

@@ -2,6 +2,7 @@
 
 #include "constantes.h"
 #include "mac_toolies.h"
+#include "sample_reply.h"
 #include "text.h"
 #include "user_defaults.h"
 
@@ -23,11 +24,6 @@ namespace {
 constexpr int USAGE_STATUS = 2;
 constexpr int FAILED_STATUS = 1;
 constexpr std::string_view NO_ANSWER = "~"; // of the toolkit's, to what it cannot translate
-
-// What adapters say instead of data, without blanks. "BUS" and "ERROR" stand in several notices.
-constexpr std::string_view NOTICES[] = {"NODATA",   "SEARCHING", "UNABLETOCONNECT", "STOPPED",
-                                        "BUS",      "ERROR",     "BUFFERFULL",      "LVRESET",
-                                        "ACTALERT", "?"};
 
 int refuse(std::ostream& err, std::string_view why, std::string_view command) {
     err << "kestrom: " << why << "\nTry 'kestrom " << command << " --help'.\n";
@@ -59,7 +55,7 @@ bool may_be_reply(const std::string& reply) {
     std::ranges::transform(plain, plain.begin(), [](unsigned char c) { return std::toupper(c); });
     if (plain.starts_with("41") || plain.starts_with("7F"))
         return true;
-    return std::ranges::any_of(NOTICES, [&](std::string_view one) { return contains(plain, one); });
+    return holds_notice(plain);
 }
 
 std::string reply_of(const std::string& argument) {
@@ -168,9 +164,10 @@ int run_mode6(std::span<const std::string> given, const mac_toolies& toolies, st
     const std::string value = without(arguments[1], " ");
     if (!is_hex(identifier) || identifier.size() > 2)
         return refuse(err, "the identifier is two hex digits", "mode6");
-    if (!is_hex(value))
-        return refuse(err, "the value is hex digits", "mode6");
-    const std::string text = toolies.CAN_scale_and_units(identifier, value, true);
+    if (!is_hex(value) || value.size() > 4)
+        return refuse(err, "the value is up to four hex digits", "mode6");
+    const std::string scaled = toolies.CAN_scale_and_units(identifier, value, true);
+    const std::string text(trimmed(scaled));
     if (!json) {
         out << text << '\n';
         return 0;

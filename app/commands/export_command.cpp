@@ -3,7 +3,7 @@
 #include "log_export.h"
 #include "mac_toolies.h"
 #include "progress_line.h"
-#include "text.h"
+#include "run_log.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -43,15 +43,6 @@ export_request read_export_request(std::span<const std::string> arguments) {
     return request;
 }
 
-// A file that is there is meant by its path; a plain name may be that of a log in the log folder.
-std::string path_of(const std::string& log, const std::string& folder) {
-    std::error_code unknown;
-    if (contains(log, "/") || std::filesystem::exists(log, unknown))
-        return log;
-    const std::string logged = folder + "/" + log;
-    return std::filesystem::exists(logged, unknown) ? logged : log;
-}
-
 void print_json(const std::string& output, const export_outcome& outcome, std::ostream& out) {
     const auto text = [](const std::string& value) { return QString::fromStdString(value); };
     const bool exported = outcome.result == export_result::exported;
@@ -71,16 +62,21 @@ int run_export(std::span<const std::string> arguments, const mac_toolies& toolie
         err << "kestrom: " << request.error << "\nTry 'kestrom export --help'.\n";
         return USAGE_STATUS;
     }
-    const std::filesystem::path log = path_of(request.log, toolies.log_folder());
+    const std::filesystem::path log = path_of_log(request.log, toolies);
     const std::filesystem::path output =
         log.parent_path() / log_export::output_name(log.filename().string(), request.as_txt);
-    const export_outcome outcome =
-        export_log(toolies, log.string(), output.string(), [shown = -1](double done) mutable {
-            const int percent = static_cast<int>(done * 100); // 0 to 1
-            if (std::exchange(shown, percent) != percent)
-                show_progress("Exporting: " + std::to_string(percent) + " %");
-        });
-    clear_progress();
+    export_outcome outcome;
+    if (const auto why = why_no_run_log(log.string())) {
+        outcome = {export_result::unreadable, 0, *why};
+    } else {
+        outcome =
+            export_log(toolies, log.string(), output.string(), [shown = -1](double done) mutable {
+                const int percent = static_cast<int>(done * 100); // 0 to 1
+                if (std::exchange(shown, percent) != percent)
+                    show_progress("Exporting: " + std::to_string(percent) + " %");
+            });
+        clear_progress();
+    }
     if (request.json)
         print_json(output.string(), outcome, out);
     if (outcome.result != export_result::exported) {

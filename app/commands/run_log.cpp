@@ -1,11 +1,14 @@
 #include "run_log.h"
 
+#include "log_export.h"
 #include "text.h"
 
 #include <QFile>
 
 #include <algorithm>
 #include <cctype>
+#include <filesystem>
+#include <system_error>
 
 namespace {
 
@@ -24,6 +27,14 @@ std::string pid_of_reply(std::string_view reply) {
 
 } // namespace
 
+std::string path_of_log(const std::string& log, const mac_toolies& toolies) {
+    std::error_code unknown;
+    if (contains(log, "/") || std::filesystem::exists(log, unknown))
+        return log;
+    const std::string logged = toolies.log_folder() + "/" + log;
+    return std::filesystem::exists(logged, unknown) ? logged : log;
+}
+
 std::optional<run_log> read_run_log(const std::string& path, const mac_toolies& toolies,
                                     std::string& error) {
     QFile file(QString::fromStdString(path));
@@ -37,6 +48,10 @@ std::optional<run_log> read_run_log(const std::string& path, const mac_toolies& 
         lines.pop_back();
     if (lines.empty()) {
         error = path + ": no samples";
+        return std::nullopt;
+    }
+    if (const auto why = why_no_run_log(path)) {
+        error = *why;
         return std::nullopt;
     }
     const std::size_t parameters = split(lines[0], ",").size();

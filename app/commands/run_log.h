@@ -15,7 +15,11 @@ struct run_log {
     std::vector<translated> last_values; // the latest reply of each column
 };
 
-// Nothing, with the file's name and line in `error`, when the file cannot be read, is empty, or a
-// line has not as many replies as the first. Replies may be any bytes.
+// The log that a user named: a file that is there by its path; a plain name that is no file here may
+// be that of a log in the log folder.
+std::string path_of_log(const std::string& log, const mac_toolies& toolies);
+
+// Nothing, with the file's name and line in `error`, when the file cannot be read, is empty, is no
+// run log, or a line has not as many replies as the first. Replies may be any bytes.
 std::optional<run_log> read_run_log(const std::string& path, const mac_toolies& toolies,
                                     std::string& error);

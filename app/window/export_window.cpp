@@ -159,6 +159,10 @@ void export_window::start_export() {
     const std::string folder = toolies_.log_folder() + "/";
     const std::string name = logs_->item(row, NAME)->text().toStdString();
     output_ = folder + log_export::output_name(name, as_txt_->isChecked());
+    if (const auto why = why_no_run_log(folder + name)) {
+        told_->set_text(*why);
+        return;
+    }
     told_->set_text({});
     progress_->setValue(0);
     progress_->show();

@@ -69,8 +69,9 @@ TEST_F(chart_command_test, a_log_of_any_bytes_is_charted_or_refused_with_its_nam
         {"~\n410C0FA0\n" + std::string(100000, 'F') + "\n", ""},
         {"410C0FA0\n410C0FA0,410D64\n", "run.gol:2: 2 replies where line 1 has 1"},
         {"410C0FA0,~\n410C0FA0,~\n\n", "run.gol:3: 1 replies where line 1 has 2"},
-        {std::string(100000, ','), "run.gol:1: more replies than there are parameters"},
+        {'~' + std::string(100000, ','), "run.gol:1: more replies than there are parameters"},
         {"", "run.gol: no samples"},
+        {"root:x:0:0:root:/root:/bin/sh\n", "run.gol:1: not a run log"},
         {"NODATA\n41\r0C0FA0\n", "run.gol: no replies for parameter 0C"},
     };
     for (const auto& c : cases) {
@@ -98,6 +99,7 @@ TEST_F(chart_command_test, wrong_arguments_and_files_have_their_status) {
         {"--pid", "0C", "-o", picture_path, "--scale", "nan"},
         {"--pid", "0C", "-o", picture_path, "--huge"},
         {"--pid", "0C", "-o", picture_path, "second.gol"},
+        {"--pid", "0C", "--pid", "0D", "--dial", "-o", picture_path},
         {"--pid", "1", "--pid", "2", "--pid", "3", "-o", picture_path}};
     for (const auto& arguments : wrong) {
         EXPECT_EQ(chart(LOG, arguments), 2);

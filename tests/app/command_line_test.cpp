@@ -23,6 +23,13 @@ TEST_F(shell, arguments_that_make_no_sense_end_with_2_and_a_reason) {
         {"send", std::string(39, '1')},
         {"--nonsense"},
         {"--adapter", "nowhere", "codes"},
+        {"--adapter", "127.0.0.1:99999", "codes"},
+        {"--adapter", "127.0.0.1:0", "codes"},
+        {"--adapter", "127.0.0.1:abc", "codes"},
+        {"--adapter", "127.0.0.1:", "codes"},
+        {"--adapter", "::1:35123", "codes"},
+        {"--adapter", "[]:35123", "codes"},
+        {"--adapter", "[::1:35123", "codes"},
         {"--adapter"},
         {"--demo", "--adapter", "a:1", "codes"},
         {"--screen", "garage"},
@@ -44,6 +51,7 @@ TEST_F(shell, arguments_that_make_no_sense_end_with_2_and_a_reason) {
         {"bluetooth-scan", "now"},
         {"live", "--cycles", "3", "--seconds", "3"},
         {"codes", "--log"},
+        {"codes", "--yes"},
         {"--record", "/proc/t", "--demo", "codes"},
         {"--record", "t", "decode", "410C1AF8"},
         {"--record"},
@@ -83,6 +91,12 @@ TEST_F(shell, the_built_in_car_is_read_and_nothing_of_the_users_is_touched) {
               0);
 }
 
+TEST_F(shell, a_count_that_differs_from_the_codes_is_told) {
+    const outcome result = run({"--demo=three_units", "codes"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.err, testing::HasSubstr("Codes read...but different no of codes recvd\n"));
+}
+
 TEST_F(shell, a_bluetooth_adapter_named_once_leaves_the_settings_alone) {
     EXPECT_EQ(run({"--bluetooth", "00:1D:A5:68:98:8B", "codes"}).status, 1);
     EXPECT_TRUE(QDir(home.path()).isEmpty());
@@ -95,7 +109,7 @@ TEST_F(shell, clearing_clears_the_car) {
     EXPECT_EQ(cleared.status, 0) << cleared.err;
     EXPECT_EQ(cleared.json().value(QLatin1String("messages")).toArray().last().toString(),
               QLatin1String("Codes cleared sucessfully!!"));
-    EXPECT_NE(cleared.err.find("Are you sure you want clear DTC Codes "), std::string::npos);
+    EXPECT_EQ(cleared.err.find("Are you sure"), std::string::npos) << "--yes has answered it";
     const outcome result = run({"--adapter", address(server), "codes", "--json"});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.text("lamp"), "OFF");
@@ -122,8 +136,8 @@ TEST_F(shell, a_link_that_fails_ends_with_1_and_the_reason) {
         const char* reason;
     } cases[] = {
         {{"--adapter", "127.0.0.1:1", "codes"}, "Couldn't connect...Please Check"},
-        {{"--adapter", "127.0.0.1:abc", "codes"}, "Couldn't connect...Please Check"},
-        {{"--adapter", "127.0.0.1:70000", "send", "AT I"}, "'AT I': Couldn't connect"},
+        {{"--adapter", "127.0.0.1:1", "clear", "--yes"}, "Couldn't connect...Please Check"},
+        {{"--adapter", "127.0.0.1:1", "send", "AT I"}, "'AT I': Couldn't connect"},
         {{"--adapter", "no-such-host.invalid:35000", "codes"}, "Couldn't connect...Please Check"},
         {{"--adapter", address(stalls), "codes"}, "Cur op timed out... Please Check/retry"},
         {{"--adapter", address(stalls), "codes", "--timeout", "0.5"}, "the time limit has passed"},
@@ -144,8 +158,8 @@ TEST_F(shell, a_recording_is_made_beside_the_command_and_never_over_a_file) {
     EXPECT_EQ(run({"--demo", "--record", talk, "send", "AT I"}).status, 0);
     const outcome refused = run({"--demo", "--record", talk, "send", "AT I"});
     EXPECT_EQ(refused.status, 2);
-    EXPECT_THAT(refused.err,
-                testing::EndsWith("kestrom: cannot record to " + talk + ": File exists\n"));
+    EXPECT_THAT(refused.err, testing::EndsWith("kestrom: cannot record to " + talk +
+                                               ": File exists; name another file\n"));
     QFile file(QString::fromStdString(talk));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray text = file.readAll();
@@ -190,7 +204,28 @@ TEST_F(shell, replies_are_decoded_without_an_adapter) {
     }
 }
 
-TEST_F(shell, a_run_log_is_exported_by_name_in_the_units_of_the_settings) {
+TEST_F(shell, output_that_is_lost_fails_and_a_reader_that_has_gone_is_no_news) {
+    for (const char* arguments : {"--help", "decode '41 0C 1A F8'", "--demo live --cycles 2"}) {
+        const auto through = [&](const char* redirection) {
+            QProcess sh;
+            sh.start(
+                QStringLiteral("bash"),
+                {QStringLiteral("-c"),
+                 QStringLiteral("exec 3>&1; { sleep 0.2; " KESTROM_PROGRAM " %1; echo $? >&3; } %2")
+                     .arg(QLatin1String(arguments), QLatin1String(redirection))});
+            EXPECT_TRUE(sh.waitForFinished());
+            return sh.readAllStandardOutput().toStdString() +
+                   sh.readAllStandardError().toStdString();
+        };
+        EXPECT_THAT(through("> /dev/full"),
+                    testing::MatchesRegex("1\n(.*\n)?kestrom: the output could not be written\n"));
+        EXPECT_THAT(through("> >(exec <&-)"),
+                    testing::AllOf(testing::StartsWith("1\n"),
+                                   testing::Not(testing::HasSubstr("kestrom: "))));
+    }
+}
+
+TEST_F(shell, a_run_log_is_exported_and_charted_by_name_in_the_units_of_the_settings) {
     const QString folder = home.filePath(QStringLiteral("kestrom/loggies/"));
     QDir().mkpath(folder);
     const auto write = [](const QString& path, const char* text) {
@@ -208,6 +243,11 @@ TEST_F(shell, a_run_log_is_exported_by_name_in_the_units_of_the_settings) {
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll(), "Vehicle Speed (kph)\n100.000000\n");
     EXPECT_EQ(run({"export", "run.gol"}).status, 1); // it is there already
+    const std::string chart = home.filePath(QStringLiteral("run.png")).toStdString();
+    EXPECT_EQ(run({"--settings", settings.toStdString(), "chart", "run.gol", "--pid", "0D",
+                   "--dial", "-o", chart})
+                  .out,
+              "0D Vehicle Speed: 100.00  Km/h\n");
 }
 
 TEST_F(shell, a_picture_of_the_filled_screen_is_saved) {

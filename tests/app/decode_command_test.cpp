@@ -6,6 +6,7 @@
 
 #include <QTemporaryDir>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sstream>
 #include <vector>
@@ -72,6 +73,8 @@ TEST_F(decode_command_test, test_result_is_scaled_with_its_unit) {
     EXPECT_EQ(printed(), "2000.000000 RPM\n");
     EXPECT_EQ(mode6({"16", "01 F4"}), 0);
     EXPECT_EQ(printed(), "10.000000 ^C\n");
+    EXPECT_EQ(mode6({"FF", "01F4"}), 0);
+    EXPECT_THAT(printed(), testing::Not(testing::EndsWith(" \n"))) << "of no known unit";
 }
 
 TEST_F(decode_command_test, senseless_arguments_are_refused_and_print_nothing) {
@@ -89,6 +92,7 @@ TEST_F(decode_command_test, senseless_arguments_are_refused_and_print_nothing) {
     for (const words& arguments : {words{},
                                    {"07"},
                                    {"07", "1", "2"},
+                                   {"16", "012345"},
                                    {"zz", "1"},
                                    {"107", "1"},
                                    {"07", "0x1G"},

@@ -63,6 +63,7 @@ TEST_F(export_command_test, tables_stand_beside_their_log_wherever_it_is) {
 TEST_F(export_command_test, refusals_have_their_reason_and_status) {
     write_log("data/loggies/run.gol");
     std::ofstream(path("empty.gol"));
+    std::ofstream(path("users.txt")) << "root:x:0:0:root,,,:/root:/bin/sh\nError? 4100.0,see\n";
     EXPECT_EQ(run({"run.gol", "--json"}), 0);
     const QByteArray text = QByteArray::fromStdString(out.str());
     const QJsonObject told = QJsonDocument::fromJson(text).object();
@@ -77,12 +78,21 @@ TEST_F(export_command_test, refusals_have_their_reason_and_status) {
                  {{"none.gol"}, 1, "none.gol: No such file"},
                  {{path("none.gol"), "--json"}, 1, "none.gol: No such file"},
                  {{path("empty.gol")}, 1, "empty.gol: no samples"},
+                 {{path("users.txt")}, 1, "users.txt:1: not a run log"},
                  {{}, 2, "--help"},
                  {{"a.gol", "b.gol"}, 2, "--help"},
                  {{"--csv", "run.gol"}, 2, "--help"}};
     for (const auto& c : cases) {
         EXPECT_EQ(run(c.arguments), c.status);
         EXPECT_THAT(err.str(), HasSubstr(c.complaint));
+    }
+    EXPECT_FALSE(std::filesystem::exists(path("users.txt.csv")));
+    // Damage, silence and other runs make no other file of it.
+    for (const char* log :
+         {"~\n", "4\x01.0C\nNO DATA\n", "zz\n41 0C 1\n", "41E50017\r\n", "CAN ERROR"}) {
+        std::filesystem::remove(path("odd.csv"));
+        std::ofstream(path("odd.gol")) << log;
+        EXPECT_EQ(run({path("odd.gol")}), 0) << err.str();
     }
 }
 

@@ -109,6 +109,15 @@ TEST_F(export_window_test, boost_counts_from_the_pressure_it_was_logged_against)
     EXPECT_EQ(value, "-11.310000"); // psi
 }
 
+TEST_F(export_window_test, what_is_no_run_log_is_refused_with_the_reason) {
+    std::ofstream(path("log_a.gol")) << "a letter, not a log\n";
+    open();
+    press_in_dialog("startExport");
+    EXPECT_THAT(told(), HasSubstr("log_a.gol:1: not a run log"));
+    EXPECT_TRUE(idle());
+    EXPECT_FALSE(std::filesystem::exists(path("log_a.csv")));
+}
+
 TEST_F(export_window_test, closing_gives_up_and_leaves_no_file) {
     write_log("log_a.gol", 20000);
     open();

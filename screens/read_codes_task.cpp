@@ -54,21 +54,26 @@ std::string last_reply_with(std::string_view marker, const std::string& replies)
     return found;
 }
 
+constexpr std::size_t SHORTEST_MESSAGE = 6, LONGEST_MESSAGE = 14; // digits
+
 // Digits of a CAN answer in one frame with the codes that it counts.
 std::size_t counted_digits(std::string_view line) {
     constexpr std::size_t HEAD = 4, CODE = 4;
     return HEAD + CODE * mac_toolies::convertStr2Byte(slice(line, 2, 2));
 }
 
+// A frame may be filled up; what is longer than a frame is an adapter's own putting together, or
+// another answer has run into it.
 bool holds_its_codes(std::string_view line) {
-    return line.size() >= counted_digits(line) && line.size() % 2 == 0;
+    const std::size_t counted = counted_digits(line);
+    return line.size() == counted ||
+           (line.size() > counted && line.size() <= LONGEST_MESSAGE && line.size() % 2 == 0);
 }
 
 // On the older buses: without the rest of a code whose other digits are lost; empty for a line that
 // is longer than a message, since another answer has run into it, and for a shorter one that is
 // just what CAN would send, since then the bus is in doubt.
 std::string whole_codes(const std::string& line) {
-    constexpr std::size_t SHORTEST_MESSAGE = 6, LONGEST_MESSAGE = 14; // digits
     if (line.size() < SHORTEST_MESSAGE || line.size() > LONGEST_MESSAGE ||
         (line.size() < LONGEST_MESSAGE && line.size() == counted_digits(line)))
         return {};

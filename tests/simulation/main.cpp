@@ -52,7 +52,7 @@ wishes read_wishes(int argc, char** argv) {
     return asked;
 }
 
-constexpr unsigned LONGEST_SESSION = 300; // seconds, under the sanitizers on a busy machine
+constexpr unsigned LONGEST_SESSION = 900; // seconds, under the sanitizers on a busy machine
 
 const char* program = "";
 std::uint64_t seed_under_way = 0;

@@ -2,6 +2,7 @@
 #include "fuzz_one.h"
 #include "mac_toolies.h"
 #include "text.h"
+#include "trouble_codes.h"
 
 #include <algorithm>
 
@@ -11,7 +12,10 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
     const auto lines = std::size_t(std::count(reply.begin(), reply.end(), '\r')) + 1;
     for (const std::string_view mode : {"03", "07", "0A"})
         for (const bool is_can : {false, true}) {
-            const auto codes = mac_toolies::decode_trouble_codes(mode, reply, is_can);
+            const bus_evidence bus{is_can ? bus_form::can : bus_form::older, bus_source::headers};
+            const auto [codes, answered, no_data, unread] = read_codes(mode, reply, bus);
+            REQUIRE(answered || codes.empty());
+            REQUIRE(answered || no_data || !unread.empty());
             REQUIRE(codes.size() <= bytes.size() / 4 + 3 * lines);
             for (const std::string& code : codes) {
                 REQUIRE(code.size() == 5);
@@ -19,8 +23,7 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
                 REQUIRE(code[1] >= '0' && code[1] <= '3');
                 REQUIRE(is_hex(code.substr(2)));
             }
-            REQUIRE(mac_toolies::decode_trouble_codes(mode, without(reply, " >\n"), is_can) ==
-                    codes);
+            REQUIRE(read_codes(mode, without(reply, " \n"), bus).codes == codes);
         }
     mac_toolies::pull_DTC_code(reply);
     return 0;

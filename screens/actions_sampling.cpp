@@ -49,13 +49,6 @@ std::string first_line(const std::string& text) {
     return text;
 }
 
-// An answer to a service 01 request for another parameter.
-bool answers_another(std::string_view reply, std::string_view pid) {
-    const std::string_view answered = slice(reply, 2, 2);
-    return reply.starts_with("41") && is_hex(answered) && answered.size() == 2 &&
-           !answers_parameter(reply, pid);
-}
-
 // Of several replies that came in one piece the one that answers the request, if any does: what
 // stands before it was left over.
 std::string reply_to(std::string_view pid, const std::string& replies) {

@@ -2,11 +2,11 @@
 
 #include "globalVars.h"
 #include "obd_screen.h"
-#include "reply_lines.h"
+#include "reading.h"
 #include "text.h"
 
+#include <algorithm>
 #include <exception>
-#include <set>
 
 namespace {
 
@@ -31,24 +31,12 @@ constexpr int MOST_FIXED_PROTOCOLS = 10;
 constexpr std::string_view NO_INTERFACE =
     "Unable to connect to interface ... Timed out .. Try again";
 
-// How many units answered "01 00": the lines that hold its marker. The prompt and search notices
-// are lines of the reply as well, but no units.
-int control_units_in(std::string_view bare_reply) {
-    std::set<std::string> answers;
-    for (const std::string& line :
-         mac_toolies::Pull_line_into_array(without(bare_reply, "\n"), "\r"))
-        if (contains(line, "4100"))
-            answers.insert(line);
-    return static_cast<int>(answers.size());
-}
-
-// Which bus the first whole answer to "01 00" came from.
-void note_bus_form(std::string_view bare_reply) {
-    for (const std::string& line : reply_lines(bare_reply))
-        if (is_hex(line) && contains(line, "4100")) {
-            g_bus_form = has_can_header(line, "4100") ? bus_form::can : bus_form::older;
-            return;
-        }
+// An adapter that says everything twice has not more units.
+int different_answers(const reading& read) {
+    int count = 0;
+    for (auto one = read.answers.begin(); one != read.answers.end(); ++one)
+        count += std::find(read.answers.begin(), one, *one) == one;
+    return count;
 }
 
 } // namespace
@@ -269,8 +257,10 @@ void adapter_handshake::pids_answered(const pid_group& group) {
         const std::string bare = without(without(reply, " "), ">");
         mac_toolies::handle_00_replies(bare, group.number);
         if (first) {
-            note_bus_form(bare);
-            const int units = control_units_in(bare);
+            const reading read = read_reply("0100", bare);
+            if (read.bus.source == bus_source::headers)
+                g_bus_form = read.bus.form;
+            const int units = different_answers(read);
             screen_.cur_err_msg = "No of ECUS: " + std::to_string(units);
             screen_.show_control_units(units);
         }

@@ -45,6 +45,7 @@ void readCodes::clear_answered() {
     }
     codesReadArray.clear();
     readinessFlagsArray.clear();
+    unread_.clear();
     view_->show_codes(codesReadArray);
     view_->show_readiness(readinessFlagsArray);
     succeeded_ = true;

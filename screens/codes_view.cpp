@@ -8,6 +8,8 @@
 #include "rows_model.h"
 #include "status_line.h"
 #include "text.h"
+#include "unread_text.h"
+#include "warning_label.h"
 
 #include <QAction>
 #include <QFontDatabase>
@@ -52,6 +54,10 @@ codes_view::codes_view(Ks_lite_delegate& delegate) : delegate_(delegate) {
     waity_ = bones.waity;
     build_buttons(bones.title_row);
     build_cards(bones.content);
+    unread_ = new warning_label(root());
+    unread_->setObjectName(QStringLiteral("unreadMark"));
+    unread_->setWordWrap(true);
+    bones.content->addWidget(unread_);
     build_tables(bones.content);
     reset_labels();
     set_interface("");
@@ -189,7 +195,6 @@ void codes_view::set_lamp(const std::string& text) {
 
 void codes_view::set_count(const std::string& text) {
     count_card_->set_value(text);
-    no_codes_->setText(ui_text(delegate_, text == "0" ? "ui_codes_none" : "ui_codes_empty"));
 }
 
 void codes_view::set_read_on(const std::string& text) {
@@ -207,12 +212,26 @@ void codes_view::set_extra_info(const std::string& text) {
     extra_card_->set_labelled_value(text);
 }
 
-void codes_view::reset_labels() {
+void codes_view::forget_status() {
     lamp_.clear();
     read_on_.clear();
     lamp_card_->set_resting("MIL Lamp:");
     count_card_->set_resting("No of DTC Codes:");
-    no_codes_->setText(ui_text(delegate_, "ui_codes_empty"));
     read_on_card_->set_resting("Read on");
+    no_codes_->setText(ui_text(delegate_, "ui_codes_empty"));
+    unread_->hide();
+}
+
+void codes_view::reset_labels() {
+    forget_status();
     extra_card_->set_resting("");
+}
+
+void codes_view::show_result(const unread_pieces& unread) {
+    no_codes_->setText(ui_text(delegate_, unread.empty() ? "ui_codes_none" : "ui_codes_unread"));
+    const std::string causes = unread_causes(delegate_.doors().resources, unread);
+    const QString told = ui_text(delegate_, "ui_unread").arg(display_text(causes));
+    unread_->setText(told);
+    unread_->setAccessibleName(told);
+    unread_->setVisible(!unread.empty());
 }

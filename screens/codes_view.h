@@ -12,6 +12,7 @@
 
 class empty_hint;
 class fact_card;
+class warning_label;
 class rows_model;
 class QTableView;
 
@@ -35,8 +36,12 @@ class codes_view {
     void set_interface(const std::string& text);
     void set_protocol(const std::string& text);
     void set_extra_info(const std::string& text);
+    // What the last reading told of lamp, count and codes.
+    void forget_status();
     // As after a clear.
     void reset_labels();
+    // The end of a reading: says that there are no codes, or what is missing.
+    void show_result(const unread_pieces& unread);
 
     std::string lamp() const { return lamp_; }
     std::string read_on() const { return read_on_; }
@@ -61,6 +66,7 @@ class codes_view {
     QTableView* readinessCodesTableView_ = nullptr;
 
     empty_hint* no_codes_ = nullptr;
+    warning_label* unread_ = nullptr;
 
     fact_card* lamp_card_ = nullptr;
     fact_card* count_card_ = nullptr;

@@ -174,9 +174,9 @@ std::span<const run_choice> run_choices() {
 
 std::vector<std::string> oxygen_sensors_in(std::string_view reply) {
     constexpr unsigned FIRST_SENSOR_PID = 0x14;
-    const std::string_view bits = slice(reply, 4, 2);
+    const std::string_view bits = slice(answer_in(reply), 4, 2);
     std::vector<std::string> sensors;
-    if (!reply.starts_with("41") || bits.size() != 2 || !is_hex(bits))
+    if (bits.empty())
         return sensors;
     const std::uint32_t present = mac_toolies::convertStr2Byte(bits);
     for (unsigned sensor = 0; sensor < 8; ++sensor)

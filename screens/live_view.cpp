@@ -9,6 +9,7 @@
 #include "live_runs.h"
 #include "status_line.h"
 #include "thumbnail_strip.h"
+#include "warning_label.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -27,26 +28,6 @@ constexpr int BUTTON_SIZE = 6 * GRID;
 constexpr double CELL_SHARE = 0.25; // of the large chart's width
 constexpr int CELL_GAP = 2;
 constexpr int SMALLEST_CELL = 83;
-
-// A text that stays in sight: heavy, with an amber bar before it.
-class warning_label final : public QLabel {
-  public:
-    explicit warning_label(QWidget* parent) : QLabel(parent) {
-        setContentsMargins(GRID + BAR, 0, 0, 0);
-        QFont heavy = font();
-        heavy.setWeight(QFont::DemiBold);
-        setFont(heavy);
-    }
-
-  protected:
-    void paintEvent(QPaintEvent* event) override {
-        QLabel::paintEvent(event);
-        QPainter(this).fillRect(0, 0, BAR, height(), QColor(240, 140, 0));
-    }
-
-  private:
-    static constexpr int BAR = 4;
-};
 
 // As large as its round picture, which ends where the other rows do.
 class round_button final : public QToolButton {

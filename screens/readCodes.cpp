@@ -35,9 +35,21 @@ void readCodes::awakeFromNib() {
     set_status_msg("");
 }
 
-void readCodes::readCodes_clicked() {
+// A reading that fails must leave none of the one before.
+void readCodes::forget_last_reading() {
     codesReadArray.clear();
+    readinessFlagsArray.clear();
+    unread_.clear();
+    no_of_codes = 0;
+    status_told_ = count_known_ = codes_told_ = false;
+    status_bus_ = bus_form::unknown;
     view_->show_codes(codesReadArray);
+    view_->show_readiness(readinessFlagsArray);
+    view_->forget_status();
+}
+
+void readCodes::readCodes_clicked() {
+    forget_last_reading();
     start_task(TASK_READ_CODES, "Starting Read Codes");
 }
 
@@ -136,8 +148,10 @@ std::string readCodes::look_upCode(std::string_view code, const text_dictionary&
 codes_report readCodes::report() const {
     codes_report found;
     found.lamp = view_->lamp();
-    if (status_told_)
+    if (count_known_)
         found.count = no_of_codes;
+    found.codes_told = codes_told_;
+    found.unread = unread_;
     found.read_on = view_->read_on();
     found.interface = trimmed(std::string_view(g_cur_interface), " \r\n>");
     found.protocol = trimmed(std::string_view(g_cur_protocol), " \r\n>");

@@ -5,7 +5,9 @@
 #pragma once
 
 #include "codes_handshake.h"
+#include "constantes.h"
 #include "obd_screen.h"
+#include "unread.h"
 
 #include <array>
 #include <memory>
@@ -25,6 +27,8 @@ struct codes_report {
     std::string interface;
     std::string protocol;
     int ecus = 0;
+    bool codes_told = false; // the list is what the car told, as far as nothing is unread
+    unread_pieces unread;
     std::vector<code_row> codes;
     std::vector<readiness_flag> readiness;
 };
@@ -57,6 +61,7 @@ class readCodes final : public obd_screen {
   private:
     void awakeFromNib();
     void start_task(int task, const std::string& status);
+    void forget_last_reading();
 
     // read_codes_task.cpp
     void work_out_read_codes(int step);
@@ -65,11 +70,11 @@ class readCodes final : public obd_screen {
     void retry_headers();
     void end_by_timeout();
     void status_answered();
-    void decode_status(const std::string& screened_reply);
+    void decode_status();
     void codes_answered();
     void refresh_readiness();
     std::vector<std::string> work_reply_to_error_codes_pid(std::string_view mode,
-                                                           std::string_view this_reply) const;
+                                                           std::string_view this_reply);
 
     // clear_codes_task.cpp
     void work_out_clear_codes(int step);
@@ -85,8 +90,11 @@ class readCodes final : public obd_screen {
     int no_of_codes = 0;
 
     int units_answered_ = 0;
-    bool status_told_ = false;              // a unit answered "01 01" in this task
-    bool status_answer_was_can_ = false;    // by its headers
+    bool status_told_ = false; // a unit answered "01 01" in this task
+    bool count_known_ = false; // and so did all others, as far as one can tell
+    bus_form status_bus_ = bus_form::unknown; // by its headers
+    unread_pieces unread_;                    // of this task's replies
+    bool codes_told_ = false;
     bool longer_timeout_asked_for_ = false; // "AT ST FF" is tried once a task
     int headers_repeated_ = 0;
     bool succeeded_ = false;

@@ -1,31 +1,37 @@
+#include "header_forms.h"
 #include "mac_toolies.h"
-#include "reply_lines.h"
 #include "text.h"
 
 #include <algorithm>
 
 namespace {
 
-// The last digits of the sender's address, as J1979 gives them out.
-std::string controller_name(std::string_view address, std::string_view shown_otherwise) {
-    if (address == "10")
-        return "Engine";
-    if (address == "18")
-        return "Transmission";
-    return "ECU=" + std::string(shown_otherwise);
+// Whether `marker` stands where data begins behind a 29-bit CAN header (eight digits, then a
+// two-digit byte count), and `other` does not where it begins behind a three-byte header.
+bool marker_behind_29_bit_header(std::string_view line, std::string_view marker,
+                                 std::string_view other) {
+    return slice(line, 10, 4) == marker && slice(line, 6, 4) != other;
+}
+
+// The markers that rule a line out are the ones that stand in the field, two of them not their own.
+bool has_29_bit_header(std::string_view line) {
+    static constexpr struct {
+        std::string_view marker;
+        std::string_view other;
+    } TESTS[] = {{"4100", "4100"}, {"4101", "4110"}, {"4120", "4120"}, {"4130", "4140"}};
+    return std::ranges::any_of(TESTS, [&](const auto& test) {
+        return marker_behind_29_bit_header(line, test.marker, test.other);
+    });
 }
 
 } // namespace
 
 std::string mac_toolies::pull_ECU(std::string_view line) {
-    if (line.starts_with("7E8"))
-        return "Engine";
-    if (line.starts_with("7E9"))
-        return "Transmission";
     if (line.starts_with("7E"))
-        return "ECU=" + std::string(line.substr(0, 3));
+        return unit_name({header_form::can_11, line.substr(0, 3), {}});
     const std::string_view third_byte = slice(line, 4, 2);
-    return controller_name(has_29_bit_header(line) ? slice(line, 6, 2) : third_byte, third_byte);
+    return unit_name_of_address(has_29_bit_header(line) ? slice(line, 6, 2) : third_byte,
+                                third_byte);
 }
 
 std::optional<std::string> mac_toolies::pull_PID_msg(std::string_view line,

@@ -2,6 +2,7 @@
 
 #include "fixed_decimals.h"
 #include "mac_toolies.h"
+#include "notices.h"
 #include "sample_reply.h"
 #include "text.h"
 

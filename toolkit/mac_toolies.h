@@ -108,11 +108,10 @@ class mac_toolies {
     static bool is_this_code_available(std::string_view mask, std::string_view this_pid, int this_pid_set);
 
     // --- trouble_codes.cpp ------------------------------------------------------------------------------
-    // Whether the reply is in CAN form is taken from g_cur_protocol.
+    // By the bus that g_cur_protocol names, an older bus's short lines padded. What could not be read is told
+    // by read_codes (trouble_codes.h).
     static std::vector<std::string> work_reply_to_error_codes_pid(std::string_view mode,
                                                                   std::string_view this_reply);
-    static std::vector<std::string> decode_trouble_codes(std::string_view mode, std::string_view this_reply,
-                                                         bool is_can);
     static std::string pull_DTC_code(std::string_view four_digits);
 
     // --- readiness.cpp ----------------------------------------------------------------------------------
@@ -156,6 +155,9 @@ class mac_toolies {
     // The name of a monitor or test identifier; "N/A" outside the table.
     std::string grab_CAN_mode6_OBDMID_TESTID_description(std::string_view identifier, bool is_OBDMID) const;
     static std::string work_out_vin(std::string_view reply);
+    // Whether what was worked out of that reply is a whole number: 17 characters of ISO 3779, out of
+    // undamaged lines and frames in their order.
+    static bool is_whole_vin(std::string_view vin, std::string_view reply);
 
     // --- run_logs.cpp: names of run logs ----------------------------------------------------------------
     // The local date and time, in the order that goes with the user's units, with the user's month names and

@@ -1,24 +1,12 @@
 #include "globalVars.h"
 #include "mac_toolies.h"
-#include "reply_lines.h"
+#include "reading.h"
 #include "text.h"
 
 namespace {
 
-constexpr std::size_t MASK_DIGITS = 8;
-
-// The bitmap in a line with its header on; nothing in a line that holds none.
-std::optional<std::string_view> mask_of(std::string_view line) {
-    std::size_t data = line.starts_with("7E") ? 5 : 6;
-    if (data == 6)
-        for (const std::string_view marker : {"4100", "4120", "4140", "4160"})
-            if (marker_behind_29_bit_header(line, marker, marker))
-                data = 10;
-    const std::string_view mask = slice(line, data + 4, MASK_DIGITS);
-    if (slice(line, data, 2) != "41" || mask.size() < MASK_DIGITS)
-        return std::nullopt;
-    return mask;
-}
+constexpr std::size_t MASK_AT = 4, MASK_DIGITS = 8; // behind "41" and the PID
+constexpr unsigned PIDS_OF_A_GROUP = 0x20;
 
 void store_mask(int group, std::string_view mask) {
     // What lies beyond PID 60 is never kept.
@@ -33,20 +21,23 @@ void store_mask(int group, std::string_view mask) {
 // The last engine line wins. Without one it is the first line that holds a mask, whoever sent it;
 // masks of several units are never combined.
 void mac_toolies::handle_00_replies(std::string_view reply, int this_pid_group) {
-    const std::vector<std::string> lines = reply_lines(reply);
-    std::optional<std::string_view> engine_mask, first_mask;
-    bool engine_answered = false;
-    for (const std::string& line : lines) {
-        const auto mask = mask_of(line);
-        if (pull_ECU(line) == "Engine") {
-            engine_answered = true;
-            engine_mask = mask ? mask : engine_mask;
-        } else if (!first_mask) {
-            first_mask = mask;
-        }
+    if (this_pid_group < 0 || this_pid_group > 7)
+        return;
+    const std::string request =
+        "01" + convertByte2HexStr(PIDS_OF_A_GROUP * static_cast<unsigned>(this_pid_group));
+    std::string_view mask;
+    bool of_engine = false;
+    const reading read = read_reply(request, reply);
+    for (const ecu_answer& one : read.answers) {
+        const bool engine = one.unit == "Engine";
+        if (one.data.size() < MASK_AT + MASK_DIGITS || (!engine && !mask.empty()))
+            continue;
+        mask = slice(std::string_view(one.data), MASK_AT, MASK_DIGITS);
+        of_engine = of_engine || engine;
     }
-    if (const auto mask = engine_answered ? engine_mask : first_mask)
-        store_mask(this_pid_group, *mask);
+    // Another unit's counts only when the engine's is not among what could not be read.
+    if (!mask.empty() && (of_engine || read.unread.empty()))
+        store_mask(this_pid_group, mask);
 }
 
 bool mac_toolies::is_this_code_available(std::string_view mask, std::string_view this_pid,

@@ -2,6 +2,9 @@
 #include "reply_lines.h"
 #include "text.h"
 
+#include <algorithm>
+#include <cctype>
+
 namespace {
 
 constexpr std::size_t LONGEST_VIN = 39; // the buffer's 40 bytes less the terminator
@@ -40,6 +43,12 @@ std::string vin_of_frames(std::string_view reply) {
     return vin;
 }
 
+// The letters and digits of ISO 3779.
+bool may_stand_in_vin(char c) {
+    return std::isdigit(static_cast<unsigned char>(c)) ||
+           (c >= 'A' && c <= 'Z' && c != 'I' && c != 'O' && c != 'Q');
+}
+
 } // namespace
 
 // SAE J1979 service 09, info type 02.
@@ -51,4 +60,19 @@ std::string mac_toolies::work_out_vin(std::string_view reply) {
     std::string vin = contains(text, ":") ? vin_of_frames(text) : vin_of_lines(lines);
     vin = vin.substr(0, LONGEST_VIN);
     return vin.empty() ? std::string(NO_VIN) : vin;
+}
+
+bool mac_toolies::is_whole_vin(std::string_view vin, std::string_view reply) {
+    constexpr std::size_t VIN_LENGTH = 17;
+    std::string frames, in_order;
+    for (const std::string& line : reply_lines(reply)) {
+        if (contains(line, "<"))
+            return false;
+        if (is_numbered_frame(line)) {
+            in_order += convertByte2HexStr(static_cast<unsigned>(in_order.size()))[1];
+            frames += line[0];
+        }
+    }
+    return frames == in_order && vin.size() == VIN_LENGTH &&
+           std::ranges::all_of(vin, may_stand_in_vin);
 }

@@ -10,6 +10,7 @@
 #include "reply_accumulator.h"
 #include "report_printer.h"
 #include "text.h"
+#include "unread_text.h"
 
 #include <cstdio>
 #include <unistd.h>
@@ -151,8 +152,12 @@ void command_runner::look() {
 
 void command_runner::finish_codes() {
     // A failure that was only told in a message box leaves an older text on the status line.
-    const std::string& told = messages_.last_printed();
-    end(codes_->succeeded(), !told.empty() ? told : statuses_.empty() ? "" : statuses_.back());
+    std::string why = messages_.last_printed();
+    if (why.empty())
+        why = unread_causes(delegate_.doors().resources, codes_->report().unread);
+    if (why.empty() && !statuses_.empty())
+        why = statuses_.back();
+    end(codes_->succeeded(), why);
 }
 
 void command_runner::finish_live() {
@@ -184,10 +189,10 @@ void command_runner::end(bool succeeded, const std::string& why) {
             print_codes_json(codes_->report(), log);
         else
             print_replies_json(asked_.arguments, replies_, log);
-    } else if (codes_ && succeeded && asked_.command == "codes") {
-        print_codes_text(codes_->report());
-        const codes_report report = codes_->report();
-        if (report.count && static_cast<std::size_t>(*report.count) != report.codes.size())
+    } else if (const codes_report report = codes_ ? codes_->report() : codes_report{};
+               report.codes_told) {
+        print_codes_text(report);
+        if (succeeded && report.count && static_cast<std::size_t>(*report.count) != report.codes.size())
             std::fprintf(stderr, "kestrom: %s\n", printable(codes_->status()).c_str());
     } else if (codes_ && succeeded) {
         std::printf("%s\n", codes_->status().c_str());

@@ -12,7 +12,7 @@ constexpr command_row COMMANDS[] = {
     {"codes", 0, 0, talks_to::car, "codes [--json]",
      "read lamp, trouble codes and readiness monitors",
      R"(With --json: one object, described in docs/json/codes.schema.json.
-Exit status: 0 when the car told its codes, 1 when it did not.
+Exit status: 0 when the car told its codes, 1 when it did not or a part could not be read.
 
 Examples
   kestrom codes                                       the adapter of the settings
@@ -62,7 +62,7 @@ Examples
      "what replies to service 01 requests mean: text and number",
      R"(A line for each reply: the text, a tab, the number. A reply may write its line ends as \r and \n.
 Without --units those of the settings hold. With --json: docs/json/decode.schema.json.
-Exit status: 0 success, 1 when a text is no reply of an adapter, 2 the arguments make no sense.
+Exit status: 0 success, 1 when a reply holds no value or is none, 2 the arguments make no sense.
 
 Examples
   kestrom decode "41 0C 1A F8" --units metric
@@ -71,7 +71,7 @@ Examples
     {"vin", 0, MANY, talks_to::nobody, "vin REPLY [--json]",
      "the vehicle identification number in a reply to 09 02",
      R"(Prints N/A when there is none in it. With --json: docs/json/vin.schema.json.
-Exit status: 0 success, 2 the arguments make no sense.
+Exit status: 0 success, 1 when it is not whole, 2 the arguments make no sense.
 
 Example
   kestrom vin "014\r0:490201314731\r1:4A4734554A35\r2:3643313132323330\r>"

@@ -2,6 +2,7 @@
 
 #include "display_text.h"
 #include "text.h"
+#include "unread_text.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -42,6 +43,11 @@ void print_codes_json(const codes_report& report, const conversation_log& log) {
         readiness.append(QJsonObject{{QStringLiteral("state"), json_text(flag.state)},
                                      {QStringLiteral("monitor"), json_text(trimmed(flag.monitor))},
                                      {QStringLiteral("kind"), json_text(flag.kind)}});
+    QJsonArray unread;
+    for (const unread_piece& one : report.unread)
+        unread.append(QJsonObject{
+            {QStringLiteral("kind"), json_text(unread_name(one.kind))},
+            {QStringLiteral("text"), json_text(one.text)}});
     print_json({{QStringLiteral("lamp"), json_text(report.lamp)},
                 {QStringLiteral("count"), report.count ? QJsonValue(*report.count) : QJsonValue()},
                 {QStringLiteral("read_on"), json_text(report.read_on)},
@@ -49,6 +55,8 @@ void print_codes_json(const codes_report& report, const conversation_log& log) {
                 {QStringLiteral("protocol"), json_text(report.protocol)},
                 {QStringLiteral("ecus"), report.ecus},
                 {QStringLiteral("codes"), codes},
+                {QStringLiteral("unread_count"), static_cast<int>(report.unread.size())},
+                {QStringLiteral("unread"), unread},
                 {QStringLiteral("readiness"), readiness}},
                log);
 }
@@ -63,7 +71,9 @@ void print_codes_text(const codes_report& report) {
     std::printf("\nTrouble codes\n");
     for (const code_row& row : report.codes)
         std::printf("  %-7s%s\n", row[0].c_str(), std::string(trimmed(row[1])).c_str());
-    if (report.codes.empty())
+    if (!report.unread.empty())
+        std::printf("  not read whole\n");
+    else if (report.codes.empty())
         std::printf("  none\n");
     std::printf("\nReadiness monitors\n");
     for (const readiness_flag& flag : report.readiness)

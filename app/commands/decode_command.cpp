@@ -2,7 +2,7 @@
 
 #include "constantes.h"
 #include "mac_toolies.h"
-#include "sample_reply.h"
+#include "notices.h"
 #include "text.h"
 #include "user_defaults.h"
 
@@ -120,11 +120,13 @@ int run_decode(std::span<const std::string> arguments, const mac_toolies& toolie
     if (request.units)
         units.set_boolean(KS_METRIC_UNITS_KEY, *request.units == "metric");
     QJsonArray decoded;
-    std::string nonsense;
+    std::string nonsense, unread;
     for (const std::string& reply : request.replies) {
         const auto [text, value] = toolies.translate_once(reply);
-        if (text == NO_ANSWER && !may_be_reply(reply))
-            nonsense += (nonsense.empty() ? "'" : ", '") + printable(reply) + "'";
+        if (text == NO_ANSWER) {
+            std::string& list = may_be_reply(reply) ? unread : nonsense;
+            list += (list.empty() ? "'" : ", '") + printable(reply) + "'";
+        }
         if (request.json)
             decoded.append(QJsonObject{{QStringLiteral("reply"), json_text(reply)},
                                        {QStringLiteral("text"), json_text(text)},
@@ -134,10 +136,11 @@ int run_decode(std::span<const std::string> arguments, const mac_toolies& toolie
     }
     if (request.json)
         done(out, {{QStringLiteral("replies"), decoded}});
-    if (nonsense.empty())
-        return 0;
-    err << "kestrom: no reply to a service 01 request: " << nonsense << '\n';
-    return FAILED_STATUS;
+    if (!nonsense.empty())
+        err << "kestrom: no reply to a service 01 request: " << nonsense << '\n';
+    if (!unread.empty())
+        err << "kestrom: holds no value: " << unread << '\n';
+    return nonsense.empty() && unread.empty() ? 0 : FAILED_STATUS;
 }
 
 int run_vin(std::span<const std::string> given, const mac_toolies& toolies, std::ostream& out,
@@ -146,12 +149,17 @@ int run_vin(std::span<const std::string> given, const mac_toolies& toolies, std:
     const bool json = take_json(arguments);
     if (arguments.size() != 1)
         return refuse(err, "vin takes one reply", "vin");
-    const std::string vin = toolies.work_out_vin(reply_of(arguments[0]));
+    const std::string reply = reply_of(arguments[0]);
+    const std::string vin = toolies.work_out_vin(reply);
     if (json)
-        return done(out, {{QStringLiteral("vin"),
-                           vin == "N/A" ? QJsonValue() : QJsonValue(json_text(vin))}});
-    out << printable(vin) << '\n';
-    return 0;
+        done(out, {{QStringLiteral("vin"),
+                    vin == "N/A" ? QJsonValue() : QJsonValue(json_text(vin))}});
+    else
+        out << printable(vin) << '\n';
+    if (toolies.is_whole_vin(vin, reply))
+        return 0;
+    err << "kestrom: the reply holds no whole identification number (17 characters)\n";
+    return FAILED_STATUS;
 }
 
 int run_mode6(std::span<const std::string> given, const mac_toolies& toolies, std::ostream& out,

@@ -177,6 +177,10 @@ Bitte prüfen Sie:
         <source></source>
         <translation>Das Auto meldet keine gespeicherten Fehlercodes.</translation>
     </message>
+    <message id="ui_codes_unread">
+        <source></source>
+        <translation>Die Fehlercodes konnten nicht vollständig gelesen werden.</translation>
+    </message>
     <message id="ui_col_state">
         <source></source>
         <translation>Stand</translation>
@@ -607,6 +611,46 @@ Freie Software unter der MIT-Lizenz.
     <message id="ui_run_boost">
         <source></source>
         <translation>Ladedruck</translation>
+    </message>
+    <message id="ui_unread">
+        <source></source>
+        <translation>Nicht alles, was das Auto gesendet hat, konnte gelesen werden: %1. Es können Fehlercodes fehlen: Lesen Sie noch einmal.</translation>
+    </message>
+    <message id="unread_adapter_notice">
+        <source></source>
+        <translation>der Adapter meldete %1</translation>
+    </message>
+    <message id="unread_damaged_line">
+        <source></source>
+        <translation>eine beschädigte Zeile</translation>
+    </message>
+    <message id="unread_not_understood">
+        <source></source>
+        <translation>eine Zeile, die keine Antwort ist</translation>
+    </message>
+    <message id="unread_broken_off">
+        <source></source>
+        <translation>eine abgebrochene Antwort</translation>
+    </message>
+    <message id="unread_too_long">
+        <source></source>
+        <translation>eine Antwort, an der etwas Fremdes hängt</translation>
+    </message>
+    <message id="unread_frames_unclear">
+        <source></source>
+        <translation>Rahmen, die nicht zusammenpassen</translation>
+    </message>
+    <message id="unread_refused">
+        <source></source>
+        <translation>ein Steuergerät lehnte ab (%1)</translation>
+    </message>
+    <message id="unread_no_answer">
+        <source></source>
+        <translation>das Auto antwortete nicht</translation>
+    </message>
+    <message id="unread_left_out">
+        <source></source>
+        <translation>das Auto sandte auch %1, das die Liste auslässt</translation>
     </message>
 </context>
 </TS>

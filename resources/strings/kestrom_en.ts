@@ -177,6 +177,10 @@ Please check:
         <source></source>
         <translation>The car reports no stored trouble codes.</translation>
     </message>
+    <message id="ui_codes_unread">
+        <source></source>
+        <translation>The trouble codes could not be read whole.</translation>
+    </message>
     <message id="ui_col_state">
         <source></source>
         <translation>State</translation>
@@ -607,6 +611,46 @@ Free software under the MIT licence.
     <message id="ui_run_boost">
         <source></source>
         <translation>Boost</translation>
+    </message>
+    <message id="ui_unread">
+        <source></source>
+        <translation>Not everything that the car sent could be read: %1. Trouble codes may be missing: read again.</translation>
+    </message>
+    <message id="unread_adapter_notice">
+        <source></source>
+        <translation>the adapter said %1</translation>
+    </message>
+    <message id="unread_damaged_line">
+        <source></source>
+        <translation>a damaged line</translation>
+    </message>
+    <message id="unread_not_understood">
+        <source></source>
+        <translation>a line that is no answer</translation>
+    </message>
+    <message id="unread_broken_off">
+        <source></source>
+        <translation>an answer that broke off</translation>
+    </message>
+    <message id="unread_too_long">
+        <source></source>
+        <translation>an answer with something behind it that does not belong to it</translation>
+    </message>
+    <message id="unread_frames_unclear">
+        <source></source>
+        <translation>frames that do not fit together</translation>
+    </message>
+    <message id="unread_refused">
+        <source></source>
+        <translation>a control unit refused (%1)</translation>
+    </message>
+    <message id="unread_no_answer">
+        <source></source>
+        <translation>the car did not answer</translation>
+    </message>
+    <message id="unread_left_out">
+        <source></source>
+        <translation>the car also sent %1, which the list leaves out</translation>
     </message>
 </context>
 </TS>

@@ -177,6 +177,10 @@ Compruebe que:
         <source></source>
         <translation>El coche no comunica ningún código de avería guardado.</translation>
     </message>
+    <message id="ui_codes_unread">
+        <source></source>
+        <translation>No se pudieron leer completos los códigos de avería.</translation>
+    </message>
     <message id="ui_col_state">
         <source></source>
         <translation>Estado</translation>
@@ -607,6 +611,46 @@ Software libre con licencia MIT.
     <message id="ui_run_boost">
         <source></source>
         <translation>Sobrealimentación</translation>
+    </message>
+    <message id="ui_unread">
+        <source></source>
+        <translation>No se pudo leer todo lo que envió el coche: %1. Pueden faltar códigos de avería: lea de nuevo.</translation>
+    </message>
+    <message id="unread_adapter_notice">
+        <source></source>
+        <translation>el adaptador comunicó %1</translation>
+    </message>
+    <message id="unread_damaged_line">
+        <source></source>
+        <translation>una línea dañada</translation>
+    </message>
+    <message id="unread_not_understood">
+        <source></source>
+        <translation>una línea que no es una respuesta</translation>
+    </message>
+    <message id="unread_broken_off">
+        <source></source>
+        <translation>una respuesta incompleta</translation>
+    </message>
+    <message id="unread_too_long">
+        <source></source>
+        <translation>una respuesta seguida de datos ajenos</translation>
+    </message>
+    <message id="unread_frames_unclear">
+        <source></source>
+        <translation>tramas que no encajan</translation>
+    </message>
+    <message id="unread_refused">
+        <source></source>
+        <translation>una centralita se negó (%1)</translation>
+    </message>
+    <message id="unread_no_answer">
+        <source></source>
+        <translation>el coche no respondió</translation>
+    </message>
+    <message id="unread_left_out">
+        <source></source>
+        <translation>el coche también envió %1, que la lista omite</translation>
     </message>
 </context>
 </TS>

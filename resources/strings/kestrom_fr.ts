@@ -177,6 +177,10 @@ Veuillez vérifier que :
         <source></source>
         <translation>La voiture ne signale aucun code défaut enregistré.</translation>
     </message>
+    <message id="ui_codes_unread">
+        <source></source>
+        <translation>Les codes défaut n’ont pas pu être lus en entier.</translation>
+    </message>
     <message id="ui_col_state">
         <source></source>
         <translation>État</translation>
@@ -607,6 +611,46 @@ Logiciel libre sous licence MIT.
     <message id="ui_run_boost">
         <source></source>
         <translation>Suralimentation</translation>
+    </message>
+    <message id="ui_unread">
+        <source></source>
+        <translation>Tout ce que la voiture a envoyé n’a pas pu être lu : %1. Des codes défaut peuvent manquer : relisez.</translation>
+    </message>
+    <message id="unread_adapter_notice">
+        <source></source>
+        <translation>l’adaptateur a signalé %1</translation>
+    </message>
+    <message id="unread_damaged_line">
+        <source></source>
+        <translation>une ligne endommagée</translation>
+    </message>
+    <message id="unread_not_understood">
+        <source></source>
+        <translation>une ligne qui n’est pas une réponse</translation>
+    </message>
+    <message id="unread_broken_off">
+        <source></source>
+        <translation>une réponse interrompue</translation>
+    </message>
+    <message id="unread_too_long">
+        <source></source>
+        <translation>une réponse suivie de données étrangères</translation>
+    </message>
+    <message id="unread_frames_unclear">
+        <source></source>
+        <translation>des trames qui ne s’assemblent pas</translation>
+    </message>
+    <message id="unread_refused">
+        <source></source>
+        <translation>un calculateur a refusé (%1)</translation>
+    </message>
+    <message id="unread_no_answer">
+        <source></source>
+        <translation>la voiture n’a pas répondu</translation>
+    </message>
+    <message id="unread_left_out">
+        <source></source>
+        <translation>la voiture a aussi envoyé %1, que la liste omet</translation>
     </message>
 </context>
 </TS>

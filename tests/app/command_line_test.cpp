@@ -185,7 +185,7 @@ TEST_F(shell, replies_are_decoded_without_an_adapter) {
         const char* out;
     } cases[] = {
         {{"decode", "41 0C 1A F8", "NO DATA", "--units", "metric"},
-         0,
+         1,
          "1726.00 RPM\t1726\n~\tnan\n"},
         {{"decode", "410564", "--units", "parsecs"}, 2, ""},
         {{"decode"}, 2, ""},
@@ -193,7 +193,7 @@ TEST_F(shell, replies_are_decoded_without_an_adapter) {
          1,
          "~\tnan\n"
          "140.00 ° F\t140\n"},
-        {{"vin", "490201000000 31\\r490202 47314A43\\r"}, 0, "1G1JC\n"},
+        {{"vin", "490201000000 31\\r490202 47314A43\\r"}, 1, "1G1JC\n"},
         {{"mode6", "16", "01F4"}, 0, "10.000000 ^C\n"},
         {{"mode6", "16"}, 2, ""},
     };

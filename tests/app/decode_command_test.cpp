@@ -46,7 +46,7 @@ class decode_command_test : public testing::Test {
 };
 
 TEST_F(decode_command_test, each_reply_is_a_line_of_text_and_number) {
-    EXPECT_EQ(decode({"41 0C 1A F8", "410D64", "no data\\r\\r>", "7F 01 12", "41 03 02 00"}), 0);
+    EXPECT_EQ(decode({"41 0C 1A F8", "410D64", "no data\\r\\r>", "7F 01 12", "41 03 02 00"}), 1);
     EXPECT_EQ(printed(), "1726.00 RPM\t1726\n62.50 mph\t62.5\n~\tnan\n~\tnan\n"
                          "Close Loop - Using O2 snsr as feedback\t0\n");
     for (const char* text : {"-1", "01 0C", "SOME CAR", "7E8 04 41 0C 1A F8"})
@@ -60,11 +60,11 @@ TEST_F(decode_command_test, each_reply_is_a_line_of_text_and_number) {
 TEST_F(decode_command_test, vin_is_read_from_either_form_of_reply) {
     EXPECT_EQ(vin({"014\r0:490201314731\r1:4A4734554A35\r2:3643313132323330\r>"}), 0);
     EXPECT_EQ(printed(), "1G1JG4UJ56C112230\n");
-    EXPECT_EQ(vin({"49 02 01 00 00 00 31\\r49 02 02 47 31 4A 43\\r"}), 0);
+    EXPECT_EQ(vin({"49 02 01 00 00 00 31\\r49 02 02 47 31 4A 43\\r"}), 1);
     EXPECT_EQ(printed(), "1G1JC\n");
-    EXPECT_EQ(vin({"NO DATA"}), 0);
+    EXPECT_EQ(vin({"NO DATA"}), 1);
     EXPECT_EQ(printed(), "N/A\n");
-    EXPECT_EQ(vin({"49 02 01 00 00 00 31\\r49 02 02 1B 5B 32 4A\\r"}), 0);
+    EXPECT_EQ(vin({"49 02 01 00 00 00 31\\r49 02 02 1B 5B 32 4A\\r"}), 1);
     EXPECT_EQ(printed(), "1 [2J\n") << "an escape sequence";
 }
 

@@ -87,7 +87,7 @@ class json_test(unittest.TestCase):
         with ThreadPoolExecutor(8) as pool:  # they mostly wait
             self.assertEqual(list(pool.map(check_car, CARS)), [21] * len(CARS))
 
-    def test_small_letters_are_told_as_they_came_and_fit_the_schemas(self):
+    def test_small_letters_are_read_as_large_ones_and_fit_the_schemas(self):
         talk, settings = Path(HOME.name, "letters.jsonl"), Path(HOME.name, "letters.conf")
         with virtual_car("--car", "hybrid", "--timing", "0.05") as address:
             kestrom("--adapter", address, "--record", str(talk), "codes")
@@ -98,7 +98,7 @@ class json_test(unittest.TestCase):
         talk.write_text("".join(json.dumps(entry) + "\n" for entry in told))
         with virtual_car("--replay", str(talk)) as address:
             codes = same_codes(kestrom("--adapter", address, "codes", "--json"))["codes"]
-        self.assertIn("P0a80", [code["code"] for code in codes])
+        self.assertIn("P0A80", [code["code"] for code in codes])
         settings.write_text("[General]\npidsArray=0d, 0C\n")
         cycle, _ = lines_fit("live", kestrom("--demo", "--settings", str(settings), "live", "--cycles", "1", "--json"))
         self.assertEqual(list(cycle["values"]), ["0d", "0C"])
@@ -107,10 +107,10 @@ class json_test(unittest.TestCase):
         Path(HOME.name, "run.gol").write_text("410C1AF8,NODATA\n")
         log = str(Path(HOME.name, "run.gol"))
         for name, status, arguments in [
-                ("decode", 0, ["decode", "41 0C 1A F8", "41 0D 64", "NO DATA", "--json"]),
+                ("decode", 1, ["decode", "41 0C 1A F8", "41 0D 64", "NO DATA", "--json"]),
                 ("decode", 1, ["decode", "--json", "zz"]),
-                ("vin", 0, ["vin", "490201000000 31\\r490202 47314A43\\r", "--json"]),
-                ("vin", 0, ["--json", "vin", "NO DATA"]),
+                ("vin", 1, ["vin", "490201000000 31\\r490202 47314A43\\r", "--json"]),
+                ("vin", 1, ["--json", "vin", "NO DATA"]),
                 ("mode6", 0, ["mode6", "--json", "16", "01F4"]),
                 ("export", 0, ["export", log, "--json"]),
                 ("export", 1, ["export", log, "--json"]),

@@ -235,7 +235,7 @@ bool promises::was_answered(const std::string& pid, const std::string& text) con
     if (asked)
         if (const answer_slot* const before = app_.book.asked("01" + pid, asked->written))
             asked = before;
-    return asked && text.starts_with("41" + pid) &&
+    return asked && answers_parameter(text, pid) &&
            app_.book.any_answer("01", asked->written,
                                 [&](const answer_slot& slot) { return slot.holds(text); });
 }
@@ -244,7 +244,8 @@ bool promises::sample_was_sent(actions& screen, std::size_t row, std::size_t pla
                                const std::string& text) {
     const std::string& pid = screen.pids()[place];
     const auto usable = [&](std::size_t other) {
-        return !unusable(screen.toolies.translateResponse(screen.samples().text(row, other)));
+        return !unusable(screen.toolies.translateResponse(
+            answer_in(screen.samples().text(row, other))));
     };
     if (pid == "E4") // computed from the two others
         return usable(1) && usable(2);

@@ -107,7 +107,7 @@ TEST_F(supported_pids, the_engines_mask_is_kept) {
         {"last engine line", "7E806410080000001\r7E8064100BE1FA813\r", "BE1FA813"},
         {"one line, old header", "486B104100BE1FA813C5", "BE1FA813"},
         {"one line, 29 bit", "18DAF110064100BE1FA813", "BE1FA813"},
-        {"29 bit, marker of another group", "18DAF110064160BE1FA813", "BE1FA813"},
+        {"an answer for another group", "18DAF110064160BE1FA813", "OLD"},
         {"one line, another unit", "7EA064100BE1FA813\r\r", "BE1FA813"},
         {"no engine: the first", "7EA064100BE1FA813\r7EB06410080000001", "BE1FA813"},
         {"line feeds", "\n7E906410080000001\r\n7E8064100BE1FA813\r\n\r\n", "BE1FA813"},

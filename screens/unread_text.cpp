@@ -1,0 +1,51 @@
+#include "unread_text.h"
+
+#include "bundle.h"
+#include "text.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+struct kind_row {
+    std::string_view name;
+    std::string_view key;
+};
+constexpr kind_row ROWS[] = {
+    {"adapter_notice", "unread_adapter_notice"},
+    {"damaged_line", "unread_damaged_line"},
+    {"not_understood", "unread_not_understood"},
+    {"broken_off", "unread_broken_off"},
+    {"too_long", "unread_too_long"},
+    {"frames_unclear", "unread_frames_unclear"},
+    {"refused", "unread_refused"},
+    {"no_answer", "unread_no_answer"},
+    {"left_out", "unread_left_out"},
+};
+
+constexpr std::size_t LONGEST_QUOTE = 24;
+
+const kind_row& row_of(unread_kind kind) {
+    return ROWS[static_cast<std::size_t>(kind)];
+}
+
+} // namespace
+
+std::string unread_causes(const bundle& resources, const unread_pieces& unread) {
+    std::vector<std::string> causes;
+    for (const unread_piece& one : unread) {
+        std::string cause = replace_all(resources.localized(row_of(one.kind).key), "%1",
+                                        one.text.substr(0, LONGEST_QUOTE));
+        if (std::ranges::find(causes, cause) == causes.end())
+            causes.push_back(std::move(cause));
+    }
+    std::string all;
+    for (const std::string& cause : causes)
+        all += (all.empty() ? "" : "; ") + cause;
+    return all;
+}
+
+std::string_view unread_name(unread_kind kind) {
+    return row_of(kind).name;
+}

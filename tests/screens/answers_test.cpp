@@ -1,0 +1,114 @@
+// What is shown and what is said of answers to "01 01" and "03": each line of answers.txt is one
+// conversation with the trouble-codes screen, from the handshake on.
+#include "app_harness.h"
+#include "qt_warnings.h"
+#include "readCodes.h"
+#include "text.h"
+#include "unread_text.h"
+
+#include <QLabel>
+
+#include <fstream>
+#include <gtest/gtest.h>
+#include <map>
+
+namespace {
+
+struct conversation {
+    std::string name, bus, status, codes, lamp_and_count, shown, unread, exit;
+};
+
+std::string adapter_text(const std::string& column) {
+    return replace_all(replace_all(column, "/", "\r"), "\\n", "\n") + "\r\r>";
+}
+
+std::vector<conversation> conversations() {
+    std::ifstream file(KESTROM_SOURCE_DIR "/tests/screens/answers.txt");
+    std::vector<conversation> all;
+    for (std::string line; std::getline(file, line);) {
+        if (line.starts_with('#'))
+            continue;
+        std::vector<std::string> columns;
+        for (const std::string_view column : split(line, "|"))
+            columns.emplace_back(trimmed(column, " "));
+        columns.resize(8);
+        all.push_back({columns[0], columns[1], columns[2], columns[3], columns[4], columns[5],
+                       columns[6], columns[7]});
+    }
+    return all;
+}
+
+class answers : public testing::TestWithParam<conversation> {
+  protected:
+    // Presses the button and answers until nothing more is asked.
+    void hold_conversation(const conversation& talk) {
+        static const std::map<std::string, std::string> BUSES = {
+            {"can", "7E8 06 41 00 BE 1F A8 12"},
+            {"can29", "18 DA F1 10 06 41 00 BE 1F A8 12"},
+            {"iso", "48 6B 10 41 00 BE 1F A8 12 9B"},
+            {"kwp", "80 F1 10 06 41 00 BE 1F A8 12 5F"},
+            {"bare", "41 00 BE 1F A8 12"}};
+        const std::size_t colon = talk.bus.find(':');
+        const std::string named = colon == std::string::npos ? "" : talk.bus.substr(colon + 1);
+        bool named_once = named.empty();
+        app.delegate->do_read_codes();
+        app.press("readCodes");
+        app.connect();
+        for (std::string asked; !(asked = app.sent()).empty();) {
+            if (asked == "AT Z\r" || asked == "AT I\r")
+                app.receive("ELM327 v1.5\r\r>");
+            else if (asked == "AT DP\r")
+                app.receive(std::exchange(named_once, true) ? "AUTO\r\r>" : named + "\r\r>");
+            else if (asked == "01 00\r")
+                app.receive(adapter_text(BUSES.at(talk.bus.substr(0, colon))));
+            else if (asked == "01 01\r")
+                app.receive(adapter_text(talk.status));
+            else if (asked == "03\r")
+                app.receive(adapter_text(talk.codes));
+            else
+                app.receive("OK\r\r>");
+        }
+    }
+    app_harness app;
+};
+
+} // namespace
+
+TEST_P(answers, are_shown_and_what_is_unread_is_told) {
+    const conversation& talk = GetParam();
+    hold_conversation(talk);
+    const auto& screen = static_cast<readCodes&>(*app.delegate->current_screen());
+    const codes_report report = screen.report();
+    std::string shown, unread;
+    for (const code_row& row : report.codes)
+        shown += (shown.empty() ? "" : " ") + row[0];
+    for (const unread_piece& one : report.unread)
+        unread += (unread.empty() ? "" : " ") + std::string(unread_name(one.kind));
+    EXPECT_EQ(shown, talk.shown);
+    EXPECT_EQ(unread, talk.unread);
+    EXPECT_EQ(report.lamp + " " + (report.count ? std::to_string(*report.count) : "N/A"),
+              talk.lamp_and_count);
+    EXPECT_EQ(screen.succeeded(), talk.exit == "0");
+
+    // With anything unread, neither the table nor the status line may say that all is well.
+    const bool as_counted =
+        unread.empty() && report.count && std::cmp_equal(*report.count, report.codes.size());
+    EXPECT_EQ(app.last_status(), as_counted ? "Codes read!. Scroll for full description"
+                                            : "Codes read...but different no of codes recvd");
+    const auto* bar = app.find<QLabel>("unreadMark");
+    EXPECT_EQ(bar->isHidden(), unread.empty());
+    EXPECT_TRUE(unread.empty() || bar->text().contains(QString::fromStdString(
+                                      unread_causes(app.resources, report.unread))));
+    const auto hints = app.find("codesReadTableView")->findChildren<QLabel*>();
+    ASSERT_EQ(hints.size(), 1);
+    EXPECT_EQ(hints[0]->text().toStdString() == app.resources.localized("ui_codes_none"),
+              unread.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(all, answers, testing::ValuesIn(conversations()), [](const auto& row) {
+    std::string name = row.param.name;
+    for (char& c : name)
+        if (!std::isalnum(static_cast<unsigned char>(c)))
+            c = '_';
+    return name;
+});

@@ -1,0 +1,21 @@
+// How long the answers of each service are: the one table of how many digits of a line belong to it
+// (SAE J1979, ISO 15031-5).
+#pragma once
+
+#include "constantes.h"
+
+#include <optional>
+#include <string_view>
+
+// Data bytes of a service 01 answer, behind the PID; nothing for one that may have any number.
+std::optional<std::size_t> parameter_bytes(unsigned pid);
+
+// Digits of the whole answer that begins so, its service byte included. Nothing when the table does
+// not know it: all of it belongs to it then.
+std::optional<std::size_t> answer_digits(std::string_view data, bus_form bus);
+
+// Digits of the longest message of a single frame, and of an older bus's.
+inline constexpr std::size_t LONGEST_FRAME_DIGITS = 14;
+// Digits in front of the codes of services 03, 07 and 0A on CAN: the service and the count.
+inline constexpr std::size_t CODES_HEAD_DIGITS = 4;
+inline constexpr std::size_t CODE_DIGITS = 4;

@@ -1,0 +1,52 @@
+// Puts messages of several frames together (ISO 15765-2), as the adapter numbers them: "00A",
+// "0:430401330220", "1:03000420000000".
+#pragma once
+
+#include "unread.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct gathered_message {
+    std::size_t line; // where in the reply it began
+    std::string data; // what is certain of it, never more than was announced
+};
+
+// Frames do not tell whose they are. When several messages are open, numbers, announced lengths and
+// fill decide; where they leave a choice, only the first frames are certain.
+class frame_gatherer {
+  public:
+    void take_length(std::size_t line, std::string_view digits);
+    void take_frame(std::string_view frame);
+    void finish(std::vector<gathered_message>& messages, unread_pieces& unread);
+
+  private:
+    struct message {
+        std::size_t line;
+        std::size_t bytes; // announced
+        std::string data{};
+        bool begun = false;
+        unsigned frames = 0;
+
+        bool whole() const { return data.size() == 2 * bytes; }
+        // Whether that can be its next frame; the last one may be filled up.
+        bool accepts(std::string_view frame) const;
+        void append(std::string_view frame);
+    };
+    using messages_of_group = std::vector<message>;
+
+    void take_first(std::string_view frame, std::string_view digits);
+    std::size_t frames_awaited() const;
+    void close_group();
+    // Every way to give the frames from that one on to the messages.
+    void assign(std::size_t frame, messages_of_group& so_far, std::vector<messages_of_group>& ways);
+    void take_what_is_certain();
+
+    messages_of_group group_; // those that may have run into one another
+    std::vector<std::string> later_;
+    std::size_t steps_ = 0;
+    messages_of_group done_;
+    unread_pieces unread_;
+};

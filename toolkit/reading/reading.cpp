@@ -1,0 +1,282 @@
+#include "reading.h"
+
+#include "answer_sizes.h"
+#include "checksums.h"
+#include "frame_gatherer.h"
+#include "hex_digits.h"
+#include "notices.h"
+#include "reply_lines.h"
+#include "text.h"
+
+#include <algorithm>
+#include <map>
+
+namespace {
+
+constexpr std::string_view NEGATIVE = "7F";
+constexpr std::string_view PENDING = "78"; // the answer is still to come
+constexpr std::size_t NEGATIVE_DIGITS = 6;
+
+std::string answer_to(std::string_view request) {
+    std::string answer(request);
+    answer[0] = static_cast<char>(answer[0] + 4); // service 03 is answered by 43
+    return answer;
+}
+
+bool names_a_bus(std::string_view protocol) {
+    return contains(protocol, "ISO") || contains(protocol, "SAE") || contains(protocol, "J1") ||
+           contains(protocol, "CAN");
+}
+
+// Without headers a line of codes tells its bus by its form: the older buses fill seven bytes, with
+// zeros, CAN sends two and two more for each code, and fills with what it likes.
+bus_form form_of_codes(std::string_view data) {
+    if (data.size() != LONGEST_FRAME_DIGITS)
+        return bus_form::can;
+    const std::string_view behind = slice(data, answer_digits(data, bus_form::can).value_or(0));
+    return !behind.empty() && is_fill(behind) && !behind.starts_with("00") ? bus_form::can
+                                                                           : bus_form::older;
+}
+
+// Reads one reply, up to its prompt.
+class reply_reader {
+  public:
+    reply_reader(std::string_view request, bus_evidence known)
+        : request_(request), answer_(answer_to(request)), known_(known) {}
+
+    reading read(std::string_view reply);
+
+  private:
+    struct found_message {
+        std::size_t line;
+        headed_line at; // header and form; its data is not used
+        std::string header;
+        std::string data;
+        std::size_t announced = 0; // digits, by the byte count of a CAN frame
+        std::string behind{};      // what stands behind these
+        bool of_frames = false;
+    };
+
+    void take(std::size_t number, std::string_view line);
+    void take_data(std::size_t number, std::string_view line);
+    void take_can(std::size_t number, const headed_line& line, std::string_view whole);
+    void gather();
+    void settle_bus();
+    bus_form bus_of_message(const found_message& one) const;
+    std::size_t digits_of(const found_message& one) const;
+    void take_message(const found_message& one);
+    void take_answer(const found_message& one);
+    void check_what_follows(const found_message& one, std::string_view rest, bus_form bus);
+    void unread(unread_kind kind, std::string_view text) {
+        result_.unread.push_back({kind, std::string(text)});
+    }
+
+    std::string_view request_;
+    std::string answer_;
+    bus_evidence known_;
+    std::vector<found_message> messages_;
+    std::map<std::string, frame_gatherer, std::less<>> frames_; // by header
+    std::map<std::string, header_form, std::less<>> forms_;
+    unread_pieces pending_;
+    bool no_data_ = false;
+    reading result_;
+};
+
+void reply_reader::take(std::size_t number, std::string_view line) {
+    if (const notice* said = notice_in(line)) {
+        no_data_ = no_data_ || said->kind == notice_kind::no_data;
+        if (said->kind == notice_kind::trouble)
+            unread(unread_kind::adapter_notice,
+                   line.starts_with(said->spaceless) && said->spaceless.size() < line.size()
+                       ? line
+                       : said->text);
+    } else if (contains(line, "<")) {
+        unread(unread_kind::damaged_line, line);
+    } else if (is_numbered_frame(line)) {
+        frames_[""].take_frame(line);
+    } else if (line != request_) { // no echo
+        if (line.starts_with(request_) && line.size() > request_.size() + 1)
+            line.remove_prefix(request_.size()); // an echo that lost its line end
+        if (is_length_line(line, answer_))
+            frames_[""].take_length(number, line);
+        else
+            take_data(number, line);
+    }
+}
+
+void reply_reader::take_data(std::size_t number, std::string_view line) {
+    const auto parts = is_hex(line) ? behind_header(line, answer_) : std::nullopt;
+    if (!parts)
+        unread(unread_kind::not_understood, line);
+    else if (is_can(parts->form))
+        take_can(number, *parts, line);
+    else
+        messages_.push_back({number, *parts, std::string(parts->header), std::string(parts->data)});
+}
+
+// Behind a CAN header stands the byte count of a single frame, or the number of one of several.
+void reply_reader::take_can(std::size_t number, const headed_line& line, std::string_view whole) {
+    const std::string header(line.header);
+    const std::string_view data = line.data;
+    switch (data.front()) {
+    case '0': {
+        const std::size_t digits = 2 * hex_value(data.substr(1, 1));
+        messages_.push_back({number, line, header, std::string(slice(data, 2, digits)), digits,
+                             std::string(slice(data, 2 + digits))});
+        break;
+    }
+    case '1':
+        forms_[header] = line.form;
+        frames_[header].take_length(number, slice(data, 1, 3));
+        frames_[header].take_frame("0:" + std::string(slice(data, 4)));
+        break;
+    case '2':
+        forms_[header] = line.form;
+        frames_[header].take_frame(std::string(data.substr(1, 1)) + ":" +
+                                   std::string(slice(data, 2)));
+        break;
+    default:
+        unread(unread_kind::not_understood, whole);
+    }
+}
+
+void reply_reader::gather() {
+    for (auto& [header, frames] : frames_) {
+        std::vector<gathered_message> gathered;
+        frames.finish(gathered, result_.unread);
+        for (gathered_message& one : gathered) {
+            headed_line at;
+            at.form = forms_[header];
+            messages_.push_back({one.line, at, header, std::move(one.data), 0, {}, true});
+        }
+    }
+    std::ranges::stable_sort(messages_, {}, &found_message::line);
+}
+
+// Headers are the surest sign, and among lines of CAN only those are read: a digit that is added to
+// one makes an older bus's header of it.
+void reply_reader::settle_bus() {
+    result_.bus = known_;
+    for (const bus_form form : {bus_form::older, bus_form::can})
+        for (const found_message& one : messages_)
+            if (one.data.starts_with(answer_) && bus_of(one.at.form) == form)
+                result_.bus = {form, bus_source::headers};
+    if (result_.bus.form != bus_form::unknown)
+        return;
+    for (const found_message& one : messages_)
+        if (one.data.starts_with(answer_) &&
+            answer_digits(one.data, bus_form::older) != answer_digits(one.data, bus_form::can))
+            result_.bus = {one.of_frames ? bus_form::can : form_of_codes(one.data),
+                           bus_source::reply_form};
+}
+
+bus_form reply_reader::bus_of_message(const found_message& one) const {
+    return one.of_frames ? bus_form::can : result_.bus.form;
+}
+
+// That it has to have, by its service and by its frame.
+std::size_t reply_reader::digits_of(const found_message& one) const {
+    return std::max(one.announced, answer_digits(one.data, bus_of_message(one)).value_or(0));
+}
+
+void reply_reader::take_message(const found_message& one) {
+    const std::string_view data = one.data;
+    if (data.starts_with(answer_)) {
+        if (one.at.form != header_form::none && bus_of(one.at.form) != result_.bus.form)
+            unread(unread_kind::not_understood, one.header + one.data);
+        else
+            take_answer(one);
+    } else if (data.starts_with(std::string(NEGATIVE) + std::string(request_.substr(0, 2))) &&
+               data.size() >= NEGATIVE_DIGITS) {
+        const unread_piece refusal{unread_kind::refused,
+                                   std::string(data.substr(0, NEGATIVE_DIGITS))};
+        (data.substr(4, 2) == PENDING ? pending_ : result_.unread).push_back(refusal);
+    } else if (!data.starts_with(NEGATIVE) && data.size() < digits_of(one)) {
+        unread(unread_kind::not_understood, one.header + one.data); // nobody's whole answer
+    }
+}
+
+void reply_reader::take_answer(const found_message& one) {
+    const bus_form bus = bus_of_message(one);
+    const std::string_view data = one.data;
+    const std::size_t whole = answer_digits(data, bus).value_or(data.size());
+    if (data.size() < digits_of(one))
+        unread(unread_kind::broken_off, data);
+    check_what_follows(one, std::string(slice(data, whole)) + one.behind, bus);
+    ecu_answer answer{one.at.form, one.header, {}, std::string(data.substr(0, whole))};
+    answer.unit = unit_name({answer.form, answer.header, {}});
+    result_.answers.push_back(std::move(answer));
+}
+
+// Behind an answer only fill of a CAN message may stand, or an older bus's checksum.
+void reply_reader::check_what_follows(const found_message& one, std::string_view rest,
+                                      bus_form bus) {
+    if (rest.empty())
+        return;
+    const bool headed = one.at.form != header_form::none;
+    bool belongs = false;
+    if (bus == bus_form::older)
+        // The lamp's answer is as good as the adapter's own test; a code's digits are not worth the
+        // risk.
+        belongs = headed && rest.size() == 2 &&
+                  (request_.starts_with("01") || ends_with_checksum(one.header + one.data));
+    else
+        belongs = is_fill(rest);
+    if (!belongs)
+        unread(unread_kind::too_long, rest);
+}
+
+reading reply_reader::read(std::string_view reply) {
+    std::size_t number = 0;
+    for (const std::string& line : reply_lines(reply))
+        take(number++, line);
+    gather();
+    settle_bus();
+    for (const found_message& one : messages_)
+        take_message(one);
+    if (!result_.answered()) {
+        std::ranges::move(pending_, std::back_inserter(result_.unread));
+        result_.no_data = no_data_;
+    }
+    return std::move(result_);
+}
+
+} // namespace
+
+bool reading::holds(unread_kind kind) const {
+    return std::ranges::find(unread, kind, &unread_piece::kind) != unread.end();
+}
+
+bus_evidence bus_known_by(bus_form status_headers, bus_form handshake_headers,
+                          std::string_view protocol_text) {
+    if (status_headers != bus_form::unknown)
+        return {status_headers, bus_source::headers};
+    if (handshake_headers != bus_form::unknown)
+        return {handshake_headers, bus_source::handshake};
+    if (names_a_bus(protocol_text))
+        return {contains(protocol_text, "CAN") ? bus_form::can : bus_form::older,
+                bus_source::protocol_text};
+    return {};
+}
+
+reading read_reply(std::string_view request, std::string_view reply, bus_evidence known) {
+    reading result;
+    for (const std::string_view piece : split(reply, ">")) {
+        reading one = reply_reader(request, known).read(piece);
+        // What an earlier piece told must stand in the last one as well.
+        if (one.answered()) {
+            for (const ecu_answer& before : result.answers)
+                if (std::ranges::find(one.answers, before) == one.answers.end())
+                    result.unread.push_back({unread_kind::not_understood, before.data});
+            result.answers = std::move(one.answers);
+            result.bus = one.bus;
+        }
+        result.no_data = (result.no_data || one.no_data) && !result.answered();
+        for (unread_piece& piece_unread : one.unread)
+            if (std::ranges::find(result.unread, piece_unread) == result.unread.end())
+                result.unread.push_back(std::move(piece_unread));
+    }
+    if (!result.answered() && result.unread.empty() && !result.no_data)
+        result.unread.push_back({unread_kind::no_answer, {}});
+    return result;
+}

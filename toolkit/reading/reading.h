@@ -1,0 +1,47 @@
+// One reading of a reply: which units answered what, over which bus, what the adapter said beside
+// it, and what could not be read. Whoever says "none" or "complete" asks whether anything was left
+// unread. What a line may look like is in the tables of header_forms, answer_sizes and notices.
+#pragma once
+
+#include "constantes.h"
+#include "header_forms.h"
+#include "unread.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct ecu_answer {
+    header_form form = header_form::none;
+    std::string header; // digits; empty with headers off
+    std::string unit;   // unit_name()
+    std::string data;   // capital hex digits, the service byte first; nothing that only fills up
+    bool operator==(const ecu_answer&) const = default;
+};
+
+enum class bus_source { nothing, headers, handshake, protocol_text, reply_form };
+
+struct bus_evidence {
+    bus_form form = bus_form::unknown;
+    bus_source source = bus_source::nothing;
+};
+
+// What tells the bus before a reply with headers off is read, the surest first: the headers of the
+// answer to "01 01" in the same task, those of the handshake, the text of "AT DP" where it names
+// a bus ("AUTO" does not).
+bus_evidence bus_known_by(bus_form status_headers, bus_form handshake_headers,
+                          std::string_view protocol_text);
+
+struct reading {
+    std::vector<ecu_answer> answers; // in the order in which they began
+    bus_evidence bus;
+    bool no_data = false; // the adapter said so, and nobody answered
+    unread_pieces unread;
+
+    bool answered() const { return !answers.empty(); }
+    bool holds(unread_kind kind) const;
+};
+
+// `request`: its hex digits, such as "0101" or "03". Answers to other requests are passed over;
+// of several replies in one piece the last one that answers counts.
+reading read_reply(std::string_view request, std::string_view reply, bus_evidence known = {});

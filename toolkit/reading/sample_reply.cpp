@@ -1,0 +1,63 @@
+#include "sample_reply.h"
+
+#include "answer_sizes.h"
+#include "header_forms.h"
+#include "hex_digits.h"
+#include "text.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace {
+
+constexpr std::string_view ANSWER = "41";
+constexpr std::size_t HEAD = 4; // "41" and the parameter
+
+// What stands behind the header, of a single frame; empty for anything else.
+std::string_view data_of(std::string_view reply) {
+    if (reply.starts_with(ANSWER) || !is_hex(reply))
+        return reply.starts_with(ANSWER) ? reply : std::string_view();
+    const auto line = behind_header(reply, ANSWER);
+    if (!line || line->form == header_form::none)
+        return {};
+    std::string_view data = line->data;
+    if (is_can(line->form))
+        data = data.front() == '0' ? slice(data, 2, 2 * hex_value(data.substr(1, 1))) : "";
+    else
+        data.remove_suffix(std::min<std::size_t>(2, data.size())); // the checksum
+    return data.starts_with(ANSWER) ? data : std::string_view();
+}
+
+// Fuel trims: with four banks of cylinders a car tells of two at a time, and the first counts.
+bool may_tell_of_two_banks(unsigned number) {
+    return number >= 0x06 && number <= 0x09;
+}
+
+} // namespace
+
+std::string_view parameter_in(std::string_view reply) {
+    const std::string_view pid = slice(data_of(reply), 2, 2);
+    return pid.size() == 2 && is_hex(pid) ? pid : std::string_view();
+}
+
+bool answers_parameter(std::string_view reply, std::string_view pid) {
+    return std::ranges::equal(parameter_in(reply), pid, [](unsigned char a, unsigned char b) {
+        return std::toupper(a) == std::toupper(b);
+    });
+}
+
+bool answers_another(std::string_view reply, std::string_view pid) {
+    return !parameter_in(reply).empty() && !answers_parameter(reply, pid);
+}
+
+std::string_view answer_in(std::string_view reply) {
+    const std::string_view data = data_of(reply);
+    if (data.size() <= HEAD || data.size() % 2 != 0 || !is_hex(data))
+        return {};
+    const unsigned number = hex_value(data.substr(2, 2));
+    const std::size_t whole = answer_digits(data, bus_form::unknown).value_or(data.size());
+    const bool fits =
+        data.size() == whole || (data.size() == whole + 2 && may_tell_of_two_banks(number)) ||
+        (data.size() == LONGEST_FRAME_DIGITS && whole < data.size() && is_fill(data.substr(whole)));
+    return fits ? data.substr(0, whole) : std::string_view();
+}

@@ -1,0 +1,23 @@
+// The codes in a reply to service 03, 07 or 0A, and what of it could not be read.
+#pragma once
+
+#include "reading.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// What becomes of an older bus's line that broke off inside a code: padded, it would be a code that
+// no car sent.
+enum class half_codes { left_unread, padded };
+
+struct codes_reading {
+    std::vector<std::string> codes; // in the order of the reply, duplicates kept
+    bool answered = false;
+    bool no_data = false;
+    unread_pieces unread;
+};
+
+// `service`: two digits. `known`: what tells the bus beside the reply itself.
+codes_reading read_codes(std::string_view service, std::string_view reply, bus_evidence known,
+                         half_codes halves = half_codes::left_unread);

@@ -216,7 +216,7 @@ Die Namen der Prüfungen sind englisch.</translation>
     </message>
     <message id="ui_stall_hint">
         <source></source>
-        <translation>wartet auf den Adapter, %1 s</translation>
+        <translation>wartet seit %1 s auf den Adapter</translation>
     </message>
     <message id="ui_live_run">
         <source></source>

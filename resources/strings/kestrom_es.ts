@@ -13,7 +13,7 @@ Códigos de avería: «Leer códigos» muestra los códigos guardados con su sig
 
 Estado de los monitores: OK, la comprobación está completa; X, aún no lo está (no es una avería: se hace durante la marcha); N/A, este coche no tiene este monitor. Si un diésel tiene otro monitor en el mismo lugar, el nombre indica los dos. Los nombres y las descripciones siguen por ahora en inglés.
 
-Datos en vivo: elija el tipo de registro y pulse el botón de inicio. Cada parámetro tiene un gráfico pequeño; haga clic en él para verlo en grande y en el indicador, y mantenga pulsada la tecla Ctrl para elegir otro para el segundo indicador. La lista de parámetros, las unidades y el idioma están en las preferencias.
+Datos en vivo: elija el tipo de sesión y pulse el botón de inicio. Cada parámetro tiene un gráfico pequeño; haga clic en él para verlo en grande y en el indicador, y mantenga pulsada la tecla Ctrl para elegir otro para el segundo indicador. La lista de parámetros, las unidades y el idioma están en las preferencias.
 
 Registros: con «Registrar las sesiones» marcado en las preferencias, cada sesión se guarda en su propio archivo de la carpeta «loggies»; el texto de ayuda de Registros indica dónde está, y Archivo &gt; Exportar registro… los exporta como tablas.
 
@@ -216,7 +216,7 @@ Los nombres de los monitores están en inglés.</translation>
     </message>
     <message id="ui_stall_hint">
         <source></source>
-        <translation>esperando al adaptador, %1 s</translation>
+        <translation>esperando al adaptador desde hace %1 s</translation>
     </message>
     <message id="ui_live_run">
         <source></source>

@@ -13,7 +13,7 @@ Codes défaut : « Lire les codes » affiche les codes enregistrés avec leur
 
 État des moniteurs : OK, le contrôle est terminé ; X, il ne l'est pas encore (ce n'est pas un défaut : il se fait en roulant) ; N/A, cette voiture n'a pas ce moniteur. Si un diesel a un autre moniteur à la même place, le nom indique les deux. Les noms et les descriptions restent pour l'instant en anglais.
 
-Données en direct : choisissez le type d'enregistrement et appuyez sur le bouton de démarrage. Chaque paramètre a son petit graphique ; cliquez dessus pour le voir en grand et sur le cadran, maintenez Ctrl pour en choisir un autre pour le second cadran. La liste des paramètres, les unités et la langue se règlent dans les préférences.
+Données en direct : choisissez le type de session et appuyez sur le bouton de démarrage. Chaque paramètre a son petit graphique ; cliquez dessus pour le voir en grand et sur le cadran, maintenez Ctrl pour en choisir un autre pour le second cadran. La liste des paramètres, les unités et la langue se règlent dans les préférences.
 
 Journaux : lorsque « Enregistrer les sessions » est coché dans les préférences, chaque session est écrite dans son propre fichier du dossier « loggies » ; l'infobulle de Journaux indique où il se trouve, et Fichier &gt; Exporter un journal… les exporte en tableaux.
 

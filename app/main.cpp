@@ -13,6 +13,7 @@
 #include "export_command.h"
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
+#include "languages.h"
 #include "mac_toolies.h"
 #include "main_window.h"
 #include "message_box_alerts.h"
@@ -62,6 +63,16 @@ bool display_there() {
 // The built-in virtual car, listening on loopback.
 std::unique_ptr<network::served_car> start_demo_car(const std::string& name) {
     return load_network().serve(load_car(name.empty() ? DEFAULT_DEMO_CAR : name));
+}
+
+// The settings as they are kept, for what only reads them.
+user_defaults kept_settings(const cli_request& asked) {
+    return user_defaults(asked.settings.value_or(user_defaults::default_path()));
+}
+
+// What the program ships with, its texts in the language chosen in the preferences.
+bundle resources_for(const user_defaults& store) {
+    return bundle(":/kestrom", chosen_language(store));
 }
 
 // The store to use. A demo, a named adapter and a live run with parameters of its own work
@@ -135,10 +146,9 @@ int decode(int argc, char** argv, const cli_request& asked) {
     const QGuiApplication application(argc, argv); // the chart is drawn
     const QTemporaryDir scratch;
     user_defaults units(scratch.filePath(QStringLiteral("kestrom.conf")).toStdString());
-    units.set_boolean(KS_METRIC_UNITS_KEY,
-                      user_defaults(asked.settings.value_or(user_defaults::default_path()))
-                          .boolean(KS_METRIC_UNITS_KEY));
-    const bundle resources;
+    const user_defaults kept = kept_settings(asked);
+    units.set_boolean(KS_METRIC_UNITS_KEY, kept.boolean(KS_METRIC_UNITS_KEY));
+    const bundle resources = resources_for(kept);
     const mac_toolies toolies({&resources, &units, nullptr, nullptr});
     g_cur_barom_press = STANDARD_BAROMETER; // what logs count boost from
     if (asked.command == "decode")
@@ -154,7 +164,7 @@ int decode(int argc, char** argv, const cli_request& asked) {
 
 int scan_for_bluetooth(int argc, char** argv, const cli_request& asked) {
     const QCoreApplication application(argc, argv);
-    const bundle resources;
+    const bundle resources = resources_for(kept_settings(asked));
     bluez_devices devices(QDBusConnection::systemBus());
     const double seconds = std::min(asked.timeout_seconds.value_or(60),
                                     bluez_devices::SEARCH_MS / 1000.0 + 10); // BlueZ may start
@@ -215,7 +225,7 @@ int run(QApplication& application, const cli_request& asked) {
     const auto car = use_what_is_asked(defaults, asked);
 
     qt_run_loop loop;
-    const bundle resources;
+    const bundle resources = resources_for(defaults);
     notification_center notifications;
     console_alerts printed_alerts(loop);
     message_box_alerts shown_alerts(loop);

@@ -132,6 +132,7 @@ void codes_view::build_tables(QVBoxLayout* column) {
     };
     codesReadTableView_->setModel(codes_model_);
     codesReadTableView_->setAccessibleName(ui_text(delegate_, "ui_codes_table"));
+    codesReadTableView_->setToolTip(ui_text(delegate_, "ui_codes_table_hint"));
     fit_column(codesReadTableView_, 0, QStringLiteral("U0100"));
     codesReadTableView_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     no_codes_ = new empty_hint(codesReadTableView_, QString());
@@ -151,6 +152,7 @@ void codes_view::build_tables(QVBoxLayout* column) {
         readinessCodesTableView_);
     readinessCodesTableView_->setModel(readiness_model_);
     readinessCodesTableView_->setAccessibleName(ui_text(delegate_, "ui_readiness_table"));
+    readinessCodesTableView_->setToolTip(ui_text(delegate_, "ui_readiness_hint"));
     fit_column(readinessCodesTableView_, 0, QStringLiteral("\u2212  N/A"));
     readinessCodesTableView_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     fit_column(readinessCodesTableView_, 2, QStringLiteral("Non-Continous"));
@@ -162,11 +164,12 @@ void codes_view::build_tables(QVBoxLayout* column) {
     column->addWidget(split, 1);
 }
 
-// Keeps the longest word of a monitor's name whole, also beside a scroll bar.
+// Keeps the longest word of a monitor's name whole and most names to two lines, also beside a
+// scroll bar.
 void codes_view::make_room_for_monitors() {
     QTableView* table = readinessCodesTableView_;
     const int monitor =
-        table->fontMetrics().horizontalAdvance(QStringLiteral("Comprehensive")) + 4 * GRID;
+        table->fontMetrics().horizontalAdvance(QStringLiteral("Particulate Filter")) + 4 * GRID;
     const QHeaderView* header = table->horizontalHeader();
     table->setMinimumWidth(header->sectionSize(0) + monitor + header->sectionSize(2) +
                            table->verticalScrollBar()->sizeHint().width() +

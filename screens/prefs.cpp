@@ -2,6 +2,7 @@
 
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
+#include "languages.h"
 #include "prefs_view.h"
 #include "system_log.h"
 #include "user_defaults.h"
@@ -39,6 +40,7 @@ void prefs::setPrefsScreen() {
     view_->set_log_runs(g_log_runs);
     view_->set_metric_units(g_metric_units);
     view_->set_reuse_last_adapter(store.boolean(REUSE_LAST_BT_KEY));
+    view_->set_language(chosen_language(store));
     view_->set_address(store.string(WIFI_IP_KEY), store.string(WIFI_PORT_KEY));
     _pid_available_list.clear();
     load_pids_list();
@@ -74,6 +76,7 @@ void prefs::savePrefs() {
     g_log_runs = view_->log_runs();
     store.set_boolean(LOG_RUNS_KEY, g_log_runs);
     store.set_boolean(REUSE_LAST_BT_KEY, view_->reuse_last_adapter());
+    store.set_string(LANGUAGE_KEY, view_->language()); // the next start speaks it
     std::vector<std::string> chosen;
     for (const pid_entry& entry : _pid_available_list)
         if (entry.selected)
@@ -95,6 +98,7 @@ void prefs::setDefaults() {
     // The stored "log_runs" is left alone on purpose: the next savePrefs writes it.
     g_log_runs = false;
     store.set_boolean(REUSE_LAST_BT_KEY, false);
+    store.set_string(LANGUAGE_KEY, "");
     store.set_string_array(PIDS_ARRAY_KEY, {"0D", "11", "0C", "05"});
     store.synchronize();
 }

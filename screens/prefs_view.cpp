@@ -4,10 +4,12 @@
 #include "chrome.h"
 #include "display_text.h"
 #include "Ks_lite_delegate.h"
+#include "languages.h"
 #include "rows_model.h"
 
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -64,6 +66,7 @@ prefs_view::prefs_view(Ks_lite_delegate& delegate) : delegate_(delegate) {
     left->setSpacing(2 * GRID);
     left->addWidget(build_adapter());
     left->addWidget(build_display());
+    left->addWidget(build_language());
     left->addStretch(1);
     columns->addLayout(left, 1);
     columns->addWidget(build_parameters(), 1);
@@ -135,6 +138,25 @@ QWidget* prefs_view::build_display() {
     column->addWidget(unitsCheck_);
     column->addWidget(logRunsCheck_);
     return group;
+}
+
+QWidget* prefs_view::build_language() {
+    auto* row = new QWidget(root());
+    auto* line = new QHBoxLayout(row);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(GRID);
+    language_ = new QComboBox(row);
+    language_->setObjectName(QStringLiteral("languageBox"));
+    language_->setToolTip(ui_text(delegate_, "ui_language_hint"));
+    language_->addItem(ui_text(delegate_, "ui_language_desktop"), QString());
+    for (const auto& [code, name] : languages())
+        language_->addItem(QString::fromUtf8(name), QString::fromUtf8(code));
+    auto* label = new QLabel(ui_text(delegate_, "ui_language"), row);
+    label->setBuddy(language_);
+    line->addWidget(label);
+    line->addWidget(language_);
+    line->addStretch(1);
+    return row;
 }
 
 QWidget* prefs_view::build_parameters() {
@@ -224,6 +246,12 @@ void prefs_view::set_reuse_last_adapter(bool on) {
 }
 bool prefs_view::reuse_last_adapter() const {
     return lastBTCheck_->isChecked();
+}
+void prefs_view::set_language(const std::string& code) {
+    language_->setCurrentIndex(language_->findData(display_text(code)));
+}
+std::string prefs_view::language() const {
+    return language_->currentData().toString().toStdString();
 }
 void prefs_view::set_pids_status(const std::string& text) {
     pidsStatus_->setText(display_text(text));

@@ -9,6 +9,7 @@
 class Ks_lite_delegate;
 class rows_model;
 class QCheckBox;
+class QComboBox;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
@@ -43,12 +44,15 @@ class prefs_view {
     bool log_runs() const;
     void set_reuse_last_adapter(bool on);
     bool reuse_last_adapter() const;
+    void set_language(const std::string& code); // empty: the desktop's
+    std::string language() const;
     void set_pids_status(const std::string& text);
     void show_pids(std::vector<pid_row> rows);
 
   private:
     QWidget* build_adapter();
     QWidget* build_display();
+    QWidget* build_language();
     QWidget* build_parameters();
 
     Ks_lite_delegate& delegate_;
@@ -62,6 +66,7 @@ class prefs_view {
     QCheckBox* lastBTCheck_ = nullptr;
     QCheckBox* unitsCheck_ = nullptr;
     QCheckBox* logRunsCheck_ = nullptr;
+    QComboBox* language_ = nullptr;
     QLabel* pidsStatus_ = nullptr;
     QTableView* pid_availableTableView_ = nullptr;
     rows_model* pids_model_ = nullptr;

@@ -77,7 +77,7 @@ void print_codes_text(const codes_report& report) {
         std::printf("  none\n");
     std::printf("\nReadiness monitors\n");
     for (const readiness_flag& flag : report.readiness)
-        std::printf("  %-5s%-28s%s\n", flag.state.c_str(), flag.monitor.c_str(), flag.kind.c_str());
+        std::printf("  %-5s%-48s%s\n", flag.state.c_str(), flag.monitor.c_str(), flag.kind.c_str());
     if (report.readiness.empty())
         std::printf("  not told\n");
 }

@@ -5,15 +5,17 @@
     <name></name>
     <message id="KS_help">
         <source></source>
-        <translation>Kestrom liest die On-Board-Diagnose (OBD-II) Ihres Autos über einen Adapter der Bauart ELM327.
+        <translation>Kestrom liest die On-Board-Diagnose (OBD-II) Ihres Autos über einen Adapter vom Typ ELM327.
 
-Verbinden: Stecken Sie den Adapter in die Diagnosebuchse des Autos, meist unter dem Lenkrad, und schalten Sie die Zündung ein. Bei einem WLAN-Adapter verbinden Sie diesen Rechner zuerst mit dem Funknetz des Adapters, wählen dann in den Einstellungen WLAN und tragen Adresse und Port ein (meist 192.168.0.10 und 35000). Bei einem Bluetooth-Adapter wählen Sie Bluetooth; die erste Aufgabe, die Sie starten, fragt nach dem Gerät.
+Verbinden: Stecken Sie den Adapter in die Diagnosebuchse des Autos, meist unter dem Lenkrad, und schalten Sie die Zündung ein. Bei einem WLAN-Adapter verbinden Sie diesen Rechner zuerst mit dem Funknetz des Adapters, wählen dann in den Einstellungen WLAN und tragen Adresse und Port ein (meist 192.168.0.10 und 35000). Bei einem Bluetooth-Adapter wählen Sie Bluetooth; beim ersten Lesen oder Messen wählen Sie das Gerät.
 
-Fehlercodes: „Codes lesen“ zeigt die gespeicherten Codes mit ihrer Bedeutung, die Motorkontrollleuchte und den Stand der Abgasüberwachung. „Codes löschen“ löscht die Codes, schaltet die Leuchte aus und setzt die Überwachung zurück; tun Sie das bei stehendem Motor und erst, wenn Sie die Codes notiert haben.
+Fehlercodes: „Codes lesen“ zeigt die gespeicherten Codes mit ihrer Bedeutung, die Motorkontrollleuchte und die Prüfbereitschaft (Readiness). „Codes löschen“ löscht die Codes, schaltet die Leuchte aus und setzt die Prüfbereitschaft zurück; tun Sie das bei stehendem Motor und erst, wenn Sie die Codes notiert haben.
 
-Live-Daten: Wählen Sie die Art der Aufzeichnung und drücken Sie auf Start. Jeder Messwert hat ein kleines Diagramm; ein Klick zeigt ihn groß und auf dem Rundinstrument, mit Strg wählen Sie einen weiteren für das zweite Instrument. Die Liste der Messwerte und die Einheiten stehen in den Einstellungen.
+Prüfbereitschaft: OK ist eine abgeschlossene Prüfung, X eine noch nicht abgeschlossene (kein Fehler: sie läuft beim Fahren), N/A eine, die dieses Auto nicht hat. Prüft ein Diesel stattdessen etwas anderes, nennt der Name beides. Namen und Beschreibungen bleiben vorerst englisch.
 
-Aufzeichnungen: Ist die Aufzeichnung in den Einstellungen eingeschaltet, wird jede Fahrt in eine eigene Datei im Ordner „loggies“ geschrieben; wo er liegt, sagt der Hinweis über Aufzeichnungen, und Datei &gt; Aufzeichnung exportieren… macht Tabellen daraus.
+Live-Daten: Wählen Sie die Art der Messung und drücken Sie auf Start. Jeder Messwert hat ein kleines Diagramm; ein Klick zeigt ihn groß und auf dem Rundinstrument, mit Strg wählen Sie einen weiteren für das zweite Instrument. Die Liste der Messwerte, die Einheiten und die Sprache stehen in den Einstellungen.
+
+Aufzeichnungen: Ist „Messungen aufzeichnen“ in den Einstellungen gewählt, wird jede Messung in eine eigene Datei im Ordner „loggies“ geschrieben. Wo er liegt, zeigt der Hinweis zu Aufzeichnungen; Datei &gt; Aufzeichnung exportieren… exportiert sie als Tabelle.
 
 Experte: Geben Sie einen beliebigen Adapterbefehl (AT I) oder eine Anfrage (01 0C) ein und lesen Sie die unveränderte Antwort.
 
@@ -25,24 +27,24 @@ Keine Antwort? Prüfen Sie Zündung, Stecker und Funkverbindung und schließen S
     </message>
     <message id="no_reply_from_car_MSG_BT">
         <source></source>
-        <translation>Der Adapter arbeitet, aber das Auto hat nicht geantwortet.
+        <translation>Der Adapter funktioniert, aber das Auto hat nicht geantwortet.
 
 Bitte prüfen Sie:
 • Die Zündung ist eingeschaltet oder der Motor läuft.
 • Der Adapter sitzt fest in der Diagnosebuchse.
 • Der in der Bluetooth-Liste gewählte Adapter ist der in diesem Auto.
-• Kein Telefon und kein anderes Programm benutzt den Adapter zur selben Zeit.
+• Kein Telefon und kein anderes Programm benutzt den Adapter gleichzeitig.
 • Das Auto unterstützt OBD-II.</translation>
     </message>
     <message id="no_reply_from_car_MSG_TCP">
         <source></source>
-        <translation>Der Adapter arbeitet, aber das Auto hat nicht geantwortet.
+        <translation>Der Adapter funktioniert, aber das Auto hat nicht geantwortet.
 
 Bitte prüfen Sie:
 • Die Zündung ist eingeschaltet oder der Motor läuft.
 • Der Adapter sitzt fest in der Diagnosebuchse.
 • Dieser Rechner ist mit dem WLAN des Adapters in diesem Auto verbunden.
-• Kein Telefon und kein anderes Programm benutzt den Adapter zur selben Zeit.
+• Kein Telefon und kein anderes Programm benutzt den Adapter gleichzeitig.
 • Das Auto unterstützt OBD-II.</translation>
     </message>
     <message id="init_OBD_error_MSG">
@@ -91,7 +93,7 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_rail_logs_hint">
         <source></source>
-        <translation>Live-Daten schreibt Aufzeichnungen; Datei &gt; Aufzeichnung exportieren… macht Tabellen daraus</translation>
+        <translation>Live-Daten schreibt Aufzeichnungen; Datei &gt; Aufzeichnung exportieren… exportiert sie als Tabelle</translation>
     </message>
     <message id="ui_rail_expert">
         <source></source>
@@ -123,7 +125,7 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_read_codes_hint">
         <source></source>
-        <translation>Kontrollleuchte, gespeicherte Codes und Stand der Überwachung lesen</translation>
+        <translation>Kontrollleuchte, gespeicherte Codes und Prüfbereitschaft (Readiness) lesen</translation>
     </message>
     <message id="ui_clear_codes">
         <source></source>
@@ -169,6 +171,10 @@ Bitte prüfen Sie:
         <source></source>
         <translation>Gespeicherte Fehlercodes</translation>
     </message>
+    <message id="ui_codes_table_hint">
+        <source></source>
+        <translation>Die Beschreibungen sind englisch, in den Begriffen der Norm SAE J2012</translation>
+    </message>
     <message id="ui_codes_empty">
         <source></source>
         <translation>Nach „Codes lesen“ stehen hier die gespeicherten Fehlercodes.</translation>
@@ -187,7 +193,7 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_col_monitor">
         <source></source>
-        <translation>Überwachung</translation>
+        <translation>Prüfung</translation>
     </message>
     <message id="ui_col_kind">
         <source></source>
@@ -195,11 +201,18 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_readiness_table">
         <source></source>
-        <translation>Stand der Überwachung</translation>
+        <translation>Prüfbereitschaft (Readiness)</translation>
+    </message>
+    <message id="ui_readiness_hint">
+        <source></source>
+        <translation>OK: Die Prüfung ist abgeschlossen
+X: noch nicht abgeschlossen; das ist kein Fehler, die Prüfung läuft beim Fahren
+N/A: Diese Prüfung gibt es in diesem Auto nicht
+Die Namen der Prüfungen sind englisch.</translation>
     </message>
     <message id="ui_readiness_empty">
         <source></source>
-        <translation>Nach „Codes lesen“ steht hier der Stand der Überwachung.</translation>
+        <translation>Nach „Codes lesen“ steht hier die Prüfbereitschaft (Readiness).</translation>
     </message>
     <message id="ui_live_title">
         <source></source>
@@ -207,15 +220,15 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_stall_hint">
         <source></source>
-        <translation>wartet auf den Adapter, %1 s</translation>
+        <translation>wartet seit %1 s auf den Adapter</translation>
     </message>
     <message id="ui_live_run">
         <source></source>
-        <translation>&amp;Fahrt:</translation>
+        <translation>&amp;Messung:</translation>
     </message>
     <message id="ui_live_run_hint">
         <source></source>
-        <translation>Art der Fahrtaufzeichnung</translation>
+        <translation>Art der Messung</translation>
     </message>
     <message id="ui_live_zoom">
         <source></source>
@@ -227,11 +240,11 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_live_start">
         <source></source>
-        <translation>Aufzeichnung starten (Strg+R)</translation>
+        <translation>Messung starten (Strg+R)</translation>
     </message>
     <message id="ui_live_stop">
         <source></source>
-        <translation>Aufzeichnung beenden (Strg+R)</translation>
+        <translation>Messung beenden (Strg+R)</translation>
     </message>
     <message id="ui_live_next_sensors">
         <source></source>
@@ -259,11 +272,11 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_live_empty">
         <source></source>
-        <translation>Es sind keine Messwerte gewählt. In den Einstellungen lässt sich wählen, was eine Fahrt abfragt.</translation>
+        <translation>Es sind keine Messwerte gewählt. Wählen Sie in den Einstellungen, was eine Messung abfragt.</translation>
     </message>
     <message id="ui_live_press_start">
         <source></source>
-        <translation>Der runde Knopf oben rechts startet die Aufzeichnung.</translation>
+        <translation>Der runde Knopf oben rechts startet die Messung.</translation>
     </message>
     <message id="ui_live_second_dial">
         <source></source>
@@ -271,7 +284,7 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_live_log_failed">
         <source></source>
-        <translation>Aufzeichnung in die Datei beendet:</translation>
+        <translation>Aufzeichnung abgebrochen:</translation>
     </message>
     <message id="ui_live_no_sensors">
         <source></source>
@@ -303,7 +316,7 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_command_too_long">
         <source></source>
-        <translation>Ein Befehl hat höchstens 38 Zeichen. Es wurde nichts gesendet.</translation>
+        <translation>Ein Befehl darf höchstens 38 Zeichen haben. Es wurde nichts gesendet.</translation>
     </message>
     <message id="ui_send">
         <source></source>
@@ -339,7 +352,7 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_last_bt_hint">
         <source></source>
-        <translation>Ohne Frage mit dem zuletzt gewählten Adapter verbinden</translation>
+        <translation>Ohne Rückfrage mit dem zuletzt gewählten Adapter verbinden</translation>
     </message>
     <message id="ui_units_group">
         <source></source>
@@ -355,15 +368,27 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_log_runs">
         <source></source>
-        <translation>&amp;Fahrten aufzeichnen</translation>
+        <translation>Messun&amp;gen aufzeichnen</translation>
     </message>
     <message id="ui_log_runs_hint">
         <source></source>
-        <translation>Jede Fahrt unter Live-Daten in eine Datei schreiben</translation>
+        <translation>Jede Messung unter Live-Daten in eine Datei schreiben</translation>
+    </message>
+    <message id="ui_language">
+        <source></source>
+        <translation>&amp;Sprache:</translation>
+    </message>
+    <message id="ui_language_desktop">
+        <source></source>
+        <translation>Sprache des Desktops</translation>
+    </message>
+    <message id="ui_language_hint">
+        <source></source>
+        <translation>Wirkt ab dem nächsten Start. Die Beschreibungen der Codes und die Namen der Prüfungen und Messwerte bleiben englisch.</translation>
     </message>
     <message id="ui_pids_group">
         <source></source>
-        <translation>Messwerte einer Fahrt</translation>
+        <translation>Messwerte für Live-Daten</translation>
     </message>
     <message id="ui_pids_table">
         <source></source>
@@ -407,7 +432,7 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_export_none">
         <source></source>
-        <translation>Es gibt noch keine Aufzeichnungen. Live-Daten schreibt eine für jede Fahrt, wenn in den Einstellungen Fahrten aufzeichnen gewählt ist.</translation>
+        <translation>Es gibt noch keine Aufzeichnungen. Live-Daten schreibt zu jeder Messung eine, wenn in den Einstellungen „Messungen aufzeichnen“ gewählt ist.</translation>
     </message>
     <message id="ui_export_log">
         <source></source>
@@ -505,11 +530,11 @@ Bitte prüfen Sie:
         <source></source>
         <translation>Es wurde kein Bluetooth-Gerät gefunden.
 
-Steckt der Adapter, und ist die Zündung an? Hält ein Telefon ihn fest? Suchen Sie danach noch einmal.</translation>
+Steckt der Adapter, und ist die Zündung an? Ist er mit einem Telefon verbunden? Suchen Sie danach noch einmal.</translation>
     </message>
     <message id="bt_connecting">
         <source></source>
-        <translation>Verbinde mit %1 … Fragt der Desktop nach einer PIN: Die meisten Adapter benutzen 1234 oder 0000.</translation>
+        <translation>Verbinde mit %1 … Falls der Desktop eine PIN verlangt: Die meisten Adapter haben 1234 oder 0000.</translation>
     </message>
     <message id="bt_search_again">
         <source></source>
@@ -532,7 +557,7 @@ sudo systemctl enable --now bluetooth</translation>
     </message>
     <message id="bt_no_adapter">
         <source></source>
-        <translation>Dieser Rechner hat keinen Bluetooth-Empfänger, der arbeitet.
+        <translation>Dieser Rechner hat keinen funktionierenden Bluetooth-Adapter.
 
 Stecken Sie einen Bluetooth-Stick ein, oder benutzen Sie einen WLAN-Diagnoseadapter.</translation>
     </message>
@@ -547,7 +572,7 @@ bluetoothctl power on</translation>
         <source></source>
         <translation>Sie dürfen Bluetooth auf diesem Rechner nicht benutzen.
 
-Melden Sie sich am Rechner selbst an, oder bitten Sie die Verwaltung, Sie in die Gruppe bluetooth aufzunehmen.</translation>
+Melden Sie sich am Rechner selbst an, oder bitten Sie den Administrator, Sie in die Gruppe bluetooth aufzunehmen.</translation>
     </message>
     <message id="bt_in_use">
         <source></source>
@@ -567,7 +592,7 @@ Melden Sie sich am Rechner selbst an, oder bitten Sie die Verwaltung, Sie in die
     </message>
     <message id="bt_pairing_failed">
         <source></source>
-        <translation>Das Koppeln mit %1 ist gescheitert. Versuchen Sie es noch einmal, und bestätigen Sie, was der Desktop fragt; die meisten Adapter benutzen die PIN 1234 oder 0000.</translation>
+        <translation>Das Koppeln mit %1 ist gescheitert. Versuchen Sie es noch einmal, und bestätigen Sie die Rückfrage des Desktops; die meisten Adapter haben die PIN 1234 oder 0000.</translation>
     </message>
     <message id="bt_other_problem">
         <source></source>
@@ -587,7 +612,7 @@ Melden Sie sich am Rechner selbst an, oder bitten Sie die Verwaltung, Sie in die
     </message>
     <message id="ui_about">
         <source></source>
-        <translation>Liest die Fahrzeugdiagnose (OBD-II) über einen Adapter vom Typ ELM327: Fehlercodes, Stand der Überwachung, Live-Daten, Aufzeichnungen und eine Konsole.
+        <translation>Liest die Fahrzeugdiagnose (OBD-II) über einen Adapter vom Typ ELM327: Fehlercodes, Prüfbereitschaft, Live-Daten, Aufzeichnungen und eine Konsole.
 
 Freie Software unter der MIT-Lizenz.
 © 2026 The Kestrom developers</translation>

@@ -11,9 +11,11 @@ Connect: plug the adapter into the car's diagnostic port, usually below the stee
 
 Trouble codes: “Read codes” shows the stored codes with their meaning, the malfunction lamp and the readiness monitors. “Clear codes” erases the codes, switches the lamp off and resets the monitors; do it with the engine off, and only after writing the codes down.
 
-Live data: choose a kind of run and press start. Each parameter has a small chart; click one to see it large and on the dial, hold Ctrl to pick a second one for the second dial. Preferences holds the list of parameters and the units.
+Readiness: OK is a monitor that has completed its check, X one that has not yet (no fault: it checks while driving), N/A one that this car does not have. Where a diesel has another monitor in the same place, the name gives both.
 
-Logs: with run logging switched on in Preferences, every run is written to a file of its own in the folder “loggies”; the tooltip of Logs says where that folder is, and File &gt; Export run log… makes tables of them.
+Live data: choose a kind of run and press start. Each parameter has a small chart; click one to see it large and on the dial, hold Ctrl to pick a second one for the second dial. Preferences holds the list of parameters, the units and the language.
+
+Logs: with run logging switched on in Preferences, every run is written to a file of its own in the folder “loggies”; the tooltip of Logs says where that folder is, and File &gt; Export run log… exports them as tables.
 
 Expert: type any adapter command (AT I) or request (01 0C) and read the raw reply.
 
@@ -91,7 +93,7 @@ Please check:
     </message>
     <message id="ui_rail_logs_hint">
         <source></source>
-        <translation>Live data writes run logs; File &gt; Export run log… makes tables of them</translation>
+        <translation>Live data writes run logs; File &gt; Export run log… exports them as tables</translation>
     </message>
     <message id="ui_rail_expert">
         <source></source>
@@ -169,6 +171,10 @@ Please check:
         <source></source>
         <translation>Stored trouble codes</translation>
     </message>
+    <message id="ui_codes_table_hint">
+        <source></source>
+        <translation>The descriptions use the terms of the standard SAE J2012</translation>
+    </message>
     <message id="ui_codes_empty">
         <source></source>
         <translation>Stored trouble codes appear here after “Read codes”.</translation>
@@ -196,6 +202,12 @@ Please check:
     <message id="ui_readiness_table">
         <source></source>
         <translation>Readiness monitors</translation>
+    </message>
+    <message id="ui_readiness_hint">
+        <source></source>
+        <translation>OK: the check is complete
+X: not complete yet; this is no fault, the check runs while driving
+N/A: this car does not have this monitor</translation>
     </message>
     <message id="ui_readiness_empty">
         <source></source>
@@ -361,6 +373,18 @@ Please check:
         <source></source>
         <translation>Write every live-data run to a file</translation>
     </message>
+    <message id="ui_language">
+        <source></source>
+        <translation>La&amp;nguage:</translation>
+    </message>
+    <message id="ui_language_desktop">
+        <source></source>
+        <translation>The desktop's language</translation>
+    </message>
+    <message id="ui_language_hint">
+        <source></source>
+        <translation>Takes effect at the next start. Descriptions of codes and names of monitors and parameters stay English.</translation>
+    </message>
     <message id="ui_pids_group">
         <source></source>
         <translation>Parameters of a live-data run</translation>
@@ -505,7 +529,7 @@ Please check:
         <source></source>
         <translation>No Bluetooth device was found.
 
-Is the adapter plugged in and the ignition on? Does a phone hold it? Then search again.</translation>
+Is the adapter plugged in and the ignition on? Is a phone connected to it? Then search again.</translation>
     </message>
     <message id="bt_connecting">
         <source></source>

@@ -11,11 +11,13 @@ Conexión: enchufe el adaptador en la toma de diagnóstico del coche, normalment
 
 Códigos de avería: «Leer códigos» muestra los códigos guardados con su significado, el testigo de avería y el estado de los monitores. «Borrar códigos» borra los códigos, apaga el testigo y pone a cero los monitores; hágalo con el motor parado y solo después de anotar los códigos.
 
-Datos en vivo: elija el tipo de registro y pulse el botón de inicio. Cada parámetro tiene una gráfica pequeña; haga clic en ella para verla en grande y en el indicador, y mantenga Ctrl para elegir otra para el segundo indicador. La lista de parámetros y las unidades están en las preferencias.
+Estado de los monitores: OK, la comprobación está completa; X, aún no lo está (no es una avería: se hace durante la marcha); N/A, este coche no tiene este monitor. Si un diésel tiene otro monitor en el mismo lugar, el nombre indica los dos. Los nombres y las descripciones siguen por ahora en inglés.
 
-Registros: con el registro activado en las preferencias, cada sesión se guarda en su propio archivo de la carpeta «loggies»; la indicación de Registros dice dónde está, y Archivo &gt; Exportar registro… hace tablas con ellos.
+Datos en vivo: elija el tipo de sesión y pulse el botón de inicio. Cada parámetro tiene un gráfico pequeño; haga clic en él para verlo en grande y en el indicador, y mantenga pulsada la tecla Ctrl para elegir otro para el segundo indicador. La lista de parámetros, las unidades y el idioma están en las preferencias.
 
-Experto: escriba una orden del adaptador (AT I) o una petición (01 0C) y lea la respuesta sin tratar.
+Registros: con «Registrar las sesiones» marcado en las preferencias, cada sesión se guarda en su propio archivo de la carpeta «loggies»; el texto de ayuda de Registros indica dónde está, y Archivo &gt; Exportar registro… los exporta como tablas.
+
+Experto: escriba un comando del adaptador (AT I) o una petición (01 0C) y lea la respuesta en bruto.
 
 ¿No hay respuesta? Compruebe el contacto, el enchufe y la conexión inalámbrica, y cierre otros programas que usen el adaptador.</translation>
     </message>
@@ -51,11 +53,11 @@ Compruebe que:
     </message>
     <message id="blank_input_MSG">
         <source></source>
-        <translation>Escriba antes una orden, por ejemplo AT I o 01 0C.</translation>
+        <translation>Escriba antes un comando, por ejemplo AT I o 01 0C.</translation>
     </message>
     <message id="FIELD_ENGINE_MPG">
         <source></source>
-        <translation>Rendimiento de combustible</translation>
+        <translation>Rendimiento del combustible</translation>
     </message>
     <message id="FIELD_ENGINE_BOOST">
         <source></source>
@@ -71,7 +73,7 @@ Compruebe que:
     </message>
     <message id="bt_closed_MSG">
         <source></source>
-        <translation>La conexión Bluetooth ha terminado. Reinicie Kestrom para volver a conectar.</translation>
+        <translation>La conexión Bluetooth ha terminado. Reinicie Kestrom para volver a conectarse.</translation>
     </message>
     <message id="ui_where_to_begin">
         <source></source>
@@ -91,7 +93,7 @@ Compruebe que:
     </message>
     <message id="ui_rail_logs_hint">
         <source></source>
-        <translation>Datos en vivo escribe los registros; Archivo &gt; Exportar registro… hace tablas con ellos</translation>
+        <translation>Datos en vivo guarda los registros; Archivo &gt; Exportar registro… los exporta como tablas</translation>
     </message>
     <message id="ui_rail_expert">
         <source></source>
@@ -169,6 +171,10 @@ Compruebe que:
         <source></source>
         <translation>Códigos de avería guardados</translation>
     </message>
+    <message id="ui_codes_table_hint">
+        <source></source>
+        <translation>Las descripciones están en inglés, con los términos de la norma SAE J2012</translation>
+    </message>
     <message id="ui_codes_empty">
         <source></source>
         <translation>Los códigos de avería guardados aparecen aquí después de «Leer códigos».</translation>
@@ -197,6 +203,13 @@ Compruebe que:
         <source></source>
         <translation>Estado de los monitores</translation>
     </message>
+    <message id="ui_readiness_hint">
+        <source></source>
+        <translation>OK: la comprobación está completa
+X: aún no está completa; no es una avería, se hace durante la marcha
+N/A: este coche no tiene este monitor
+Los nombres de los monitores están en inglés.</translation>
+    </message>
     <message id="ui_readiness_empty">
         <source></source>
         <translation>El estado de los monitores aparece aquí después de «Leer códigos».</translation>
@@ -207,7 +220,7 @@ Compruebe que:
     </message>
     <message id="ui_stall_hint">
         <source></source>
-        <translation>esperando al adaptador, %1 s</translation>
+        <translation>esperando al adaptador desde hace %1 s</translation>
     </message>
     <message id="ui_live_run">
         <source></source>
@@ -243,7 +256,7 @@ Compruebe que:
     </message>
     <message id="ui_live_strip_hint">
         <source></source>
-        <translation>Clic para mostrar en el gráfico grande; Ctrl o Mayús para varios</translation>
+        <translation>Haga clic para mostrarlo en el gráfico grande; Ctrl o Mayús para varios</translation>
     </message>
     <message id="ui_live_chart">
         <source></source>
@@ -259,7 +272,7 @@ Compruebe que:
     </message>
     <message id="ui_live_empty">
         <source></source>
-        <translation>No hay parámetros elegidos. Elija en las preferencias lo que pide una sesión.</translation>
+        <translation>No hay parámetros elegidos. Elija en las preferencias los que debe leer una sesión.</translation>
     </message>
     <message id="ui_live_press_start">
         <source></source>
@@ -287,15 +300,15 @@ Compruebe que:
     </message>
     <message id="ui_transcript_empty">
         <source></source>
-        <translation>Aquí aparecen las órdenes y las respuestas sin tratar del adaptador.</translation>
+        <translation>Aquí aparecen los comandos y las respuestas en bruto del adaptador.</translation>
     </message>
     <message id="ui_command">
         <source></source>
-        <translation>Orden</translation>
+        <translation>Comando</translation>
     </message>
     <message id="ui_command_label">
         <source></source>
-        <translation>&amp;Orden:</translation>
+        <translation>C&amp;omando:</translation>
     </message>
     <message id="ui_command_hint">
         <source></source>
@@ -303,7 +316,7 @@ Compruebe que:
     </message>
     <message id="ui_command_too_long">
         <source></source>
-        <translation>Una orden tiene como máximo 38 caracteres. No se ha enviado nada.</translation>
+        <translation>Un comando tiene como máximo 38 caracteres. No se ha enviado nada.</translation>
     </message>
     <message id="ui_send">
         <source></source>
@@ -361,6 +374,18 @@ Compruebe que:
         <source></source>
         <translation>Guardar cada sesión de Datos en vivo en un archivo</translation>
     </message>
+    <message id="ui_language">
+        <source></source>
+        <translation>&amp;Idioma:</translation>
+    </message>
+    <message id="ui_language_desktop">
+        <source></source>
+        <translation>Idioma del escritorio</translation>
+    </message>
+    <message id="ui_language_hint">
+        <source></source>
+        <translation>Se aplica la próxima vez que se inicie el programa. Las descripciones de los códigos y los nombres de los monitores y de los parámetros siguen en inglés.</translation>
+    </message>
     <message id="ui_pids_group">
         <source></source>
         <translation>Parámetros de una sesión</translation>
@@ -407,7 +432,7 @@ Compruebe que:
     </message>
     <message id="ui_export_none">
         <source></source>
-        <translation>Todavía no hay registros. Datos en vivo escribe uno por sesión si en las preferencias se elige registrar las sesiones.</translation>
+        <translation>Todavía no hay registros. Datos en vivo guarda uno por sesión si «Registrar las sesiones» está marcado en las preferencias.</translation>
     </message>
     <message id="ui_export_log">
         <source></source>
@@ -419,7 +444,7 @@ Compruebe que:
     </message>
     <message id="ui_export_written">
         <source></source>
-        <translation>Escrito</translation>
+        <translation>Guardado</translation>
     </message>
     <message id="ui_export_csv">
         <source></source>
@@ -495,7 +520,7 @@ Compruebe que:
     </message>
     <message id="bt_searching">
         <source></source>
-        <translation>Buscando dispositivos Bluetooth …</translation>
+        <translation>Buscando dispositivos Bluetooth…</translation>
     </message>
     <message id="bt_search_over">
         <source></source>
@@ -505,11 +530,11 @@ Compruebe que:
         <source></source>
         <translation>No se ha encontrado ningún dispositivo Bluetooth.
 
-¿Está enchufado el adaptador y dado el contacto? ¿Lo ocupa un teléfono? Después, busque de nuevo.</translation>
+¿Está enchufado el adaptador y dado el contacto? ¿Está conectado a un teléfono? Después, busque de nuevo.</translation>
     </message>
     <message id="bt_connecting">
         <source></source>
-        <translation>Conectando con %1 … Si el escritorio pide un PIN, la mayoría de los adaptadores usan 1234 o 0000.</translation>
+        <translation>Conectando con %1… Si el entorno de escritorio pide un PIN, la mayoría de los adaptadores usan 1234 o 0000.</translation>
     </message>
     <message id="bt_search_again">
         <source></source>
@@ -532,22 +557,22 @@ sudo systemctl enable --now bluetooth</translation>
     </message>
     <message id="bt_no_adapter">
         <source></source>
-        <translation>Este equipo no tiene ningún receptor Bluetooth que funcione.
+        <translation>Este equipo no tiene ningún adaptador Bluetooth que funcione.
 
-Enchufe una llave Bluetooth o use un adaptador de diagnóstico Wi-Fi.</translation>
+Conecte un adaptador USB Bluetooth o use un adaptador de diagnóstico Wi-Fi.</translation>
     </message>
     <message id="bt_switched_off">
         <source></source>
-        <translation>El Bluetooth está apagado.
+        <translation>El Bluetooth está desactivado.
 
-Enciéndalo en los ajustes del escritorio, o con:
+Actívelo en los ajustes del escritorio, o con:
 bluetoothctl power on</translation>
     </message>
     <message id="bt_not_permitted">
         <source></source>
         <translation>No tiene permiso para usar el Bluetooth en este equipo.
 
-Inicie la sesión en el propio equipo, o pida a su administrador que lo añada al grupo bluetooth.</translation>
+Inicie sesión en el propio equipo, o pida a su administrador que lo añada al grupo bluetooth.</translation>
     </message>
     <message id="bt_in_use">
         <source></source>
@@ -555,7 +580,7 @@ Inicie la sesión en el propio equipo, o pida a su administrador que lo añada a
     </message>
     <message id="bt_out_of_reach">
         <source></source>
-        <translation>%1 no responde. ¿Está enchufado, dado el contacto y el coche cerca?</translation>
+        <translation>%1 no responde. ¿Está enchufado, está dado el contacto y está cerca el coche?</translation>
     </message>
     <message id="bt_no_serial_port">
         <source></source>
@@ -567,7 +592,7 @@ Inicie la sesión en el propio equipo, o pida a su administrador que lo añada a
     </message>
     <message id="bt_pairing_failed">
         <source></source>
-        <translation>El emparejamiento con %1 ha fallado. Inténtelo de nuevo y confirme lo que pida el escritorio; la mayoría de los adaptadores usan el PIN 1234 o 0000.</translation>
+        <translation>El emparejamiento con %1 ha fallado. Inténtelo de nuevo y confirme lo que pida el entorno de escritorio; la mayoría de los adaptadores usan el PIN 1234 o 0000.</translation>
     </message>
     <message id="bt_other_problem">
         <source></source>
@@ -575,7 +600,7 @@ Inicie la sesión en el propio equipo, o pida a su administrador que lo añada a
     </message>
     <message id="bt_restart_to_connect">
         <source></source>
-        <translation>Kestrom volverá a conectarse tras reiniciarlo.</translation>
+        <translation>Kestrom volverá a conectarse cuando se reinicie.</translation>
     </message>
     <message id="bt_no_chooser">
         <source></source>

@@ -7,17 +7,19 @@
         <source></source>
         <translation>Kestrom lit le diagnostic embarqué (OBD-II) de votre voiture au moyen d'un adaptateur de type ELM327.
 
-Connexion : branchez l'adaptateur sur la prise de diagnostic de la voiture, en général sous le volant, et mettez le contact. Avec un adaptateur Wi-Fi, connectez d'abord cet ordinateur au réseau sans fil de l'adaptateur, puis choisissez Wi-Fi dans les préférences et saisissez l'adresse et le port (le plus souvent 192.168.0.10 et 35000). Avec un adaptateur Bluetooth, choisissez Bluetooth ; la première tâche que vous lancez demande quel appareil utiliser.
+Connexion : branchez l'adaptateur sur la prise de diagnostic de la voiture, en général sous le volant, et mettez le contact. Avec un adaptateur Wi-Fi, connectez d'abord cet ordinateur au réseau sans fil de l'adaptateur, puis choisissez Wi-Fi dans les préférences et saisissez l'adresse et le port (le plus souvent 192.168.0.10 et 35000). Avec un adaptateur Bluetooth, choisissez Bluetooth ; la première tâche que vous lancez demande quel appareil utiliser.
 
-Codes défaut : « Lire les codes » affiche les codes enregistrés avec leur signification, le témoin d'anomalie et l'état des moniteurs. « Effacer les codes » efface les codes, éteint le témoin et remet les moniteurs à zéro ; faites-le moteur arrêté, et seulement après avoir noté les codes.
+Codes défaut : « Lire les codes » affiche les codes enregistrés avec leur signification, le témoin d'anomalie et l'état des moniteurs. « Effacer les codes » efface les codes, éteint le témoin et remet les moniteurs à zéro ; faites-le moteur arrêté, et seulement après avoir noté les codes.
 
-Données en direct : choisissez le type d'enregistrement et appuyez sur le bouton de départ. Chaque paramètre a son petit graphique ; cliquez dessus pour le voir en grand et sur le cadran, maintenez Ctrl pour en choisir un autre pour le second cadran. La liste des paramètres et les unités se règlent dans les préférences.
+État des moniteurs : OK, le contrôle est terminé ; X, il ne l'est pas encore (ce n'est pas un défaut : il se fait en roulant) ; N/A, cette voiture n'a pas ce moniteur. Si un diesel a un autre moniteur à la même place, le nom indique les deux. Les noms et les descriptions restent pour l'instant en anglais.
 
-Journaux : lorsque l'enregistrement est activé dans les préférences, chaque session est écrite dans son propre fichier du dossier « loggies » ; l'infobulle de Journaux indique où il se trouve, et Fichier &gt; Exporter un journal… en fait des tableaux.
+Données en direct : choisissez le type de session et appuyez sur le bouton de démarrage. Chaque paramètre a son petit graphique ; cliquez dessus pour le voir en grand et sur le cadran, maintenez Ctrl pour en choisir un autre pour le second cadran. La liste des paramètres, les unités et la langue se règlent dans les préférences.
 
-Expert : tapez une commande de l'adaptateur (AT I) ou une requête (01 0C) et lisez la réponse brute.
+Journaux : lorsque « Enregistrer les sessions » est coché dans les préférences, chaque session est écrite dans son propre fichier du dossier « loggies » ; l'infobulle de Journaux indique où il se trouve, et Fichier &gt; Exporter un journal… les exporte en tableaux.
 
-Pas de réponse ? Vérifiez le contact, la prise et la liaison sans fil, et fermez les autres programmes qui utilisent l'adaptateur.</translation>
+Expert : tapez une commande de l'adaptateur (AT I) ou une requête (01 0C) et lisez la réponse brute.
+
+Pas de réponse ? Vérifiez le contact, la prise et la liaison sans fil, et fermez les autres programmes qui utilisent l'adaptateur.</translation>
     </message>
     <message id="no_reply_from_car_MSG">
         <source></source>
@@ -27,22 +29,22 @@ Pas de réponse ? Vérifiez le contact, la prise et la liaison sans fil, et ferm
         <source></source>
         <translation>L'adaptateur fonctionne, mais la voiture n'a pas répondu.
 
-Veuillez vérifier que :
-• le contact est mis ou le moteur tourne ;
-• l'adaptateur est bien enfoncé dans la prise de diagnostic ;
-• l'adaptateur choisi dans la liste Bluetooth est celui de cette voiture ;
-• aucun téléphone ni autre programme n'utilise l'adaptateur en même temps ;
+Veuillez vérifier que :
+• le contact est mis ou le moteur tourne ;
+• l'adaptateur est bien enfoncé dans la prise de diagnostic ;
+• l'adaptateur choisi dans la liste Bluetooth est celui de cette voiture ;
+• aucun téléphone ni autre programme n'utilise l'adaptateur en même temps ;
 • la voiture prend en charge OBD-II.</translation>
     </message>
     <message id="no_reply_from_car_MSG_TCP">
         <source></source>
         <translation>L'adaptateur fonctionne, mais la voiture n'a pas répondu.
 
-Veuillez vérifier que :
-• le contact est mis ou le moteur tourne ;
-• l'adaptateur est bien enfoncé dans la prise de diagnostic ;
-• cet ordinateur est connecté au réseau Wi-Fi de l'adaptateur de cette voiture ;
-• aucun téléphone ni autre programme n'utilise l'adaptateur en même temps ;
+Veuillez vérifier que :
+• le contact est mis ou le moteur tourne ;
+• l'adaptateur est bien enfoncé dans la prise de diagnostic ;
+• cet ordinateur est connecté au réseau Wi-Fi de l'adaptateur de cette voiture ;
+• aucun téléphone ni autre programme n'utilise l'adaptateur en même temps ;
 • la voiture prend en charge OBD-II.</translation>
     </message>
     <message id="init_OBD_error_MSG">
@@ -55,7 +57,7 @@ Veuillez vérifier que :
     </message>
     <message id="FIELD_ENGINE_MPG">
         <source></source>
-        <translation>Économie de carburant</translation>
+        <translation>Distance par litre</translation>
     </message>
     <message id="FIELD_ENGINE_BOOST">
         <source></source>
@@ -71,7 +73,7 @@ Veuillez vérifier que :
     </message>
     <message id="bt_closed_MSG">
         <source></source>
-        <translation>La connexion Bluetooth est terminée. Redémarrez Kestrom pour vous reconnecter.</translation>
+        <translation>La connexion Bluetooth est interrompue. Redémarrez Kestrom pour vous reconnecter.</translation>
     </message>
     <message id="ui_where_to_begin">
         <source></source>
@@ -91,7 +93,7 @@ Veuillez vérifier que :
     </message>
     <message id="ui_rail_logs_hint">
         <source></source>
-        <translation>Données en direct écrit les journaux ; Fichier &gt; Exporter un journal… en fait des tableaux</translation>
+        <translation>Données en direct écrit les journaux ; Fichier &gt; Exporter un journal… les exporte sous forme de tableaux</translation>
     </message>
     <message id="ui_rail_expert">
         <source></source>
@@ -169,9 +171,13 @@ Veuillez vérifier que :
         <source></source>
         <translation>Codes défaut enregistrés</translation>
     </message>
+    <message id="ui_codes_table_hint">
+        <source></source>
+        <translation>Les descriptions sont en anglais, dans les termes de la norme SAE J2012</translation>
+    </message>
     <message id="ui_codes_empty">
         <source></source>
-        <translation>Les codes défaut enregistrés apparaissent ici après « Lire les codes ».</translation>
+        <translation>Les codes défaut enregistrés apparaissent ici après « Lire les codes ».</translation>
     </message>
     <message id="ui_codes_none">
         <source></source>
@@ -197,9 +203,16 @@ Veuillez vérifier que :
         <source></source>
         <translation>État des moniteurs</translation>
     </message>
+    <message id="ui_readiness_hint">
+        <source></source>
+        <translation>OK : le contrôle est terminé
+X : pas encore terminé ; ce n'est pas un défaut, le contrôle se fait en roulant
+N/A : cette voiture n'a pas ce moniteur
+Les noms des moniteurs sont en anglais.</translation>
+    </message>
     <message id="ui_readiness_empty">
         <source></source>
-        <translation>L'état des moniteurs apparaît ici après « Lire les codes ».</translation>
+        <translation>L'état des moniteurs apparaît ici après « Lire les codes ».</translation>
     </message>
     <message id="ui_live_title">
         <source></source>
@@ -207,11 +220,11 @@ Veuillez vérifier que :
     </message>
     <message id="ui_stall_hint">
         <source></source>
-        <translation>en attente de l'adaptateur, %1 s</translation>
+        <translation>en attente de l'adaptateur depuis %1 s</translation>
     </message>
     <message id="ui_live_run">
         <source></source>
-        <translation>&amp;Session :</translation>
+        <translation>&amp;Session :</translation>
     </message>
     <message id="ui_live_run_hint">
         <source></source>
@@ -219,11 +232,11 @@ Veuillez vérifier que :
     </message>
     <message id="ui_live_zoom">
         <source></source>
-        <translation>&amp;Zoom :</translation>
+        <translation>&amp;Zoom :</translation>
     </message>
     <message id="ui_live_zoom_hint">
         <source></source>
-        <translation>Nombre des dernières mesures que montre le grand graphique</translation>
+        <translation>Nombre de dernières mesures affichées dans le grand graphique</translation>
     </message>
     <message id="ui_live_start">
         <source></source>
@@ -243,7 +256,7 @@ Veuillez vérifier que :
     </message>
     <message id="ui_live_strip_hint">
         <source></source>
-        <translation>Cliquer pour montrer dans le grand graphique ; Ctrl ou Maj pour plusieurs</translation>
+        <translation>Cliquez pour l'afficher dans le grand graphique ; Ctrl ou Maj pour plusieurs</translation>
     </message>
     <message id="ui_live_chart">
         <source></source>
@@ -259,7 +272,7 @@ Veuillez vérifier que :
     </message>
     <message id="ui_live_empty">
         <source></source>
-        <translation>Aucun paramètre n'est choisi. Choisissez dans les préférences ce qu'une session demande.</translation>
+        <translation>Aucun paramètre n'est choisi. Choisissez dans les préférences les paramètres à interroger.</translation>
     </message>
     <message id="ui_live_press_start">
         <source></source>
@@ -267,11 +280,11 @@ Veuillez vérifier que :
     </message>
     <message id="ui_live_second_dial">
         <source></source>
-        <translation>Ctrl+clic sur un deuxième paramètre ci-dessus montre ici son cadran.</translation>
+        <translation>Ctrl+clic sur un deuxième paramètre ci-dessus affiche ici son cadran.</translation>
     </message>
     <message id="ui_live_log_failed">
         <source></source>
-        <translation>Enregistrement interrompu :</translation>
+        <translation>Enregistrement interrompu :</translation>
     </message>
     <message id="ui_live_no_sensors">
         <source></source>
@@ -295,7 +308,7 @@ Veuillez vérifier que :
     </message>
     <message id="ui_command_label">
         <source></source>
-        <translation>Co&amp;mmande :</translation>
+        <translation>Co&amp;mmande :</translation>
     </message>
     <message id="ui_command_hint">
         <source></source>
@@ -327,11 +340,11 @@ Veuillez vérifier que :
     </message>
     <message id="ui_address">
         <source></source>
-        <translation>Ad&amp;resse :</translation>
+        <translation>Ad&amp;resse :</translation>
     </message>
     <message id="ui_port">
         <source></source>
-        <translation>Por&amp;t :</translation>
+        <translation>Por&amp;t :</translation>
     </message>
     <message id="ui_last_bt">
         <source></source>
@@ -360,6 +373,18 @@ Veuillez vérifier que :
     <message id="ui_log_runs_hint">
         <source></source>
         <translation>Écrire chaque session de Données en direct dans un fichier</translation>
+    </message>
+    <message id="ui_language">
+        <source></source>
+        <translation>&amp;Langue :</translation>
+    </message>
+    <message id="ui_language_desktop">
+        <source></source>
+        <translation>Langue de l'environnement de bureau</translation>
+    </message>
+    <message id="ui_language_hint">
+        <source></source>
+        <translation>Prend effet au prochain démarrage. Les descriptions des codes et les noms des moniteurs et des paramètres restent en anglais.</translation>
     </message>
     <message id="ui_pids_group">
         <source></source>
@@ -403,11 +428,11 @@ Veuillez vérifier que :
     </message>
     <message id="ui_export_logs">
         <source></source>
-        <translation>&amp;Journaux, du plus récent au plus ancien :</translation>
+        <translation>&amp;Journaux, du plus récent au plus ancien :</translation>
     </message>
     <message id="ui_export_none">
         <source></source>
-        <translation>Il n'y a pas encore de journal. Données en direct en écrit un par session quand l'enregistrement est choisi dans les préférences.</translation>
+        <translation>Il n'y a pas encore de journal. Données en direct en écrit un par session quand « Enregistrer les sessions » est coché dans les préférences.</translation>
     </message>
     <message id="ui_export_log">
         <source></source>
@@ -419,7 +444,7 @@ Veuillez vérifier que :
     </message>
     <message id="ui_export_written">
         <source></source>
-        <translation>Écrit</translation>
+        <translation>Écrit le</translation>
     </message>
     <message id="ui_export_csv">
         <source></source>
@@ -495,21 +520,21 @@ Veuillez vérifier que :
     </message>
     <message id="bt_searching">
         <source></source>
-        <translation>Recherche d'appareils Bluetooth …</translation>
+        <translation>Recherche d'appareils Bluetooth…</translation>
     </message>
     <message id="bt_search_over">
         <source></source>
-        <translation>La recherche est terminée. L'adaptateur manque ? Débranchez-le, rebranchez-le, mettez le contact et cherchez de nouveau.</translation>
+        <translation>La recherche est terminée. L'adaptateur n'apparaît pas ? Débranchez-le, rebranchez-le, mettez le contact et recherchez de nouveau.</translation>
     </message>
     <message id="bt_none_found">
         <source></source>
         <translation>Aucun appareil Bluetooth n'a été trouvé.
 
-L'adaptateur est-il branché, le contact mis ? Un téléphone l'occupe-t-il ? Cherchez ensuite de nouveau.</translation>
+L'adaptateur est-il branché et le contact mis ? Un téléphone y est-il connecté ? Recherchez ensuite de nouveau.</translation>
     </message>
     <message id="bt_connecting">
         <source></source>
-        <translation>Connexion à %1 … Si le bureau demande un code PIN, la plupart des adaptateurs utilisent 1234 ou 0000.</translation>
+        <translation>Connexion à %1… Si l'environnement de bureau demande un code PIN, la plupart des adaptateurs utilisent 1234 ou 0000.</translation>
     </message>
     <message id="bt_search_again">
         <source></source>
@@ -527,20 +552,20 @@ L'adaptateur est-il branché, le contact mis ? Un téléphone l'occupe-t-il ? Ch
         <source></source>
         <translation>Le service Bluetooth ne fonctionne pas sur cet ordinateur.
 
-Installez le paquet bluez s'il manque, et démarrez le service :
+Installez le paquet bluez s'il manque, et démarrez le service :
 sudo systemctl enable --now bluetooth</translation>
     </message>
     <message id="bt_no_adapter">
         <source></source>
-        <translation>Cet ordinateur n'a pas d'émetteur Bluetooth en état de marche.
+        <translation>Cet ordinateur n'a pas d'adaptateur Bluetooth en état de marche.
 
 Branchez une clé Bluetooth, ou utilisez un adaptateur de diagnostic Wi-Fi.</translation>
     </message>
     <message id="bt_switched_off">
         <source></source>
-        <translation>Le Bluetooth est éteint.
+        <translation>Le Bluetooth est désactivé.
 
-Allumez-le dans les réglages du bureau, ou avec :
+Activez-le dans les paramètres de l'environnement de bureau, ou avec :
 bluetoothctl power on</translation>
     </message>
     <message id="bt_not_permitted">
@@ -555,19 +580,19 @@ Ouvrez une session sur l'ordinateur même, ou demandez à son administrateur de 
     </message>
     <message id="bt_out_of_reach">
         <source></source>
-        <translation>%1 ne répond pas. L'adaptateur est-il branché, le contact mis, la voiture à portée ?</translation>
+        <translation>%1 ne répond pas. L'adaptateur est-il branché, le contact mis, la voiture à portée ?</translation>
     </message>
     <message id="bt_no_serial_port">
         <source></source>
-        <translation>%1 n'offre pas de port série : ce n'est pas un adaptateur avec lequel Kestrom peut parler. Choisissez un autre appareil.</translation>
+        <translation>%1 n'offre pas de port série : Kestrom ne peut donc pas communiquer avec cet appareil. Choisissez-en un autre.</translation>
     </message>
     <message id="bt_refused">
         <source></source>
-        <translation>%1 a refusé la connexion. Un téléphone ou un autre ordinateur l'utilise-t-il ? Débranchez l'adaptateur, rebranchez-le et réessayez.</translation>
+        <translation>%1 a refusé la connexion. Un téléphone ou un autre ordinateur l'utilise-t-il ? Débranchez l'adaptateur, rebranchez-le et réessayez.</translation>
     </message>
     <message id="bt_pairing_failed">
         <source></source>
-        <translation>L'association avec %1 a échoué. Réessayez et confirmez ce que le bureau demande ; la plupart des adaptateurs utilisent le code PIN 1234 ou 0000.</translation>
+        <translation>L'association avec %1 a échoué. Réessayez et confirmez ce que l'environnement de bureau demande ; la plupart des adaptateurs utilisent le code PIN 1234 ou 0000.</translation>
     </message>
     <message id="bt_other_problem">
         <source></source>
@@ -579,7 +604,7 @@ Ouvrez une session sur l'ordinateur même, ou demandez à son administrateur de 
     </message>
     <message id="bt_no_chooser">
         <source></source>
-        <translation>Aucun adaptateur Bluetooth n'est choisi. Nommez-en un avec --bluetooth ADRESSE (kestrom bluetooth-scan montre ceux qui sont à portée) ou un adaptateur Wi-Fi avec --adapter HÔTE:PORT ; --demo n'en demande aucun.</translation>
+        <translation>Aucun adaptateur Bluetooth n'est choisi. Indiquez-en un avec --bluetooth ADRESSE (kestrom bluetooth-scan affiche ceux qui sont à portée) ou un adaptateur Wi-Fi avec --adapter HÔTE:PORT ; --demo n'en demande aucun.</translation>
     </message>
     <message id="ui_menu_about">
         <source></source>
@@ -587,7 +612,7 @@ Ouvrez une session sur l'ordinateur même, ou demandez à son administrateur de 
     </message>
     <message id="ui_about">
         <source></source>
-        <translation>Lit le diagnostic embarqué (OBD-II) d'une voiture par un adaptateur de type ELM327 : codes défaut, moniteurs, données en direct, journaux et une console.
+        <translation>Lit le diagnostic embarqué (OBD-II) d'une voiture par un adaptateur de type ELM327 : codes défaut, moniteurs, données en direct, journaux et une console.
 
 Logiciel libre sous licence MIT.
 © 2026 The Kestrom developers</translation>

@@ -1,8 +1,10 @@
 // Preferences and console, driven by object name.
 #include "app_harness.h"
+#include "languages.h"
 
 #include <QAbstractItemModel>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -65,6 +67,21 @@ TEST_F(preferences, reusing_the_last_adapter_is_off_until_asked_for) {
     EXPECT_TRUE(app.find<QCheckBox>("lastBTCheck")->isChecked());
     app.press("setDefaultsBtn");
     EXPECT_FALSE(app.defaults.boolean(REUSE_LAST_BT_KEY));
+}
+
+TEST_F(preferences, a_chosen_language_is_kept_for_the_next_start) {
+    auto* box = app.find<QComboBox>("languageBox");
+    EXPECT_EQ(box->currentIndex(), 0) << "the desktop's";
+    box->setCurrentIndex(box->findText(QStringLiteral("Español")));
+    EXPECT_EQ(app.defaults.string(LANGUAGE_KEY), "") << "not before the screen is left";
+    leave();
+    EXPECT_EQ(app.defaults.string(LANGUAGE_KEY), "es");
+    app.delegate->do_prefs();
+    EXPECT_EQ(app.find<QComboBox>("languageBox")->currentText().toStdString(), "Español");
+    app.press("setDefaultsBtn");
+    EXPECT_EQ(app.find<QComboBox>("languageBox")->currentIndex(), 0);
+    app.defaults.set_string(LANGUAGE_KEY, "tlh");
+    EXPECT_EQ(chosen_language(app.defaults), "") << "a language without a table";
 }
 
 TEST_F(preferences, quitting_saves_as_leaving_does) {

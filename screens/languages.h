@@ -1,0 +1,20 @@
+// The languages that the program speaks, and the user's choice among them.
+#pragma once
+
+#include <span>
+#include <string>
+
+class user_defaults;
+
+struct language {
+    const char* code;
+    const char* name; // in itself
+};
+
+inline constexpr char LANGUAGE_KEY[] = "language";
+
+std::span<const language> languages();
+
+// The code of the stored choice; empty for the desktop's language, which also stands in for a code
+// that is none of ours.
+std::string chosen_language(const user_defaults& store);

@@ -7,6 +7,7 @@
 
 #include <QAbstractItemModel>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTableView>
 
 #include <filesystem>
@@ -35,6 +36,11 @@ class transcript : public testing::TestWithParam<std::string> {
     void press(const std::string& button) {
         app.press(button.c_str());
         app.loop.settle();
+    }
+    // On the console
+    void say(const std::string& text) {
+        app.find<QLineEdit>("cmdTxt")->setText(QString::fromStdString(text));
+        press("sendBtn");
     }
     // To the next alert: the index of the button
     void answer(const std::string& text) { app.messages.answers.push_back(std::stoi(text)); }
@@ -79,6 +85,7 @@ const std::map<std::string, void (transcript::*)(const std::string&)> transcript
     {"open", &transcript::open},
     {"follow", &transcript::follow},
     {"press", &transcript::press},
+    {"say", &transcript::say},
     {"answer", &transcript::answer},
     {"connected", &transcript::connected},
     {"connection", &transcript::connection},
@@ -207,6 +214,8 @@ void transcript::way(const std::string& text) {
     app.loop.settle();
     if (!connected_2_WIFI_interface)
         app.connect();
+    else if (app.wire().written.empty()) // what the run before is owed
+        app.loop.advance(std::chrono::seconds(3));
     for (std::string next; (next = app.sent()) != command;) {
         const auto answer = GOOD_ANSWERS.find(next);
         ASSERT_TRUE(next.starts_with("AT") || answer != GOOD_ANSWERS.end())

@@ -4,6 +4,7 @@
 #include "actions.h"
 #include "app_harness.h"
 #include "qt_warnings.h"
+#include "stall_hint.h"
 
 #include <QAbstractItemModel>
 #include <QLabel>
@@ -69,6 +70,13 @@ class transcript : public testing::TestWithParam<std::string> {
     void waity(const std::string& text) {
         EXPECT_EQ(app.find("waity")->isHidden(), text == "hidden");
     }
+    void reconnect(const std::string& text) {
+        EXPECT_EQ(app.find("reconnect")->isHidden(), text == "hidden");
+    }
+    // The second has passed after which the hint looks at the clock
+    void looks(const std::string&) {
+        static_cast<stall_hint*>(app.find("stallHint"))->refresh();
+    }
     void rows(const std::string& text);
     void row(const std::string& text);
     std::string told(const std::string& text) const {
@@ -104,6 +112,8 @@ const std::map<std::string, void (transcript::*)(const std::string&)> transcript
     {"run", &transcript::run},
     {"label", &transcript::label},
     {"waity", &transcript::waity},
+    {"reconnect", &transcript::reconnect},
+    {"looks", &transcript::looks},
     {"rows", &transcript::rows},
     {"row", &transcript::row},
 };
@@ -169,8 +179,10 @@ void transcript::rows(const std::string& text) {
 
 // "lost" or the words of a failure
 void transcript::connection(const std::string& text) {
-    if (text != "lost")
+    if (text != "lost") {
+        expect_warning(text);
         return app.fail(text);
+    }
     expect_warning("Disconected");
     scripted_stream_pair::raise(app.wire(), app.loop, STREAM_END);
     app.loop.settle();

@@ -142,7 +142,6 @@ void Ks_lite_delegate::closeRFCOMMConnectionOnChannel(
 void Ks_lite_delegate::drop_channel() {
     closeRFCOMMConnectionOnChannel(mRFCOMMChannel);
     mRFCOMMChannel.reset();
-    mBluetoothDevice.reset(); // its farewell must not end a new connection to the same adapter
     bluetooth_opening_ = false;
     connected_2_BT_interface = false;
 }

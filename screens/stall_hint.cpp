@@ -6,6 +6,21 @@
 
 #include <QPushButton>
 
+namespace {
+
+// The foot of a screen is built before its content: Tab comes to it last all the same.
+void put_last_in_tab_order(QWidget* widget, const QWidget* screen) {
+    QWidget* last = widget;
+    for (QWidget* next = screen->nextInFocusChain(); next != screen;
+         next = next->nextInFocusChain())
+        if (screen->isAncestorOf(next) && (next->focusPolicy() & Qt::TabFocus))
+            last = next;
+    if (last != widget)
+        QWidget::setTabOrder(last, widget);
+}
+
+} // namespace
+
 stall_hint::stall_hint(Ks_lite_delegate& delegate, QWidget* parent)
     : QLabel(parent), delegate_(delegate), text_(ui_text(delegate, "ui_stall_hint")),
       reconnect_(new QPushButton(ui_text(delegate, "ui_reconnect"), parent)) {
@@ -37,5 +52,8 @@ void stall_hint::refresh() {
             : text_.arg(std::chrono::duration_cast<std::chrono::seconds>(now - since).count());
     if (hint != text())
         setText(hint);
-    reconnect_->setVisible(delegate_.link_in_doubt());
+    const bool in_doubt = delegate_.link_in_doubt();
+    if (in_doubt && reconnect_->isHidden())
+        put_last_in_tab_order(reconnect_, parentWidget());
+    reconnect_->setVisible(in_doubt);
 }

@@ -4,7 +4,6 @@
 #include "display_text.h"
 #include "globalVars.h"
 #include "live_view.h"
-#include "reply_accumulator.h"
 #include "status_line.h"
 #include "system_log.h"
 #include "thumbnail_strip.h"
@@ -33,9 +32,7 @@ actions::actions(Ks_lite_delegate& delegate)
     awakeFromNib();
 }
 
-actions::~actions() {
-    KS_delegate.doors().loop.cancel(straggler_bound_);
-}
+actions::~actions() = default;
 
 QWidget* actions::view() {
     return view_->root();
@@ -151,7 +148,7 @@ void actions::run_a_log() {
 }
 
 void actions::work_current_task() {
-    if (!task_running() || awaits_old_reply())
+    if (!task_running() || awaits_owed_reply())
         return;
     switch (g_cur_mode) {
     case MODE_HANDSHAKE:
@@ -177,29 +174,19 @@ void actions::work_current_task() {
 void actions::handleOBDRcvdMsg(const std::string& text) {
     qCDebug(log_screens, "readDTC:handleOBDRcvdMsg got the stuff%s", text.c_str());
     if (text == "Timeout" && g_obd_msg_state == S_FAIL) {
-        if (awaits_old_reply()) {
-            old_reply_is_over();
-        } else if (task_running()) {
+        if (task_running() && !awaits_owed_reply()) {
             odb_curReplyBuffyMsg += text; // stands in front of the next reply
             work_current_task();
         }
         return;
     }
-    if (!accumulate_reply(text))
-        return;
-    if (awaits_old_reply())
-        old_reply_is_over();
-    else if (straggler_bound_ != 0)
-        straggler_came();
-    else
+    if (completes_reply(text))
         work_current_task();
 }
 
 void actions::leave_cur_op_gracefully(const std::string&) {
     view_->show_waity(false);
     cur_log_idx = 0;
-    KS_delegate.doors().loop.cancel(straggler_bound_);
-    straggler_bound_ = 0;
     if (const auto why = log_out_stream.close())
         log_failed(*why);
     keep_logging = false;
@@ -208,7 +195,7 @@ void actions::leave_cur_op_gracefully(const std::string&) {
 }
 
 void actions::link_lost() {
-    KS_delegate.give_up_on_reply(); // or its time-out would end a later run
+    KS_delegate.give_up_on_replies(); // or its time-out would end a later run
     if (keep_logging)
         leave_cur_op_gracefully("");
 }

@@ -57,8 +57,7 @@ class actions final : public obd_screen {
     bool running() const { return keep_logging; }
     // A run waits for the adapter or for the link to it.
     bool awaits_adapter() const {
-        return keep_logging &&
-               (straggler_bound_ != 0 || awaits_old_reply() || KS_delegate.anything_outstanding());
+        return keep_logging && (awaits_owed_reply() || KS_delegate.anything_outstanding());
     }
     const std::vector<std::string>& pids() const { return _pid_logitems_list; }
     // Of the run: what was answered since its first cycle began.
@@ -100,8 +99,6 @@ class actions final : public obd_screen {
     order_of_answer order_of(std::string_view reply) const;
     void ask_next(order_of_answer order);
     bool await_straggler(order_of_answer order);
-    void straggler_came();
-    void continue_in_step();
     void ask(const sample_request& request);
     void prep_and_send_cmd(std::string_view command, int this_time_out);
     void note_reply(const std::string& reply);
@@ -143,9 +140,8 @@ class actions final : public obd_screen {
     std::vector<sample_request> requests_;
     std::size_t cur_request_ = 0;
     bool asks_first_question_ = false;
-    run_loop::timer_id straggler_bound_ = 0; // the answer that an adapter still owes is awaited
-    int waits_in_vain_ = 0;                  // for one
-    int answers_in_step_ = 0;                // since the last that was not
+    int waits_in_vain_ = 0;   // for an answer that the adapter still owed
+    int answers_in_step_ = 0; // since the last that was not
     std::uint64_t requests_answered_ = 0, cycles_ = 0;
     bool status_changed_ = false;
     run_loop::milliseconds status_shown_{0};

@@ -340,23 +340,13 @@ void actions::ask_next(order_of_answer order) {
 bool actions::await_straggler(order_of_answer order) {
     if (waits_in_vain_ >= (order == order_of_answer::one_behind ? MOST_WAITS_IN_VAIN : 1))
         return false;
-    const auto bound = waits_in_vain_ == 0 ? STRAGGLER_BOUND : LONG_STRAGGLER_BOUND;
-    straggler_bound_ = KS_delegate.doors().loop.after(bound, [this] {
-        ++waits_in_vain_;
-        continue_in_step();
-    });
+    KS_delegate.replies().answer_is_missing();
+    when_adapter_is_free(waits_in_vain_ == 0 ? STRAGGLER_BOUND : LONG_STRAGGLER_BOUND,
+                         [this](bool in_vain) {
+                             waits_in_vain_ = in_vain ? waits_in_vain_ + 1 : 0;
+                             ask(requests_[cur_request_]);
+                         });
     return true;
-}
-
-void actions::straggler_came() {
-    waits_in_vain_ = 0;
-    continue_in_step();
-}
-
-void actions::continue_in_step() {
-    KS_delegate.doors().loop.cancel(straggler_bound_);
-    straggler_bound_ = 0;
-    ask(requests_[cur_request_]);
 }
 
 void actions::complete_cycle() {

@@ -16,6 +16,7 @@
 #include <QIconEngine>
 #include <QLabel>
 #include <QPainter>
+#include <QPushButton>
 #include <QResource>
 #include <QStyle>
 #include <QStyledItemDelegate>
@@ -190,7 +191,9 @@ screen_bones make_screen_bones(Ks_lite_delegate& delegate, std::string_view titl
         bones.status = place->line();
         bones.status->setAccessibleDescription(ui_text(delegate, "ui_status"));
         foot->addWidget(place, 1);
-        foot->addWidget(new stall_hint(delegate, bones.root));
+        auto* hint = new stall_hint(delegate, bones.root);
+        foot->addWidget(hint);
+        foot->addWidget(hint->reconnect());
         foot->addWidget(bones.waity);
         column->addLayout(foot);
     }

@@ -116,8 +116,11 @@ void expertCtrlr::handle_a_send() {
     append_echo(command);
     cmdTxt->selectAll();
     cmdTxt->setFocus();
-    if (!KS_delegate.openInterfaceConnection())
-        return; // the transport calls work_current_task once the link is up
+    if (!KS_delegate.openInterfaceConnection()) {
+        // The transport calls work_current_task once the link is up, if it will be.
+        asked_to_send_ = KS_delegate.link_coming_up();
+        return;
+    }
     set_status_msg("");
     work_current_task();
 }
@@ -143,6 +146,12 @@ void expertCtrlr::handleOBDRcvdMsg(const std::string& text) {
     waity->hide();
     if (received)
         received(text);
+}
+
+// What was asked for is not sent over another link.
+void expertCtrlr::leave_cur_op_gracefully(const std::string&) {
+    asked_to_send_ = false;
+    waity->hide();
 }
 
 void expertCtrlr::append_echo(const std::string& command) {

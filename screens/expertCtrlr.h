@@ -23,6 +23,7 @@ class expertCtrlr final : public obd_screen {
     QWidget* view() override { return root_.get(); }
     void work_current_task() override;
     void handleOBDRcvdMsg(const std::string& text) override;
+    void leave_cur_op_gracefully(const std::string& message) override;
 
     void clickSend() { handle_a_send(); }
     // Return in the field; leaving the field by mouse does not send.

@@ -3,6 +3,7 @@
 #include "alerts.h"
 #include "bundle.h"
 #include "globalVars.h"
+#include "reply_accumulator.h"
 #include "status_line.h"
 
 namespace {
@@ -11,9 +12,8 @@ toolkit_doors doors_for_toolkit(app_doors& doors) {
     return {&doors.resources, &doors.defaults, &doors.message_boxes, &doors.notifications};
 }
 
-// How long another command's reply is awaited: the reply time-out as it is at start, whatever a run
-// has made of it.
-constexpr std::chrono::seconds OLD_REPLY_BOUND{3};
+// How long another command's reply is awaited, whatever a run has made of the reply time-out.
+constexpr std::chrono::seconds OLD_REPLY_BOUND{REPLY_TIME_OUT_AT_START};
 
 } // namespace
 
@@ -21,7 +21,7 @@ obd_screen::obd_screen(Ks_lite_delegate& delegate)
     : KS_delegate(delegate), toolies(doors_for_toolkit(delegate.doors())) {}
 
 obd_screen::~obd_screen() {
-    KS_delegate.doors().loop.cancel(old_reply_bound_);
+    KS_delegate.doors().loop.cancel(owed_bound_);
 }
 
 void obd_screen::begin_afresh() {
@@ -39,8 +39,8 @@ void obd_screen::begin_task() {
 }
 
 void obd_screen::end_task() {
-    KS_delegate.doors().loop.cancel(old_reply_bound_);
-    old_reply_bound_ = 0;
+    KS_delegate.doors().loop.cancel(owed_bound_);
+    owed_bound_ = 0;
     task_running_ = false;
 }
 
@@ -53,7 +53,7 @@ bool obd_screen::work_over_link(const std::function<void()>& link_usable) {
     }
     link_usable();
     if (g_connect_with != KS_USE_BT || connected_2_BT_interface) {
-        work_when_adapter_is_free();
+        begin_first_step();
     } else if (!KS_delegate.link_coming_up()) { // a channel that has closed is never opened again
         set_status_msg(localized("bt_closed_MSG"));
         return false;
@@ -61,22 +61,41 @@ bool obd_screen::work_over_link(const std::function<void()>& link_usable) {
     return true;
 }
 
-void obd_screen::work_when_adapter_is_free() {
-    if (KS_delegate.waiting_since().count() == 0)
+void obd_screen::begin_first_step() {
+    if (!KS_delegate.replies().owes()) {
         work_current_task();
-    else
-        old_reply_bound_ =
-            KS_delegate.doors().loop.after(OLD_REPLY_BOUND, [this] {
-                KS_delegate.give_up_on_reply();
-                old_reply_is_over();
-            });
+        return;
+    }
+    when_adapter_is_free(OLD_REPLY_BOUND, [this](bool in_vain) {
+        if (!in_vain || KS_delegate.replies().half_come())
+            odb_curReplyBuffyMsg.clear();
+        work_current_task();
+    });
 }
 
-void obd_screen::old_reply_is_over() {
-    KS_delegate.doors().loop.cancel(old_reply_bound_);
-    old_reply_bound_ = 0;
-    odb_curReplyBuffyMsg.clear();
-    work_current_task();
+void obd_screen::when_adapter_is_free(run_loop::milliseconds bound,
+                                      std::function<void(bool in_vain)> go_on) {
+    go_on_ = std::move(go_on);
+    owed_bound_ = KS_delegate.doors().loop.after(bound, [this] {
+        KS_delegate.give_up_on_replies();
+        this->go_on(true);
+    });
+}
+
+void obd_screen::go_on(bool in_vain) {
+    KS_delegate.doors().loop.cancel(owed_bound_);
+    owed_bound_ = 0;
+    const auto call = std::move(go_on_);
+    call(in_vain);
+}
+
+bool obd_screen::completes_reply(const std::string& chunk) {
+    const bool complete = accumulate_reply(chunk);
+    if (!awaits_owed_reply())
+        return complete;
+    if (!KS_delegate.replies().owes())
+        go_on(false);
+    return false;
 }
 
 void obd_screen::set_status_msg(const std::string& message) {

@@ -57,20 +57,24 @@ class obd_screen : public screen_controller {
     // Opens the link and starts the task over it; the transport starts a task whose link is still
     // coming up. `link_usable` is called when it is up already. False: no link will come up.
     bool work_over_link(const std::function<void()>& link_usable);
-    // Starts the task's first step, now or when the adapter is done with another command: that
-    // command's reply must not be taken for this task's first, and a character sent meanwhile would
-    // interrupt it.
-    void work_when_adapter_is_free();
-    // The next complete reply, or a time-out, belongs to that other command.
-    bool awaits_old_reply() const { return old_reply_bound_ != 0; }
-    void old_reply_is_over();
+    // Goes on when the adapter owes no reply any more, at the latest after the bound, and then
+    // `in_vain`: what comes until then is dropped. That reply must not be taken for the answer to what is sent
+    // next, and a character sent meanwhile would interrupt it.
+    void when_adapter_is_free(run_loop::milliseconds bound, std::function<void(bool in_vain)> go_on);
+    bool awaits_owed_reply() const { return owed_bound_ != 0; }
+    // The running task's next complete reply has come with this chunk; what was owed is seen to.
+    bool completes_reply(const std::string& chunk);
 
   public:
     // For the ends that say nothing and reset nothing.
     void end_task();
 
   private:
-    run_loop::timer_id old_reply_bound_ = 0;
+    void begin_first_step();
+    void go_on(bool in_vain);
+
+    run_loop::timer_id owed_bound_ = 0;
+    std::function<void(bool in_vain)> go_on_;
     status_line* statusLbl = nullptr;
     std::string status_;
     bool task_running_ = false;

@@ -1,5 +1,6 @@
 #include "prefs.h"
 
+#include "bundle.h"
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
 #include "languages.h"
@@ -62,15 +63,13 @@ void prefs::savePrefs() {
         g_connect_with = KS_USE_WIFI;
         const std::string address = view_->address();
         const std::string port = view_->port();
-        if (address != g_cur_wifi_IP || port != g_cur_wifi_port) {
-            g_cur_wifi_IP = address;
-            g_cur_wifi_port = port;
-            KS_delegate.adapter_changed();
-        }
+        g_cur_wifi_IP = address;
+        g_cur_wifi_port = port;
         store.set_integer(KS_INTERFACE_KEY, KS_USE_WIFI);
         store.set_string(WIFI_IP_KEY, address);
         store.set_string(WIFI_PORT_KEY, port);
     }
+    KS_delegate.settings_left();
     g_metric_units = view_->metric_units();
     store.set_boolean(KS_METRIC_UNITS_KEY, g_metric_units);
     g_log_runs = view_->log_runs();
@@ -82,7 +81,9 @@ void prefs::savePrefs() {
         if (entry.selected)
             chosen.push_back(entry.pid);
     store.set_string_array(PIDS_ARRAY_KEY, std::move(chosen));
-    store.synchronize();
+    if (!store.synchronize())
+        toolies.myMsgBox(KS_delegate.doors().resources.localized("ui_settings_not_saved") + "\n" +
+                         store.path());
 }
 
 void prefs::setDefaults() {

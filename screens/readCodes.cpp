@@ -3,7 +3,6 @@
 #include "alerts.h"
 #include "codes_view.h"
 #include "globalVars.h"
-#include "reply_accumulator.h"
 #include "system_log.h"
 #include "text.h"
 
@@ -79,7 +78,7 @@ void readCodes::start_task(int task, const std::string& status) {
 }
 
 void readCodes::work_current_task() {
-    if (!task_running() || awaits_old_reply())
+    if (!task_running() || awaits_owed_reply())
         return;
     switch (g_cur_mode) {
     case MODE_HANDSHAKE:
@@ -101,15 +100,9 @@ void readCodes::handleOBDRcvdMsg(const std::string& text) {
     if (contains(text, "Timeout")) {
         beep();
         set_status_msg("Cur op timed out... Please Check/retry");
-        if (awaits_old_reply())
-            old_reply_is_over();
         return; // no clean-up: the user retries with a button
     }
-    if (!accumulate_reply(text))
-        return;
-    if (awaits_old_reply())
-        old_reply_is_over();
-    else
+    if (completes_reply(text))
         work_current_task();
 }
 

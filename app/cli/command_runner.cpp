@@ -102,8 +102,8 @@ void command_runner::take_reply(const std::string& chunk) {
     reply_ += chunk;
     if (reply_.size() > LONGEST_REPLY)
         end(false, "no prompt within 64 KiB");
-    if (const std::size_t prompt = reply_.find('>'); prompt != std::string::npos) {
-        reply_.resize(prompt + 1);
+    if (const auto whole = find_reply(reply_)) {
+        reply_ = reply_.substr(whole->begin, whole->end - whole->begin);
         reply_complete_ = true;
     }
 }

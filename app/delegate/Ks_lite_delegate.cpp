@@ -17,7 +17,7 @@ Ks_lite_delegate::Ks_lite_delegate(app_doors doors, screen_factories factories)
     g_cur_protocol.clear();
     connected_2_WIFI_interface = false;
     connected_2_BT_interface = false;
-    g_this_delta = 3;
+    g_this_delta = REPLY_TIME_OUT_AT_START;
 }
 
 Ks_lite_delegate::~Ks_lite_delegate() {

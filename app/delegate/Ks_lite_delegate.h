@@ -9,6 +9,7 @@
 #pragma once
 
 #include "notification_center.h"
+#include "reply_ledger.h"
 #include "run_loop.h"
 #include "screen_controller.h"
 #include "serial_port_profile.h"
@@ -41,6 +42,9 @@ struct app_doors {
 // Makes the controller of an interface file; nothing when it cannot be loaded.
 using screen_factory = std::function<std::unique_ptr<screen_controller>(Ks_lite_delegate&)>;
 using screen_factories = std::map<std::string, screen_factory, std::less<>>;
+
+// Posted when link_in_doubt() may have changed.
+inline constexpr char LINK_EVENT[] = "link";
 
 inline constexpr char READ_CODES_VIEW[] = "read_codes_view";
 inline constexpr char ACTIONS_VIEW[] = "actions_view";
@@ -85,16 +89,21 @@ class Ks_lite_delegate {
     void l_work_current_task(const std::string* message);
     void l_set_status_msg(const std::string& message);
     void disconnect();
-    // The settings name another adapter: closes an open link and forgets what the old adapter said.
-    void adapter_changed();
+    // The settings have been changed: a link to another adapter than they name now is closed, and
+    // what that adapter said is forgotten.
+    void settings_left();
+    // What a restart does to the link, and then opens it. Starts no task.
+    void reconnect();
     // The link is on its way up, and will start the screen's work.
     bool link_coming_up() const;
     // A reply, a connection or a deferred call is still to come.
     bool anything_outstanding() const;
-    // The last command's reply counts as lost, and is no time-out any more.
-    void give_up_on_reply();
-    // Since when the last command waits for its prompt; zero when none does.
-    run_loop::milliseconds waiting_since() const { return reply_awaited_since_; }
+    // No reply is to come any more, and nothing that was sent times out.
+    void give_up_on_replies();
+    // Nothing has come since the connection broke or could not be made, since a time-out, or for
+    // long although a reply is awaited.
+    bool link_in_doubt() const;
+    reply_ledger& replies() { return ledger_; }
 
   private:
     // shell
@@ -107,6 +116,9 @@ class Ks_lite_delegate {
     void handleOBDRcvdNotification(const std::string& text);
     void post_received(const std::string& text);
     void tell_link_lost();
+    void set_doubt(bool in_doubt);
+    void work_over_new_link(const std::string& message);
+    void drop_link();
 
     // TCP
     bool openTCP_socky();
@@ -122,6 +134,8 @@ class Ks_lite_delegate {
     std::shared_ptr<bluetooth_device> choose_bluetooth_device();
     std::shared_ptr<bluetooth_device> last_bluetooth_device() const;
     void sendOBDcmd_BT(std::string_view command);
+    rfcomm_channel_delegate channel_callbacks();
+    void drop_channel();
     void rfcommChannelOpenComplete(int status);
     void rfcommChannelData(std::string_view data);
     void rfcommChannelClosed();
@@ -139,13 +153,20 @@ class Ks_lite_delegate {
     run_loop::timer_id release_ = 0;
 
     run_loop::timer_id obdTimeOutTimer = 0;
-    std::uint64_t given_up_ = 0; // commands sent before this changed time out no more
-    run_loop::milliseconds reply_awaited_since_{0};
-    std::uint64_t commands_sent_ = 0;
+    reply_ledger ledger_;
+    bool in_doubt_ = false;
 
+    // What the settings named when the link was opened last.
+    struct adapter_choice {
+        int transport = 0; // none
+        std::string host, port;
+        bool operator==(const adapter_choice&) const = default;
+    };
+    static adapter_choice chosen_adapter();
+    adapter_choice opened_to_;
+    std::uint64_t attempt_ = 0;    // counts them: the events of an abandoned one are nobody's
+    bool only_connecting_ = false; // no task waits for the link that is coming up
     std::unique_ptr<stream_pair> streams_;
-    std::uint64_t attempt_ =
-        0; // counts connection attempts, so that old timers know they are stale
     enum class attempt_state {
         none,
         connecting,
@@ -156,6 +177,6 @@ class Ks_lite_delegate {
     run_loop::timer_id deferred_call_ = 0;
 
     std::shared_ptr<bluetooth_device> mBluetoothDevice; // while connected
-    std::shared_ptr<rfcomm_channel> mRFCOMMChannel;     // never cleared once set
+    std::shared_ptr<rfcomm_channel> mRFCOMMChannel;     // once set, cleared by drop_link() only
     bool bluetooth_opening_ = false;
 };

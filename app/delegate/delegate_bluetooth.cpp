@@ -1,11 +1,10 @@
 // The Bluetooth transport: an RFCOMM channel to the adapter's serial-port service. A channel that
-// was once asked for stays the program's channel, open or not: only a restart connects again.
+// was once asked for stays the program's channel, open or not: only another adapter in the
+// preferences, or the user who wants it back, connects again.
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
 #include "system_log.h"
 #include "user_defaults.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -41,6 +40,25 @@ std::shared_ptr<bluetooth_device> Ks_lite_delegate::last_bluetooth_device() cons
     return address.empty() ? nullptr : doors_.bluetooth.device_with_address(address);
 }
 
+rfcomm_channel_delegate Ks_lite_delegate::channel_callbacks() {
+    const std::uint64_t attempt = ++attempt_;
+    opened_to_ = chosen_adapter();
+    rfcomm_channel_delegate callbacks;
+    callbacks.open_complete = [this, attempt](int status) {
+        if (attempt == attempt_)
+            rfcommChannelOpenComplete(status);
+    };
+    callbacks.data = [this, attempt](std::string_view data) {
+        if (attempt == attempt_)
+            rfcommChannelData(data);
+    };
+    callbacks.closed = [this, attempt] {
+        if (attempt == attempt_)
+            rfcommChannelClosed();
+    };
+    return callbacks;
+}
+
 bool Ks_lite_delegate::openSerialPortProfile() {
     if (mRFCOMMChannel)
         return true;
@@ -62,11 +80,8 @@ bool Ks_lite_delegate::openSerialPortProfile() {
                             "happen an spp service must have an rfcomm channel id.***\n");
         return false;
     }
-    rfcomm_channel_delegate callbacks;
-    callbacks.open_complete = [this](int status) { rfcommChannelOpenComplete(status); };
-    callbacks.data = [this](std::string_view data) { rfcommChannelData(data); };
-    callbacks.closed = [this] { rfcommChannelClosed(); };
-    const int failed = device->openRFCOMMChannelAsync(mRFCOMMChannel, channel_id, callbacks);
+    const int failed =
+        device->openRFCOMMChannelAsync(mRFCOMMChannel, channel_id, channel_callbacks());
     if (failed != 0 && mRFCOMMChannel) {
         qCWarning(log_link, "Error - open sequence failed.***\n");
         closeDeviceConnectionOnDevice(device);
@@ -91,8 +106,7 @@ void Ks_lite_delegate::rfcommChannelOpenComplete(int status) {
     }
     connected_2_BT_interface = true;
     l_set_status_msg("BT Connected!!");
-    const std::string message;
-    l_work_current_task(&message);
+    work_over_new_link("");
 }
 
 void Ks_lite_delegate::rfcommChannelData(std::string_view data) {
@@ -125,13 +139,19 @@ void Ks_lite_delegate::closeRFCOMMConnectionOnChannel(
         channel->closeChannel();
 }
 
+void Ks_lite_delegate::drop_channel() {
+    closeRFCOMMConnectionOnChannel(mRFCOMMChannel);
+    mRFCOMMChannel.reset();
+    bluetooth_opening_ = false;
+    connected_2_BT_interface = false;
+}
+
 void Ks_lite_delegate::sendOBDcmd_BT(std::string_view command) {
     // The zero byte behind the text is sent as well.
     std::string bytes(command);
     bytes.push_back('\0');
     bytes.resize(bytes.size() & LONGEST_WRITE);
-    ++commands_sent_;
-    reply_awaited_since_ = std::max(doors_.loop.now(), run_loop::milliseconds(1));
+    ledger_.command_left(doors_.loop.now());
     if (mRFCOMMChannel)
         (void)mRFCOMMChannel->writeSync(bytes); // a failure shows as the reply time-out
 }

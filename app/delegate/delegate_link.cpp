@@ -1,4 +1,5 @@
 // The link half of the delegate: one command out, chunks and time-outs in.
+#include "bundle.h"
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
 #include "system_log.h"
@@ -6,12 +7,13 @@
 void Ks_lite_delegate::sendOBDcmd(std::string_view command) {
     // The timer armed before is left running on purpose: if it belongs to a command that is still
     // unanswered, it will report that.
-    obdTimeOutTimer =
-        doors_.loop.after(std::chrono::seconds(g_this_delta), [this, given_up = given_up_] {
-            if (given_up == given_up_)
-                obdTimedOutHandler();
-        });
+    obdTimeOutTimer = doors_.loop.after(std::chrono::seconds(g_this_delta),
+                                        [this, generation = ledger_.generation()] {
+                                            if (generation == ledger_.generation())
+                                                obdTimedOutHandler();
+                                        });
     qCDebug(log_link, "sent %.*s", static_cast<int>(command.size()), command.data());
+    only_connecting_ = false;
     if (g_connect_with == KS_USE_BT)
         sendOBDcmd_BT(command);
     else
@@ -21,7 +23,8 @@ void Ks_lite_delegate::sendOBDcmd(std::string_view command) {
 void Ks_lite_delegate::obdTimedOutHandler() {
     g_obd_msg_state = S_FAIL;
     odb_curReplyMsg.clear();
-    reply_awaited_since_ = {};
+    ledger_.timed_out();
+    set_doubt(true);
     doors_.notifications.post(OBD_EVENT, "Timeout");
 }
 
@@ -34,13 +37,15 @@ void Ks_lite_delegate::handleOBDRcvdNotification(const std::string& text) {
 }
 
 void Ks_lite_delegate::post_received(const std::string& text) {
-    // A prompt at the very front belongs to an earlier reply when more text follows it.
-    if (text == ">" || text.find('>', 1) != std::string::npos)
-        reply_awaited_since_ = {};
+    const bool doubted = link_in_doubt();
+    ledger_.received(text, doors_.loop.now());
+    if (doubted && !text.empty())
+        set_doubt(false);
     doors_.notifications.post(OBD_EVENT, text);
 }
 
 bool Ks_lite_delegate::openInterfaceConnection() {
+    only_connecting_ = false;
     return g_connect_with == KS_USE_BT ? openSerialPortProfile() : openTCP_socky();
 }
 
@@ -56,24 +61,81 @@ void Ks_lite_delegate::l_set_status_msg(const std::string& message) {
         mainViewController->set_status_msg(message);
 }
 
+// A link that came up only because the user wanted it back has nothing to begin.
+void Ks_lite_delegate::work_over_new_link(const std::string& message) {
+    if (only_connecting_)
+        l_set_status_msg(doors_.resources.localized("ui_reconnected"));
+    else
+        l_work_current_task(&message);
+}
+
 void Ks_lite_delegate::tell_link_lost() {
     if (mainViewController)
         mainViewController->link_lost();
+    set_doubt(true);
 }
 
-void Ks_lite_delegate::adapter_changed() {
+void Ks_lite_delegate::set_doubt(bool in_doubt) {
+    in_doubt_ = in_doubt;
+    doors_.notifications.post(LINK_EVENT, "");
+}
+
+bool Ks_lite_delegate::link_in_doubt() const {
+    return in_doubt_ || ledger_.stalled_since(doors_.loop.now()).count() != 0;
+}
+
+Ks_lite_delegate::adapter_choice Ks_lite_delegate::chosen_adapter() {
+    if (g_connect_with == KS_USE_BT)
+        return {KS_USE_BT, {}, {}};
+    return {KS_USE_WIFI, g_cur_wifi_IP, g_cur_wifi_port};
+}
+
+void Ks_lite_delegate::settings_left() {
+    if (opened_to_.transport == 0 || opened_to_ == chosen_adapter())
+        return;
+    if (connected_2_BT_interface) // the adapter is free for others then
+        closeDeviceConnectionOnDevice(mBluetoothDevice);
+    drop_link();
+}
+
+void Ks_lite_delegate::reconnect() {
+    if (mainViewController)
+        mainViewController->leave_cur_op_gracefully("");
+    drop_link();
+    if (openInterfaceConnection() || link_coming_up()) {
+        only_connecting_ = true;
+        return;
+    }
+    if (g_connect_with == KS_USE_BT)
+        l_set_status_msg(doors_.resources.localized("bt_no_adapter_MSG"));
+    set_doubt(true);
+}
+
+// Closes the link and forgets what a new start of the program would not know.
+void Ks_lite_delegate::drop_link() {
+    ++attempt_;
+    opened_to_ = {};
+    connected_2_WIFI_interface = false;
+    disconnect();
+    drop_channel();
     connected_2_KS_interface = false;
+    KS_did_connect_2_car = false;
+    g_cur_interface.clear();
     g_cur_protocol.clear();
     g_bus_form = bus_form::unknown;
-    connected_2_WIFI_interface = false;
-    disconnect(); // an attempt that still runs is to the old address as well
+    for (auto* mask : {&g_Supported_obd_mask_0, &g_Supported_obd_mask_1, &g_Supported_obd_mask_2})
+        mask->clear();
+    g_Supported_obd_mask_3.clear();
+    odb_curReplyBuffyMsg.clear();
+    g_retries = 0;
+    g_this_delta = REPLY_TIME_OUT_AT_START;
+    set_doubt(false);
 }
 
-void Ks_lite_delegate::give_up_on_reply() {
-    ++given_up_;
+void Ks_lite_delegate::give_up_on_replies() {
+    ledger_.give_up();
     doors_.loop.cancel(obdTimeOutTimer);
     obdTimeOutTimer = 0;
-    reply_awaited_since_ = {};
 }
 
 bool Ks_lite_delegate::link_coming_up() const {
@@ -81,5 +143,5 @@ bool Ks_lite_delegate::link_coming_up() const {
 }
 
 bool Ks_lite_delegate::anything_outstanding() const {
-    return reply_awaited_since_.count() != 0 || link_coming_up();
+    return ledger_.awaited_since().count() != 0 || link_coming_up();
 }

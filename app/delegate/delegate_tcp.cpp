@@ -1,5 +1,5 @@
 // The Wi-Fi transport: a TCP connection to the adapter. A lost connection still counts as open;
-// only another address or port in the preferences, or a restart, connects again.
+// only another adapter in the preferences, or the user who wants it back, connects again.
 #include "bundle.h"
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
@@ -37,13 +37,17 @@ bool Ks_lite_delegate::openTCP_socky() {
 }
 
 void Ks_lite_delegate::connectToServerUsingCFStream(const std::string& host, long portNo) {
-    ++attempt_;
+    const std::uint64_t attempt = ++attempt_;
     attempt_state_ = attempt_state::none;
+    opened_to_ = chosen_adapter();
     streams_ = doors_.make_streams(host, portNo); // a pair before this one is closed with it
     if (!streams_)
         return;
     attempt_state_ = attempt_state::connecting;
-    streams_->open([this](stream_side side, int event_code) { stream(side, event_code); });
+    streams_->open([this, attempt](stream_side side, int event_code) {
+        if (attempt == attempt_)
+            stream(side, event_code);
+    });
 }
 
 void Ks_lite_delegate::stream(stream_side, int handleEvent) {
@@ -61,14 +65,14 @@ void Ks_lite_delegate::stream(stream_side, int handleEvent) {
         const std::string why = streams_->error_description();
         qCWarning(log_link, "Error %s", why.c_str());
         attempt_state_ = attempt_state::failed;
-        reply_awaited_since_ = {};
+        ledger_.link_gone();
         l_set_status_msg("Couldn't connect...Please Check\n\n" + why);
         tell_link_lost();
         break;
     }
     case STREAM_END:
         qCWarning(log_link, "Disconected");
-        reply_awaited_since_ = {}; // nothing more will come
+        ledger_.link_gone();
         l_set_status_msg("Disconnected");
         tell_link_lost();
         break;
@@ -86,12 +90,9 @@ void Ks_lite_delegate::stream_opened() {
         return;
     sent_1st_cmd = true;
     doors_.loop.cancel(deferred_call_);
-    deferred_call_ = doors_.loop.after(FIRST_COMMAND_DELAY, [this, sent = commands_sent_] {
+    deferred_call_ = doors_.loop.after(FIRST_COMMAND_DELAY, [this] {
         deferred_call_ = 0;
-        if (commands_sent_ != sent || g_connect_with == KS_USE_BT)
-            return; // the screen has begun by itself, or over Bluetooth
-        const std::string message = "Connected!  Querying ...";
-        l_work_current_task(&message);
+        work_over_new_link("Connected!  Querying ...");
     });
 }
 
@@ -110,8 +111,9 @@ void Ks_lite_delegate::bytes_available() {
 void Ks_lite_delegate::sendOBDcmd_TCP(std::string_view command) {
     if (!openTCP_socky())
         return; // dropped; the open event starts the screen's work again
-    ++commands_sent_;
-    reply_awaited_since_ = std::max(doors_.loop.now(), run_loop::milliseconds(1));
+    doors_.loop.cancel(deferred_call_); // the screen has begun by itself
+    deferred_call_ = 0;
+    ledger_.command_left(doors_.loop.now());
     if (streams_)
         streams_->write(command);
 }
@@ -125,7 +127,8 @@ void Ks_lite_delegate::disconnect() {
     if (streams_)
         streams_->close();
     attempt_state_ = attempt_state::none;
-    give_up_on_reply();
+    give_up_on_replies();
+    ledger_.link_gone();
     // Whatever was to begin on this connection begins on the next.
     doors_.loop.cancel(deferred_call_);
     deferred_call_ = 0;

@@ -24,6 +24,7 @@ inline constexpr int S_LOGGING = 3;
 enum class bus_form { unknown, can, older };
 
 inline constexpr std::chrono::seconds TCP_TIME_OUT{25};
+inline constexpr int REPLY_TIME_OUT_AT_START = 3; // seconds, of g_this_delta
 
 // Values of g_cur_task and g_cur_mode.
 inline constexpr int MODE_HANDSHAKE = 0;

@@ -73,7 +73,7 @@ Bitte prüfen Sie:
     </message>
     <message id="bt_closed_MSG">
         <source></source>
-        <translation>Die Bluetooth-Verbindung ist beendet. Starten Sie Kestrom neu, um wieder zu verbinden.</translation>
+        <translation>Die Bluetooth-Verbindung ist beendet. „Neu verbinden“ stellt sie wieder her.</translation>
     </message>
     <message id="ui_where_to_begin">
         <source></source>
@@ -221,6 +221,22 @@ Die Namen der Prüfungen sind englisch.</translation>
     <message id="ui_stall_hint">
         <source></source>
         <translation>wartet seit %1 s auf den Adapter</translation>
+    </message>
+    <message id="ui_reconnect">
+        <source></source>
+        <translation>&amp;Neu verbinden</translation>
+    </message>
+    <message id="ui_reconnect_hint">
+        <source></source>
+        <translation>Schließt die Verbindung zum Adapter und stellt sie neu her</translation>
+    </message>
+    <message id="ui_reconnected">
+        <source></source>
+        <translation>Wieder verbunden. Weiter geht es mit einer Schaltfläche.</translation>
+    </message>
+    <message id="ui_settings_not_saved">
+        <source></source>
+        <translation>Die Einstellungen konnten nicht gespeichert werden. Sie gelten, bis Kestrom beendet wird, und gehen dann verloren. Ist der Datenträger voll oder schreibgeschützt?</translation>
     </message>
     <message id="ui_live_run">
         <source></source>

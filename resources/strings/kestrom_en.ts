@@ -73,7 +73,7 @@ Please check:
     </message>
     <message id="bt_closed_MSG">
         <source></source>
-        <translation>The Bluetooth connection has ended. Restart Kestrom to connect again.</translation>
+        <translation>The Bluetooth connection has ended. Press Reconnect to connect again.</translation>
     </message>
     <message id="ui_where_to_begin">
         <source></source>
@@ -220,6 +220,22 @@ N/A: this car does not have this monitor</translation>
     <message id="ui_stall_hint">
         <source></source>
         <translation>waiting for the adapter, %1 s</translation>
+    </message>
+    <message id="ui_reconnect">
+        <source></source>
+        <translation>Reco&amp;nnect</translation>
+    </message>
+    <message id="ui_reconnect_hint">
+        <source></source>
+        <translation>Closes the link to the adapter and connects again</translation>
+    </message>
+    <message id="ui_reconnected">
+        <source></source>
+        <translation>Connected again. Press a button to go on.</translation>
+    </message>
+    <message id="ui_settings_not_saved">
+        <source></source>
+        <translation>The settings could not be saved. They are in use until Kestrom ends; then they are lost. Is the disk full or write-protected?</translation>
     </message>
     <message id="ui_live_run">
         <source></source>

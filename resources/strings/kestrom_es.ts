@@ -73,7 +73,7 @@ Compruebe que:
     </message>
     <message id="bt_closed_MSG">
         <source></source>
-        <translation>La conexión Bluetooth ha terminado. Reinicie Kestrom para volver a conectarse.</translation>
+        <translation>La conexión Bluetooth ha terminado. Pulse Reconectar para volver a conectar.</translation>
     </message>
     <message id="ui_where_to_begin">
         <source></source>
@@ -221,6 +221,22 @@ Los nombres de los monitores están en inglés.</translation>
     <message id="ui_stall_hint">
         <source></source>
         <translation>esperando al adaptador desde hace %1 s</translation>
+    </message>
+    <message id="ui_reconnect">
+        <source></source>
+        <translation>&amp;Reconectar</translation>
+    </message>
+    <message id="ui_reconnect_hint">
+        <source></source>
+        <translation>Cierra el enlace con el adaptador y vuelve a conectar</translation>
+    </message>
+    <message id="ui_reconnected">
+        <source></source>
+        <translation>Conectado de nuevo. Pulse un botón para continuar.</translation>
+    </message>
+    <message id="ui_settings_not_saved">
+        <source></source>
+        <translation>No se pudieron guardar las preferencias. Valen hasta que se cierre Kestrom y después se pierden. ¿Está el disco lleno o protegido contra escritura?</translation>
     </message>
     <message id="ui_live_run">
         <source></source>

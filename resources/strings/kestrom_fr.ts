@@ -73,7 +73,7 @@ Veuillez vérifier que :
     </message>
     <message id="bt_closed_MSG">
         <source></source>
-        <translation>La connexion Bluetooth est interrompue. Redémarrez Kestrom pour vous reconnecter.</translation>
+        <translation>La connexion Bluetooth est terminée. Appuyez sur Reconnecter pour la rétablir.</translation>
     </message>
     <message id="ui_where_to_begin">
         <source></source>
@@ -221,6 +221,22 @@ Les noms des moniteurs sont en anglais.</translation>
     <message id="ui_stall_hint">
         <source></source>
         <translation>en attente de l'adaptateur depuis %1 s</translation>
+    </message>
+    <message id="ui_reconnect">
+        <source></source>
+        <translation>&amp;Reconnecter</translation>
+    </message>
+    <message id="ui_reconnect_hint">
+        <source></source>
+        <translation>Ferme la liaison avec l'adaptateur et la rétablit</translation>
+    </message>
+    <message id="ui_reconnected">
+        <source></source>
+        <translation>De nouveau connecté. Appuyez sur un bouton pour continuer.</translation>
+    </message>
+    <message id="ui_settings_not_saved">
+        <source></source>
+        <translation>Les préférences n'ont pas pu être enregistrées. Elles restent valables jusqu'à la fermeture de Kestrom, puis sont perdues. Le disque est-il plein ou protégé en écriture ?</translation>
     </message>
     <message id="ui_live_run">
         <source></source>

@@ -91,22 +91,13 @@ TEST_F(link_over_tcp, the_deferred_call_does_nothing_when_a_command_went_out_bef
     EXPECT_EQ(app.sent(), "");
 }
 
-TEST_F(link_over_tcp, the_deferred_call_leaves_a_link_over_bluetooth_alone) {
-    send("AT I");
-    scripted_stream_pair::raise(app.wire(), app.loop, STREAM_OPEN_COMPLETED);
-    app.loop.settle();
-    g_connect_with = KS_USE_BT;
-    app.loop.advance(milliseconds(1500));
-    EXPECT_EQ(app.last_status(), "TCP Connected!! ... Sending intial request");
-    EXPECT_EQ(app.sent(), "");
-}
-
 TEST_F(link_over_tcp, a_time_out_ends_with_its_connection) {
     send("AT I");
     app.connect();
     send("AT RV");
     const std::string before = app.last_status();
-    app.delegate->adapter_changed();
+    g_cur_wifi_port = "35001";
+    app.delegate->settings_left();
     app.loop.advance(seconds(10));
     EXPECT_EQ(app.last_status(), before);
 }

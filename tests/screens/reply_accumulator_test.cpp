@@ -1,6 +1,7 @@
 #include "globalVars.h"
 #include "qt_warnings.h"
 #include "reply_accumulator.h"
+#include "reply_ledger.h"
 
 #include <gtest/gtest.h>
 
@@ -23,6 +24,9 @@ TEST(reply_accumulation, a_reply_is_complete_when_its_prompt_has_come) {
         {"a prompt before a reply that is not complete", {">A", "B>"}, {"AB>"}, ""},
         {"zero bytes, which clones send", {std::string("\0\0OK\r\0\r>", 9)}, {"OK\r\r>"}, ""},
         {"a prompt alone", {">"}, {">"}, ""},
+        {"a line end behind the prompt", {"A\r\r>\r\n", "B\r>"}, {"A\r\r>", "B\r>"}, ""},
+        {"a prompt with a line end, alone", {"A\r", ">\r\n", "B>"}, {"A\r>", "B>"}, ""},
+        {"two replies and a line end", {"A>B>\r"}, {"A>B>"}, ""},
         {"nothing", {""}, {}, ""},
     };
     for (const accumulation& one : cases) {
@@ -49,6 +53,42 @@ TEST(reply_accumulation, rubbish_without_a_prompt_has_a_ceiling) {
     EXPECT_FALSE(accumulate_reply(longest));
     EXPECT_TRUE(accumulate_reply(">"));
     EXPECT_EQ(odb_curReplyMsg.size(), LONGEST_REPLY);
+}
+
+// What the link is told, and whether a reply is owed and awaited afterwards.
+TEST(reply_ledger, knows_what_is_owed) {
+    constexpr auto NOW = std::chrono::seconds(1);
+    const struct {
+        const char* name;
+        const char* events; // s: a command leaves, t: time-out, m: an answer is missing
+        std::vector<std::string> chunks;
+        bool owes, awaited;
+    } cases[] = {
+        {"nothing asked", "", {"stray>"}, false, false},
+        {"asked", "s", {}, true, true},
+        {"half a reply", "s", {"41 0"}, true, true},
+        {"in pieces, the prompt with a line end", "s", {"41 0", "C\r", ">\r\n"}, false, false},
+        {"a prompt and more in a piece, behind text", "s", {"A\r", ">B"}, false, false},
+        {"a prompt left over in front", "s", {">A"}, true, true},
+        {"no bytes", "s", {"", std::string(1, '\0')}, true, true},
+        {"late", "st", {}, true, false},
+        {"late, and there", "st", {"A>"}, false, false},
+        {"two asked, one answered", "ss", {"A>"}, true, false},
+        {"two asked, both answered at once", "ss", {"A\r\r>B\r\r>"}, false, false},
+        {"an answer to something else", "sm", {"A>"}, true, false},
+    };
+    for (const auto& one : cases) {
+        SCOPED_TRACE(one.name);
+        reply_ledger ledger;
+        for (const char event : std::string(one.events))
+            event == 's'   ? ledger.command_left(NOW)
+            : event == 't' ? ledger.timed_out()
+                           : ledger.answer_is_missing();
+        for (const std::string& chunk : one.chunks)
+            ledger.received(chunk, NOW);
+        EXPECT_EQ(ledger.owes(), one.owes);
+        EXPECT_EQ(ledger.awaited_since().count() != 0, one.awaited);
+    }
 }
 
 } // namespace

@@ -4,9 +4,11 @@
 #include "actions.h"
 #include "app_harness.h"
 #include "qt_warnings.h"
+#include "stall_hint.h"
 
 #include <QAbstractItemModel>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTableView>
 
 #include <filesystem>
@@ -36,6 +38,11 @@ class transcript : public testing::TestWithParam<std::string> {
         app.press(button.c_str());
         app.loop.settle();
     }
+    // On the console
+    void say(const std::string& text) {
+        app.find<QLineEdit>("cmdTxt")->setText(QString::fromStdString(text));
+        press("sendBtn");
+    }
     // To the next alert: the index of the button
     void answer(const std::string& text) { app.messages.answers.push_back(std::stoi(text)); }
     void connected(const std::string&) { app.connect(); }
@@ -63,6 +70,13 @@ class transcript : public testing::TestWithParam<std::string> {
     void waity(const std::string& text) {
         EXPECT_EQ(app.find("waity")->isHidden(), text == "hidden");
     }
+    void reconnect(const std::string& text) {
+        EXPECT_EQ(app.find("reconnect")->isHidden(), text == "hidden");
+    }
+    // The second has passed after which the hint looks at the clock
+    void looks(const std::string&) {
+        static_cast<stall_hint*>(app.find("stallHint"))->refresh();
+    }
     void rows(const std::string& text);
     void row(const std::string& text);
     std::string told(const std::string& text) const {
@@ -79,6 +93,7 @@ const std::map<std::string, void (transcript::*)(const std::string&)> transcript
     {"open", &transcript::open},
     {"follow", &transcript::follow},
     {"press", &transcript::press},
+    {"say", &transcript::say},
     {"answer", &transcript::answer},
     {"connected", &transcript::connected},
     {"connection", &transcript::connection},
@@ -97,6 +112,8 @@ const std::map<std::string, void (transcript::*)(const std::string&)> transcript
     {"run", &transcript::run},
     {"label", &transcript::label},
     {"waity", &transcript::waity},
+    {"reconnect", &transcript::reconnect},
+    {"looks", &transcript::looks},
     {"rows", &transcript::rows},
     {"row", &transcript::row},
 };
@@ -162,8 +179,10 @@ void transcript::rows(const std::string& text) {
 
 // "lost" or the words of a failure
 void transcript::connection(const std::string& text) {
-    if (text != "lost")
+    if (text != "lost") {
+        expect_warning(text);
         return app.fail(text);
+    }
     expect_warning("Disconected");
     scripted_stream_pair::raise(app.wire(), app.loop, STREAM_END);
     app.loop.settle();
@@ -207,6 +226,8 @@ void transcript::way(const std::string& text) {
     app.loop.settle();
     if (!connected_2_WIFI_interface)
         app.connect();
+    else if (app.wire().written.empty()) // what the run before is owed
+        app.loop.advance(std::chrono::seconds(3));
     for (std::string next; (next = app.sent()) != command;) {
         const auto answer = GOOD_ANSWERS.find(next);
         ASSERT_TRUE(next.starts_with("AT") || answer != GOOD_ANSWERS.end())

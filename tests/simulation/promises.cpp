@@ -379,7 +379,7 @@ void promises::come_to_rest() {
         if (told_again > 20)
             return;
     }
-    const bool half_a_reply = app_.delegate->waiting_since().count() != 0 &&
+    const bool half_a_reply = app_.delegate->replies().awaited_since().count() != 0 &&
                               app_.book.moment() > app_.book.last().written;
     // The first chunk of a reply ends its time-out: when its prompt never comes, only the user does
     // something about it. The stall hint counts the seconds.

@@ -78,6 +78,9 @@ void random_user::act() {
         app_.delegate->do_help_button();
     else if (dice_.happens(3))
         export_a_log();
+    else if (auto* const reconnect = app_.find<>("reconnect");
+             reconnect && !reconnect->isHidden() && dice_.happens(25))
+        press("reconnect");
     else if (dice_.happens(45))
         wait();
     else if (const std::string& screen = app_.delegate->current_screen_name();

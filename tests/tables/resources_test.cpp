@@ -114,9 +114,9 @@ TEST(resources, mnemonics_are_there_in_every_language_and_differ_on_each_screen)
                                         "ui_rail_expert", "ui_rail_prefs", "ui_rail_help",
                                         "ui_menu_file"};
     const std::vector<std::vector<std::string>> screens{
-        {"ui_read_codes", "ui_clear_codes"},
-        {"ui_command_label", "ui_send"},
-        {"ui_live_run", "ui_live_zoom", "ui_live_next_sensors"},
+        {"ui_read_codes", "ui_clear_codes", "ui_reconnect"},
+        {"ui_command_label", "ui_send", "ui_reconnect"},
+        {"ui_live_run", "ui_live_zoom", "ui_live_next_sensors", "ui_reconnect"},
         {"ui_bluetooth", "ui_wifi", "ui_address", "ui_port", "ui_metric", "ui_log_runs",
          "ui_defaults", "ui_last_bt", "ui_language"},
         {DIALOG, "bt_search_again", "bt_cancel", "bt_connect"}};

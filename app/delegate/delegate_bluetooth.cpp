@@ -12,6 +12,11 @@ namespace {
 constexpr std::chrono::seconds DISCONNECTION_DELAY{1};
 constexpr std::size_t LONGEST_WRITE = 65535;
 
+void log_failed_open(int status) {
+    qCWarning(log_link, "Error - failed to open the RFCOMM channel with error %08lx.\n",
+              static_cast<unsigned long>(static_cast<unsigned>(status)));
+}
+
 } // namespace
 
 std::shared_ptr<bluetooth_device> Ks_lite_delegate::choose_bluetooth_device() {
@@ -62,6 +67,11 @@ bool Ks_lite_delegate::openSerialPortProfile() {
                             "happen an spp service must have an rfcomm channel id.***\n");
         return false;
     }
+    // The chooser has connected; without it that happens here, and a failure leaves nothing behind.
+    if (const int failed = device->connect(); failed != 0) {
+        log_failed_open(failed);
+        return false;
+    }
     rfcomm_channel_delegate callbacks;
     callbacks.open_complete = [this](int status) { rfcommChannelOpenComplete(status); };
     callbacks.data = [this](std::string_view data) { rfcommChannelData(data); };
@@ -84,8 +94,7 @@ bool Ks_lite_delegate::openSerialPortProfile() {
 void Ks_lite_delegate::rfcommChannelOpenComplete(int status) {
     bluetooth_opening_ = false;
     if (status != 0) {
-        qCWarning(log_link, "Error - failed to open the RFCOMM channel with error %08lx.\n",
-                  static_cast<unsigned long>(static_cast<unsigned>(status)));
+        log_failed_open(status);
         rfcommChannelClosed();
         return;
     }

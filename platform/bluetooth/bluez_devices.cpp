@@ -244,7 +244,8 @@ void bluez_devices::disconnect_device(const QString& path) {
                 done->deleteLater();
                 disconnecting_.remove(path);
                 const auto object = objects_.find(path);
-                if (!done->isError() && object != objects_.end()) // the signal comes after the answer
+                if (!done->isError() &&
+                    object != objects_.end()) // the signal comes after the answer
                     object->interfaces[DEVICE_INTERFACE][QStringLiteral("Connected")] = false;
                 Q_EMIT changed();
             });

@@ -72,6 +72,7 @@ TEST_F(adapter_behind_bluez, the_cause_of_a_failure_is_told_apart) {
          bluetooth_problem::pairing_failed},
         {"org.bluez.Error.Failed", "br-connection-page-timeout", false,
          bluetooth_problem::out_of_reach},
+        {"org.bluez.Error.Failed", "br-connection-timeout", true, bluetooth_problem::out_of_reach},
         {"org.bluez.Error.Failed", "Host is down", true, bluetooth_problem::out_of_reach},
         {"org.bluez.Error.NotAvailable", "br-connection-profile-unavailable", true,
          bluetooth_problem::no_serial_port},
@@ -126,10 +127,11 @@ TEST_F(adapter_behind_bluez, only_a_connection_of_this_attempt_is_closed) {
         SCOPED_TRACE(expected.name);
         mock.set_device(device, {{QStringLiteral("Connected"), expected.connected_before},
                                  {QStringLiteral("Paired"), true}});
-        mock.on_connect(device, expected.refused
-                                    ? "raise dbus.exceptions.DBusException('br-connection-refused', "
-                                      "name='org.bluez.Error.Failed')"
-                                    : "");
+        mock.on_connect(device,
+                        expected.refused
+                            ? "raise dbus.exceptions.DBusException('br-connection-refused', "
+                              "name='org.bluez.Error.Failed')"
+                            : "");
         bluez_serial_port door(loop, user_who_waits(), [&] { return bus; });
         const auto chosen = door.device_with_address(ADDRESS);
         ASSERT_TRUE(chosen->getServiceRecordForUUID(SERIAL_PORT_UUID));

@@ -74,7 +74,8 @@ class driver final : public QObject {
                 return qobject_cast<const QMessageBox*>(one.window()) != nullptr;
             });
         else
-            done = visible_one<QLabel>([&](const QLabel& one) { return one.text().contains(name); });
+            done =
+                visible_one<QLabel>([&](const QLabel& one) { return one.text().contains(name); });
         waited_ += LOOK_EVERY_MS;
         if (!button && !done && waited_ < PATIENCE_MS)
             return;

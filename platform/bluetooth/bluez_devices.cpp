@@ -243,9 +243,10 @@ void bluez_devices::disconnect_device(const QString& path) {
             [this, path](QDBusPendingCallWatcher* done) {
                 done->deleteLater();
                 disconnecting_.remove(path);
-                const auto object = objects_.find(path);
-                if (!done->isError() &&
-                    object != objects_.end()) // the signal comes after the answer
+                const bool gone = !done->isError() ||
+                                  done->reply().errorName().endsWith(QLatin1String("NotConnected"));
+                // The signal comes after the answer.
+                if (const auto object = objects_.find(path); gone && object != objects_.end())
                     object->interfaces[DEVICE_INTERFACE][QStringLiteral("Connected")] = false;
                 Q_EMIT changed();
             });

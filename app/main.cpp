@@ -26,11 +26,11 @@
 #include "report_printer.h"
 #include "screen_factories.h"
 #include "serial_port_profile.h"
+#include "system_log.h"
 #include "user_defaults.h"
 
 #include <QApplication>
 #include <QFile>
-#include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -309,10 +309,7 @@ int start(int argc, char** argv) {
     }
     if (asked.without_display())
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (!asked.command.empty()) // it tells by itself why it failed
-        QLoggingCategory::setFilterRules(QStringLiteral("kestrom.link.warning=false\n"
-                                                        "kestrom.toolkit.warning=false\n"
-                                                        "kestrom.screens.warning=false"));
+    log_to_system(asked.command.empty());
     if (asked.command == BLUETOOTH_SCAN)
         return scan_for_bluetooth(argc, argv, asked);
     if (decodes(asked.command))

@@ -94,6 +94,14 @@ class recorded_device final : public bluetooth_device {
     std::shared_ptr<sdp_service_record> getServiceRecordForUUID(std::uint16_t uuid) override {
         return device_->getServiceRecordForUUID(uuid);
     }
+    int connect() override {
+        const int failed = device_->connect();
+        if (failed != 0) {
+            recorder_.connecting("bluetooth");
+            recorder_.failed("status " + std::to_string(failed));
+        }
+        return failed;
+    }
     int openRFCOMMChannelAsync(std::shared_ptr<rfcomm_channel>& channel, std::uint8_t channel_id,
                                rfcomm_channel_delegate delegate) override {
         recorder_.connecting("bluetooth");
@@ -168,6 +176,7 @@ class recorded_profile final : public serial_port_profile {
         auto device = door_.device_with_address(text);
         return device ? std::make_shared<recorded_device>(std::move(device), recorder_) : nullptr;
     }
+    std::string advice() const override { return door_.advice(); }
 
   private:
     serial_port_profile& door_;

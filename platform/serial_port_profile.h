@@ -48,11 +48,14 @@ class bluetooth_device {
     virtual std::string address_text() const = 0;
     // Nothing when the device does not offer the service.
     virtual std::shared_ptr<sdp_service_record> getServiceRecordForUUID(std::uint16_t uuid) = 0;
-    // Begins to open. `channel` may be filled although the call fails.
+    // Connects when the chooser has not done so; the run loop delivers nothing meanwhile. Answers
+    // an error number of the system's after the user was told why.
+    virtual int connect() = 0;
+    // Begins to open, once connected. `channel` may be filled although the call fails.
     virtual int openRFCOMMChannelAsync(std::shared_ptr<rfcomm_channel>& channel,
                                        std::uint8_t channel_id,
                                        rfcomm_channel_delegate delegate) = 0;
-    // Closes the baseband connection.
+    // Closes the baseband connection, unless somebody else had made it.
     virtual int closeConnection() = 0;
 };
 
@@ -74,4 +77,6 @@ class serial_port_profile {
     virtual std::unique_ptr<device_selector> deviceSelector() = 0;
     // The device of an address text, whether in reach or not; nothing when the text is no address.
     virtual std::shared_ptr<bluetooth_device> device_with_address(std::string_view text) = 0;
+    // After an attempt that came to nothing: what to do now, in the user's language.
+    virtual std::string advice() const = 0;
 };

@@ -48,7 +48,7 @@ bool obd_screen::work_over_link(const std::function<void()>& link_usable) {
     if (!KS_delegate.openInterfaceConnection()) {
         const bool coming_up = KS_delegate.link_coming_up();
         if (!coming_up && g_connect_with == KS_USE_BT)
-            set_status_msg(localized("bt_no_adapter_MSG"));
+            set_status_msg(KS_delegate.doors().bluetooth.advice());
         return coming_up;
     }
     link_usable();

@@ -11,6 +11,11 @@ namespace {
 constexpr std::chrono::seconds DISCONNECTION_DELAY{1};
 constexpr std::size_t LONGEST_WRITE = 65535;
 
+void log_failed_open(int status) {
+    qCWarning(log_link, "Error - failed to open the RFCOMM channel with error %08lx.\n",
+              static_cast<unsigned long>(static_cast<unsigned>(status)));
+}
+
 } // namespace
 
 std::shared_ptr<bluetooth_device> Ks_lite_delegate::choose_bluetooth_device() {
@@ -80,6 +85,11 @@ bool Ks_lite_delegate::openSerialPortProfile() {
                             "happen an spp service must have an rfcomm channel id.***\n");
         return false;
     }
+    // The chooser has connected; without it that happens here, and a failure leaves nothing behind.
+    if (const int refused = device->connect(); refused != 0) {
+        log_failed_open(refused);
+        return false;
+    }
     const int failed =
         device->openRFCOMMChannelAsync(mRFCOMMChannel, channel_id, channel_callbacks());
     if (failed != 0 && mRFCOMMChannel) {
@@ -99,8 +109,7 @@ bool Ks_lite_delegate::openSerialPortProfile() {
 void Ks_lite_delegate::rfcommChannelOpenComplete(int status) {
     bluetooth_opening_ = false;
     if (status != 0) {
-        qCWarning(log_link, "Error - failed to open the RFCOMM channel with error %08lx.\n",
-                  static_cast<unsigned long>(static_cast<unsigned>(status)));
+        log_failed_open(status);
         rfcommChannelClosed();
         return;
     }

@@ -107,7 +107,7 @@ void Ks_lite_delegate::reconnect() {
         return;
     }
     if (g_connect_with == KS_USE_BT)
-        l_set_status_msg(doors_.resources.localized("bt_no_adapter_MSG"));
+        l_set_status_msg(doors_.bluetooth.advice());
     set_doubt(true);
 }
 

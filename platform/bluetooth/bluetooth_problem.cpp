@@ -41,7 +41,7 @@ constexpr error_row ERRORS[] = {
     {"Error.NotReady", bluetooth_problem::switched_off},
     {"profile-unavailable", bluetooth_problem::no_serial_port},
     {"Error.NotAvailable", bluetooth_problem::no_serial_port},
-    {"page-timeout", bluetooth_problem::out_of_reach},
+    {"-timeout", bluetooth_problem::out_of_reach},
     {"Host is down", bluetooth_problem::out_of_reach},
     {"timed out", bluetooth_problem::out_of_reach},
     {"Error.NoReply", bluetooth_problem::out_of_reach},

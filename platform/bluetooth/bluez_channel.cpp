@@ -26,12 +26,9 @@ bool wait_for_room(int descriptor, std::chrono::steady_clock::time_point deadlin
 } // namespace
 
 bluez_channel::bluez_channel(run_loop& loop, std::unique_ptr<bluez_connection> connection,
-                             rfcomm_channel_delegate delegate, problem_teller tell)
-    : loop_(loop), connection_(std::move(connection)), delegate_(std::move(delegate)),
-      tell_(std::move(tell)) {
-    connect(connection_.get(), &bluez_connection::done, this, &bluez_channel::connection_done);
-    if (connection_->finished())
-        connection_done();
+                             rfcomm_channel_delegate delegate)
+    : loop_(loop), connection_(std::move(connection)), delegate_(std::move(delegate)) {
+    post([this] { opened(); });
 }
 
 bluez_channel::~bluez_channel() {
@@ -44,20 +41,6 @@ void bluez_channel::post(std::function<void()> call) {
                     if (!alive.expired())
                         call();
                 });
-}
-
-void bluez_channel::connection_done() {
-    if (connection_->problem() == bluetooth_problem::none) {
-        post([this] { opened(); });
-        return;
-    }
-    post([this] {
-        state_ = state::closed;
-        const bluetooth_problem problem = connection_->problem();
-        connection_.reset();
-        delegate_.open_complete(error_number(problem));
-        tell_(problem);
-    });
 }
 
 void bluez_channel::opened() {

@@ -1,5 +1,5 @@
-// A channel to a Bluetooth device's serial port: waits for the connection, then carries bytes over
-// its socket. Owned by the link.
+// A channel to a Bluetooth device's serial port: carries bytes over a connection's socket. Owned by
+// the link.
 #pragma once
 
 #include "bluez_connection.h"
@@ -15,11 +15,9 @@
 class bluez_channel final : public QObject, public rfcomm_channel {
     Q_OBJECT
   public:
-    // Told why the channel did not open, after the link was.
-    using problem_teller = std::function<void(bluetooth_problem problem)>;
-
+    // `connection` has finished, without a problem.
     bluez_channel(run_loop& loop, std::unique_ptr<bluez_connection> connection,
-                  rfcomm_channel_delegate delegate, problem_teller tell);
+                  rfcomm_channel_delegate delegate);
     ~bluez_channel() override;
 
     static constexpr std::chrono::seconds WRITE_LIMIT{2};
@@ -30,7 +28,6 @@ class bluez_channel final : public QObject, public rfcomm_channel {
   private:
     enum class state { opening, open, closed };
 
-    void connection_done();
     void opened();
     void received();
     void close_socket();
@@ -39,7 +36,6 @@ class bluez_channel final : public QObject, public rfcomm_channel {
     run_loop& loop_;
     std::unique_ptr<bluez_connection> connection_;
     rfcomm_channel_delegate delegate_;
-    problem_teller tell_;
     std::unique_ptr<QSocketNotifier> readable_;
     state state_ = state::opening;
     int descriptor_ = -1;

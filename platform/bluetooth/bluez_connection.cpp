@@ -87,9 +87,8 @@ bluez_connection::bluez_connection(bluez_devices& devices, std::string address)
 }
 
 bluez_connection::~bluez_connection() {
-    if (!finished_ && connecting_) // takes the pending call back
-        devices_.bus().asyncCall(QDBusMessage::createMethodCall(
-            BLUEZ, device_path_, DEVICE_INTERFACE, QStringLiteral("Disconnect")));
+    if (!finished_)
+        take_back();
     if (descriptor_ != -1) {
         ::shutdown(descriptor_, SHUT_RDWR);
         ::close(descriptor_);
@@ -111,6 +110,8 @@ void bluez_connection::follow_devices() {
             reach_limit_.stop();
         return;
     }
+    if (device && devices_.disconnecting(device->path))
+        return; // from the connection before; a new one would fail with it
     if (device) {
         connect_device(*device);
     } else if (!searched_) {
@@ -123,6 +124,7 @@ void bluez_connection::follow_devices() {
 
 void bluez_connection::connect_device(const bluetooth_entry& device) {
     device_path_ = device.path;
+    connected_before_ = device.connected;
     devices_.stop_search(); // a search slows connecting down
     if (!device.connected)
         reach_limit_.start(REACH_MS);
@@ -184,6 +186,12 @@ int bluez_connection::take_descriptor() {
     return std::exchange(descriptor_, -1);
 }
 
+// Ends what this attempt began, a pending call included.
+void bluez_connection::take_back() {
+    if (connecting_ && made_link())
+        devices_.disconnect_device(device_path_);
+}
+
 void bluez_connection::finish(bluetooth_problem problem) {
     if (finished_)
         return;
@@ -191,8 +199,7 @@ void bluez_connection::finish(bluetooth_problem problem) {
     problem_ = problem;
     reach_limit_.stop();
     total_limit_.stop();
-    if (problem != bluetooth_problem::none && connecting_)
-        devices_.bus().asyncCall(QDBusMessage::createMethodCall(
-            BLUEZ, device_path_, DEVICE_INTERFACE, QStringLiteral("Disconnect")));
+    if (problem != bluetooth_problem::none)
+        take_back();
     QMetaObject::invokeMethod(this, &bluez_connection::done, Qt::QueuedConnection);
 }

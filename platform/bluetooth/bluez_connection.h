@@ -31,6 +31,8 @@ class bluez_connection final : public QObject {
     // After finishing: none when connected.
     bluetooth_problem problem() const { return problem_; }
     const std::string& address() const { return address_; }
+    // The baseband connection is this attempt's; else somebody else on this computer had made it.
+    bool made_link() const { return !connected_before_; }
     // The connected socket, once; -1 when there is none. The caller closes it, after a shutdown:
     // BlueZ keeps a copy.
     int take_descriptor();
@@ -48,6 +50,7 @@ class bluez_connection final : public QObject {
     void call_failed(const QDBusMessage& reply);
     void new_connection(int descriptor);
     void finish(bluetooth_problem problem);
+    void take_back();
 
     bluez_devices& devices_;
     std::string address_;
@@ -56,6 +59,7 @@ class bluez_connection final : public QObject {
     QTimer reach_limit_, total_limit_;
     bool searched_ = false;
     bool connecting_ = false;
+    bool connected_before_ = false;
     bool finished_ = false;
     bluetooth_problem problem_ = bluetooth_problem::none;
     int descriptor_ = -1;

@@ -235,6 +235,23 @@ void bluez_devices::stop_search() {
     Q_EMIT changed();
 }
 
+void bluez_devices::disconnect_device(const QString& path) {
+    disconnecting_.insert(path);
+    auto* answer = new QDBusPendingCallWatcher(
+        bus_.asyncCall(call(path, DEVICE_INTERFACE, "Disconnect")), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this,
+            [this, path](QDBusPendingCallWatcher* done) {
+                done->deleteLater();
+                disconnecting_.remove(path);
+                const bool gone = !done->isError() ||
+                                  done->reply().errorName().endsWith(QLatin1String("NotConnected"));
+                // The signal comes after the answer.
+                if (const auto object = objects_.find(path); gone && object != objects_.end())
+                    object->interfaces[DEVICE_INTERFACE][QStringLiteral("Connected")] = false;
+                Q_EMIT changed();
+            });
+}
+
 bluetooth_entry bluez_devices::entry(const QString& path, const QVariantMap& properties) const {
     const auto text = [&](const char* key) {
         return properties.value(QLatin1String(key)).toString();

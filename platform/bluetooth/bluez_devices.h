@@ -9,6 +9,7 @@
 #include <QDBusConnection>
 #include <QDBusServiceWatcher>
 #include <QObject>
+#include <QSet>
 #include <QTimer>
 
 #include <optional>
@@ -55,6 +56,9 @@ class bluez_devices final : public QObject {
     // Searches for SEARCH_MS, as soon as BlueZ is ready; a running search begins anew.
     void search();
     void stop_search();
+    // Ends the device's baseband connection.
+    void disconnect_device(const QString& path);
+    bool disconnecting(const QString& path) const { return disconnecting_.contains(path); }
     // Waits for BlueZ's answer, `limit_ms` at most.
     void load_now(int limit_ms);
 
@@ -88,6 +92,7 @@ class bluez_devices final : public QObject {
     QTimer search_limit_;
     QMap<QString, known_object> objects_;
     quint64 appeared_ = 0;
+    QSet<QString> disconnecting_;
     QString adapter_; // the first that is switched on, else the first; empty: none
     bluetooth_problem load_problem_ = bluetooth_problem::none;
     bool starting_ = true;

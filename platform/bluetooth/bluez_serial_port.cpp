@@ -2,9 +2,6 @@
 
 #include "bluez_channel.h"
 
-#include <QDBusMessage>
-#include <QDBusPendingCall>
-
 #include <algorithm>
 #include <cerrno>
 
@@ -42,7 +39,7 @@ class bluez_device final : public bluetooth_device {
         // A device that was never asked is asked when connecting.
         const auto known = devices.find(address_);
         if (known && known->serial_port == serial_port_offer::no) {
-            door_.tell_(bluetooth_problem::no_serial_port, known->name);
+            door_.user_.tell(bluetooth_problem::no_serial_port, known->name);
             return nullptr;
         }
         if (uuid != SERIAL_PORT_UUID)
@@ -50,16 +47,31 @@ class bluez_device final : public bluetooth_device {
         return std::make_shared<bluez_service_record>();
     }
 
+    int connect() override {
+        if (!connection_) {
+            const modal_hold hold(door_.loop_);
+            connection_ = std::make_unique<bluez_connection>(door_.devices(), address_);
+            door_.user_.wait(*connection_, name());
+        }
+        if (!connection_->finished()) {
+            connection_.reset();
+            return ECANCELED;
+        }
+        const bluetooth_problem problem = connection_->problem();
+        if (problem != bluetooth_problem::none) {
+            connection_.reset();
+            door_.user_.tell(problem, name());
+        }
+        return error_number(problem);
+    }
+
     int openRFCOMMChannelAsync(std::shared_ptr<rfcomm_channel>& channel, std::uint8_t,
                                rfcomm_channel_delegate delegate) override {
         if (!connection_)
-            connection_ = std::make_unique<bluez_connection>(door_.devices(), address_);
-        channel = std::make_shared<bluez_channel>(
-            door_.loop_, std::move(connection_), std::move(delegate),
-            [&door = door_, address = address_](bluetooth_problem problem) {
-                const auto known = door.devices().find(address);
-                door.tell_(problem, known ? known->name : address);
-            });
+            return ENOTCONN;
+        made_link_ = connection_->made_link();
+        channel = std::make_shared<bluez_channel>(door_.loop_, std::move(connection_),
+                                                  std::move(delegate));
         return 0;
     }
 
@@ -68,16 +80,21 @@ class bluez_device final : public bluetooth_device {
         if (!devices.bus().isConnected())
             return ENOTCONN;
         const auto known = devices.find(address_);
-        if (known && known->connected)
-            devices.bus().asyncCall(QDBusMessage::createMethodCall(
-                BLUEZ, known->path, DEVICE_INTERFACE, QStringLiteral("Disconnect")));
+        if (made_link_ && known && known->connected)
+            devices.disconnect_device(known->path);
         return 0;
     }
 
   private:
+    std::string name() const {
+        const auto known = door_.devices().find(address_);
+        return known ? known->name : address_;
+    }
+
     bluez_serial_port& door_;
     std::string address_;
     std::unique_ptr<bluez_connection> connection_;
+    bool made_link_ = false;
 };
 
 // Every device that the chooser connects offers the serial port, the only service it knows.
@@ -88,7 +105,7 @@ class bluez_selector final : public device_selector {
     void addAllowedUUID(std::uint16_t) override {}
     int runModal() override {
         const modal_hold hold(door_.loop_);
-        auto connection = door_.choose_(door_.devices());
+        auto connection = door_.user_.choose(door_.devices());
         if (!connection)
             return SELECTOR_SUCCESS - 1;
         std::string address = connection->address();
@@ -105,9 +122,9 @@ class bluez_selector final : public device_selector {
     std::shared_ptr<bluetooth_device> chosen_;
 };
 
-bluez_serial_port::bluez_serial_port(run_loop& loop, device_chooser choose, problem_teller tell,
+bluez_serial_port::bluez_serial_port(run_loop& loop, bluetooth_user user,
                                      std::function<QDBusConnection()> bus)
-    : loop_(loop), choose_(std::move(choose)), tell_(std::move(tell)), bus_(std::move(bus)) {}
+    : loop_(loop), user_(std::move(user)), bus_(std::move(bus)) {}
 
 bluez_serial_port::~bluez_serial_port() = default;
 
@@ -118,13 +135,15 @@ bluez_devices& bluez_serial_port::devices() {
 }
 
 std::unique_ptr<device_selector> bluez_serial_port::deviceSelector() {
-    if (choose_)
+    chooser_opened_ = static_cast<bool>(user_.choose);
+    if (chooser_opened_)
         return std::make_unique<bluez_selector>(*this);
-    tell_(bluetooth_problem::nobody_to_ask, "");
+    user_.tell(bluetooth_problem::nobody_to_ask, "");
     return nullptr;
 }
 
 std::shared_ptr<bluetooth_device> bluez_serial_port::device_with_address(std::string_view text) {
+    chooser_opened_ = false;
     auto address = bluetooth_address(text);
     return address ? std::make_shared<bluez_device>(*this, *std::move(address)) : nullptr;
 }

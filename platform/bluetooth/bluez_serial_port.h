@@ -13,21 +13,28 @@
 #include <memory>
 #include <string>
 
+// The user, as the door meets them. A device is a name or an address there.
+struct bluetooth_user {
+    // Lets them choose, modally, and answers the connection to the chosen device, finished and
+    // without a problem; null when they did not want to. Empty: there is nobody to ask.
+    std::function<std::unique_ptr<bluez_connection>(bluez_devices& devices)> choose;
+    // Returns when the connection has finished, or when they would not wait any longer.
+    std::function<void(bluez_connection& connection, const std::string& device)> wait;
+    // Shows why there is no connection.
+    std::function<void(bluetooth_problem problem, const std::string& device)> tell;
+    // What to do now, after a chooser or without one.
+    std::function<std::string(bool after_chooser)> advice;
+};
+
 class bluez_serial_port final : public serial_port_profile {
   public:
-    // Lets the user choose, modally, and answers the connection to the chosen device, finished and
-    // without a problem; null when the user did not want to.
-    using device_chooser = std::function<std::unique_ptr<bluez_connection>(bluez_devices& devices)>;
-    // Shows why a channel did not open; `device` is a name or an address.
-    using problem_teller =
-        std::function<void(bluetooth_problem problem, const std::string& device)>;
-
-    bluez_serial_port(run_loop& loop, device_chooser choose, problem_teller tell,
+    bluez_serial_port(run_loop& loop, bluetooth_user user,
                       std::function<QDBusConnection()> bus = QDBusConnection::systemBus);
     ~bluez_serial_port() override;
 
     std::unique_ptr<device_selector> deviceSelector() override;
     std::shared_ptr<bluetooth_device> device_with_address(std::string_view text) override;
+    std::string advice() const override { return user_.advice(chooser_opened_); }
 
     bluez_devices& devices();
 
@@ -36,8 +43,8 @@ class bluez_serial_port final : public serial_port_profile {
     friend class bluez_selector;
 
     run_loop& loop_;
-    device_chooser choose_;
-    problem_teller tell_;
+    bluetooth_user user_;
+    bool chooser_opened_ = false; // in the last attempt
     std::function<QDBusConnection()> bus_;
     std::unique_ptr<bluez_devices> devices_;
 };

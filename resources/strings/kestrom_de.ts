@@ -71,6 +71,10 @@ Bitte prüfen Sie:
         <source></source>
         <translation>Kein Bluetooth-Adapter gewählt. Erneut drücken, um einen zu wählen.</translation>
     </message>
+    <message id="bt_not_reached_MSG">
+        <source></source>
+        <translation>Keine Bluetooth-Verbindung. Erneut drücken, um es noch einmal zu versuchen. Um einen anderen Adapter zu wählen, schalten Sie „Den letzten Adapter wieder verwenden“ in den Einstellungen aus.</translation>
+    </message>
     <message id="bt_closed_MSG">
         <source></source>
         <translation>Die Bluetooth-Verbindung ist beendet. „Neu verbinden“ stellt sie wieder her.</translation>
@@ -613,10 +617,6 @@ Melden Sie sich am Rechner selbst an, oder bitten Sie den Administrator, Sie in 
     <message id="bt_other_problem">
         <source></source>
         <translation>Die Verbindung mit %1 ist gescheitert. Ziehen Sie den Adapter ab, stecken Sie ihn wieder ein, und versuchen Sie es noch einmal.</translation>
-    </message>
-    <message id="bt_restart_to_connect">
-        <source></source>
-        <translation>Nach einem Neustart verbindet sich Kestrom wieder.</translation>
     </message>
     <message id="bt_no_chooser">
         <source></source>

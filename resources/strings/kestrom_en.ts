@@ -71,6 +71,10 @@ Please check:
         <source></source>
         <translation>No Bluetooth adapter was chosen. Press again to choose one.</translation>
     </message>
+    <message id="bt_not_reached_MSG">
+        <source></source>
+        <translation>No Bluetooth connection. Press again to try once more. To choose another adapter, switch off “Reuse the last adapter” in the preferences.</translation>
+    </message>
     <message id="bt_closed_MSG">
         <source></source>
         <translation>The Bluetooth connection has ended. Press Reconnect to connect again.</translation>
@@ -612,10 +616,6 @@ Log in at the computer itself, or ask its administrator to add you to the group 
     <message id="bt_other_problem">
         <source></source>
         <translation>The connection to %1 failed. Unplug the adapter, plug it in again, and try once more.</translation>
-    </message>
-    <message id="bt_restart_to_connect">
-        <source></source>
-        <translation>Kestrom connects again after a restart.</translation>
     </message>
     <message id="bt_no_chooser">
         <source></source>

@@ -71,6 +71,10 @@ Compruebe que:
         <source></source>
         <translation>No se ha elegido ningún adaptador Bluetooth. Pulse de nuevo para elegir uno.</translation>
     </message>
+    <message id="bt_not_reached_MSG">
+        <source></source>
+        <translation>Sin conexión Bluetooth. Pulse de nuevo para volver a intentarlo. Para elegir otro adaptador, desactive «Volver a usar el último adaptador» en las preferencias.</translation>
+    </message>
     <message id="bt_closed_MSG">
         <source></source>
         <translation>La conexión Bluetooth ha terminado. Pulse Reconectar para volver a conectar.</translation>
@@ -613,10 +617,6 @@ Inicie sesión en el propio equipo, o pida a su administrador que lo añada al g
     <message id="bt_other_problem">
         <source></source>
         <translation>La conexión con %1 ha fallado. Desenchufe el adaptador, vuelva a enchufarlo e inténtelo otra vez.</translation>
-    </message>
-    <message id="bt_restart_to_connect">
-        <source></source>
-        <translation>Kestrom volverá a conectarse cuando se reinicie.</translation>
     </message>
     <message id="bt_no_chooser">
         <source></source>

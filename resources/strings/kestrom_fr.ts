@@ -71,6 +71,10 @@ Veuillez vérifier que :
         <source></source>
         <translation>Aucun adaptateur Bluetooth choisi. Appuyez à nouveau pour en choisir un.</translation>
     </message>
+    <message id="bt_not_reached_MSG">
+        <source></source>
+        <translation>Pas de connexion Bluetooth. Appuyez de nouveau pour réessayer. Pour choisir un autre adaptateur, décochez « Réutiliser le dernier adaptateur » dans les préférences.</translation>
+    </message>
     <message id="bt_closed_MSG">
         <source></source>
         <translation>La connexion Bluetooth est terminée. Appuyez sur Reconnecter pour la rétablir.</translation>
@@ -613,10 +617,6 @@ Ouvrez une session sur l'ordinateur même, ou demandez à son administrateur de 
     <message id="bt_other_problem">
         <source></source>
         <translation>La connexion à %1 a échoué. Débranchez l'adaptateur, rebranchez-le et réessayez.</translation>
-    </message>
-    <message id="bt_restart_to_connect">
-        <source></source>
-        <translation>Kestrom se connectera de nouveau après un redémarrage.</translation>
     </message>
     <message id="bt_no_chooser">
         <source></source>

@@ -269,4 +269,31 @@ TEST(last_adapter, is_used_without_a_question_only_when_asked_for_and_readable) 
     }
 }
 
+TEST(last_adapter, that_does_not_connect_leaves_nothing_behind_and_the_next_press_tries_again) {
+    app_harness app([](user_defaults& store) {
+        store.set_integer(KS_INTERFACE_KEY, KS_USE_BT);
+        store.set_boolean(REUSE_LAST_BT_KEY, true);
+        store.set_string(KS_LAST_BT_KEY, "AA-bb-cc-dd-ee-ff");
+    });
+    app.delegate->do_read_codes();
+    app.bluetooth.connect_error = 112;
+    for (int press = 0; press < 2; ++press) {
+        expect_warning("Error - failed to open the RFCOMM channel with error 00000070.\n");
+        app.statuses.clear();
+        app.press("readCodes");
+        app.loop.advance(seconds(10));
+        EXPECT_EQ(app.statuses, (list{"Starting Read Codes", app.bluetooth.advice()}));
+        EXPECT_FALSE(connected_2_BT_interface || app.delegate->anything_outstanding());
+        EXPECT_EQ(app.defaults.string(KS_LAST_BT_KEY), "AA-bb-cc-dd-ee-ff");
+    }
+    EXPECT_EQ(app.bluetooth.opens + app.bluetooth.closed_connections, 0);
+    app.bluetooth.connect_error = 0;
+    app.press("readCodes");
+    EXPECT_EQ(app.last_status(), "BT Connected");
+    app.bluetooth.open_completes();
+    app.loop.settle();
+    EXPECT_EQ(app.bluetooth.written, std::deque<std::string>{with_zero("AT Z\r")});
+    EXPECT_EQ(app.bluetooth.choosers, 0);
+}
+
 } // namespace

@@ -25,11 +25,25 @@ class adapter_behind_bluez : public testing::Test {
         ::close(ends[1]);
     }
 
-    // BlueZ takes the call and hands over one end of a socket pair.
-    void answer_connection() {
-        ASSERT_TRUE(
-            QTest::qWaitFor([&] { return mock.calls(device.c_str(), "ConnectProfile") > 0; }));
-        mock.hand_over(bus, device, ends[1]);
+    // BlueZ takes the next call and hands over one end of a socket pair.
+    void hand_over_when_asked() {
+        connections = mock.calls(device.c_str(), "ConnectProfile");
+        QObject::connect(&asked, &QTimer::timeout, &asked, [this] {
+            if (mock.calls(device.c_str(), "ConnectProfile") == connections)
+                return;
+            asked.disconnect();
+            mock.hand_over(bus, device, ends[1]);
+        });
+        asked.start(10);
+    }
+    bluetooth_user user_who_waits() {
+        bluetooth_user user;
+        user.wait = [](bluez_connection& connection, const std::string& name) {
+            EXPECT_EQ(name, "OBDII");
+            EXPECT_TRUE(QTest::qWaitFor([&] { return connection.finished(); }));
+        };
+        user.tell = [this](bluetooth_problem problem, const std::string&) { told = problem; };
+        return user;
     }
     std::string received_by_adapter() {
         char bytes[100];
@@ -40,6 +54,9 @@ class adapter_behind_bluez : public testing::Test {
     mock_bluez mock;
     QDBusConnection bus = mock.connect();
     std::string device;
+    bluetooth_problem told = bluetooth_problem::none;
+    qsizetype connections = 0;
+    QTimer asked;
     int ends[2];
 };
 
@@ -55,6 +72,7 @@ TEST_F(adapter_behind_bluez, the_cause_of_a_failure_is_told_apart) {
          bluetooth_problem::pairing_failed},
         {"org.bluez.Error.Failed", "br-connection-page-timeout", false,
          bluetooth_problem::out_of_reach},
+        {"org.bluez.Error.Failed", "br-connection-timeout", true, bluetooth_problem::out_of_reach},
         {"org.bluez.Error.Failed", "Host is down", true, bluetooth_problem::out_of_reach},
         {"org.bluez.Error.NotAvailable", "br-connection-profile-unavailable", true,
          bluetooth_problem::no_serial_port},
@@ -90,10 +108,73 @@ TEST_F(adapter_behind_bluez, a_device_that_goes_away_or_says_nothing_is_out_of_r
     EXPECT_EQ(gone.problem(), bluetooth_problem::out_of_reach);
 }
 
+// One device, whoever made the connection to it that is there: only ours may be closed.
+TEST_F(adapter_behind_bluez, only_a_connection_of_this_attempt_is_closed) {
+    const struct {
+        const char* name;
+        bool connected_before;
+        bool refused;
+        qsizetype disconnects;
+    } cases[] = {
+        {"ours, failed", false, true, 1},
+        {"somebody else's, failed", true, true, 0},
+        {"ours, closed", false, false, 1},
+        {"somebody else's, left", true, false, 0},
+    };
+    qt_run_loop loop;
+    qsizetype before = 0;
+    for (const auto& expected : cases) {
+        SCOPED_TRACE(expected.name);
+        mock.set_device(device, {{QStringLiteral("Connected"), expected.connected_before},
+                                 {QStringLiteral("Paired"), true}});
+        mock.on_connect(device,
+                        expected.refused
+                            ? "raise dbus.exceptions.DBusException('br-connection-refused', "
+                              "name='org.bluez.Error.Failed')"
+                            : "");
+        bluez_serial_port door(loop, user_who_waits(), [&] { return bus; });
+        const auto chosen = door.device_with_address(ADDRESS);
+        ASSERT_TRUE(chosen->getServiceRecordForUUID(SERIAL_PORT_UUID));
+        if (!expected.refused)
+            hand_over_when_asked();
+        EXPECT_EQ(chosen->connect(), expected.refused ? ECONNREFUSED : 0);
+        EXPECT_EQ(told, expected.refused ? bluetooth_problem::refused : bluetooth_problem::none);
+        told = bluetooth_problem::none;
+        std::shared_ptr<rfcomm_channel> channel;
+        if (!expected.refused) {
+            chosen->openRFCOMMChannelAsync(channel, 0, {[](int) {}, {}, [] {}});
+            mock.set_device(device, {{QStringLiteral("Connected"), true}});
+            ASSERT_TRUE(QTest::qWaitFor([&] { return door.devices().find(ADDRESS)->connected; }));
+        }
+        chosen->closeConnection();
+        const auto path = door.devices().find(ADDRESS)->path;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !door.devices().disconnecting(path); }));
+        EXPECT_EQ(mock.calls(device.c_str(), "Disconnect") - before, expected.disconnects);
+        before += expected.disconnects;
+    }
+}
+
+// The link that is being closed would take the new one with it, and pass for somebody else's.
+TEST_F(adapter_behind_bluez, a_new_connection_waits_for_the_end_of_the_one_before) {
+    mock.set_device(device, {{QStringLiteral("Connected"), true}});
+    qt_run_loop loop;
+    bluez_serial_port door(loop, user_who_waits(), [&] { return bus; });
+    door.devices().load_now(1000);
+    door.devices().disconnect_device(QString::fromStdString(device));
+    hand_over_when_asked();
+    const auto chosen = door.device_with_address(ADDRESS);
+    EXPECT_EQ(chosen->connect(), 0);
+    std::shared_ptr<rfcomm_channel> channel;
+    chosen->openRFCOMMChannelAsync(channel, 0, {[](int) {}, {}, [] {}});
+    mock.set_device(device, {{QStringLiteral("Connected"), true}});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return door.devices().find(ADDRESS)->connected; }));
+    chosen->closeConnection();
+    EXPECT_TRUE(door.devices().disconnecting(QString::fromStdString(device))) << "it is ours";
+}
+
 TEST_F(adapter_behind_bluez, bytes_go_both_ways_and_every_fault_of_the_channel_is_survived) {
     qt_run_loop loop;
-    bluez_serial_port door(
-        loop, nullptr, [](bluetooth_problem, const std::string&) {}, [&] { return bus; });
+    bluez_serial_port door(loop, user_who_waits(), [&] { return bus; });
     const auto chosen = door.device_with_address("00-1d-a5-68-98-8b");
     ASSERT_TRUE(chosen);
     EXPECT_EQ(chosen->address_text(), "00-1D-A5-68-98-8B");
@@ -101,6 +182,8 @@ TEST_F(adapter_behind_bluez, bytes_go_both_ways_and_every_fault_of_the_channel_i
     ASSERT_TRUE(chosen->getServiceRecordForUUID(SERIAL_PORT_UUID));
     EXPECT_EQ(chosen->getServiceRecordForUUID(SERIAL_PORT_UUID)->getRFCOMMChannelID(id), 0);
 
+    hand_over_when_asked();
+    ASSERT_EQ(chosen->connect(), 0);
     std::string data;
     std::size_t largest = 0;
     int status = -1, closed = 0;
@@ -114,7 +197,6 @@ TEST_F(adapter_behind_bluez, bytes_go_both_ways_and_every_fault_of_the_channel_i
                                               [&] { ++closed; }}),
               0);
     EXPECT_EQ(channel->writeSync("AT Z\r"), ENOTCONN) << "not open yet";
-    answer_connection();
     ASSERT_TRUE(QTest::qWaitFor([&] { return status == 0; }));
     EXPECT_EQ(channel->writeSync(std::string_view("AT Z\r\0", 6)), 0);
     EXPECT_EQ(received_by_adapter(), std::string("AT Z\r\0", 6));
@@ -149,8 +231,7 @@ TEST_F(adapter_behind_bluez, bytes_go_both_ways_and_every_fault_of_the_channel_i
 TEST_F(adapter_behind_bluez, a_device_known_to_have_no_serial_port_has_no_record) {
     mock.set_device(device, {{QStringLiteral("ServicesResolved"), true}});
     qt_run_loop loop;
-    bluez_serial_port door(
-        loop, nullptr, [](bluetooth_problem, const std::string&) {}, [&] { return bus; });
+    bluez_serial_port door(loop, user_who_waits(), [&] { return bus; });
     EXPECT_FALSE(door.device_with_address(ADDRESS)->getServiceRecordForUUID(SERIAL_PORT_UUID));
     EXPECT_FALSE(door.device_with_address("OBDII"));
 }
@@ -158,22 +239,22 @@ TEST_F(adapter_behind_bluez, a_device_known_to_have_no_serial_port_has_no_record
 TEST(no_bluetooth, a_connection_without_a_system_bus_fails_in_words) {
     qt_run_loop loop;
     bluetooth_problem told = bluetooth_problem::none;
-    int status = 0;
-    bluez_serial_port door(
-        loop, nullptr,
-        [&](bluetooth_problem problem, const std::string& name) {
-            told = problem;
-            EXPECT_EQ(name, problem == bluetooth_problem::nobody_to_ask ? "" : ADDRESS);
-        },
-        [] { return QDBusConnection(QStringLiteral("no such bus")); });
+    bluetooth_user user;
+    user.wait = [](bluez_connection& connection, const std::string&) {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return connection.finished(); }));
+    };
+    user.tell = [&](bluetooth_problem problem, const std::string& name) {
+        told = problem;
+        EXPECT_EQ(name, problem == bluetooth_problem::nobody_to_ask ? "" : ADDRESS);
+    };
+    bluez_serial_port door(loop, user,
+                           [] { return QDBusConnection(QStringLiteral("no such bus")); });
     EXPECT_FALSE(door.deviceSelector());
     EXPECT_EQ(told, bluetooth_problem::nobody_to_ask);
     const auto chosen = door.device_with_address(ADDRESS);
-    std::shared_ptr<rfcomm_channel> channel;
     ASSERT_TRUE(chosen->getServiceRecordForUUID(SERIAL_PORT_UUID));
-    chosen->openRFCOMMChannelAsync(channel, 0, {[&](int result) { status = result; }, {}, {}});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return told == bluetooth_problem::service_missing; }));
-    EXPECT_EQ(status, ENODEV);
+    EXPECT_EQ(chosen->connect(), ENODEV);
+    EXPECT_EQ(told, bluetooth_problem::service_missing);
     EXPECT_EQ(chosen->closeConnection(), ENOTCONN);
 }
 

@@ -20,6 +20,7 @@ class scripted_serial_port final : public serial_port_profile {
     bool nothing_selected = false;
     bool no_service_record = false;
     int channel_id_error = 0;
+    int connect_error = 0;
     int open_error = 0;
     bool open_leaves_channel = true;
     int write_error = 0;
@@ -58,6 +59,7 @@ class scripted_serial_port final : public serial_port_profile {
             return nullptr;
         return std::make_shared<device>(*this, std::string(text));
     }
+    std::string advice() const override { return "Press again"; }
 
   private:
     struct wire final : rfcomm_channel {
@@ -86,6 +88,7 @@ class scripted_serial_port final : public serial_port_profile {
                 return nullptr;
             return std::make_shared<record>(script);
         }
+        int connect() override { return script.connect_error; }
         int openRFCOMMChannelAsync(std::shared_ptr<rfcomm_channel>& opened, std::uint8_t channel_id,
                                    rfcomm_channel_delegate delegate) override {
             ++script.opens;

@@ -1,0 +1,21 @@
+// Shown while a Bluetooth adapter is connected without the chooser. Closes when the attempt has
+// finished, whatever came of it, or when the user has enough of waiting.
+#pragma once
+
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QTimer>
+
+class bluez_connection;
+class bundle;
+
+class connecting_dialog final : public QDialog {
+  public:
+    // `device`: its name as it calls itself.
+    connecting_dialog(QWidget* parent, const bluez_connection& connection, const bundle& texts,
+                      const std::string& device);
+
+  private:
+    QElapsedTimer since_;
+    QTimer tick_;
+};

@@ -4,6 +4,7 @@
 #include "display_text.h"
 #include "globalVars.h"
 #include "live_view.h"
+#include "parameters.h"
 #include "reply_accumulator.h"
 #include "status_line.h"
 #include "system_log.h"
@@ -107,7 +108,7 @@ void actions::build_views() {
     std::vector<QString> names;
     for (const std::string& pid : _pid_logitems_list) {
         these_samples.push_back({pid, "0.0", "0.0", "0.0"});
-        names.push_back(display_text(toolies.get_pid_name(pid, false)));
+        names.push_back(display_text(parameter_name(toolies, pid)));
     }
     cycle_values_.assign(_pid_logitems_list.size(), {});
     // The first thumbnail is selected, and moves the first dial.

@@ -6,6 +6,7 @@
 #include "fuel_economy.h"
 #include "globalVars.h"
 #include "live_view.h"
+#include "parameters.h"
 #include "sample_reply.h"
 #include "system_log.h"
 #include "text.h"
@@ -41,14 +42,6 @@ std::string fix_3dos(std::string_view reply) {
     throw std::runtime_error("the toolkit has no operation fix_3dos:");
 }
 
-// The first line that holds anything.
-std::string first_line(const std::string& text) {
-    for (const std::string_view line : split(text, "\r"))
-        if (!line.empty())
-            return std::string(line);
-    return text;
-}
-
 // An answer to a service 01 request for another parameter.
 bool answers_another(std::string_view reply, std::string_view pid) {
     const std::string_view answered = slice(reply, 2, 2);
@@ -60,7 +53,7 @@ bool answers_another(std::string_view reply, std::string_view pid) {
 // stands before it was left over.
 std::string reply_to(std::string_view pid, const std::string& replies) {
     for (const std::string_view each : split(replies, ">"))
-        if (answers_parameter(first_line(without(each, " \n")), pid))
+        if (answers_parameter(whole_answer(each), pid))
             return std::string(each);
     return replies;
 }
@@ -213,7 +206,7 @@ void actions::add_item_to_log_vector(std::string_view this_item_val, int this_id
     const auto place = static_cast<std::size_t>(this_idx);
     // What is no whole answer stays as it came, but is no value.
     const std::string_view answer = answer_in(this_item_val);
-    cycle_values_[place] = toolies.translate_once(answer.empty() ? "~" : answer);
+    cycle_values_[place] = parameter_value(toolies, answer.empty() ? "~" : answer);
     these_samples[place][1] = cycle_values_[place].text;
     cur_log_points.file(place, this_item_val, cycle_values_[place]);
 }
@@ -257,7 +250,7 @@ std::optional<std::string> actions::screened_reply() {
         ++g_retries;
         reply = "~";
     }
-    reply = first_line(without(reply, " \n"));
+    reply = whole_answer(reply);
     reply.resize(std::min(reply.size(), LONGEST_SAMPLE));
     return reply;
 }

@@ -1,6 +1,7 @@
 #include "sample_reply.h"
 
 #include "mac_toolies.h"
+#include "standard_values.h"
 #include "text.h"
 
 #include <algorithm>
@@ -11,7 +12,8 @@ namespace {
 constexpr std::size_t HEAD = 4;         // "41" and the parameter
 constexpr std::size_t WHOLE_FRAME = 14; // seven bytes follow the length of a CAN frame
 
-// Data bytes by PID, 00 to 5F, a row for each sixteen. Beyond, any number.
+// Data bytes by PID, 00 to 5F, a row for each sixteen. Beyond the table of standard values tells;
+// what has no row there may have any number.
 constexpr std::string_view DATA_BYTES = "4422111111112111"
                                         "2111222222221112"
                                         "4222444444441111"
@@ -52,9 +54,15 @@ std::string_view answer_in(std::string_view reply) {
     if (!reply.starts_with("41") || reply.size() <= HEAD || reply.size() % 2 != 0 || !is_hex(reply))
         return {};
     const unsigned number = mac_toolies::convertStr2Byte(reply.substr(2, 2));
-    if (number >= DATA_BYTES.size())
+    const answer_length standard = standard_length(number);
+    if (number >= DATA_BYTES.size() && standard.bytes == 0)
         return reply;
-    const std::size_t whole = HEAD + 2 * static_cast<std::size_t>(DATA_BYTES[number] - '0');
+    const std::size_t bytes = number < DATA_BYTES.size()
+                                  ? static_cast<std::size_t>(DATA_BYTES[number] - '0')
+                                  : standard.bytes;
+    const std::size_t whole = HEAD + 2 * bytes;
+    if (standard.or_bytes != 0 && reply.size() == HEAD + 2 * std::size_t{standard.or_bytes})
+        return reply;
     const bool fits =
         reply.size() == whole || (reply.size() == whole + 2 && may_tell_of_two_banks(number)) ||
         (reply.size() == WHOLE_FRAME && whole < WHOLE_FRAME && is_filling(reply.substr(whole)));

@@ -58,15 +58,18 @@ Examples
   kestrom --adapter 192.168.0.10:35000 live --seconds 60 --log >values.csv
   kestrom live --run boost --json | grep cycle
 )"},
-    {"decode", 0, MANY, talks_to::nobody, "decode REPLY... [--units metric|imperial] [--json]",
+    {"decode", 0, MANY, talks_to::nobody, "decode REPLY... [--units metric|imperial] [--standard] [--json]",
      "what replies to service 01 requests mean: text and number",
      R"(A line for each reply: the text, a tab, the number. A reply may write its line ends as \r and \n.
-Without --units those of the settings hold. With --json: docs/json/decode.schema.json.
+Without --units those of the settings hold. A run shows some parameters in a way that misleads (the
+pressure of the evaporative system, catalyst temperatures, the commanded ratio, "V" behind trims);
+--standard gives their true values. With --json: docs/json/decode.schema.json.
 Exit status: 0 success, 1 when a text is no reply of an adapter, 2 the arguments make no sense.
 
 Examples
   kestrom decode "41 0C 1A F8" --units metric
   kestrom decode "41 05 7B" "NO DATA" --json
+  kestrom decode "41 3C 11 94" --standard
 )"},
     {"vin", 0, MANY, talks_to::nobody, "vin REPLY [--json]",
      "the vehicle identification number in a reply to 09 02",
@@ -76,9 +79,10 @@ Exit status: 0 success, 2 the arguments make no sense.
 Example
   kestrom vin "014\r0:490201314731\r1:4A4734554A35\r2:3643313132323330\r>"
 )"},
-    {"mode6", 0, MANY, talks_to::nobody, "mode6 ID VALUE [--json]",
+    {"mode6", 0, MANY, talks_to::nobody, "mode6 ID VALUE [--standard] [--json]",
      "a test result scaled by its unit-and-scaling identifier",
-     R"(Both in hex digits, the value of two bytes at most. With --json: docs/json/mode6.schema.json.
+     R"(Both in hex digits, the value of two bytes at most. With --standard identifiers from 80 on are
+signed. With --json: docs/json/mode6.schema.json.
 Exit status: 0 success, 2 the arguments make no sense.
 
 Example

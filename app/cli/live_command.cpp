@@ -4,6 +4,7 @@
 #include "constantes.h"
 #include "fixed_decimals.h"
 #include "Ks_lite_delegate.h"
+#include "parameters.h"
 #include "progress_line.h"
 #include "report_printer.h"
 #include "text.h"
@@ -110,9 +111,9 @@ void live_command::print_header() {
     std::string line;
     for (const std::string& pid : header_of_) {
         const mac_toolies& toolies = screen_->toolies;
-        const std::string units = toolies.get_units(pid);
+        const std::string units = parameter_units(toolies, pid);
         std::string name =
-            toolies.get_pid_name(pid, false) + " (" + std::string(trimmed(units)) + ")";
+            parameter_name(toolies, pid) + " (" + std::string(trimmed(units)) + ")";
         if (name.find_first_of(",\"") != std::string::npos) {
             std::string quoted = "\"";
             for (const char c : name)

@@ -97,8 +97,10 @@ void actions::work_out_log(int step) {
 
 void actions::start_sampling() {
     set_status_msg("Starting log");
-    if (handshake_.comes_first())
+    if (handshake_.comes_first()) {
+        car_parameters_.reset(); // it may be another car
         return;
+    }
     const std::string reply = odb_curReplyMsg;
     odb_curReplyMsg.clear();
     if (p_cur_avail_pids && p_cur_avail_pids->empty()) {
@@ -155,6 +157,12 @@ void actions::begin_cycle() {
         ask(requests_.front());
         return;
     }
+    if (!run_->samples()) {
+        scan_completed_ = true;
+        set_status_msg(localized(car_parameters_ ? "ui_more_told" : "ui_more_untold"));
+        leave_cur_op_gracefully("");
+        return;
+    }
     if (const auto found = run_->parameters_found()) {
         if (found->empty()) {
             set_status_msg(localized("ui_live_no_sensors"));
@@ -179,6 +187,7 @@ void actions::first_question_answered() {
     if (answers_another(*reply, requests_.front().pid) &&
         await_straggler(order_of_answer::one_behind))
         return; // and ask once more
+    run_->whole_reply_came(odb_curReplyMsg);
     run_->first_question_answered(*reply);
     begin_cycle();
 }

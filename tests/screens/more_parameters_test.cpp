@@ -4,6 +4,7 @@
 #include "app_harness.h"
 #include "car_library.h"
 #include "qt_warnings.h"
+#include "supported_scan.h"
 #include "virtual_car_pair.h"
 
 #include <QDialog>
@@ -41,6 +42,7 @@ class more_parameters_test : public testing::Test {
         const auto found = rows->findItems(QLatin1String(pid), Qt::MatchExactly, 2);
         return found.isEmpty() ? nullptr : found.front();
     }
+    std::string support(const char* pid) { return row(pid)->text(3).toStdString(); }
     std::string told() { return app.find<QLabel>("supportTold")->text().toStdString(); }
     void ask() {
         app.press("askCar");
@@ -55,37 +57,37 @@ class more_parameters_test : public testing::Test {
 };
 
 // Group after group as long as one is announced, and every unit's word counts.
-TEST_F(more_parameters_test, every_unit_tells_to_the_last_group) {
-    for (const char* const name : {"hybrid", "van", "old_kline", "diesel"}) {
-        use_car(name);
-        bool ended = false;
-        screen().ask_what_car_supports([&] { ended = true; });
-        app.loop.advance(seconds(60));
-        ASSERT_TRUE(ended && screen().scan_completed()) << name;
-        parameter_set truth;
-        truth.set(1);
-        for (const control_unit& unit : the_car.units)
-            for (const int pid : unit.pids)
-                truth.set(static_cast<std::size_t>(pid));
-        EXPECT_EQ(screen().car_parameters(), truth) << name;
-        EXPECT_FALSE(screen().running()) << name;
-        app.delegate->do_prefs();
-        app.delegate->disconnect();
-        connected_2_KS_interface = false;
-    }
+class told_by_every_car : public more_parameters_test, public testing::WithParamInterface<std::string> {};
+
+TEST_P(told_by_every_car, tells_of_every_unit_to_the_last_group) {
+    use_car(GetParam());
+    bool ended = false;
+    screen().ask_what_car_supports([&] { ended = true; });
+    app.loop.advance(seconds(60));
+    ASSERT_TRUE(ended && screen().scan_completed());
+    parameter_set truth;
+    truth.set(1);
+    for (const control_unit& unit : the_car.units)
+        for (const int pid : unit.pids)
+            truth.set(static_cast<std::size_t>(pid));
+    EXPECT_EQ(screen().car_parameters(), truth);
+    EXPECT_FALSE(screen().running());
 }
+
+INSTANTIATE_TEST_SUITE_P(all, told_by_every_car, testing::ValuesIn(car_names()),
+                         [](const auto& name) { return name.param; });
 
 TEST_F(more_parameters_test, nothing_is_hidden_before_the_car_has_told) {
     use_car("hybrid");
     open();
     EXPECT_EQ(told(), "What this car supports is not known yet.");
-    EXPECT_EQ(row("5C")->text(3), "");
+    EXPECT_EQ(support("5C"), "");
     EXPECT_FALSE(row("0D")->flags().testFlag(Qt::ItemIsUserCheckable)) << "of the preferences";
     EXPECT_EQ(row("E4"), nullptr) << "no parameter of a car";
     EXPECT_EQ(row("4F"), nullptr) << "not decoded";
     ask();
-    EXPECT_EQ(row("5C")->text(3), "supported");
-    EXPECT_EQ(row("78")->text(3), "not supported");
+    EXPECT_EQ(support("5C"), "supported");
+    EXPECT_EQ(support("78"), "not supported");
     EXPECT_FALSE(row("78")->isHidden());
     app.find<QLineEdit>("searchParameters")->setText(QStringLiteral("TEMP oil"));
     EXPECT_FALSE(row("5C")->isHidden());
@@ -124,7 +126,7 @@ TEST_F(more_parameters_test, a_car_that_is_silent_leaves_it_unknown) {
     };
     ask();
     EXPECT_FALSE(screen().car_parameters());
-    EXPECT_EQ(row("5C")->text(3), "");
+    EXPECT_EQ(support("5C"), "");
 }
 
 } // namespace

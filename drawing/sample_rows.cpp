@@ -2,7 +2,6 @@
 
 #include "fixed_decimals.h"
 
-#include <cmath>
 #include <cstring>
 #include <limits>
 
@@ -133,7 +132,7 @@ void sample_rows::file(std::size_t parameter, std::string_view reply, const tran
     } else {
         long_texts_.insert_or_assign(place, std::string(reply));
     }
-    c.newest_number = std::isfinite(meaning.value) ? meaning.value : chart_number(meaning.text);
+    c.newest_number = chart_number(meaning.text);
 }
 
 std::string_view sample_rows::text(std::size_t row, std::size_t parameter) const {

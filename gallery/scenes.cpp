@@ -145,7 +145,7 @@ void more_parameters_known(stage& on) {
     on.press("moreParameters", 0);
     on.press("askCar", 20);
     auto* dialog = on.app.find<QDialog>("moreParametersDialog");
-    const auto* rows = on.app.find<QTreeWidget>("parameters");
+    auto* rows = on.app.find<QTreeWidget>("parameters");
     rows->findItems(QStringLiteral("5C"), Qt::MatchExactly, 2)
         .front()
         ->setCheckState(0, Qt::Checked);

@@ -60,6 +60,7 @@ class live_view {
 
   private:
     void build_controls(QHBoxLayout* row);
+    void build_more(QHBoxLayout* row);
     void build_log_mark(QVBoxLayout* column);
     void build_strip(QVBoxLayout* column);
     QLabel* make_hint(const char* name, std::string_view key, QWidget* parent) const;

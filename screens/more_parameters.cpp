@@ -47,7 +47,6 @@ more_parameters::more_parameters(Ks_lite_delegate& delegate, class actions& scre
     search_->setObjectName(QStringLiteral("searchParameters"));
     search_->setPlaceholderText(ui_text(delegate_, "ui_more_search"));
     search_->setAccessibleName(ui_text(delegate_, "ui_more_search"));
-    search_->setClearButtonEnabled(true);
     connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) { filter(text); });
     column->addWidget(search_);
     build_list(column);

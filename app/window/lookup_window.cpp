@@ -36,7 +36,6 @@ lookup_window::lookup_window(Ks_lite_delegate& delegate, QWidget* parent)
     search_->setObjectName(QStringLiteral("lookupText"));
     search_->setPlaceholderText(ui_text(delegate_, "ui_lookup_search"));
     search_->setAccessibleName(ui_text(delegate_, "ui_lookup_search"));
-    search_->setClearButtonEnabled(true);
     connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) { look_up(text); });
     column->addWidget(search_);
     build_table();

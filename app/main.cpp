@@ -14,6 +14,7 @@
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
 #include "languages.h"
+#include "lookup_command.h"
 #include "mac_toolies.h"
 #include "main_window.h"
 #include "message_box_alerts.h"
@@ -27,6 +28,7 @@
 #include "screen_factories.h"
 #include "serial_port_profile.h"
 #include "system_log.h"
+#include "supported_scan.h"
 #include "user_defaults.h"
 
 #include <QApplication>
@@ -102,8 +104,11 @@ void use_adapter(user_defaults& store, const std::string& host, const std::strin
 // What the command line asks of a live run, as if the user had chosen it in the preferences.
 void use_run(user_defaults& store, const cli_request& asked) {
     store.set_boolean(LOG_RUNS_KEY, asked.log);
-    if (!asked.pids.empty())
-        store.set_string_array(PIDS_ARRAY_KEY, asked.pids);
+    if (asked.pids.empty() && !asked.all_pids)
+        return;
+    store.set_string_array(MORE_PIDS_KEY, {});
+    store.set_string_array(PIDS_ARRAY_KEY,
+                           asked.all_pids ? std::vector<std::string>{"0C"} : asked.pids);
 }
 
 void use_bluetooth(user_defaults& store, const std::string& address) {
@@ -157,6 +162,8 @@ int decode(int argc, char** argv, const cli_request& asked) {
         return run_vin(asked.arguments, toolies, std::cout, std::cerr);
     if (asked.command == "chart")
         return run_chart(asked.arguments, toolies, resources, std::cout, std::cerr);
+    if (asked.command == "lookup")
+        return run_lookup(asked.arguments, toolies, std::cout, std::cerr);
     if (asked.command == "export")
         return run_export(asked.arguments, toolies, std::cout, std::cerr);
     return run_mode6(asked.arguments, toolies, std::cout, std::cerr);

@@ -3,6 +3,7 @@
 #include "fixed_decimals.h"
 #include "saturate.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -37,6 +38,23 @@ dial_range dial_range_of(unsigned pid, bool imperial) {
         if (pid >= row.first_pid && pid <= row.last_pid)
             return imperial ? row.imperial : row.metric;
     return {};
+}
+
+dial_range dial_range_over(double low, double high) {
+    constexpr double MOST_UNSCALED = 9999;
+    constexpr double ROUND_STEPS[] = {1, 1.2, 1.5, 2, 2.5, 3, 4, 5, 6, 8, 10, 12, 15, 20};
+    if (!(low < high))
+        return {};
+    const int scaling = std::max(std::fabs(low), std::fabs(high)) > MOST_UNSCALED ? 1000 : 1;
+    const double from = std::min(0.0, low / scaling), to = high / scaling;
+    if (to - from <= DECIMALS_UP_TO)
+        return {saturating_int(std::floor(from)), saturating_int(std::ceil(to)), scaling};
+    const double decade = std::pow(10, std::floor(std::log10((to - from) / 10)));
+    for (const double round : ROUND_STEPS)
+        if (const double step = round * decade, start = std::floor(from / step) * step;
+            step == std::floor(step) && start + 10 * step >= to)
+            return {saturating_int(start), saturating_int(start + 10 * step), scaling};
+    return {saturating_int(std::floor(from)), saturating_int(std::ceil(to)), scaling};
 }
 
 std::array<std::string, 11> dial_labels(const dial_range& range) {

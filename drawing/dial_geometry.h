@@ -23,6 +23,8 @@ struct dial_range {
     bool operator==(const dial_range&) const = default;
 };
 dial_range dial_range_of(unsigned pid, bool imperial);
+// From 0, or below, to `high` or a little beyond, so that the labels are round numbers.
+dial_range dial_range_over(double low, double high);
 
 // The texts of the dial's eleven labels.
 std::array<std::string, 11> dial_labels(const dial_range& range);

@@ -1,6 +1,7 @@
 #include "drawChartyItem.h"
 
 #include "canvas.h"
+#include "parameters.h"
 #include "text.h"
 
 void drawChartyItem::initWitdim(QSizeF size, std::string_view imageID) {
@@ -50,7 +51,7 @@ void drawChartyItem::use_this_pids(std::vector<std::string> pids) {
     _pid_logitems_list = std::move(pids);
     names_.clear();
     for (const std::string& pid : _pid_logitems_list)
-        names_.push_back(toolies.get_pid_name(pid, false));
+        names_.push_back(parameter_name(toolies, pid));
 }
 
 bool drawChartyItem::isPlottingThisIndex(int index) const {

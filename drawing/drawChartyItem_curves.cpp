@@ -2,6 +2,7 @@
 #include "curve_painter.h"
 #include "drawChartyItem.h"
 #include "fixed_decimals.h"
+#include "parameters.h"
 #include "saturate.h"
 #include "system_log.h"
 
@@ -116,9 +117,9 @@ void drawChartyItem::start_realtime_curve(std::size_t parameter, const std::stri
     const std::string& pid = _pid_logitems_list[parameter];
     label_record limits = record;
     if (limits.upper == "max")
-        limits.upper = fixed_decimals(toolies.get_PID_min_max(pid, true), 6);
+        limits.upper = fixed_decimals(parameter_range(toolies, pid).high, 6);
     if (limits.lower == "min")
-        limits.lower = fixed_decimals(toolies.get_PID_min_max(pid, false), 6);
+        limits.lower = fixed_decimals(parameter_range(toolies, pid).low, 6);
     r_cur_maxY = upper_limit(limits);
     r_cur_minY = lower_limit(limits);
     const double value = value_of_text(text).value;

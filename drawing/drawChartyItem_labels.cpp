@@ -2,6 +2,7 @@
 #include "canvas.h"
 #include "drawChartyItem.h"
 #include "fixed_decimals.h"
+#include "parameters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,8 +22,7 @@ label_records drawChartyItem::work_out_labels(const sample_rows& samples) const 
     label_records labels;
     for (std::size_t i = 0; i < _pid_logitems_list.size(); ++i) {
         const std::string& pid = _pid_logitems_list[i];
-        const double min = toolies.get_PID_min_max(pid, false);
-        const double max = toolies.get_PID_min_max(pid, true);
+        const auto [min, max] = parameter_range(toolies, pid);
         const double quarter = (max - min) * QUARTER;
         double upper = max - quarter;
         double lower = min + quarter;
@@ -30,7 +30,7 @@ label_records drawChartyItem::work_out_labels(const sample_rows& samples) const 
             upper = std::fmax(min, samples.highest(i));
             lower = std::fmin(max, samples.lowest(i));
         }
-        labels.push_back({names_[i], toolies.get_units(pid), fixed_decimals(upper, LABEL_DECIMALS),
+        labels.push_back({names_[i], parameter_units(toolies, pid), fixed_decimals(upper, LABEL_DECIMALS),
                           fixed_decimals(lower, LABEL_DECIMALS)});
     }
     return labels;
@@ -40,10 +40,9 @@ label_records drawChartyItem::work_out_labels_4_realtime() const {
     label_records labels;
     for (std::size_t i = 0; i < _pid_logitems_list.size(); ++i) {
         const std::string& pid = _pid_logitems_list[i];
-        label_record label{names_[i], toolies.get_units(pid), "", ""};
+        label_record label{names_[i], parameter_units(toolies, pid), "", ""};
         if (!some_sampling_done) {
-            const double min = toolies.get_PID_min_max(pid, false);
-            const double max = toolies.get_PID_min_max(pid, true);
+            const auto [min, max] = parameter_range(toolies, pid);
             const double quarter = (max - min) * QUARTER;
             label.upper = fixed_decimals(min + quarter, LABEL_DECIMALS);
             label.lower = fixed_decimals(max - quarter, LABEL_DECIMALS);

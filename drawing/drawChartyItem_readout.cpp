@@ -1,6 +1,7 @@
 #include "canvas.h"
 #include "drawChartyItem.h"
 #include "fixed_decimals.h"
+#include "parameters.h"
 
 #include <QGuiApplication>
 
@@ -83,9 +84,9 @@ void drawChartyItem::paint_level_bar(canvas& target, int segments) {
     if (k >= _pid_logitems_list.size())
         return;
     const std::string& pid = _pid_logitems_list[k];
+    const value_range range = parameter_range(toolies, pid);
     const int level =
-        level_of(leading_number(cur_sample_set[k][1]), toolies.get_PID_min_max(pid, false),
-                 toolies.get_PID_min_max(pid, true), segments);
+        level_of(leading_number(cur_sample_set[k][1]), range.low, range.high, segments);
     target.put(level_bar_, std::to_string(level), [&](canvas& alone) {
         const QColor lit = colour(1, 1, 0, 0.4);
         for (int i = 0; i < segments; ++i) {

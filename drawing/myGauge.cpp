@@ -3,6 +3,7 @@
 #include "bundle.h"
 #include "canvas.h"
 #include "constantes.h"
+#include "parameters.h"
 #include "system_log.h"
 #include "text.h"
 #include "user_defaults.h"
@@ -97,7 +98,7 @@ myGauge::myGauge(const bundle& resources, const mac_toolies& decoder)
 void myGauge::initGauge(std::string_view pid) {
     cur_PID = last_path_component(pid);
     work_out_base_gauge();
-    draw_cur_needle_value(toolies.get_PID_min_max(cur_PID, false));
+    draw_cur_needle_value(parameter_range(toolies, cur_PID).low);
 }
 
 void myGauge::set_pixel_scale(double pixels_a_unit) {
@@ -142,10 +143,13 @@ void myGauge::work_out_base_gauge() {
     image_without_needle = empty_dial_;
     face_is_new_ = true;
     const unsigned pid = mac_toolies::convertStr2Byte(cur_PID);
-    const std::array<int, 3> range = gauge_range(pid);
-    range_lo = range[0];
-    range_hi = range[1];
-    range_scaling = range[2];
+    const std::array<int, 3> fixed = gauge_range(pid);
+    const value_range shown = parameter_range(toolies, cur_PID);
+    const dial_range range = is_told_by_standard(pid) ? dial_range_over(shown.low, shown.high)
+                                                      : dial_range{fixed[0], fixed[1], fixed[2]};
+    range_lo = range.low;
+    range_hi = range.high;
+    range_scaling = range.scaling;
 
     canvas target(image_without_needle);
     const std::array<std::string, 11> labels = dial_labels({range_lo, range_hi, range_scaling});
@@ -158,14 +162,14 @@ void myGauge::work_out_base_gauge() {
     const double middle = gaugeSize.width() / 2;
     paint_units(target, 2 * std::min(middle - left, right - middle));
     condensed_text(target, gaugeSize.width() - 2 * DIAL_EDGE, middle, 0,
-                   qstring(toolies.get_pid_name(cur_PID, false)),
+                   qstring(parameter_name(toolies, cur_PID)),
                    image_font(QStringLiteral("Helvetica"), NAME_PIXELS, true), NAME_INK, FOOT);
 }
 
 // Between the first and the last label there is `room` for the units.
 void myGauge::paint_units(canvas& target, double room) const {
     const double middle = gaugeSize.width() / 2;
-    condensed_text(target, room, middle, 15, qstring(toolies.get_units(cur_PID)), label_font(),
+    condensed_text(target, room, middle, 15, qstring(parameter_units(toolies, cur_PID)), label_font(),
                    Qt::yellow);
     if (range_scaling == 1)
         return;

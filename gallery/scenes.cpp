@@ -11,6 +11,7 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <QSlider>
+#include <QTreeWidget>
 
 #include <filesystem>
 #include <fstream>
@@ -139,6 +140,28 @@ void open_export(stage& on) {
     on.window.findChild<QAction*>(QStringLiteral("exportLog"))->trigger();
     on.show_dialog(on.window.findChild<QDialog*>(QStringLiteral("exportWindow")));
 }
+void more_parameters_known(stage& on) {
+    live(on);
+    on.press("moreParameters", 0);
+    on.press("askCar", 20);
+    auto* dialog = on.app.find<QDialog>("moreParametersDialog");
+    auto* rows = on.app.find<QTreeWidget>("parameters");
+    rows->findItems(QStringLiteral("5C"), Qt::MatchExactly, 2)
+        .front()
+        ->setCheckState(0, Qt::Checked);
+    rows->scrollToItem(rows->findItems(QStringLiteral("61"), Qt::MatchExactly, 2).front());
+    on.show_dialog(dialog);
+}
+void look_up(stage& on) {
+    on.window.findChild<QAction*>(QStringLiteral("lookUpCode"))->trigger();
+    auto* dialog = on.window.findChild<QDialog*>(QStringLiteral("lookupWindow"));
+    dialog->findChild<QLineEdit*>()->setText(QStringLiteral("oil pressure"));
+    on.show_dialog(dialog);
+}
+void twelve_parameters(user_defaults& store) {
+    app_harness::use_wifi(store);
+    store.set_string_array("more_pids", {"0B", "10", "42", "5C", "5E", "62", "67", "A6"});
+}
 void write_logs(int cycles) {
     const std::filesystem::path folder = mac_toolies::sharedManager().log_folder();
     std::filesystem::create_directories(folder);
@@ -254,6 +277,9 @@ const std::vector<scene> ALL = {
      without_parameters},
     {"live-nothing", "No parameters are chosen: the screen", live, "can11", {}, without_parameters},
     {"live-cannot-connect", "A run without an adapter", log_run, "can11", {{fault_kind::refuse}}},
+    {"live-twelve", "A run of twelve parameters", log_run, "hybrid", {}, twelve_parameters},
+    {"live-more", "More parameters, and what the car supports", more_parameters_known, "hybrid"},
+    {"look-up", "Looking a code up", look_up},
     {"expert-empty", "Expert, nothing sent", expert},
     {"expert-talk", "Commands and replies", expert_talk},
     {"expert-timed-out",

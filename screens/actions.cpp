@@ -4,12 +4,15 @@
 #include "display_text.h"
 #include "globalVars.h"
 #include "live_view.h"
+#include "more_parameters.h"
+#include "parameters.h"
 #include "status_line.h"
 #include "system_log.h"
 #include "thumbnail_strip.h"
 #include "user_defaults.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -45,6 +48,7 @@ void actions::awakeFromNib() {
     view_->on_start_stop = [this] { runLogs(); };
     view_->on_run_selected = [this](int index) { comboBoxSelectionDidChange(index); };
     view_->on_zoom = [this](double v) { zoomSliderDidChange(v); };
+    view_->on_more_parameters = [this] { choose_more_parameters(); };
     view_->on_next_sensors = [this] { show_next_sensors(); };
     view_->on_resized = [this] { frames_.request(); };
     view_->thumbiesMtrx().chosen = [this] { cellCicked(); };
@@ -104,7 +108,7 @@ void actions::build_views() {
     std::vector<QString> names;
     for (const std::string& pid : _pid_logitems_list) {
         these_samples.push_back({pid, "0.0", "0.0", "0.0"});
-        names.push_back(display_text(toolies.get_pid_name(pid, false)));
+        names.push_back(display_text(parameter_name(toolies, pid)));
     }
     cycle_values_.assign(_pid_logitems_list.size(), {});
     // The first thumbnail is selected, and moves the first dial.
@@ -143,8 +147,37 @@ void actions::run_a_log() {
     keep_logging = true;
     next_step_idx = 0;
     set_status_msg("Starting run log");
+    start_over_link();
+}
+
+void actions::start_over_link() {
     if (!work_over_link([this] { view_->show_waity(true); }))
         leave_cur_op_gracefully("");
+}
+
+void actions::ask_what_car_supports(std::function<void()> ended) {
+    if (keep_logging)
+        return;
+    begin_task();
+    scan_ended_ = std::move(ended);
+    scan_completed_ = false;
+    car_parameters_.reset();
+    run_ = std::make_unique<supported_scan>(car_parameters_);
+    keep_logging = true;
+    next_step_idx = 0;
+    view_->show_running(true);
+    set_status_msg(localized("ui_more_asking"));
+    start_over_link();
+}
+
+void actions::choose_more_parameters() {
+    auto* dialog = new more_parameters(KS_delegate, *this, view_->root());
+    dialog->chosen = [this] {
+        if (keep_logging)
+            leave_cur_op_gracefully("");
+        rework_gui_objects(g_cur_task);
+    };
+    dialog->open();
 }
 
 void actions::work_current_task() {
@@ -192,6 +225,8 @@ void actions::leave_cur_op_gracefully(const std::string&) {
     keep_logging = false;
     view_->show_running(false);
     end_task();
+    if (const auto told = std::exchange(scan_ended_, nullptr))
+        told();
 }
 
 void actions::link_lost() {

@@ -15,6 +15,7 @@
 #include "log_file.h"
 #include "obd_screen.h"
 #include "sample_rows.h"
+#include "supported_scan.h"
 
 #include <cstdint>
 #include <functional>
@@ -54,6 +55,14 @@ class actions final : public obd_screen {
     void show_next_sensors();
     bool isFlipped() const { return true; }
 
+    // Asks the car, over the handshake when it is not up, and tells `ended` however that ends; not
+    // while a run goes on.
+    void ask_what_car_supports(std::function<void()> ended);
+    // What the car told last; nothing when it was not asked since the handshake, or did not tell.
+    const std::optional<parameter_set>& car_parameters() const { return car_parameters_; }
+    // Every question of the last asking was answered, if with nothing.
+    bool scan_completed() const { return scan_completed_; }
+
     bool running() const { return keep_logging; }
     // A run waits for the adapter or for the link to it.
     bool awaits_adapter() const {
@@ -78,6 +87,8 @@ class actions final : public obd_screen {
     void awakeFromNib();
     void build_views();
     void run_a_log();
+    void start_over_link();
+    void choose_more_parameters();
     void set_chart_title(const std::string& title);
     void choose_second_dial(const std::set<int>& selected, std::size_t selected_before, int shown_before);
     void draw_frame();
@@ -119,6 +130,9 @@ class actions final : public obd_screen {
     frame_pacer frames_;
     live_handshake handshake_;
     std::unique_ptr<live_run> run_;
+    std::optional<parameter_set> car_parameters_;
+    std::function<void()> scan_ended_;
+    bool scan_completed_ = false;
 
     int cur_pid_showing = 0;
     std::set<int> cur_thumbs_selected;

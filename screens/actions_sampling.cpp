@@ -6,6 +6,7 @@
 #include "fuel_economy.h"
 #include "globalVars.h"
 #include "live_view.h"
+#include "parameters.h"
 #include "sample_reply.h"
 #include "system_log.h"
 #include "text.h"
@@ -41,19 +42,11 @@ std::string fix_3dos(std::string_view reply) {
     throw std::runtime_error("the toolkit has no operation fix_3dos:");
 }
 
-// The first line that holds anything.
-std::string first_line(const std::string& text) {
-    for (const std::string_view line : split(text, "\r"))
-        if (!line.empty())
-            return std::string(line);
-    return text;
-}
-
 // Of several replies that came in one piece the one that answers the request, if any does: what
 // stands before it was left over.
 std::string reply_to(std::string_view pid, const std::string& replies) {
     for (const std::string_view each : split(replies, ">"))
-        if (answers_parameter(first_line(without(each, " \n")), pid))
+        if (answers_parameter(whole_answer(each), pid))
             return std::string(each);
     return replies;
 }
@@ -97,8 +90,10 @@ void actions::work_out_log(int step) {
 
 void actions::start_sampling() {
     set_status_msg("Starting log");
-    if (handshake_.comes_first())
+    if (handshake_.comes_first()) {
+        car_parameters_.reset(); // it may be another car
         return;
+    }
     const std::string reply = odb_curReplyMsg;
     odb_curReplyMsg.clear();
     if (p_cur_avail_pids && p_cur_avail_pids->empty()) {
@@ -155,6 +150,12 @@ void actions::begin_cycle() {
         ask(requests_.front());
         return;
     }
+    if (!run_->samples()) {
+        scan_completed_ = true;
+        set_status_msg(localized(car_parameters_ ? "ui_more_told" : "ui_more_untold"));
+        leave_cur_op_gracefully("");
+        return;
+    }
     if (const auto found = run_->parameters_found()) {
         if (found->empty()) {
             set_status_msg(localized("ui_live_no_sensors"));
@@ -179,6 +180,7 @@ void actions::first_question_answered() {
     if (answers_another(*reply, requests_.front().pid) &&
         await_straggler(order_of_answer::one_behind))
         return; // and ask once more
+    run_->whole_reply_came(odb_curReplyMsg);
     run_->first_question_answered(*reply);
     begin_cycle();
 }
@@ -206,7 +208,7 @@ void actions::add_item_to_log_vector(std::string_view this_item_val, int this_id
     const auto place = static_cast<std::size_t>(this_idx);
     // What is no whole answer stays as it came, but is no value.
     const std::string_view answer = answer_in(this_item_val);
-    cycle_values_[place] = toolies.translate_once(answer.empty() ? "~" : answer);
+    cycle_values_[place] = parameter_value(toolies, answer.empty() ? "~" : answer);
     these_samples[place][1] = cycle_values_[place].text;
     cur_log_points.file(place, this_item_val, cycle_values_[place]);
 }
@@ -250,7 +252,7 @@ std::optional<std::string> actions::screened_reply() {
         ++g_retries;
         reply = "~";
     }
-    reply = first_line(without(reply, " \n"));
+    reply = whole_answer(reply);
     reply.resize(std::min(reply.size(), LONGEST_SAMPLE));
     return reply;
 }

@@ -4,6 +4,7 @@
 #include "fuel_economy.h"
 #include "globalVars.h"
 #include "sample_reply.h"
+#include "supported_scan.h"
 #include "text.h"
 #include "user_defaults.h"
 
@@ -36,6 +37,10 @@ class log_run final : public live_run {
   public:
     std::optional<std::vector<std::string>> parameters(const user_defaults& store) const override {
         auto chosen = store.string_array(PIDS_ARRAY_KEY).value_or(std::vector<std::string>{});
+        for (const std::string& pid :
+             store.string_array(MORE_PIDS_KEY).value_or(std::vector<std::string>{}))
+            if (std::ranges::find(chosen, pid) == chosen.end())
+                chosen.push_back(pid);
         // What a hand wrote into the settings file need not be parameters.
         std::erase_if(chosen, [](const std::string& pid) { return pid.size() != 2 || !is_hex(pid); });
         return chosen;

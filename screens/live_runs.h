@@ -32,8 +32,12 @@ class live_run {
     // first_question() named, or the list as it was.
     virtual std::optional<std::vector<std::string>> parameters(const user_defaults& store) const = 0;
 
+    // No: it ends with its questions.
+    virtual bool samples() const { return true; }
     // Asked once before the first cycle; nothing when there is (no longer) anything to ask.
     virtual std::optional<std::string> first_question() { return std::nullopt; }
+    // All that came in answer, as it came; its first line follows.
+    virtual void whole_reply_came(std::string_view reply) { (void)reply; }
     // The answer, without blanks. May bring another question, or the parameters to show.
     virtual void first_question_answered(std::string_view reply) { (void)reply; }
     virtual std::optional<std::vector<std::string>> parameters_found() const { return std::nullopt; }

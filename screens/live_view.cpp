@@ -127,6 +127,7 @@ void live_view::build_controls(QHBoxLayout* row) {
     row->addSpacing(GRID);
     row->addWidget(run_label);
     row->addWidget(runSelectorCombo_);
+    build_more(row);
     row->addSpacing(GRID);
 
     startStopBtn_ = new round_button(root());
@@ -140,6 +141,16 @@ void live_view::build_controls(QHBoxLayout* row) {
     row->addWidget(startStopBtn_);
     root()->setFocusProxy(startStopBtn_);
     show_running(false);
+}
+
+void live_view::build_more(QHBoxLayout* row) {
+    auto* more = new QToolButton(root());
+    more->setObjectName(QStringLiteral("moreParameters"));
+    more->setText(ui_text(delegate_, "ui_more_button"));
+    more->setToolTip(ui_text(delegate_, "ui_more_hint"));
+    more->setFocusPolicy(Qt::StrongFocus);
+    QObject::connect(more, &QToolButton::clicked, root(), [this] { on_more_parameters(); });
+    row->addWidget(more);
 }
 
 void live_view::build_log_mark(QVBoxLayout* column) {

@@ -39,7 +39,7 @@ class live_view {
     picture_view& gauge_uno() { return *gauge_uno_; }
     picture_view& gauge_dos() { return *gauge_dos_; }
 
-    std::function<void()> on_start_stop, on_next_sensors;
+    std::function<void()> on_start_stop, on_next_sensors, on_more_parameters;
     std::function<void(int)> on_run_selected;
     std::function<void(double)> on_zoom; // 0 to 1
     std::function<void()> on_resized;    // pictures are shown at another size
@@ -60,6 +60,7 @@ class live_view {
 
   private:
     void build_controls(QHBoxLayout* row);
+    void build_more(QHBoxLayout* row);
     void build_log_mark(QVBoxLayout* column);
     void build_strip(QVBoxLayout* column);
     QLabel* make_hint(const char* name, std::string_view key, QWidget* parent) const;

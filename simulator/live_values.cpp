@@ -32,6 +32,21 @@ byte_string pair(byte_string first, const byte_string& second) {
     return first;
 }
 
+// The bits that tell which of the values behind are there, and those values.
+byte_string present(std::uint8_t bits, std::initializer_list<byte_string> values) {
+    byte_string made{bits};
+    for (const byte_string& value : values)
+        made = pair(std::move(made), value);
+    return made;
+}
+byte_string torque(double share) {
+    return number(share + 125, 1);
+}
+byte_string exhaust(double degrees) {
+    return number((degrees + 40) * 10, 2);
+}
+const byte_string NO_BYTE(1, 0), NO_WORD(2, 0);
+
 byte_string fuel_system(const car_moment& m) {
     const std::uint8_t status = !m.engine.running      ? 0
                                 : m.engine.fuel_cut    ? 4
@@ -125,10 +140,64 @@ constexpr std::array ROWS = {
     value_row{0x4E, 2, [](moment m) { return number(m.km_since_clear * 60 / 45, 2); }},
     value_row{0x51, 1, nullptr},
     value_row{0x52, 1, nullptr},
+    value_row{0x53, 2, [](moment m) { return number(m.engine.barometer_kpa * 200, 2); }},
+    value_row{0x59, 2,
+              [](moment m) {
+                  return number((m.engine.running ? 25000 + m.engine.load * 1000 : 4000) / 10, 2);
+              }},
+    value_row{0x5A, 1, [](moment m) { return percent(m.engine.pedal); }},
     value_row{0x5B, 1, nullptr},
     value_row{0x5C, 1, [](moment m) { return celsius(m.engine.oil_celsius); }},
     // Litres an hour; petrol weighs 745 g/l.
     value_row{0x5E, 2, [](moment m) { return number(m.engine.fuel_gram_s * 3600 / 745 * 20, 2); }},
+    value_row{0x5D, 2, [](moment m) { return number((m.engine.advance_degrees + 210) * 128, 2); }},
+    value_row{0x61, 1, [](moment m) { return torque(m.engine.pedal); }},
+    value_row{0x62, 1, [](moment m) { return torque(m.engine.load); }},
+    value_row{0x63, 2, nullptr},
+    value_row{0x64, 5, nullptr},
+    value_row{0x66, 5,
+              [](moment m) {
+                  return present(1, {number(m.engine.air_gram_s * 32, 2), NO_WORD});
+              }},
+    value_row{0x67, 3,
+              [](moment m) {
+                  return present(3, {celsius(m.engine.coolant_celsius),
+                                     celsius(m.engine.coolant_celsius * 0.9)});
+              }},
+    // The sensor behind the air filter, and the one behind the intercooler.
+    value_row{0x68, 7,
+              [](moment m) {
+                  return present(3, {celsius(m.engine.ambient_celsius),
+                                     celsius(m.engine.intake_celsius), byte_string(4, 0)});
+              }},
+    value_row{0x70, 10,
+              [](moment m) {
+                  return present(7, {number(m.engine.manifold_kpa * 32, 2),
+                                     number(m.engine.manifold_kpa * 0.98 * 32, 2), NO_WORD,
+                                     NO_WORD, {2}});
+              }},
+    // Sensor 1 before the catalyst, sensor 3 before the particulate filter.
+    value_row{0x78, 9,
+              [](moment m) {
+                  return present(5, {exhaust(m.engine.catalyst_celsius * 1.2), NO_WORD,
+                                     exhaust(m.engine.catalyst_celsius), NO_WORD});
+              }},
+    value_row{0x7C, 9,
+              [](moment m) {
+                  return present(3, {exhaust(m.engine.catalyst_celsius),
+                                     exhaust(m.engine.catalyst_celsius * 0.8), NO_WORD, NO_WORD});
+              }},
+    value_row{0x7F, 13,
+              [](moment m) {
+                  return present(1, {number(m.engine.run_seconds, 4), byte_string(8, 0)});
+              }},
+    value_row{0x84, 1, [](moment m) { return celsius(m.engine.intake_celsius + 6); }},
+    value_row{0x87, 5,
+              [](moment m) {
+                  return present(1, {number(m.engine.manifold_kpa * 32, 2), NO_WORD});
+              }},
+    value_row{0x8E, 1, nullptr},
+    value_row{0xA6, 4, [](moment m) { return number(m.odometer_km * 10, 4); }},
 };
 
 const value_row* row_of(int pid) {

@@ -8,6 +8,7 @@ struct car_moment {
     engine_state engine;
     double km_since_clear = 0;
     double lamp_km = 0; // with the lamp on
+    double odometer_km = 0;
     int warm_ups = 0;
 };
 

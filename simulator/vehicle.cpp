@@ -67,6 +67,8 @@ std::vector<unit_answer> vehicle::answer(const byte_string& request, std::chrono
     constexpr double KM_BEFORE = 312;
     moment_.km_since_clear = cleared_at_km_ > 0 ? moment_.engine.distance_km - cleared_at_km_
                                                 : moment_.engine.distance_km + KM_BEFORE;
+    constexpr double KM_WHEN_SOLD = 87'400;
+    moment_.odometer_km = moment_.engine.distance_km + KM_WHEN_SOLD;
     moment_.warm_ups = cleared_at_km_ > 0 ? 0 : 21;
     std::vector<unit_answer> answers;
     for (control_unit& unit : car_.units) {

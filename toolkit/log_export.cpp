@@ -3,6 +3,7 @@
 #include "fixed_decimals.h"
 #include "mac_toolies.h"
 #include "notices.h"
+#include "parameters.h"
 #include "sample_reply.h"
 #include "text.h"
 
@@ -171,15 +172,15 @@ void log_export::add_header(std::span<const std::string_view> fields) {
     for (std::size_t i = 0; i < fields.size(); ++i) {
         const std::string pid(slice(trimmed(fields[i]), 2, 2)); // behind the "41" of the reply
         table_ += i == 0 ? "" : ",";
-        table_ += pid.empty() ? "" : toolies_.get_pid_name(pid, false);
-        table_ += " (" + (pid.empty() ? "N/A" : toolies_.get_units(pid)) + ")";
+        table_ += pid.empty() ? "" : parameter_name(toolies_, pid);
+        table_ += " (" + (pid.empty() ? "N/A" : parameter_units(toolies_, pid)) + ")";
     }
     table_ += '\n';
 }
 
 void log_export::add_value(std::string_view field) {
     const std::string_view answer = answer_in(trimmed(field)); // the last has the line's end
-    const double value = toolies_.get_OBDVal(answer.empty() ? "~" : answer);
+    const double value = parameter_value(toolies_, answer.empty() ? "~" : answer).value;
     if (std::isnan(value)) {
         table_ += "nan"; // never "-nan"
         return;

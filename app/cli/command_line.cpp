@@ -2,6 +2,8 @@
 
 #include "commands.h"
 #include "expertCtrlr.h"
+#include "mac_toolies.h"
+#include "parameters.h"
 #include "text.h"
 
 #include <algorithm>
@@ -161,14 +163,20 @@ class argument_reader {
         result_.asked.cycles = cycles;
     }
 
-    // Two hex digits each, separated by commas.
+    // Two hex digits each, separated by commas, or "all".
     void take_pids(const std::string& text) {
+        if (text == "all") {
+            result_.asked.all_pids = true;
+            return;
+        }
         for (const std::string_view part : split(text, ",")) {
             std::string pid(part);
             std::ranges::transform(pid, pid.begin(),
                                    [](unsigned char c) { return std::toupper(c); });
             if (pid.size() != 2 || !is_hex(pid))
-                fail("--pids needs two hex digits for each parameter, such as 0D,0C");
+                fail("--pids needs two hex digits for each parameter, such as 0D,0C, or all");
+            else if (!is_decoded(mac_toolies::convertStr2Byte(pid)))
+                fail("--pids: " + pid + " is no parameter that is decoded");
             result_.asked.pids.push_back(pid);
         }
     }
@@ -202,8 +210,9 @@ class argument_reader {
             result_.asked.arguments.push_back("--json"); // it reads its own options
         if (asked.record && command->far_end != talks_to::car)
             fail("command " + asked.command + " talks to no adapter: there is nothing to record");
-        if (asked.command != "live" && (!asked.pids.empty() || asked.log || asked.run != "log" ||
-                                        asked.seconds > 0 || asked.cycles > 0))
+        if (asked.command != "live" &&
+            (!asked.pids.empty() || asked.all_pids || asked.log || asked.run != "log" ||
+             asked.seconds > 0 || asked.cycles > 0))
             fail("--pids, --run, --seconds, --cycles and --log belong to the command live");
         if (asked.yes && asked.command != "clear")
             fail("--yes belongs to the command clear");
@@ -212,7 +221,7 @@ class argument_reader {
         static const std::set<std::string, std::less<>> RUNS{"log", "fuel", "o2", "boost"};
         if (!RUNS.contains(asked.run))
             fail("--run is one of log, fuel, o2, boost");
-        else if (!asked.pids.empty() && asked.run != "log")
+        else if ((!asked.pids.empty() || asked.all_pids) && asked.run != "log")
             fail("--pids goes with --run log; the other runs have parameters of their own");
         if (asked.command == "clear" && !asked.yes)
             fail("clear erases codes and test results in the car: repeat it with --yes");

@@ -25,6 +25,7 @@ struct cli_request {
     bool json = false;
     std::optional<double> timeout_seconds; // absent: the command's own bound
     std::vector<std::string> pids;         // of a live run; empty: the user's
+    bool all_pids = false;                 // all that the car supports
     std::string run = "log";               // "log", "fuel", "o2" or "boost"
     double seconds = 0;                    // of a live run; 0: no end
     unsigned long long cycles = 0;         // likewise

@@ -5,6 +5,7 @@
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
 #include "live_command.h"
+#include "pids_command.h"
 #include "progress_line.h"
 #include "readCodes.h"
 #include "reply_accumulator.h"
@@ -50,6 +51,8 @@ void command_runner::start(std::function<void(int)> done) {
         start_send();
     else if (asked_.command == "live")
         start_live();
+    else if (asked_.command == "pids")
+        start_pids();
     else
         start_codes();
 }
@@ -91,6 +94,11 @@ void command_runner::start_live() {
     live_->start();
 }
 
+void command_runner::start_pids() {
+    pids_ = std::make_unique<pids_command>(delegate_);
+    pids_->start();
+}
+
 void command_runner::next_send() {
     reply_.clear();
     reply_complete_ = false;
@@ -113,6 +121,8 @@ bool command_runner::over() const {
         return true;
     if (live_)
         return live_->over() || messages_.endless();
+    if (pids_)
+        return pids_->over() || messages_.endless();
     return reply_complete_ || messages_.endless() || !delegate_.anything_outstanding();
 }
 
@@ -134,6 +144,10 @@ void command_runner::look() {
         finish_live();
         return;
     }
+    if (pids_) {
+        end_with_told(pids_->succeeded());
+        return;
+    }
     if (!reply_complete_) {
         end(false, "no reply to '" + asked_.arguments[sent_ - 1] + "'" +
                        (statuses_.empty() ? "" : ": " + statuses_.back()));
@@ -151,13 +165,17 @@ void command_runner::look() {
 }
 
 void command_runner::finish_codes() {
+    end_with_told(codes_->succeeded());
+}
+
+void command_runner::end_with_told(bool succeeded) {
     // A failure that was only told in a message box leaves an older text on the status line.
     std::string why = messages_.last_printed();
-    if (why.empty())
+    if (why.empty() && codes_)
         why = unread_causes(delegate_.doors().resources, codes_->report().unread);
     if (why.empty() && !statuses_.empty())
         why = statuses_.back();
-    end(codes_->succeeded(), why);
+    end(succeeded, why);
 }
 
 void command_runner::finish_live() {
@@ -182,17 +200,23 @@ void command_runner::end(bool succeeded, const std::string& why) {
     if (live_) {
         live_->finish();
     } else if (asked_.json) {
-        const conversation_log log{delegate_.current_screen() && codes_ ? codes_->status()
-                                                                        : expert_->status(),
+        const conversation_log log{pids_    ? statuses_.empty() ? "" : statuses_.back()
+                                      : codes_ ? codes_->status()
+                                            : expert_->status(),
                                    messages_.messages(), statuses_};
-        if (codes_)
+        if (pids_)
+            pids_->print_json(log);
+        else if (codes_)
             print_codes_json(codes_->report(), log);
         else
             print_replies_json(asked_.arguments, replies_, log);
+    } else if (pids_ && succeeded) {
+        pids_->print_text();
     } else if (const codes_report report = codes_ ? codes_->report() : codes_report{};
                report.codes_told) {
         print_codes_text(report);
-        if (succeeded && report.count && static_cast<std::size_t>(*report.count) != report.codes.size())
+        if (succeeded && report.count &&
+            static_cast<std::size_t>(*report.count) != report.codes.size())
             std::fprintf(stderr, "kestrom: %s\n", printable(codes_->status()).c_str());
     } else if (codes_ && succeeded) {
         std::printf("%s\n", codes_->status().c_str());

@@ -16,6 +16,7 @@ class console_alerts;
 class expertCtrlr;
 class Ks_lite_delegate;
 class live_command;
+class pids_command;
 class readCodes;
 
 class command_runner final : public QObject {
@@ -32,10 +33,12 @@ class command_runner final : public QObject {
     void start_codes();
     void start_send();
     void start_live();
+    void start_pids();
     void look_for_channel();
     void look();
     bool over() const;
     void finish_codes();
+    void end_with_told(bool succeeded);
     void finish_live();
     void next_send();
     void take_reply(const std::string& chunk);
@@ -50,6 +53,7 @@ class command_runner final : public QObject {
     std::vector<std::string> statuses_;
 
     std::unique_ptr<live_command> live_;
+    std::unique_ptr<pids_command> pids_;
     readCodes* codes_ = nullptr;
     expertCtrlr* expert_ = nullptr;
     bool channel_awaited_ = false;

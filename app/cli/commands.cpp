@@ -39,10 +39,23 @@ Examples
   kestrom --adapter 192.168.0.10:35000 send "AT RV" "01 0C"
   kestrom --demo send "AT E0" "09 02" --json
 )"},
+    {"pids", 0, 0, talks_to::car, "pids [--json]",
+     "list the parameters that the car supports, with names and units",
+     R"(Asks every unit of the car, as far as each group of parameters announces the next. A parameter that
+cannot be told in words or numbers is marked so. With --json: one object, described in
+docs/json/pids.schema.json.
+Exit status: 0 when the car told, 1 when it did not.
+
+Examples
+  kestrom --demo=hybrid pids
+  kestrom --adapter 192.168.0.10:35000 pids --json
+)"},
     {"live", 0, 0, talks_to::car,
-     "live [--pids 0D,0C] [--run log|fuel|o2|boost] [--seconds N | --cycles N] [--log] [--json]",
+     "live [--pids 0D,0C|all] [--run log|fuel|o2|boost] [--seconds N | --cycles N] [--log] "
+     "[--json]",
      "sample without pause and print the values of each cycle",
-     R"(  --pids PID,...     parameters of service 01, two hex digits each; else the user's
+     R"(  --pids PID,...     parameters of service 01, two hex digits each, or all that the car
+                     supports; else the user's. What it does not support is told and left out
   --run KIND         log (the default), fuel economy, o2 (oxygen sensors) or boost
   --seconds N        end so many seconds after the first request of the run
   --cycles N         end after so many cycles; without either Ctrl+C ends it
@@ -55,18 +68,23 @@ Exit status: 0 when it ended as asked after at least one cycle, else 1.
 
 Examples
   kestrom --demo live --pids 0C,0D --cycles 20
+  kestrom --demo=diesel live --pids all --cycles 2
   kestrom --adapter 192.168.0.10:35000 live --seconds 60 --log >values.csv
   kestrom live --run boost --json | grep cycle
 )"},
-    {"decode", 0, MANY, talks_to::nobody, "decode REPLY... [--units metric|imperial] [--json]",
+    {"decode", 0, MANY, talks_to::nobody,
+     "decode REPLY... [--units metric|imperial] [--standard] [--json]",
      "what replies to service 01 requests mean: text and number",
      R"(A line for each reply: the text, a tab, the number. A reply may write its line ends as \r and \n.
-Without --units those of the settings hold. With --json: docs/json/decode.schema.json.
+Without --units those of the settings hold. A run shows some parameters in a way that misleads (the
+pressure of the evaporative system, catalyst temperatures, the commanded ratio, "V" behind trims);
+--standard gives their true values. With --json: docs/json/decode.schema.json.
 Exit status: 0 success, 1 when a reply holds no value or is none, 2 the arguments make no sense.
 
 Examples
   kestrom decode "41 0C 1A F8" --units metric
   kestrom decode "41 05 7B" "NO DATA" --json
+  kestrom decode "41 3C 11 94" --standard
 )"},
     {"vin", 0, MANY, talks_to::nobody, "vin REPLY [--json]",
      "the vehicle identification number in a reply to 09 02",
@@ -76,9 +94,10 @@ Exit status: 0 success, 1 when it is not whole, 2 the arguments make no sense.
 Example
   kestrom vin "014\r0:490201314731\r1:4A4734554A35\r2:3643313132323330\r>"
 )"},
-    {"mode6", 0, MANY, talks_to::nobody, "mode6 ID VALUE [--json]",
+    {"mode6", 0, MANY, talks_to::nobody, "mode6 ID VALUE [--standard] [--json]",
      "a test result scaled by its unit-and-scaling identifier",
-     R"(Both in hex digits, the value of two bytes at most. With --json: docs/json/mode6.schema.json.
+     R"(Both in hex digits, the value of two bytes at most. With --standard identifiers from 80 on are
+signed. With --json: docs/json/mode6.schema.json.
 Exit status: 0 success, 2 the arguments make no sense.
 
 Example
@@ -104,6 +123,16 @@ Exit status: 0 success, 1 the log or the export failed, 2 the arguments make no 
 Examples
   kestrom export log_Nov_15_2026-0254_33.gol
   kestrom export ./run.gol --txt
+)"},
+    {"lookup", 0, MANY, talks_to::nobody, "lookup CODE|TEXT [--json]",
+     "what a trouble code means, or which codes speak of something",
+     R"(A code's description, or every code whose description holds all of the words, in letters of any
+case. With --json: docs/json/lookup.schema.json.
+Exit status: 0 success, 1 nothing was found, 2 the arguments make no sense.
+
+Examples
+  kestrom lookup P0301
+  kestrom lookup "oil pressure"
 )"},
     {BLUETOOTH_SCAN, 0, 0, talks_to::bluetooth, "bluetooth-scan [--json]",
      "list the Bluetooth devices that are paired or in reach",

@@ -4,9 +4,11 @@
 #include "constantes.h"
 #include "fixed_decimals.h"
 #include "Ks_lite_delegate.h"
+#include "parameters.h"
 #include "progress_line.h"
 #include "report_printer.h"
 #include "text.h"
+#include "user_defaults.h"
 
 #include <charconv>
 #include <cmath>
@@ -42,6 +44,7 @@ live_command::live_command(const cli_request& asked, Ks_lite_delegate& delegate,
 
 live_command::~live_command() {
     delegate_.doors().loop.cancel(limit_);
+    delegate_.doors().loop.cancel(begin_);
 }
 
 void live_command::start() {
@@ -59,7 +62,61 @@ void live_command::start() {
             done_();
         }
     };
+    if (asked_.pids.empty() && !asked_.all_pids) {
+        screen_->runLogs();
+        return;
+    }
+    screen_->ask_what_car_supports([this] {
+        // Not from under the end of the asking.
+        if (!finished_ && screen_->scan_completed())
+            begin_ = delegate_.doors().loop.after(run_loop::milliseconds(0), [this] {
+                begin_ = 0;
+                begin_run();
+            });
+    });
+}
+
+void live_command::begin_run() {
+    if (!choose_parameters()) {
+        done_();
+        return;
+    }
+    screen_->rework_gui_objects(TASK_RUN_LOG);
     screen_->runLogs();
+}
+
+// Puts into the settings what the run asks for; tells what of the request is left out.
+bool live_command::choose_parameters() {
+    const auto& known = screen_->car_parameters();
+    if (!known) {
+        refused_ = asked_.all_pids ? "the car did not tell what it supports" : "";
+        return refused_.empty(); // what was asked for may be there all the same
+    }
+    std::vector<std::string> wanted;
+    std::string left_out;
+    const auto consider = [&](unsigned pid, bool usable) {
+        if (usable)
+            wanted.push_back(pid_text(pid));
+        else
+            left_out += (left_out.empty() ? "" : ", ") + pid_text(pid);
+    };
+    for (const std::string& pid : asked_.pids) {
+        const unsigned number = mac_toolies::convertStr2Byte(pid);
+        consider(number, known->test(number));
+    }
+    for (unsigned pid = 0; asked_.all_pids && pid < known->size(); ++pid)
+        if (known->test(pid))
+            consider(pid, is_decoded(pid));
+    if (!left_out.empty()) {
+        clear_progress();
+        std::fprintf(stderr, "kestrom: left out, %s: %s\n",
+                     asked_.all_pids ? "not decoded" : "not supported by the car",
+                     left_out.c_str());
+    }
+    if (wanted.empty())
+        refused_ = "the car supports none of the parameters asked for";
+    delegate_.doors().defaults.set_string_array(PIDS_ARRAY_KEY, wanted);
+    return refused_.empty();
 }
 
 void live_command::begin_sampling() {
@@ -73,7 +130,7 @@ void live_command::begin_sampling() {
 }
 
 bool live_command::over() const {
-    return !screen_->awaits_adapter();
+    return begin_ == 0 && !screen_->awaits_adapter();
 }
 
 bool live_command::sampled() const {
@@ -85,6 +142,8 @@ bool live_command::succeeded() const {
 }
 
 std::string live_command::what_went_wrong() const {
+    if (!refused_.empty())
+        return refused_;
     if (!screen_->log_failure().empty())
         return screen_->log_failure();
     return finished_as_asked_ && screen_->cycles() == 0 ? "no cycle was completed" : "";
@@ -110,9 +169,9 @@ void live_command::print_header() {
     std::string line;
     for (const std::string& pid : header_of_) {
         const mac_toolies& toolies = screen_->toolies;
-        const std::string units = toolies.get_units(pid);
+        const std::string units = parameter_units(toolies, pid);
         std::string name =
-            toolies.get_pid_name(pid, false) + " (" + std::string(trimmed(units)) + ")";
+            parameter_name(toolies, pid) + " (" + std::string(trimmed(units)) + ")";
         if (name.find_first_of(",\"") != std::string::npos) {
             std::string quoted = "\"";
             for (const char c : name)

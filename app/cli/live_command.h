@@ -34,6 +34,8 @@ class live_command {
     void finish();
 
   private:
+    bool choose_parameters();
+    void begin_run();
     void begin_sampling();
     void print_header();
     void print_cycle(const std::vector<translated>& values);
@@ -48,7 +50,8 @@ class live_command {
     std::optional<run_loop::milliseconds> sampling_since_; // its first request
     run_loop::milliseconds ended_{0};
     run_loop::milliseconds progress_shown_{0};
-    run_loop::timer_id limit_ = 0;
+    run_loop::timer_id limit_ = 0, begin_ = 0;
+    std::string refused_; // why no run began
     bool finished_as_asked_ = false;
     bool finished_ = false;
     std::vector<std::string> header_of_;

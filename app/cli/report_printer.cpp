@@ -11,11 +11,11 @@
 #include <cstdio>
 #include <unistd.h>
 
-namespace {
-
 QString json_text(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
+
+namespace {
 
 QJsonArray json_texts(const std::vector<std::string>& texts) {
     QJsonArray array;
@@ -24,14 +24,14 @@ QJsonArray json_texts(const std::vector<std::string>& texts) {
     return array;
 }
 
-void print_json(QJsonObject object, const conversation_log& log) {
+} // namespace
+
+void print_json_object(QJsonObject object, const conversation_log& log) {
     object.insert(QStringLiteral("status"), json_text(log.status));
     object.insert(QStringLiteral("messages"), json_texts(log.messages));
     object.insert(QStringLiteral("statuses"), json_texts(log.statuses));
     std::fputs(QJsonDocument(object).toJson().constData(), stdout);
 }
-
-} // namespace
 
 void print_codes_json(const codes_report& report, const conversation_log& log) {
     QJsonArray codes;
@@ -45,20 +45,20 @@ void print_codes_json(const codes_report& report, const conversation_log& log) {
                                      {QStringLiteral("kind"), json_text(flag.kind)}});
     QJsonArray unread;
     for (const unread_piece& one : report.unread)
-        unread.append(QJsonObject{
-            {QStringLiteral("kind"), json_text(unread_name(one.kind))},
-            {QStringLiteral("text"), json_text(one.text)}});
-    print_json({{QStringLiteral("lamp"), json_text(report.lamp)},
-                {QStringLiteral("count"), report.count ? QJsonValue(*report.count) : QJsonValue()},
-                {QStringLiteral("read_on"), json_text(report.read_on)},
-                {QStringLiteral("interface"), json_text(report.interface)},
-                {QStringLiteral("protocol"), json_text(report.protocol)},
-                {QStringLiteral("ecus"), report.ecus},
-                {QStringLiteral("codes"), codes},
-                {QStringLiteral("unread_count"), static_cast<int>(report.unread.size())},
-                {QStringLiteral("unread"), unread},
-                {QStringLiteral("readiness"), readiness}},
-               log);
+        unread.append(QJsonObject{{QStringLiteral("kind"), json_text(unread_name(one.kind))},
+                                  {QStringLiteral("text"), json_text(one.text)}});
+    print_json_object(
+        {{QStringLiteral("lamp"), json_text(report.lamp)},
+         {QStringLiteral("count"), report.count ? QJsonValue(*report.count) : QJsonValue()},
+         {QStringLiteral("read_on"), json_text(report.read_on)},
+         {QStringLiteral("interface"), json_text(report.interface)},
+         {QStringLiteral("protocol"), json_text(report.protocol)},
+         {QStringLiteral("ecus"), report.ecus},
+         {QStringLiteral("codes"), codes},
+         {QStringLiteral("unread_count"), static_cast<int>(report.unread.size())},
+         {QStringLiteral("unread"), unread},
+         {QStringLiteral("readiness"), readiness}},
+        log);
 }
 
 void print_codes_text(const codes_report& report) {
@@ -95,7 +95,7 @@ void print_replies_json(const std::vector<std::string>& commands,
     for (std::size_t i = 0; i < replies.size(); ++i)
         array.append(QJsonObject{{QStringLiteral("command"), json_text(commands[i])},
                                  {QStringLiteral("reply"), json_text(replies[i])}});
-    print_json({{QStringLiteral("replies"), array}}, log);
+    print_json_object({{QStringLiteral("replies"), array}}, log);
 }
 
 bool output_lost() {

@@ -3,6 +3,9 @@
 
 #include "readCodes.h"
 
+#include <QJsonObject>
+#include <QString>
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +16,9 @@ struct conversation_log {
     std::vector<std::string> statuses; // every status text, in order
 };
 
+QString json_text(std::string_view text);
+// With what was told on the way.
+void print_json_object(QJsonObject object, const conversation_log& log);
 void print_codes_text(const codes_report& report);
 void print_codes_json(const codes_report& report, const conversation_log& log);
 void print_raw_reply(const std::string& reply);

@@ -4,6 +4,7 @@
 #include "drawChartyItem.h"
 #include "fixed_decimals.h"
 #include "myGauge.h"
+#include "parameters.h"
 #include "run_log.h"
 
 #include <algorithm>
@@ -143,7 +144,7 @@ QImage draw_dial(const chart_request& request, const run_log& log, int column,
     dial.set_pixel_scale(request.scale);
     dial.initGauge(log.pids[place]);
     dial.draw_cur_needle_value(log.last_values[place].value);
-    out << log.pids[place] << ' ' << toolies.get_pid_name(log.pids[place], false) << ": "
+    out << log.pids[place] << ' ' << parameter_name(toolies, log.pids[place]) << ": "
         << log.last_values[place].text << '\n';
     return dial.image();
 }

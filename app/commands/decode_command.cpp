@@ -3,6 +3,7 @@
 #include "constantes.h"
 #include "mac_toolies.h"
 #include "notices.h"
+#include "parameters.h"
 #include "text.h"
 #include "user_defaults.h"
 
@@ -81,6 +82,7 @@ std::string number_text(double value) {
 struct decode_request {
     std::vector<std::string> replies;
     std::optional<std::string> units;
+    bool standard = false;
     bool json = false;
     std::string error;
 };
@@ -98,6 +100,8 @@ decode_request read_decode_request(std::span<const std::string> arguments) {
             request.error = "--units needs metric or imperial";
         else if (argument == "--json")
             request.json = true;
+        else if (argument == "--standard")
+            request.standard = true;
         else if (argument.starts_with("--"))
             request.error = "unknown option " + argument;
         else
@@ -110,6 +114,16 @@ decode_request read_decode_request(std::span<const std::string> arguments) {
     return request;
 }
 
+// As a run shows it, or as the standard means it.
+translated decoded(const mac_toolies& toolies, const std::string& reply, bool standard) {
+    if (standard) {
+        const bool metric = toolies.doors().defaults->boolean(KS_METRIC_UNITS_KEY);
+        if (translated told = standard_value(reply, metric); told.text != NO_ANSWER)
+            return told;
+    }
+    return parameter_value(toolies, reply);
+}
+
 } // namespace
 
 int run_decode(std::span<const std::string> arguments, const mac_toolies& toolies,
@@ -119,23 +133,23 @@ int run_decode(std::span<const std::string> arguments, const mac_toolies& toolie
         return refuse(err, request.error, "decode");
     if (request.units)
         units.set_boolean(KS_METRIC_UNITS_KEY, *request.units == "metric");
-    QJsonArray decoded;
+    QJsonArray answers;
     std::string nonsense, unread;
     for (const std::string& reply : request.replies) {
-        const auto [text, value] = toolies.translate_once(reply);
+        const auto [text, value] = decoded(toolies, reply, request.standard);
         if (text == NO_ANSWER) {
             std::string& list = may_be_reply(reply) ? unread : nonsense;
             list += (list.empty() ? "'" : ", '") + printable(reply) + "'";
         }
         if (request.json)
-            decoded.append(QJsonObject{{QStringLiteral("reply"), json_text(reply)},
+            answers.append(QJsonObject{{QStringLiteral("reply"), json_text(reply)},
                                        {QStringLiteral("text"), json_text(text)},
                                        {QStringLiteral("value"), json_number(value)}});
         else
             out << printable(text) << '\t' << number_text(value) << '\n';
     }
     if (request.json)
-        done(out, {{QStringLiteral("replies"), decoded}});
+        done(out, {{QStringLiteral("replies"), answers}});
     if (!nonsense.empty())
         err << "kestrom: no reply to a service 01 request: " << nonsense << '\n';
     if (!unread.empty())
@@ -166,6 +180,7 @@ int run_mode6(std::span<const std::string> given, const mac_toolies& toolies, st
               std::ostream& err) {
     std::vector<std::string> arguments(given.begin(), given.end());
     const bool json = take_json(arguments);
+    const bool standard = std::erase(arguments, "--standard") > 0;
     if (arguments.size() != 2)
         return refuse(err, "mode6 takes an identifier and a value", "mode6");
     const std::string& identifier = arguments[0];
@@ -174,7 +189,9 @@ int run_mode6(std::span<const std::string> given, const mac_toolies& toolies, st
         return refuse(err, "the identifier is two hex digits", "mode6");
     if (!is_hex(value) || value.size() > 4)
         return refuse(err, "the value is up to four hex digits", "mode6");
-    const std::string scaled = toolies.CAN_scale_and_units(identifier, value, true);
+    std::string scaled = standard ? standard_test_value(identifier, value) : std::string();
+    if (scaled.empty())
+        scaled = toolies.CAN_scale_and_units(identifier, value, true);
     const std::string text(trimmed(scaled));
     if (!json) {
         out << text << '\n';

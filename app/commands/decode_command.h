@@ -11,7 +11,8 @@
 class mac_toolies;
 class user_defaults;
 
-// REPLY... [--units metric|imperial]: the display text, a tab and the number of each reply. The
+// REPLY... [--units metric|imperial] [--standard]: the display text, a tab and the number of each
+// reply, with --standard as the standard means it where a run shows something else. The
 // units go to `units`, the store that `toolies` reads; without the option they stay as they are
 // there. Exit status 1 when a text is nothing that an adapter sends; the others are decoded still.
 int run_decode(std::span<const std::string> arguments, const mac_toolies& toolies,
@@ -21,6 +22,7 @@ int run_decode(std::span<const std::string> arguments, const mac_toolies& toolie
 int run_vin(std::span<const std::string> arguments, const mac_toolies& toolies, std::ostream& out,
             std::ostream& err);
 
-// ID VALUE: a test result in hex, scaled by its unit-and-scaling identifier, with its unit.
+// ID VALUE [--standard]: a test result in hex, scaled by its unit-and-scaling identifier, with its
+// unit.
 int run_mode6(std::span<const std::string> arguments, const mac_toolies& toolies, std::ostream& out,
               std::ostream& err);

@@ -1,6 +1,7 @@
 #include "run_log.h"
 
 #include "log_export.h"
+#include "parameters.h"
 #include "text.h"
 
 #include <QFile>
@@ -76,7 +77,7 @@ std::optional<run_log> read_run_log(const std::string& path, const mac_toolies& 
             const std::string reply = without(field, " ");
             if (log.pids[p].empty())
                 log.pids[p] = pid_of_reply(reply);
-            log.last_values[p] = toolies.translate_once(reply);
+            log.last_values[p] = parameter_value(toolies, reply);
             log.samples.file(p, reply, log.last_values[p]);
         }
     }

@@ -6,6 +6,7 @@
 #include "chrome.h"
 #include "export_window.h"
 #include "Ks_lite_delegate.h"
+#include "lookup_window.h"
 #include "mac_toolies.h"
 #include "rail_button.h"
 #include "user_defaults.h"
@@ -80,6 +81,14 @@ void main_window::build_menu() {
         if (!export_window_)
             export_window_ = new export_window(delegate_, this);
         export_window_->open_beside();
+    });
+    QAction* look_up = file->addAction(ui_text(delegate_, "ui_menu_lookup"));
+    look_up->setObjectName(QStringLiteral("lookUpCode"));
+    look_up->setShortcut(Qt::CTRL | Qt::Key_L);
+    connect(look_up, &QAction::triggered, this, [this] {
+        if (!lookup_window_)
+            lookup_window_ = new lookup_window(delegate_, this);
+        lookup_window_->open_beside();
     });
     QAction* about = file->addAction(ui_text(delegate_, "ui_menu_about"));
     about->setObjectName(QStringLiteral("about"));

@@ -5,6 +5,7 @@
 #include <QMainWindow>
 
 class export_window;
+class lookup_window;
 class Ks_lite_delegate;
 class QButtonGroup;
 class QVBoxLayout;
@@ -32,4 +33,5 @@ class main_window final : public QMainWindow {
     QWidget* back_pic = nullptr;
     QButtonGroup* switches_ = nullptr;
     export_window* export_window_ = nullptr; // made when it is first asked for
+    lookup_window* lookup_window_ = nullptr;
 };

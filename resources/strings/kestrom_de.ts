@@ -693,5 +693,101 @@ Freie Software unter der MIT-Lizenz.
         <source></source>
         <translation>das Auto sandte auch %1, das die Liste auslässt</translation>
     </message>
+    <message id="ui_more_button">
+        <source></source>
+        <translation>Weitere Parameter …</translation>
+    </message>
+    <message id="ui_more_hint">
+        <source></source>
+        <translation>Wählen, was außer den Parametern der Einstellungen noch abgefragt wird</translation>
+    </message>
+    <message id="ui_more_title">
+        <source></source>
+        <translation>Weitere Parameter</translation>
+    </message>
+    <message id="ui_more_search">
+        <source></source>
+        <translation>Nach Name oder PID suchen</translation>
+    </message>
+    <message id="ui_more_name">
+        <source></source>
+        <translation>Parameter</translation>
+    </message>
+    <message id="ui_more_unit">
+        <source></source>
+        <translation>Einheit</translation>
+    </message>
+    <message id="ui_more_support">
+        <source></source>
+        <translation>Dieses Auto</translation>
+    </message>
+    <message id="ui_more_yes">
+        <source></source>
+        <translation>vorhanden</translation>
+    </message>
+    <message id="ui_more_no">
+        <source></source>
+        <translation>nicht vorhanden</translation>
+    </message>
+    <message id="ui_more_in_prefs">
+        <source></source>
+        <translation>In den Einstellungen gewählt</translation>
+    </message>
+    <message id="ui_more_ask">
+        <source></source>
+        <translation>Auto &amp;fragen</translation>
+    </message>
+    <message id="ui_more_use">
+        <source></source>
+        <translation>Über&amp;nehmen</translation>
+    </message>
+    <message id="ui_more_cancel">
+        <source></source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message id="ui_more_unknown">
+        <source></source>
+        <translation>Noch ist nicht bekannt, was dieses Auto kann.</translation>
+    </message>
+    <message id="ui_more_asking">
+        <source></source>
+        <translation>Das Auto wird gefragt, was es kann</translation>
+    </message>
+    <message id="ui_more_told">
+        <source></source>
+        <translation>Das Auto hat gesagt, was es kann</translation>
+    </message>
+    <message id="ui_more_untold">
+        <source></source>
+        <translation>Das Auto hat nicht gesagt, was es kann</translation>
+    </message>
+    <message id="ui_more_known">
+        <source></source>
+        <translation>Dieses Auto kann %d Parameter.</translation>
+    </message>
+    <message id="ui_menu_lookup">
+        <source></source>
+        <translation>Code &amp;nachschlagen …</translation>
+    </message>
+    <message id="ui_lookup_title">
+        <source></source>
+        <translation>Code nachschlagen</translation>
+    </message>
+    <message id="ui_lookup_search">
+        <source></source>
+        <translation>Code oder Wörter der (englischen) Beschreibung</translation>
+    </message>
+    <message id="ui_lookup_none">
+        <source></source>
+        <translation>Nichts gefunden</translation>
+    </message>
+    <message id="ui_lookup_found">
+        <source></source>
+        <translation>Gefunden: %d</translation>
+    </message>
+    <message id="ui_lookup_close">
+        <source></source>
+        <translation>&amp;Schließen</translation>
+    </message>
 </context>
 </TS>

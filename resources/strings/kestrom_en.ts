@@ -692,5 +692,101 @@ Free software under the MIT licence.
         <source></source>
         <translation>the car also sent %1, which the list leaves out</translation>
     </message>
+    <message id="ui_more_button">
+        <source></source>
+        <translation>More parameters...</translation>
+    </message>
+    <message id="ui_more_hint">
+        <source></source>
+        <translation>Choose what a log run asks for beside the parameters of the preferences</translation>
+    </message>
+    <message id="ui_more_title">
+        <source></source>
+        <translation>More parameters</translation>
+    </message>
+    <message id="ui_more_search">
+        <source></source>
+        <translation>Search by name or PID</translation>
+    </message>
+    <message id="ui_more_name">
+        <source></source>
+        <translation>Parameter</translation>
+    </message>
+    <message id="ui_more_unit">
+        <source></source>
+        <translation>Unit</translation>
+    </message>
+    <message id="ui_more_support">
+        <source></source>
+        <translation>This car</translation>
+    </message>
+    <message id="ui_more_yes">
+        <source></source>
+        <translation>supported</translation>
+    </message>
+    <message id="ui_more_no">
+        <source></source>
+        <translation>not supported</translation>
+    </message>
+    <message id="ui_more_in_prefs">
+        <source></source>
+        <translation>Chosen in the preferences</translation>
+    </message>
+    <message id="ui_more_ask">
+        <source></source>
+        <translation>&amp;Ask the car</translation>
+    </message>
+    <message id="ui_more_use">
+        <source></source>
+        <translation>&amp;Use these</translation>
+    </message>
+    <message id="ui_more_cancel">
+        <source></source>
+        <translation>&amp;Cancel</translation>
+    </message>
+    <message id="ui_more_unknown">
+        <source></source>
+        <translation>What this car supports is not known yet.</translation>
+    </message>
+    <message id="ui_more_asking">
+        <source></source>
+        <translation>Asking what this car supports</translation>
+    </message>
+    <message id="ui_more_told">
+        <source></source>
+        <translation>The car told what it supports</translation>
+    </message>
+    <message id="ui_more_untold">
+        <source></source>
+        <translation>The car did not tell what it supports</translation>
+    </message>
+    <message id="ui_more_known">
+        <source></source>
+        <translation>This car supports %d parameters.</translation>
+    </message>
+    <message id="ui_menu_lookup">
+        <source></source>
+        <translation>&amp;Look up a code...</translation>
+    </message>
+    <message id="ui_lookup_title">
+        <source></source>
+        <translation>Look up a code</translation>
+    </message>
+    <message id="ui_lookup_search">
+        <source></source>
+        <translation>Code, or words of its description</translation>
+    </message>
+    <message id="ui_lookup_none">
+        <source></source>
+        <translation>Nothing found</translation>
+    </message>
+    <message id="ui_lookup_found">
+        <source></source>
+        <translation>Found: %d</translation>
+    </message>
+    <message id="ui_lookup_close">
+        <source></source>
+        <translation>&amp;Close</translation>
+    </message>
 </context>
 </TS>

@@ -693,5 +693,101 @@ Software libre con licencia MIT.
         <source></source>
         <translation>el coche también envió %1, que la lista omite</translation>
     </message>
+    <message id="ui_more_button">
+        <source></source>
+        <translation>Más parámetros…</translation>
+    </message>
+    <message id="ui_more_hint">
+        <source></source>
+        <translation>Elegir qué se pide además de los parámetros de las preferencias</translation>
+    </message>
+    <message id="ui_more_title">
+        <source></source>
+        <translation>Más parámetros</translation>
+    </message>
+    <message id="ui_more_search">
+        <source></source>
+        <translation>Buscar por nombre o PID</translation>
+    </message>
+    <message id="ui_more_name">
+        <source></source>
+        <translation>Parámetro</translation>
+    </message>
+    <message id="ui_more_unit">
+        <source></source>
+        <translation>Unidad</translation>
+    </message>
+    <message id="ui_more_support">
+        <source></source>
+        <translation>Este coche</translation>
+    </message>
+    <message id="ui_more_yes">
+        <source></source>
+        <translation>disponible</translation>
+    </message>
+    <message id="ui_more_no">
+        <source></source>
+        <translation>no disponible</translation>
+    </message>
+    <message id="ui_more_in_prefs">
+        <source></source>
+        <translation>Elegido en las preferencias</translation>
+    </message>
+    <message id="ui_more_ask">
+        <source></source>
+        <translation>&amp;Preguntar al coche</translation>
+    </message>
+    <message id="ui_more_use">
+        <source></source>
+        <translation>&amp;Usar estos</translation>
+    </message>
+    <message id="ui_more_cancel">
+        <source></source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message id="ui_more_unknown">
+        <source></source>
+        <translation>Aún no se sabe qué admite este coche.</translation>
+    </message>
+    <message id="ui_more_asking">
+        <source></source>
+        <translation>Se pregunta al coche qué admite</translation>
+    </message>
+    <message id="ui_more_told">
+        <source></source>
+        <translation>El coche ha dicho qué admite</translation>
+    </message>
+    <message id="ui_more_untold">
+        <source></source>
+        <translation>El coche no ha dicho qué admite</translation>
+    </message>
+    <message id="ui_more_known">
+        <source></source>
+        <translation>Este coche admite %d parámetros.</translation>
+    </message>
+    <message id="ui_menu_lookup">
+        <source></source>
+        <translation>&amp;Buscar un código…</translation>
+    </message>
+    <message id="ui_lookup_title">
+        <source></source>
+        <translation>Buscar un código</translation>
+    </message>
+    <message id="ui_lookup_search">
+        <source></source>
+        <translation>Código o palabras de la descripción (en inglés)</translation>
+    </message>
+    <message id="ui_lookup_none">
+        <source></source>
+        <translation>No se ha encontrado nada</translation>
+    </message>
+    <message id="ui_lookup_found">
+        <source></source>
+        <translation>Encontrados: %d</translation>
+    </message>
+    <message id="ui_lookup_close">
+        <source></source>
+        <translation>&amp;Cerrar</translation>
+    </message>
 </context>
 </TS>

@@ -693,5 +693,101 @@ Logiciel libre sous licence MIT.
         <source></source>
         <translation>la voiture a aussi envoyé %1, que la liste omet</translation>
     </message>
+    <message id="ui_more_button">
+        <source></source>
+        <translation>Autres paramètres…</translation>
+    </message>
+    <message id="ui_more_hint">
+        <source></source>
+        <translation>Choisir ce qui est demandé en plus des paramètres des préférences</translation>
+    </message>
+    <message id="ui_more_title">
+        <source></source>
+        <translation>Autres paramètres</translation>
+    </message>
+    <message id="ui_more_search">
+        <source></source>
+        <translation>Chercher par nom ou PID</translation>
+    </message>
+    <message id="ui_more_name">
+        <source></source>
+        <translation>Paramètre</translation>
+    </message>
+    <message id="ui_more_unit">
+        <source></source>
+        <translation>Unité</translation>
+    </message>
+    <message id="ui_more_support">
+        <source></source>
+        <translation>Cette voiture</translation>
+    </message>
+    <message id="ui_more_yes">
+        <source></source>
+        <translation>disponible</translation>
+    </message>
+    <message id="ui_more_no">
+        <source></source>
+        <translation>indisponible</translation>
+    </message>
+    <message id="ui_more_in_prefs">
+        <source></source>
+        <translation>Choisi dans les préférences</translation>
+    </message>
+    <message id="ui_more_ask">
+        <source></source>
+        <translation>&amp;Interroger la voiture</translation>
+    </message>
+    <message id="ui_more_use">
+        <source></source>
+        <translation>&amp;Utiliser</translation>
+    </message>
+    <message id="ui_more_cancel">
+        <source></source>
+        <translation>A&amp;nnuler</translation>
+    </message>
+    <message id="ui_more_unknown">
+        <source></source>
+        <translation>On ne sait pas encore ce que cette voiture propose.</translation>
+    </message>
+    <message id="ui_more_asking">
+        <source></source>
+        <translation>La voiture est interrogée sur ce qu'elle propose</translation>
+    </message>
+    <message id="ui_more_told">
+        <source></source>
+        <translation>La voiture a dit ce qu'elle propose</translation>
+    </message>
+    <message id="ui_more_untold">
+        <source></source>
+        <translation>La voiture n'a pas dit ce qu'elle propose</translation>
+    </message>
+    <message id="ui_more_known">
+        <source></source>
+        <translation>Cette voiture propose %d paramètres.</translation>
+    </message>
+    <message id="ui_menu_lookup">
+        <source></source>
+        <translation>&amp;Chercher un code…</translation>
+    </message>
+    <message id="ui_lookup_title">
+        <source></source>
+        <translation>Chercher un code</translation>
+    </message>
+    <message id="ui_lookup_search">
+        <source></source>
+        <translation>Code ou mots de la description (en anglais)</translation>
+    </message>
+    <message id="ui_lookup_none">
+        <source></source>
+        <translation>Rien trouvé</translation>
+    </message>
+    <message id="ui_lookup_found">
+        <source></source>
+        <translation>Trouvés : %d</translation>
+    </message>
+    <message id="ui_lookup_close">
+        <source></source>
+        <translation>&amp;Fermer</translation>
+    </message>
 </context>
 </TS>

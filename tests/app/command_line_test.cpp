@@ -44,6 +44,11 @@ TEST_F(shell, arguments_that_make_no_sense_end_with_2_and_a_reason) {
         {"live", "--run", "walk"},
         {"live", "--pids", "0D,C"},
         {"live", "--pids="},
+        {"live", "--pids", "0C,4F"}, // not decoded
+        {"live", "--run=fuel", "--pids=all"},
+        {"codes", "--pids=all"},
+        {"lookup"},
+        {"lookup", "--units", "P0301"},
         {"live", "--run=fuel", "--pids=0D"},
         {"--bluetooth", "OBDII", "codes"},
         {"--bluetooth", "00:1D:A5:68:98", "codes"},

@@ -114,10 +114,23 @@ class json_test(unittest.TestCase):
                 ("mode6", 0, ["mode6", "--json", "16", "01F4"]),
                 ("export", 0, ["export", log, "--json"]),
                 ("export", 1, ["export", log, "--json"]),
+                ("lookup", 0, ["lookup", "p0301", "--json"]),
+                ("lookup", 1, ["lookup", "no", "such", "thing", "--json"]),
+                ("pids", 0, ["--demo=hybrid", "pids", "--json"]),
+                ("pids", 1, ["--adapter", "127.0.0.1:1", "pids", "--json"]),
                 ("codes", 1, ["--adapter", "127.0.0.1:1", "codes", "--json"]),
                 ("codes", 0, ["--demo", "clear", "--yes", "--json"])]:
             with self.subTest(arguments):
                 fits(name, json.loads(kestrom(*arguments, status=status)))
+
+    def test_a_run_asks_what_the_car_supports_and_no_more(self):
+        supported = json.loads(kestrom("--demo=hybrid", "pids", "--json"))["parameters"]
+        self.assertIn("5B", [one["pid"] for one in supported])  # told by the other unit
+        cycle, _ = lines_fit("live", kestrom("--demo=hybrid", "live", "--pids=all", "--cycles=1", "--json"))
+        self.assertEqual(list(cycle["values"]), [one["pid"] for one in supported if one["decoded"]])
+        cycle, _ = lines_fit("live", kestrom("--demo=hybrid", "live", "--pids=78,5c,0D", "--cycles=1", "--json"))
+        self.assertEqual(list(cycle["values"]), ["5C", "0D"])
+        kestrom("--demo=hybrid", "live", "--pids=78", "--cycles=1", status=1)
 
     def test_devices_of_a_bluetooth_service_fit_the_schema(self):
         daemon = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address"],

@@ -55,20 +55,21 @@ class live_command_line : public shell {
 };
 
 TEST_F(live_command_line, prints_a_line_of_values_for_each_cycle_and_logs_it) {
-    const outcome told = live({"--pids", "0d,0C,11,05", "--cycles", "3", "--log"});
+    const outcome told = live({"--cycles", "3", "--log"});
     EXPECT_EQ(told.status, 0) << told.err;
     EXPECT_EQ(lines_of(told.out),
-              (list{"Vehicle Speed (mph),Engine Speed (RPM),"
-                    "Absolute Throttle Position (%),Engine Coolant Temperature (° F)",
-                    "62.5,1726,nan,181.4", "62.5,1726,nan,181.4", "62.5,1726,nan,181.4"}));
+              (list{"Vehicle Speed (mph),Absolute Throttle Position (%),Engine Speed (RPM),"
+                    "Engine Coolant Temperature (° F)",
+                    "62.5,nan,1726,181.4", "62.5,nan,1726,181.4", "62.5,nan,1726,181.4"}));
     EXPECT_THAT(told.err, HasSubstr("3 cycles, 12 requests in "));
     EXPECT_THAT(told.err, HasSubstr(" requests per second\nLog: " + home.path().toStdString()));
-    EXPECT_EQ(lines_of(only_log_below(home.path())), list(3, "410D64,410C1AF8,NODATA,41057B"));
+    EXPECT_EQ(lines_of(only_log_below(home.path())), list(3, "410D64,NODATA,410C1AF8,41057B"));
 }
 
 TEST_F(live_command_line, prints_lines_of_json_and_touches_nothing_of_the_users) {
-    const outcome told = live({"--pids=0C,11", "--seconds", "1.5", "--json"});
+    const outcome told = live({"--pids=0c,11", "--seconds", "1.5", "--json"});
     EXPECT_EQ(told.status, 0) << told.err;
+    EXPECT_THAT(told.err, HasSubstr("left out, not supported by the car: 11\n"));
     const list lines = lines_of(told.out);
     ASSERT_GT(lines.size(), 3u);
     int number = 0;
@@ -76,7 +77,7 @@ TEST_F(live_command_line, prints_lines_of_json_and_touches_nothing_of_the_users)
         const QJsonObject read = QJsonDocument::fromJson(QByteArray::fromStdString(line)).object();
         if (++number == static_cast<int>(lines.size())) {
             EXPECT_EQ(read.value(QLatin1String("cycles")).toInt(), number - 1);
-            EXPECT_GE(read.value(QLatin1String("requests")).toInt(), 2 * (number - 1));
+            EXPECT_GE(read.value(QLatin1String("requests")).toInt(), number - 1);
             const double seconds = read.value(QLatin1String("seconds")).toDouble();
             EXPECT_GE(seconds, 1.5) << "the way to the car counts for nothing";
             const double rate = read.value(QLatin1String("requests")).toInt() / seconds;
@@ -86,7 +87,7 @@ TEST_F(live_command_line, prints_lines_of_json_and_touches_nothing_of_the_users)
             EXPECT_EQ(read.value(QLatin1String("cycle")).toInt(), number);
             const QJsonObject values = read.value(QLatin1String("values")).toObject();
             EXPECT_EQ(values.value(QLatin1String("0C")).toDouble(), 1726);
-            EXPECT_TRUE(values.value(QLatin1String("11")).isNull());
+            EXPECT_EQ(values.size(), 1) << "no column of null";
         }
     }
     EXPECT_TRUE(QDir(home.path()).isEmpty());

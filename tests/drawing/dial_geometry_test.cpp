@@ -55,6 +55,16 @@ TEST(dial_geometry, ranges_keep_their_asymmetries) {
     }
 }
 
+TEST(dial_geometry, a_range_without_a_row_gets_round_labels) {
+    EXPECT_EQ(dial_range_over(-40, 160), (dial_range{-40, 160, 1}));
+    EXPECT_EQ(dial_range_over(-40, 320), (dial_range{-40, 360, 1}));
+    EXPECT_EQ(dial_range_over(0, 58), (dial_range{0, 60, 1}));
+    EXPECT_EQ(dial_range_over(0, 300000), (dial_range{0, 300, 1000}));
+    EXPECT_EQ(dial_range_over(32, 1832), (dial_range{0, 2000, 1})) << "a low end is no offset";
+    EXPECT_EQ(dial_range_over(0, 4), (dial_range{0, 4, 1}));
+    EXPECT_EQ(dial_range_over(0, 0), (dial_range{0, 100, 1}));
+}
+
 TEST(dial_geometry, labels_take_a_decimal_on_short_ranges) {
     EXPECT_THAT(dial_labels({0, 2, 1}), ElementsAre("0.0", "0.2", "0.4", "0.6", "0.8", "1.0", "1.2",
                                                     "1.4", "1.6", "1.8", "2.0"));

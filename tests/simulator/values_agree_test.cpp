@@ -5,6 +5,7 @@
 #include "hex_text.h"
 #include "live_values.h"
 #include "mac_toolies.h"
+#include "parameters.h"
 #include "user_defaults.h"
 
 #include <array>
@@ -22,6 +23,8 @@ constexpr conversion NONE{1, 0};
 constexpr conversion FAHRENHEIT{1.8, 32};
 constexpr conversion MILES{1 / 1.6, 0};
 constexpr conversion PSI{0.145, 0};
+// Where no letter fixes another.
+constexpr conversion EXACT_MILES{0.6213712, 0}, EXACT_PSI{0.1450377, 0};
 
 // SAE J1979: bytes [at, at + width) of an answer, as a number times `raw.factor` plus `raw.offset`,
 // are the value that `sense` puts into the car.
@@ -100,6 +103,48 @@ const value_row ROWS[] = {
      NONE,
      0,
      {1440, 60, 1}},
+    // Told by the table of standard values; a label's number stands between the values of a text.
+    {0x21, 0, 2, NONE, [](moment m, double v) { m.lamp_km = v; }, EXACT_MILES},
+    {0x53, 0, 2, {0.005, 0}, [](moment m, double v) { m.engine.barometer_kpa = v; }, {4.014631, 0}},
+    {0x59,
+     0,
+     2,
+     {10, 0},
+     [](moment m, double v) { m.engine.load = (v - 25000) / 1000; },
+     EXACT_PSI},
+    {0x5A, 0, 1, PERCENT, [](moment m, double v) { m.engine.pedal = v; }},
+    {0x5C, 0, 1, CELSIUS, [](moment m, double v) { m.engine.oil_celsius = v; }, FAHRENHEIT},
+    {0x5D, 0, 2, {1.0 / 128, -210}, [](moment m, double v) { m.engine.advance_degrees = v; }},
+    {0x5E,
+     0,
+     2,
+     {0.05, 0},
+     [](moment m, double v) { m.engine.fuel_gram_s = v * 745 / 3600; },
+     {0.2641721, 0}},
+    {0x61, 0, 1, {1, -125}, [](moment m, double v) { m.engine.pedal = v; }},
+    {0x62, 0, 1, {1, -125}, [](moment m, double v) { m.engine.load = v; }},
+    {0x66,
+     1,
+     2,
+     {1.0 / 32, 0},
+     [](moment m, double v) { m.engine.air_gram_s = v; },
+     {0.1322774, 0}},
+    {0x67, 1, 1, CELSIUS, [](moment m, double v) { m.engine.coolant_celsius = v; }, FAHRENHEIT},
+    {0x68, 1, 1, CELSIUS, [](moment m, double v) { m.engine.ambient_celsius = v; }, FAHRENHEIT},
+    {0x70, 1, 2, {1.0 / 32, 0}, [](moment m, double v) { m.engine.manifold_kpa = v; }, EXACT_PSI},
+    {0x78,
+     5,
+     2,
+     {0.1, -40},
+     [](moment m, double v) { m.engine.catalyst_celsius = v; },
+     FAHRENHEIT,
+     0,
+     {0, 0, 1}},
+    {0x7C, 1, 2, {0.1, -40}, [](moment m, double v) { m.engine.catalyst_celsius = v; }, FAHRENHEIT},
+    {0x7F, 3, 2, NONE, [](moment m, double v) { m.engine.run_seconds = v; }},
+    {0x84, 0, 1, CELSIUS, [](moment m, double v) { m.engine.intake_celsius = v - 6; }, FAHRENHEIT},
+    {0x87, 1, 2, {1.0 / 32, 0}, [](moment m, double v) { m.engine.manifold_kpa = v; }, EXACT_PSI},
+    {0xA6, 2, 2, {0.1, 0}, [](moment m, double v) { m.odometer_km = v; }, EXACT_MILES},
 };
 
 #ifdef NDEBUG
@@ -147,7 +192,7 @@ class values_agree : public testing::Test {
         const byte_string data = live_value(row.pid, now);
         if (hex_number(hex_text(data, false).substr(2 * row.at, 2 * row.width)) != raw)
             return "encoded as " + hex_text(data, true);
-        const std::string text = decoder.translateResponse(reply(row.pid, data));
+        const std::string text = parameter_value(decoder, reply(row.pid, data)).text;
         const auto numbers = numbers_of(text);
         double missing = value * shown.factor + shown.offset, last_place = 0;
         for (std::size_t i = 0; i < numbers.size() && i < row.weights.size(); ++i) {

@@ -1,3 +1,4 @@
+#include "code_search.h"
 #include "toolkit_fixture.h"
 
 #include <gmock/gmock.h>
@@ -63,6 +64,22 @@ TEST_F(shipped_tables, a_key_finds_its_text_and_no_other) {
         EXPECT_EQ(table.find(key), table.end()) << key;
     const text_dictionary empty;
     EXPECT_EQ(empty.find("P0001"), empty.end());
+}
+
+TEST_F(shipped_tables, codes_are_searched_by_name_and_by_words) {
+    write_table("P0_Codes", "P0002 Fuel Pump\nP0001 Oil pressure low\nP0003 Oil Level P0001\n");
+    const struct {
+        std::string_view text;
+        std::vector<std::string> codes;
+    } cases[] = {{"p0001 ", {"P0001"}},        {"OIL", {"P0001", "P0003"}}, {"level oil", {"P0003"}},
+                 {"oil pump", {}},             {"  ", {}},                  {"P0009", {}}};
+    for (const auto& row : cases) {
+        std::vector<std::string> codes;
+        for (const found_code& found : search_codes(toolies, row.text))
+            codes.push_back(found.code);
+        EXPECT_EQ(codes, row.codes) << row.text;
+    }
+    EXPECT_EQ(search_codes(toolies, "P0001")[0].description, "Oil pressure low");
 }
 
 TEST_F(shipped_tables, names_come_from_the_table_of_their_group) {

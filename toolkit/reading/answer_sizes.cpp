@@ -7,13 +7,16 @@
 
 namespace {
 
-// Data bytes by PID, 00 to 5F, a row for each sixteen. Beyond, any number.
+// Data bytes by PID, 00 to 5F, a row for each sixteen. Beyond, those of the bitmaps are known here.
 constexpr std::string_view PARAMETER_BYTES = "4422111111112111"
                                              "2111222222221112"
                                              "4222444444441111"
                                              "1221444444442222"
                                              "4422211111111224"
                                              "4112222222111221";
+
+constexpr unsigned BITMAP_EVERY = 0x20;
+constexpr std::size_t BITMAP_BYTES = 4;
 
 enum class length { by_parameter, by_count, fixed };
 
@@ -37,7 +40,7 @@ constexpr std::size_t PARAMETER_HEAD_DIGITS = 4; // "41" and the PID
 
 std::optional<std::size_t> parameter_bytes(unsigned pid) {
     if (pid >= PARAMETER_BYTES.size())
-        return std::nullopt;
+        return pid % BITMAP_EVERY == 0 ? std::optional(BITMAP_BYTES) : std::nullopt;
     return static_cast<std::size_t>(PARAMETER_BYTES[pid] - '0');
 }
 

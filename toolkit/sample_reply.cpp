@@ -3,6 +3,7 @@
 #include "answer_sizes.h"
 #include "header_forms.h"
 #include "hex_digits.h"
+#include "standard_values.h"
 #include "text.h"
 
 #include <algorithm>
@@ -55,7 +56,11 @@ std::string_view answer_in(std::string_view reply) {
     if (data.size() <= HEAD || data.size() % 2 != 0 || !is_hex(data))
         return {};
     const unsigned number = hex_value(data.substr(2, 2));
-    const std::size_t whole = answer_digits(data, bus_form::unknown).value_or(data.size());
+    const answer_length standard = standard_length(number);
+    if (standard.or_bytes != 0 && data.size() == HEAD + 2 * std::size_t{standard.or_bytes})
+        return data;
+    const std::size_t bytes = parameter_bytes(number).value_or(standard.bytes);
+    const std::size_t whole = bytes == 0 ? data.size() : HEAD + 2 * bytes;
     const bool fits =
         data.size() == whole || (data.size() == whole + 2 && may_tell_of_two_banks(number)) ||
         (data.size() == LONGEST_FRAME_DIGITS && whole < data.size() && is_fill(data.substr(whole)));

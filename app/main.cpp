@@ -93,6 +93,8 @@ void use_run(user_defaults& store, const cli_request& asked) {
     store.set_boolean(LOG_RUNS_KEY, asked.log);
     if (!asked.pids.empty())
         store.set_string_array(PIDS_ARRAY_KEY, asked.pids);
+    else if (asked.run != "log" && store.string_array(PIDS_ARRAY_KEY).value_or(std::vector<std::string>{}).empty())
+        store.set_string_array(PIDS_ARRAY_KEY, {"0C"}); // of no use to such a run, but complained of
 }
 
 void use_bluetooth(user_defaults& store, const std::string& address) {
@@ -212,7 +214,8 @@ std::unique_ptr<network::served_car> use_what_is_asked(user_defaults& defaults,
 int run(QApplication& application, const cli_request& asked) {
     std::optional<QTemporaryDir> scratch;
     user_defaults defaults(settings_path(asked, scratch));
-    const auto car = use_what_is_asked(defaults, asked);
+    auto car = use_what_is_asked(defaults, asked);
+    const bool first_start = defaults.integer(KS_INTERFACE_KEY) == 0;
 
     qt_run_loop loop;
     const bundle resources;
@@ -236,6 +239,14 @@ int run(QApplication& application, const cli_request& asked) {
                                link.make_streams, link.serial_port()},
                               all_screens());
     main_window window(delegate);
+    if (first_start)
+        window.offer_first_steps([&] {
+            car = start_demo_car({});
+            g_connect_with = KS_USE_WIFI; // until the preferences choose an adapter
+            g_cur_wifi_IP = "127.0.0.1";
+            g_cur_wifi_port = std::to_string(car->port());
+            delegate.adapter_changed();
+        });
     first_paint painted;
     if (asked.quit_when_shown)
         window.installEventFilter(&painted);

@@ -8,6 +8,8 @@
 #include "report_printer.h"
 #include "text.h"
 
+#include <QTime>
+
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -18,6 +20,8 @@ namespace {
 
 constexpr int TIME_DECIMALS = 3;
 constexpr run_loop::milliseconds PROGRESS_EVERY{200};
+constexpr run_loop::milliseconds PATIENCE{5000};
+constexpr run_loop::milliseconds LOOK_EVERY{500};
 
 int task_of(const std::string& run) {
     if (run == "fuel")
@@ -42,6 +46,7 @@ live_command::live_command(const cli_request& asked, Ks_lite_delegate& delegate,
 
 live_command::~live_command() {
     delegate_.doors().loop.cancel(limit_);
+    delegate_.doors().loop.cancel(next_look_);
 }
 
 void live_command::start() {
@@ -60,6 +65,21 @@ void live_command::start() {
         }
     };
     screen_->runLogs();
+    tell_of_waiting();
+}
+
+// Once for each wait that takes long, with the time of day at which it began.
+void live_command::tell_of_waiting() {
+    const auto since = delegate_.waiting_since();
+    const auto waited = delegate_.doors().loop.now() - since;
+    if (since.count() != 0 && since != told_waiting_since_ && waited >= PATIENCE) {
+        told_waiting_since_ = since;
+        const std::string began =
+            QTime::currentTime().addMSecs(-static_cast<int>(waited.count())).toString().toStdString();
+        clear_progress();
+        std::fprintf(stderr, "kestrom: waiting for the adapter since %s\n", began.c_str());
+    }
+    next_look_ = delegate_.doors().loop.after(LOOK_EVERY, [this] { tell_of_waiting(); });
 }
 
 void live_command::begin_sampling() {
@@ -121,6 +141,7 @@ void live_command::print_header() {
         }
         line += (line.empty() ? "" : ",") + name;
     }
+    clear_progress();
     std::printf("%s\n", printable(line).c_str());
 }
 

@@ -9,5 +9,6 @@ double relative_luminance(const QColor& colour);
 // 1 to 21.
 double contrast(const QColor& a, const QColor& b);
 
-inline constexpr double CASING_WIDTH = 1; // image units to either side
+// Image units to either side; with it a curve of the large chart is 4 wide.
+inline constexpr double CASING_WIDTH = 1.1;
 QColor casing_of(const QColor& ink);

@@ -9,6 +9,7 @@ namespace {
 
 constexpr double RADIUS = 6;
 constexpr int ARROW = 4;
+constexpr int TITLE_GAP = 3;
 
 QColor mixed(const QColor& a, const QColor& b, double of_b) {
     const auto part = [of_b](int x, int y) { return static_cast<int>(x + (y - x) * of_b + 0.5); };
@@ -71,8 +72,11 @@ bool flat_parts::draw(QStyle::PrimitiveElement part, const QStyleOption& option,
     const QPalette& palette = option.palette;
     switch (part) {
     case QStyle::PE_Frame:
-    case QStyle::PE_FrameGroupBox:
         draw_rounded(painter, option.rect, line_of(palette), Qt::NoBrush);
+        return true;
+    case QStyle::PE_FrameGroupBox: // below its title, as the style below lays it out
+        draw_rounded(painter, option.rect.adjusted(0, option.fontMetrics.height() + TITLE_GAP, 0, 0),
+                     line_of(palette), Qt::NoBrush);
         return true;
     case QStyle::PE_PanelLineEdit:
         if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(&option);

@@ -77,6 +77,7 @@ void main_window::offer_first_steps(std::function<void()> start_demo) {
     const auto step = [this](const char* name, std::string_view key, auto take) {
         auto* button = new QPushButton(ui_text(delegate_, key), back_pic);
         button->setObjectName(QLatin1String(name));
+        button->setMinimumSize(20 * GRID, 5 * GRID);
         connect(button, &QPushButton::clicked, this, take);
         return button;
     };

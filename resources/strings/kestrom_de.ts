@@ -279,7 +279,7 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_live_follow">
         <source></source>
-        <translation>Dem Diagramm &amp;folgen</translation>
+        <translation>Dem Dia&amp;gramm folgen</translation>
     </message>
     <message id="ui_live_follow_hint">
         <source></source>
@@ -459,7 +459,7 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_export_time">
         <source></source>
-        <translation>&amp;Zeit jeder Runde zuerst, in Sekunden</translation>
+        <translation>Zeit jeder Ru&amp;nde zuerst, in Sekunden</translation>
     </message>
     <message id="ui_export_start">
         <source></source>

@@ -459,7 +459,7 @@ Please check:
     </message>
     <message id="ui_export_time">
         <source></source>
-        <translation>&amp;Time of each round first, in seconds</translation>
+        <translation>Ti&amp;me of each round first, in seconds</translation>
     </message>
     <message id="ui_export_start">
         <source></source>

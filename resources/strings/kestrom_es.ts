@@ -279,7 +279,7 @@ Compruebe que:
     </message>
     <message id="ui_live_follow">
         <source></source>
-        <translation>Seguir el &amp;gráfico</translation>
+        <translation>Seguir el grá&amp;fico</translation>
     </message>
     <message id="ui_live_follow_hint">
         <source></source>

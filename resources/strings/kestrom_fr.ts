@@ -279,7 +279,7 @@ Veuillez vérifier que :
     </message>
     <message id="ui_live_follow">
         <source></source>
-        <translation>&amp;Suivre le graphique</translation>
+        <translation>Suivre le &amp;graphique</translation>
     </message>
     <message id="ui_live_follow_hint">
         <source></source>

@@ -82,7 +82,7 @@ TEST_F(casing_test, a_curve_has_its_casing_above_and_below) {
         sample_rows rows(2);
         for (int i = 0; i < 30; ++i) {
             rows.append_fresh_row();
-            file(rows, static_cast<std::size_t>(index), i == 1 ? "410400" : "410480");
+            file(rows, static_cast<std::size_t>(index), i == 1 ? "4104FF" : "410480");
         }
         chart.set_item_2_plot(index);
         const label_records labels = chart.work_out_labels(rows);

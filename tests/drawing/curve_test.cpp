@@ -1,5 +1,6 @@
 // The reduced way of drawing a curve against drawing every segment.
 #include "canvas.h"
+#include "casing.h"
 #include "curve_painter.h"
 #include "drawing_fixture.h"
 #include "literal_curve.h"
@@ -73,7 +74,8 @@ picture_difference draw_both_ways(const std::string& name, const sample_rows& ro
     const row_window window = window_of_rows(rows.rows(), shown);
     const chart_limits limits{static_cast<double>(window.first),
                               static_cast<double>(window.first + window.count), 0, 100};
-    const curve_style style{QColor(223, 1, 1), Qt::white, 1.8, PLOT.y, antialiased};
+    const QColor ink(223, 1, 1);
+    const curve_style style{ink, casing_of(ink), 1.8, PLOT.y, antialiased};
     QImage whole = empty_image(CHART, 1);
     whole.fill(QColor(31, 31, 46));
     QImage reduced = whole.copy();

@@ -160,8 +160,7 @@ void canvas::text_edge(double x, double y, const QString& text, const QFont& fon
                        const QColor& edge, double width) {
     QPainterPath letters;
     letters.addText(flipped(x, y + QFontMetricsF(font).descent()), font, text);
-    painter_.strokePath(letters,
-                        QPen(edge, 2 * width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter_.strokePath(letters, QPen(edge, 2 * width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 }
 
 void canvas::text_within(double room, int smallest, double x, double y, const QString& text,
@@ -175,8 +174,8 @@ void canvas::text_within(double room, int smallest, double x, double y, const QS
     const int fitting = static_cast<int>(font.pixelSize() * room / wide);
     font.setPixelSize(std::max(smallest, fitting));
     const bool too_long = fitting < smallest;
-    text_on_base_line(x, base_y,
-                      too_long ? QFontMetricsF(font).elidedText(text, cut, room) : text, font, ink);
+    text_on_base_line(x, base_y, too_long ? QFontMetricsF(font).elidedText(text, cut, room) : text,
+                      font, ink);
 }
 
 void canvas::fill(const QRectF& area, const QBrush& brush) {

@@ -1,5 +1,5 @@
-// What parts a curve or a figure from its ground, whatever the ground: a thin casing, light below dark
-// colours and dark below light ones. Contrast as WCAG 2 defines it.
+// What parts a curve or a figure from its ground, whatever the ground: a thin casing, light below
+// dark colours and dark below light ones. Contrast as WCAG 2 defines it.
 #pragma once
 
 #include <QColor>

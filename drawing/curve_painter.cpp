@@ -188,10 +188,9 @@ class pixel_layer {
     void add_part(column_spans& spans, const column_run& run, int from_x, int to_x, int spread) {
         const int high = std::clamp(run.high, -FARTHEST, FARTHEST);
         const int low = std::clamp(run.low, -FARTHEST, FARTHEST);
-        const QRect part =
-            QRect(QPoint(nearest(from_x), nearest(height_ - high - spread)),
-                  QPoint(nearest(to_x) - 1, nearest(height_ - low + spread) - 1)) &
-            image_.rect();
+        const QRect part = QRect(QPoint(nearest(from_x), nearest(height_ - high - spread)),
+                                 QPoint(nearest(to_x) - 1, nearest(height_ - low + spread) - 1)) &
+                           image_.rect();
         for (int px = part.left(); px <= part.right(); ++px)
             if (!spans.join(px, part.top(), part.bottom() + 1))
                 more_runs_.push_back(QRect(px, part.top(), 1, part.height())); // between gaps
@@ -280,8 +279,8 @@ void paint_lines(canvas& target, const QVector<QLineF>& lines, const QColor& ink
     }
 }
 
-void paint_casing(canvas& target, const std::vector<column_run>& runs,
-                  const QVector<QLineF>& lines, const curve_style& style) {
+void paint_casing(canvas& target, const std::vector<column_run>& runs, const QVector<QLineF>& lines,
+                  const curve_style& style) {
     pixel_layer layer(target);
     for (const column_run& run : runs)
         if (run.count > ONE_SEGMENT)

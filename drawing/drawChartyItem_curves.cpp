@@ -67,8 +67,7 @@ void drawChartyItem::plot_one_curve(canvas& target, const sample_rows& points,
     const std::vector<column_run> runs = reduce_curve(points, parameter, window, drawSizes, limits);
     const QColor ink = setMyColor(static_cast<int>(parameter));
     paint_curve(target, runs,
-                {ink, casing_of(ink),
-                 is_thumbnail ? THUMBNAIL_LINE_WIDTH : LARGE_LINE_WIDTH,
+                {ink, casing_of(ink), is_thumbnail ? THUMBNAIL_LINE_WIDTH : LARGE_LINE_WIDTH,
                  scale_y(limits.min_y, drawSizes, limits)});
     const sample_stretch all = points.summary(parameter, window.first, end);
     last_OBD_val = all.open_end().count > 0 ? points.value(all.last_row, parameter) : NO_NUMBER;

@@ -69,8 +69,8 @@ QFont fitting_label_font(const std::array<std::string, 11>& labels) {
 }
 
 // Centred on `x`; letters are condensed rather than run into what stands beside.
-void condensed_text(canvas& target, double room, double x, const QString& text,
-                    const QFont& font, const std::function<void(double left)>& paint) {
+void condensed_text(canvas& target, double room, double x, const QString& text, const QFont& font,
+                    const std::function<void(double left)>& paint) {
     const double wide = text_width(font, text);
     const double squeeze = wide > room && room > 0 ? room / wide : 1;
     QPainter& painter = target.painter();
@@ -152,9 +152,8 @@ void myGauge::work_out_base_gauge() {
     const QString name = qstring(toolies.get_pid_name(cur_PID, false));
     const QFont name_font = image_font(QStringLiteral("Helvetica"), NAME_PIXELS, true);
     const double name_room = gaugeSize.width() - 2 * DIAL_EDGE;
-    condensed_text(target, name_room, middle, name, name_font, [&](double x) {
-        target.text_edge(x, 0, name, name_font, FOOT, NAME_EDGE);
-    });
+    condensed_text(target, name_room, middle, name, name_font,
+                   [&](double x) { target.text_edge(x, 0, name, name_font, FOOT, NAME_EDGE); });
     paint_units(target, 2 * std::min(middle - left, right - middle));
     condensed_text(target, name_room, middle, name, name_font,
                    [&](double x) { target.text(x, 0, name, name_font, NAME_INK); });
@@ -164,9 +163,8 @@ void myGauge::work_out_base_gauge() {
 void myGauge::paint_units(canvas& target, double room) const {
     const double middle = gaugeSize.width() / 2;
     const auto write = [&](double width, double y, const QString& text) {
-        condensed_text(target, width, middle, text, label_font(), [&](double x) {
-            target.text(x, y, text, label_font(), Qt::yellow);
-        });
+        condensed_text(target, width, middle, text, label_font(),
+                       [&](double x) { target.text(x, y, text, label_font(), Qt::yellow); });
     };
     write(room, 15, qstring(toolies.get_units(cur_PID)));
     if (range_scaling != 1)

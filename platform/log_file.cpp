@@ -143,7 +143,8 @@ std::optional<std::string> log_file::append_line(std::string_view lines) {
 }
 
 bool log_file::is_there() const {
-    struct stat opened {}, named {};
+    struct stat opened {
+    }, named{};
     return ::fstat(fd_, &opened) == 0 && ::lstat(path_.c_str(), &named) == 0 &&
            S_ISREG(named.st_mode) && opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }

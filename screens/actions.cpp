@@ -30,7 +30,8 @@ std::string title_of_last(int points) {
 actions::actions(Ks_lite_delegate& delegate)
     : obd_screen(delegate), pictures_(toolies, delegate.doors().resources),
       frames_(delegate.doors().loop, [this] { draw_frame(); }), handshake_(*this) {
-    view_ = std::make_unique<live_view>(delegate, block_units{live_pictures::chart_size(), DIAL_SIZE, 83});
+    view_ = std::make_unique<live_view>(delegate,
+                                        block_units{live_pictures::chart_size(), DIAL_SIZE, 83});
     use_status_line(view_->statusLbl());
     awakeFromNib();
 }
@@ -250,8 +251,8 @@ void actions::cellCicked() {
     frames_.request();
 }
 
-// Shows the large chart's parameter. What moves it is that parameter, in a fuel run and when it is to
-// follow the chart, or else the one of `gauge_1_idx`.
+// Shows the large chart's parameter. What moves it is that parameter, in a fuel run and when it is
+// to follow the chart, or else the one of `gauge_1_idx`.
 bool actions::moves_first_dial() const {
     const bool follows = g_cur_task == TASK_FUEL_ECONOMY
                              ? pictures_.is_plotting(cur_pid_showing)
@@ -269,7 +270,9 @@ QString actions::described(int index) const {
     if (place >= _pid_logitems_list.size())
         return {};
     const std::string& pid = _pid_logitems_list[place];
-    const auto limit = [&](bool upper) { return QString::number(toolies.get_PID_min_max(pid, upper)); };
+    const auto limit = [&](bool upper) {
+        return QString::number(toolies.get_PID_min_max(pid, upper));
+    };
     return display_text(localized("ui_live_reading"))
         .arg(display_text(toolies.get_pid_name(pid, false)),
              display_text(pictures_.has_reply(index) ? these_samples[place][1] : "-"), limit(false),

@@ -26,19 +26,19 @@ solution solve(arrangement how, QSizeF room, const block_units& units, double ga
     const double stack = units.strip_height + chart.height();
     solution found{how};
     if (how == arrangement::below) {
-        found.scale = std::min(room.width() / chart.width(),
-                               (room.height() - 2 * gap - foot) / stack);
+        found.scale =
+            std::min(room.width() / chart.width(), (room.height() - 2 * gap - foot) / stack);
         const double height = room.height() - found.scale * stack - 2 * gap - foot;
         found.dial_width = std::min((room.width() - gap) / DIAL_PLACES, height * aspect);
     } else {
         found.scale = (room.height() - gap) / stack;
-        const double height = how == arrangement::beside_chart ? found.scale * chart.height()
-                                                               : room.height();
+        const double height =
+            how == arrangement::beside_chart ? found.scale * chart.height() : room.height();
         found.dial_width = std::min(room.width() - gap - found.scale * chart.width(),
                                     (height - gap - foot) / DIAL_PLACES * aspect);
     }
-    const double strip_width = how == arrangement::beside_all ? found.scale * chart.width()
-                                                              : room.width();
+    const double strip_width =
+        how == arrangement::beside_all ? found.scale * chart.width() : room.width();
     if (found.scale > 0 && found.dial_width > 0)
         found.drawn = area(chart) * found.scale * found.scale +
                       DIAL_PLACES * found.dial_width * found.dial_width / aspect +

@@ -1,8 +1,8 @@
 // Lays the live-data instruments out as one block that fills its room: the strip of thumbnails, the
 // large chart and two dials, whose logical sizes are scaled together. The dials stand beside the
 // chart, in a wide room beside strip and chart, in a narrow one below. There is always room for two
-// dials: the chart keeps its size when the second one is chosen; until then a hint may stand in that
-// place.
+// dials: the chart keeps its size when the second one is chosen; until then a hint may stand in
+// that place.
 #pragma once
 
 #include <QSizeF>

@@ -130,7 +130,8 @@ void live_pictures::draw_dial(dial& shown, picture_view& view) {
     if (!shown.moves)
         shown.gauge.draw_without_needle(face::dimmed);
     else if (latest.value)
-        shown.gauge.draw_cur_needle_value(*latest.value, latest.stale ? needle::greyed : needle::lit);
+        shown.gauge.draw_cur_needle_value(*latest.value,
+                                          latest.stale ? needle::greyed : needle::lit);
     else
         shown.gauge.draw_without_needle(face::awaiting);
     view.set_image(shown.gauge.imageRepresentation(), shown.gauge.changed_pixels());

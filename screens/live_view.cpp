@@ -102,41 +102,13 @@ void live_view::build_panel(QVBoxLayout* column, const block_units& units) {
         if (on_follow_chart)
             on_follow_chart(on);
     });
-    panel_->set_parts({xtopActionCharts_, chartFull_, {gauge_uno_, gauge_dos_}, dial_hint_,
-                       follow_chart_});
+    panel_->set_parts(
+        {xtopActionCharts_, chartFull_, {gauge_uno_, gauge_dos_}, dial_hint_, follow_chart_});
     column->addWidget(panel_, 1);
 }
 
 void live_view::build_controls(QHBoxLayout* row) {
-    auto* zoom_label = new QLabel(ui_text(delegate_, "ui_live_zoom"), root());
-    charty_zoomer_ = new QSlider(Qt::Horizontal, root());
-    charty_zoomer_->setObjectName(QStringLiteral("charty_zoomer"));
-    charty_zoomer_->setRange(0, ZOOM_STEPS);
-    charty_zoomer_->setValue(ZOOM_STEPS);
-    charty_zoomer_->setPageStep(ZOOM_STEPS / 10);
-    charty_zoomer_->setMinimumWidth(8 * GRID);
-    charty_zoomer_->setMaximumWidth(18 * GRID);
-    charty_zoomer_->setToolTip(ui_text(delegate_, "ui_live_zoom_hint"));
-    charty_zoomer_->setAccessibleName(ui_text(delegate_, "ui_live_zoom_hint"));
-    zoom_label->setBuddy(charty_zoomer_);
-    zoom_label->setObjectName(QStringLiteral("zoomLabel"));
-    length_ = new QLabel(root());
-    length_->setObjectName(QStringLiteral("runLength"));
-    length_->setToolTip(ui_text(delegate_, "ui_live_length"));
-    length_->setAccessibleName(ui_text(delegate_, "ui_live_length"));
-    length_->setForegroundRole(QPalette::PlaceholderText);
-    row->addWidget(length_);
-    row->addSpacing(GRID);
-    for (QWidget* widget :
-         {static_cast<QWidget*>(zoom_label), static_cast<QWidget*>(charty_zoomer_)}) {
-        keep_room(widget);
-        widget->hide();
-        row->addWidget(widget);
-    }
-    QObject::connect(charty_zoomer_, &QSlider::valueChanged, root(), [this](int value) {
-        if (on_zoom)
-            on_zoom(static_cast<double>(value) / ZOOM_STEPS);
-    });
+    build_zoom(row);
 
     o2SwapBtn_ = new QToolButton(root());
     o2SwapBtn_->setObjectName(QStringLiteral("o2SwapBtn"));
@@ -172,6 +144,39 @@ void live_view::build_controls(QHBoxLayout* row) {
     row->addWidget(startStopBtn_);
     root()->setFocusProxy(startStopBtn_);
     show_running(false);
+}
+
+// With the length of the run beside it.
+void live_view::build_zoom(QHBoxLayout* row) {
+    length_ = new QLabel(root());
+    length_->setObjectName(QStringLiteral("runLength"));
+    length_->setToolTip(ui_text(delegate_, "ui_live_length"));
+    length_->setAccessibleName(ui_text(delegate_, "ui_live_length"));
+    length_->setForegroundRole(QPalette::PlaceholderText);
+    row->addWidget(length_);
+    row->addSpacing(GRID);
+    auto* zoom_label = new QLabel(ui_text(delegate_, "ui_live_zoom"), root());
+    charty_zoomer_ = new QSlider(Qt::Horizontal, root());
+    charty_zoomer_->setObjectName(QStringLiteral("charty_zoomer"));
+    charty_zoomer_->setRange(0, ZOOM_STEPS);
+    charty_zoomer_->setValue(ZOOM_STEPS);
+    charty_zoomer_->setPageStep(ZOOM_STEPS / 10);
+    charty_zoomer_->setMinimumWidth(8 * GRID);
+    charty_zoomer_->setMaximumWidth(18 * GRID);
+    charty_zoomer_->setToolTip(ui_text(delegate_, "ui_live_zoom_hint"));
+    charty_zoomer_->setAccessibleName(ui_text(delegate_, "ui_live_zoom_hint"));
+    zoom_label->setBuddy(charty_zoomer_);
+    zoom_label->setObjectName(QStringLiteral("zoomLabel"));
+    for (QWidget* widget :
+         {static_cast<QWidget*>(zoom_label), static_cast<QWidget*>(charty_zoomer_)}) {
+        keep_room(widget);
+        widget->hide();
+        row->addWidget(widget);
+    }
+    QObject::connect(charty_zoomer_, &QSlider::valueChanged, root(), [this](int value) {
+        if (on_zoom)
+            on_zoom(static_cast<double>(value) / ZOOM_STEPS);
+    });
 }
 
 void live_view::build_log_mark(QVBoxLayout* column) {

@@ -63,6 +63,7 @@ class live_view {
 
   private:
     void build_controls(QHBoxLayout* row);
+    void build_zoom(QHBoxLayout* row);
     void build_log_mark(QVBoxLayout* column);
     void build_panel(QVBoxLayout* column, const block_units& units);
     void build_strip();

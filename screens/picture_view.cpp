@@ -20,7 +20,8 @@ picture_view::picture_view(const QString& name, QSizeF units, QWidget* parent)
 bool picture_view::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip || !describe)
         return QWidget::event(event);
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), describe().toHtmlEscaped(), this);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), describe().toHtmlEscaped(),
+                       this);
     return true;
 }
 

@@ -1,7 +1,8 @@
 // One row of thumbnails, a cell each, of which one or more are selected: a click selects one, Shift
 // extends to it, Ctrl toggles it; arrow keys, Home and End move, with Shift they extend, and the
-// space bar toggles; the mouse wheel scrolls. The selection is never empty while there are cells. Pictures are stretched to
-// their cell both ways. Lives in a scroll area, which it tells to follow the current cell.
+// space bar toggles; the mouse wheel scrolls. The selection is never empty while there are cells.
+// Pictures are stretched to their cell both ways. Lives in a scroll area, which it tells to follow
+// the current cell.
 #pragma once
 
 #include <QImage>

@@ -89,7 +89,7 @@ class log_export {
     std::string log_, output_;
     export_form form_;
     std::optional<run_times> times_;
-    bool naming_ = false;                            // the log is read ahead for names of columns
+    bool naming_ = false;                           // the log is read ahead for names of columns
     std::optional<std::vector<std::string>> names_; // PIDs of the columns; empty: none yet
     int input_ = -1;
     log_file written_;

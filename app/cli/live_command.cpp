@@ -74,8 +74,10 @@ void live_command::tell_of_waiting() {
     const auto waited = delegate_.doors().loop.now() - since;
     if (since.count() != 0 && since != told_waiting_since_ && waited >= PATIENCE) {
         told_waiting_since_ = since;
-        const std::string began =
-            QTime::currentTime().addMSecs(-static_cast<int>(waited.count())).toString().toStdString();
+        const std::string began = QTime::currentTime()
+                                      .addMSecs(-static_cast<int>(waited.count()))
+                                      .toString()
+                                      .toStdString();
         clear_progress();
         std::fprintf(stderr, "kestrom: waiting for the adapter since %s\n", began.c_str());
     }

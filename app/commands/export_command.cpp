@@ -22,7 +22,9 @@ volatile std::sig_atomic_t interrupted = 0;
 
 // Ends an export that leaves nothing behind.
 struct interruptible {
-    interruptible() { handle([](int) { interrupted = 1; }); }
+    interruptible() {
+        handle([](int) { interrupted = 1; });
+    }
     ~interruptible() { handle(SIG_DFL); }
     static void handle(void (*handler)(int)) {
         for (const int signal : {SIGINT, SIGTERM, SIGHUP})
@@ -86,14 +88,13 @@ int run_export(std::span<const std::string> arguments, const mac_toolies& toolie
     if (const auto why = why_no_run_log(log.string())) {
         outcome = {export_result::unreadable, 0, *why, {}};
     } else {
-        outcome =
-            export_log(toolies, log.string(), output.string(), {.with_time = request.with_time},
-                       [shown = -1](double done) mutable {
-                           const int percent = static_cast<int>(done * 100); // 0 to 1
-                           if (std::exchange(shown, percent) != percent)
-                               show_progress("Exporting: " + std::to_string(percent) + " %");
-                           return !interrupted;
-                       });
+        outcome = export_log(toolies, log.string(), output.string(),
+                             {.with_time = request.with_time}, [shown = -1](double done) mutable {
+                                 const int percent = static_cast<int>(done * 100); // 0 to 1
+                                 if (std::exchange(shown, percent) != percent)
+                                     show_progress("Exporting: " + std::to_string(percent) + " %");
+                                 return !interrupted;
+                             });
         clear_progress();
     }
     if (request.json)

@@ -2,8 +2,8 @@
 
 #include <QApplication>
 #include <QPainter>
-#include <QPushButton>
 #include <QPointer>
+#include <QPushButton>
 #include <QSvgRenderer>
 #include <QThreadPool>
 #include <QTimer>

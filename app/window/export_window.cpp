@@ -164,9 +164,9 @@ void export_window::list_logs() {
 void export_window::offer_time() {
     const QTableWidgetItem* name = logs_->item(logs_->currentRow(), NAME);
     std::error_code unknown;
-    const bool timed =
-        name && std::filesystem::exists(
-                    times_of_log(toolies_.log_folder() + "/" + name->text().toStdString()), unknown);
+    const bool timed = name && std::filesystem::exists(times_of_log(toolies_.log_folder() + "/" +
+                                                                    name->text().toStdString()),
+                                                       unknown);
     with_time_->setEnabled(timed);
     with_time_->setChecked(timed);
 }

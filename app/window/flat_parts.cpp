@@ -31,7 +31,8 @@ void draw_rounded(QPainter& painter, const QRect& place, const QColor& line, con
 
 void draw_button(QPainter& painter, const QStyleOption& option, bool is_default) {
     const QPalette& palette = option.palette;
-    const QColor ground = palette.color(QPalette::Button), text = palette.color(QPalette::ButtonText);
+    const QColor ground = palette.color(QPalette::Button),
+                 text = palette.color(QPalette::ButtonText);
     const bool down = option.state & (QStyle::State_Sunken | QStyle::State_On);
     const bool under_mouse = option.state & QStyle::State_MouseOver;
     const double shade = !(option.state & QStyle::State_Enabled) ? 0
@@ -75,7 +76,8 @@ bool flat_parts::draw(QStyle::PrimitiveElement part, const QStyleOption& option,
         draw_rounded(painter, option.rect, line_of(palette), Qt::NoBrush);
         return true;
     case QStyle::PE_FrameGroupBox: // below its title, as the style below lays it out
-        draw_rounded(painter, option.rect.adjusted(0, option.fontMetrics.height() + TITLE_GAP, 0, 0),
+        draw_rounded(painter,
+                     option.rect.adjusted(0, option.fontMetrics.height() + TITLE_GAP, 0, 0),
                      line_of(palette), Qt::NoBrush);
         return true;
     case QStyle::PE_PanelLineEdit:

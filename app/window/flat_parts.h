@@ -1,5 +1,5 @@
-// The parts of widgets where no desktop's style is at work: flat, with one corner radius, thin lines
-// and the program's own check mark, in the palette's colours. Stateless.
+// The parts of widgets where no desktop's style is at work: flat, with one corner radius, thin
+// lines and the program's own check mark, in the palette's colours. Stateless.
 #pragma once
 
 #include <QStyle>

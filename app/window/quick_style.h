@@ -1,9 +1,9 @@
 // The desktop's style with this program's few rules: headings of tables begin where the cells'
 // texts do, buttons have air around their words, titles of groups are heavier than what they group,
-// message boxes have the program's drawings. Where there is no desktop's style its place is taken by
-// Qt's own with flat parts (flat_parts). And without reading
-// icons that nothing shows yet: every menu bar asks for the arrow of its overflow when it is made,
-// and for the first picture read Qt loads all its picture plugins. Owned by the application.
+// message boxes have the program's drawings. Where there is no desktop's style its place is taken
+// by Qt's own with flat parts (flat_parts). And without reading icons that nothing shows yet: every
+// menu bar asks for the arrow of its overflow when it is made, and for the first picture read Qt
+// loads all its picture plugins. Owned by the application.
 #pragma once
 
 #include "chrome.h"

@@ -68,7 +68,9 @@ TEST_F(chart_command_test, dial_shows_the_last_value) {
     EXPECT_EQ(picture().size(), QSize(364, 286));
     const QImage lit = picture();
     // The last reply was no answer: the needle stays, greyed. Without any there is none.
-    EXPECT_EQ(chart(std::string(LOG) + "410C0FA0,~\n", {"--dial", "--pid", "0D", "-o", path("out.png")}), 0);
+    EXPECT_EQ(
+        chart(std::string(LOG) + "410C0FA0,~\n", {"--dial", "--pid", "0D", "-o", path("out.png")}),
+        0);
     EXPECT_NE(picture(), lit);
 }
 

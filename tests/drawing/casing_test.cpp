@@ -1,8 +1,8 @@
 // Every curve and figure against the ground it stands on: KESTROM_CONTRAST_TABLE=FILE writes the
 // figures of docs/look.md.
 #include "casing.h"
-#include "drawing_fixture.h"
 #include "drawChartyItem.h"
+#include "drawing_fixture.h"
 
 #include <fstream>
 #include <iomanip>
@@ -34,7 +34,8 @@ class casing_test : public drawing_test {
     }
 };
 
-// By its casing, which parts it from the ground, or where the casing is lost in the ground by itself.
+// By its casing, which parts it from the ground, or where the casing is lost in the ground by
+// itself.
 double reads_at(const ink& each, const QColor& ground) {
     const QColor casing = casing_of(each.colour);
     return std::max(std::min(contrast(each.colour, casing), contrast(casing, ground)),
@@ -45,8 +46,8 @@ TEST_F(casing_test, every_colour_reads_over_both_ends_of_the_plot) {
     const auto [left, right] = ends_of_plot();
     EXPECT_GT(contrast(left, right), 2.5) << "two ends";
     std::vector<ink> inks;
-    const char* names[] = {"0 dark red", "1 green",  "2 magenta", "3 yellow", "4 brown",
-                           "5 purple",   "6 gray",   "7 blue",    "beyond: black"};
+    const char* names[] = {"0 dark red", "1 green", "2 magenta", "3 yellow",     "4 brown",
+                           "5 purple",   "6 gray",  "7 blue",    "beyond: black"};
     for (int i = 0; i < 9; ++i)
         inks.push_back({names[i], drawChartyItem::setMyColor(i), CURVE_READS});
     inks.push_back({"axis figures", drawChartyItem::axis_figures(), FIGURE_READS});
@@ -90,10 +91,11 @@ TEST_F(casing_test, a_curve_has_its_casing_above_and_below) {
         chart.plot_array_list(rows, labels);
         const chart_area plot = chart.plot_area();
         const QColor ink = drawChartyItem::setMyColor(index);
-        const double share = (rows.value(9, static_cast<std::size_t>(index)) -
-                              drawChartyItem::lower_limit(labels[static_cast<std::size_t>(index)])) /
-                             (drawChartyItem::upper_limit(labels[static_cast<std::size_t>(index)]) -
-                              drawChartyItem::lower_limit(labels[static_cast<std::size_t>(index)]));
+        const double share =
+            (rows.value(9, static_cast<std::size_t>(index)) -
+             drawChartyItem::lower_limit(labels[static_cast<std::size_t>(index)])) /
+            (drawChartyItem::upper_limit(labels[static_cast<std::size_t>(index)]) -
+             drawChartyItem::lower_limit(labels[static_cast<std::size_t>(index)]));
         const double y = plot.y + std::trunc(share * plot.height), x = plot.x + 150;
         EXPECT_TRUE(near_colour(pixel_at(chart.image(), x, y), ink, 20)) << index;
         EXPECT_TRUE(near_colour(pixel_at(chart.image(), x, y + 1.4), casing_of(ink), 40)) << index;

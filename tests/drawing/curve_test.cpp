@@ -182,7 +182,8 @@ TEST(curve, rubbish_numbers_and_areas_are_harmless) {
                                    {3, 3, 0, 1},   {0, 7, NAN_VALUE, huge}, {0, 7, -huge, huge}};
     for (const chart_area& area : areas)
         for (const chart_limits& l : limits)
-            paint_curve(target, reduce_curve(rows, 0, {0, 7}, area, l), {QColor(0, 0, 0), Qt::white, 2.2, 0});
+            paint_curve(target, reduce_curve(rows, 0, {0, 7}, area, l),
+                        {QColor(0, 0, 0), Qt::white, 2.2, 0});
 }
 
 } // namespace

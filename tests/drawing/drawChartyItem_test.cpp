@@ -99,11 +99,10 @@ TEST_F(chart_test, a_value_that_never_changes_lies_inside_the_plot) {
     const struct {
         const char *pid, *reply;
         double lower, upper; // of the axis
-    } cases[] = {{"0D", "410D00", 0, 300},          {"0D", "410DFF", 0, 300},
-                 {"05", "410528", -50, 300},        {"04", "4104FF", 0, 200},
-                 {"E4", "41E40000", -2, 2},         {"E4", "41E403E8", 0, 0},
-                 {"23", "41230000", 0, 655350},     {"23", "4123C350", 0, 655350},
-                 {"14", "4114FFFF", 0, 2}};
+    } cases[] = {
+        {"0D", "410D00", 0, 300},      {"0D", "410DFF", 0, 300},      {"05", "410528", -50, 300},
+        {"04", "4104FF", 0, 200},      {"E4", "41E40000", -2, 2},     {"E4", "41E403E8", 0, 0},
+        {"23", "41230000", 0, 655350}, {"23", "4123C350", 0, 655350}, {"14", "4114FFFF", 0, 2}};
     for (const auto& c : cases) {
         chart.use_this_pids({c.pid});
         sample_rows rows(1);

@@ -155,17 +155,19 @@ TEST_F(export_test, columns_are_named_by_the_first_answer_in_them) {
         std::string log, table;
     } cases[] = {
         {"~,410D64\nNODATA,~\n410C1AF8,410D32\n",
-         "Engine Speed (RPM),Vehicle Speed (kph)\nnan,100.000000\nnan,nan\n1726.000000,50.000000\n"},
+         "Engine Speed (RPM),Vehicle Speed "
+         "(kph)\nnan,100.000000\nnan,nan\n1726.000000,50.000000\n"},
         {"NODATA,4\n", " (N/A), (N/A)\nnan,nan\n"},
         {"41ZZ,410d64\n", " (N/A),Vehicle Speed (kph)\nnan,100.000000\n"},
-        {",410D64,\n410C1AF8,,~\n",
-         "Engine Speed (RPM),Vehicle Speed (kph), (N/A)\nnan,100.000000,nan\n1726.000000,nan,nan\n"},
+        {",410D64,\n410C1AF8,,~\n", "Engine Speed (RPM),Vehicle Speed (kph), "
+                                    "(N/A)\nnan,100.000000,nan\n1726.000000,nan,nan\n"},
     };
     use_metric(true);
     for (const auto& c : cases) {
         write_log("run.gol", c.log);
         std::filesystem::remove(path("run.csv"));
-        EXPECT_EQ(export_log(logs, path("run.gol"), path("run.csv")).result, export_result::exported);
+        EXPECT_EQ(export_log(logs, path("run.gol"), path("run.csv")).result,
+                  export_result::exported);
         EXPECT_EQ(text_of("run.csv"), c.table);
     }
 }

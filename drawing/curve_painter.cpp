@@ -231,28 +231,34 @@ std::optional<QLineF> within_reach(const QLineF& line) {
 using run_iterator = std::vector<column_run>::const_iterator;
 
 // Whether a run between `first` and `end` paints all from one y to the other.
-bool any_covers(run_iterator first, run_iterator end, int y, int other_y) {
+bool any_covers(run_iterator first, run_iterator end, int y, int other_y, int margin) {
     return std::any_of(first, end, [&](const column_run& run) {
-        return run.count > ONE_SEGMENT && std::min(y, other_y) >= run.low &&
-               std::max(y, other_y) <= run.high;
+        return run.count > ONE_SEGMENT && std::min(y, other_y) - margin >= run.low &&
+               std::max(y, other_y) + margin <= run.high;
     });
 }
 
 // Whether nothing can be seen of the segment that leads to `to`, since both columns cover it.
-bool is_hidden(const std::vector<column_run>& runs, run_iterator to) {
+// The ends of a wide line reach farther than the columns do, up and down when it is steep, sideways
+// when it is not.
+bool is_hidden(const std::vector<column_run>& runs, run_iterator to, bool wide) {
+    constexpr int STEEP = 4;
     const auto from = to - 1;
     if (std::int64_t{to->x} - from->x != 1)
         return false;
+    if (wide && std::abs(std::int64_t{to->first} - from->last) < STEEP)
+        return false;
+    const int margin = wide ? 1 : 0;
     const auto is_in = [](int x) { return [x](const column_run& run) { return run.x == x; }; };
     const auto from_start =
         std::find_if_not(std::make_reverse_iterator(to), runs.rend(), is_in(from->x)).base();
     const auto to_end = std::find_if_not(to, runs.end(), is_in(to->x));
-    return any_covers(from_start, to, from->last, to->first) &&
-           any_covers(to, to_end, from->last, to->first);
+    return any_covers(from_start, to, from->last, to->first, margin) &&
+           any_covers(to, to_end, from->last, to->first, margin);
 }
 
 // The segments across columns, and those that are a column's only one.
-QVector<QLineF> lines_of(const canvas& target, const std::vector<column_run>& runs) {
+QVector<QLineF> lines_of(const canvas& target, const std::vector<column_run>& runs, bool wide) {
     QVector<QLineF> lines;
     lines.reserve(static_cast<qsizetype>(runs.size()));
     const auto add = [&](int from_x, int from_y, int to_x, int to_y) {
@@ -263,7 +269,7 @@ QVector<QLineF> lines_of(const canvas& target, const std::vector<column_run>& ru
             lines << *line;
     };
     for (auto to = runs.begin(); to != runs.end(); ++to) {
-        if (to->joined && to != runs.begin() && !is_hidden(runs, to))
+        if (to->joined && to != runs.begin() && !is_hidden(runs, to, wide))
             add((to - 1)->x, (to - 1)->last, to->x, to->first);
         if (to->count == ONE_SEGMENT)
             add(to->x, to->low, to->x, to->high);
@@ -279,24 +285,24 @@ void paint_lines(canvas& target, const QVector<QLineF>& lines, const QColor& ink
     }
 }
 
-void paint_casing(canvas& target, const std::vector<column_run>& runs, const QVector<QLineF>& lines,
-                  const curve_style& style) {
+void paint_casing(canvas& target, const std::vector<column_run>& runs, const curve_style& style) {
     pixel_layer layer(target);
     for (const column_run& run : runs)
         if (run.count > ONE_SEGMENT)
             layer.add_casing(run);
     layer.paint(qPremultiply(style.casing.rgba()), 0);
-    paint_lines(target, lines, style.casing, {style.line_width + 2 * CASING_WIDTH});
+    paint_lines(target, lines_of(target, runs, true), style.casing,
+                {style.line_width + 2 * CASING_WIDTH});
 }
 
 } // namespace
 
 void paint_curve(canvas& target, const std::vector<column_run>& runs, const curve_style& style) {
-    const QVector<QLineF> lines = lines_of(target, runs);
     target.painter().save();
     target.painter().setRenderHint(QPainter::Antialiasing, style.antialiased);
-    paint_casing(target, runs, lines, style);
+    paint_casing(target, runs, style);
     paint_pixels(target, runs, style);
-    paint_lines(target, lines, style.ink, {FIRST_PASS_WIDTH, style.line_width});
+    paint_lines(target, lines_of(target, runs, false), style.ink,
+                {FIRST_PASS_WIDTH, style.line_width});
     target.painter().restore();
 }

@@ -58,7 +58,7 @@ TEST_F(chart_command_test, prints_the_axis_limits_and_draws_at_the_scale) {
     EXPECT_NE(picture(), timed);
     EXPECT_EQ(picture().size(), QSize(420, 230));
     EXPECT_EQ(chart(LOG, {"--pid", "d", "--pid=0C", "--scale", "2", "-o", path("out.png")}), 0);
-    EXPECT_THAT(out.str(), HasSubstr("0D Vehicle Speed: 0.00 to 70.00 mph\n"));
+    EXPECT_THAT(out.str(), HasSubstr("0D Vehicle Speed: 20.00 to 70.00 mph\n"));
     EXPECT_EQ(picture().size(), QSize(840, 460));
 }
 

@@ -27,8 +27,8 @@
 #include "report_printer.h"
 #include "screen_factories.h"
 #include "serial_port_profile.h"
-#include "system_log.h"
 #include "supported_scan.h"
+#include "system_log.h"
 #include "user_defaults.h"
 
 #include <QApplication>
@@ -104,11 +104,13 @@ void use_adapter(user_defaults& store, const std::string& host, const std::strin
 // What the command line asks of a live run, as if the user had chosen it in the preferences.
 void use_run(user_defaults& store, const cli_request& asked) {
     store.set_boolean(LOG_RUNS_KEY, asked.log);
-    if (asked.pids.empty() && !asked.all_pids)
-        return;
-    store.set_string_array(MORE_PIDS_KEY, {});
-    store.set_string_array(PIDS_ARRAY_KEY,
-                           asked.all_pids ? std::vector<std::string>{"0C"} : asked.pids);
+    if (asked.all_pids || !asked.pids.empty()) {
+        store.set_string_array(MORE_PIDS_KEY, {});
+        store.set_string_array(PIDS_ARRAY_KEY,
+                               asked.all_pids ? std::vector<std::string>{"0C"} : asked.pids);
+    } else if (asked.run != "log") { // which has its own, but would be told that there are none
+        store.set_string_array(PIDS_ARRAY_KEY, {"0C"});
+    }
 }
 
 void use_bluetooth(user_defaults& store, const std::string& address) {
@@ -139,10 +141,11 @@ class first_paint final : public QObject {
     }
 };
 
-bool save_screenshot(main_window& window, const std::string& path) {
-    if (window.grab().save(QString::fromStdString(path), "PNG"))
+// True when it was saved, or none was asked for.
+bool save_screenshot(main_window& window, const std::optional<std::string>& path) {
+    if (!path || window.grab().save(QString::fromStdString(*path), "PNG"))
         return true;
-    std::fprintf(stderr, "kestrom: cannot write %s\n", path.c_str());
+    std::fprintf(stderr, "kestrom: cannot write %s\n", path->c_str());
     return false;
 }
 
@@ -226,10 +229,21 @@ std::unique_ptr<network::served_car> use_what_is_asked(user_defaults& defaults,
     return car;
 }
 
+// Until the preferences choose an adapter; nothing of the user's changes.
+std::unique_ptr<network::served_car> connect_to_virtual_car(Ks_lite_delegate& delegate) {
+    auto car = start_demo_car({});
+    g_connect_with = KS_USE_WIFI;
+    g_cur_wifi_IP = "127.0.0.1";
+    g_cur_wifi_port = std::to_string(car->port());
+    delegate.adapter_changed();
+    return car;
+}
+
 int run(QApplication& application, const cli_request& asked) {
     std::optional<QTemporaryDir> scratch;
     user_defaults defaults(settings_path(asked, scratch));
-    const auto car = use_what_is_asked(defaults, asked);
+    auto car = use_what_is_asked(defaults, asked);
+    const bool first_start = defaults.integer(KS_INTERFACE_KEY) == 0;
 
     qt_run_loop loop;
     const bundle resources = resources_for(defaults);
@@ -240,10 +254,9 @@ int run(QApplication& application, const cli_request& asked) {
         asked.without_display() ? static_cast<alerts&>(printed_alerts) : shown_alerts;
     mac_toolies::initialize({&resources, &defaults, &message_boxes, &notifications});
     conversation_recorder recorder(loop);
-    link_doors link{
-        tcp_streams(loop),
-        make_bluetooth_door(loop, message_boxes, resources, defaults, !asked.without_display()),
-        nullptr};
+    link_doors link{tcp_streams(loop), nullptr, nullptr};
+    link.bluetooth =
+        make_bluetooth_door(loop, message_boxes, resources, defaults, !asked.without_display());
     if (asked.record) {
         if (!start_recording(recorder, asked, static_cast<int>(defaults.integer(KS_INTERFACE_KEY))))
             return USAGE_STATUS;
@@ -253,6 +266,8 @@ int run(QApplication& application, const cli_request& asked) {
                                link.make_streams, link.serial_port()},
                               all_screens());
     main_window window(delegate);
+    if (first_start)
+        window.offer_first_steps([&] { car = connect_to_virtual_car(delegate); });
     first_paint painted;
     if (asked.quit_when_shown)
         window.installEventFilter(&painted);
@@ -265,9 +280,7 @@ int run(QApplication& application, const cli_request& asked) {
             window.close();
     });
     const auto leave = [&](int exit_status) {
-        status = exit_status;
-        if (asked.screenshot && !save_screenshot(window, *asked.screenshot))
-            status = FAILURE_STATUS;
+        status = save_screenshot(window, asked.screenshot) ? exit_status : FAILURE_STATUS;
         window.close();
         application.exit(status);
     };

@@ -1,5 +1,6 @@
 #include "bundle.h"
 #include "canvas.h"
+#include "casing.h"
 #include "curve_reduction.h"
 #include "drawChartyItem.h"
 #include "fixed_decimals.h"
@@ -169,7 +170,8 @@ QImage curve_picture(drawing_bench& bench, drawChartyItem& chart, std::size_t ro
     const chart_area plot = chart.plot_area();
     const chart_limits axes{0, static_cast<double>(rows), drawChartyItem::lower_limit(labels[0]),
                             drawChartyItem::upper_limit(labels[0])};
-    const curve_style style{drawChartyItem::setMyColor(0), 1.8, plot.y, antialiased};
+    const curve_style style{drawChartyItem::setMyColor(0), casing_of(drawChartyItem::setMyColor(0)),
+                            1.8, plot.y, antialiased};
     if (how == way::literal)
         paint_every_segment(target, samples, 0, window, plot, axes, style);
     else

@@ -3,6 +3,7 @@
 #include "shadow.h"
 
 #include <QFontMetricsF>
+#include <QPainterPath>
 
 #include <algorithm>
 #include <cmath>
@@ -155,8 +156,15 @@ void canvas::text(double x, double y, const QString& text, const QFont& font, co
     text_on_base_line(x, y + QFontMetricsF(font).descent(), text, font, ink);
 }
 
+void canvas::text_edge(double x, double y, const QString& text, const QFont& font,
+                       const QColor& edge, double width) {
+    QPainterPath letters;
+    letters.addText(flipped(x, y + QFontMetricsF(font).descent()), font, text);
+    painter_.strokePath(letters, QPen(edge, 2 * width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+}
+
 void canvas::text_within(double room, int smallest, double x, double y, const QString& text,
-                         QFont font, const QColor& ink) {
+                         QFont font, const QColor& ink, Qt::TextElideMode cut) {
     const double base_y = y + QFontMetricsF(font).descent();
     const double wide = text_width(font, text);
     if (wide <= room) {
@@ -165,10 +173,9 @@ void canvas::text_within(double room, int smallest, double x, double y, const QS
     }
     const int fitting = static_cast<int>(font.pixelSize() * room / wide);
     font.setPixelSize(std::max(smallest, fitting));
-    const bool cut = fitting < smallest;
-    text_on_base_line(x, base_y,
-                      cut ? QFontMetricsF(font).elidedText(text, Qt::ElideRight, room) : text, font,
-                      ink);
+    const bool too_long = fitting < smallest;
+    text_on_base_line(x, base_y, too_long ? QFontMetricsF(font).elidedText(text, cut, room) : text,
+                      font, ink);
 }
 
 void canvas::fill(const QRectF& area, const QBrush& brush) {

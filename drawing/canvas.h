@@ -59,10 +59,13 @@ class canvas {
 
     // (x, y) is the lower-left corner of the text's line box, descent included.
     void text(double x, double y, const QString& text, const QFont& font, const QColor& ink);
+    // The edge that parts such a text from what stands behind it, `width` units around its letters.
+    void text_edge(double x, double y, const QString& text, const QFont& font, const QColor& edge,
+                   double width);
     // Like text(), but not wider than `room`: in smaller letters, down to `smallest`, then cut with
-    // an ellipsis. The base line stays where it is for the full size.
+    // an ellipsis, at `cut`. The base line stays where it is for the full size.
     void text_within(double room, int smallest, double x, double y, const QString& text, QFont font,
-                     const QColor& ink);
+                     const QColor& ink, Qt::TextElideMode cut = Qt::ElideRight);
     void fill(const QRectF& area, const QBrush& brush);
     // A translucent rectangle to the nearest pixel: QPainter shares so large a one among threads,
     // which takes longer than the work.

@@ -1,11 +1,13 @@
 #include "curve_painter.h"
 
 #include "canvas.h"
+#include "casing.h"
 #include "saturate.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <initializer_list>
 #include <iterator>
 #include <optional>
 
@@ -27,6 +29,15 @@ struct column_spans {
     void set(int column, int from, int to) {
         top[at(column)] = from;
         end[at(column)] = to;
+    }
+    // False when the column holds lines apart from these.
+    bool join(int column, int from, int to) {
+        if (!free(column) && (from > end[at(column)] || to < top[at(column)]))
+            return false;
+        const bool first = free(column);
+        set(column, first ? from : std::min(from, top[at(column)]),
+            first ? to : std::max(to, end[at(column)]));
+        return true;
     }
     static std::size_t at(int column) { return static_cast<std::size_t>(column); }
 
@@ -138,8 +149,12 @@ class pixel_layer {
 
     // A unit to either side of the run's points; columns next to each other overlap by half.
     void add_run(const column_run& run) {
-        add_half(left_halves_, run, run.x - 1);
-        add_half(right_halves_, run, run.x);
+        add_part(left_halves_, run, run.x - 1, run.x, 1);
+        add_part(right_halves_, run, run.x, run.x + 1, 1);
+    }
+    void add_casing(const column_run& run) {
+        constexpr int SPREAD = 1 + static_cast<int>(CASING_WIDTH);
+        add_part(left_halves_, run, run.x - SPREAD, run.x + SPREAD, SPREAD);
     }
 
     void paint(QRgb ink, QRgb shade) {
@@ -170,20 +185,15 @@ class pixel_layer {
         return static_cast<int>(units * scale_ + (units < 0 ? -0.5 : 0.5));
     }
 
-    void add_half(column_spans& spans, const column_run& run, int x) {
+    void add_part(column_spans& spans, const column_run& run, int from_x, int to_x, int spread) {
         const int high = std::clamp(run.high, -FARTHEST, FARTHEST);
         const int low = std::clamp(run.low, -FARTHEST, FARTHEST);
-        const QRect half = QRect(QPoint(nearest(x), nearest(height_ - high - 1)),
-                                 QPoint(nearest(x + 1.0) - 1, nearest(height_ - low + 1) - 1)) &
+        const QRect part = QRect(QPoint(nearest(from_x), nearest(height_ - high - spread)),
+                                 QPoint(nearest(to_x) - 1, nearest(height_ - low + spread) - 1)) &
                            image_.rect();
-        if (half.isEmpty())
-            return;
-        if (!spans.free(half.left())) {
-            more_runs_.push_back(half); // between gaps
-            return;
-        }
-        for (int px = half.left(); px <= half.right(); ++px)
-            spans.set(px, half.top(), half.bottom() + 1);
+        for (int px = part.left(); px <= part.right(); ++px)
+            if (!spans.join(px, part.top(), part.bottom() + 1))
+                more_runs_.push_back(QRect(px, part.top(), 1, part.height())); // between gaps
     }
 
     QImage& image_;
@@ -221,28 +231,34 @@ std::optional<QLineF> within_reach(const QLineF& line) {
 using run_iterator = std::vector<column_run>::const_iterator;
 
 // Whether a run between `first` and `end` paints all from one y to the other.
-bool any_covers(run_iterator first, run_iterator end, int y, int other_y) {
+bool any_covers(run_iterator first, run_iterator end, int y, int other_y, int margin) {
     return std::any_of(first, end, [&](const column_run& run) {
-        return run.count > ONE_SEGMENT && std::min(y, other_y) >= run.low &&
-               std::max(y, other_y) <= run.high;
+        return run.count > ONE_SEGMENT && std::min(y, other_y) - margin >= run.low &&
+               std::max(y, other_y) + margin <= run.high;
     });
 }
 
 // Whether nothing can be seen of the segment that leads to `to`, since both columns cover it.
-bool is_hidden(const std::vector<column_run>& runs, run_iterator to) {
+// The ends of a wide line reach farther than the columns do, up and down when it is steep, sideways
+// when it is not.
+bool is_hidden(const std::vector<column_run>& runs, run_iterator to, bool wide) {
+    constexpr int STEEP = 4;
     const auto from = to - 1;
     if (std::int64_t{to->x} - from->x != 1)
         return false;
+    if (wide && std::abs(std::int64_t{to->first} - from->last) < STEEP)
+        return false;
+    const int margin = wide ? 1 : 0;
     const auto is_in = [](int x) { return [x](const column_run& run) { return run.x == x; }; };
     const auto from_start =
         std::find_if_not(std::make_reverse_iterator(to), runs.rend(), is_in(from->x)).base();
     const auto to_end = std::find_if_not(to, runs.end(), is_in(to->x));
-    return any_covers(from_start, to, from->last, to->first) &&
-           any_covers(to, to_end, from->last, to->first);
+    return any_covers(from_start, to, from->last, to->first, margin) &&
+           any_covers(to, to_end, from->last, to->first, margin);
 }
 
 // The segments across columns, and those that are a column's only one.
-QVector<QLineF> lines_of(const canvas& target, const std::vector<column_run>& runs) {
+QVector<QLineF> lines_of(const canvas& target, const std::vector<column_run>& runs, bool wide) {
     QVector<QLineF> lines;
     lines.reserve(static_cast<qsizetype>(runs.size()));
     const auto add = [&](int from_x, int from_y, int to_x, int to_y) {
@@ -253,7 +269,7 @@ QVector<QLineF> lines_of(const canvas& target, const std::vector<column_run>& ru
             lines << *line;
     };
     for (auto to = runs.begin(); to != runs.end(); ++to) {
-        if (to->joined && to != runs.begin() && !is_hidden(runs, to))
+        if (to->joined && to != runs.begin() && !is_hidden(runs, to, wide))
             add((to - 1)->x, (to - 1)->last, to->x, to->first);
         if (to->count == ONE_SEGMENT)
             add(to->x, to->low, to->x, to->high);
@@ -261,21 +277,32 @@ QVector<QLineF> lines_of(const canvas& target, const std::vector<column_run>& ru
     return lines;
 }
 
-void paint_segments(canvas& target, const std::vector<column_run>& runs, const curve_style& style) {
-    const QVector<QLineF> lines = lines_of(target, runs);
-    QPainter& painter = target.painter();
-    painter.setRenderHint(QPainter::Antialiasing, style.antialiased);
-    for (const double width : {FIRST_PASS_WIDTH, style.line_width}) {
-        painter.setPen(QPen(style.ink, width));
-        painter.drawLines(lines);
+void paint_lines(canvas& target, const QVector<QLineF>& lines, const QColor& ink,
+                 std::initializer_list<double> widths) {
+    for (const double width : widths) {
+        target.painter().setPen(QPen(ink, width));
+        target.painter().drawLines(lines);
     }
+}
+
+void paint_casing(canvas& target, const std::vector<column_run>& runs, const curve_style& style) {
+    pixel_layer layer(target);
+    for (const column_run& run : runs)
+        if (run.count > ONE_SEGMENT)
+            layer.add_casing(run);
+    layer.paint(qPremultiply(style.casing.rgba()), 0);
+    paint_lines(target, lines_of(target, runs, true), style.casing,
+                {style.line_width + 2 * CASING_WIDTH});
 }
 
 } // namespace
 
 void paint_curve(canvas& target, const std::vector<column_run>& runs, const curve_style& style) {
     target.painter().save();
+    target.painter().setRenderHint(QPainter::Antialiasing, style.antialiased);
+    paint_casing(target, runs, style);
     paint_pixels(target, runs, style);
-    paint_segments(target, runs, style);
+    paint_lines(target, lines_of(target, runs, false), style.ink,
+                {FIRST_PASS_WIDTH, style.line_width});
     target.painter().restore();
 }

@@ -10,12 +10,13 @@
 class canvas;
 
 struct curve_style {
-    QColor ink; // opaque
+    QColor ink, casing; // opaque
     double line_width;
     int base_y;              // the area under the curve ends here
     bool antialiased = true; // off only to compare pictures
 };
 
-// The area under the curve, what each pixel column holds of it, and its segments across columns.
+// The casing, the area under the curve, what each pixel column holds of it, and its segments across
+// columns.
 // Takes as long as there are runs, however many samples they stand for.
 void paint_curve(canvas& target, const std::vector<column_run>& runs, const curve_style& style);

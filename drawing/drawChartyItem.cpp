@@ -50,6 +50,7 @@ void drawChartyItem::use_this_pids(std::vector<std::string> pids) {
         return;
     _pid_logitems_list = std::move(pids);
     names_.clear();
+    widest_value_ = 0;
     for (const std::string& pid : _pid_logitems_list)
         names_.push_back(parameter_name(toolies, pid));
 }

@@ -47,12 +47,16 @@ class drawChartyItem {
     void draw_empty_background();
 
     void use_this_pids(std::vector<std::string> pids);
+    // Another run's values say nothing of the width that this one's need.
+    void forget_widths() { widest_value_ = 0; }
     void update_cur_sample(sample_set samples) { cur_sample_set = std::move(samples); }
     // -1: none; the first parameter's axis is shown.
     void set_item_2_plot(int index) { cur_item_2_PLOT = index; }
     void updateNoOfPlots(std::set<int> indices) { cur_ITEMS_2_PLOT = std::move(indices); }
     // Rows to show, the last ones; -1 for all.
     void setNumberPointsToPlot(int count) { SHOW_THESE_MANY_LAST_POINTS = count; }
+    // When the rows were, written below the plot at the right.
+    void set_time_span(std::string text) { time_span_ = std::move(text); }
     void setThumbnail(bool yes) { is_thumbnail = yes; }
     void set_thumb_selected(bool yes) { is_thumb_selected = yes; }
 
@@ -76,12 +80,14 @@ class drawChartyItem {
     double get_OBDVal(std::string_view reply) const;
     // A curve's colour; black beyond the table.
     static QColor setMyColor(int index);
+    static QColor axis_figures();
     static chart_point scale_point(int x, double this_y, int scr_x, int scr_y, int scr_width,
                                    int src_height, double maxX, double minX, double maxY,
                                    double minY);
 
     // One record a parameter: the span of all samples but the first, or the middle half of the
-    // catalogue's range while there are fewer than two.
+    // catalogue's range while there are fewer than two. Where nothing has a span it is the
+    // catalogue's range, or one to either side of the value.
     label_records work_out_labels(const sample_rows& samples) const;
     // The same before a run: the lower quarter stands first. Once real-time samples exist, what the
     // caller's sample set says.
@@ -120,7 +126,7 @@ class drawChartyItem {
         bool thumbnail = false, selected = false;
         chart_area plot;
         std::vector<value_axis> axes;
-        std::string title;
+        std::string title, time_span;
         bool operator==(const grid_look&) const = default;
     };
     grid_look look_of_grid(const label_records& labels, std::string_view title) const;
@@ -140,6 +146,7 @@ class drawChartyItem {
     void display_value(canvas& target);
     void display_value_4_thumbnail(canvas& target);
     void paint_readout(canvas& target, double x, double y, const readout_look& look);
+    QFont value_font(const QString& value, double room, const readout_look& look);
     void paint_level_bar(canvas& target, int segments);
 
     void start_realtime_curve(std::size_t parameter, const std::string& text);
@@ -154,6 +161,8 @@ class drawChartyItem {
     QSizeF chartySize{1, 1};
     double pixel_scale_ = 1;
     double stretch_ = 1;
+    double widest_value_ = 0; // of the read-out, at its full size
+    int widest_of_ = -1;      // the parameter that this is of
     double last_OBD_val = 0;
     int r_prev_x = 0, r_prev_y = 0;
     bool r_prev_is_gap = true; // no segment leads on from there
@@ -167,18 +176,13 @@ class drawChartyItem {
     std::vector<std::string> _pid_logitems_list;
     std::vector<std::string> names_; // of those PIDs: reading them takes a table
     sample_set cur_sample_set;
+    std::string time_span_;
     bool some_sampling_done = false;
     bool is_thumbnail = true;
     bool is_thumb_selected = false;
     int SHOW_THESE_MANY_LAST_POINTS = -1;
 
-    // The latest grids, the newest first. While a row fills up, its open places pull the axes to 0
-    // and let go of them one by one: with two axes three looks come and go with every row.
-    static constexpr std::size_t KEPT_GRIDS = 3;
-    struct kept_grid {
-        grid_look look;
-        QImage image;
-    };
-    const QImage& grid_of(grid_look look);
-    std::vector<kept_grid> grids_;
+    // The latest grid: most samples change no axis.
+    grid_look grid_look_;
+    QImage grid_;
 };

@@ -1,4 +1,5 @@
 #include "canvas.h"
+#include "casing.h"
 #include "curve_painter.h"
 #include "drawChartyItem.h"
 #include "fixed_decimals.h"
@@ -65,9 +66,9 @@ void drawChartyItem::plot_one_curve(canvas& target, const sample_rows& points,
     const chart_limits limits{static_cast<double>(window.first), static_cast<double>(end),
                               lower_limit(label), upper_limit(label)};
     const std::vector<column_run> runs = reduce_curve(points, parameter, window, drawSizes, limits);
+    const QColor ink = setMyColor(static_cast<int>(parameter));
     paint_curve(target, runs,
-                {setMyColor(static_cast<int>(parameter)),
-                 is_thumbnail ? THUMBNAIL_LINE_WIDTH : LARGE_LINE_WIDTH,
+                {ink, casing_of(ink), is_thumbnail ? THUMBNAIL_LINE_WIDTH : LARGE_LINE_WIDTH,
                  scale_y(limits.min_y, drawSizes, limits)});
     const sample_stretch all = points.summary(parameter, window.first, end);
     last_OBD_val = all.open_end().count > 0 ? points.value(all.last_row, parameter) : NO_NUMBER;

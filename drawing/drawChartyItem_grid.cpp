@@ -1,4 +1,5 @@
 #include "canvas.h"
+#include "casing.h"
 #include "drawChartyItem.h"
 
 #include <algorithm>
@@ -28,10 +29,14 @@ QRectF rect_of(const chart_area& area) {
 
 } // namespace
 
+QColor drawChartyItem::axis_figures() {
+    return AXIS_VALUE;
+}
+
 drawChartyItem::grid_look drawChartyItem::look_of_grid(const label_records& labels,
                                                        std::string_view title) const {
-    grid_look look{chartySize, pixel_scale_, is_thumbnail,      is_thumb_selected,
-                   {},         {},           std::string(title)};
+    grid_look look{chartySize, pixel_scale_, is_thumbnail,       is_thumb_selected,
+                   {},         {},           std::string(title), time_span_};
     std::vector<int> shown;
     if (has_two_axes())
         shown = {*cur_ITEMS_2_PLOT.begin(), *std::next(cur_ITEMS_2_PLOT.begin())};
@@ -57,22 +62,13 @@ drawChartyItem::grid_look drawChartyItem::look_of_grid(const label_records& labe
 void drawChartyItem::draw_grid(const label_records& labels, std::string_view this_title) {
     grid_look look = look_of_grid(labels, this_title);
     drawSizes = look.plot;
-    copy_picture(grid_of(std::move(look)), image_);
-}
-
-const QImage& drawChartyItem::grid_of(grid_look look) {
-    auto grid = std::ranges::find(grids_, look, &kept_grid::look);
-    if (grid == grids_.end()) {
-        if (grids_.size() < KEPT_GRIDS)
-            grids_.emplace_back();
-        grid = grids_.end() - 1;
-        grid->image = empty_image(chartySize, pixel_scale_);
-        canvas target(grid->image);
+    if (grid_.isNull() || look != grid_look_) {
+        grid_ = empty_image(chartySize, pixel_scale_);
+        canvas target(grid_);
         paint_grid(target, look);
-        grid->look = std::move(look);
+        grid_look_ = std::move(look);
     }
-    std::rotate(grids_.begin(), grid, grid + 1);
-    return grids_.front().image;
+    copy_picture(grid_, image_);
 }
 
 void drawChartyItem::paint_grid(canvas& target, const grid_look& look) {
@@ -87,7 +83,10 @@ void drawChartyItem::paint_grid(canvas& target, const grid_look& look) {
     // Above the plot: long values reach into it and are to be read whole.
     for (const value_axis& axis : look.axes)
         print_axis_values_4_grid(target, axis, look.plot);
-    target.text(0, 0, qstring(look.title), image_font(QStringLiteral("Arial"), 10), TITLE);
+    const QFont title_font = image_font(QStringLiteral("Arial"), 10);
+    target.text(0, 0, qstring(look.title), title_font, TITLE);
+    const QString span = qstring(look.time_span);
+    target.text(target.width() - text_width(title_font, span) - 2, 0, span, title_font, TITLE);
     if (look.thumbnail)
         paint_highlight(target, look.selected);
 }
@@ -142,6 +141,7 @@ void drawChartyItem::print_axis_values_4_grid(canvas& target, const value_axis& 
         const QString text = qstring(marks.texts[i]);
         // Not beyond the right edge, where long values of a second axis would be cut.
         const double x = std::min(axis.x + 5, target.width() - text_width(value_font, text));
+        target.text_edge(x, marks.y[i], text, value_font, casing_of(AXIS_VALUE), CASING_WIDTH);
         target.text(x, marks.y[i], text, value_font, AXIS_VALUE);
     }
     target.text(axis.x - 2, plot.y + plot.height - 2, QLatin1Char(' ') + qstring(axis.units),

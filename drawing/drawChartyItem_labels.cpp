@@ -6,16 +6,34 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
 constexpr int LABEL_DECIMALS = 6;
 constexpr double QUARTER = 0.25;
+constexpr double HALF_SPAN_OF_NOTHING = 1;
+
+struct span {
+    double lower, upper;
+};
+
+// What never changed is shown within all that it could be: an axis from a value to the same value
+// would put the curve outside the plot.
+span with_room(span values, span catalogue) {
+    if (values.upper != values.lower)
+        return values;
+    if (catalogue.upper == catalogue.lower)
+        return {values.lower - HALF_SPAN_OF_NOTHING, values.upper + HALF_SPAN_OF_NOTHING};
+    return {std::fmin(catalogue.lower, values.lower), std::fmax(catalogue.upper, values.upper)};
+}
 
 } // namespace
 
 double drawChartyItem::get_OBDVal(std::string_view reply) const {
-    return sample_rows::chart_number(toolies.translateResponse(reply));
+    const std::string text = toolies.translateResponse(reply);
+    return text.empty() || text == "-" ? std::numeric_limits<double>::quiet_NaN()
+                                       : leading_number(text);
 }
 
 label_records drawChartyItem::work_out_labels(const sample_rows& samples) const {
@@ -24,14 +42,13 @@ label_records drawChartyItem::work_out_labels(const sample_rows& samples) const 
         const std::string& pid = _pid_logitems_list[i];
         const auto [min, max] = parameter_range(toolies, pid);
         const double quarter = (max - min) * QUARTER;
-        double upper = max - quarter;
-        double lower = min + quarter;
-        if (samples.rows() > 1 && i < samples.parameters()) {
-            upper = std::fmax(min, samples.highest(i));
-            lower = std::fmin(max, samples.lowest(i));
-        }
-        labels.push_back({names_[i], parameter_units(toolies, pid), fixed_decimals(upper, LABEL_DECIMALS),
-                          fixed_decimals(lower, LABEL_DECIMALS)});
+        span shown{min + quarter, max - quarter};
+        if (i < samples.parameters() && !std::isnan(samples.highest(i)))
+            shown = {std::fmin(max, samples.lowest(i)), std::fmax(min, samples.highest(i))};
+        shown = with_room(shown, {min, max});
+        labels.push_back({names_[i], parameter_units(toolies, pid),
+                          fixed_decimals(shown.upper, LABEL_DECIMALS),
+                          fixed_decimals(shown.lower, LABEL_DECIMALS)});
     }
     return labels;
 }
@@ -55,12 +72,17 @@ label_records drawChartyItem::work_out_labels_4_realtime() const {
     return labels;
 }
 
+// A value that has no step is moved to 0, which need not hold it: then it stays the limit itself.
 double drawChartyItem::upper_limit(const label_record& record) {
-    return get_ceiling_or_floor(leading_number(record.upper), true);
+    const double value = leading_number(record.upper);
+    const double moved = get_ceiling_or_floor(value, true);
+    return moved == 0 ? std::fmax(value, moved) : moved;
 }
 
 double drawChartyItem::lower_limit(const label_record& record) {
-    return get_ceiling_or_floor(leading_number(record.lower), false);
+    const double value = leading_number(record.lower);
+    const double moved = get_ceiling_or_floor(value, false);
+    return moved == 0 ? std::fmin(value, moved) : moved;
 }
 
 double drawChartyItem::get_width_of_axis_label(const label_record& record) const {

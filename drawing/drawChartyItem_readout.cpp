@@ -5,6 +5,8 @@
 
 #include <QGuiApplication>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int LARGE_SEGMENTS = 12;
@@ -35,11 +37,12 @@ namespace {
 
 // Condensed letters, which get their proportions back where the picture is stretched.
 void squeezed_text(canvas& target, double squeeze, double room, int smallest, double x, double y,
-                   const QString& text, const QFont& font, const QColor& ink) {
+                   const QString& text, const QFont& font, const QColor& ink,
+                   Qt::TextElideMode cut = Qt::ElideRight) {
     QPainter& painter = target.painter();
     painter.save();
     painter.scale(squeeze, 1);
-    target.text_within(room / squeeze, smallest, x / squeeze, y, text, font, ink);
+    target.text_within(room / squeeze, smallest, x / squeeze, y, text, font, ink, cut);
     painter.restore();
 }
 
@@ -67,26 +70,43 @@ void drawChartyItem::paint_readout(canvas& target, double x, double y, const rea
     if (cur_item_2_PLOT < 0 || k >= cur_sample_set.size() || k >= names_.size())
         return;
     const double room = target.width() - x - RIGHT_MARGIN;
-    squeezed_text(target, look.squeeze, room, look.smallest_value_pixels, x, y,
-                  qstring(cur_sample_set[k][1]),
-                  image_font(QStringLiteral("Arial"), look.value_pixels), white(look.value_alpha));
+    const QString value = qstring(cur_sample_set[k][1]);
+    squeezed_text(target, look.squeeze, room, look.smallest_value_pixels, x, y, value,
+                  value_font(value, room / look.squeeze, look), white(look.value_alpha));
     const double name_y = y - NAME_BELOW_VALUE;
     target.put(readout_name_, names_[k], [&](canvas& alone) {
         squeezed_text(alone, look.squeeze, room, look.smallest_name_pixels, x, name_y,
-                      qstring(names_[k]), system_font(look.name_pixels), white(0.8));
+                      qstring(names_[k]), system_font(look.name_pixels), white(0.8),
+                      Qt::ElideMiddle); // bank and sensor stay at its end
     });
     paint_level_bar(target, look.segments);
 }
 
-// The lowest segment is lit even at the minimum.
+// Of a size that the widest value so far needs: figures that grew and shrank with each value could
+// not be read.
+QFont drawChartyItem::value_font(const QString& value, double room, const readout_look& look) {
+    if (widest_of_ != cur_item_2_PLOT) {
+        widest_of_ = cur_item_2_PLOT;
+        widest_value_ = 0;
+    }
+    QFont font = image_font(QStringLiteral("Arial"), look.value_pixels);
+    widest_value_ = std::max(widest_value_, text_width(font, value));
+    if (widest_value_ > room)
+        font.setPixelSize(std::max(look.smallest_value_pixels,
+                                   static_cast<int>(look.value_pixels * room / widest_value_)));
+    return font;
+}
+
+// The lowest segment is lit even at the minimum; none is for what is no value.
 void drawChartyItem::paint_level_bar(canvas& target, int segments) {
     const auto k = static_cast<std::size_t>(cur_item_2_PLOT);
     if (k >= _pid_logitems_list.size())
         return;
     const std::string& pid = _pid_logitems_list[k];
     const value_range range = parameter_range(toolies, pid);
-    const int level =
-        level_of(leading_number(cur_sample_set[k][1]), range.low, range.high, segments);
+    const std::string& text = cur_sample_set[k][1];
+    const bool number = text.find_first_of("0123456789") < 2; // behind a sign
+    const int level = number ? level_of(leading_number(text), range.low, range.high, segments) : -1;
     target.put(level_bar_, std::to_string(level), [&](canvas& alone) {
         const QColor lit = colour(1, 1, 0, 0.4);
         for (int i = 0; i < segments; ++i) {

@@ -10,10 +10,10 @@
 
 #include <QFile>
 #include <QFontMetricsF>
-#include <QPainterPath>
 #include <QSvgRenderer>
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -31,6 +31,9 @@ const QColor FOOT = colour(7.0 / 255, 8.0 / 255, 9.0 / 255); // of the empty dia
 const QColor NAME_INK = colour(0.3450980484485626, 0.9803921580314636, 0.5098039507865906, 1.0);
 const QColor NEEDLE_RIGHT = colour(1.0, 0.125490203499794, 0, 0.9);
 const QColor NEEDLE_LEFT = colour(1.0, 0.1882352977991104, 0, 0.9);
+const QColor GREY_RIGHT = colour(0.55, 0.55, 0.55, 0.9);
+const QColor GREY_LEFT = colour(0.62, 0.62, 0.62, 0.9);
+const QColor DIMMED = colour(0, 0, 0, 0.55);
 const QColor HUB = colour(0.5333333611488342, 0.5333333611488342, 0.5333333611488342, 0.8);
 const QColor GLOW = colour(1, 0, 0, 0.8); // as opaque as what casts it
 constexpr double HUB_RADIUS = 22;
@@ -66,27 +69,16 @@ QFont fitting_label_font(const std::array<std::string, 11>& labels) {
     return label_font(SMALLEST_LABEL_PIXELS);
 }
 
-// What stands behind the letters is parted from them.
-void paint_edge(canvas& target, double x, double y, const QString& text, const QFont& font,
-                const QColor& edge) {
-    QPainterPath letters;
-    letters.addText(target.flipped(x, y + QFontMetricsF(font).descent()), font, text);
-    target.painter().strokePath(
-        letters, QPen(edge, 2 * NAME_EDGE, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-}
-
 // Centred on `x`; letters are condensed rather than run into what stands beside.
-void condensed_text(canvas& target, double room, double x, double y, const QString& text,
-                    const QFont& font, const QColor& ink, const QColor& edge = Qt::transparent) {
+void condensed_text(canvas& target, double room, double x, const QString& text, const QFont& font,
+                    const std::function<void(double left)>& paint) {
     const double wide = text_width(font, text);
     const double squeeze = wide > room && room > 0 ? room / wide : 1;
     QPainter& painter = target.painter();
     painter.save();
     painter.translate(x, 0);
     painter.scale(squeeze, 1);
-    if (edge.alpha() > 0)
-        paint_edge(target, -wide / 2, y, text, font, edge);
-    target.text(-wide / 2, y, text, font, ink);
+    paint(-wide / 2);
     painter.restore();
 }
 
@@ -105,7 +97,7 @@ void myGauge::set_pixel_scale(double pixels_a_unit) {
     if (pixels_a_unit == pixel_scale_ || !(pixels_a_unit > 0))
         return;
     pixel_scale_ = pixels_a_unit;
-    empty_dial_ = hub_.image = QImage();
+    empty_dial_ = hubs_[0].image = hubs_[1].image = QImage();
     if (cur_PID.empty())
         return;
     work_out_base_gauge();
@@ -160,27 +152,30 @@ void myGauge::work_out_base_gauge() {
     const double left = boxes.front().right() + LABEL_GAP;
     const double right = boxes.back().left() - LABEL_GAP;
     const double middle = gaugeSize.width() / 2;
+    // The name's edge comes before the units, whose feet stand right above it.
+    const QString name = qstring(parameter_name(toolies, cur_PID));
+    const QFont name_font = image_font(QStringLiteral("Helvetica"), NAME_PIXELS, true);
+    const double name_room = gaugeSize.width() - 2 * DIAL_EDGE;
+    condensed_text(target, name_room, middle, name, name_font,
+                   [&](double x) { target.text_edge(x, 0, name, name_font, FOOT, NAME_EDGE); });
     paint_units(target, 2 * std::min(middle - left, right - middle));
-    condensed_text(target, gaugeSize.width() - 2 * DIAL_EDGE, middle, 0,
-                   qstring(parameter_name(toolies, cur_PID)),
-                   image_font(QStringLiteral("Helvetica"), NAME_PIXELS, true), NAME_INK, FOOT);
+    condensed_text(target, name_room, middle, name, name_font,
+                   [&](double x) { target.text(x, 0, name, name_font, NAME_INK); });
 }
 
 // Between the first and the last label there is `room` for the units.
 void myGauge::paint_units(canvas& target, double room) const {
     const double middle = gaugeSize.width() / 2;
-    condensed_text(target, room, middle, 15, qstring(parameter_units(toolies, cur_PID)), label_font(),
-                   Qt::yellow);
-    if (range_scaling == 1)
-        return;
-    const QString times = qstring("x " + std::to_string(range_scaling));
-    condensed_text(target, gaugeSize.width(), middle, 45, times, label_font(), Qt::yellow);
+    const auto write = [&](double width, double y, const QString& text) {
+        condensed_text(target, width, middle, text, label_font(),
+                       [&](double x) { target.text(x, y, text, label_font(), Qt::yellow); });
+    };
+    write(room, 15, qstring(parameter_units(toolies, cur_PID)));
+    if (range_scaling != 1)
+        write(gaugeSize.width(), 45, qstring("x " + std::to_string(range_scaling)));
 }
 
-void myGauge::draw_cur_needle_value(double value) {
-    last_OBD_val = value;
-    if (image_without_needle.isNull())
-        return;
+QRect myGauge::restore_face() {
     const bool whole =
         face_is_new_ || !image_.isDetached() || image_.size() != image_without_needle.size();
     const QRect restored = whole ? image_without_needle.rect() : needle_pixels_;
@@ -189,50 +184,82 @@ void myGauge::draw_cur_needle_value(double value) {
     else
         copy_pixels(image_without_needle, image_, restored);
     face_is_new_ = false;
+    return restored;
+}
+
+void myGauge::draw_cur_needle_value(double value, needle look) {
+    last_OBD_val = value;
+    if (image_without_needle.isNull())
+        return;
+    const QRect restored = restore_face();
     canvas target(image_);
     needle_pixels_ =
         draw_gauge_needle_raw(target, NEEDLE_X, NEEDLE_Y, value / range_scaling, NEEDLE_START,
-                              NEEDLE_END, range_lo, range_hi, NEEDLE_WIDTH, NEEDLE_LENGTH);
+                              NEEDLE_END, range_lo, range_hi, NEEDLE_WIDTH, NEEDLE_LENGTH, look);
     changed_ = restored | needle_pixels_;
+}
+
+void myGauge::draw_without_needle(face look) {
+    if (image_without_needle.isNull())
+        return;
+    changed_ = restore_face();
+    canvas target(image_);
+    if (look == face::dimmed) {
+        target.painter().setCompositionMode(QPainter::CompositionMode_SourceAtop);
+        target.fill(QRectF(0, 0, target.width(), target.height()), DIMMED);
+        needle_pixels_ = image_.rect();
+    } else {
+        const QFont font = label_font();
+        const QRectF middle(NEEDLE_X - HUB_RADIUS, NEEDLE_Y - HUB_RADIUS, 2 * HUB_RADIUS,
+                            2 * HUB_RADIUS);
+        const QString nothing = QStringLiteral("-");
+        target.text(NEEDLE_X - text_width(font, nothing) / 2, middle.y(), nothing, font, Qt::white);
+        needle_pixels_ = target.pixels_of(middle);
+    }
+    changed_ |= needle_pixels_;
 }
 
 QRect myGauge::draw_gauge_needle_raw(canvas& target, int x, int at_y, double this_val,
                                      double alpha_min, double alpha_max, double min_val,
-                                     double max_val, double needle_w, double needle_h) {
+                                     double max_val, double needle_w, double needle_h,
+                                     needle look) {
     const double angle = needle_angle(this_val, alpha_min, alpha_max, min_val, max_val);
     const needle_points needle = needle_shape({static_cast<double>(x), static_cast<double>(at_y)},
                                               angle, needle_w, needle_h);
     const auto at = [&](dial_point p) { return target.flipped(p.x, p.y); };
     const QPolygonF right{at(needle.centre), at(needle.left), at(needle.tip)};
     const QPolygonF left{at(needle.centre), at(needle.right), at(needle.tip)};
+    const bool lit = look == ::needle::lit;
     QPainter& painter = target.painter();
     painter.setPen(Qt::NoPen);
-    painter.setBrush(NEEDLE_RIGHT);
+    painter.setBrush(lit ? NEEDLE_RIGHT : GREY_RIGHT);
     painter.drawPolygon(right);
-    painter.setBrush(NEEDLE_LEFT);
+    painter.setBrush(lit ? NEEDLE_LEFT : GREY_LEFT);
     painter.drawPolygon(left);
-    draw_hub(x, at_y, target);
-    painter.drawImage(hub_.at, hub_.image);
-    const QRectF hub(hub_.at, hub_.image.deviceIndependentSize());
-    return target.pixels_of(target.flipped(right.boundingRect() | left.boundingRect() | hub));
+    const cast_shadow& hub = hub_of(look, x, at_y, target);
+    painter.drawImage(hub.at, hub.image);
+    const QRectF round(hub.at, hub.image.deviceIndependentSize());
+    return target.pixels_of(target.flipped(right.boundingRect() | left.boundingRect() | round));
 }
 
-void myGauge::draw_hub(int x, int y, const canvas& target) {
-    if (!hub_.image.isNull())
-        return;
+const cast_shadow& myGauge::hub_of(needle look, int x, int y, const canvas& target) {
+    cast_shadow& kept = hubs_[look == needle::lit ? 0 : 1];
+    if (!kept.image.isNull())
+        return kept;
     const QRectF hub =
         target.flipped(QRectF(x - HUB_RADIUS, y - HUB_RADIUS, 2 * HUB_RADIUS, 2 * HUB_RADIUS));
     const double scale = std::max(1.0, pixel_scale_); // QPainter leaves out a smaller one
-    hub_ = cast_shadow_of(hub, GLOW_RADIUS, scale, GLOW,
+    kept = cast_shadow_of(hub, GLOW_RADIUS, scale, look == needle::lit ? GLOW : Qt::transparent,
                           [&hub](QPainter& painter) { painter.drawEllipse(hub); });
     const QImage glow =
-        std::exchange(hub_.image, empty_image(hub_.image.deviceIndependentSize(), scale));
-    QPainter painter(&hub_.image);
+        std::exchange(kept.image, empty_image(kept.image.deviceIndependentSize(), scale));
+    QPainter painter(&kept.image);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(-hub_.at);
+    painter.translate(-kept.at);
     painter.setPen(Qt::NoPen);
     painter.setBrush(HUB);
     painter.drawEllipse(hub);
-    painter.drawImage(hub_.at, glow);
+    painter.drawImage(kept.at, glow);
     painter.drawEllipse(hub);
+    return kept;
 }

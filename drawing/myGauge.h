@@ -19,6 +19,11 @@
 class bundle;
 class canvas;
 
+// How a needle is drawn: greyed when the latest reply gave no value.
+enum class needle { lit, greyed };
+// A face without a needle: of a dial whose first value is awaited, or that nothing moves.
+enum class face { awaiting, dimmed };
+
 class myGauge {
   public:
     // Both must outlive the dial.
@@ -31,8 +36,9 @@ class myGauge {
 
     // [low, high, scaling] for a PID's number, in the user's units.
     std::array<int, 3> gauge_range(unsigned pid) const;
-    // `value` in display units; NaN leaves the needle at the start of the scale.
-    void draw_cur_needle_value(double value);
+    // `value` in display units; NaN puts the needle to the start of the scale.
+    void draw_cur_needle_value(double value, needle look = needle::lit);
+    void draw_without_needle(face look);
 
     const QImage& imageRepresentation() const { return image_; }
     const QImage& image() const { return image_; }
@@ -62,12 +68,14 @@ class myGauge {
     void load_empty_dial();
     void work_out_base_gauge();
     void paint_units(canvas& target, double room) const;
+    // The face as it was before the needle was painted; returns where.
+    QRect restore_face();
     // Returns what it has painted upon.
     QRect draw_gauge_needle_raw(canvas& target, int x, int at_y, double this_val, double alpha_min,
                                 double alpha_max, double min_val, double max_val, double needle_w,
-                                double needle_h);
-    // Its picture, which stays as it is.
-    void draw_hub(int x, int y, const canvas& target);
+                                double needle_h, needle look);
+    // Its picture, which stays as it is; the hub of a greyed needle does not glow.
+    const cast_shadow& hub_of(needle look, int x, int y, const canvas& target);
 
     const bundle& resources_;
     const mac_toolies& toolies;
@@ -83,5 +91,5 @@ class myGauge {
 
     double pixel_scale_ = 1;
     QImage empty_dial_; // as loaded, at the pixel scale
-    cast_shadow hub_;   // the hub with its glow, as drawn over every needle
+    cast_shadow hubs_[2]; // the hub with and without its glow, as drawn over every needle
 };

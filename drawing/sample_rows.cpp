@@ -1,7 +1,5 @@
 #include "sample_rows.h"
 
-#include "fixed_decimals.h"
-
 #include <cstring>
 #include <limits>
 
@@ -46,10 +44,6 @@ void sample_rows::clear() {
     rows_ = 0;
 }
 
-double sample_rows::chart_number(std::string_view display_text) {
-    return display_text.empty() || display_text == "-" ? NO_NUMBER : leading_number(display_text);
-}
-
 void sample_rows::append_fresh_row() {
     if (rows_ > 0)
         complete_last_row();
@@ -58,7 +52,6 @@ void sample_rows::append_fresh_row() {
             c.chunks.push_back(std::make_unique<chunk>());
         value_at(c, rows_) = NO_NUMBER;
         c.chunks.back()->texts[rows_ % CHUNK].assign(UNFILLED);
-        c.newest_number = 0;
     }
     ++rows_;
 }
@@ -66,8 +59,8 @@ void sample_rows::append_fresh_row() {
 void sample_rows::complete_last_row() {
     for (column& c : columns_) {
         if (rows_ > 1) {
-            c.highest = std::fmax(c.highest, c.newest_number);
-            c.lowest = std::fmin(c.lowest, c.newest_number);
+            c.highest = std::fmax(c.highest, value_at(c, rows_ - 1));
+            c.lowest = std::fmin(c.lowest, value_at(c, rows_ - 1));
         }
         if (rows_ % BLOCK == 0)
             sum_up(c);
@@ -132,7 +125,6 @@ void sample_rows::file(std::size_t parameter, std::string_view reply, const tran
     } else {
         long_texts_.insert_or_assign(place, std::string(reply));
     }
-    c.newest_number = chart_number(meaning.text);
 }
 
 std::string_view sample_rows::text(std::size_t row, std::size_t parameter) const {
@@ -145,11 +137,11 @@ double sample_rows::value(std::size_t row, std::size_t parameter) const {
 }
 
 double sample_rows::highest(std::size_t parameter) const {
-    const column& c = columns_[parameter];
-    return rows_ > 1 ? std::fmax(c.highest, c.newest_number) : NO_NUMBER;
+    return rows_ > 1 ? std::fmax(columns_[parameter].highest, value(rows_ - 1, parameter))
+                     : NO_NUMBER;
 }
 
 double sample_rows::lowest(std::size_t parameter) const {
-    const column& c = columns_[parameter];
-    return rows_ > 1 ? std::fmin(c.lowest, c.newest_number) : NO_NUMBER;
+    return rows_ > 1 ? std::fmin(columns_[parameter].lowest, value(rows_ - 1, parameter))
+                     : NO_NUMBER;
 }

@@ -4,7 +4,7 @@
 //
 // Replies are translated once, when they are filed. The last row is the one being filled; the rows
 // before it are complete and never change. For each parameter the store keeps complete rows summed
-// up in blocks of 8, blocks of 8 of those and so on, so that what lies in any window is found
+// up in blocks of 16, blocks of 16 of those and so on, so that what lies in any window is found
 // without visiting its rows.
 #pragma once
 
@@ -51,8 +51,8 @@ class sample_rows {
         return columns_[parameter].filled(row);
     }
 
-    // The highest and lowest number, as a chart's labels count them, of all rows but the first; NaN
-    // while there are none.
+    // The highest and lowest number of all rows but the first; NaN while there are none. Neither an
+    // unfilled place nor an unusable reply is one.
     double highest(std::size_t parameter) const;
     double lowest(std::size_t parameter) const;
 
@@ -67,10 +67,6 @@ class sample_rows {
     void for_each_piece(std::size_t parameter, std::size_t first, std::size_t end,
                         Visitor& visitor) const;
     sample_stretch summary(std::size_t parameter, std::size_t first, std::size_t end) const;
-
-    // The number that a chart's labels take a display text for: 0 for "~" and other texts without a
-    // number, NaN for "-" and for no text.
-    static double chart_number(std::string_view display_text);
 
   private:
     static constexpr std::size_t CHUNK = 1024;
@@ -113,8 +109,7 @@ class sample_rows {
     struct column {
         std::vector<std::unique_ptr<chunk>> chunks;
         std::vector<block_level> levels;
-        double newest_number = 0; // of the last row, as labels count it
-        double highest, lowest;   // of complete rows from the second on
+        double highest, lowest; // of complete rows from the second on
 
         bool filled(std::size_t row) const {
             const short_text& text = chunks[row / CHUNK]->texts[row % CHUNK];

@@ -23,6 +23,10 @@ constexpr double RUN_SECONDS = 60;
 
 void nothing_chosen(stage&) {}
 
+void first_steps(stage& on) {
+    on.window.offer_first_steps([] {});
+}
+
 void codes(stage& on) {
     on.app.delegate->do_read_codes();
 }
@@ -56,6 +60,12 @@ void run(stage& on, int kind, double seconds) {
     live(on);
     on.app.find<QComboBox>("runSelectorCombo")->setCurrentIndex(kind);
     on.press("startStopBtn", seconds);
+}
+// The second parameter alone: nothing moves its dial.
+void unmoved_dial(stage& on) {
+    run(on, 0, RUN_SECONDS);
+    static_cast<thumbnail_strip*>(on.app.find("thumbiesMtrx"))->choose({1});
+    on.pass(5);
 }
 void log_run(stage& on) {
     run(on, 0, RUN_SECONDS);
@@ -227,6 +237,7 @@ void with_logging(user_defaults& store) {
 
 const std::vector<scene> ALL = {
     {"start", "Nothing chosen yet", nothing_chosen},
+    {"start-first", "A first start", first_steps, "can11", {}, app_harness::first_start},
     {"codes-empty", "Trouble codes, nothing read", codes},
     {"codes-busy", "Codes are being read", busy_codes, "can11", {{fault_kind::stall_after, 3}}},
     {"codes-read", "Codes read", read_codes},
@@ -253,6 +264,7 @@ const std::vector<scene> ALL = {
     {"live-idle", "Live data before a run", live},
     {"live-run", "A run", log_run},
     {"live-two-dials", "Two parameters chosen", two_dials},
+    {"live-unmoved-dial", "A dial that nothing moves", unmoved_dial},
     {"live-all-curves", "Four parameters chosen, zoomed in", all_curves},
     {"live-fuel", "Fuel consumption, metric units", fuel_run, "can11", {}, with_logging},
     {"live-sensors", "Oxygen sensors", sensor_run},

@@ -119,6 +119,7 @@ std::optional<std::string> log_file::create(const std::string& path, existing fi
     }
     path_ = path;
     fd_ = fd;
+    removed_when_empty_ = has_lines_ = false;
     return std::nullopt;
 }
 
@@ -136,8 +137,16 @@ std::optional<std::string> log_file::append_line(std::string_view lines) {
         [[maybe_unused]] const int cut = end >= 0 ? ::ftruncate(fd_, end) : 0;
         return fail(error);
     }
+    has_lines_ = has_lines_ || !lines.empty();
     flusher_->flush();
     return std::nullopt;
+}
+
+bool log_file::is_there() const {
+    struct stat opened {
+    }, named{};
+    return ::fstat(fd_, &opened) == 0 && ::lstat(path_.c_str(), &named) == 0 &&
+           S_ISREG(named.st_mode) && opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }
 
 std::optional<std::string> log_file::fail(int error) {
@@ -151,6 +160,8 @@ std::optional<std::string> log_file::close() {
     flusher_->finish();
     int error = flusher_->error();
     flusher_.reset();
+    if (removed_when_empty_ && !has_lines_ && is_there())
+        ::unlink(path_.c_str());
     if (::close(fd_) != 0 && error == 0)
         error = errno;
     fd_ = -1;

@@ -31,6 +31,11 @@ class log_file {
     // stood and closed, and the reason returned. What is appended to a closed file goes nowhere, without an error.
     std::optional<std::string> append_line(std::string_view lines);
 
+    // From now on a file into which no line came is removed when it is closed.
+    void leave_no_empty_file() { removed_when_empty_ = true; }
+    // Whether a line was taken since it was created.
+    bool has_lines() const { return has_lines_; }
+
     // Waits until all is on disk. The reason when the disk failed.
     std::optional<std::string> close();
 
@@ -41,8 +46,10 @@ class log_file {
     class disk_flusher;
 
     std::optional<std::string> fail(int error);
+    bool is_there() const; // under its name
 
     std::string path_;
     int fd_ = -1;
+    bool removed_when_empty_ = false, has_lines_ = false;
     std::unique_ptr<disk_flusher> flusher_;
 };

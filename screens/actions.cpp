@@ -6,6 +6,7 @@
 #include "live_view.h"
 #include "more_parameters.h"
 #include "parameters.h"
+#include "run_times.h"
 #include "status_line.h"
 #include "system_log.h"
 #include "thumbnail_strip.h"
@@ -19,6 +20,7 @@ namespace {
 constexpr char ALL_POINTS[] = "All sampling points";
 constexpr int FEWEST_POINTS = 20; // in the large chart when zoomed in fully
 constexpr QSizeF DIAL_SIZE(364, 286);
+constexpr char FOLLOW_CHART_KEY[] = "follow_the_chart";
 constexpr std::size_t SENSORS_A_PAGE = 4;
 
 std::string title_of_last(int points) {
@@ -30,7 +32,8 @@ std::string title_of_last(int points) {
 actions::actions(Ks_lite_delegate& delegate)
     : obd_screen(delegate), pictures_(toolies, delegate.doors().resources),
       frames_(delegate.doors().loop, [this] { draw_frame(); }), handshake_(*this) {
-    view_ = std::make_unique<live_view>(delegate, live_pictures::chart_size(), DIAL_SIZE);
+    view_ = std::make_unique<live_view>(delegate,
+                                        block_units{live_pictures::chart_size(), DIAL_SIZE, 83});
     use_status_line(view_->statusLbl());
     awakeFromNib();
 }
@@ -50,9 +53,12 @@ void actions::awakeFromNib() {
     view_->on_zoom = [this](double v) { zoomSliderDidChange(v); };
     view_->on_more_parameters = [this] { choose_more_parameters(); };
     view_->on_next_sensors = [this] { show_next_sensors(); };
+    view_->on_follow_chart = [this](bool yes) { follow_the_chart(yes); };
     view_->on_resized = [this] { frames_.request(); };
     view_->thumbiesMtrx().chosen = [this] { cellCicked(); };
     view_->thumbiesMtrx().exposed = [this] { frames_.request(); };
+    describe_pictures();
+    view_->show_follow_chart(KS_delegate.doors().defaults.boolean(FOLLOW_CHART_KEY));
     rework_gui_objects(g_cur_task);
     set_status_msg("");
 }
@@ -83,6 +89,7 @@ void actions::comboBoxSelectionDidChange(int index) {
     g_cur_task = run_choices()[static_cast<std::size_t>(index)].task;
     g_cur_mode = g_cur_task;
     rework_gui_objects(g_cur_task);
+    draw_frame(); // at once: what stands there belongs to another run
 }
 
 void actions::rework_gui_objects(int mode) {
@@ -111,6 +118,7 @@ void actions::build_views() {
         names.push_back(display_text(parameter_name(toolies, pid)));
     }
     cycle_values_.assign(_pid_logitems_list.size(), {});
+    first_request_ = cycle_filed_ = {};
     // The first thumbnail is selected, and moves the first dial.
     cur_thumbs_selected.clear();
     gauge_1_idx = 0;
@@ -118,6 +126,7 @@ void actions::build_views() {
     pictures_.rebuild(_pid_logitems_list);
     set_chart_title(ALL_POINTS);
     pictures_.set_points_shown(-1);
+    put_first_dial_back();
     view_->reset_zoom();
     view_->set_thumbnails(names);
     frames_.request();
@@ -140,9 +149,11 @@ void actions::runLogs() {
 void actions::run_a_log() {
     cur_log_points.clear();
     add_item_to_log_vector("-X", -1);
+    pictures_.forget_samples();
     frames_.request();
     run_ = make_live_run(g_cur_task, toolies);
     requests_answered_ = cycles_ = 0;
+    first_request_ = cycle_filed_ = {};
     waits_in_vain_ = 0;
     keep_logging = true;
     next_step_idx = 0;
@@ -220,8 +231,7 @@ void actions::handleOBDRcvdMsg(const std::string& text) {
 void actions::leave_cur_op_gracefully(const std::string&) {
     view_->show_waity(false);
     cur_log_idx = 0;
-    if (const auto why = log_out_stream.close())
-        log_failed(*why);
+    close_log();
     keep_logging = false;
     view_->show_running(false);
     end_task();
@@ -258,8 +268,62 @@ void actions::cellCicked() {
     cur_thumbs_selected = selected;
     choose_second_dial(selected, selected_before, shown_before);
     pictures_.set_large_chart(cur_pid_showing, cur_thumbs_selected);
-    pictures_.put_dial_back(0, _pid_logitems_list[static_cast<std::size_t>(cur_pid_showing)]);
+    put_first_dial_back();
     pictures_.use_realtime_labels(cur_log_points.rows() < 3);
+    frames_.request();
+}
+
+// Shows the large chart's parameter. What moves it is that parameter, in a fuel run and when it is
+// to follow the chart, or else the one of `gauge_1_idx`.
+bool actions::moves_first_dial() const {
+    const bool follows = g_cur_task == TASK_FUEL_ECONOMY
+                             ? pictures_.is_plotting(cur_pid_showing)
+                             : KS_delegate.doors().defaults.boolean(FOLLOW_CHART_KEY);
+    return follows || gauge_1_idx == cur_pid_showing;
+}
+
+void actions::put_first_dial_back() {
+    pictures_.put_dial_back(0, cur_pid_showing, moves_first_dial());
+}
+
+// A parameter's name, value with its unit, and range.
+QString actions::described(int index) const {
+    const auto place = static_cast<std::size_t>(index);
+    if (place >= _pid_logitems_list.size())
+        return {};
+    const std::string& pid = _pid_logitems_list[place];
+    const value_range range = parameter_range(toolies, pid);
+    return display_text(localized("ui_live_reading"))
+        .arg(display_text(parameter_name(toolies, pid)),
+             display_text(pictures_.has_reply(index) ? these_samples[place][1] : "-"),
+             QString::number(range.low),
+             QString::number(range.high) + u' ' +
+                 display_text(parameter_units(toolies, pid)).trimmed());
+}
+
+void actions::describe_pictures() {
+    thumbnail_strip& strip = view_->thumbiesMtrx();
+    strip.describe_cell = [this](int cell) { return described(cell); };
+    strip.describe = [this] {
+        QStringList all;
+        for (int i = 0; i < static_cast<int>(_pid_logitems_list.size()); ++i)
+            all.append(described(i));
+        return all.join(QStringLiteral("; "));
+    };
+    view_->chartFull().describe = [this] {
+        return described(cur_pid_showing) + QStringLiteral("; ") + display_text(pictures_.title());
+    };
+    view_->gauge_uno().describe = [this] {
+        return moves_first_dial() ? described(cur_pid_showing)
+                                  : display_text(localized("ui_live_dial_unmoved"));
+    };
+    view_->gauge_dos().describe = [this] { return described(gauge_2_idx); };
+}
+
+void actions::follow_the_chart(bool yes) {
+    KS_delegate.doors().defaults.set_boolean(FOLLOW_CHART_KEY, yes);
+    KS_delegate.doors().defaults.synchronize();
+    put_first_dial_back();
     frames_.request();
 }
 
@@ -273,7 +337,7 @@ void actions::choose_second_dial(const std::set<int>& selected, std::size_t sele
             std::ranges::find_if(selected, [this](int tag) { return tag != cur_pid_showing; });
         gauge_2_idx = *other;
         view_->show_second_dial(true);
-        pictures_.put_dial_back(1, _pid_logitems_list[static_cast<std::size_t>(gauge_2_idx)]);
+        pictures_.put_dial_back(1, gauge_2_idx, true);
     }
     if (selected.size() == 1) {
         view_->show_second_dial(false);
@@ -282,9 +346,8 @@ void actions::choose_second_dial(const std::set<int>& selected, std::size_t sele
 }
 
 void actions::zoomSliderDidChange(double v) {
-    const int points = v <= 0   ? FEWEST_POINTS
-                       : v >= 1 ? -1
-                                : static_cast<int>(static_cast<double>(cur_log_points.rows()) * v);
+    const auto share = static_cast<int>(static_cast<double>(cur_log_points.rows()) * v);
+    const int points = v >= 1 ? -1 : std::max(share, FEWEST_POINTS);
     pictures_.set_points_shown(points);
     set_chart_title(points < 0 ? ALL_POINTS : title_of_last(points));
     frames_.request();
@@ -329,5 +392,8 @@ void actions::draw_frame() {
     if (!view_->root()->isVisible())
         return; // becoming visible resizes the panel, which asks for a frame
     view_->show_zoom(cur_log_points.rows() > FEWEST_POINTS);
+    const auto length = cycle_filed_ - first_request_;
+    view_->show_length(display_text(
+        length.count() > 0 ? length_text(static_cast<std::uint64_t>(length.count())) : ""));
     pictures_.draw(*view_, cur_log_points, these_samples);
 }

@@ -90,6 +90,11 @@ class actions final : public obd_screen {
     void start_over_link();
     void choose_more_parameters();
     void set_chart_title(const std::string& title);
+    void put_first_dial_back();
+    bool moves_first_dial() const;
+    QString described(int index) const;
+    void describe_pictures();
+    void follow_the_chart(bool yes);
     void choose_second_dial(const std::set<int>& selected, std::size_t selected_before, int shown_before);
     void draw_frame();
     void show_status_now_and_then();
@@ -115,7 +120,7 @@ class actions final : public obd_screen {
     void note_reply(const std::string& reply);
     void add_item_to_log_vector(std::string_view this_item_val, int this_idx);
     void output_MPG_item(int index, const std::string& this_reply_cp);
-    void show_needle(int index);
+    void file_sample(const std::string& reply, int index);
     void complete_cycle();
     void end_by_timeout(const char* message);
     void fail_with_alert(const std::string& message);
@@ -123,6 +128,7 @@ class actions final : public obd_screen {
     // the log of the run
     void work_out_log_file();
     void write_log_line(const std::string& line);
+    void close_log();
     void log_failed(const std::string& why);
 
     std::unique_ptr<live_view> view_;
@@ -137,7 +143,7 @@ class actions final : public obd_screen {
     int cur_pid_showing = 0;
     std::set<int> cur_thumbs_selected;
     bool do_the_log = false;
-    log_file log_out_stream;
+    log_file log_out_stream, times_out_stream; // the second: when each of its lines was
     std::string cur_log_file_name;
     std::string log_failure_;
     int gauge_1_idx = 0, gauge_2_idx = -1;
@@ -157,6 +163,7 @@ class actions final : public obd_screen {
     int waits_in_vain_ = 0;   // for an answer that the adapter still owed
     int answers_in_step_ = 0; // since the last that was not
     std::uint64_t requests_answered_ = 0, cycles_ = 0;
+    run_loop::milliseconds first_request_{0}, cycle_filed_{0};
     bool status_changed_ = false;
     run_loop::milliseconds status_shown_{0};
 };

@@ -7,6 +7,7 @@
 #include "globalVars.h"
 #include "live_view.h"
 #include "parameters.h"
+#include "run_times.h"
 #include "sample_reply.h"
 #include "system_log.h"
 #include "text.h"
@@ -170,6 +171,7 @@ void actions::begin_cycle() {
         throw std::out_of_range("no PIDs selected");
     if (sampling_begins)
         sampling_begins();
+    first_request_ = cycle_filed_ = KS_delegate.doors().loop.now();
     ask(requests_.front());
 }
 
@@ -278,17 +280,17 @@ void actions::take_reply() {
     const std::string reply = run_->reply_to_file(asked, out_of_step ? "~" : *screened);
     note_reply(*screened);
     qCDebug(log_screens, "loggy:%s", reply.c_str());
-    add_item_to_log_vector(reply, cur_log_idx);
-    pictures_.use_realtime_labels(false);
-    pictures_.sample_changed(cur_log_idx);
-    show_needle(cur_log_idx);
-    frames_.request();
+    if (g_cur_task == TASK_FUEL_ECONOMY)
+        output_MPG_item(cur_log_idx, reply);
+    else
+        file_sample(reply, cur_log_idx);
 
     if (++cur_request_ < requests_.size()) {
         ask_next(order);
         return;
     }
     cur_request_ = 0;
+    cycle_filed_ = KS_delegate.doors().loop.now();
     if (const auto computed = run_->cycle_answered()) {
         cur_log_idx = computed->place;
         output_MPG_item(computed->place, computed->reply);
@@ -304,24 +306,16 @@ void actions::note_reply(const std::string& reply) {
     status_changed_ = true;
 }
 
-void actions::show_needle(int index) {
-    const double value = cycle_values_[static_cast<std::size_t>(index)].value;
-    if (index == gauge_1_idx)
-        pictures_.move_needle(0, value);
-    if (index == gauge_2_idx)
-        pictures_.move_needle(1, value);
+void actions::file_sample(const std::string& reply, int index) {
+    add_item_to_log_vector(reply, index);
+    pictures_.sample(index, cycle_values_[static_cast<std::size_t>(index)].value);
+    frames_.request();
 }
 
-// A computed item: unlike an answered one it moves the first dial when the large chart shows it.
+// An item of the fuel run, asked for or computed: there the first dial follows the large chart
+// (put_first_dial_back).
 void actions::output_MPG_item(int index, const std::string& this_reply_cp) {
-    add_item_to_log_vector(this_reply_cp, index);
-    pictures_.sample_changed(cur_log_idx);
-    const double value = cycle_values_[static_cast<std::size_t>(index)].value;
-    if (pictures_.is_plotting(index))
-        pictures_.move_needle(0, value);
-    if (cur_log_idx == gauge_2_idx)
-        pictures_.move_needle(1, value);
-    frames_.request();
+    file_sample(this_reply_cp, index);
 }
 
 // An answer to another request than the last means that the adapter owes one: it is awaited and
@@ -381,12 +375,31 @@ void actions::work_out_log_file() {
         cur_log_file_name.clear();
         const std::string no_folder = toolies.make_log_folder();
         log_failed(toolies.log_folder() + ": " + (no_folder.empty() ? *why : no_folder));
+        return;
     }
+    log_out_stream.leave_no_empty_file();
+    if (const auto why = times_out_stream.create(times_of_log(cur_log_file_name)))
+        log_failed(times_of_log(cur_log_file_name) + ": " + *why);
+    times_out_stream.leave_no_empty_file();
 }
 
 void actions::write_log_line(const std::string& line) {
-    if (const auto why = log_out_stream.append_line(line))
+    if (const auto why = log_out_stream.append_line(line)) {
         log_failed(*why);
+        return;
+    }
+    const auto time = std::to_string((cycle_filed_ - first_request_).count()) + "\n";
+    if (const auto why = times_out_stream.append_line(time))
+        log_failed(times_out_stream.path() + ": " + *why);
+}
+
+void actions::close_log() {
+    if (const auto why = log_out_stream.close())
+        log_failed(*why);
+    if (const auto why = times_out_stream.close())
+        log_failed(times_out_stream.path() + ": " + *why);
+    if (!log_out_stream.has_lines())
+        cur_log_file_name.clear(); // no file is left
 }
 
 // The run goes on; the mark stays until the next one starts.

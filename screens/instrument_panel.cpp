@@ -4,76 +4,119 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 
 namespace {
 
-// The part of the room's width or height that the dials take, at most.
-constexpr double DIALS_SHARE_BESIDE = 0.28;
-constexpr double DIALS_SHARE_BELOW = 0.42;
+enum class arrangement { beside_chart, beside_all, below };
 
-double scale_in(QSizeF units, double width, double height) {
-    return std::min(width / units.width(), height / units.height());
+struct solution {
+    arrangement how;
+    double scale = 0, dial_width = 0, drawn = 0;
+};
+
+double area(QSizeF size) {
+    return size.width() * size.height();
 }
 
-// The picture's width counts; its height follows.
-QRect place(QSizeF units, double width, int left, int top) {
-    const int whole = static_cast<int>(width);
-    return {left, top, whole, static_cast<int>(std::ceil(whole * units.height() / units.width()))};
+// The largest of that arrangement: strip and chart fill the height, or the width.
+solution solve(arrangement how, QSizeF room, const block_units& units, double gap, double foot) {
+    const QSizeF chart = units.chart;
+    const double aspect = units.dial.width() / units.dial.height();
+    const double stack = units.strip_height + chart.height();
+    solution found{how};
+    if (how == arrangement::below) {
+        found.scale =
+            std::min(room.width() / chart.width(), (room.height() - 2 * gap - foot) / stack);
+        const double height = room.height() - found.scale * stack - 2 * gap - foot;
+        found.dial_width = std::min((room.width() - gap) / DIAL_PLACES, height * aspect);
+    } else {
+        found.scale = (room.height() - gap) / stack;
+        const double height =
+            how == arrangement::beside_chart ? found.scale * chart.height() : room.height();
+        found.dial_width = std::min(room.width() - gap - found.scale * chart.width(),
+                                    (height - gap - foot) / DIAL_PLACES * aspect);
+    }
+    const double strip_width =
+        how == arrangement::beside_all ? found.scale * chart.width() : room.width();
+    if (found.scale > 0 && found.dial_width > 0)
+        found.drawn = area(chart) * found.scale * found.scale +
+                      DIAL_PLACES * found.dial_width * found.dial_width / aspect +
+                      strip_width * units.strip_height * found.scale;
+    return found;
+}
+
+int whole(double pixels) {
+    return static_cast<int>(std::floor(pixels));
 }
 
 } // namespace
 
-panel_layout lay_out_panel(QSize room, QSizeF chart, QSizeF dial, int gap) {
-    const double dial_aspect = dial.width() / dial.height();
-    const double highest = (room.height() - gap) / double(DIAL_PLACES) * dial_aspect;
-    const double column = std::min(room.width() * DIALS_SHARE_BESIDE, highest);
-    const double beside = scale_in(chart, room.width() - column - gap, room.height());
-    const double widest = (room.width() - gap) / double(DIAL_PLACES);
-    const double row = std::min(room.height() * DIALS_SHARE_BELOW, widest / dial_aspect);
-    const double below = scale_in(chart, room.width(), room.height() - row - gap);
-
-    panel_layout layout;
-    layout.chart = place(chart, std::max(beside, below) * chart.width(), 0, 0);
-    for (int i = 0; i < DIAL_PLACES; ++i) {
-        QRect& at = layout.dials[static_cast<std::size_t>(i)];
-        if (beside >= below) { // together as high as the chart
-            const double width =
-                std::min(room.width() - layout.chart.width() - double(gap),
-                         (layout.chart.height() - gap) / double(DIAL_PLACES) * dial_aspect);
-            const int left = room.width() - static_cast<int>(width);
-            const int step = static_cast<int>(width / dial_aspect) + gap;
-            at = place(dial, width, left, i * step);
-        } else {
-            const double width = row * dial_aspect;
-            const int step = static_cast<int>(width) + gap;
-            at = place(dial, width, i * step, layout.chart.height() + gap);
-        }
+block_layout lay_out_block(QSize room, const block_units& units, int gap, int switch_height) {
+    const int foot = switch_height + GRID;
+    solution best;
+    for (const arrangement how :
+         {arrangement::beside_chart, arrangement::beside_all, arrangement::below})
+        if (const solution each = solve(how, room, units, gap, foot); each.drawn > best.drawn)
+            best = each;
+    block_layout layout;
+    if (best.drawn <= 0)
+        return layout;
+    layout.scale = best.scale;
+    const QSize chart(whole(units.chart.width() * best.scale),
+                      whole(units.chart.height() * best.scale));
+    const QSize dial(whole(best.dial_width),
+                     whole(best.dial_width * units.dial.height() / units.dial.width()));
+    const bool below = best.how == arrangement::below;
+    const int width = below ? std::max(chart.width(), DIAL_PLACES * dial.width() + gap)
+                            : chart.width() + gap + dial.width();
+    const int left = (room.width() - width) / 2; // equal edges
+    const int strip_height = whole(units.strip_height * best.scale);
+    layout.strip = {left, 0, best.how == arrangement::beside_all ? chart.width() : width,
+                    strip_height};
+    layout.chart = {{below ? (room.width() - chart.width()) / 2 : left, strip_height + gap}, chart};
+    const int bottom = below ? room.height() : layout.chart.bottom() + 1;
+    if (below) {
+        const int top = layout.chart.bottom() + 1 + gap;
+        const int row = (room.width() - DIAL_PLACES * dial.width() - gap) / 2;
+        for (int i = 0; i < DIAL_PLACES; ++i)
+            layout.dials[static_cast<std::size_t>(i)] = {
+                QPoint(row + i * (dial.width() + gap), top), dial};
+    } else { // from the top of their column to the switch at its foot
+        const int column = left + chart.width() + gap;
+        const int top = best.how == arrangement::beside_all ? 0 : layout.chart.top();
+        layout.dials = {QRect(QPoint(column, top), dial),
+                        QRect(QPoint(column, bottom - foot - dial.height()), dial)};
     }
+    const QRect first = layout.dials.front();
+    layout.under_dials = {first.left(), bottom - switch_height,
+                          layout.dials.back().right() + 1 - first.left(), switch_height};
     return layout;
 }
 
-instrument_panel::instrument_panel(QSizeF chart_units, QSizeF dial_units, QWidget* parent)
-    : QWidget(parent), chart_units_(chart_units), dial_units_(dial_units) {}
+instrument_panel::instrument_panel(const block_units& units, QWidget* parent)
+    : QWidget(parent), units_(units) {}
 
-void instrument_panel::set_instruments(QWidget* chart, std::array<QWidget*, DIAL_PLACES> dials,
-                                       QWidget* hint) {
-    chart_ = chart;
-    dials_ = dials;
-    hint_ = hint;
+void instrument_panel::set_parts(const parts& all) {
+    parts_ = all;
     rearrange();
 }
 
 void instrument_panel::rearrange() {
-    const panel_layout layout = lay_out_panel(size(), chart_units_, dial_units_, 2 * GRID);
-    chart_->setGeometry(layout.chart);
-    for (std::size_t i = 0; i < dials_.size(); ++i)
-        dials_[i]->setGeometry(layout.dials[i]);
-    hint_->setGeometry(layout.dials.back());
+    constexpr int GAP = 2 * GRID;
+    now_ = lay_out_block(size(), units_, GAP, parts_.under_dials->sizeHint().height());
+    // The strip's scroll bar, when there is one, stands in the gap below it.
+    parts_.strip->setGeometry(now_.strip.adjusted(0, 0, 0, GAP));
+    parts_.chart->setGeometry(now_.chart);
+    for (std::size_t i = 0; i < parts_.dials.size(); ++i)
+        parts_.dials[i]->setGeometry(now_.dials[i]);
+    parts_.hint->setGeometry(now_.dials.back());
+    parts_.under_dials->setGeometry(now_.under_dials);
     if (rearranged)
         rearranged();
 }
 
 void instrument_panel::resizeEvent(QResizeEvent*) {
-    if (chart_)
+    if (parts_.chart)
         rearrange();
 }

@@ -1,6 +1,8 @@
-// Lays out the large chart and the dials: the dials beside the chart in a wide panel, below it in a
-// narrow one, all as large as they fit. There is always room for two dials: the chart keeps its
-// size when the second one is chosen; until then a hint may stand in that place.
+// Lays the live-data instruments out as one block that fills its room: the strip of thumbnails, the
+// large chart and two dials, whose logical sizes are scaled together. The dials stand beside the
+// chart, in a wide room beside strip and chart, in a narrow one below. There is always room for two
+// dials: the chart keeps its size when the second one is chosen; until then a hint may stand in
+// that place.
 #pragma once
 
 #include <QSizeF>
@@ -11,25 +13,38 @@
 
 inline constexpr int DIAL_PLACES = 2;
 
-struct panel_layout {
-    QRect chart;
-    std::array<QRect, DIAL_PLACES> dials;
+// The block in units: the chart and a dial; the strip as high as a cell of it.
+struct block_units {
+    QSizeF chart, dial;
+    int strip_height;
 };
 
-// Where the chart and the dials of these sizes in units go; each rectangle has the aspect of its
-// picture.
-panel_layout lay_out_panel(QSize room, QSizeF chart, QSizeF dial, int gap);
+// In pixels, at `scale` pixels a unit for strip and chart. Each rectangle but the switch's and the
+// strip's width has the aspect of its picture.
+struct block_layout {
+    double scale = 0;
+    QRect strip, chart, under_dials;
+    std::array<QRect, DIAL_PLACES> dials;
+};
+// `gap` pixels lie between the parts; the switch below the dials is `switch_height` high.
+block_layout lay_out_block(QSize room, const block_units& units, int gap, int switch_height);
 
 class instrument_panel final : public QWidget {
   public:
-    instrument_panel(QSizeF chart_units, QSizeF dial_units, QWidget* parent);
+    instrument_panel(const block_units& units, QWidget* parent);
 
-    // Children of this panel; the hint has the last dial's place.
-    void set_instruments(QWidget* chart, std::array<QWidget*, DIAL_PLACES> dials, QWidget* hint);
+    struct parts {
+        QWidget *strip, *chart;
+        std::array<QWidget*, DIAL_PLACES> dials;
+        QWidget *hint, *under_dials; // the hint has the last dial's place
+    };
+    // Children of this panel.
+    void set_parts(const parts& all);
+    const block_layout& layout_now() const { return now_; }
     std::function<void()> rearranged;
 
-    QSize sizeHint() const override { return {640, 320}; }
-    QSize minimumSizeHint() const override { return {320, 160}; }
+    QSize sizeHint() const override { return {640, 420}; }
+    QSize minimumSizeHint() const override { return {320, 240}; }
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -37,8 +52,7 @@ class instrument_panel final : public QWidget {
   private:
     void rearrange();
 
-    QSizeF chart_units_, dial_units_;
-    QWidget* chart_ = nullptr;
-    std::array<QWidget*, DIAL_PLACES> dials_{};
-    QWidget* hint_ = nullptr;
+    block_units units_;
+    block_layout now_;
+    parts parts_{};
 };

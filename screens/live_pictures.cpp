@@ -5,11 +5,13 @@
 #include "thumbnail_strip.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace {
 
 constexpr QSizeF THUMBNAIL_SIZE(200, 200);
+constexpr char NO_READING[] = "-";
 
 } // namespace
 
@@ -23,6 +25,8 @@ live_pictures::live_pictures(const mac_toolies& toolies, const bundle& resources
 
 void live_pictures::rebuild(const std::vector<std::string>& pids) {
     pids_ = pids;
+    for (dial& each : dials_)
+        each.put_back = true;
     images_4_top.clear();
     images_4_top.reserve(pids.size());
     for (std::size_t i = 0; i < pids.size(); ++i) {
@@ -33,14 +37,11 @@ void live_pictures::rebuild(const std::vector<std::string>& pids) {
         item.use_this_pids(pids);
         item.set_thumb_selected(i == 0);
     }
-    if (!images_4_top.empty())
-        images_4_top.front().realtime_labels = false;
     cur_zoom_chart.use_this_pids(pids);
     set_large_chart(0, {});
     for (int i = 0; i < 2; ++i)
-        put_dial_back(i, pids.empty() ? std::string() : pids.front());
-    realtime_labels_ = true;
-    all_changed();
+        put_dial_back(i, 0, true);
+    forget_samples();
 }
 
 void live_pictures::set_large_chart(int shown_index, const std::set<int>& indices_plotted) {
@@ -66,28 +67,47 @@ void live_pictures::select_thumbnail(int index, bool selected) {
     at.chart.set_thumb_selected(selected);
 }
 
-void live_pictures::sample_changed(int index) {
-    if (static_cast<std::size_t>(index) < images_4_top.size()) {
-        thumbnail& at = images_4_top[static_cast<std::size_t>(index)];
-        at.changed = true;
-        at.realtime_labels = false;
-    }
-    if (is_plotting(index))
+void live_pictures::put_dial_back(int which, int index, bool moves) {
+    dial& at = dials_[which];
+    at.put_back = at.put_back || at.index != index;
+    at.changed = true;
+    at.index = index;
+    at.moves = moves;
+}
+
+void live_pictures::sample(int index, double value) {
+    const auto place = static_cast<std::size_t>(index);
+    if (place >= images_4_top.size())
+        return;
+    reading& latest = readings_[place];
+    latest.replied = true;
+    latest.stale = std::isnan(value);
+    if (!latest.stale)
+        latest.value = value;
+    images_4_top[place].changed = true;
+    images_4_top[place].realtime_labels = false;
+    if (is_plotting(index)) {
         large_chart_changed_ = true;
+        realtime_labels_ = false;
+    }
+    for (dial& each : dials_)
+        each.changed = each.changed || (each.moves && each.index == index);
 }
 
-void live_pictures::put_dial_back(int which, const std::string& pid) {
-    dials_[which].pid = pid;
-    dials_[which].put_back = true;
-    dials_[which].needle_moved = false;
-}
-
-void live_pictures::move_needle(int which, double value) {
-    dials_[which].value = value;
-    dials_[which].needle_moved = true;
+void live_pictures::forget_samples() {
+    readings_.assign(pids_.size(), {});
+    realtime_labels_ = true;
+    cur_zoom_chart.forget_widths();
+    for (thumbnail& at : images_4_top) {
+        at.chart.forget_widths();
+        at.realtime_labels = &at != &images_4_top.front();
+    }
+    all_changed();
 }
 
 void live_pictures::all_changed() {
+    for (dial& each : dials_)
+        each.changed = true;
     for (thumbnail& at : images_4_top)
         at.changed = true;
     large_chart_changed_ = true;
@@ -95,27 +115,41 @@ void live_pictures::all_changed() {
 
 void live_pictures::draw_dial(dial& shown, picture_view& view) {
     const double scale = view.pixel_scale();
-    if (scale <= 0 || shown.pid.empty())
+    const auto place = static_cast<std::size_t>(shown.index);
+    if (scale <= 0 || place >= pids_.size())
         return;
     const bool resized = scale != shown.scale;
     shown.scale = scale;
-    if (!resized && !shown.put_back && !shown.needle_moved)
+    if (!resized && !shown.put_back && !shown.changed)
         return;
     view.let_go();
-    const bool whole = resized || shown.put_back;
     shown.gauge.set_pixel_scale(scale);
     if (shown.put_back)
-        shown.gauge.swapCurGaugeBack(shown.pid);
-    if (shown.needle_moved)
-        shown.gauge.draw_cur_needle_value(shown.value);
-    const QImage& picture = shown.gauge.imageRepresentation();
-    view.set_image(picture, whole ? picture.rect() : shown.gauge.changed_pixels());
-    shown.put_back = shown.needle_moved = false;
+        shown.gauge.swapCurGaugeBack(pids_[place]);
+    const reading& latest = readings_[place];
+    if (!shown.moves)
+        shown.gauge.draw_without_needle(face::dimmed);
+    else if (latest.value)
+        shown.gauge.draw_cur_needle_value(*latest.value,
+                                          latest.stale ? needle::greyed : needle::lit);
+    else
+        shown.gauge.draw_without_needle(face::awaiting);
+    view.set_image(shown.gauge.imageRepresentation(), shown.gauge.changed_pixels());
+    shown.put_back = shown.changed = false;
+}
+
+// Nothing was read of what has had no reply.
+sample_set live_pictures::texts_of(sample_set samples) const {
+    for (std::size_t i = 0; i < std::min(samples.size(), readings_.size()); ++i)
+        if (!readings_[i].replied)
+            samples[i][1] = NO_READING;
+    return samples;
 }
 
 void live_pictures::draw(live_view& view, const sample_rows& rows, const sample_set& samples) {
     if (pids_.empty())
         return;
+    const sample_set texts = texts_of(samples);
     std::optional<label_records> kinds[2]; // worked out when the first picture needs them
     const auto labels_of = [&](bool realtime) -> const label_records& {
         std::optional<label_records>& kind = kinds[realtime ? 1 : 0];
@@ -128,7 +162,7 @@ void live_pictures::draw(live_view& view, const sample_rows& rows, const sample_
                            bool realtime) {
         const label_records& labels = labels_of(realtime);
         chart.set_pixel_scale(scale);
-        chart.update_cur_sample(samples);
+        chart.update_cur_sample(texts);
         chart.draw_grid(labels, title);
         chart.plot_array_list(rows, labels);
     };

@@ -1,12 +1,13 @@
 // The pictures of the live-data screen: a thumbnail for each parameter, the large chart, two dials.
 // The screen says what changed; draw() paints what has changed and can be seen, which is all that a
-// frame costs. Owned by actions.
+// frame costs. Before a parameter's first sample its pictures show their faces and "-". Owned by
+// actions.
 #pragma once
 
 #include "drawChartyItem.h"
 #include "myGauge.h"
 
-#include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -32,13 +33,17 @@ class live_pictures {
     void select_thumbnail(int index, bool selected);
     // Whether axis limits are the middle of a parameter's range, before there are samples.
     void use_realtime_labels(bool yes) { realtime_labels_ = yes; }
+    // The face on a dial, and whether that parameter's samples move its needle: a dial that nothing
+    // moves is dimmed.
+    void put_dial_back(int dial, int index, bool moves);
 
-    void sample_changed(int index);
-    void put_dial_back(int dial, const std::string& pid);
-    void move_needle(int dial, double value);
-    void all_changed();
+    // A reply has been filed. NaN when it was unusable: the needle stays where it is and is greyed.
+    void sample(int index, double value);
+    // A run begins: what was sampled before is another run's.
+    void forget_samples();
 
     bool is_plotting(int index) const { return cur_zoom_chart.isPlottingThisIndex(index); }
+    bool has_reply(int index) const { return readings_[static_cast<std::size_t>(index)].replied; }
     const std::string& title() const { return cur_chart_title; }
 
     void draw(live_view& view, const sample_rows& rows, const sample_set& samples);
@@ -51,13 +56,20 @@ class live_pictures {
     };
     struct dial {
         myGauge gauge;
-        std::string pid{};
-        bool put_back = false;
-        bool needle_moved = false;
-        double value = 0;
+        int index = 0;
+        bool moves = false;
+        bool put_back = false; // and not drawn yet
+        bool changed = false;  // the needle, or that there is one
         double scale = 0;
     };
-    static void draw_dial(dial& shown, picture_view& view);
+    // The latest of one parameter in this run.
+    struct reading {
+        std::optional<double> value{}; // the last usable one
+        bool replied = false, stale = false;
+    };
+    void all_changed();
+    void draw_dial(dial& shown, picture_view& view);
+    sample_set texts_of(sample_set samples) const;
 
     toolkit_doors doors_;
     std::vector<thumbnail> images_4_top;
@@ -67,5 +79,6 @@ class live_pictures {
     std::string cur_chart_title;
     bool realtime_labels_ = true;
     std::vector<std::string> pids_;
+    std::vector<reading> readings_;
     dial dials_[2]; // reloj1 and reloj2
 };

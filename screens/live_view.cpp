@@ -4,13 +4,13 @@
 #include "busy_indicator.h"
 #include "chrome.h"
 #include "display_text.h"
-#include "instrument_panel.h"
 #include "Ks_lite_delegate.h"
 #include "live_runs.h"
 #include "status_line.h"
 #include "thumbnail_strip.h"
 #include "warning_label.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -27,7 +27,6 @@ constexpr int ZOOM_STEPS = 1000;
 constexpr int BUTTON_SIZE = 6 * GRID;
 constexpr double CELL_SHARE = 0.25; // of the large chart's width
 constexpr int CELL_GAP = 2;
-constexpr int SMALLEST_CELL = 83;
 
 // As large as its round picture, which ends where the other rows do.
 class round_button final : public QToolButton {
@@ -45,8 +44,7 @@ void keep_room(QWidget* widget) {
 
 } // namespace
 
-live_view::live_view(Ks_lite_delegate& delegate, QSizeF chart_units, QSizeF dial_units)
-    : delegate_(delegate) {
+live_view::live_view(Ks_lite_delegate& delegate, const block_units& units) : delegate_(delegate) {
     const screen_bones bones = make_screen_bones(delegate, "ui_live_title", true);
     root_.reset(bones.root);
     statusLbl_ = bones.status;
@@ -54,20 +52,22 @@ live_view::live_view(Ks_lite_delegate& delegate, QSizeF chart_units, QSizeF dial
     waity_->hide();
     build_controls(bones.title_row);
     build_log_mark(bones.content);
-    auto* instruments = new QVBoxLayout;
-    instruments->setSpacing(0); // the strip keeps room for its scroll bar
-    bones.content->addLayout(instruments, 1);
-    build_strip(instruments);
+    build_panel(bones.content, units);
+}
 
-    panel_ = new instrument_panel(chart_units, dial_units, root());
-    const auto make = [&](const char* name, QSizeF units, std::string_view key) {
-        auto* view = new picture_view(QLatin1String(name), units, panel_);
+live_view::~live_view() = default;
+
+void live_view::build_panel(QVBoxLayout* column, const block_units& units) {
+    panel_ = new instrument_panel(units, root());
+    build_strip();
+    const auto make = [&](const char* name, QSizeF size, std::string_view key) {
+        auto* view = new picture_view(QLatin1String(name), size, panel_);
         view->setAccessibleName(ui_text(delegate_, key));
         return view;
     };
-    chartFull_ = make("chartFull", chart_units, "ui_live_chart");
-    gauge_uno_ = make("gauge_uno", dial_units, "ui_live_dial_1");
-    gauge_dos_ = make("gauge_dos", dial_units, "ui_live_dial_2");
+    chartFull_ = make("chartFull", units.chart, "ui_live_chart");
+    gauge_uno_ = make("gauge_uno", units.dial, "ui_live_dial_1");
+    gauge_dos_ = make("gauge_dos", units.dial, "ui_live_dial_2");
     gauge_dos_->hide();
     panel_->rearranged = [this] {
         fit_thumbnails();
@@ -76,35 +76,20 @@ live_view::live_view(Ks_lite_delegate& delegate, QSizeF chart_units, QSizeF dial
     };
     dial_hint_ = make_hint("dialHint", "ui_live_press_start", panel_);
     empty_strip_ = make_hint("emptyStrip", "ui_live_empty", panel_);
-    panel_->set_instruments(chartFull_, {gauge_uno_, gauge_dos_}, dial_hint_);
-    instruments->addWidget(panel_, 1);
+    follow_chart_ = new QCheckBox(ui_text(delegate_, "ui_live_follow"), panel_);
+    follow_chart_->setObjectName(QStringLiteral("followChart"));
+    follow_chart_->setToolTip(ui_text(delegate_, "ui_live_follow_hint"));
+    QObject::connect(follow_chart_, &QCheckBox::toggled, root(), [this](bool on) {
+        if (on_follow_chart)
+            on_follow_chart(on);
+    });
+    panel_->set_parts(
+        {xtopActionCharts_, chartFull_, {gauge_uno_, gauge_dos_}, dial_hint_, follow_chart_});
+    column->addWidget(panel_, 1);
 }
 
-live_view::~live_view() = default;
-
 void live_view::build_controls(QHBoxLayout* row) {
-    auto* zoom_label = new QLabel(ui_text(delegate_, "ui_live_zoom"), root());
-    charty_zoomer_ = new QSlider(Qt::Horizontal, root());
-    charty_zoomer_->setObjectName(QStringLiteral("charty_zoomer"));
-    charty_zoomer_->setRange(0, ZOOM_STEPS);
-    charty_zoomer_->setValue(ZOOM_STEPS);
-    charty_zoomer_->setPageStep(ZOOM_STEPS / 10);
-    charty_zoomer_->setMinimumWidth(8 * GRID);
-    charty_zoomer_->setMaximumWidth(18 * GRID);
-    charty_zoomer_->setToolTip(ui_text(delegate_, "ui_live_zoom_hint"));
-    charty_zoomer_->setAccessibleName(ui_text(delegate_, "ui_live_zoom_hint"));
-    zoom_label->setBuddy(charty_zoomer_);
-    zoom_label->setObjectName(QStringLiteral("zoomLabel"));
-    for (QWidget* widget :
-         {static_cast<QWidget*>(zoom_label), static_cast<QWidget*>(charty_zoomer_)}) {
-        keep_room(widget);
-        widget->hide();
-        row->addWidget(widget);
-    }
-    QObject::connect(charty_zoomer_, &QSlider::valueChanged, root(), [this](int value) {
-        if (on_zoom)
-            on_zoom(static_cast<double>(value) / ZOOM_STEPS);
-    });
+    build_zoom(row);
 
     o2SwapBtn_ = new QToolButton(root());
     o2SwapBtn_->setObjectName(QStringLiteral("o2SwapBtn"));
@@ -153,6 +138,39 @@ void live_view::build_more(QHBoxLayout* row) {
     row->addWidget(more);
 }
 
+// With the length of the run beside it.
+void live_view::build_zoom(QHBoxLayout* row) {
+    length_ = new QLabel(root());
+    length_->setObjectName(QStringLiteral("runLength"));
+    length_->setToolTip(ui_text(delegate_, "ui_live_length"));
+    length_->setAccessibleName(ui_text(delegate_, "ui_live_length"));
+    length_->setForegroundRole(QPalette::PlaceholderText);
+    row->addWidget(length_);
+    row->addSpacing(GRID);
+    auto* zoom_label = new QLabel(ui_text(delegate_, "ui_live_zoom"), root());
+    charty_zoomer_ = new QSlider(Qt::Horizontal, root());
+    charty_zoomer_->setObjectName(QStringLiteral("charty_zoomer"));
+    charty_zoomer_->setRange(0, ZOOM_STEPS);
+    charty_zoomer_->setValue(ZOOM_STEPS);
+    charty_zoomer_->setPageStep(ZOOM_STEPS / 10);
+    charty_zoomer_->setMinimumWidth(8 * GRID);
+    charty_zoomer_->setMaximumWidth(18 * GRID);
+    charty_zoomer_->setToolTip(ui_text(delegate_, "ui_live_zoom_hint"));
+    charty_zoomer_->setAccessibleName(ui_text(delegate_, "ui_live_zoom_hint"));
+    zoom_label->setBuddy(charty_zoomer_);
+    zoom_label->setObjectName(QStringLiteral("zoomLabel"));
+    for (QWidget* widget :
+         {static_cast<QWidget*>(zoom_label), static_cast<QWidget*>(charty_zoomer_)}) {
+        keep_room(widget);
+        widget->hide();
+        row->addWidget(widget);
+    }
+    QObject::connect(charty_zoomer_, &QSlider::valueChanged, root(), [this](int value) {
+        if (on_zoom)
+            on_zoom(static_cast<double>(value) / ZOOM_STEPS);
+    });
+}
+
 void live_view::build_log_mark(QVBoxLayout* column) {
     log_mark_ = new warning_label(root());
     log_mark_->setObjectName(QStringLiteral("logMark"));
@@ -162,8 +180,8 @@ void live_view::build_log_mark(QVBoxLayout* column) {
     column->addWidget(log_mark_);
 }
 
-void live_view::build_strip(QVBoxLayout* column) {
-    xtopActionCharts_ = new QScrollArea(root());
+void live_view::build_strip() {
+    xtopActionCharts_ = new QScrollArea(panel_);
     xtopActionCharts_->setObjectName(QStringLiteral("xtopActionCharts"));
     xtopActionCharts_->setFrameShape(QFrame::NoFrame);
     xtopActionCharts_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -172,9 +190,6 @@ void live_view::build_strip(QVBoxLayout* column) {
     thumbiesMtrx_->setAccessibleName(ui_text(delegate_, "ui_live_strip"));
     thumbiesMtrx_->setToolTip(ui_text(delegate_, "ui_live_strip_hint"));
     xtopActionCharts_->setWidget(thumbiesMtrx_);
-    xtopActionCharts_->setFixedHeight(
-        THUMBNAIL_HEIGHT + xtopActionCharts_->horizontalScrollBar()->sizeHint().height());
-    column->addWidget(xtopActionCharts_);
 }
 
 // What a place that is empty would hold.
@@ -192,7 +207,7 @@ QLabel* live_view::make_hint(const char* name, std::string_view key, QWidget* pa
 // A quarter of the large chart's width each, so that the first four stand above it.
 void live_view::fit_thumbnails() {
     const int width = static_cast<int>(chartFull_->width() * CELL_SHARE - CELL_GAP);
-    thumbiesMtrx_->set_cell_size({std::max(width, SMALLEST_CELL), THUMBNAIL_HEIGHT});
+    thumbiesMtrx_->set_cell_size({std::max(width, 1), panel_->layout_now().strip.height()});
     empty_strip_->resize(panel_->size());
 }
 
@@ -215,6 +230,15 @@ void live_view::show_waity(bool visible) {
 void live_view::show_zoom(bool visible) {
     charty_zoomer_->setVisible(visible);
     root()->findChild<QLabel*>(QStringLiteral("zoomLabel"))->setVisible(visible);
+}
+
+void live_view::show_follow_chart(bool on) {
+    const QSignalBlocker quiet(follow_chart_);
+    follow_chart_->setChecked(on);
+}
+
+void live_view::show_length(const QString& length) {
+    length_->setText(length);
 }
 
 void live_view::reset_zoom() {

@@ -1,6 +1,7 @@
 // The widgets of the live-data screen. Owned by actions, which tells it what to show.
 #pragma once
 
+#include "instrument_panel.h"
 #include "picture_view.h"
 
 #include <QSizeF>
@@ -13,8 +14,8 @@
 #include <vector>
 
 class busy_indicator;
-class instrument_panel;
 class Ks_lite_delegate;
+class QCheckBox;
 class QComboBox;
 class QHBoxLayout;
 class QLabel;
@@ -25,11 +26,9 @@ class QVBoxLayout;
 class status_line;
 class thumbnail_strip;
 
-inline constexpr int THUMBNAIL_HEIGHT = 83;
-
 class live_view {
   public:
-    live_view(Ks_lite_delegate& delegate, QSizeF chart_units, QSizeF dial_units);
+    live_view(Ks_lite_delegate& delegate, const block_units& units);
     ~live_view();
 
     QWidget* root() { return root_.get(); }
@@ -42,11 +41,15 @@ class live_view {
     std::function<void()> on_start_stop, on_next_sensors, on_more_parameters;
     std::function<void(int)> on_run_selected;
     std::function<void(double)> on_zoom; // 0 to 1
+    std::function<void(bool)> on_follow_chart;
     std::function<void()> on_resized;    // pictures are shown at another size
 
     void show_running(bool running);
     void show_waity(bool visible);
     void show_zoom(bool visible);
+    void show_follow_chart(bool on);
+    // Since the run's first request; empty for none.
+    void show_length(const QString& length);
     // Back to all rows, without a call of on_zoom.
     void reset_zoom();
     void show_second_dial(bool visible);
@@ -61,8 +64,10 @@ class live_view {
   private:
     void build_controls(QHBoxLayout* row);
     void build_more(QHBoxLayout* row);
+    void build_zoom(QHBoxLayout* row);
     void build_log_mark(QVBoxLayout* column);
-    void build_strip(QVBoxLayout* column);
+    void build_panel(QVBoxLayout* column, const block_units& units);
+    void build_strip();
     QLabel* make_hint(const char* name, std::string_view key, QWidget* parent) const;
     void fit_thumbnails();
 
@@ -74,6 +79,7 @@ class live_view {
     QToolButton* o2SwapBtn_ = nullptr;
     QComboBox* runSelectorCombo_ = nullptr;
     QSlider* charty_zoomer_ = nullptr;
+    QLabel* length_ = nullptr;
     QLabel* log_mark_ = nullptr;
     QScrollArea* xtopActionCharts_ = nullptr;
     QLabel* empty_strip_ = nullptr;
@@ -82,5 +88,6 @@ class live_view {
     picture_view* chartFull_ = nullptr;
     picture_view* gauge_uno_ = nullptr;
     picture_view* gauge_dos_ = nullptr;
+    QCheckBox* follow_chart_ = nullptr;
     QLabel* dial_hint_ = nullptr; // in the second dial's place
 };

@@ -1,6 +1,10 @@
 #include "picture_view.h"
 
+#include "spoken.h"
+
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -10,6 +14,15 @@ picture_view::picture_view(const QString& name, QSizeF units, QWidget* parent)
     setObjectName(name);
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setSizePolicy(policy);
+    speak_for_pictures();
+}
+
+bool picture_view::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || !describe)
+        return QWidget::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), describe().toHtmlEscaped(),
+                       this);
+    return true;
 }
 
 double picture_view::pixel_scale() const {

@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QWidget>
 
+#include <functional>
+
 class picture_view final : public QWidget {
   public:
     // `units`: the picture's size as its drawing counts.
@@ -19,9 +21,14 @@ class picture_view final : public QWidget {
     // Pixels a unit; 0 while nothing would be seen.
     double pixel_scale() const;
 
+    // What it shows in words, for a tooltip and for who asks on behalf of a screen reader; it is
+    // not announced by itself, as values change all the time.
+    std::function<QString()> describe;
+
     QSize sizeHint() const override { return units_.toSize(); }
 
   protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:

@@ -1,11 +1,15 @@
 #include "thumbnail_strip.h"
 
 #include "canvas.h"
+#include "spoken.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QToolTip>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <utility>
@@ -27,6 +31,7 @@ QColor laid_over(const QColor& ground, const QColor& shade) {
 thumbnail_strip::thumbnail_strip(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("thumbiesMtrx"));
     setFocusPolicy(Qt::StrongFocus);
+    speak_for_pictures();
 }
 
 void thumbnail_strip::renew(const std::vector<QString>& names) {
@@ -108,11 +113,8 @@ void thumbnail_strip::toggle(int cell) {
 void thumbnail_strip::finish_choice(int current) {
     current_ = current;
     update();
-    for (QWidget* above = parentWidget(); above; above = above->parentWidget())
-        if (auto* area = qobject_cast<QScrollArea*>(above)) {
-            area->ensureVisible(rect_of(current).center().x(), 0, cell_size_.width() / 2 + 1, 0);
-            break;
-        }
+    if (QScrollArea* around = area())
+        around->ensureVisible(rect_of(current).center().x(), 0, cell_size_.width() / 2 + 1, 0);
     QStringList names;
     for (const int cell : selected_)
         names.append(cells_[static_cast<std::size_t>(cell)].name);
@@ -176,6 +178,35 @@ void thumbnail_strip::moveEvent(QMoveEvent*) {
 void thumbnail_strip::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
     update();
+}
+
+QScrollArea* thumbnail_strip::area() const {
+    for (QWidget* above = parentWidget(); above; above = above->parentWidget())
+        if (auto* found = qobject_cast<QScrollArea*>(above))
+            return found;
+    return nullptr;
+}
+
+// A notch, whichever way the wheel turns, is a cell.
+void thumbnail_strip::wheelEvent(QWheelEvent* event) {
+    constexpr int NOTCH = 120;
+    QScrollArea* const around = area();
+    if (!around)
+        return;
+    const int turned = event->angleDelta().x() + event->angleDelta().y();
+    QScrollBar* const bar = around->horizontalScrollBar();
+    bar->setValue(bar->value() - turned * cell_size_.width() / NOTCH);
+    event->accept();
+}
+
+bool thumbnail_strip::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || !describe_cell)
+        return QWidget::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const int cell = cell_at(help->pos());
+    const QString words = cell < 0 ? QString() : describe_cell(cell) + u'\n' + toolTip();
+    QToolTip::showText(help->globalPos(), words, this, cell < 0 ? QRect() : rect_of(cell));
+    return true;
 }
 
 void thumbnail_strip::paintEvent(QPaintEvent* event) {

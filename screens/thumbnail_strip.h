@@ -1,7 +1,8 @@
 // One row of thumbnails, a cell each, of which one or more are selected: a click selects one, Shift
 // extends to it, Ctrl toggles it; arrow keys, Home and End move, with Shift they extend, and the
-// space bar toggles. The selection is never empty while there are cells. Pictures are stretched to
-// their cell both ways. Lives in a scroll area, which it tells to follow the current cell.
+// space bar toggles; the mouse wheel scrolls. The selection is never empty while there are cells.
+// Pictures are stretched to their cell both ways. Lives in a scroll area, which it tells to follow
+// the current cell.
 #pragma once
 
 #include <QImage>
@@ -13,6 +14,8 @@
 #include <set>
 #include <vector>
 
+class QScrollArea;
+
 class thumbnail_strip final : public QWidget {
   public:
     explicit thumbnail_strip(QWidget* parent);
@@ -21,6 +24,10 @@ class thumbnail_strip final : public QWidget {
     std::function<void()> chosen;
     // Another part of the strip came into sight.
     std::function<void()> exposed;
+
+    // A cell in words, for its tooltip; all of them, for a screen reader that asks.
+    std::function<QString(int cell)> describe_cell;
+    std::function<QString()> describe;
 
     // A cell for each name; the first is selected.
     void renew(const std::vector<QString>& names);
@@ -41,12 +48,15 @@ class thumbnail_strip final : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    bool event(QEvent* event) override;
 
   private:
     struct one_cell {
         QString name;
         QPixmap picture;
     };
+    QScrollArea* area() const;
     QRect rect_of(int cell) const;
     int cell_at(QPoint position) const;
     void extend_to(int cell);

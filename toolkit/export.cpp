@@ -8,7 +8,7 @@ bool mac_toolies::export_to_CSV(std::string_view log_file_name, bool as_txt) con
     const std::string folder = log_folder() + "/";
     const std::string log = folder + std::string(log_file_name);
     const std::string output = folder + log_export::output_name(log_file_name, as_txt);
-    const export_outcome outcome = export_log(*this, log, output);
+    const export_outcome outcome = export_log(*this, log, output, {.to_the_letter = true});
     switch (outcome.result) {
     case export_result::output_exists:
         myMsgBox(outcome.error);

@@ -8,8 +8,10 @@
 #include "text.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cerrno>
 #include <cmath>
+#include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
@@ -25,14 +27,29 @@ constexpr std::string_view TEXT_EXTENSION = ".txt";
 constexpr std::size_t PIECE_READ = std::size_t{16} * 1024;
 constexpr std::size_t LONGEST_LINE = 999; // bytes; what is longer is taken as several lines
 constexpr int DECIMALS = 6;
+constexpr int TIME_DECIMALS = 3;
 
 std::string in_words(int error) {
     return std::generic_category().message(error);
 }
 
+// As long as it is not whole. Another export at the same time has another.
+std::string unfinished(const std::string& output) {
+    return output + "." + std::to_string(::getpid()) + ".part";
+}
+
+// 0, or why not. Never over a file that is there.
+int rename_to_new(const std::string& from, const std::string& to) {
+    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
+        return 0;
+    if (errno != EINVAL && errno != ENOSYS) // what no disk of that kind can do
+        return errno;
+    return ::rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
+}
+
 // A field of a run log that no other file is likely to hold: an answer, if cut, or a notice.
 bool is_reply(std::string_view field) {
-    if (field.starts_with("41") && field.size() >= 4 && is_hex(field))
+    if (!pid_of_field(field).empty() && is_hex(field))
         return true;
     const bool capitals = std::ranges::all_of(field, [](unsigned char c) {
         return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
@@ -42,6 +59,15 @@ bool is_reply(std::string_view field) {
 }
 
 } // namespace
+
+std::string pid_of_field(std::string_view field) {
+    const std::string_view digits = slice(field, 2, 2);
+    if (!field.starts_with("41") || digits.size() < 2 || !is_hex(digits))
+        return {};
+    std::string pid(digits);
+    std::ranges::transform(pid, pid.begin(), [](unsigned char c) { return std::toupper(c); });
+    return pid;
+}
 
 std::optional<std::string> why_no_run_log(const std::string& path) {
     std::error_code unknown;
@@ -69,9 +95,12 @@ std::string log_export::output_name(std::string_view log_name, bool as_txt) {
     return as_txt ? replace_all(csv, CSV_EXTENSION, TEXT_EXTENSION) : csv;
 }
 
-export_result log_export::start(const std::string& log, const std::string& output) {
+export_result log_export::start(const std::string& log, const std::string& output,
+                                const export_form& form) {
     log_ = log;
     output_ = output;
+    form_ = form;
+    naming_ = !form.to_the_letter;
     struct stat there {};
     if (::lstat(output.c_str(), &there) == 0)
         return refuse(export_result::output_exists,
@@ -83,7 +112,9 @@ export_result log_export::start(const std::string& log, const std::string& outpu
     if (!S_ISREG(there.st_mode))
         return refuse(export_result::unreadable, log + ": not a file");
     size_ = static_cast<std::uint64_t>(there.st_size);
-    if (const auto why = written_.create(output, log_file::existing::refuse))
+    if (form.with_time)
+        times_.emplace(log);
+    if (const auto why = written_.create(unfinished(output), log_file::existing::refuse))
         return refuse(export_result::unwritable, output + ": " + *why);
     return export_result::working;
 }
@@ -99,14 +130,27 @@ export_result log_export::step() {
     if (got < 0 && error != EINTR)
         return refuse(export_result::unreadable,
                       log_ + ":" + std::to_string(rows_ + 1) + ": " + in_words(error));
-    read_ += static_cast<std::uint64_t>(std::max<ssize_t>(got, 0));
+    const bool naming = naming_;
+    if (!naming)
+        read_ += static_cast<std::uint64_t>(std::max<ssize_t>(got, 0));
     take_lines(got == 0);
+    if (naming) {
+        if (got == 0)
+            end_naming();
+        return export_result::working;
+    }
     if (const export_result result = write_table(); result != export_result::working || got != 0)
         return result;
     if (rows_ == 0)
         return refuse(export_result::empty, log_ + ": no samples");
+    return publish();
+}
+
+export_result log_export::publish() {
     if (const auto why = written_.close())
         return refuse(export_result::unwritable, output_ + ": " + *why);
+    if (const int error = rename_to_new(written_.path(), output_))
+        return refuse(export_result::unwritable, output_ + ": " + in_words(error));
     close_input();
     return export_result::exported;
 }
@@ -116,10 +160,9 @@ double log_export::done() const {
 }
 
 export_result log_export::refuse(export_result why, std::string error) {
-    // Only a file of this export's own is open for writing.
-    if (written_.path() == output_ && !output_.empty()) {
+    if (!written_.path().empty()) { // a file of this export's own
         written_.close();
-        ::unlink(output_.c_str());
+        ::unlink(written_.path().c_str());
     }
     close_input();
     error_ = std::move(error);
@@ -140,40 +183,80 @@ export_result log_export::write_table() {
 
 // At the end of the log `all` is taken, also a last line without an end.
 void log_export::take_lines(bool all) {
+    const bool was_naming = naming_;
     std::string_view rest = unread_;
     while (!rest.empty()) {
         const std::size_t end = rest.substr(0, LONGEST_LINE).find('\n');
         if (end == rest.npos && rest.size() < LONGEST_LINE && !all)
             break;
         const std::size_t size = std::min(end == rest.npos ? LONGEST_LINE : end + 1, rest.size());
-        add_line(rest.substr(0, size));
+        take_line(rest.substr(0, size));
         rest.remove_prefix(size);
+        if (was_naming && !naming_)
+            return; // from the start, for the rows
     }
     unread_.erase(0, unread_.size() - rest.size());
 }
 
-void log_export::add_line(std::string_view line) {
+void log_export::take_line(std::string_view line) {
     const std::string spaceless = without(line, " ");
     const std::vector<std::string_view> pieces = split(spaceless, ",");
-    // As many fields as there are pieces with text in them.
-    const auto count = pieces.size() - static_cast<std::size_t>(std::ranges::count(pieces, ""));
-    const std::span<const std::string_view> fields(pieces.data(), count);
-    if (rows_++ == 0)
-        add_header(fields);
-    add_value(pieces[0]);
-    for (std::size_t i = 1; i < fields.size(); ++i) {
-        table_ += ',';
-        add_value(fields[i]);
+    const auto blank = static_cast<std::size_t>(std::ranges::count(pieces, ""));
+    // To the letter there are as many fields as pieces with text in them.
+    const std::span<const std::string_view> fields(
+        pieces.data(), pieces.size() - (form_.to_the_letter ? blank : 0));
+    if (!names_)
+        names_.emplace(fields.size());
+    if (naming_) {
+        name_columns(fields);
+        return;
+    }
+    if (rows_++ == 0) {
+        if (form_.to_the_letter) // behind the "41" of a reply, whatever stands there
+            for (std::size_t i = 0; i < fields.size(); ++i)
+                (*names_)[i] = slice(trimmed(fields[i]), 2, 2);
+        add_header();
+    }
+    add_row(fields.empty() ? std::span(pieces).first(1) : fields);
+}
+
+void log_export::name_columns(std::span<const std::string_view> fields) {
+    std::size_t unnamed = 0;
+    for (std::size_t i = 0; i < names_->size(); ++i) {
+        std::string& name = (*names_)[i];
+        if (name.empty() && i < fields.size())
+            name = pid_of_field(trimmed(fields[i]));
+        unnamed += name.empty() ? 1 : 0;
+    }
+    if (unnamed == 0)
+        end_naming();
+}
+
+void log_export::end_naming() {
+    naming_ = false;
+    unread_.clear();
+    ::lseek(input_, 0, SEEK_SET);
+}
+
+void log_export::add_header() {
+    table_ += form_.with_time ? "Time (s)" : "";
+    for (std::size_t i = 0; i < names_->size(); ++i) {
+        const std::string& pid = (*names_)[i];
+        table_ += i == 0 && !form_.with_time ? "" : ",";
+        table_ += pid.empty() ? "" : parameter_name(toolies_, pid);
+        table_ += " (" + (pid.empty() ? "N/A" : parameter_units(toolies_, pid)) + ")";
     }
     table_ += '\n';
 }
 
-void log_export::add_header(std::span<const std::string_view> fields) {
+void log_export::add_row(std::span<const std::string_view> fields) {
+    if (times_) {
+        const auto time = times_->next();
+        table_ += time ? fixed_decimals(static_cast<double>(*time) / 1000, TIME_DECIMALS) : "nan";
+    }
     for (std::size_t i = 0; i < fields.size(); ++i) {
-        const std::string pid(slice(trimmed(fields[i]), 2, 2)); // behind the "41" of the reply
-        table_ += i == 0 ? "" : ",";
-        table_ += pid.empty() ? "" : parameter_name(toolies_, pid);
-        table_ += " (" + (pid.empty() ? "N/A" : parameter_units(toolies_, pid)) + ")";
+        table_ += i == 0 && !times_ ? "" : ",";
+        add_value(fields[i]);
     }
     table_ += '\n';
 }
@@ -190,16 +273,18 @@ void log_export::add_value(std::string_view field) {
 }
 
 export_outcome export_log(const mac_toolies& toolies, const std::string& log,
-                          const std::string& output, const std::function<void(double)>& progress) {
+                          const std::string& output, const export_form& form,
+                          const std::function<bool(double)>& progress) {
     log_export work(toolies);
     export_outcome outcome;
-    outcome.result = work.start(log, output);
+    outcome.result = work.start(log, output, form);
     while (outcome.result == export_result::working) {
         outcome.result = work.step();
-        if (progress)
-            progress(work.done());
+        if (progress && !progress(work.done()) && outcome.result == export_result::working)
+            outcome.result = export_result::given_up; // `work` removes what there is
     }
     outcome.rows = work.rows();
-    outcome.error = work.error();
+    outcome.error = outcome.result == export_result::given_up ? "interrupted" : work.error();
+    outcome.note = work.note();
     return outcome;
 }

@@ -3,10 +3,12 @@
 // milliseconds of work.
 //
 // A log holds a line for each cycle and in it one reply, as received, for each parameter, separated
-// by ",". It may hold any bytes: what is no reply becomes "nan".
+// by ",". It may hold any bytes: what is no reply becomes "nan". A column is named by the first
+// answer in it. The table has another name until it is whole.
 #pragma once
 
 #include "log_file.h"
+#include "run_times.h"
 
 #include <cstdint>
 #include <functional>
@@ -14,6 +16,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 class mac_toolies;
 
@@ -22,13 +25,25 @@ class mac_toolies;
 // empty, passes: who reads it tells that.
 std::optional<std::string> why_no_run_log(const std::string& path);
 
+// The parameter that a field of a log answers, two hex digits in capitals ("0C"); empty when it is
+// no answer.
+std::string pid_of_field(std::string_view field);
+
+struct export_form {
+    bool with_time = false; // seconds since the run's first request as the first column
+    // As the named operation has it: only the first line names columns, and a field without text
+    // has no place.
+    bool to_the_letter = false;
+};
+
 enum class export_result {
     working,
     exported,
     output_exists, // an existing export is never overwritten
     unreadable,    // the log is not there, cannot be read or is no file
     empty,         // the log has no line
-    unwritable     // the export cannot be created or written
+    unwritable,    // the export cannot be created or written
+    given_up
 };
 
 class log_export {
@@ -45,7 +60,8 @@ class log_export {
     static std::string output_name(std::string_view log_name, bool as_txt);
 
     // Opens both files.
-    export_result start(const std::string& log, const std::string& output);
+    export_result start(const std::string& log, const std::string& output,
+                        const export_form& form = {});
     // Goes on; call it as long as the result is `working`.
     export_result step();
 
@@ -53,18 +69,28 @@ class log_export {
     double done() const; // 0 to 1
     // Why it failed, with the name of the file, and the line where there is one; empty otherwise.
     const std::string& error() const { return error_; }
+    // What a whole table lacks: times. Empty when it lacks nothing.
+    std::string note() const { return times_ ? times_->complaint() : std::string(); }
 
   private:
     export_result refuse(export_result why, std::string error);
     export_result write_table();
+    export_result publish();
     void take_lines(bool all);
-    void add_line(std::string_view line);
-    void add_header(std::span<const std::string_view> fields);
+    void take_line(std::string_view line);
+    void name_columns(std::span<const std::string_view> fields);
+    void end_naming();
+    void add_header();
+    void add_row(std::span<const std::string_view> fields);
     void add_value(std::string_view field);
     void close_input();
 
     const mac_toolies& toolies_;
     std::string log_, output_;
+    export_form form_;
+    std::optional<run_times> times_;
+    bool naming_ = false;                           // the log is read ahead for names of columns
+    std::optional<std::vector<std::string>> names_; // PIDs of the columns; empty: none yet
     int input_ = -1;
     log_file written_;
     std::string unread_; // what was read and is not yet a whole line
@@ -75,12 +101,13 @@ class log_export {
     std::string error_;
 };
 
-// Both steps in one go. `progress` is told the part that is done, 0 to 1, now and then.
+// Both steps in one go. `progress` is told the part that is done, 0 to 1, now and then, and answers
+// whether to go on.
 struct export_outcome {
     export_result result = export_result::working;
     std::uint64_t rows = 0;
-    std::string error;
+    std::string error, note;
 };
 export_outcome export_log(const mac_toolies& toolies, const std::string& log,
-                          const std::string& output,
-                          const std::function<void(double)>& progress = {});
+                          const std::string& output, const export_form& form = {},
+                          const std::function<bool(double)>& progress = {});

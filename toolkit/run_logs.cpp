@@ -1,5 +1,6 @@
 #include "constantes.h"
 #include "mac_toolies.h"
+#include "run_times.h"
 #include "system_log.h"
 #include "text.h"
 #include "user_defaults.h"
@@ -122,8 +123,10 @@ bool mac_toolies::delete_a_log(std::string_view file_name) const {
         return false;
     }
     const std::string path = log_folder() + "/" + std::string(file_name);
-    if (std::remove(path.c_str()) == 0)
+    if (std::remove(path.c_str()) == 0) {
+        std::remove(times_of_log(path).c_str()); // there need not be any
         return true;
+    }
     qCWarning(log_toolkit, "oops: %s", std::generic_category().message(errno).c_str());
     return false;
 }

@@ -114,15 +114,16 @@ Examples
   kestrom chart run.gol --pid 0C --pid 0D -o run.png --scale 2
   kestrom chart run.gol --pid 0C --dial -o dial.png
 )"},
-    {"export", 0, MANY, talks_to::nobody, "export LOG.gol [--txt] [--json]",
+    {"export", 0, MANY, talks_to::nobody, "export LOG.gol [--txt] [--time] [--json]",
      "turn a run log into a table (CSV) beside it",
      R"(A plain name that is no file here is that of a log in the log folder. An export that is there is
-never overwritten. --txt ends its name in .txt. With --json: docs/json/export.schema.json.
+never overwritten. --txt ends its name in .txt; --time puts when each round was first, in seconds since
+the first request, from the log's companion (its name with .times behind). With --json: docs/json/export.schema.json.
 Exit status: 0 success, 1 the log or the export failed, 2 the arguments make no sense.
 
 Examples
   kestrom export log_Nov_15_2026-0254_33.gol
-  kestrom export ./run.gol --txt
+  kestrom export ./run.gol --txt --time
 )"},
     {"lookup", 0, MANY, talks_to::nobody, "lookup CODE|TEXT [--json]",
      "what a trouble code means, or which codes speak of something",

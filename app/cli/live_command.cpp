@@ -10,6 +10,8 @@
 #include "text.h"
 #include "user_defaults.h"
 
+#include <QTime>
+
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -20,6 +22,8 @@ namespace {
 
 constexpr int TIME_DECIMALS = 3;
 constexpr run_loop::milliseconds PROGRESS_EVERY{200};
+constexpr run_loop::milliseconds PATIENCE{5000};
+constexpr run_loop::milliseconds LOOK_EVERY{500};
 
 int task_of(const std::string& run) {
     if (run == "fuel")
@@ -45,6 +49,7 @@ live_command::live_command(const cli_request& asked, Ks_lite_delegate& delegate,
 live_command::~live_command() {
     delegate_.doors().loop.cancel(limit_);
     delegate_.doors().loop.cancel(begin_);
+    delegate_.doors().loop.cancel(next_look_);
 }
 
 void live_command::start() {
@@ -83,6 +88,23 @@ void live_command::begin_run() {
     }
     screen_->rework_gui_objects(TASK_RUN_LOG);
     screen_->runLogs();
+    tell_of_waiting();
+}
+
+// Once for each wait that takes long, with the time of day at which it began.
+void live_command::tell_of_waiting() {
+    const auto since = delegate_.waiting_since();
+    const auto waited = delegate_.doors().loop.now() - since;
+    if (since.count() != 0 && since != told_waiting_since_ && waited >= PATIENCE) {
+        told_waiting_since_ = since;
+        const std::string began = QTime::currentTime()
+                                      .addMSecs(-static_cast<int>(waited.count()))
+                                      .toString()
+                                      .toStdString();
+        clear_progress();
+        std::fprintf(stderr, "kestrom: waiting for the adapter since %s\n", began.c_str());
+    }
+    next_look_ = delegate_.doors().loop.after(LOOK_EVERY, [this] { tell_of_waiting(); });
 }
 
 // Puts into the settings what the run asks for; tells what of the request is left out.
@@ -180,6 +202,7 @@ void live_command::print_header() {
         }
         line += (line.empty() ? "" : ",") + name;
     }
+    clear_progress();
     std::printf("%s\n", printable(line).c_str());
 }
 

@@ -37,6 +37,7 @@ class live_command {
     bool choose_parameters();
     void begin_run();
     void begin_sampling();
+    void tell_of_waiting();
     void print_header();
     void print_cycle(const std::vector<translated>& values);
     void show_cycles();
@@ -50,8 +51,9 @@ class live_command {
     std::optional<run_loop::milliseconds> sampling_since_; // its first request
     run_loop::milliseconds ended_{0};
     run_loop::milliseconds progress_shown_{0};
-    run_loop::timer_id limit_ = 0, begin_ = 0;
+    run_loop::timer_id limit_ = 0, begin_ = 0, next_look_ = 0;
     std::string refused_; // why no run began
+    run_loop::milliseconds told_waiting_since_{0};
     bool finished_as_asked_ = false;
     bool finished_ = false;
     std::vector<std::string> header_of_;

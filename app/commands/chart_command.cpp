@@ -6,9 +6,11 @@
 #include "myGauge.h"
 #include "parameters.h"
 #include "run_log.h"
+#include "run_times.h"
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <optional>
 #include <ostream>
 #include <set>
@@ -125,6 +127,8 @@ QImage draw_chart(const chart_request& request, const run_log& log, const std::v
     for (std::size_t i = 0; i < log.pids.size(); ++i)
         values.push_back({log.pids[i], log.last_values[i].text, "0.0", "0.0"});
     chart.update_cur_sample(std::move(values));
+    if (log.from)
+        chart.set_time_span(length_text(*log.from) + " - " + length_text(*log.to));
     const label_records labels = chart.work_out_labels(log.samples);
     chart.draw_grid(labels, "All sampling points");
     chart.plot_array_list(log.samples, labels);
@@ -134,6 +138,9 @@ QImage draw_chart(const chart_request& request, const run_log& log, const std::v
             << fixed_decimals(drawChartyItem::lower_limit(label), 2) << " to "
             << fixed_decimals(drawChartyItem::upper_limit(label), 2) << ' ' << label.units << '\n';
     }
+    if (log.from)
+        out << "Time: " << fixed_decimals(static_cast<double>(*log.from) / 1000, 3) << " to "
+            << fixed_decimals(static_cast<double>(*log.to) / 1000, 3) << " s\n";
     return chart.image();
 }
 
@@ -143,7 +150,12 @@ QImage draw_dial(const chart_request& request, const run_log& log, int column,
     myGauge dial(resources, toolies);
     dial.set_pixel_scale(request.scale);
     dial.initGauge(log.pids[place]);
-    dial.draw_cur_needle_value(log.last_values[place].value);
+    const double last = log.last_numbers[place];
+    if (std::isnan(last))
+        dial.draw_without_needle(face::awaiting);
+    else
+        dial.draw_cur_needle_value(last, std::isnan(log.last_values[place].value) ? needle::greyed
+                                                                                  : needle::lit);
     out << log.pids[place] << ' ' << parameter_name(toolies, log.pids[place]) << ": "
         << log.last_values[place].text << '\n';
     return dial.image();
@@ -168,6 +180,8 @@ int run_chart(std::span<const std::string> arguments, const mac_toolies& toolies
         err << "kestrom: " << error << '\n';
         return FAILED_STATUS;
     }
+    if (!request.dial && !log->times_complaint.empty())
+        err << "kestrom: " << log->times_complaint << '\n';
     const QImage picture = request.dial
                                ? draw_dial(request, *log, columns[0], toolies, resources, out)
                                : draw_chart(request, *log, columns, toolies, out);

@@ -8,6 +8,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <csignal>
 #include <filesystem>
 #include <ostream>
 #include <utility>
@@ -17,9 +18,24 @@ namespace {
 constexpr int FAILED_STATUS = 1;
 constexpr int USAGE_STATUS = 2;
 
+volatile std::sig_atomic_t interrupted = 0;
+
+// Ends an export that leaves nothing behind.
+struct interruptible {
+    interruptible() {
+        handle([](int) { interrupted = 1; });
+    }
+    ~interruptible() { handle(SIG_DFL); }
+    static void handle(void (*handler)(int)) {
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+            std::signal(signal, handler);
+    }
+};
+
 struct export_request {
     std::string log;
     bool as_txt = false;
+    bool with_time = false;
     bool json = false;
     std::string error;
 };
@@ -29,6 +45,8 @@ export_request read_export_request(std::span<const std::string> arguments) {
     for (const std::string& argument : arguments) {
         if (argument == "--txt")
             request.as_txt = true;
+        else if (argument == "--time")
+            request.with_time = true;
         else if (argument == "--json")
             request.json = true;
         else if (argument.starts_with("--"))
@@ -65,16 +83,18 @@ int run_export(std::span<const std::string> arguments, const mac_toolies& toolie
     const std::filesystem::path log = path_of_log(request.log, toolies);
     const std::filesystem::path output =
         log.parent_path() / log_export::output_name(log.filename().string(), request.as_txt);
+    const interruptible ending;
     export_outcome outcome;
     if (const auto why = why_no_run_log(log.string())) {
-        outcome = {export_result::unreadable, 0, *why};
+        outcome = {export_result::unreadable, 0, *why, {}};
     } else {
-        outcome =
-            export_log(toolies, log.string(), output.string(), [shown = -1](double done) mutable {
-                const int percent = static_cast<int>(done * 100); // 0 to 1
-                if (std::exchange(shown, percent) != percent)
-                    show_progress("Exporting: " + std::to_string(percent) + " %");
-            });
+        outcome = export_log(toolies, log.string(), output.string(),
+                             {.with_time = request.with_time}, [shown = -1](double done) mutable {
+                                 const int percent = static_cast<int>(done * 100); // 0 to 1
+                                 if (std::exchange(shown, percent) != percent)
+                                     show_progress("Exporting: " + std::to_string(percent) + " %");
+                                 return !interrupted;
+                             });
         clear_progress();
     }
     if (request.json)
@@ -83,6 +103,8 @@ int run_export(std::span<const std::string> arguments, const mac_toolies& toolie
         err << "kestrom: " << outcome.error << '\n';
         return FAILED_STATUS;
     }
+    if (!outcome.note.empty())
+        err << "kestrom: " << outcome.note << '\n';
     if (!request.json)
         out << output.string() << '\n';
     return 0;

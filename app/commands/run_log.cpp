@@ -6,25 +6,14 @@
 
 #include <QFile>
 
-#include <algorithm>
-#include <cctype>
+#include <cmath>
 #include <filesystem>
+#include <limits>
 #include <system_error>
 
 namespace {
 
 constexpr std::size_t MOST_PARAMETERS = 256; // there are no more PIDs
-
-// Behind the service's two characters of a reply such as 410C1AF8; empty when that is no reply to a
-// service 01 request.
-std::string pid_of_reply(std::string_view reply) {
-    if (!reply.starts_with("41") || !is_hex(slice(reply, 2, 2)) || reply.size() < 4)
-        return {};
-    std::string pid(reply.substr(2, 2));
-    std::transform(pid.begin(), pid.end(), pid.begin(),
-                   [](unsigned char c) { return std::toupper(c); });
-    return pid;
-}
 
 } // namespace
 
@@ -61,7 +50,9 @@ std::optional<run_log> read_run_log(const std::string& path, const mac_toolies& 
         return std::nullopt;
     }
     run_log log{std::vector<std::string>(parameters), sample_rows(parameters),
-                std::vector<translated>(parameters)};
+                std::vector<translated>(parameters),
+                std::vector<double>(parameters, std::numeric_limits<double>::quiet_NaN())};
+    run_times times(path);
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const std::vector<std::string_view> replies = split(lines[i], ",");
         if (replies.size() != parameters) {
@@ -76,10 +67,17 @@ std::optional<run_log> read_run_log(const std::string& path, const mac_toolies& 
                 field.remove_suffix(1);
             const std::string reply = without(field, " ");
             if (log.pids[p].empty())
-                log.pids[p] = pid_of_reply(reply);
+                log.pids[p] = pid_of_field(reply);
             log.last_values[p] = parameter_value(toolies, reply);
             log.samples.file(p, reply, log.last_values[p]);
+            if (const double number = log.samples.value(i, p); !std::isnan(number))
+                log.last_numbers[p] = number;
+        }
+        if (const auto time = times.next()) {
+            log.from = log.from.value_or(*time);
+            log.to = *time;
         }
     }
+    log.times_complaint = times.complaint();
     return log;
 }

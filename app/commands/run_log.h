@@ -13,6 +13,11 @@ struct run_log {
         pids; // of each column, as its first readable reply says; empty when none does
     sample_rows samples;
     std::vector<translated> last_values; // the latest reply of each column
+    std::vector<double> last_numbers;    // the latest usable one of each; NaN when none was
+    // From the first round to the last, in milliseconds since the first request, and what is wrong
+    // with the rounds' times.
+    std::optional<std::uint64_t> from{}, to{};
+    std::string times_complaint{};
 };
 
 // The log that a user named: a file that is there by its path; a plain name that is no file here may

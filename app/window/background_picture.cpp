@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QPainter>
 #include <QPointer>
+#include <QPushButton>
 #include <QSvgRenderer>
 #include <QThreadPool>
 #include <QTimer>
@@ -46,6 +47,17 @@ background_picture::background_picture(const QString& hint, QWidget* parent)
     column->addStretch(5);
     column->addWidget(hint_);
     column->addStretch(1);
+}
+
+void background_picture::offer(const std::vector<QPushButton*>& buttons) {
+    hint_->hide();
+    auto* row = new QHBoxLayout;
+    row->setSpacing(16);
+    row->addStretch(1);
+    for (QPushButton* button : buttons)
+        row->addWidget(button);
+    row->addStretch(1);
+    static_cast<QVBoxLayout*>(layout())->insertLayout(1, row);
 }
 
 // In a thread of the pool: the window waits for no picture, and painting so large an area from

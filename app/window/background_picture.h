@@ -6,9 +6,16 @@
 #include <QLabel>
 #include <QWidget>
 
+#include <vector>
+
+class QPushButton;
+
 class background_picture final : public QWidget {
   public:
     background_picture(const QString& hint, QWidget* parent);
+
+    // Shown in place of the line, in a row.
+    void offer(const std::vector<QPushButton*>& buttons);
 
   protected:
     void paintEvent(QPaintEvent* event) override;

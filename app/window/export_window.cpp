@@ -7,6 +7,7 @@
 #include "mac_toolies.h"
 #include "status_line.h"
 
+#include <QCheckBox>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QHeaderView>
@@ -17,6 +18,8 @@
 #include <QTableWidget>
 #include <QUrl>
 #include <QVBoxLayout>
+
+#include <filesystem>
 
 namespace {
 
@@ -81,6 +84,10 @@ void export_window::build_list(QVBoxLayout* column) {
     as_csv_->setChecked(true);
     column->addWidget(as_csv_);
     column->addWidget(as_txt_);
+    with_time_ = new QCheckBox(ui_text(delegate_, "ui_export_time"), this);
+    with_time_->setObjectName(QStringLiteral("withTime"));
+    column->addWidget(with_time_);
+    connect(logs_, &QTableWidget::currentCellChanged, this, [this] { offer_time(); });
 }
 
 void export_window::build_foot(QVBoxLayout* column) {
@@ -150,6 +157,18 @@ void export_window::list_logs() {
         widget->setEnabled(!logs.empty());
     if (!logs.empty())
         logs_->selectRow(0);
+    offer_time();
+}
+
+// As far as the chosen log has its times beside it.
+void export_window::offer_time() {
+    const QTableWidgetItem* name = logs_->item(logs_->currentRow(), NAME);
+    std::error_code unknown;
+    const bool timed = name && std::filesystem::exists(times_of_log(toolies_.log_folder() + "/" +
+                                                                    name->text().toStdString()),
+                                                       unknown);
+    with_time_->setEnabled(timed);
+    with_time_->setChecked(timed);
 }
 
 void export_window::start_export() {
@@ -170,7 +189,7 @@ void export_window::start_export() {
     if (g_cur_barom_press == 0) // no boost run yet; logs count boost from the standard pressure
         g_cur_barom_press = STANDARD_BAROMETER;
     work_ = std::make_unique<log_export>(toolies_);
-    take_result(work_->start(folder + name, output_));
+    take_result(work_->start(folder + name, output_, {.with_time = with_time_->isChecked()}));
 }
 
 void export_window::go_on() {
@@ -186,9 +205,10 @@ void export_window::take_result(export_result result) {
     }
     if (result == export_result::exported) {
         const QString rows = QLocale().toString(static_cast<qulonglong>(work_->rows()));
-        told_->set_text(ui_text(delegate_, "ui_export_done")
-                            .arg(rows, QString::fromStdString(output_))
-                            .toStdString());
+        const std::string done = ui_text(delegate_, "ui_export_done")
+                                     .arg(rows, QString::fromStdString(output_))
+                                     .toStdString();
+        told_->set_text(work_->note().empty() ? done : done + "\n" + work_->note());
     } else {
         told_->set_text(work_->error());
     }

@@ -12,6 +12,7 @@
 
 class Ks_lite_delegate;
 class mac_toolies;
+class QCheckBox;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -36,6 +37,7 @@ class export_window final : public QDialog {
     void build_list(QVBoxLayout* column);
     void build_foot(QVBoxLayout* column);
     void list_logs();
+    void offer_time();
     void start_export();
     void go_on();
     void take_result(export_result result);
@@ -52,6 +54,7 @@ class export_window final : public QDialog {
     QLabel* no_logs_ = nullptr;
     QRadioButton* as_csv_ = nullptr;
     QRadioButton* as_txt_ = nullptr;
+    QCheckBox* with_time_ = nullptr;
     QProgressBar* progress_ = nullptr;
     status_line* told_ = nullptr;
     QPushButton* start_ = nullptr;

@@ -4,6 +4,7 @@
 #include "background_picture.h"
 #include "bundle.h"
 #include "chrome.h"
+#include "constantes.h"
 #include "export_window.h"
 #include "Ks_lite_delegate.h"
 #include "lookup_window.h"
@@ -17,6 +18,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -70,6 +72,26 @@ main_window::~main_window() {
         screen->view()->setParent(nullptr);
     delegate_.set_main_view(nullptr);
     delegate_.screen_changed = nullptr;
+}
+
+void main_window::offer_first_steps(std::function<void()> start_demo) {
+    const auto step = [this](const char* name, std::string_view key, auto take) {
+        auto* button = new QPushButton(ui_text(delegate_, key), back_pic);
+        button->setObjectName(QLatin1String(name));
+        button->setMinimumSize(20 * GRID, 5 * GRID);
+        connect(button, &QPushButton::clicked, this, take);
+        return button;
+    };
+    const auto set_up = [this](int interface) {
+        delegate_.doors().defaults.set_integer(KS_INTERFACE_KEY, interface);
+        delegate_.do_prefs();
+    };
+    back_pic->offer({step("startWifi", "ui_start_wifi", [set_up] { set_up(KS_USE_WIFI); }),
+                     step("startBluetooth", "ui_start_bluetooth", [set_up] { set_up(KS_USE_BT); }),
+                     step("startDemo", "ui_start_demo", [this, start = std::move(start_demo)] {
+                         start();
+                         delegate_.do_read_codes();
+                     })});
 }
 
 void main_window::build_menu() {

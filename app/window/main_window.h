@@ -4,16 +4,22 @@
 
 #include <QMainWindow>
 
+#include <functional>
+
 class export_window;
 class lookup_window;
 class Ks_lite_delegate;
 class QButtonGroup;
 class QVBoxLayout;
+class background_picture;
 
 class main_window final : public QMainWindow {
   public:
     explicit main_window(Ks_lite_delegate& delegate);
     ~main_window() override;
+
+    // On a first start: what to begin with. `start_demo` makes the built-in car the adapter.
+    void offer_first_steps(std::function<void()> start_demo);
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -30,7 +36,7 @@ class main_window final : public QMainWindow {
     Ks_lite_delegate& delegate_;
     QWidget* rail_ = nullptr;
     QWidget* mainView = nullptr;
-    QWidget* back_pic = nullptr;
+    background_picture* back_pic = nullptr;
     QButtonGroup* switches_ = nullptr;
     export_window* export_window_ = nullptr; // made when it is first asked for
     lookup_window* lookup_window_ = nullptr;

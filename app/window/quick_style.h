@@ -1,19 +1,19 @@
 // The desktop's style with this program's few rules: headings of tables begin where the cells'
 // texts do, buttons have air around their words, titles of groups are heavier than what they group,
-// message boxes have the program's drawings, frames are whole at every scale. And without reading
-// icons that nothing shows yet: every menu bar asks for the arrow of its overflow when it is made,
-// and for the first picture read Qt loads all its picture plugins. Owned by the application.
+// message boxes have the program's drawings. Where there is no desktop's style its place is taken
+// by Qt's own with flat parts (flat_parts). And without reading icons that nothing shows yet: every
+// menu bar asks for the arrow of its overflow when it is made, and for the first picture read Qt
+// loads all its picture plugins. Owned by the application.
 #pragma once
 
 #include "chrome.h"
+#include "flat_parts.h"
 
 #include <QCommonStyle>
 #include <QIconEngine>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QStyleOption>
-
-#include <cmath>
 
 class quick_style final : public QProxyStyle {
   public:
@@ -34,25 +34,26 @@ class quick_style final : public QProxyStyle {
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
                     const QWidget* widget) const override {
         const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
-        return metric == PM_HeaderMargin && header && header->orientation == Qt::Horizontal
-                   ? CELL_MARGIN
-                   : QProxyStyle::pixelMetric(metric, option, widget);
+        if (metric == PM_HeaderMargin && header && header->orientation == Qt::Horizontal)
+            return CELL_MARGIN;
+        if (metric == PM_DefaultFrameWidth && is_flat())
+            return ROUND_FRAME;
+        return QProxyStyle::pixelMetric(metric, option, widget);
     }
 
-    // At 150 % Fusion's frames would lie between two pixels, and lose a side or two.
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override {
-        const double scale = painter->device() ? painter->device()->devicePixelRatioF() : 1;
-        const bool between = element == PE_Frame && scale != std::floor(scale) &&
-                             baseStyle()->name() == QLatin1String("fusion");
-        if (between) {
-            painter->save();
-            painter->setRenderHint(QPainter::Antialiasing);
-            painter->translate(0.5, 0.5);
-        }
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
-        if (between)
-            painter->restore();
+        if (!is_flat() || !flat_parts::draw(element, *option, *painter))
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        const auto* heading = qstyleoption_cast<const QStyleOptionHeader*>(option);
+        if (is_flat() && heading && element == CE_HeaderSection)
+            flat_parts::draw_heading(*heading, *painter);
+        else
+            QProxyStyle::drawControl(element, option, painter, widget);
     }
 
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
@@ -76,12 +77,20 @@ class quick_style final : public QProxyStyle {
                             QPainter* painter, const QWidget* widget) const override {
         if (control == CC_GroupBox && widget)
             painter->setFont(title_font(*widget));
-        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        const auto* box = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        if (is_flat() && box && !box->editable)
+            flat_parts::draw_combo_box(*option, *painter);
+        else
+            QProxyStyle::drawComplexControl(control, option, painter, widget);
     }
 
   private:
     static constexpr int CELL_MARGIN = 7; // as the tables' cells have
     static constexpr int BUTTON_AIR = 8;
+    static constexpr int ROUND_FRAME = 2; // what is within lies within its corners
+
+    // No desktop's style is at work.
+    bool is_flat() const { return baseStyle()->name() == QLatin1String("fusion"); }
 
     static QFont title_font(const QWidget& widget) {
         QFont font = widget.font();

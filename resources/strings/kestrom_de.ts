@@ -83,6 +83,18 @@ Bitte prüfen Sie:
         <source></source>
         <translation>Richten Sie unter Einstellungen Ihren Adapter ein und lesen Sie dann unter Fehlercodes das Auto aus.</translation>
     </message>
+    <message id="ui_start_wifi">
+        <source></source>
+        <translation>&amp;WLAN-Adapter</translation>
+    </message>
+    <message id="ui_start_bluetooth">
+        <source></source>
+        <translation>&amp;Bluetooth-Adapter</translation>
+    </message>
+    <message id="ui_start_demo">
+        <source></source>
+        <translation>Mit dem &amp;virtuellen Auto probieren</translation>
+    </message>
     <message id="ui_rail_codes">
         <source></source>
         <translation>Fehler&amp;codes</translation>
@@ -302,6 +314,26 @@ Die Namen der Prüfungen sind englisch.</translation>
         <source></source>
         <translation>Strg+Klick auf einen zweiten Messwert oben zeigt hier sein Rundinstrument.</translation>
     </message>
+    <message id="ui_live_follow">
+        <source></source>
+        <translation>Dem Dia&amp;gramm folgen</translation>
+    </message>
+    <message id="ui_live_follow_hint">
+        <source></source>
+        <translation>Das erste Rundinstrument zeigt dann die Messgröße des großen Diagramms.</translation>
+    </message>
+    <message id="ui_live_dial_unmoved">
+        <source></source>
+        <translation>Nichts bewegt dieses Instrument: die erste Messgröße wählen oder „Dem Diagramm folgen“.</translation>
+    </message>
+    <message id="ui_live_length">
+        <source></source>
+        <translation>Dauer der Fahrt</translation>
+    </message>
+    <message id="ui_live_reading">
+        <source></source>
+        <translation>%1: %2, Bereich %3 bis %4</translation>
+    </message>
     <message id="ui_live_log_failed">
         <source></source>
         <translation>Aufzeichnung abgebrochen:</translation>
@@ -473,6 +505,10 @@ Die Namen der Prüfungen sind englisch.</translation>
     <message id="ui_export_txt">
         <source></source>
         <translation>Te&amp;xt (.txt)</translation>
+    </message>
+    <message id="ui_export_time">
+        <source></source>
+        <translation>Zeit jeder Ru&amp;nde zuerst, in Sekunden</translation>
     </message>
     <message id="ui_export_start">
         <source></source>

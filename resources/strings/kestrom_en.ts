@@ -83,6 +83,18 @@ Please check:
         <source></source>
         <translation>Choose Preferences to set up your adapter, then Trouble codes to read the car.</translation>
     </message>
+    <message id="ui_start_wifi">
+        <source></source>
+        <translation>&amp;Wi-Fi adapter</translation>
+    </message>
+    <message id="ui_start_bluetooth">
+        <source></source>
+        <translation>&amp;Bluetooth adapter</translation>
+    </message>
+    <message id="ui_start_demo">
+        <source></source>
+        <translation>Try with the &amp;virtual car</translation>
+    </message>
     <message id="ui_rail_codes">
         <source></source>
         <translation>Trouble &amp;codes</translation>
@@ -301,6 +313,26 @@ N/A: this car does not have this monitor</translation>
         <source></source>
         <translation>Ctrl+click on a second parameter above shows its dial here.</translation>
     </message>
+    <message id="ui_live_follow">
+        <source></source>
+        <translation>Follo&amp;w the chart</translation>
+    </message>
+    <message id="ui_live_follow_hint">
+        <source></source>
+        <translation>The first dial then moves with the parameter of the large chart.</translation>
+    </message>
+    <message id="ui_live_dial_unmoved">
+        <source></source>
+        <translation>Nothing moves this dial: choose the first parameter, or “Follow the chart”.</translation>
+    </message>
+    <message id="ui_live_length">
+        <source></source>
+        <translation>Length of the run</translation>
+    </message>
+    <message id="ui_live_reading">
+        <source></source>
+        <translation>%1: %2, range %3 to %4</translation>
+    </message>
     <message id="ui_live_log_failed">
         <source></source>
         <translation>Logging stopped:</translation>
@@ -472,6 +504,10 @@ N/A: this car does not have this monitor</translation>
     <message id="ui_export_txt">
         <source></source>
         <translation>&amp;Text (.txt)</translation>
+    </message>
+    <message id="ui_export_time">
+        <source></source>
+        <translation>Ti&amp;me of each round first, in seconds</translation>
     </message>
     <message id="ui_export_start">
         <source></source>

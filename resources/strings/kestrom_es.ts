@@ -83,6 +83,18 @@ Compruebe que:
         <source></source>
         <translation>Elija Preferencias para configurar su adaptador y después Códigos de avería para leer el coche.</translation>
     </message>
+    <message id="ui_start_wifi">
+        <source></source>
+        <translation>Adaptador &amp;wifi</translation>
+    </message>
+    <message id="ui_start_bluetooth">
+        <source></source>
+        <translation>Adaptador &amp;Bluetooth</translation>
+    </message>
+    <message id="ui_start_demo">
+        <source></source>
+        <translation>Probar con el coche &amp;virtual</translation>
+    </message>
     <message id="ui_rail_codes">
         <source></source>
         <translation>&amp;Códigos de avería</translation>
@@ -302,6 +314,26 @@ Los nombres de los monitores están en inglés.</translation>
         <source></source>
         <translation>Ctrl+clic en un segundo parámetro de arriba muestra aquí su indicador.</translation>
     </message>
+    <message id="ui_live_follow">
+        <source></source>
+        <translation>Seguir el grá&amp;fico</translation>
+    </message>
+    <message id="ui_live_follow_hint">
+        <source></source>
+        <translation>El primer indicador sigue entonces el parámetro del gráfico grande.</translation>
+    </message>
+    <message id="ui_live_dial_unmoved">
+        <source></source>
+        <translation>Nada mueve este indicador: elija el primer parámetro o «Seguir el gráfico».</translation>
+    </message>
+    <message id="ui_live_length">
+        <source></source>
+        <translation>Duración de la sesión</translation>
+    </message>
+    <message id="ui_live_reading">
+        <source></source>
+        <translation>%1: %2, rango de %3 a %4</translation>
+    </message>
     <message id="ui_live_log_failed">
         <source></source>
         <translation>Registro interrumpido:</translation>
@@ -473,6 +505,10 @@ Los nombres de los monitores están en inglés.</translation>
     <message id="ui_export_txt">
         <source></source>
         <translation>&amp;Texto (.txt)</translation>
+    </message>
+    <message id="ui_export_time">
+        <source></source>
+        <translation>Primero el t&amp;iempo de cada ronda, en segundos</translation>
     </message>
     <message id="ui_export_start">
         <source></source>

@@ -83,6 +83,18 @@ Veuillez vérifier que :
         <source></source>
         <translation>Choisissez Préférences pour configurer votre adaptateur, puis Codes défaut pour lire la voiture.</translation>
     </message>
+    <message id="ui_start_wifi">
+        <source></source>
+        <translation>Adaptateur &amp;Wi-Fi</translation>
+    </message>
+    <message id="ui_start_bluetooth">
+        <source></source>
+        <translation>Adaptateur &amp;Bluetooth</translation>
+    </message>
+    <message id="ui_start_demo">
+        <source></source>
+        <translation>Essayer avec la voiture &amp;virtuelle</translation>
+    </message>
     <message id="ui_rail_codes">
         <source></source>
         <translation>&amp;Codes défaut</translation>
@@ -302,6 +314,26 @@ Les noms des moniteurs sont en anglais.</translation>
         <source></source>
         <translation>Ctrl+clic sur un deuxième paramètre ci-dessus affiche ici son cadran.</translation>
     </message>
+    <message id="ui_live_follow">
+        <source></source>
+        <translation>Suivre le &amp;graphique</translation>
+    </message>
+    <message id="ui_live_follow_hint">
+        <source></source>
+        <translation>Le premier cadran suit alors le paramètre du grand graphique.</translation>
+    </message>
+    <message id="ui_live_dial_unmoved">
+        <source></source>
+        <translation>Rien ne fait bouger ce cadran : choisissez le premier paramètre ou « Suivre le graphique ».</translation>
+    </message>
+    <message id="ui_live_length">
+        <source></source>
+        <translation>Durée de la session</translation>
+    </message>
+    <message id="ui_live_reading">
+        <source></source>
+        <translation>%1 : %2, plage de %3 à %4</translation>
+    </message>
     <message id="ui_live_log_failed">
         <source></source>
         <translation>Enregistrement interrompu :</translation>
@@ -473,6 +505,10 @@ Les noms des moniteurs sont en anglais.</translation>
     <message id="ui_export_txt">
         <source></source>
         <translation>Te&amp;xte (.txt)</translation>
+    </message>
+    <message id="ui_export_time">
+        <source></source>
+        <translation>D’abord l’&amp;heure de chaque tour, en secondes</translation>
     </message>
     <message id="ui_export_start">
         <source></source>

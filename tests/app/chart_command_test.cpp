@@ -19,6 +19,10 @@ class chart_command_test : public testing::Test {
   protected:
     int chart(std::string_view log, std::vector<std::string> arguments) {
         std::ofstream(path("run.gol"), std::ios::binary) << log;
+        std::ofstream times(path("run.gol.times"));
+        for (std::size_t i = 0; i < log.size(); ++i)
+            times << 500 + i * 1000 << '\n';
+        times.close();
         arguments.insert(arguments.begin(), path("run.gol"));
         return run(arguments);
     }
@@ -46,10 +50,15 @@ constexpr std::string_view LOG =
 
 TEST_F(chart_command_test, prints_the_axis_limits_and_draws_at_the_scale) {
     EXPECT_EQ(chart(LOG, {"--pid", "0C", "-o", path("out.png")}), 0);
-    EXPECT_EQ(out.str(), "0C Engine Speed: 0.00 to 4000.00 RPM\n");
+    EXPECT_EQ(out.str(), "0C Engine Speed: 0.00 to 4000.00 RPM\nTime: 0.500 to 3.500 s\n");
+    const QImage timed = picture();
+    std::ofstream(path("run.gol.times")) << "500\n";
+    EXPECT_EQ(run({path("run.gol"), "--pid", "0C", "-o", path("out.png")}), 0);
+    EXPECT_THAT(err.str(), HasSubstr("run.gol.times: times of 1 of 4 rounds"));
+    EXPECT_NE(picture(), timed);
     EXPECT_EQ(picture().size(), QSize(420, 230));
     EXPECT_EQ(chart(LOG, {"--pid", "d", "--pid=0C", "--scale", "2", "-o", path("out.png")}), 0);
-    EXPECT_THAT(out.str(), HasSubstr("0D Vehicle Speed: 0.00 to 70.00 mph\n"));
+    EXPECT_THAT(out.str(), HasSubstr("0D Vehicle Speed: 20.00 to 70.00 mph\n"));
     EXPECT_EQ(picture().size(), QSize(840, 460));
 }
 
@@ -57,6 +66,12 @@ TEST_F(chart_command_test, dial_shows_the_last_value) {
     EXPECT_EQ(chart(LOG, {"--dial", "--pid", "0D", "-o", path("out.png")}), 0);
     EXPECT_EQ(out.str(), "0D Vehicle Speed: 62.50 mph\n");
     EXPECT_EQ(picture().size(), QSize(364, 286));
+    const QImage lit = picture();
+    // The last reply was no answer: the needle stays, greyed. Without any there is none.
+    EXPECT_EQ(
+        chart(std::string(LOG) + "410C0FA0,~\n", {"--dial", "--pid", "0D", "-o", path("out.png")}),
+        0);
+    EXPECT_NE(picture(), lit);
 }
 
 TEST_F(chart_command_test, a_log_of_any_bytes_is_charted_or_refused_with_its_name_and_line) {
@@ -78,7 +93,7 @@ TEST_F(chart_command_test, a_log_of_any_bytes_is_charted_or_refused_with_its_nam
         EXPECT_EQ(chart(c.log, {"--pid", "0C", "-o", path("out.png")}),
                   c.complaint.empty() ? 0 : 1);
         EXPECT_THAT(err.str(), HasSubstr(c.complaint)) << c.log.substr(0, 40);
-        EXPECT_EQ(err.str().empty(), c.complaint.empty());
+        EXPECT_EQ(err.str().empty(), c.complaint.empty()) << err.str();
     }
 }
 

@@ -57,7 +57,12 @@ TEST_F(export_command_test, tables_stand_beside_their_log_wherever_it_is) {
         std::ostringstream table;
         table << std::ifstream(c.output).rdbuf();
         EXPECT_EQ(table.str(), "Engine Speed (RPM)\n1000.000000\n");
+        EXPECT_EQ(err.str(), "");
     }
+    EXPECT_EQ(run({"--time", path("run.gol.d.gol")}), 1) << "there already";
+    std::filesystem::remove(path("run.csv.d.csv"));
+    EXPECT_EQ(run({"--time", path("run.gol.d.gol")}), 0);
+    EXPECT_THAT(err.str(), HasSubstr("run.gol.d.gol.times: not there"));
 }
 
 TEST_F(export_command_test, refusals_have_their_reason_and_status) {

@@ -97,6 +97,44 @@ TEST_F(export_window_test, a_long_export_leaves_the_run_loop_free_and_says_where
     EXPECT_EQ(told(), "File (" + path("log_a.txt") + ")already exists.. Bailing out");
 }
 
+TEST_F(export_window_test, the_time_is_offered_where_a_log_has_it) {
+    write_log("log_a.gol", 2, 1);
+    write_log("log_b.gol", 2);
+    std::ofstream(path("log_a.gol.times")) << "100\n250\n";
+    open();
+    const auto* box = dialog->findChild<QAbstractButton*>(QStringLiteral("withTime"));
+    EXPECT_FALSE(box->isEnabled() || box->isChecked());
+    logs->selectRow(1);
+    EXPECT_TRUE(box->isEnabled() && box->isChecked());
+    press_in_dialog("startExport");
+    finish();
+    std::string header, row;
+    std::ifstream table(path("log_a.csv"));
+    std::getline(table, header);
+    std::getline(table, row);
+    EXPECT_THAT(header, testing::StartsWith("Time (s),"));
+    EXPECT_THAT(row, testing::StartsWith("0.100,1000.000000,"));
+}
+
+// What a first start offers.
+TEST_F(export_window_test, the_first_steps_lead_to_the_preferences_or_to_the_virtual_car) {
+    bool demo = false;
+    window.offer_first_steps([&] { demo = true; });
+    const auto press = [this](const char* name) {
+        window.findChild<QAbstractButton*>(QLatin1String(name))->click();
+        return app.delegate->current_screen_name();
+    };
+    EXPECT_EQ(app.delegate->current_screen(), nullptr);
+    EXPECT_EQ(press("startBluetooth"), PREFS_VIEW);
+    EXPECT_EQ(app.defaults.integer(KS_INTERFACE_KEY), KS_USE_BT);
+    app.delegate->do_read_codes();
+    EXPECT_EQ(press("startWifi"), PREFS_VIEW);
+    EXPECT_EQ(app.defaults.integer(KS_INTERFACE_KEY), KS_USE_WIFI);
+    EXPECT_FALSE(demo);
+    EXPECT_EQ(press("startDemo"), READ_CODES_VIEW);
+    EXPECT_TRUE(demo);
+}
+
 TEST_F(export_window_test, boost_counts_from_the_pressure_it_was_logged_against) {
     std::ofstream(path("boost_a.txt")) << "41E50017\n"; // 23 kPa, 78 below the air around
     open();
@@ -123,11 +161,10 @@ TEST_F(export_window_test, closing_gives_up_and_leaves_no_file) {
     open();
     press_in_dialog("startExport");
     app.loop.advance(std::chrono::milliseconds(2));
-    EXPECT_TRUE(std::filesystem::exists(path("log_a.csv")));
+    EXPECT_FALSE(idle());
     press_in_dialog("closeExport");
-    EXPECT_FALSE(std::filesystem::exists(path("log_a.csv")));
     app.loop.advance(std::chrono::seconds(1));
-    EXPECT_FALSE(std::filesystem::exists(path("log_a.csv")));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(path("")), {}), 1) << "the log";
 }
 
 TEST_F(export_window_test, an_empty_folder_says_how_logs_come_about) {

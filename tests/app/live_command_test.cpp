@@ -28,7 +28,8 @@ list lines_of(const std::string& text) {
 
 std::string only_log_below(const QString& users_home) {
     const QDir folder(users_home + QStringLiteral("/kestrom/loggies"));
-    const QStringList names = folder.entryList(QDir::Files);
+    const QStringList names =
+        folder.entryList({QStringLiteral("*.gol"), QStringLiteral("*.txt")}, QDir::Files);
     EXPECT_EQ(names.size(), 1);
     QFile file(folder.filePath(names.value(0)));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));

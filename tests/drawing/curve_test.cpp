@@ -1,5 +1,6 @@
 // The reduced way of drawing a curve against drawing every segment.
 #include "canvas.h"
+#include "casing.h"
 #include "curve_painter.h"
 #include "drawing_fixture.h"
 #include "literal_curve.h"
@@ -73,7 +74,8 @@ picture_difference draw_both_ways(const std::string& name, const sample_rows& ro
     const row_window window = window_of_rows(rows.rows(), shown);
     const chart_limits limits{static_cast<double>(window.first),
                               static_cast<double>(window.first + window.count), 0, 100};
-    const curve_style style{QColor(223, 1, 1), 1.8, PLOT.y, antialiased};
+    const QColor ink(223, 1, 1);
+    const curve_style style{ink, casing_of(ink), 1.8, PLOT.y, antialiased};
     QImage whole = empty_image(CHART, 1);
     whole.fill(QColor(31, 31, 46));
     QImage reduced = whole.copy();
@@ -180,7 +182,8 @@ TEST(curve, rubbish_numbers_and_areas_are_harmless) {
                                    {3, 3, 0, 1},   {0, 7, NAN_VALUE, huge}, {0, 7, -huge, huge}};
     for (const chart_area& area : areas)
         for (const chart_limits& l : limits)
-            paint_curve(target, reduce_curve(rows, 0, {0, 7}, area, l), {QColor(0, 0, 0), 2.2, 0});
+            paint_curve(target, reduce_curve(rows, 0, {0, 7}, area, l),
+                        {QColor(0, 0, 0), Qt::white, 2.2, 0});
 }
 
 } // namespace

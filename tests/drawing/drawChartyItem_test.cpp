@@ -83,12 +83,43 @@ TEST_F(chart_test, labels_come_from_the_catalogue_and_then_from_the_samples) {
     labels = chart.work_out_labels(rows);
     EXPECT_EQ(labels[0].upper, "2000.000000");
     EXPECT_EQ(labels[0].lower, "1000.000000");
-    EXPECT_EQ(labels[1].lower, "62.500000");
-    rows.append_fresh_row(); // its unfilled places count as 0
-    EXPECT_EQ(chart.work_out_labels(rows)[1].lower, "0.000000");
+    for (const std::string_view no_sample : {UNFILLED, std::string_view("NO DATA")}) {
+        rows.append_fresh_row();
+        file(rows, 0, no_sample);
+        EXPECT_EQ(chart.work_out_labels(rows), labels) << no_sample;
+    }
     EXPECT_EQ(chart.get_OBDVal("NO DATA"), 0);
     EXPECT_EQ(chart.get_OBDVal("-1"), 0);
     EXPECT_EQ(chart.get_OBDVal("41 0C 1A F8"), 1726);
+}
+
+// A parked car's speed above all.
+TEST_F(chart_test, a_value_that_never_changes_lies_inside_the_plot) {
+    use_metric(true);
+    const struct {
+        const char *pid, *reply;
+        double lower, upper; // of the axis
+    } cases[] = {
+        {"0D", "410D00", 0, 300},      {"0D", "410DFF", 0, 300},      {"05", "410528", -50, 300},
+        {"04", "4104FF", 0, 200},      {"E4", "41E40000", -2, 2},     {"E4", "41E403E8", 0, 0},
+        {"23", "41230000", 0, 655350}, {"23", "4123C350", 0, 655350}, {"14", "4114FFFF", 0, 2}};
+    for (const auto& c : cases) {
+        chart.use_this_pids({c.pid});
+        sample_rows rows(1);
+        for (int i = 0; i < 3; ++i) {
+            rows.append_fresh_row();
+            file(rows, 0, c.reply);
+        }
+        const label_record record = chart.work_out_labels(rows)[0];
+        const double value = rows.value(2, 0);
+        EXPECT_LE(drawChartyItem::lower_limit(record), value) << c.reply;
+        EXPECT_GE(drawChartyItem::upper_limit(record), value) << c.reply;
+        EXPECT_LT(drawChartyItem::lower_limit(record), drawChartyItem::upper_limit(record));
+        if (c.upper > c.lower) {
+            EXPECT_EQ(drawChartyItem::lower_limit(record), c.lower) << c.reply;
+            EXPECT_EQ(drawChartyItem::upper_limit(record), c.upper) << c.reply;
+        }
+    }
 }
 
 TEST_F(chart_test, axis_width_is_measured_on_the_moved_limits) {
@@ -108,7 +139,7 @@ TEST_F(chart_test, paints_background_plot_curve_and_readout) {
         sample_rows rows(3);
         for (int i = 0; i < 400; ++i) {
             rows.append_fresh_row();
-            file(rows, 0, "410C0FA0"); // 1000 of 0 to 2000
+            file(rows, 0, i == 1 ? "410C0000" : "410C0FA0"); // 1000 of 0 to 2000
         }
         draw(rows);
         const QImage& image = chart.image();

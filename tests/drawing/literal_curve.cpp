@@ -1,6 +1,7 @@
 #include "literal_curve.h"
 
 #include "canvas.h"
+#include "casing.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,11 +19,20 @@ std::optional<QPoint> point_of(const sample_rows& samples, std::size_t row, std:
     return QPoint(scale_x(static_cast<double>(row), area, limits), scale_y(value, area, limits));
 }
 
+// QPainter scales the width of a line without length twice.
+QPointF end_of(const canvas& target, QPoint p, QPoint q) {
+    return target.flipped(p == q ? q.x() + 1e-3 : q.x(), q.y());
+}
+
+void paint_casing(canvas& target, QPoint p, QPoint q, const curve_style& style) {
+    target.painter().setPen(QPen(style.casing, style.line_width + 2 * CASING_WIDTH));
+    target.painter().drawLine(target.flipped(p.x(), p.y()), end_of(target, p, q));
+}
+
 void paint_segment(canvas& target, QPoint p, QPoint q, const curve_style& style) {
     QPainter& painter = target.painter();
     const QPointF from = target.flipped(p.x(), p.y());
-    // QPainter scales the width of a line without length twice.
-    const QPointF to = target.flipped(p == q ? q.x() + 1e-3 : q.x(), q.y());
+    const QPointF to = end_of(target, p, q);
     painter.setPen(QPen(style.ink, 1));
     painter.drawLine(from, to);
     QColor shade = style.ink;
@@ -41,14 +51,16 @@ void paint_every_segment(canvas& target, const sample_rows& samples, std::size_t
                          const row_window& window, const chart_area& area,
                          const chart_limits& limits, const curve_style& style) {
     target.painter().setRenderHint(QPainter::Antialiasing, style.antialiased);
-    std::optional<QPoint> p = point_of(samples, window.first, parameter, area, limits);
-    for (std::size_t row = window.first + 1; row < window.first + window.count; ++row) {
-        if (!samples.filled(row, parameter))
-            continue;
-        const std::optional<QPoint> q = point_of(samples, row, parameter, area, limits);
-        if (p && q)
-            paint_segment(target, *p, *q, style);
-        p = q;
+    for (const auto paint : {paint_casing, paint_segment}) { // the casing lies below all
+        std::optional<QPoint> p = point_of(samples, window.first, parameter, area, limits);
+        for (std::size_t row = window.first + 1; row < window.first + window.count; ++row) {
+            if (!samples.filled(row, parameter))
+                continue;
+            const std::optional<QPoint> q = point_of(samples, row, parameter, area, limits);
+            if (p && q)
+                paint(target, *p, *q, style);
+            p = q;
+        }
     }
 }
 

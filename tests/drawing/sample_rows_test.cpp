@@ -42,25 +42,13 @@ TEST_F(sample_rows_test, keeps_texts_and_numbers_as_filed) {
     EXPECT_EQ(rows.text(1, 1), "-1");
 }
 
-TEST_F(sample_rows_test, labels_count_an_unusable_reply_as_zero_and_plotting_as_none) {
-    const struct {
-        std::string_view display_text;
-        double expected;
-    } cases[] = {{"1726.00 RPM", 1726}, {"~", 0},        {"-16.0 Pa", -16}, {"N/A", 0},
-                 {"Open Loop", 0},      {"1 'Hours'", 1}};
-    for (const auto& c : cases)
-        EXPECT_EQ(sample_rows::chart_number(c.display_text), c.expected) << c.display_text;
-    EXPECT_TRUE(std::isnan(sample_rows::chart_number("-")));
-    EXPECT_TRUE(std::isnan(sample_rows::chart_number("")));
-}
-
-TEST_F(sample_rows_test, extrema_leave_out_the_first_row_and_count_unfilled_places) {
+TEST_F(sample_rows_test, extrema_leave_out_the_first_row_and_what_is_no_sample) {
     sample_rows rows(1);
     rows.append_fresh_row();
     rows.file(0, "a", number(900));
     EXPECT_TRUE(std::isnan(rows.highest(0)));
     rows.append_fresh_row();
-    EXPECT_EQ(rows.highest(0), 0); // not filled yet
+    EXPECT_TRUE(std::isnan(rows.highest(0))); // not filled yet
     rows.file(0, "b", number(20));
     EXPECT_EQ(rows.highest(0), 20);
     EXPECT_EQ(rows.lowest(0), 20);
@@ -68,13 +56,14 @@ TEST_F(sample_rows_test, extrema_leave_out_the_first_row_and_count_unfilled_plac
     rows.append_fresh_row();
     rows.file(0, "c", number(40));
     rows.append_fresh_row();
-    rows.file(0, "d", {"-", 0}); // no number at all
+    rows.file(0, "d", {"~", std::nan("")}); // no answer
+    EXPECT_EQ(rows.lowest(0), 30);
     EXPECT_EQ(rows.highest(0), 40);
     EXPECT_EQ(rows.lowest(0), 30);
     rows.append_fresh_row();
     rows.append_fresh_row();
     rows.file(0, "e", number(35));
-    EXPECT_EQ(rows.lowest(0), 0);
+    EXPECT_EQ(rows.lowest(0), 30); // a whole row was passed over
     rows.clear();
     EXPECT_TRUE(rows.empty());
     EXPECT_TRUE(std::isnan(rows.lowest(0)));

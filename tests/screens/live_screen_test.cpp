@@ -1,10 +1,7 @@
 // The live-data screen by its widgets, against answers given by hand: run selector, thumbnails,
 // dials, zoom, log, and the answers that an adapter still owes.
-#include "actions.h"
-#include "app_harness.h"
-#include "qt_warnings.h"
+#include "live_fixture.h"
 #include "stall_hint.h"
-#include "thumbnail_strip.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -14,72 +11,8 @@
 
 #include <deque>
 #include <filesystem>
-#include <fstream>
-#include <gtest/gtest.h>
 
 namespace {
-
-using std::chrono::milliseconds;
-using list = std::vector<std::string>;
-
-class live_screen : public testing::Test {
-  protected:
-    live_screen() { open(); }
-
-    void open() {
-        expect_warning("propagateSizeHints"); // of a view that is a window of its own
-        app.delegate->do_actions();
-        QWidget* view = screen().view();
-        view->resize(1100, 640);
-        view->show();
-        draw();
-    }
-    // Starts a run at its first request; the way to the adapter has been gone before.
-    void start() {
-        connected_2_KS_interface = true;
-        app.press("startStopBtn");
-        if (!connected_2_WIFI_interface)
-            app.connect();
-        app.loop.settle();
-    }
-    void draw() { app.loop.advance(milliseconds(200)); }
-    // Answers the next request for the parameter at this place as `share` of its range.
-    void answer(std::size_t place, bool high) {
-        const std::string& pid = screen().pids()[place];
-        ASSERT_EQ(app.sent(), "01 " + pid + "\r");
-        const std::string data = pid == "0C" ? (high ? "60 00" : "10 00") : high ? "90" : "30";
-        app.receive("41 " + pid + " " + data + "\r\r>");
-    }
-    void cycle(bool high = false) {
-        for (std::size_t place = 0; place < screen().pids().size(); ++place)
-            answer(place, high);
-    }
-    // Places of the parameters whose samples change this picture.
-    std::string moved_by(const char* picture) {
-        cycle(false);
-        draw();
-        std::string places;
-        for (std::size_t place = 0; place < screen().pids().size(); ++place) {
-            const QImage before = app.find(picture)->grab().toImage();
-            answer(place, true);
-            draw();
-            if (app.find(picture)->grab().toImage() != before)
-                places += std::to_string(place);
-        }
-        return places;
-    }
-    list log_lines() {
-        std::ifstream file(screen().log_path());
-        list lines;
-        for (std::string line; std::getline(file, line);)
-            lines.push_back(line + (file.eof() ? " without its end" : ""));
-        return lines;
-    }
-    actions& screen() { return static_cast<actions&>(*app.delegate->current_screen()); }
-    thumbnail_strip& strip() { return *static_cast<thumbnail_strip*>(app.find("thumbiesMtrx")); }
-
-    app_harness app;
-};
 
 TEST_F(live_screen, the_selector_names_the_runs_and_each_rebuilds_the_screen) {
     auto* selector = app.find<QComboBox>("runSelectorCombo");
@@ -143,13 +76,13 @@ struct choice {
     const char* chart;
 };
 
-// In this order. The first dial follows the first parameter alone, whatever else is selected.
+// In this order. The first dial follows the first parameter alone, and only while it shows it.
 TEST_F(live_screen, thumbnails_are_chosen_by_mouse_and_keys_and_choose_what_dials_and_chart_show) {
     const Qt::Key none = Qt::Key_unknown;
     const choice choices[] = {
         {"another", 2, none, {}, {2}, false, "", "", "2"},
-        {"two", 0, none, Qt::ControlModifier, {0, 2}, true, "0", "0", "02"},
-        {"three", 1, none, Qt::ShiftModifier, {0, 1}, true, "0", "0", "01"},
+        {"two", 0, none, Qt::ControlModifier, {0, 2}, true, "", "0", "02"},
+        {"three", 1, none, Qt::ShiftModifier, {0, 1}, true, "", "0", "01"},
         {"one away", 1, none, Qt::ControlModifier, {0}, false, "0", "", "0"},
         {"the last one stays", 0, none, Qt::ControlModifier, {0}, false, "0", "", "0"},
         {"right", -1, Qt::Key_Right, {}, {1}, false, "", "", "1"},
@@ -204,8 +137,9 @@ TEST_F(live_screen, the_slider_comes_with_the_21st_row_and_names_what_the_chart_
         int value;
         const char* title;
     } zooms[] = {
-        {0, "Charting last 20 sampling points"},   {1, "Charting last 0 sampling points"},
-        {10, "Charting last 1 sampling points"},   {555, "Charting last 55 sampling points"},
+        {0, "Charting last 20 sampling points"},   {555, "Charting last 55 sampling points"},
+        {1, "Charting last 20 sampling points"},   {300, "Charting last 30 sampling points"},
+        {199, "Charting last 20 sampling points"}, {210, "Charting last 21 sampling points"},
         {999, "Charting last 99 sampling points"}, {1000, "All sampling points"}};
     QImage before;
     for (const auto& [value, expected] : zooms) {
@@ -338,6 +272,39 @@ TEST_F(logged_run, whose_file_is_removed_goes_on_with_the_mark) {
               app.resources.localized("ui_live_log_failed") + " No such file or directory");
     cycle();
     EXPECT_FALSE(std::filesystem::exists(screen().log_path()));
+}
+
+// The log has the same bytes with and without it.
+TEST_F(logged_run, has_a_companion_with_the_time_of_each_round) {
+    start();
+    const std::string log = screen().log_path();
+    for (const int wait : {70, 1200, 5}) {
+        for (std::size_t place = 0; place < 3; ++place)
+            answer(place, false);
+        app.loop.advance(milliseconds(wait));
+        answer(3, false);
+    }
+    answer(0, false);
+    draw();
+    EXPECT_EQ(app.find<QLabel>("runLength")->text(), QStringLiteral("0:01"));
+    app.press("startStopBtn");
+    EXPECT_EQ(log_lines(), list(3, "410D30,411130,410C1000,410530"));
+    std::ifstream times(log + ".times");
+    list lines;
+    for (std::string line; std::getline(times, line);)
+        lines.push_back(line);
+    EXPECT_EQ(lines, (list{"70", "1270", "1275"}));
+}
+
+TEST_F(logged_run, without_a_whole_round_leaves_no_file) {
+    start();
+    const std::string log = screen().log_path();
+    EXPECT_TRUE(std::filesystem::exists(log));
+    answer(0, false);
+    app.press("startStopBtn");
+    EXPECT_FALSE(std::filesystem::exists(log));
+    EXPECT_FALSE(std::filesystem::exists(log + ".times"));
+    EXPECT_EQ(screen().log_path(), "");
 }
 
 TEST_F(logged_run, of_another_kind_has_its_own_name_and_the_computed_item_first) {

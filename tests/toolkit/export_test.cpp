@@ -26,6 +26,9 @@ class export_test : public decode_test {
         text << std::ifstream(path(name), std::ios::binary).rdbuf();
         return text.str();
     }
+    std::ptrdiff_t files() const {
+        return std::distance(std::filesystem::directory_iterator(logs.log_folder()), {});
+    }
     bool there(const std::string& name) const { return std::filesystem::exists(path(name)); }
 
     // The tables that the program ships with.
@@ -138,9 +141,61 @@ TEST_F(export_test, what_cannot_be_exported_is_refused_and_leaves_no_file) {
     {
         log_export left_alone(logs);
         EXPECT_EQ(left_alone.start(path("run.gol"), path("out.csv")), export_result::working);
-        EXPECT_TRUE(there("out.csv"));
+        left_alone.step();
+        left_alone.step();
+        EXPECT_FALSE(there("out.csv")) << "it is not whole";
+        EXPECT_EQ(files(), 5);
     }
-    EXPECT_FALSE(there("out.csv"));
+    EXPECT_EQ(files(), 4) << "a part of it is left behind";
+}
+
+// As the window and the command have it: any answer names its column, and every comma parts two.
+TEST_F(export_test, columns_are_named_by_the_first_answer_in_them) {
+    const struct {
+        std::string log, table;
+    } cases[] = {
+        {"~,410D64\nNODATA,~\n410C1AF8,410D32\n",
+         "Engine Speed (RPM),Vehicle Speed "
+         "(kph)\nnan,100.000000\nnan,nan\n1726.000000,50.000000\n"},
+        {"NODATA,4\n", " (N/A), (N/A)\nnan,nan\n"},
+        {"41ZZ,410d64\n", " (N/A),Vehicle Speed (kph)\nnan,100.000000\n"},
+        {",410D64,\n410C1AF8,,~\n", "Engine Speed (RPM),Vehicle Speed (kph), "
+                                    "(N/A)\nnan,100.000000,nan\n1726.000000,nan,nan\n"},
+    };
+    use_metric(true);
+    for (const auto& c : cases) {
+        write_log("run.gol", c.log);
+        std::filesystem::remove(path("run.csv"));
+        EXPECT_EQ(export_log(logs, path("run.gol"), path("run.csv")).result,
+                  export_result::exported);
+        EXPECT_EQ(text_of("run.csv"), c.table);
+    }
+}
+
+TEST_F(export_test, the_time_of_each_round_comes_first_as_far_as_it_is_known) {
+    const struct {
+        const char* times; // none: no companion
+        const char *first, *second, *note;
+    } cases[] = {{"120\n3004\n", "0.120", "3.004", ""},
+                 {"120\n", "0.120", "nan", "run.gol.times: times of 1 of 2 rounds"},
+                 {"120\n30", "0.120", "nan", "times of 1 of 2"}, // cut
+                 {"12x\n-5\n", "nan", "nan", "times of 0 of 2"},
+                 {nullptr, "nan", "nan", "run.gol.times: not there"}};
+    use_metric(true);
+    write_log("run.gol", "410D64\n410D32\n");
+    for (const auto& c : cases) {
+        std::filesystem::remove(path("run.gol.times"));
+        std::filesystem::remove(path("run.csv"));
+        if (c.times != nullptr)
+            write_log("run.gol.times", c.times);
+        const export_outcome outcome =
+            export_log(logs, path("run.gol"), path("run.csv"), {.with_time = true});
+        EXPECT_EQ(outcome.result, export_result::exported);
+        EXPECT_THAT(outcome.note, HasSubstr(c.note));
+        EXPECT_EQ(outcome.note.empty(), *c.note == '\0') << outcome.note;
+        EXPECT_EQ(text_of("run.csv"), std::string("Time (s),Vehicle Speed (kph)\n") + c.first +
+                                          ",100.000000\n" + c.second + ",50.000000\n");
+    }
 }
 
 // The named operation leaves what it always left.
@@ -171,9 +226,10 @@ TEST_F(export_test, a_long_export_agrees_with_an_independent_reading_of_the_log)
     use_metric(true);
     double told = -1;
     const export_outcome outcome =
-        export_log(logs, path("long.gol"), path("long.csv"), [&](double part) {
+        export_log(logs, path("long.gol"), path("long.csv"), {}, [&](double part) {
             EXPECT_GE(part, told);
             told = part;
+            return true;
         });
     EXPECT_EQ(outcome.result, export_result::exported) << outcome.error;
     EXPECT_EQ(outcome.rows, 20000U);

@@ -1,5 +1,6 @@
 #include "decode_fixture.h"
 #include "fuel_economy.h"
+#include "run_times.h"
 
 #include <QLocale>
 
@@ -78,8 +79,11 @@ TEST_F(run_logs_test, only_files_of_the_log_folder_are_deleted) {
     std::ofstream(root() + "/data/kept") << "x";
     std::filesystem::create_directory(logs.log_folder() + "/full");
     std::ofstream(logs.log_folder() + "/full/kept") << "x";
+    std::ofstream(times_of_log(name)) << "12\n";
+    EXPECT_EQ(logs.list_logs().size(), 1U) << "a companion is no log";
     EXPECT_TRUE(logs.delete_a_log("log_Jan_01_1970-1200_00.gol"));
     EXPECT_FALSE(std::filesystem::exists(name));
+    EXPECT_FALSE(std::filesystem::exists(times_of_log(name)));
     expect_warning("oops: ");
     for (const char* bad : {"log_Jan_01_1970-1200_00.gol", "", ".", "..", "../kept", "full"})
         EXPECT_FALSE(logs.delete_a_log(bad)) << bad;

@@ -1,0 +1,20 @@
+// The parts of widgets where no desktop's style is at work: flat, with one corner radius, thin
+// lines and the program's own check mark, in the palette's colours. Stateless.
+#pragma once
+
+#include <QStyle>
+
+class QPainter;
+class QStyleOption;
+class QStyleOptionHeader;
+
+namespace flat_parts {
+
+// False for what is left to the style below.
+bool draw(QStyle::PrimitiveElement part, const QStyleOption& option, QPainter& painter);
+// The ground of a heading: the window's, over a thin line.
+void draw_heading(const QStyleOptionHeader& option, QPainter& painter);
+// A closed combo box without its text.
+void draw_combo_box(const QStyleOption& option, QPainter& painter);
+
+} // namespace flat_parts

@@ -4,6 +4,7 @@
 #include "bundle.h"
 #include "busy_indicator.h"
 #include "chrome.h"
+#include "device_chooser.h"
 #include "display_text.h"
 
 #include <QDialogButtonBox>
@@ -31,7 +32,7 @@ connecting_dialog::connecting_dialog(QWidget* parent, const bluez_connection& co
     column->setContentsMargins(2 * GRID, 2 * GRID, 2 * GRID, 2 * GRID);
     column->setSpacing(2 * GRID);
     auto* row = new QHBoxLayout;
-    const QString sentence = text("bt_connecting").arg(display_text(device).simplified());
+    const QString sentence = text("bt_connecting").arg(one_line(device));
     auto* told = new QLabel(sentence, this);
     told->setObjectName(QStringLiteral("state"));
     told->setTextFormat(Qt::PlainText);

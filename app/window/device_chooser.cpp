@@ -25,13 +25,12 @@ constexpr int TICK_MS = 1000;
 constexpr int PATIENCE_MS = 5000; // afterwards the seconds are counted
 constexpr int LONGEST_NAME = 60;
 
-// A device's own name, on one line.
+} // namespace
+
 QString one_line(const std::string& name) {
     QString line = display_text(name).simplified();
     return line.size() > LONGEST_NAME ? line.left(LONGEST_NAME) + QChar(0x2026) : line;
 }
-
-} // namespace
 
 device_chooser::device_chooser(QWidget* parent, bluez_devices& devices, const bundle& texts,
                                std::string last_address)

@@ -22,6 +22,9 @@ class QLabel;
 class QPushButton;
 class QTableView;
 
+// A device's own name, on one line.
+QString one_line(const std::string& name);
+
 class device_chooser final : public QDialog {
     Q_OBJECT
   public:

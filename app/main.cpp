@@ -235,7 +235,7 @@ std::unique_ptr<network::served_car> connect_to_virtual_car(Ks_lite_delegate& de
     g_connect_with = KS_USE_WIFI;
     g_cur_wifi_IP = "127.0.0.1";
     g_cur_wifi_port = std::to_string(car->port());
-    delegate.adapter_changed();
+    delegate.settings_left();
     return car;
 }
 

@@ -22,7 +22,6 @@ namespace {
 
 constexpr int TIME_DECIMALS = 3;
 constexpr run_loop::milliseconds PROGRESS_EVERY{200};
-constexpr run_loop::milliseconds PATIENCE{5000};
 constexpr run_loop::milliseconds LOOK_EVERY{500};
 
 int task_of(const std::string& run) {
@@ -93,9 +92,10 @@ void live_command::begin_run() {
 
 // Once for each wait that takes long, with the time of day at which it began.
 void live_command::tell_of_waiting() {
-    const auto since = delegate_.waiting_since();
-    const auto waited = delegate_.doors().loop.now() - since;
-    if (since.count() != 0 && since != told_waiting_since_ && waited >= PATIENCE) {
+    const auto now = delegate_.doors().loop.now();
+    const auto since = delegate_.replies().stalled_since(now);
+    const auto waited = now - since;
+    if (since.count() != 0 && since != told_waiting_since_) {
         told_waiting_since_ = since;
         const std::string began = QTime::currentTime()
                                       .addMSecs(-static_cast<int>(waited.count()))

@@ -168,7 +168,7 @@ TEST_F(another_adapter, ends_its_task_when_nobody_chooses_it) {
     app.press("readCodes");
     EXPECT_FALSE(static_cast<readCodes*>(app.delegate->current_screen())->task_running());
     EXPECT_TRUE(app.find("waity")->isHidden());
-    EXPECT_EQ(app.last_status(), app.resources.localized("bt_no_adapter_MSG"));
+    EXPECT_EQ(app.last_status(), app.bluetooth.advice());
     app.delegate->do_expert();
     app.find<QLineEdit>("cmdTxt")->setText(QStringLiteral("AT I"));
     app.press("sendBtn");
@@ -201,7 +201,7 @@ TEST_F(another_adapter, over_bluetooth_a_lost_channel_is_opened_again) {
     app.loop.advance(seconds(3)); // silent, and nobody is chosen
     app.bluetooth.selector_result = -1001;
     app.press("reconnect");
-    EXPECT_EQ(app.last_status(), app.resources.localized("bt_no_adapter_MSG"));
+    EXPECT_EQ(app.last_status(), app.bluetooth.advice());
     EXPECT_FALSE(app.find("reconnect")->isHidden());
     app.bluetooth.selector_result = SELECTOR_SUCCESS;
     app.press("reconnect"); // and a task asked for while the channel opens is begun

@@ -69,7 +69,7 @@ Bitte prüfen Sie:
     </message>
     <message id="bt_no_adapter_MSG">
         <source></source>
-        <translation>Kein Bluetooth-Adapter gewählt. Erneut drücken, um einen zu wählen.</translation>
+        <translation>Es wurde kein Bluetooth-Adapter gewählt. Drücken Sie noch einmal, um einen zu wählen.</translation>
     </message>
     <message id="bt_not_reached_MSG">
         <source></source>
@@ -248,7 +248,7 @@ Die Namen der Prüfungen sind englisch.</translation>
     </message>
     <message id="ui_reconnected">
         <source></source>
-        <translation>Wieder verbunden. Weiter geht es mit einer Schaltfläche.</translation>
+        <translation>Wieder verbunden. Drücken Sie eine Schaltfläche, um fortzufahren.</translation>
     </message>
     <message id="ui_settings_not_saved">
         <source></source>
@@ -268,7 +268,7 @@ Die Namen der Prüfungen sind englisch.</translation>
     </message>
     <message id="ui_live_zoom_hint">
         <source></source>
-        <translation>Wie viele der letzten Messungen das große Diagramm zeigt</translation>
+        <translation>Wie viele der letzten Werte das große Diagramm zeigt</translation>
     </message>
     <message id="ui_live_start">
         <source></source>
@@ -320,15 +320,15 @@ Die Namen der Prüfungen sind englisch.</translation>
     </message>
     <message id="ui_live_follow_hint">
         <source></source>
-        <translation>Das erste Rundinstrument zeigt dann die Messgröße des großen Diagramms.</translation>
+        <translation>Das erste Rundinstrument zeigt dann den Messwert des großen Diagramms.</translation>
     </message>
     <message id="ui_live_dial_unmoved">
         <source></source>
-        <translation>Nichts bewegt dieses Instrument: die erste Messgröße wählen oder „Dem Diagramm folgen“.</translation>
+        <translation>Nichts bewegt dieses Instrument: Wählen Sie den ersten Messwert oder „Dem Diagramm folgen“.</translation>
     </message>
     <message id="ui_live_length">
         <source></source>
-        <translation>Dauer der Fahrt</translation>
+        <translation>Dauer der Messung</translation>
     </message>
     <message id="ui_live_reading">
         <source></source>
@@ -691,11 +691,11 @@ Freie Software unter der MIT-Lizenz.
     </message>
     <message id="ui_unread">
         <source></source>
-        <translation>Nicht alles, was das Auto gesendet hat, konnte gelesen werden: %1. Es können Fehlercodes fehlen: Lesen Sie noch einmal.</translation>
+        <translation>Nicht alles, was das Auto gesendet hat, konnte gelesen werden: %1. Möglicherweise fehlen Fehlercodes: Lesen Sie noch einmal.</translation>
     </message>
     <message id="unread_adapter_notice">
         <source></source>
-        <translation>der Adapter meldete %1</translation>
+        <translation>der Adapter hat %1 gemeldet</translation>
     </message>
     <message id="unread_damaged_line">
         <source></source>
@@ -711,35 +711,35 @@ Freie Software unter der MIT-Lizenz.
     </message>
     <message id="unread_too_long">
         <source></source>
-        <translation>eine Antwort, an der etwas Fremdes hängt</translation>
+        <translation>eine Antwort, auf die fremde Daten folgen</translation>
     </message>
     <message id="unread_frames_unclear">
         <source></source>
-        <translation>Rahmen, die nicht zusammenpassen</translation>
+        <translation>Datenrahmen, die nicht zusammenpassen</translation>
     </message>
     <message id="unread_refused">
         <source></source>
-        <translation>ein Steuergerät lehnte ab (%1)</translation>
+        <translation>ein Steuergerät hat die Anfrage abgelehnt (%1)</translation>
     </message>
     <message id="unread_no_answer">
         <source></source>
-        <translation>das Auto antwortete nicht</translation>
+        <translation>das Auto hat nicht geantwortet</translation>
     </message>
     <message id="unread_left_out">
         <source></source>
-        <translation>das Auto sandte auch %1, das die Liste auslässt</translation>
+        <translation>das Auto hat auch %1 gesendet (nicht in der Liste)</translation>
     </message>
     <message id="ui_more_button">
         <source></source>
-        <translation>Weitere Parameter …</translation>
+        <translation>Weitere Messwerte …</translation>
     </message>
     <message id="ui_more_hint">
         <source></source>
-        <translation>Wählen, was außer den Parametern der Einstellungen noch abgefragt wird</translation>
+        <translation>Wählen, was zusätzlich zu den Messwerten der Einstellungen abgefragt wird</translation>
     </message>
     <message id="ui_more_title">
         <source></source>
-        <translation>Weitere Parameter</translation>
+        <translation>Weitere Messwerte</translation>
     </message>
     <message id="ui_more_search">
         <source></source>
@@ -747,7 +747,7 @@ Freie Software unter der MIT-Lizenz.
     </message>
     <message id="ui_more_name">
         <source></source>
-        <translation>Parameter</translation>
+        <translation>Messwert</translation>
     </message>
     <message id="ui_more_unit">
         <source></source>
@@ -783,23 +783,23 @@ Freie Software unter der MIT-Lizenz.
     </message>
     <message id="ui_more_unknown">
         <source></source>
-        <translation>Noch ist nicht bekannt, was dieses Auto kann.</translation>
+        <translation>Noch ist nicht bekannt, welche Messwerte dieses Auto liefert.</translation>
     </message>
     <message id="ui_more_asking">
         <source></source>
-        <translation>Das Auto wird gefragt, was es kann</translation>
+        <translation>Das Auto wird nach seinen Messwerten gefragt</translation>
     </message>
     <message id="ui_more_told">
         <source></source>
-        <translation>Das Auto hat gesagt, was es kann</translation>
+        <translation>Das Auto hat gemeldet, welche Messwerte es liefert</translation>
     </message>
     <message id="ui_more_untold">
         <source></source>
-        <translation>Das Auto hat nicht gesagt, was es kann</translation>
+        <translation>Das Auto hat nicht gemeldet, welche Messwerte es liefert</translation>
     </message>
     <message id="ui_more_known">
         <source></source>
-        <translation>Dieses Auto kann %d Parameter.</translation>
+        <translation>Dieses Auto liefert %d Messwerte.</translation>
     </message>
     <message id="ui_menu_lookup">
         <source></source>

@@ -201,7 +201,7 @@ Please check:
     </message>
     <message id="ui_codes_unread">
         <source></source>
-        <translation>The trouble codes could not be read whole.</translation>
+        <translation>The trouble codes could not be read completely.</translation>
     </message>
     <message id="ui_col_state">
         <source></source>
@@ -702,7 +702,7 @@ Free software under the MIT licence.
     </message>
     <message id="unread_not_understood">
         <source></source>
-        <translation>a line that is no answer</translation>
+        <translation>a line that is not an answer</translation>
     </message>
     <message id="unread_broken_off">
         <source></source>
@@ -710,7 +710,7 @@ Free software under the MIT licence.
     </message>
     <message id="unread_too_long">
         <source></source>
-        <translation>an answer with something behind it that does not belong to it</translation>
+        <translation>an answer followed by data that does not belong to it</translation>
     </message>
     <message id="unread_frames_unclear">
         <source></source>
@@ -718,7 +718,7 @@ Free software under the MIT licence.
     </message>
     <message id="unread_refused">
         <source></source>
-        <translation>a control unit refused (%1)</translation>
+        <translation>a control unit refused the request (%1)</translation>
     </message>
     <message id="unread_no_answer">
         <source></source>
@@ -726,7 +726,7 @@ Free software under the MIT licence.
     </message>
     <message id="unread_left_out">
         <source></source>
-        <translation>the car also sent %1, which the list leaves out</translation>
+        <translation>the car also sent %1, which is not in the list</translation>
     </message>
     <message id="ui_more_button">
         <source></source>
@@ -734,7 +734,7 @@ Free software under the MIT licence.
     </message>
     <message id="ui_more_hint">
         <source></source>
-        <translation>Choose what a log run asks for beside the parameters of the preferences</translation>
+        <translation>Choose what a log run asks for in addition to the parameters chosen in Preferences</translation>
     </message>
     <message id="ui_more_title">
         <source></source>
@@ -790,11 +790,11 @@ Free software under the MIT licence.
     </message>
     <message id="ui_more_told">
         <source></source>
-        <translation>The car told what it supports</translation>
+        <translation>The car has reported what it supports</translation>
     </message>
     <message id="ui_more_untold">
         <source></source>
-        <translation>The car did not tell what it supports</translation>
+        <translation>The car did not report what it supports</translation>
     </message>
     <message id="ui_more_known">
         <source></source>

@@ -77,7 +77,7 @@ Compruebe que:
     </message>
     <message id="bt_closed_MSG">
         <source></source>
-        <translation>La conexión Bluetooth ha terminado. Pulse Reconectar para volver a conectar.</translation>
+        <translation>La conexión Bluetooth se ha cerrado. Pulse Reconectar para volver a conectar.</translation>
     </message>
     <message id="ui_where_to_begin">
         <source></source>
@@ -201,7 +201,7 @@ Compruebe que:
     </message>
     <message id="ui_codes_unread">
         <source></source>
-        <translation>No se pudieron leer completos los códigos de avería.</translation>
+        <translation>No se han podido leer por completo los códigos de avería.</translation>
     </message>
     <message id="ui_col_state">
         <source></source>
@@ -244,7 +244,7 @@ Los nombres de los monitores están en inglés.</translation>
     </message>
     <message id="ui_reconnect_hint">
         <source></source>
-        <translation>Cierra el enlace con el adaptador y vuelve a conectar</translation>
+        <translation>Cierra la conexión con el adaptador y la restablece</translation>
     </message>
     <message id="ui_reconnected">
         <source></source>
@@ -691,11 +691,11 @@ Software libre con licencia MIT.
     </message>
     <message id="ui_unread">
         <source></source>
-        <translation>No se pudo leer todo lo que envió el coche: %1. Pueden faltar códigos de avería: lea de nuevo.</translation>
+        <translation>No se ha podido leer todo lo que ha enviado el coche: %1. Pueden faltar códigos de avería: vuelva a leerlos.</translation>
     </message>
     <message id="unread_adapter_notice">
         <source></source>
-        <translation>el adaptador comunicó %1</translation>
+        <translation>el adaptador ha comunicado %1</translation>
     </message>
     <message id="unread_damaged_line">
         <source></source>
@@ -719,15 +719,15 @@ Software libre con licencia MIT.
     </message>
     <message id="unread_refused">
         <source></source>
-        <translation>una centralita se negó (%1)</translation>
+        <translation>una unidad de control ha rechazado la petición (%1)</translation>
     </message>
     <message id="unread_no_answer">
         <source></source>
-        <translation>el coche no respondió</translation>
+        <translation>el coche no ha respondido</translation>
     </message>
     <message id="unread_left_out">
         <source></source>
-        <translation>el coche también envió %1, que la lista omite</translation>
+        <translation>el coche también ha enviado %1, que no figura en la lista</translation>
     </message>
     <message id="ui_more_button">
         <source></source>
@@ -759,11 +759,11 @@ Software libre con licencia MIT.
     </message>
     <message id="ui_more_yes">
         <source></source>
-        <translation>disponible</translation>
+        <translation>admitido</translation>
     </message>
     <message id="ui_more_no">
         <source></source>
-        <translation>no disponible</translation>
+        <translation>no admitido</translation>
     </message>
     <message id="ui_more_in_prefs">
         <source></source>
@@ -787,15 +787,15 @@ Software libre con licencia MIT.
     </message>
     <message id="ui_more_asking">
         <source></source>
-        <translation>Se pregunta al coche qué admite</translation>
+        <translation>Preguntando al coche qué admite</translation>
     </message>
     <message id="ui_more_told">
         <source></source>
-        <translation>El coche ha dicho qué admite</translation>
+        <translation>El coche ha indicado qué admite</translation>
     </message>
     <message id="ui_more_untold">
         <source></source>
-        <translation>El coche no ha dicho qué admite</translation>
+        <translation>El coche no ha indicado qué admite</translation>
     </message>
     <message id="ui_more_known">
         <source></source>

@@ -73,7 +73,7 @@ Veuillez vérifier que :
     </message>
     <message id="bt_not_reached_MSG">
         <source></source>
-        <translation>Pas de connexion Bluetooth. Appuyez de nouveau pour réessayer. Pour choisir un autre adaptateur, décochez « Réutiliser le dernier adaptateur » dans les préférences.</translation>
+        <translation>Pas de connexion Bluetooth. Appuyez de nouveau pour réessayer. Pour choisir un autre adaptateur, décochez « Réutiliser le dernier adaptateur » dans les préférences.</translation>
     </message>
     <message id="bt_closed_MSG">
         <source></source>
@@ -201,7 +201,7 @@ Veuillez vérifier que :
     </message>
     <message id="ui_codes_unread">
         <source></source>
-        <translation>Les codes défaut n’ont pas pu être lus en entier.</translation>
+        <translation>Les codes défaut n'ont pas pu être lus en entier.</translation>
     </message>
     <message id="ui_col_state">
         <source></source>
@@ -252,7 +252,7 @@ Les noms des moniteurs sont en anglais.</translation>
     </message>
     <message id="ui_settings_not_saved">
         <source></source>
-        <translation>Les préférences n'ont pas pu être enregistrées. Elles restent valables jusqu'à la fermeture de Kestrom, puis sont perdues. Le disque est-il plein ou protégé en écriture ?</translation>
+        <translation>Les préférences n'ont pas pu être enregistrées. Elles restent valables jusqu'à la fermeture de Kestrom, puis sont perdues. Le disque est-il plein ou protégé en écriture ?</translation>
     </message>
     <message id="ui_live_run">
         <source></source>
@@ -324,7 +324,7 @@ Les noms des moniteurs sont en anglais.</translation>
     </message>
     <message id="ui_live_dial_unmoved">
         <source></source>
-        <translation>Rien ne fait bouger ce cadran : choisissez le premier paramètre ou « Suivre le graphique ».</translation>
+        <translation>Rien ne fait bouger ce cadran : choisissez le premier paramètre ou « Suivre le graphique ».</translation>
     </message>
     <message id="ui_live_length">
         <source></source>
@@ -332,7 +332,7 @@ Les noms des moniteurs sont en anglais.</translation>
     </message>
     <message id="ui_live_reading">
         <source></source>
-        <translation>%1 : %2, plage de %3 à %4</translation>
+        <translation>%1 : %2, plage de %3 à %4</translation>
     </message>
     <message id="ui_live_log_failed">
         <source></source>
@@ -508,7 +508,7 @@ Les noms des moniteurs sont en anglais.</translation>
     </message>
     <message id="ui_export_time">
         <source></source>
-        <translation>D’abord l’&amp;heure de chaque tour, en secondes</translation>
+        <translation>D'abord l'&amp;heure de chaque tour, en secondes</translation>
     </message>
     <message id="ui_export_start">
         <source></source>
@@ -691,11 +691,11 @@ Logiciel libre sous licence MIT.
     </message>
     <message id="ui_unread">
         <source></source>
-        <translation>Tout ce que la voiture a envoyé n’a pas pu être lu : %1. Des codes défaut peuvent manquer : relisez.</translation>
+        <translation>Une partie de ce que la voiture a envoyé n'a pas pu être lue : %1. Des codes défaut peuvent manquer ; relancez la lecture.</translation>
     </message>
     <message id="unread_adapter_notice">
         <source></source>
-        <translation>l’adaptateur a signalé %1</translation>
+        <translation>l'adaptateur a signalé %1</translation>
     </message>
     <message id="unread_damaged_line">
         <source></source>
@@ -703,7 +703,7 @@ Logiciel libre sous licence MIT.
     </message>
     <message id="unread_not_understood">
         <source></source>
-        <translation>une ligne qui n’est pas une réponse</translation>
+        <translation>une ligne qui n'est pas une réponse</translation>
     </message>
     <message id="unread_broken_off">
         <source></source>
@@ -715,15 +715,15 @@ Logiciel libre sous licence MIT.
     </message>
     <message id="unread_frames_unclear">
         <source></source>
-        <translation>des trames qui ne s’assemblent pas</translation>
+        <translation>des trames qui ne s'assemblent pas</translation>
     </message>
     <message id="unread_refused">
         <source></source>
-        <translation>un calculateur a refusé (%1)</translation>
+        <translation>un calculateur a refusé la requête (%1)</translation>
     </message>
     <message id="unread_no_answer">
         <source></source>
-        <translation>la voiture n’a pas répondu</translation>
+        <translation>la voiture n'a pas répondu</translation>
     </message>
     <message id="unread_left_out">
         <source></source>
@@ -759,11 +759,11 @@ Logiciel libre sous licence MIT.
     </message>
     <message id="ui_more_yes">
         <source></source>
-        <translation>disponible</translation>
+        <translation>pris en charge</translation>
     </message>
     <message id="ui_more_no">
         <source></source>
-        <translation>indisponible</translation>
+        <translation>non pris en charge</translation>
     </message>
     <message id="ui_more_in_prefs">
         <source></source>
@@ -783,23 +783,23 @@ Logiciel libre sous licence MIT.
     </message>
     <message id="ui_more_unknown">
         <source></source>
-        <translation>On ne sait pas encore ce que cette voiture propose.</translation>
+        <translation>On ne sait pas encore quels paramètres cette voiture prend en charge.</translation>
     </message>
     <message id="ui_more_asking">
         <source></source>
-        <translation>La voiture est interrogée sur ce qu'elle propose</translation>
+        <translation>Interrogation de la voiture sur ses paramètres</translation>
     </message>
     <message id="ui_more_told">
         <source></source>
-        <translation>La voiture a dit ce qu'elle propose</translation>
+        <translation>La voiture a indiqué les paramètres qu'elle prend en charge</translation>
     </message>
     <message id="ui_more_untold">
         <source></source>
-        <translation>La voiture n'a pas dit ce qu'elle propose</translation>
+        <translation>La voiture n'a pas indiqué les paramètres qu'elle prend en charge</translation>
     </message>
     <message id="ui_more_known">
         <source></source>
-        <translation>Cette voiture propose %d paramètres.</translation>
+        <translation>Cette voiture prend en charge %d paramètres.</translation>
     </message>
     <message id="ui_menu_lookup">
         <source></source>

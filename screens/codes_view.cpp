@@ -230,8 +230,9 @@ void codes_view::reset_labels() {
     extra_card_->set_resting("");
 }
 
-void codes_view::show_result(const unread_pieces& unread) {
-    no_codes_->setText(ui_text(delegate_, unread.empty() ? "ui_codes_none" : "ui_codes_unread"));
+void codes_view::show_result(const unread_pieces& unread, bool none_counted) {
+    const bool none = unread.empty() && none_counted;
+    no_codes_->setText(ui_text(delegate_, none ? "ui_codes_none" : "ui_codes_unread"));
     const std::string causes = unread_causes(delegate_.doors().resources, unread);
     const QString told = ui_text(delegate_, "ui_unread").arg(display_text(causes));
     unread_->setText(told);

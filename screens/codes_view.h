@@ -41,7 +41,7 @@ class codes_view {
     // As after a clear.
     void reset_labels();
     // The end of a reading: says that there are no codes, or what is missing.
-    void show_result(const unread_pieces& unread);
+    void show_result(const unread_pieces& unread, bool none_counted);
 
     std::string lamp() const { return lamp_; }
     std::string read_on() const { return read_on_; }

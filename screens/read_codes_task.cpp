@@ -150,9 +150,10 @@ void readCodes::decode_status() {
 std::vector<std::string> readCodes::work_reply_to_error_codes_pid(std::string_view mode,
                                                                   std::string_view this_reply) {
     codes_reading read =
-        read_codes(mode, this_reply, bus_known_by(status_bus_, g_bus_form, g_cur_protocol));
-    // As old cars put it that nothing is stored.
-    if (read.no_data && !status_told_)
+        read_codes(mode, this_reply, bus_known_by(status_bus_, g_bus_form, g_cur_protocol),
+                   count_known_ ? std::optional(no_of_codes) : std::nullopt);
+    // Old cars put it so that nothing is stored; not those that have just counted codes.
+    if (read.no_data && (!status_told_ || no_of_codes > 0))
         read.unread.push_back({unread_kind::no_answer, {}});
     std::ranges::move(read.unread, std::back_inserter(unread_));
     return std::move(read.codes);
@@ -179,7 +180,7 @@ void readCodes::codes_answered() {
     set_status_msg("Rerieve codes successfully");
     refresh_readiness();
     succeeded_ = unread_.empty();
-    view_->show_result(unread_);
+    view_->show_result(unread_, no_of_codes == 0);
     set_status_msg(succeeded_ && count_known_ &&
                            codesReadArray.size() == static_cast<std::size_t>(no_of_codes)
                        ? "Codes read!. Scroll for full description"

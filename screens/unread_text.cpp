@@ -24,7 +24,7 @@ constexpr kind_row ROWS[] = {
     {"left_out", "unread_left_out"},
 };
 
-constexpr std::size_t LONGEST_QUOTE = 24;
+constexpr std::size_t LONGEST_QUOTE = 24, MOST_CAUSES = 3;
 
 const kind_row& row_of(unread_kind kind) {
     return ROWS[static_cast<std::size_t>(kind)];
@@ -37,13 +37,13 @@ std::string unread_causes(const bundle& resources, const unread_pieces& unread) 
     for (const unread_piece& one : unread) {
         std::string cause = replace_all(resources.localized(row_of(one.kind).key), "%1",
                                         one.text.substr(0, LONGEST_QUOTE));
-        if (std::ranges::find(causes, cause) == causes.end())
+        if (causes.size() <= MOST_CAUSES && std::ranges::find(causes, cause) == causes.end())
             causes.push_back(std::move(cause));
     }
     std::string all;
-    for (const std::string& cause : causes)
-        all += (all.empty() ? "" : "; ") + cause;
-    return all;
+    for (std::size_t i = 0; i < causes.size() && i < MOST_CAUSES; ++i)
+        all += (i == 0 ? "" : "; ") + causes[i];
+    return causes.size() > MOST_CAUSES ? all + "; …" : all;
 }
 
 std::string_view unread_name(unread_kind kind) {

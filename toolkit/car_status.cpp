@@ -20,9 +20,7 @@ bool is_engine(const ecu_answer& one) {
 // is the engine's, any lamp counts, and the first unit's monitors.
 car_status read_status(std::string_view reply) {
     reading read = read_reply("0101", reply);
-    if (read.answered()) // a unit that refuses disturbs nobody else's
-        std::erase_if(read.unread,
-                      [](const auto& one) { return one.kind == unread_kind::refused; });
+    read.forget_refusals();
     std::erase_if(read.answers, [](const auto& one) { return one.data.size() < WHOLE; });
     const bool engine_told = std::ranges::any_of(read.answers, is_engine);
 

@@ -27,7 +27,8 @@ void mac_toolies::handle_00_replies(std::string_view reply, int this_pid_group) 
         "01" + convertByte2HexStr(PIDS_OF_A_GROUP * static_cast<unsigned>(this_pid_group));
     std::string_view mask;
     bool of_engine = false;
-    const reading read = read_reply(request, reply);
+    reading read = read_reply(request, reply);
+    read.forget_refusals();
     for (const ecu_answer& one : read.answers) {
         const bool engine = one.unit == "Engine";
         if (one.data.size() < MASK_AT + MASK_DIGITS || (!engine && !mask.empty()))

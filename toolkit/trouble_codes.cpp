@@ -5,6 +5,8 @@
 #include "mac_toolies.h"
 #include "text.h"
 
+#include <utility>
+
 namespace {
 
 // Where codes stand in an older bus's line, behind the service.
@@ -34,7 +36,9 @@ class codes_taker {
 
     codes_reading take() {
         for (const ecu_answer& one : reply_.answers)
-            if (reply_.bus.form == bus_form::can || one.data.size() > LONGEST_FRAME_DIGITS)
+            if (halves_ == half_codes::left_unread && one.data.size() % 2 != 0)
+                continue; // all digits behind the one that is lost are at wrong places
+            else if (one.bus == bus_form::can)
                 take_message(one);
             else
                 take_line(one);
@@ -80,14 +84,33 @@ class codes_taker {
 } // namespace
 
 codes_reading read_codes(std::string_view service, std::string_view reply, bus_evidence known,
-                         half_codes halves) {
-    return codes_taker(read_reply(service, reply, known), halves).take();
+                         std::optional<int> announced, half_codes halves) {
+    const reading read = read_reply(service, reply, known);
+    codes_reading by_form = codes_taker(read, halves).take();
+    if (read.bus.source != bus_source::reply_form)
+        return by_form;
+    const bus_form other_bus = read.bus.form == bus_form::can ? bus_form::older : bus_form::can;
+    const reading other = read_reply(service, reply, {other_bus, bus_source::reply_form});
+    codes_reading by_other = codes_taker(other, halves).take();
+    const auto fits = [&](const codes_reading& one) {
+        return one.unread.empty() && (!announced || std::cmp_equal(*announced, one.codes.size()));
+    };
+    if (by_form.codes == by_other.codes || fits(by_form))
+        return by_form;
+    if (fits(by_other))
+        return by_other;
+    if (!by_form.unread.empty()) { // either may be what a damaged line looks like
+        by_form.codes.clear();
+        by_form.unread.push_back({unread_kind::not_understood, {}});
+    }
+    return by_form;
 }
 
 std::vector<std::string> mac_toolies::work_reply_to_error_codes_pid(std::string_view mode,
                                                                     std::string_view this_reply) {
     const bus_form bus = g_cur_protocol.contains("CAN") ? bus_form::can : bus_form::older;
-    return read_codes(mode, this_reply, {bus, bus_source::protocol_text}, half_codes::padded).codes;
+    return read_codes(mode, this_reply, {bus, bus_source::protocol_text}, {}, half_codes::padded)
+        .codes;
 }
 
 // SAE J2012: two bits for the system, two for the first digit.

@@ -10,6 +10,7 @@ namespace {
 constexpr std::size_t LONGEST_VIN = 39; // the buffer's 40 bytes less the terminator
 constexpr std::size_t LINE_SIZE = 14;   // "4902", message number, four bytes
 constexpr std::string_view NO_VIN = "N/A";
+constexpr std::string_view ANSWER = "4902";
 
 // Fill bytes of value 0 add nothing, nor does a place behind the text's end.
 void append_character(std::string_view text, std::size_t position, std::string& vin) {
@@ -64,15 +65,20 @@ std::string mac_toolies::work_out_vin(std::string_view reply) {
 
 bool mac_toolies::is_whole_vin(std::string_view vin, std::string_view reply) {
     constexpr std::size_t VIN_LENGTH = 17;
-    std::string frames, in_order;
+    // Frames are numbered from 0 on, the lines of the older buses from 1 on.
+    unsigned frames = 0, messages = 0;
     for (const std::string& line : reply_lines(reply)) {
-        if (contains(line, "<"))
+        const std::string_view text = line;
+        const bool frame = is_numbered_frame(text);
+        if (frame ? text[0] != convertByte2HexStr(frames)[1] : contains(text, "<"))
             return false;
-        if (is_numbered_frame(line)) {
-            in_order += convertByte2HexStr(static_cast<unsigned>(in_order.size()))[1];
-            frames += line[0];
-        }
+        if ((frame && frames++ == 0) || text.starts_with("49"))
+            if (slice(text, frame ? 2 : 0, 4) != ANSWER)
+                return false;
+        if (!frame && text.starts_with(ANSWER) && convertStr2Byte(slice(text, 4, 2)) != ++messages)
+            return false;
+        if (!frame && text.size() >= LINE_SIZE && is_hex(text) && !text.starts_with(ANSWER))
+            return false;
     }
-    return frames == in_order && vin.size() == VIN_LENGTH &&
-           std::ranges::all_of(vin, may_stand_in_vin);
+    return vin.size() == VIN_LENGTH && std::ranges::all_of(vin, may_stand_in_vin);
 }

@@ -129,6 +129,7 @@ void Ks_lite_delegate::rfcommChannelClosed() {
     doors_.loop.after(DISCONNECTION_DELAY,
                       [this, device = mBluetoothDevice] { closeDeviceConnectionOnDevice(device); });
     connected_2_BT_interface = false;
+    ledger_.link_gone();
     tell_link_lost();
 }
 

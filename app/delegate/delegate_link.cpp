@@ -63,6 +63,8 @@ void Ks_lite_delegate::l_set_status_msg(const std::string& message) {
 
 // A link that came up only because the user wanted it back has nothing to begin.
 void Ks_lite_delegate::work_over_new_link(const std::string& message) {
+    if (only_connecting_ && in_doubt_)
+        return; // it has broken again
     if (only_connecting_)
         l_set_status_msg(doors_.resources.localized("ui_reconnected"));
     else
@@ -93,7 +95,7 @@ Ks_lite_delegate::adapter_choice Ks_lite_delegate::chosen_adapter() {
 void Ks_lite_delegate::settings_left() {
     if (opened_to_.transport == 0 || opened_to_ == chosen_adapter())
         return;
-    if (connected_2_BT_interface) // the adapter is free for others then
+    if (connected_2_BT_interface || bluetooth_opening_) // the adapter is free for others then
         closeDeviceConnectionOnDevice(mBluetoothDevice);
     drop_link();
 }

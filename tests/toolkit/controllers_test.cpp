@@ -117,7 +117,7 @@ TEST_F(supported_pids, the_engines_mask_is_kept) {
         {"no data", "NODATA\r", "OLD"},
         {"unable", "UNABLETOCONNECT\r", "OLD"},
         {"refused", "7E8037F0112\r", "OLD"},
-        {"refused by the engine", "7E8037F0112\r7E906410080000001\r", "OLD"},
+        {"refused by the engine", "7E8037F0112\r7E906410080000001\r", "80000001"},
         {"short", "7E8064100BE1FA81\r", "OLD"},
         {"shortest", "7\r\r4", "OLD"},
         {"empty", "", "OLD"},

@@ -16,6 +16,8 @@ std::optional<std::size_t> answer_digits(std::string_view data, bus_form bus);
 
 // Digits of the longest message of a single frame, and of an older bus's.
 inline constexpr std::size_t LONGEST_FRAME_DIGITS = 14;
+// Of the first frame of a longer one.
+inline constexpr std::size_t FIRST_FRAME_DIGITS = 12;
 // Digits in front of the codes of services 03, 07 and 0A on CAN: the service and the count.
 inline constexpr std::size_t CODES_HEAD_DIGITS = 4;
 inline constexpr std::size_t CODE_DIGITS = 4;

@@ -1,5 +1,6 @@
 #include "frame_gatherer.h"
 
+#include "answer_sizes.h"
 #include "hex_digits.h"
 #include "text.h"
 
@@ -7,7 +8,7 @@
 
 namespace {
 
-constexpr std::size_t FIRST_FRAME = 12, LATER_FRAME = 14; // digits
+constexpr std::size_t FIRST_FRAME = FIRST_FRAME_DIGITS, LATER_FRAME = LONGEST_FRAME_DIGITS;
 constexpr unsigned FRAME_NUMBERS = 16;
 constexpr std::size_t NUMBER_DIGITS = 2; // "1:"
 constexpr std::size_t MOST_STEPS = 5000; // of a search through hostile frames
@@ -25,7 +26,8 @@ bool frame_gatherer::message::accepts(std::string_view frame) const {
         return false;
     if (missing > LATER_FRAME)
         return digits.size() == LATER_FRAME;
-    return digits.size() >= missing && is_fill(slice(digits, missing));
+    return digits.size() == missing ||
+           (digits.size() == LATER_FRAME && is_fill(slice(digits, missing)));
 }
 
 void frame_gatherer::message::append(std::string_view frame) {
@@ -113,7 +115,7 @@ void frame_gatherer::take_what_is_certain() {
         else
             unread_.push_back({unread_kind::frames_unclear, frame});
     for (const message& one : group_)
-        if (!one.whole())
+        if (!one.begun || !one.whole())
             unread_.push_back({unread_kind::broken_off, one.data});
 }
 

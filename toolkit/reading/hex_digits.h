@@ -11,7 +11,7 @@ inline unsigned hex_value(std::string_view digits) {
     return read.ec == std::errc() && read.ptr == digits.data() + digits.size() ? value : 0;
 }
 
-// Whole bytes, all alike; no bytes are.
+// Whole bytes, all alike: what a frame may be filled up with. No bytes are.
 inline bool is_fill(std::string_view digits) {
     if (digits.size() % 2 != 0)
         return false;

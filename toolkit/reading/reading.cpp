@@ -9,7 +9,9 @@
 #include "text.h"
 
 #include <algorithm>
+#include <cctype>
 #include <map>
+#include <span>
 
 namespace {
 
@@ -23,10 +25,15 @@ std::string answer_to(std::string_view request) {
     return answer;
 }
 
-bool names_a_bus(std::string_view protocol) {
-    return contains(protocol, "ISO") || contains(protocol, "SAE") || contains(protocol, "J1") ||
-           contains(protocol, "CAN");
+constexpr std::string_view CAN_NAMES[] = {"CAN", "15765", "J1939"};
+constexpr std::string_view BUS_NAMES[] = {"ISO", "SAE", "J1"};
+
+bool holds_any(std::string_view text, std::span<const std::string_view> words) {
+    return std::ranges::any_of(words, [&](std::string_view one) { return contains(text, one); });
 }
+
+// Services whose answers are codes: late ones to another of them must not pass for nothing.
+constexpr std::string_view CODE_SERVICES[] = {"43", "47", "4A"};
 
 // Without headers a line of codes tells its bus by its form: the older buses fill seven bytes, with
 // zeros, CAN sends two and two more for each code, and fills with what it likes.
@@ -66,7 +73,10 @@ class reply_reader {
     std::size_t digits_of(const found_message& one) const;
     void take_message(const found_message& one);
     void take_answer(const found_message& one);
-    void check_what_follows(const found_message& one, std::string_view rest, bus_form bus);
+    void check_what_follows(const found_message& one, std::size_t whole, bus_form bus);
+    bool belongs(const found_message& one, std::size_t whole, bus_form bus) const;
+    bool answers_somebody_else(const found_message& one) const;
+    void settle_pending();
     void unread(unread_kind kind, std::string_view text) {
         result_.unread.push_back({kind, std::string(text)});
     }
@@ -77,7 +87,11 @@ class reply_reader {
     std::vector<found_message> messages_;
     std::map<std::string, frame_gatherer, std::less<>> frames_; // by header
     std::map<std::string, header_form, std::less<>> forms_;
-    unread_pieces pending_;
+    struct put_off {
+        std::size_t line;
+        std::string header, text;
+    };
+    std::vector<put_off> pending_;
     bool no_data_ = false;
     reading result_;
 };
@@ -121,6 +135,10 @@ void reply_reader::take_can(std::size_t number, const headed_line& line, std::st
     switch (data.front()) {
     case '0': {
         const std::size_t digits = 2 * hex_value(data.substr(1, 1));
+        if (digits == 0 || digits > LONGEST_FRAME_DIGITS) {
+            unread(unread_kind::not_understood, whole);
+            break;
+        }
         messages_.push_back({number, line, header, std::string(slice(data, 2, digits)), digits,
                              std::string(slice(data, 2 + digits))});
         break;
@@ -145,6 +163,8 @@ void reply_reader::gather() {
         std::vector<gathered_message> gathered;
         frames.finish(gathered, result_.unread);
         for (gathered_message& one : gathered) {
+            if (one.data.empty())
+                continue; // has been told of
             headed_line at;
             at.form = forms_[header];
             messages_.push_back({one.line, at, header, std::move(one.data), 0, {}, true});
@@ -190,8 +210,11 @@ void reply_reader::take_message(const found_message& one) {
                data.size() >= NEGATIVE_DIGITS) {
         const unread_piece refusal{unread_kind::refused,
                                    std::string(data.substr(0, NEGATIVE_DIGITS))};
-        (data.substr(4, 2) == PENDING ? pending_ : result_.unread).push_back(refusal);
-    } else if (!data.starts_with(NEGATIVE) && data.size() < digits_of(one)) {
+        if (data.substr(4, 2) == PENDING)
+            pending_.push_back({one.line, one.header, refusal.text});
+        else
+            result_.unread.push_back(refusal);
+    } else if (!answers_somebody_else(one)) {
         unread(unread_kind::not_understood, one.header + one.data); // nobody's whole answer
     }
 }
@@ -202,28 +225,57 @@ void reply_reader::take_answer(const found_message& one) {
     const std::size_t whole = answer_digits(data, bus).value_or(data.size());
     if (data.size() < digits_of(one))
         unread(unread_kind::broken_off, data);
-    check_what_follows(one, std::string(slice(data, whole)) + one.behind, bus);
-    ecu_answer answer{one.at.form, one.header, {}, std::string(data.substr(0, whole))};
+    check_what_follows(one, whole, bus);
+    ecu_answer answer{one.at.form, one.header, {}, std::string(data.substr(0, whole)), bus};
     answer.unit = unit_name({answer.form, answer.header, {}});
     result_.answers.push_back(std::move(answer));
 }
 
-// Behind an answer only fill of a CAN message may stand, or an older bus's checksum.
-void reply_reader::check_what_follows(const found_message& one, std::string_view rest,
-                                      bus_form bus) {
+// Behind an answer only what fills up a CAN frame may stand, or an older bus's checksum.
+bool reply_reader::belongs(const found_message& one, std::size_t whole, bus_form bus) const {
+    const std::string rest = std::string(slice(std::string_view(one.data), whole)) + one.behind;
+    const std::size_t size = one.data.size() + one.behind.size();
     if (rest.empty())
-        return;
-    const bool headed = one.at.form != header_form::none;
-    bool belongs = false;
-    if (bus == bus_form::older)
-        // The lamp's answer is as good as the adapter's own test; a code's digits are not worth the
-        // risk.
-        belongs = headed && rest.size() == 2 &&
-                  (request_.starts_with("01") || ends_with_checksum(one.header + one.data));
-    else
-        belongs = is_fill(rest);
-    if (!belongs)
-        unread(unread_kind::too_long, rest);
+        return true;
+    if (bus != bus_form::older) { // a message put together by the adapter may be of several frames
+        const std::size_t of_last = size % LONGEST_FRAME_DIGITS;
+        return is_fill(rest) && size >= LONGEST_FRAME_DIGITS &&
+               (of_last == 0 || of_last == FIRST_FRAME_DIGITS);
+    }
+    // The lamp's answer is as good as the adapter's own test; a code's digits are not worth the
+    // risk.
+    return one.at.form != header_form::none && rest.size() == 2 &&
+           (one.data.starts_with("41") || ends_with_checksum(one.header + one.data));
+}
+
+void reply_reader::check_what_follows(const found_message& one, std::size_t whole, bus_form bus) {
+    if (!belongs(one, whole, bus))
+        unread(unread_kind::too_long,
+               std::string(slice(std::string_view(one.data), whole)) + one.behind);
+}
+
+// A whole answer, or a whole refusal, that a request before this one was owed.
+bool reply_reader::answers_somebody_else(const found_message& one) const {
+    const std::string_view data = one.data;
+    if (data.starts_with(NEGATIVE))
+        return data.size() >= NEGATIVE_DIGITS;
+    if (std::ranges::find(CODE_SERVICES, data.substr(0, 2)) != std::end(CODE_SERVICES))
+        return false;
+    const bus_form bus = one.of_frames                      ? bus_form::can
+                         : one.at.form != header_form::none ? bus_of(one.at.form)
+                                                            : result_.bus.form;
+    const auto whole = answer_digits(data, bus);
+    return whole && data.size() >= std::max(*whole, one.announced) && belongs(one, *whole, bus);
+}
+
+// An answer that was put off has come when one stands behind, of the same unit where that is known.
+void reply_reader::settle_pending() {
+    for (const put_off& one : pending_)
+        if (std::ranges::none_of(messages_, [&](const found_message& later) {
+                return later.line > one.line && later.header == one.header &&
+                       later.data.starts_with(answer_);
+            }))
+            unread(unread_kind::refused, one.text);
 }
 
 reading reply_reader::read(std::string_view reply) {
@@ -234,14 +286,19 @@ reading reply_reader::read(std::string_view reply) {
     settle_bus();
     for (const found_message& one : messages_)
         take_message(one);
-    if (!result_.answered()) {
-        std::ranges::move(pending_, std::back_inserter(result_.unread));
-        result_.no_data = no_data_;
-    }
+    settle_pending();
+    result_.no_data = no_data_ && !result_.answered();
     return std::move(result_);
 }
 
 } // namespace
+
+void reading::forget_refusals() {
+    if (answered())
+        std::erase_if(unread, [](const unread_piece& one) {
+            return one.kind == unread_kind::refused && !one.text.ends_with(PENDING);
+        });
+}
 
 bool reading::holds(unread_kind kind) const {
     return std::ranges::find(unread, kind, &unread_piece::kind) != unread.end();
@@ -253,9 +310,12 @@ bus_evidence bus_known_by(bus_form status_headers, bus_form handshake_headers,
         return {status_headers, bus_source::headers};
     if (handshake_headers != bus_form::unknown)
         return {handshake_headers, bus_source::handshake};
-    if (names_a_bus(protocol_text))
-        return {contains(protocol_text, "CAN") ? bus_form::can : bus_form::older,
-                bus_source::protocol_text};
+    std::string named(protocol_text);
+    std::ranges::transform(named, named.begin(), [](unsigned char c) { return std::toupper(c); });
+    if (holds_any(named, CAN_NAMES))
+        return {bus_form::can, bus_source::protocol_text};
+    if (holds_any(named, BUS_NAMES))
+        return {bus_form::older, bus_source::protocol_text};
     return {};
 }
 

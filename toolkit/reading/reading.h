@@ -16,6 +16,7 @@ struct ecu_answer {
     std::string header; // digits; empty with headers off
     std::string unit;   // unit_name()
     std::string data;   // capital hex digits, the service byte first; nothing that only fills up
+    bus_form bus = bus_form::unknown; // that it was read by
     bool operator==(const ecu_answer&) const = default;
 };
 
@@ -40,6 +41,8 @@ struct reading {
 
     bool answered() const { return !answers.empty(); }
     bool holds(unread_kind kind) const;
+    // Beside answers a unit's refusal disturbs nobody, unless it only put its answer off.
+    void forget_refusals();
 };
 
 // `request`: its hex digits, such as "0101" or "03". Answers to other requests are passed over;

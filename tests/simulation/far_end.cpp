@@ -316,6 +316,12 @@ void far_end::restart_adapter(bool banner) {
         chatter("\r\rELM327 v1.5\r\r>");
 }
 
+void far_end::fall_silent() {
+    story_.note("!", "far end falls silent");
+    book_.damaged(slot_);
+    client_.reset();
+}
+
 void far_end::hang_up() {
     story_.note("!", "far end hangs up");
     const auto who = client_.lock();

@@ -170,8 +170,9 @@ void far_end::serve(scripted_serial_port& door) {
             expect_link_timer(FIRST_COMMAND_OR_FAREWELL);
             expect_link_timer(std::chrono::seconds(g_this_delta));
             if (opens != door.opens)
-                return; // another was asked for meanwhile
-            if (refused || closed != door.closed_channels) // given up: the event comes all the same
+                return;
+            // Given up: the event comes all the same.
+            if (refused || closed != door.closed_channels)
                 return door.channel.open_complete(refused ? 111 : 0);
             channel_ = std::make_shared<client>();
             channel_->take = [this, &door](std::size_t slot, const std::string& bytes) {

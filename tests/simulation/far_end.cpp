@@ -165,11 +165,15 @@ std::unique_ptr<stream_pair> far_end::make_streams(const std::string& host, long
 void far_end::serve(scripted_serial_port& door) {
     door.when_opened = [this, &door] {
         expect_link_timer(std::chrono::seconds(g_this_delta)); // of a command without a channel
-        after(plan_.opening(), [this, &door, refused = plan_.refuses()] {
+        after(plan_.opening(), [this, &door, refused = plan_.refuses(), opens = door.opens,
+                                closed = door.closed_channels] {
             expect_link_timer(FIRST_COMMAND_OR_FAREWELL);
             expect_link_timer(std::chrono::seconds(g_this_delta));
-            if (refused)
-                return door.channel.open_complete(111);
+            if (opens != door.opens)
+                return;
+            // Given up: the event comes all the same.
+            if (refused || closed != door.closed_channels)
+                return door.channel.open_complete(refused ? 111 : 0);
             channel_ = std::make_shared<client>();
             channel_->take = [this, &door](std::size_t slot, const std::string& bytes) {
                 for (std::size_t at = 0; at < bytes.size();) {
@@ -314,6 +318,12 @@ void far_end::restart_adapter(bool banner) {
     adapter_->connection_opened(loop_.now());
     if (banner)
         chatter("\r\rELM327 v1.5\r\r>");
+}
+
+void far_end::fall_silent() {
+    story_.note("!", "far end falls silent");
+    book_.damaged(slot_);
+    client_.reset();
 }
 
 void far_end::hang_up() {

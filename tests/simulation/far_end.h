@@ -34,6 +34,7 @@ class far_end {
     // --- incidents
     void restart_adapter(bool banner);
     void hang_up();
+    void fall_silent(); // without an event
     void chatter(std::string bytes) { send(ledger::NOBODY, std::move(bytes), {}); }
 
     // Timers that are neither the wire's nor the link's.

@@ -45,6 +45,7 @@ class fault_plan {
         reset,
         reset_with_banner,
         hang_up,
+        fall_silent,
         chatter,
         flood,
         disk_full,

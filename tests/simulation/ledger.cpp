@@ -55,6 +55,20 @@ bool answer_slot::holds_digits(std::string_view digits) const {
     return run.find(digits) != std::string::npos;
 }
 
+bool answer_slot::sound() const {
+    return complete() && !any_line(said, [](std::string_view line) {
+               return !all_hex(line.substr(line.size() > 1 && line[1] == ':' ? 2 : 0));
+           });
+}
+
+bool answer_slot::passes_for_another() const {
+    return damaged && !any_line(arrived, [this](std::string_view line) {
+               return !line.empty() && !any_line(said, [line](std::string_view one) {
+                   return one == line || (all_hex(line) && one.size() == line.size());
+               });
+           });
+}
+
 std::vector<std::string> answer_slot::status_digits() const {
     std::vector<std::string> found;
     any_line(arrived, [&](std::string_view line) {

@@ -26,6 +26,11 @@ struct answer_slot {
     bool holds(std::string_view line) const;
     // The digits stand in what arrived, whatever frames and headers are around them.
     bool holds_digits(std::string_view digits) const;
+    // Nothing happened to it, and the adapter said nothing but data.
+    bool sound() const;
+    // A fault made of it what could have been sent: lines are gone as a whole, or have other digits
+    // and as many.
+    bool passes_for_another() const;
     // What stands behind every "4101" in the lines that arrived.
     std::vector<std::string> status_digits() const;
 };

@@ -25,6 +25,7 @@ namespace {
 constexpr char NEVER_NESTED[] = "no step runs while another runs";
 constexpr char SILENT_UNDER_ALERT[] = "no step runs while an alert is open";
 constexpr char TRUE_CODES[] = "every code shown was sent by the car in answer to that request";
+constexpr char NONE_MEANS_NONE[] = "what was lost of the codes is told, what came whole is shown";
 constexpr char TRUE_VALUES[] = "every value shown was sent by the car in answer to that request";
 constexpr char BOUNDED[] = "no buffer grows without bound";
 constexpr char RESTS[] = "after the time-outs a screen is idle or sampling";
@@ -137,6 +138,7 @@ void promises::screen_changed() {
     app_.story.note("screen", app_.delegate->current_screen_name());
     codes_shown_.clear();
     status_shown_.clear();
+    end_checked_ = false;
     states_shown_.clear();
     answers_seen_ = 0;
     if (auto* const live = app_.showing<actions>(ACTIONS_VIEW))
@@ -159,6 +161,7 @@ void promises::hold_now() {
 
 void promises::codes_are_true(readCodes& screen) {
     const codes_report shown = screen.report();
+    none_means_none(screen, shown);
     std::string codes;
     for (const code_row& row : shown.codes)
         codes += " " + row[0];
@@ -184,6 +187,37 @@ void promises::codes_are_true(readCodes& screen) {
                                        }),
                           TRUE_CODES, "readiness");
     }
+}
+
+// Once for each reading, as it ends. "NO DATA" is how old cars put it that nothing is stored.
+void promises::none_means_none(readCodes& screen, const codes_report& shown) {
+    if (end_checked_ == shown.codes_told)
+        return;
+    end_checked_ = shown.codes_told;
+    if (!end_checked_)
+        return;
+    std::multiset<std::string> codes;
+    for (const code_row& row : shown.codes)
+        codes.insert(row[0]);
+    const bool whole = shown.unread.empty();
+    app_.story.note("shown", whole ? "all was read" : "not all was read");
+    app_.story.expect(whole == screen.succeeded() &&
+                          (whole || !screen.status().starts_with("Codes read!.")) &&
+                          whole == app_.find<QWidget>("unreadMark")->isHidden(),
+                      NONE_MEANS_NONE, "unread pieces against " + screen.status());
+    const auto told_so = [&](const answer_slot& slot) {
+        return slot.car.codes == codes || slot.passes_for_another() ||
+               (codes.empty() && bare(slot.said).find("NODATA") != std::string::npos);
+    };
+    app_.story.expect(!whole || app_.book.any_answer("03", task_began_, told_so), NONE_MEANS_NONE,
+                      std::to_string(codes.size()) + " codes, nothing unread");
+    for (const unread_piece& one : shown.unread)
+        if (one.kind == unread_kind::left_out)
+            codes.insert(one.text);
+    const answer_slot* const last = app_.book.asked("03", app_.book.moment() + 1);
+    app_.story.expect(!last || last->written < task_began_ || !last->sound() ||
+                          std::ranges::includes(codes, last->car.codes),
+                      NONE_MEANS_NONE, "a code that came whole is missing");
 }
 
 bool promises::code_was_sent(const std::string& code) const {

@@ -48,6 +48,7 @@ class promises {
     void screen_changed();
     void cycle_announced(actions& screen);
     void codes_are_true(readCodes& screen);
+    void none_means_none(readCodes& screen, const codes_report& shown);
     bool code_was_sent(const std::string& code) const;
     bool car_told(const std::function<bool(const truth&)>& fits,
                   const std::function<bool(const std::string& digits)>& reads) const;
@@ -70,6 +71,7 @@ class promises {
     std::uint64_t delivery_began_ = 0;
     std::uint64_t task_began_ = 0;
     std::string codes_shown_, status_shown_;
+    bool end_checked_ = false; // of the reading shown
     std::vector<std::string> states_shown_;
     std::uint64_t answers_seen_ = 0;
     std::pair<std::size_t, std::size_t> checked_; // row and place up to which samples were

@@ -78,6 +78,8 @@ void random_user::act() {
         app_.delegate->do_help_button();
     else if (dice_.happens(3))
         export_a_log();
+    else if (dice_.happens(3))
+        choose_other_adapter();
     else if (auto* const reconnect = app_.find<>("reconnect");
              reconnect && !reconnect->isHidden() && dice_.happens(25))
         press("reconnect");
@@ -254,6 +256,18 @@ void random_user::export_a_log() {
     const std::string& name = dice_.one_of(logs).name;
     app_.story.note("user", "exports " + name);
     toolies.export_to_CSV(name, dice_.happens(50));
+}
+
+// In the midst of whatever is under way, and back to that screen.
+void random_user::choose_other_adapter() {
+    const std::string before = app_.delegate->current_screen_name();
+    app_.delegate->do_prefs();
+    app_.loop.settle();
+    if (dice_.happens(50))
+        press(g_connect_with == KS_USE_WIFI ? "interfaceBluetooth" : "interfaceWifi");
+    else
+        app_.find<QLineEdit>("portsLbl")->setText(QLatin1String(PORTS[dice_.below(3)]));
+    before == ACTIONS_VIEW ? app_.delegate->do_actions() : app_.delegate->do_read_codes();
 }
 
 void random_user::change_port_and_back() {

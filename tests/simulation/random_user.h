@@ -25,6 +25,7 @@ class random_user {
     void use_preferences();
     void use_console();
     void export_a_log();
+    void choose_other_adapter();
     void wait();
     void press(const char* name);
     void expect_answer(const char* what, std::uint64_t before);

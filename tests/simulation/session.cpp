@@ -98,6 +98,9 @@ class session {
         case hang_up:
             app.far.hang_up();
             break;
+        case fall_silent:
+            app.far.fall_silent();
+            break;
         case chatter:
             app.far.chatter("STOPPED\r\r>");
             break;

@@ -42,6 +42,18 @@ void copy_pixels(const QImage& from, QImage& to, const QRect& pixels) {
                     static_cast<std::size_t>(inside.width()) * sizeof(QRgb));
 }
 
+// In 16 bits, so that many are done at a time.
+void lay_over(QRgb* pixels, const QRgb* rest, const QRgb* added, std::size_t count) {
+    auto* __restrict ground = reinterpret_cast<std::uint8_t*>(pixels);
+    const auto* __restrict left = reinterpret_cast<const std::uint8_t*>(rest);
+    const auto* __restrict more = reinterpret_cast<const std::uint8_t*>(added);
+    for (std::size_t i = 0; i < count * sizeof(QRgb); ++i) {
+        const auto product = static_cast<std::uint16_t>(ground[i] * left[i]);
+        const auto rounded = static_cast<std::uint16_t>(product + (product >> 8) + 128);
+        ground[i] = static_cast<std::uint8_t>((rounded >> 8) + more[i]);
+    }
+}
+
 namespace {
 
 void add_weighted(std::uint16_t* __restrict sums, const uchar* __restrict source,
@@ -187,11 +199,12 @@ void canvas::shade(const QRectF& area, const QColor& shade) {
     const QRectF shown = flipped(area);
     const QRect pixels =
         QRectF(shown.topLeft() * scale, shown.size() * scale).toRect() & image_.rect();
-    const std::vector<QRgb> line(static_cast<std::size_t>(pixels.width()),
-                                 qPremultiply(shade.rgba()));
+    const auto count = static_cast<std::size_t>(pixels.width());
+    const std::vector<QRgb> rest(count, rest_below(shade.alpha()));
+    const std::vector<QRgb> added(count, qPremultiply(shade.rgba()));
     for (int y = pixels.top(); y <= pixels.bottom(); ++y)
-        lay_over(reinterpret_cast<QRgb*>(image_.scanLine(y)) + pixels.left(), line.data(),
-                 pixels.width());
+        lay_over(reinterpret_cast<QRgb*>(image_.scanLine(y)) + pixels.left(), rest.data(),
+                 added.data(), count);
 }
 
 void canvas::put(kept_detail& detail, const std::string& what,

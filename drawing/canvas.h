@@ -23,6 +23,13 @@ void copy_picture(const QImage& from, QImage& to);
 // The same within these pixels only; both are of one size.
 void copy_pixels(const QImage& from, QImage& to, const QRect& pixels);
 
+// Puts `added` over as many pixels, of each of which `rest` in 255 stays, byte by byte.
+void lay_over(QRgb* pixels, const QRgb* rest, const QRgb* added, std::size_t count);
+// The `rest` of a pixel below one of this alpha.
+constexpr QRgb rest_below(int alpha) {
+    return static_cast<QRgb>(255 - alpha) * 0x01010101U;
+}
+
 // The picture with fewer lines, each the mean of those it stands for, as QImage::scaled() makes it
 // but for rounding, in half the time. From 1 to as many lines as it has.
 QImage squeezed(const QImage& picture, int lines);

@@ -39,23 +39,44 @@ struct column_spans {
             first ? to : std::max(to, end[at(column)]));
         return true;
     }
+    bool holds(int column, int from, int to) const {
+        return from >= to || (top[at(column)] <= from && end[at(column)] >= to);
+    }
     static std::size_t at(int column) { return static_cast<std::size_t>(column); }
 
     std::vector<int> top, end;
 };
 
-// What lies over the pixels of one line: nothing, the shade or the ink. From line to line only the
-// columns that change are touched, and stretches that nothing covers are passed over.
+// What lies over the pixels of one line: nothing, or casing, shade and ink upon each other. From
+// line to line only the columns that change are touched, and stretches that nothing covers are
+// passed over.
 class line_cover {
   public:
-    line_cover(QSize size, QRgb ink, QRgb shade)
-        : ink_(ink), shade_(shade), state_(static_cast<std::size_t>(size.width()), 0),
-          rest_(state_.size(), ALL), added_(state_.size(), 0),
-          covered_(state_.size() / BLOCK + 1, 0),
-          first_change_(static_cast<std::size_t>(size.height()) + 1, NONE) {}
+    static constexpr int SHADED = 1, INKED = 2, CASED = 8; // ink may lie twice
 
-    void add_shade(const column_spans& spans) { add(spans, SHADED); }
-    void add_ink(const column_spans& spans) { add(spans, INKED); }
+    line_cover(QSize size, QRgb casing, QRgb shade, QRgb ink)
+        : state_(static_cast<std::size_t>(size.width()), 0), rest_(state_.size(), rest_below(0)),
+          added_(state_.size(), 0), covered_(state_.size() / BLOCK + 1, 0),
+          first_change_(static_cast<std::size_t>(size.height()) + 1, NONE) {
+        const QRgb rest_of_shade = rest_below(qAlpha(shade));
+        QRgb shaded_casing = casing;
+        lay_over(&shaded_casing, &rest_of_shade, &shade, 1);
+        for (int state = 0; state < STATES; ++state) {
+            const bool shaded = (state & SHADED) != 0;
+            looks_[state] = state % CASED >= INKED ? look{0, ink}
+                            : state >= CASED       ? look{0, shaded ? shaded_casing : casing}
+                            : shaded               ? look{rest_of_shade, shade}
+                                                   : look{rest_below(0), 0};
+        }
+    }
+
+    void add(const column_spans& spans, int kind) {
+        for (std::size_t column = 0; column < state_.size(); ++column)
+            if (spans.top[column] < spans.end[column]) {
+                note(spans.top[column], column, kind);
+                note(spans.end[column], column, -kind);
+            }
+    }
 
     // Lines in order.
     void go_to_line(std::size_t line) {
@@ -77,21 +98,16 @@ class line_cover {
 
   private:
     static constexpr std::size_t BLOCK = 32, NONE = SIZE_MAX;
-    static constexpr QRgb ALL = 0xFFFFFFFF;
-    static constexpr int SHADED = 1, INKED = 2; // ink may lie twice
+    static constexpr int STATES = CASED + 2 * INKED + SHADED + 1;
 
     struct change {
         std::size_t column, next;
         int by;
     };
+    struct look {
+        QRgb rest, added; // what remains of the pixel below, and what comes on top
+    };
 
-    void add(const column_spans& spans, int kind) {
-        for (std::size_t column = 0; column < state_.size(); ++column)
-            if (spans.top[column] < spans.end[column]) {
-                note(spans.top[column], column, kind);
-                note(spans.end[column], column, -kind);
-            }
-    }
     void note(int line, std::size_t column, int by) {
         std::size_t& first = first_change_[static_cast<std::size_t>(line)];
         changes_.push_back({column, first, by});
@@ -103,38 +119,26 @@ class line_cover {
         const bool was_covered = state != 0;
         state += c.by;
         covered_[c.column / BLOCK] += int(state != 0) - int(was_covered);
-        const auto rest_of_shade = static_cast<QRgb>(255 - qAlpha(shade_));
-        rest_[c.column] = state == 0 ? ALL : state == SHADED ? rest_of_shade * 0x01010101U : 0;
-        added_[c.column] = state == 0 ? 0 : state == SHADED ? shade_ : ink_;
+        rest_[c.column] = looks_[state].rest;
+        added_[c.column] = looks_[state].added;
     }
 
-    // Byte by byte in 16 bits, so that many are done at a time.
-    static void lay_over(QRgb* pixels, const QRgb* rest, const QRgb* added, std::size_t count) {
-        auto* __restrict ground = reinterpret_cast<std::uint8_t*>(pixels);
-        const auto* __restrict left = reinterpret_cast<const std::uint8_t*>(rest);
-        const auto* __restrict more = reinterpret_cast<const std::uint8_t*>(added);
-        for (std::size_t i = 0; i < count * sizeof(QRgb); ++i) {
-            const auto product = static_cast<std::uint16_t>(ground[i] * left[i]);
-            const auto rounded = static_cast<std::uint16_t>(product + (product >> 8) + 128);
-            ground[i] = static_cast<std::uint8_t>((rounded >> 8) + more[i]);
-        }
-    }
-
-    QRgb ink_, shade_;
+    look looks_[STATES];
     std::vector<int> state_;
-    std::vector<QRgb> rest_, added_; // what remains of the pixel below, and what comes on top
-    std::vector<int> covered_;       // columns of each block
+    std::vector<QRgb> rest_, added_;
+    std::vector<int> covered_;              // columns of each block
     std::vector<std::size_t> first_change_; // of each line
     std::vector<change> changes_;
 };
 
-// The pixels of the area and of the columns, put together line by line and laid over the chart at
-// once: the same by polygons and rectangles takes QPainter many times longer.
+// The pixels of the columns' casing, the area and the columns, put together line by line and laid
+// over the chart at once: the same by polygons and rectangles takes QPainter many times longer.
 class pixel_layer {
   public:
     explicit pixel_layer(canvas& target)
         : image_(target.pixels()), scale_(image_.devicePixelRatio()), height_(target.height()),
-          area_(image_.width()), left_halves_(image_.width()), right_halves_(image_.width()) {}
+          area_(image_.width()), casing_(image_.width()), left_halves_(image_.width()),
+          right_halves_(image_.width()) {}
 
     // The area between a segment and the base line. A pixel belongs to it when its centre does.
     void add_area(double from_x, double from_y, double to_x, double to_y, double base_y) {
@@ -149,43 +153,76 @@ class pixel_layer {
 
     // A unit to either side of the run's points; columns next to each other overlap by half.
     void add_run(const column_run& run) {
-        add_part(left_halves_, run, run.x - 1, run.x, 1);
-        add_part(right_halves_, run, run.x, run.x + 1, 1);
-    }
-    void add_casing(const column_run& run) {
         constexpr int SPREAD = 1 + static_cast<int>(CASING_WIDTH);
-        add_part(left_halves_, run, run.x - SPREAD, run.x + SPREAD, SPREAD);
+        add_part(casing_, more_casing_, run, run.x - SPREAD, run.x + SPREAD, SPREAD);
+        add_part(left_halves_, more_runs_, run, run.x - 1, run.x, 1);
+        add_part(right_halves_, more_runs_, run, run.x, run.x + 1, 1);
     }
 
-    void paint(QRgb ink, QRgb shade) {
-        line_cover cover(image_.size(), ink, shade);
-        cover.add_shade(area_);
-        cover.add_ink(left_halves_);
-        cover.add_ink(right_halves_);
+    // Whether all of a wide line (in painter's units) lies within the columns' casing, whose colour
+    // it has.
+    bool casing_holds(const QLineF& line, double width) const {
+        const double dx = std::abs(line.dx()), dy = std::abs(line.dy());
+        const double length = std::hypot(dx, dy), half = width / 2;
+        const double reach = half * (dx + dy) / length; // of the square ends' corners
+        const double slope = line.dy() / line.dx();     // infinite for an upright line
+        const double upright = half * length / dx + std::abs(slope) / scale_ / 2;
+        const auto [top, bottom] = std::minmax({line.y1(), line.y2()});
+        const auto [left, right] = std::minmax({line.x1(), line.x2()});
+        const int end = saturating_int(std::ceil((right + reach) * scale_));
+        for (int px = saturating_int(std::floor((left - reach) * scale_)); px < end; ++px) {
+            if (px < 0 || px >= image_.width())
+                continue;
+            double from = top - reach, to = bottom + reach;
+            if (dx > HARDLY_ANY) {
+                const double y = line.y1() + ((px + 0.5) / scale_ - line.x1()) * slope;
+                from = std::max(from, y - upright);
+                to = std::min(to, y + upright);
+            }
+            if (!casing_.holds(px, line_at(std::floor(from * scale_)),
+                               line_at(std::ceil(to * scale_))))
+                return false;
+        }
+        return true;
+    }
+
+    void paint(QRgb casing, QRgb shade, QRgb ink) {
+        line_cover cover(image_.size(), casing, shade, ink);
+        cover.add(casing_, line_cover::CASED);
+        cover.add(area_, line_cover::SHADED);
+        cover.add(left_halves_, line_cover::INKED);
+        cover.add(right_halves_, line_cover::INKED);
+        fill(more_casing_, casing);
         for (int py = 0; py < image_.height(); ++py) {
             cover.go_to_line(static_cast<std::size_t>(py));
             cover.paint(line(py));
         }
-        for (const QRect& more : more_runs_)
-            for (int py = more.top(); py <= more.bottom(); ++py)
-                std::fill_n(line(py) + more.left(), more.width(), ink);
+        fill(more_runs_, ink);
     }
 
   private:
     QRgb* line(int py) { return reinterpret_cast<QRgb*>(image_.scanLine(py)); }
 
+    void fill(const std::vector<QRect>& parts, QRgb colour) {
+        for (const QRect& part : parts)
+            for (int py = part.top(); py <= part.bottom(); ++py)
+                std::fill_n(line(py) + part.left(), part.width(), colour);
+    }
+
     int first_centre_from(double units) const {
         return saturating_int(std::ceil(units * scale_ - 0.5));
     }
-    int line_of(double units) const {
-        return std::clamp(first_centre_from(units), 0, image_.height());
+    int line_at(double pixels) const {
+        return std::clamp(saturating_int(pixels), 0, image_.height());
     }
+    int line_of(double units) const { return line_at(std::ceil(units * scale_ - 0.5)); }
     // As std::lround(), which is a call into the library for each corner.
     int nearest(double units) const {
         return static_cast<int>(units * scale_ + (units < 0 ? -0.5 : 0.5));
     }
 
-    void add_part(column_spans& spans, const column_run& run, int from_x, int to_x, int spread) {
+    void add_part(column_spans& spans, std::vector<QRect>& more, const column_run& run, int from_x,
+                  int to_x, int spread) {
         const int high = std::clamp(run.high, -FARTHEST, FARTHEST);
         const int low = std::clamp(run.low, -FARTHEST, FARTHEST);
         const QRect part = QRect(QPoint(nearest(from_x), nearest(height_ - high - spread)),
@@ -193,27 +230,25 @@ class pixel_layer {
                            image_.rect();
         for (int px = part.left(); px <= part.right(); ++px)
             if (!spans.join(px, part.top(), part.bottom() + 1))
-                more_runs_.push_back(QRect(px, part.top(), 1, part.height())); // between gaps
+                more.push_back(QRect(px, part.top(), 1, part.height())); // between gaps
     }
 
     QImage& image_;
     double scale_;
     double height_;
-    column_spans area_, left_halves_, right_halves_;
-    std::vector<QRect> more_runs_;
+    column_spans area_, casing_, left_halves_, right_halves_;
+    std::vector<QRect> more_casing_, more_runs_;
 };
 
-void paint_pixels(canvas& target, const std::vector<column_run>& runs, const curve_style& style) {
+pixel_layer layer_of(canvas& target, const std::vector<column_run>& runs, int base_y) {
     pixel_layer layer(target);
     for (std::size_t i = 1; i < runs.size(); ++i)
         if (runs[i].joined)
-            layer.add_area(runs[i - 1].x, runs[i - 1].last, runs[i].x, runs[i].first, style.base_y);
+            layer.add_area(runs[i - 1].x, runs[i - 1].last, runs[i].x, runs[i].first, base_y);
     for (const column_run& run : runs)
         if (run.count > ONE_SEGMENT)
             layer.add_run(run);
-    QColor shade = style.ink;
-    shade.setAlphaF(static_cast<float>(AREA_ALPHA));
-    layer.paint(qPremultiply(style.ink.rgba()), qPremultiply(shade.rgba()));
+    return layer;
 }
 
 // The part of a line that is not too far above or below; what is left keeps its slope.
@@ -285,14 +320,13 @@ void paint_lines(canvas& target, const QVector<QLineF>& lines, const QColor& ink
     }
 }
 
-void paint_casing(canvas& target, const std::vector<column_run>& runs, const curve_style& style) {
-    pixel_layer layer(target);
-    for (const column_run& run : runs)
-        if (run.count > ONE_SEGMENT)
-            layer.add_casing(run);
-    layer.paint(qPremultiply(style.casing.rgba()), 0);
-    paint_lines(target, lines_of(target, runs, true), style.casing,
-                {style.line_width + 2 * CASING_WIDTH});
+// Of the segments; that of the columns is in the layer, and comes over it in the same colour.
+void paint_casing(canvas& target, const std::vector<column_run>& runs, const pixel_layer& layer,
+                  const curve_style& style) {
+    const double width = style.line_width + 2 * CASING_WIDTH;
+    QVector<QLineF> lines = lines_of(target, runs, true);
+    lines.removeIf([&](const QLineF& line) { return layer.casing_holds(line, width); });
+    paint_lines(target, lines, style.casing, {width});
 }
 
 } // namespace
@@ -300,8 +334,12 @@ void paint_casing(canvas& target, const std::vector<column_run>& runs, const cur
 void paint_curve(canvas& target, const std::vector<column_run>& runs, const curve_style& style) {
     target.painter().save();
     target.painter().setRenderHint(QPainter::Antialiasing, style.antialiased);
-    paint_casing(target, runs, style);
-    paint_pixels(target, runs, style);
+    pixel_layer layer = layer_of(target, runs, style.base_y);
+    paint_casing(target, runs, layer, style);
+    QColor shade = style.ink;
+    shade.setAlphaF(static_cast<float>(AREA_ALPHA));
+    layer.paint(qPremultiply(style.casing.rgba()), qPremultiply(shade.rgba()),
+                qPremultiply(style.ink.rgba()));
     paint_lines(target, lines_of(target, runs, false), style.ink,
                 {FIRST_PASS_WIDTH, style.line_width});
     target.painter().restore();

@@ -151,6 +151,7 @@ void Ks_lite_delegate::closeRFCOMMConnectionOnChannel(
 
 void Ks_lite_delegate::drop_channel() {
     closeRFCOMMConnectionOnChannel(mRFCOMMChannel);
+    closeDeviceConnectionOnDevice(mBluetoothDevice); // or the next connection would time out
     mRFCOMMChannel.reset();
     bluetooth_opening_ = false;
     connected_2_BT_interface = false;

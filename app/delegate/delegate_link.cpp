@@ -95,8 +95,6 @@ Ks_lite_delegate::adapter_choice Ks_lite_delegate::chosen_adapter() {
 void Ks_lite_delegate::settings_left() {
     if (opened_to_.transport == 0 || opened_to_ == chosen_adapter())
         return;
-    if (connected_2_BT_interface || bluetooth_opening_) // the adapter is free for others then
-        closeDeviceConnectionOnDevice(mBluetoothDevice);
     drop_link();
 }
 

@@ -1,6 +1,7 @@
 #include "sample_reply.h"
 
 #include "answer_sizes.h"
+#include "checksums.h"
 #include "header_forms.h"
 #include "hex_digits.h"
 #include "standard_values.h"
@@ -22,10 +23,16 @@ std::string_view data_of(std::string_view reply) {
     if (!line || line->form == header_form::none)
         return {};
     std::string_view data = line->data;
-    if (is_can(line->form))
-        data = data.front() == '0' ? slice(data, 2, 2 * hex_value(data.substr(1, 1))) : "";
-    else
-        data.remove_suffix(std::min<std::size_t>(2, data.size())); // the checksum
+    if (is_can(line->form)) { // its length, and fill up to a whole frame at most
+        const std::size_t digits = 2 * hex_value(data.substr(1, 1));
+        const std::string_view behind = slice(data, 2 + digits);
+        const bool whole =
+            data.front() == '0' && data.size() >= 2 + digits &&
+            (behind.empty() || (digits + behind.size() == LONGEST_FRAME_DIGITS && is_fill(behind)));
+        data = whole ? slice(data, 2, digits) : "";
+    } else {
+        data = ends_with_checksum(reply) ? data.substr(0, data.size() - 2) : "";
+    }
     return data.starts_with(ANSWER) ? data : std::string_view();
 }
 

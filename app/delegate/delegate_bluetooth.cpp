@@ -129,7 +129,8 @@ void Ks_lite_delegate::rfcommChannelClosed() {
     doors_.loop.after(DISCONNECTION_DELAY,
                       [this, device = mBluetoothDevice] { closeDeviceConnectionOnDevice(device); });
     connected_2_BT_interface = false;
-    ledger_.link_gone();
+    if (ledger_.half_come()) // the time-out, which tells of a lost channel, has been stopped by it
+        ledger_.link_gone();
     tell_link_lost();
 }
 

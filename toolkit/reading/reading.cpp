@@ -300,10 +300,6 @@ void reading::forget_refusals() {
         });
 }
 
-bool reading::holds(unread_kind kind) const {
-    return std::ranges::find(unread, kind, &unread_piece::kind) != unread.end();
-}
-
 bus_evidence bus_known_by(bus_form status_headers, bus_form handshake_headers,
                           std::string_view protocol_text) {
     if (status_headers != bus_form::unknown)

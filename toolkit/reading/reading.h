@@ -40,7 +40,6 @@ struct reading {
     unread_pieces unread;
 
     bool answered() const { return !answers.empty(); }
-    bool holds(unread_kind kind) const;
     // Beside answers a unit's refusal disturbs nobody, unless it only put its answer off.
     void forget_refusals();
 };

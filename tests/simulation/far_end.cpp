@@ -164,6 +164,7 @@ std::unique_ptr<stream_pair> far_end::make_streams(const std::string& host, long
 
 void far_end::serve(scripted_serial_port& door) {
     door.when_opened = [this, &door] {
+        channel_.reset();
         expect_link_timer(std::chrono::seconds(g_this_delta)); // of a command without a channel
         after(plan_.opening(), [this, &door, refused = plan_.refuses(), opens = door.opens,
                                 closed = door.closed_channels] {
@@ -200,7 +201,7 @@ void far_end::serve(scripted_serial_port& door) {
     door.when_written = [this, &door](std::string_view bytes) {
         door.written.clear();
         expect_link_timer(std::chrono::seconds(g_this_delta));
-        if (channel_ || plan_.early_write_arrives())
+        if (channel_) // the stack takes nothing for a channel that is still opening
             write(bytes);
     };
 }

@@ -37,8 +37,6 @@ class fault_plan {
     // A connection: refused, and how long it takes.
     bool refuses() { return dice_.happens(refused_); }
     std::chrono::milliseconds opening();
-    // Whether a write to a Bluetooth channel that is still opening reaches the adapter.
-    bool early_write_arrives() { return dice_.happens(50); }
     // Now and then: the adapter restarts, the connection breaks, somebody speaks unasked ...
     enum class incident {
         none,

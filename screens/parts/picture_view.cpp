@@ -1,7 +1,5 @@
 #include "picture_view.h"
 
-#include "spoken.h"
-
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -10,11 +8,10 @@
 #include <cmath>
 
 picture_view::picture_view(const QString& name, QSizeF units, QWidget* parent)
-    : QWidget(parent), units_(units) {
+    : QWidget(parent), spoken(QAccessible::Graphic), units_(units) {
     setObjectName(name);
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setSizePolicy(policy);
-    speak_for_pictures();
 }
 
 bool picture_view::event(QEvent* event) {

@@ -3,12 +3,14 @@
 // stretched until the next one comes.
 #pragma once
 
+#include "spoken.h"
+
 #include <QImage>
 #include <QWidget>
 
 #include <functional>
 
-class picture_view final : public QWidget {
+class picture_view final : public QWidget, public spoken {
   public:
     // `units`: the picture's size as its drawing counts.
     picture_view(const QString& name, QSizeF units, QWidget* parent);
@@ -20,10 +22,6 @@ class picture_view final : public QWidget {
     void let_go() { image_ = QImage(); }
     // Pixels a unit; 0 while nothing would be seen.
     double pixel_scale() const;
-
-    // What it shows in words, for a tooltip and for who asks on behalf of a screen reader; it is
-    // not announced by itself, as values change all the time.
-    std::function<QString()> describe;
 
     QSize sizeHint() const override { return units_.toSize(); }
 

@@ -5,6 +5,8 @@
 // the current cell.
 #pragma once
 
+#include "spoken.h"
+
 #include <QImage>
 #include <QPixmap>
 #include <QString>
@@ -16,7 +18,7 @@
 
 class QScrollArea;
 
-class thumbnail_strip final : public QWidget {
+class thumbnail_strip final : public QWidget, public spoken {
   public:
     explicit thumbnail_strip(QWidget* parent);
 
@@ -25,9 +27,8 @@ class thumbnail_strip final : public QWidget {
     // Another part of the strip came into sight.
     std::function<void()> exposed;
 
-    // A cell in words, for its tooltip; all of them, for a screen reader that asks.
+    // A cell in words, for its tooltip.
     std::function<QString(int cell)> describe_cell;
-    std::function<QString()> describe;
 
     // A cell for each name; the first is selected.
     void renew(const std::vector<QString>& names);

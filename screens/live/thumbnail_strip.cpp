@@ -1,7 +1,6 @@
 #include "thumbnail_strip.h"
 
 #include "canvas.h"
-#include "spoken.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -28,10 +27,9 @@ QColor laid_over(const QColor& ground, const QColor& shade) {
 
 } // namespace
 
-thumbnail_strip::thumbnail_strip(QWidget* parent) : QWidget(parent) {
+thumbnail_strip::thumbnail_strip(QWidget* parent) : QWidget(parent), spoken(QAccessible::List) {
     setObjectName(QStringLiteral("thumbiesMtrx"));
     setFocusPolicy(Qt::StrongFocus);
-    speak_for_pictures();
 }
 
 void thumbnail_strip::renew(const std::vector<QString>& names) {

@@ -1281,5 +1281,137 @@ Freie Software unter der MIT-Lizenz.
         <source></source>
         <translation>Nichts, was beide Berichte mitteilen, hat sich geändert.</translation>
     </message>
+    <message id="ui_rail_report">
+        <source></source>
+        <translation>&amp;Bericht</translation>
+    </message>
+    <message id="ui_report_title">
+        <source></source>
+        <translation>Fahrzeugbericht</translation>
+    </message>
+    <message id="ui_report_read">
+        <source></source>
+        <translation>Bericht &amp;lesen</translation>
+    </message>
+    <message id="ui_report_cancel">
+        <source></source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message id="ui_report_save">
+        <source></source>
+        <translation>&amp;Speichern unter…</translation>
+    </message>
+    <message id="ui_report_print">
+        <source></source>
+        <translation>&amp;Drucken…</translation>
+    </message>
+    <message id="ui_report_copy">
+        <source></source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message id="ui_report_open">
+        <source></source>
+        <translation>Ö&amp;ffnen…</translation>
+    </message>
+    <message id="ui_report_compare">
+        <source></source>
+        <translation>&amp;Vergleichen…</translation>
+    </message>
+    <message id="ui_report_hide_vin">
+        <source></source>
+        <translation>Ende der VIN verber&amp;gen</translation>
+    </message>
+    <message id="ui_report_hide_vin_hint">
+        <source></source>
+        <translation>In allem, was gespeichert, gedruckt oder kopiert wird, sind die letzten sechs Zeichen verborgen.</translation>
+    </message>
+    <message id="ui_report_empty">
+        <source></source>
+        <translation>„Bericht lesen“ fragt jedes Steuergerät nach Codes, Umgebungsdaten, Prüfbereitschaft, Testergebnissen und Kennung.</translation>
+    </message>
+    <message id="ui_report_save_title">
+        <source></source>
+        <translation>Bericht speichern</translation>
+    </message>
+    <message id="ui_report_open_title">
+        <source></source>
+        <translation>Bericht öffnen</translation>
+    </message>
+    <message id="ui_report_compare_title">
+        <source></source>
+        <translation>Früherer Bericht zum Vergleich</translation>
+    </message>
+    <message id="ui_report_not_saved">
+        <source></source>
+        <translation>Der Bericht wurde nicht gespeichert.</translation>
+    </message>
+    <message id="ui_report_saved">
+        <source></source>
+        <translation>Gespeichert: %1</translation>
+    </message>
+    <message id="ui_report_copied">
+        <source></source>
+        <translation>Der Bericht ist in der Zwischenablage.</translation>
+    </message>
+    <message id="ui_report_not_opened">
+        <source></source>
+        <translation>Diese Datei lässt sich nicht als Bericht öffnen.</translation>
+    </message>
+    <message id="report_starting">
+        <source></source>
+        <translation>Adapter wird vorbereitet</translation>
+    </message>
+    <message id="report_progress">
+        <source></source>
+        <translation>Lese %1 (%2 von %3)</translation>
+    </message>
+    <message id="report_topic_adapter">
+        <source></source>
+        <translation>die Angaben des Adapters</translation>
+    </message>
+    <message id="report_topic_supported">
+        <source></source>
+        <translation>das Angebot der Steuergeräte</translation>
+    </message>
+    <message id="report_topic_status">
+        <source></source>
+        <translation>Leuchte und Prüfbereitschaft</translation>
+    </message>
+    <message id="report_topic_codes">
+        <source></source>
+        <translation>Fehlercodes</translation>
+    </message>
+    <message id="report_topic_readings">
+        <source></source>
+        <translation>Messwerte</translation>
+    </message>
+    <message id="report_topic_frames">
+        <source></source>
+        <translation>Umgebungsdaten</translation>
+    </message>
+    <message id="report_topic_identity">
+        <source></source>
+        <translation>Kennungen</translation>
+    </message>
+    <message id="report_topic_tests">
+        <source></source>
+        <translation>Testergebnisse</translation>
+    </message>
+    <message id="report_done">
+        <source></source>
+        <translation>Der Bericht ist vollständig.</translation>
+    </message>
+    <message id="report_done_partly">
+        <source></source>
+        <translation>Der Bericht ist gelesen. Was nicht mitgeteilt wurde, steht am Ende.</translation>
+    </message>
+    <message id="report_nothing_told">
+        <source></source>
+        <translation>Das Auto hat nichts mitgeteilt.</translation>
+    </message>
+    <message id="report_cancelled">
+        <source></source>
+        <translation>Das Lesen wurde abgebrochen.</translation>
+    </message>
 </context>
 </TS>

@@ -1280,5 +1280,137 @@ Free software under the MIT licence.
         <source></source>
         <translation>Nothing that both reports tell has changed.</translation>
     </message>
+    <message id="ui_rail_report">
+        <source></source>
+        <translation>&amp;Report</translation>
+    </message>
+    <message id="ui_report_title">
+        <source></source>
+        <translation>Vehicle report</translation>
+    </message>
+    <message id="ui_report_read">
+        <source></source>
+        <translation>&amp;Read report</translation>
+    </message>
+    <message id="ui_report_cancel">
+        <source></source>
+        <translation>&amp;Cancel</translation>
+    </message>
+    <message id="ui_report_save">
+        <source></source>
+        <translation>&amp;Save as…</translation>
+    </message>
+    <message id="ui_report_print">
+        <source></source>
+        <translation>&amp;Print…</translation>
+    </message>
+    <message id="ui_report_copy">
+        <source></source>
+        <translation>C&amp;opy</translation>
+    </message>
+    <message id="ui_report_open">
+        <source></source>
+        <translation>Ope&amp;n…</translation>
+    </message>
+    <message id="ui_report_compare">
+        <source></source>
+        <translation>Co&amp;mpare…</translation>
+    </message>
+    <message id="ui_report_hide_vin">
+        <source></source>
+        <translation>&amp;Hide the end of the VIN</translation>
+    </message>
+    <message id="ui_report_hide_vin_hint">
+        <source></source>
+        <translation>In what is saved, printed or copied its last six characters are hidden.</translation>
+    </message>
+    <message id="ui_report_empty">
+        <source></source>
+        <translation>Press Read report: every control unit is asked for codes, freeze frames, readiness, test results and identity.</translation>
+    </message>
+    <message id="ui_report_save_title">
+        <source></source>
+        <translation>Save report</translation>
+    </message>
+    <message id="ui_report_open_title">
+        <source></source>
+        <translation>Open report</translation>
+    </message>
+    <message id="ui_report_compare_title">
+        <source></source>
+        <translation>Earlier report to compare with</translation>
+    </message>
+    <message id="ui_report_not_saved">
+        <source></source>
+        <translation>The report was not saved.</translation>
+    </message>
+    <message id="ui_report_saved">
+        <source></source>
+        <translation>Saved: %1</translation>
+    </message>
+    <message id="ui_report_copied">
+        <source></source>
+        <translation>The report is in the clipboard.</translation>
+    </message>
+    <message id="ui_report_not_opened">
+        <source></source>
+        <translation>This file cannot be opened as a report.</translation>
+    </message>
+    <message id="report_starting">
+        <source></source>
+        <translation>Bringing up the adapter</translation>
+    </message>
+    <message id="report_progress">
+        <source></source>
+        <translation>Reading %1 (%2 of %3)</translation>
+    </message>
+    <message id="report_topic_adapter">
+        <source></source>
+        <translation>what the adapter says</translation>
+    </message>
+    <message id="report_topic_supported">
+        <source></source>
+        <translation>what the units offer</translation>
+    </message>
+    <message id="report_topic_status">
+        <source></source>
+        <translation>lamp and readiness</translation>
+    </message>
+    <message id="report_topic_codes">
+        <source></source>
+        <translation>trouble codes</translation>
+    </message>
+    <message id="report_topic_readings">
+        <source></source>
+        <translation>readings</translation>
+    </message>
+    <message id="report_topic_frames">
+        <source></source>
+        <translation>freeze frames</translation>
+    </message>
+    <message id="report_topic_identity">
+        <source></source>
+        <translation>identity</translation>
+    </message>
+    <message id="report_topic_tests">
+        <source></source>
+        <translation>test results</translation>
+    </message>
+    <message id="report_done">
+        <source></source>
+        <translation>The report is complete.</translation>
+    </message>
+    <message id="report_done_partly">
+        <source></source>
+        <translation>The report has been read. What was not told stands at its end.</translation>
+    </message>
+    <message id="report_nothing_told">
+        <source></source>
+        <translation>The car told nothing.</translation>
+    </message>
+    <message id="report_cancelled">
+        <source></source>
+        <translation>The reading was cancelled.</translation>
+    </message>
 </context>
 </TS>

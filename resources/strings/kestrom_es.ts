@@ -1281,5 +1281,137 @@ Software libre con licencia MIT.
         <source></source>
         <translation>No ha cambiado nada de lo que comunican ambos informes.</translation>
     </message>
+    <message id="ui_rail_report">
+        <source></source>
+        <translation>In&amp;forme</translation>
+    </message>
+    <message id="ui_report_title">
+        <source></source>
+        <translation>Informe del vehículo</translation>
+    </message>
+    <message id="ui_report_read">
+        <source></source>
+        <translation>&amp;Leer informe</translation>
+    </message>
+    <message id="ui_report_cancel">
+        <source></source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message id="ui_report_save">
+        <source></source>
+        <translation>&amp;Guardar como…</translation>
+    </message>
+    <message id="ui_report_print">
+        <source></source>
+        <translation>Im&amp;primir…</translation>
+    </message>
+    <message id="ui_report_copy">
+        <source></source>
+        <translation>C&amp;opiar</translation>
+    </message>
+    <message id="ui_report_open">
+        <source></source>
+        <translation>A&amp;brir…</translation>
+    </message>
+    <message id="ui_report_compare">
+        <source></source>
+        <translation>Co&amp;mparar…</translation>
+    </message>
+    <message id="ui_report_hide_vin">
+        <source></source>
+        <translation>&amp;Ocultar el final del VIN</translation>
+    </message>
+    <message id="ui_report_hide_vin_hint">
+        <source></source>
+        <translation>En lo que se guarda, imprime o copia se ocultan sus seis últimos caracteres.</translation>
+    </message>
+    <message id="ui_report_empty">
+        <source></source>
+        <translation>Pulse Leer informe: se pregunta a cada unidad por códigos, datos congelados, preparación, resultados de pruebas e identidad.</translation>
+    </message>
+    <message id="ui_report_save_title">
+        <source></source>
+        <translation>Guardar informe</translation>
+    </message>
+    <message id="ui_report_open_title">
+        <source></source>
+        <translation>Abrir informe</translation>
+    </message>
+    <message id="ui_report_compare_title">
+        <source></source>
+        <translation>Informe anterior para comparar</translation>
+    </message>
+    <message id="ui_report_not_saved">
+        <source></source>
+        <translation>El informe no se guardó.</translation>
+    </message>
+    <message id="ui_report_saved">
+        <source></source>
+        <translation>Guardado: %1</translation>
+    </message>
+    <message id="ui_report_copied">
+        <source></source>
+        <translation>El informe está en el portapapeles.</translation>
+    </message>
+    <message id="ui_report_not_opened">
+        <source></source>
+        <translation>Este archivo no se puede abrir como informe.</translation>
+    </message>
+    <message id="report_starting">
+        <source></source>
+        <translation>Preparando el adaptador</translation>
+    </message>
+    <message id="report_progress">
+        <source></source>
+        <translation>Leyendo %1 (%2 de %3)</translation>
+    </message>
+    <message id="report_topic_adapter">
+        <source></source>
+        <translation>lo que dice el adaptador</translation>
+    </message>
+    <message id="report_topic_supported">
+        <source></source>
+        <translation>lo que ofrecen las unidades</translation>
+    </message>
+    <message id="report_topic_status">
+        <source></source>
+        <translation>testigo y preparación</translation>
+    </message>
+    <message id="report_topic_codes">
+        <source></source>
+        <translation>códigos de avería</translation>
+    </message>
+    <message id="report_topic_readings">
+        <source></source>
+        <translation>valores</translation>
+    </message>
+    <message id="report_topic_frames">
+        <source></source>
+        <translation>datos congelados</translation>
+    </message>
+    <message id="report_topic_identity">
+        <source></source>
+        <translation>identidad</translation>
+    </message>
+    <message id="report_topic_tests">
+        <source></source>
+        <translation>resultados de pruebas</translation>
+    </message>
+    <message id="report_done">
+        <source></source>
+        <translation>El informe está completo.</translation>
+    </message>
+    <message id="report_done_partly">
+        <source></source>
+        <translation>El informe se ha leído. Lo no comunicado figura al final.</translation>
+    </message>
+    <message id="report_nothing_told">
+        <source></source>
+        <translation>El coche no comunicó nada.</translation>
+    </message>
+    <message id="report_cancelled">
+        <source></source>
+        <translation>La lectura se canceló.</translation>
+    </message>
 </context>
 </TS>

@@ -1281,5 +1281,137 @@ Logiciel libre sous licence MIT.
         <source></source>
         <translation>Rien de ce que donnent les deux rapports n'a changé.</translation>
     </message>
+    <message id="ui_rail_report">
+        <source></source>
+        <translation>&amp;Rapport</translation>
+    </message>
+    <message id="ui_report_title">
+        <source></source>
+        <translation>Rapport du véhicule</translation>
+    </message>
+    <message id="ui_report_read">
+        <source></source>
+        <translation>&amp;Lire le rapport</translation>
+    </message>
+    <message id="ui_report_cancel">
+        <source></source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message id="ui_report_save">
+        <source></source>
+        <translation>&amp;Enregistrer sous…</translation>
+    </message>
+    <message id="ui_report_print">
+        <source></source>
+        <translation>Im&amp;primer…</translation>
+    </message>
+    <message id="ui_report_copy">
+        <source></source>
+        <translation>C&amp;opier</translation>
+    </message>
+    <message id="ui_report_open">
+        <source></source>
+        <translation>Ou&amp;vrir…</translation>
+    </message>
+    <message id="ui_report_compare">
+        <source></source>
+        <translation>Co&amp;mparer…</translation>
+    </message>
+    <message id="ui_report_hide_vin">
+        <source></source>
+        <translation>Mas&amp;quer la fin du VIN</translation>
+    </message>
+    <message id="ui_report_hide_vin_hint">
+        <source></source>
+        <translation>Dans ce qui est enregistré, imprimé ou copié, ses six derniers caractères sont masqués.</translation>
+    </message>
+    <message id="ui_report_empty">
+        <source></source>
+        <translation>Appuyez sur Lire le rapport : chaque calculateur est interrogé sur ses codes, données figées, contrôles, résultats de tests et identité.</translation>
+    </message>
+    <message id="ui_report_save_title">
+        <source></source>
+        <translation>Enregistrer le rapport</translation>
+    </message>
+    <message id="ui_report_open_title">
+        <source></source>
+        <translation>Ouvrir un rapport</translation>
+    </message>
+    <message id="ui_report_compare_title">
+        <source></source>
+        <translation>Rapport antérieur à comparer</translation>
+    </message>
+    <message id="ui_report_not_saved">
+        <source></source>
+        <translation>Le rapport n'a pas été enregistré.</translation>
+    </message>
+    <message id="ui_report_saved">
+        <source></source>
+        <translation>Enregistré : %1</translation>
+    </message>
+    <message id="ui_report_copied">
+        <source></source>
+        <translation>Le rapport est dans le presse-papiers.</translation>
+    </message>
+    <message id="ui_report_not_opened">
+        <source></source>
+        <translation>Ce fichier ne peut pas être ouvert comme rapport.</translation>
+    </message>
+    <message id="report_starting">
+        <source></source>
+        <translation>Préparation de l'adaptateur</translation>
+    </message>
+    <message id="report_progress">
+        <source></source>
+        <translation>Lecture : %1 (%2 sur %3)</translation>
+    </message>
+    <message id="report_topic_adapter">
+        <source></source>
+        <translation>ce que dit l'adaptateur</translation>
+    </message>
+    <message id="report_topic_supported">
+        <source></source>
+        <translation>ce que proposent les calculateurs</translation>
+    </message>
+    <message id="report_topic_status">
+        <source></source>
+        <translation>voyant et contrôles</translation>
+    </message>
+    <message id="report_topic_codes">
+        <source></source>
+        <translation>codes d'anomalie</translation>
+    </message>
+    <message id="report_topic_readings">
+        <source></source>
+        <translation>valeurs</translation>
+    </message>
+    <message id="report_topic_frames">
+        <source></source>
+        <translation>données figées</translation>
+    </message>
+    <message id="report_topic_identity">
+        <source></source>
+        <translation>identité</translation>
+    </message>
+    <message id="report_topic_tests">
+        <source></source>
+        <translation>résultats des tests</translation>
+    </message>
+    <message id="report_done">
+        <source></source>
+        <translation>Le rapport est complet.</translation>
+    </message>
+    <message id="report_done_partly">
+        <source></source>
+        <translation>Le rapport est lu. Ce qui n'a pas été communiqué figure à la fin.</translation>
+    </message>
+    <message id="report_nothing_told">
+        <source></source>
+        <translation>La voiture n'a rien communiqué.</translation>
+    </message>
+    <message id="report_cancelled">
+        <source></source>
+        <translation>La lecture a été annulée.</translation>
+    </message>
 </context>
 </TS>

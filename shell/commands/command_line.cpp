@@ -164,7 +164,9 @@ constexpr std::array OPTIONS = {
 
 // "kestrom help COMMAND" asks what "kestrom COMMAND --help" does.
 void take_words(cli_request& asked, std::vector<std::string> words) {
-    if (!words.empty() && words[0] == HELP) {
+    if (!asked.help && !words.empty() && words[0] == HELP) {
+        if (words.size() > 2)
+            throw usage_error("help does not take the argument " + words[2]);
         asked.help = true;
         words.erase(words.begin());
     }
@@ -203,9 +205,9 @@ parsed_command_line parse_command_line(std::span<const std::string> arguments) {
     parsed_command_line read;
     try {
         const words_read words = read_words(all_options(), arguments);
-        take_words(read.asked, words.others);
         for (const auto& [number, value] : words.options)
             OPTIONS[number].take(read.asked, std::string(OPTIONS[number].text.name), value);
+        take_words(read.asked, words.others);
         if (!read.asked.help && !read.asked.version)
             check_command(read.asked, words);
     } catch (const usage_error& why) {

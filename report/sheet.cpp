@@ -19,7 +19,7 @@ constexpr unsigned OBD_STANDARD = 0x1C, FUEL = 0x51, ODOMETER = 0xA6, ENGINE_SPE
 
 // "2026-11-22T18:04:07+01:00" as people write it.
 std::string moment(const std::string& read_at) {
-    return replace_all(replace_all(read_at, "T", " "), "+", " +");
+    return replace_all(replace_all(replace_all(read_at, "T", " "), "+", " +"), "Z", " UTC");
 }
 
 // What different units tell alike stands once.

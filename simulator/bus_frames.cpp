@@ -110,6 +110,8 @@ std::vector<bus_frame> frames_on_bus(const std::vector<unit_answer>& answers,
     std::vector<bus_frame> frames;
     milliseconds at = bus.first_byte;
     for (const unit_answer& answer : answers) {
+        const milliseconds on_time = at;
+        at += answer.delay;
         for (const byte_string& message : answer.messages) {
             if (bus.is_can())
                 add_can_message(frames, answer, message, at, bus.per_frame, flow_control);
@@ -117,6 +119,7 @@ std::vector<bus_frame> frames_on_bus(const std::vector<unit_answer>& answers,
                 frames.push_back({at, answer.address, message});
             at += bus.per_frame;
         }
+        at = answer.delay.count() > 0 ? on_time + bus.per_frame : at; // others do not wait for it
     }
     for (bus_frame& frame : frames)
         frame.fill = fill;
@@ -142,10 +145,9 @@ byte_string raw_frame(const bus_frame& frame, const bus_protocol& bus) {
 
 std::string shown_frame(const bus_frame& frame, const bus_protocol& bus,
                         const adapter_settings& settings, bool padding) {
-    const std::string shown = bus.is_can() ? shown_can_frame(frame, bus, settings, padding)
-                              : settings.headers
-                                  ? hex_text(raw_frame(frame, bus), settings.spaces)
-                                  : hex_text(frame.data, settings.spaces);
+    const std::string shown = bus.is_can()       ? shown_can_frame(frame, bus, settings, padding)
+                              : settings.headers ? hex_text(raw_frame(frame, bus), settings.spaces)
+                                                 : hex_text(frame.data, settings.spaces);
     return frame.damaged ? shown + " <DATA ERROR" : shown;
 }
 

@@ -879,7 +879,7 @@ Freie Software unter der MIT-Lizenz.
     </message>
     <message id="report_counts">
         <source></source>
-        <translation>%1 gespeichert, %2 vorläufig, %3 permanent</translation>
+        <translation>Gespeichert: %1; vorläufig: %2; permanent: %3</translation>
     </message>
     <message id="report_at_least">
         <source></source>

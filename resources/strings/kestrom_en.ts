@@ -878,7 +878,7 @@ Free software under the MIT licence.
     </message>
     <message id="report_counts">
         <source></source>
-        <translation>%1 stored, %2 pending, %3 permanent</translation>
+        <translation>Stored: %1; pending: %2; permanent: %3</translation>
     </message>
     <message id="report_at_least">
         <source></source>

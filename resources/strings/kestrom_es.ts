@@ -879,7 +879,7 @@ Software libre con licencia MIT.
     </message>
     <message id="report_counts">
         <source></source>
-        <translation>%1 almacenados, %2 pendientes, %3 permanentes</translation>
+        <translation>Almacenados: %1; pendientes: %2; permanentes: %3</translation>
     </message>
     <message id="report_at_least">
         <source></source>

@@ -879,7 +879,7 @@ Logiciel libre sous licence MIT.
     </message>
     <message id="report_counts">
         <source></source>
-        <translation>%1 mémorisés, %2 en attente, %3 permanents</translation>
+        <translation>Mémorisés : %1 ; en attente : %2 ; permanents : %3</translation>
     </message>
     <message id="report_at_least">
         <source></source>

@@ -39,9 +39,28 @@ std::string truth(const std::vector<std::string>& codes) {
 }
 std::string truth(const car& the_car, const control_unit& unit, int service,
                   const std::vector<std::string>& codes) {
+    if (unit.answers.contains(request_of("", static_cast<unsigned>(service))))
+        return "refused 7F " + request_of("", static_cast<unsigned>(service)) + " 11";
     if (silent(unit, service) || (service == 0x0A && !is_can(the_car)))
         return "not_told no_answer";
     return truth(codes);
+}
+
+// Before CAN: test, component with its kind of limit, value, limit.
+std::string old_tests(const control_unit& unit) {
+    std::vector<std::string> rows;
+    for (const auto& [request, messages] : unit.answers)
+        for (const byte_string& one : messages) {
+            if (!request.starts_with("06") || request == "0600" || request == "0620")
+                continue;
+            std::string row;
+            for (std::size_t i = 1; i < one.size(); ++i)
+                row = request_of(row, one[i]);
+            const int value = one[3] << 8 | one[4], limit = one[5] << 8 | one[6];
+            rows.push_back(row + ((one[2] & 0x80 ? value >= limit : value <= limit) ? " " : "!"));
+        }
+    std::ranges::sort(rows);
+    return truth(rows);
 }
 
 const section_row SECTIONS[] = {
@@ -50,7 +69,7 @@ const section_row SECTIONS[] = {
          return std::string(unit.lamp_on ? "on " : "off ") + std::to_string(unit.announced_codes);
      },
      [](const car&, const control_unit& unit) {
-         return std::string(unit.lamp ? "on " : "off ") + std::to_string(unit.stored.size());
+         return std::string(unit.lamp ? "on " : "off ") + std::to_string(announced_codes(unit));
      }},
     {"stored", [](const unit_report& unit) { return codes(unit, 0); },
      [](const car& one, const control_unit& unit) { return truth(one, unit, 3, unit.stored); }},
@@ -68,6 +87,8 @@ const section_row SECTIONS[] = {
          return text;
      },
      [](const car&, const control_unit& unit) {
+         if (silent(unit, 2))
+             return std::string("not_told no_answer");
          if (!unit.frozen)
              return std::string();
          std::string text = unit.frozen->code;
@@ -93,9 +114,16 @@ const section_row SECTIONS[] = {
                  text += " " + monitor;
          return text;
      }},
+    {"this drive",
+     [](const unit_report& unit) { return state(unit.of(part::this_drive)).substr(0, 8); },
+     [](const car&, const control_unit& unit) {
+         return std::string(unit.fixed.contains(0x41) ? "" : "not_told");
+     }},
     {"vin",
      [](const unit_report& unit) { return state(unit.of(part::vin)).substr(0, 8) + unit.vin; },
      [](const car& one, const control_unit& unit) {
+         if (unit.answers.contains("0902"))
+             return std::string(17, '.');
          return &unit == &one.units.front() && !one.vin.empty() && !silent(unit, 9)
                     ? one.vin
                     : std::string("not_told");
@@ -104,11 +132,36 @@ const section_row SECTIONS[] = {
      [](const unit_report& unit) {
          std::string text;
          for (const calibration& one : unit.calibrations)
-             text += one.id + " ";
+             text += one.id + " " + one.verification_number + " ";
          return text;
      },
      [](const car&, const control_unit& unit) {
-         return silent(unit, 9) ? std::string() : truth(unit.calibrations);
+         std::string text;
+         for (std::size_t i = 0; i < unit.calibrations.size() && !silent(unit, 9); ++i)
+             text += unit.calibrations[i] + " " +
+                     (i < unit.verification_numbers.size() ? unit.verification_numbers[i] : "") +
+                     " ";
+         return text;
+     }},
+    {"name",
+     [](const unit_report& unit) { return unit.of(part::unit_name).told() ? unit.name : ""; },
+     [](const car& one, const control_unit& unit) {
+         return unit.short_name.empty() ? is_can(one) ? unit.name : ""
+                                        : unit.short_name + " - " + unit.name;
+     }},
+    {"counters",
+     [](const unit_report& unit) {
+         std::string text;
+         for (const told_counter& one : unit.counters)
+             text += std::to_string(one.done) + " " +
+                     (one.conditions ? std::to_string(*one.conditions) + " " : "");
+         return text;
+     },
+     [](const car&, const control_unit& unit) {
+         std::string text;
+         for (const int one : unit.counters)
+             text += std::to_string(one) + " ";
+         return text;
      }},
     {"tests",
      [](const unit_report& unit) {
@@ -133,7 +186,7 @@ const section_row SECTIONS[] = {
              rows.push_back(row + (passed ? " " : "!"));
          }
          std::ranges::sort(rows);
-         return is_can(one) ? truth(rows) : std::string();
+         return is_can(one) ? truth(rows) : old_tests(unit);
      }},
 };
 

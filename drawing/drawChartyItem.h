@@ -28,10 +28,6 @@ struct label_record {
 };
 using label_records = std::vector<label_record>;
 
-// For each parameter its PID, its display text, and the upper and lower value of real-time labels.
-using sample_entry = std::array<std::string, 4>;
-using sample_set = std::vector<sample_entry>;
-
 class drawChartyItem {
   public:
     explicit drawChartyItem(const toolkit_doors& doors) : toolies(doors) {}

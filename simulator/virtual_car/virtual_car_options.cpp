@@ -45,6 +45,14 @@ const std::array OPTIONS = {
     option_row{
         "--timing", "X", "the bus takes X times as long as a genuine one (1)",
         [](auto& o, auto&, auto& n, auto& v) { o.adapter.timing = read_number(n, v, 0.0, 100.0); }},
+    option_row{"--baud", "N", "the chip speaks over a serial line of N baud, 0 for none (0)",
+               [](auto& o, auto&, auto& n, auto& v) {
+                   o.adapter.baud = read_number(n, v, 0, 10'000'000);
+               }},
+    option_row{"--round-trip", "MS", "the radio takes MS milliseconds there and back (0)",
+               [](auto& o, auto&, auto& n, auto& v) {
+                   o.adapter.round_trip = std::chrono::milliseconds(read_number(n, v, 0, 60000));
+               }},
     option_row{
         "--speed", "X", "the car drives X times as fast as the clock (1)",
         [](auto& o, auto&, auto& n, auto& v) { o.adapter.speed = read_number(n, v, 0.0, 1000.0); }},
@@ -72,7 +80,8 @@ const std::array OPTIONS = {
 };
 
 // What a recording has already decided.
-constexpr std::array OPTIONS_OF_A_CAR = {"--car", "--protocol", "--speed", "--seed", "--fault"};
+constexpr std::array OPTIONS_OF_A_CAR = {"--car",   "--protocol", "--baud", "--round-trip",
+                                         "--speed", "--seed",     "--fault"};
 
 } // namespace
 

@@ -4,11 +4,16 @@
 #include "mac_toolies.h"
 #include "sample_rows.h"
 
+#include <limits>
 #include <optional>
 #include <string>
 #include <vector>
 
 struct run_log {
+    explicit run_log(std::size_t parameters)
+        : pids(parameters), samples(parameters), last_values(parameters),
+          last_numbers(parameters, std::numeric_limits<double>::quiet_NaN()) {}
+
     std::vector<std::string>
         pids; // of each column, as its first readable reply says; empty when none does
     sample_rows samples;

@@ -3,6 +3,7 @@
 
 #include "fuzz_one.h"
 #include "fuzz_toolkit.h"
+#include "parameters.h"
 #include "pieces_of_log.h"
 #include "scratch_folder.h"
 #include "text.h"
@@ -25,7 +26,7 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
         REQUIRE(replies.size() == log->pids.size());
         for (std::size_t p = 0; p < replies.size(); ++p) {
             REQUIRE(log->samples.text(row, p) == without(trimmed(replies[p], "\r\n"), " "));
-            const double value = toolkit.decoder.get_OBDVal(log->samples.text(row, p));
+            const double value = parameter_value(toolkit.decoder, log->samples.text(row, p)).value;
             REQUIRE(std::isnan(value) ? std::isnan(log->samples.value(row, p))
                                       : log->samples.value(row, p) == value);
         }

@@ -49,6 +49,15 @@ constexpr std::array OPTIONS = {
         [](request& asked, text name, text value) {
             asked.options.adapter.timing = read_number(name, value, 0.0, 100.0);
         }},
+    row{{"--baud", "N", "the chip speaks over a serial line of N baud, 0 for none (0)", "", "--replay"},
+        [](request& asked, text name, text value) {
+            asked.options.adapter.baud = read_number(name, value, 0, 10'000'000);
+        }},
+    row{{"--round-trip", "MS", "the radio takes MS milliseconds there and back (0)", "", "--replay"},
+        [](request& asked, text name, text value) {
+            asked.options.adapter.round_trip =
+                std::chrono::milliseconds(read_number(name, value, 0, 60000));
+        }},
     row{{"--speed", "X", "the car drives X times as fast as the clock (1)", "", "--replay"},
         [](request& asked, text name, text value) {
             asked.options.adapter.speed = read_number(name, value, 0.0, 1000.0);

@@ -234,7 +234,7 @@ struct house {
     const cli_request& asked;
     std::optional<QTemporaryDir> scratch{};
     user_defaults defaults{settings_path(asked, scratch)};
-    std::unique_ptr<network::served_car> car{use_what_is_asked(defaults, asked)};
+    std::unique_ptr<tcp_adapter_server> car{use_what_is_asked(defaults, asked)};
     const bool first_start = defaults.integer(KS_INTERFACE_KEY) == 0;
     qt_run_loop loop{};
     const bundle resources{resources_for(defaults)};

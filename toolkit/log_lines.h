@@ -10,7 +10,8 @@
 class log_lines {
   public:
     static constexpr std::size_t PIECE = std::size_t{16} * 1024;
-    static constexpr std::size_t LONGEST_LINE = 999; // bytes; what is longer is taken as several lines
+    static constexpr std::size_t LONGEST_LINE =
+        999; // bytes; what is longer is taken as several lines
 
     log_lines() = default;
     ~log_lines() { close(); }
@@ -21,8 +22,8 @@ class log_lines {
     std::optional<std::string> open(const std::string& path);
     // Reads another piece; false when the file has ended. Why not in `error`.
     bool read_piece(std::string& error);
-    // The next line of what was read, with its end if it has one; at the end of the file also a last
-    // line without. The view holds until the next piece.
+    // The next line of what was read, with its end if it has one; at the end of the file also a
+    // last line without. The view holds until the next piece.
     std::optional<std::string_view> next();
     void rewind();
     void close();

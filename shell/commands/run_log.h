@@ -25,8 +25,8 @@ struct run_log {
     std::string times_complaint{};
 };
 
-// The log that a user named: a file that is there by its path; a plain name that is no file here may
-// be that of a log in the log folder.
+// The log that a user named: a file that is there by its path; a plain name that is no file here
+// may be that of a log in the log folder.
 std::string path_of_log(const std::string& log, const mac_toolies& toolies);
 
 // Nothing, with the file's name and line in `error`, when the file cannot be read, is empty, is no

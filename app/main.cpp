@@ -203,7 +203,7 @@ bool start_recording(conversation_recorder& recorder, const cli_request& asked, 
 
 // Puts the command line's choices into the store; answers the demo's car.
 std::unique_ptr<tcp_adapter_server> use_what_is_asked(user_defaults& defaults,
-                                                       const cli_request& asked) {
+                                                      const cli_request& asked) {
     std::unique_ptr<tcp_adapter_server> car;
     if (asked.demo) {
         car = start_demo_car(asked.demo_car);
@@ -283,7 +283,8 @@ int run_window(house& home, Ks_lite_delegate& delegate, main_window& window) {
     QTimer::singleShot(0, &home.application, [&] { // a box that it opens must not hold up the start
         open_screen(delegate, home.asked.screen);
         if (home.asked.screenshot) // once the window has been laid out
-            QTimer::singleShot(200, &home.application, [&] { status = home.leave_with(window, 0); });
+            QTimer::singleShot(200, &home.application,
+                               [&] { status = home.leave_with(window, 0); });
     });
     const int ended = home.application.exec();
     return status ? status : ended;

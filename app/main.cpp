@@ -14,7 +14,6 @@
 #include "mac_toolies.h"
 #include "main_window.h"
 #include "message_box_alerts.h"
-#include "network.h"
 #include "progress_line.h"
 #include "qt_run_loop.h"
 #include "quick_style.h"
@@ -25,6 +24,8 @@
 #include "serial_port_profile.h"
 #include "supported_scan.h"
 #include "system_log.h"
+#include "tcp_adapter_server.h"
+#include "tcp_stream_pair.h"
 #include "user_defaults.h"
 
 #include <QApplication>
@@ -40,6 +41,7 @@
 #include <memory>
 #include <optional>
 #include <poll.h>
+#include <stdexcept>
 #include <string>
 #include <unistd.h>
 #include <vector>
@@ -58,8 +60,18 @@ bool display_there() {
 }
 
 // The built-in virtual car, listening on loopback.
-std::unique_ptr<network::served_car> start_demo_car(const std::string& name) {
-    return load_network().serve(load_car(name.empty() ? DEFAULT_DEMO_CAR : name));
+std::unique_ptr<tcp_adapter_server> start_demo_car(const std::string& name) {
+    auto server =
+        std::make_unique<tcp_adapter_server>(load_car(name.empty() ? DEFAULT_DEMO_CAR : name));
+    if (!server->listen("127.0.0.1", 0))
+        throw std::runtime_error("the virtual car cannot listen on 127.0.0.1: " + server->error());
+    return server;
+}
+
+stream_pair_factory tcp_streams(run_loop& loop) {
+    return [&loop](const std::string& host, long port) {
+        return std::make_unique<tcp_stream_pair>(loop, host, port);
+    };
 }
 
 // The settings as they are kept, for what only reads them.
@@ -119,6 +131,8 @@ void open_screen(Ks_lite_delegate& delegate, const std::string& name) {
         delegate.do_read_codes();
     else if (name == "live")
         delegate.do_actions();
+    else if (name == "report")
+        delegate.do_report();
     else if (name == "prefs")
         delegate.do_prefs();
     else if (name == "expert")
@@ -190,9 +204,9 @@ bool start_recording(conversation_recorder& recorder, const cli_request& asked, 
 }
 
 // Puts the command line's choices into the store; answers the demo's car.
-std::unique_ptr<network::served_car> use_what_is_asked(user_defaults& defaults,
-                                                       const cli_request& asked) {
-    std::unique_ptr<network::served_car> car;
+std::unique_ptr<tcp_adapter_server> use_what_is_asked(user_defaults& defaults,
+                                                      const cli_request& asked) {
+    std::unique_ptr<tcp_adapter_server> car;
     if (asked.demo) {
         car = start_demo_car(asked.demo_car);
         use_adapter(defaults, "127.0.0.1", std::to_string(car->port()));
@@ -207,7 +221,7 @@ std::unique_ptr<network::served_car> use_what_is_asked(user_defaults& defaults,
 }
 
 // Until the preferences choose an adapter; nothing of the user's changes.
-std::unique_ptr<network::served_car> connect_to_virtual_car(Ks_lite_delegate& delegate) {
+std::unique_ptr<tcp_adapter_server> connect_to_virtual_car(Ks_lite_delegate& delegate) {
     auto car = start_demo_car({});
     g_connect_with = KS_USE_WIFI;
     g_cur_wifi_IP = "127.0.0.1";
@@ -222,7 +236,7 @@ struct house {
     const cli_request& asked;
     std::optional<QTemporaryDir> scratch{};
     user_defaults defaults{settings_path(asked, scratch)};
-    std::unique_ptr<network::served_car> car{use_what_is_asked(defaults, asked)};
+    std::unique_ptr<tcp_adapter_server> car{use_what_is_asked(defaults, asked)};
     const bool first_start = defaults.integer(KS_INTERFACE_KEY) == 0;
     qt_run_loop loop{};
     const bundle resources{resources_for(defaults)};
@@ -271,7 +285,8 @@ int run_window(house& home, Ks_lite_delegate& delegate, main_window& window) {
     QTimer::singleShot(0, &home.application, [&] { // a box that it opens must not hold up the start
         open_screen(delegate, home.asked.screen);
         if (home.asked.screenshot) // once the window has been laid out
-            QTimer::singleShot(200, &home.application, [&] { status = home.leave_with(window, 0); });
+            QTimer::singleShot(200, &home.application,
+                               [&] { status = home.leave_with(window, 0); });
     });
     const int ended = home.application.exec();
     return status ? status : ended;

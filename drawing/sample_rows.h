@@ -22,6 +22,10 @@
 #include <unordered_map>
 #include <vector>
 
+// For each parameter its PID, its display text, and the upper and lower value of real-time labels.
+using sample_entry = std::array<std::string, 4>;
+using sample_set = std::vector<sample_entry>;
+
 // A place that no reply has been filed into reads so.
 inline constexpr std::string_view UNFILLED = "-1";
 

@@ -15,6 +15,12 @@ constexpr std::uint8_t UNIT_PRIORITY = 0x18; // whatever AT CP gives the request
 
 using std::chrono::milliseconds;
 
+constexpr milliseconds PUT_OFF{60}; // from "7F 01 78" to the answer
+
+bool puts_off(const byte_string& message) {
+    return message.size() == 3 && message[0] == 0x7F && message[2] == 0x78;
+}
+
 byte_string slice(const byte_string& from, std::size_t start, std::size_t count) {
     const std::size_t end = std::min(from.size(), start + count);
     return {from.begin() + long(start), from.begin() + long(end)};
@@ -105,21 +111,21 @@ std::string shown_can_frame(const bus_frame& frame, const bus_protocol& bus,
 } // namespace
 
 std::vector<bus_frame> frames_on_bus(const std::vector<unit_answer>& answers,
-                                     const bus_protocol& bus, std::uint8_t fill,
-                                     bool flow_control) {
+                                     const bus_protocol& bus, std::uint8_t fill, bool flow_control,
+                                     milliseconds unit_gap) {
     std::vector<bus_frame> frames;
-    milliseconds at = bus.first_byte;
+    milliseconds next_unit = bus.first_byte;
     for (const unit_answer& answer : answers) {
-        const milliseconds on_time = at;
-        at += answer.delay;
+        milliseconds at = next_unit + answer.delay;
         for (const byte_string& message : answer.messages) {
             if (bus.is_can())
                 add_can_message(frames, answer, message, at, bus.per_frame, flow_control);
             else
                 frames.push_back({at, answer.address, message});
-            at += bus.per_frame;
+            at += puts_off(message) ? PUT_OFF : bus.per_frame;
         }
-        at = answer.delay.count() > 0 ? on_time + bus.per_frame : at; // others do not wait for it
+        // One wire: a unit of an older bus waits for the one before.
+        next_unit = bus.is_can() ? next_unit + unit_gap : at - bus.per_frame + unit_gap;
     }
     for (bus_frame& frame : frames)
         frame.fill = fill;

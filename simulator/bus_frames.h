@@ -19,10 +19,11 @@ struct bus_frame {
     std::uint8_t fill = 0; // what the unit fills its CAN frames up with
 };
 
-// In order of time, continuation frames filled up. Without flow control a long CAN message ends
-// after its first frame.
+// In order of time, continuation frames filled up; each further unit answers `unit_gap` behind the
+// one before. Without flow control a long CAN message ends after its first frame.
 std::vector<bus_frame> frames_on_bus(const std::vector<unit_answer>& answers,
-                                     const bus_protocol& bus, std::uint8_t fill, bool flow_control);
+                                     const bus_protocol& bus, std::uint8_t fill, bool flow_control,
+                                     std::chrono::milliseconds unit_gap);
 
 // The whole message as it stands on the bus, header and checksum included.
 byte_string raw_frame(const bus_frame& frame, const bus_protocol& bus);

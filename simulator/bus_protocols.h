@@ -20,6 +20,8 @@ struct bus_protocol {
     std::chrono::milliseconds init_time;  // waking the bus
     std::chrono::milliseconds first_byte; // from request to the first unit's answer
     std::chrono::milliseconds per_frame;  // each further frame
+    std::chrono::milliseconds unit_gap;   // each further unit
+    std::chrono::milliseconds pause;      // from the last message to the next request
 
     bool is_can() const { return kind == bus_kind::can; }
     bool is_iso() const {

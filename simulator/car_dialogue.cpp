@@ -46,8 +46,7 @@ bool virtual_adapter::connect_to_only(const bus_protocol* wanted, bool present,
         const bool wires = present && wanted && wanted->is_can() && real.is_can() &&
                            wanted->kilobits == real.kilobits;
         const bool can = !wanted || wanted->is_can();
-        add_line(pieces, scaled(milliseconds(state_.settings.timeout * 4)),
-                 can && !wires ? "CAN ERROR" : "NO DATA");
+        add_line(pieces, longest_wait(), can && !wires ? "CAN ERROR" : "NO DATA");
     }
     state_.bus_open = right;
     if (right) // one only tried with AT TP has proved valid
@@ -122,56 +121,147 @@ bool virtual_adapter::passes_filter(std::uint32_t address) const {
     return (id & mask) == (*settings.can_filter & mask);
 }
 
-// The fault that answers for another PID than was asked for.
+// "?" or silence for the digit that says how many replies to wait for.
+bool virtual_adapter::refuses_digit(int expected, adapter_reply& pieces) const {
+    const bool unknown = options_.faults.has(fault_kind::digit_unknown);
+    if (expected == 0 || (!unknown && !options_.faults.has(fault_kind::digit_no_data)))
+        return false;
+    add_line(pieces, milliseconds(0), unknown ? "?" : "NO DATA");
+    return true;
+}
+
+// The units' answers to what adapter and car make of a request.
+std::vector<unit_answer> virtual_adapter::ask_car(byte_string request, milliseconds now) {
+    const fault_set& faults = options_.faults;
+    if (faults.has(fault_kind::two_bytes) && request.size() > 2)
+        request.resize(2);
+    if (faults.has(fault_kind::zero_bytes) && request.size() > 2)
+        std::fill(request.begin() + 2, request.end(), std::uint8_t(0));
+    const bool several = request.size() > 2 && request[0] == 0x01;
+    if (several && faults.has(fault_kind::first_pid_only))
+        request.resize(2);
+    if (several && faults.has(fault_kind::pids_reordered))
+        std::reverse(request.begin() + 1, request.end());
+    std::vector<unit_answer> answers = vehicle_.answer(request, now, addressed_unit());
+    for (unit_answer& answer : answers) {
+        if (several && faults.has(fault_kind::several_refused))
+            answer.messages = {{0x7F, 0x01, 0x12}};
+        if (several && faults.has(fault_kind::wrong_length))
+            answer.messages.front().push_back(0);
+    }
+    damage(answers);
+    return answers;
+}
+
+// The faults that answer for another PID than was asked for, and that put an answer off.
 void virtual_adapter::damage(std::vector<unit_answer>& answers) {
     for (unit_answer& answer : answers) {
         byte_string& message = answer.messages.front();
-        if (message.size() > 2 && message[0] == 0x41 && message[1] % 0x20 != 0 &&
-            message[1] != 0x01 && every_nth(options_.faults, fault_kind::wrong_pid, ++values_))
+        if (message.size() <= 2 || message[0] != 0x41 || message[1] % 0x20 == 0 ||
+            message[1] == 0x01)
+            continue;
+        if (every_nth(options_.faults, fault_kind::wrong_pid, ++values_))
             message[1] ^= 0x01;
+        if (every_nth(options_.faults, fault_kind::pending, ++put_off_))
+            answer.messages.insert(answer.messages.begin(), {0x7F, 0x01, 0x78});
     }
 }
 
-milliseconds virtual_adapter::wait_for_more(const bus_protocol& bus) const {
-    const milliseconds longest(state_.settings.timeout * 4);
-    const milliseconds learnt(bus.is_can() ? 24 : 60);
+milliseconds virtual_adapter::unit_gap() const {
+    const auto gap = options_.faults.value(fault_kind::unit_gap);
+    return gap ? milliseconds(*gap) : state_.bus()->unit_gap;
+}
+
+milliseconds virtual_adapter::longest_wait() const {
+    return scaled(milliseconds(state_.settings.timeout * 4));
+}
+
+// How long the chip waits for another message: AT ST at most; with AT AT1 somewhat longer than it
+// ever had to on this bus, with AT AT2 than for its last reply.
+milliseconds virtual_adapter::wait_for_more() const {
+    const milliseconds longest = longest_wait();
+    const milliseconds least = scaled(milliseconds(state_.bus()->is_can() ? 24 : 60));
     switch (state_.settings.adaptive_timing) {
     case 0:
         return longest;
     case 1:
-        return std::min(longest, learnt);
+        return std::min(longest, std::max(least, longest_gap_ * 3 / 2));
     default:
-        return std::min(longest, learnt / 2);
+        return std::min(longest, std::max(least / 2, last_gap_ * 5 / 4));
     }
 }
 
-void virtual_adapter::show_frames(const std::vector<unit_answer>& answers, int expected,
-                                  adapter_reply& pieces) {
-    const bus_protocol& bus = *state_.bus();
-    const milliseconds start = end_of(pieces);
-    bool heard = false;
-    int messages = 0;
-    for (bus_frame frame :
-         frames_on_bus(answers, bus, vehicle_.fill_byte(), state_.settings.flow_control)) {
-        if (!passes_filter(frame.address))
-            continue;
-        frame.damaged = every_nth(options_.faults, fault_kind::data_error, ++messages_);
-        state_.last_message = raw_frame(frame, bus);
-        const milliseconds later =
-            std::max(milliseconds(0), start + scaled(frame.at) - end_of(pieces));
-        if (state_.settings.responses)
-            add_line(
-                pieces, later,
-                shown_frame(frame, bus, state_.settings, options_.faults.has(fault_kind::padding)));
-        heard = true;
-        messages += frame.ends_message;
-        if (expected > 0 && messages == expected)
-            return;
+// What a request that leaves now meets of the frames that the last reply ended before. CAN units
+// send theirs when they are ready; those of J1850 send again what nobody acknowledged.
+std::vector<virtual_adapter::timed_frame> virtual_adapter::late_frames(milliseconds since) {
+    std::vector<timed_frame> late;
+    late.swap(late_);
+    if (state_.bus()->is_can()) {
+        std::erase_if(late, [&](const timed_frame& one) {
+            return one.at < since || options_.faults.has(fault_kind::late_frames_lost);
+        });
+        return late;
     }
-    if (!heard)
-        add_line(pieces, scaled(milliseconds(state_.settings.timeout * 4)), "NO DATA");
-    else
-        pieces.push_back({end_of(pieces) + scaled(wait_for_more(bus)), ""});
+    if (state_.bus()->is_iso())
+        late.clear(); // sent while nobody listened
+    milliseconds at = since;
+    for (timed_frame& one : late)
+        one.at = at += scaled(state_.bus()->per_frame);
+    return late;
+}
+
+// On a K line a request that leaves too early and a late message destroy one another.
+bool virtual_adapter::collides(milliseconds since) const {
+    return state_.bus()->is_iso() &&
+           std::ranges::any_of(late_, [&](const timed_frame& one) { return one.at >= since; });
+}
+
+void virtual_adapter::show_frame(bus_frame& frame, milliseconds later, adapter_reply& pieces) {
+    const bus_protocol& bus = *state_.bus();
+    frame.damaged = every_nth(options_.faults, fault_kind::data_error, ++messages_);
+    state_.last_message = raw_frame(frame, bus);
+    if (state_.settings.responses)
+        add_line(
+            pieces, later,
+            shown_frame(frame, bus, state_.settings, options_.faults.has(fault_kind::padding)));
+}
+
+// Towards the digit behind a request.
+bool virtual_adapter::counts(const bus_frame& frame) const {
+    return frame.ends_message || !options_.faults.has(fault_kind::digit_counts_messages);
+}
+
+void virtual_adapter::show_frames(const std::vector<unit_answer>& answers, int expected,
+                                  adapter_reply& pieces, milliseconds now) {
+    const bus_protocol& bus = *state_.bus();
+    const milliseconds start = now + end_of(pieces);
+    std::vector<timed_frame> frames = late_frames(start);
+    for (const bus_frame& frame : frames_on_bus(answers, bus, vehicle_.fill_byte(),
+                                                state_.settings.flow_control, unit_gap()))
+        if (passes_filter(frame.address))
+            frames.push_back({start + scaled(frame.at), frame});
+    std::ranges::stable_sort(frames, {}, &timed_frame::at);
+    milliseconds last = start, longest{0};
+    std::size_t shown = 0;
+    int counted = 0;
+    for (timed_frame& one : frames) {
+        const milliseconds timer = shown > 0 ? wait_for_more() : longest_wait();
+        if ((expected > 0 && counted == expected) || one.at - last > timer)
+            break;
+        if (shown++ > 0)
+            longest = std::max(longest, one.at - last);
+        show_frame(one.frame, one.at - now - end_of(pieces), pieces);
+        counted += counts(one.frame);
+        last = one.at;
+    }
+    longest_gap_ = std::max(longest_gap_, longest);
+    last_gap_ = longest;
+    late_.assign(frames.begin() + long(shown), frames.end());
+    if (shown == 0)
+        add_line(pieces, longest_wait(), "NO DATA");
+    else if (expected == 0 || counted < expected)
+        pieces.push_back({end_of(pieces) + wait_for_more(), ""});
+    bus_free_ = std::max(last, start) + scaled(bus.pause);
 }
 
 adapter_reply virtual_adapter::answer_request(const command_line& line, milliseconds now) {
@@ -182,24 +272,36 @@ adapter_reply virtual_adapter::answer_request(const command_line& line, millisec
         add_line(pieces, milliseconds(0), "?");
         return pieces;
     }
+    if (refuses_digit(line.expected_replies, pieces))
+        return pieces;
     const bool was_open = state_.bus_open;
     const adapter_state before = state_;
     if (!connect(pieces, now))
         return pieces;
     pieces.push_back({end_of(pieces) + options_.latency.value_or(milliseconds(0)), ""});
-    if (!was_open)
+    if (!was_open) {
         search_ = search{before, now + end_of(pieces)};
+        late_.clear();
+        longest_gap_ = last_gap_ = {};
+    } else if (now + end_of(pieces) < bus_free_) {
+        pieces.push_back({bus_free_ - now, ""});
+    }
     const bool is_can = state_.bus()->is_can();
     if (is_can && ((was_open && !car_is_there(now)) ||
                    every_nth(options_.faults, fault_kind::can_error, ++requests_))) {
         add_line(pieces, scaled(milliseconds(60)), "CAN ERROR");
         return pieces;
     }
+    if (collides(now + end_of(pieces))) {
+        late_.clear();
+        add_line(pieces, scaled(state_.bus()->first_byte), "FB ERROR");
+        return pieces;
+    }
     const std::optional<byte_string> data = service_data(line.request);
     std::vector<unit_answer> answers;
     if (data && car_is_there(now))
-        answers = vehicle_.answer(*data, now, addressed_unit());
-    damage(answers);
-    show_frames(answers, line.expected_replies, pieces);
+        answers = ask_car(*data, now);
+    const bool digit_counts = !options_.faults.has(fault_kind::digit_ignored);
+    show_frames(answers, digit_counts ? line.expected_replies : 0, pieces, now);
     return pieces;
 }

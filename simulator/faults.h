@@ -32,6 +32,19 @@ enum class fault_kind {
     clone,
     no_bus,
     ignition_off_at,
+    digit_counts_messages,
+    digit_ignored,
+    digit_unknown,
+    digit_no_data,
+    late_frames_lost,
+    two_bytes,
+    zero_bytes,
+    first_pid_only,
+    pids_reordered,
+    several_refused,
+    wrong_length,
+    pending,
+    unit_gap,
 };
 
 struct fault {

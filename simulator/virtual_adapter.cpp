@@ -8,11 +8,13 @@
 
 namespace {
 
+using std::chrono::microseconds;
 using std::chrono::milliseconds;
 
 constexpr std::size_t LONGEST_COMMAND = 254;
 constexpr milliseconds TYPING_TIME{20000};
 constexpr milliseconds RESTART_TIME{650};
+constexpr microseconds CHARACTER_BITS = std::chrono::seconds(10); // divided by their rate
 
 } // namespace
 
@@ -30,17 +32,19 @@ void virtual_adapter::connection_opened(milliseconds now) {
     typed_.clear();
     typing_ends_.reset();
     busy_until_ = now;
+    line_in_ = line_out_ = {};
     search_.reset();
     commands_ = 0;
     closing_ = false;
 }
 
-void virtual_adapter::receive(std::string_view bytes, milliseconds now) {
-    vehicle_.seconds(now);
+void virtual_adapter::receive(std::string_view bytes, milliseconds sent) {
+    vehicle_.seconds(sent);
     const auto stall_after = options_.faults.value(fault_kind::stall_after);
     for (const char c : bytes) {
         if (stall_after && commands_ >= *stall_after)
             return;
+        const milliseconds now = heard(sent);
         // The chip passes over NUL, and over line feeds, which some terminals send with each
         // return.
         if (c == '\0' || c == '\n')
@@ -68,14 +72,15 @@ bool virtual_adapter::interrupted(milliseconds now) {
         state_ = search_->before;
     search_.reset();
     output_.drop_waiting();
-    output_.push(now, end_of_line() + "STOPPED" + end_of_line() + end_of_line() + ">");
+    line_out_ = {};
+    say(now, end_of_line() + "STOPPED" + end_of_line() + end_of_line() + ">");
     busy_until_ = now;
     return true;
 }
 
 void virtual_adapter::echo(char c, milliseconds now) {
     if (state_.settings.echo || options_.faults.has(fault_kind::echo_stuck))
-        output_.push(now, c == '\r' ? end_of_line() : std::string(1, c));
+        say(now, c == '\r' ? end_of_line() : std::string(1, c));
 }
 
 void virtual_adapter::finish_command(milliseconds now) {
@@ -100,7 +105,7 @@ void virtual_adapter::send(adapter_reply pieces, milliseconds now) {
     busy_until_ = now + end_of(pieces);
     apply_reply_faults(pieces, options_.faults, ++replies_, end_of_line(), random_);
     for (const reply_piece& piece : pieces)
-        output_.push(now + piece.after, piece.text);
+        say(now + piece.after, piece.text);
     if (const auto held = options_.faults.value(fault_kind::merge_replies))
         output_.hold_until(now + end_of(pieces) + milliseconds(*held));
 }
@@ -163,6 +168,24 @@ std::string virtual_adapter::take_output(milliseconds now) {
 
 bool virtual_adapter::wants_close(milliseconds) const {
     return closing_;
+}
+
+// When a character that is sent now has come over radio and serial line.
+milliseconds virtual_adapter::heard(milliseconds now) {
+    const milliseconds arrives = now + options_.round_trip / 2;
+    if (options_.baud == 0)
+        return arrives;
+    line_in_ = std::max<microseconds>(line_in_, arrives) + CHARACTER_BITS / options_.baud;
+    return std::chrono::round<milliseconds>(line_in_);
+}
+
+void virtual_adapter::say(milliseconds at, const std::string& text) {
+    if (options_.baud > 0) {
+        line_out_ = std::max<microseconds>(line_out_, at) +
+                    CHARACTER_BITS * long(text.size()) / options_.baud;
+        at = std::chrono::round<milliseconds>(line_out_);
+    }
+    output_.push(at + options_.round_trip - options_.round_trip / 2, text);
 }
 
 std::string virtual_adapter::end_of_line() const {

@@ -5,6 +5,7 @@
 
 #include "adapter.h"
 #include "adapter_state.h"
+#include "bus_frames.h"
 #include "faults.h"
 #include "output_queue.h"
 #include "reply_faults.h"
@@ -23,6 +24,10 @@ struct adapter_options {
     // `timing`.
     std::optional<std::chrono::milliseconds> latency;
     double timing = 1;
+    // The serial line between the chip and the radio; 0: none.
+    int baud = 0;
+    // Of the radio: there and back.
+    std::chrono::milliseconds round_trip{0};
     double speed = 1; // of the car's drive against the clock
 };
 
@@ -59,10 +64,25 @@ class virtual_adapter final : public adapter {
     std::optional<byte_string> service_data(const byte_string& request) const;
     std::optional<std::uint32_t> addressed_unit() const;
     bool passes_filter(std::uint32_t address) const;
+    bool refuses_digit(int expected, adapter_reply& pieces) const;
+    std::vector<unit_answer> ask_car(byte_string request, milliseconds now);
     void damage(std::vector<unit_answer>& answers);
-    void show_frames(const std::vector<unit_answer>& answers, int expected, adapter_reply& pieces);
-    milliseconds wait_for_more(const bus_protocol& bus) const;
+    milliseconds unit_gap() const;
+    struct timed_frame {
+        milliseconds at; // on the clock
+        bus_frame frame;
+    };
+    std::vector<timed_frame> late_frames(milliseconds since);
+    bool collides(milliseconds since) const;
+    void show_frames(const std::vector<unit_answer>& answers, int expected, adapter_reply& pieces,
+                     milliseconds now);
+    void show_frame(bus_frame& frame, milliseconds later, adapter_reply& pieces);
+    bool counts(const bus_frame& frame) const;
+    milliseconds longest_wait() const;
+    milliseconds wait_for_more() const;
 
+    milliseconds heard(milliseconds now);
+    void say(milliseconds at, const std::string& text);
     std::string end_of_line() const;
     milliseconds scaled(milliseconds genuine) const;
     void add_line(adapter_reply& pieces, milliseconds later, std::string_view line) const;
@@ -77,6 +97,13 @@ class virtual_adapter final : public adapter {
     std::string last_command_;
     std::optional<milliseconds> typing_ends_; // a command that is not finished by then is given up
     milliseconds busy_until_{0};
+    // Until when the serial line carries characters, to the chip and from it.
+    std::chrono::microseconds line_in_{0}, line_out_{0};
+    milliseconds bus_free_{0}; // for the next request
+    // Behind the end of a reply, not yet or never heard.
+    std::vector<timed_frame> late_;
+    // Between two messages: what the chip has learnt of this bus, and of the last reply.
+    milliseconds longest_gap_{0}, last_gap_{0};
     // While the car is being searched for: what holds again when that is stopped.
     struct search {
         adapter_state before;
@@ -86,5 +113,5 @@ class virtual_adapter final : public adapter {
     bool restarting_ = false;
     bool closing_ = false;
     long commands_ = 0; // of this connection
-    long replies_ = 0, requests_ = 0, values_ = 0, messages_ = 0;
+    long replies_ = 0, requests_ = 0, values_ = 0, put_off_ = 0, messages_ = 0;
 };

@@ -1413,5 +1413,13 @@ Freie Software unter der MIT-Lizenz.
         <source></source>
         <translation>Das Lesen wurde abgebrochen.</translation>
     </message>
+    <message id="ui_copy_rows">
+        <source></source>
+        <translation>Zeilen &amp;kopieren</translation>
+    </message>
+    <message id="ui_codes_to_report">
+        <source></source>
+        <translation>&amp;Speichern oder drucken: Fahrzeugbericht</translation>
+    </message>
 </context>
 </TS>

@@ -1412,5 +1412,13 @@ Free software under the MIT licence.
         <source></source>
         <translation>The reading was cancelled.</translation>
     </message>
+    <message id="ui_copy_rows">
+        <source></source>
+        <translation>&amp;Copy rows</translation>
+    </message>
+    <message id="ui_codes_to_report">
+        <source></source>
+        <translation>&amp;Save or print: vehicle report</translation>
+    </message>
 </context>
 </TS>

@@ -1413,5 +1413,13 @@ Software libre con licencia MIT.
         <source></source>
         <translation>La lectura se canceló.</translation>
     </message>
+    <message id="ui_copy_rows">
+        <source></source>
+        <translation>&amp;Copiar filas</translation>
+    </message>
+    <message id="ui_codes_to_report">
+        <source></source>
+        <translation>&amp;Guardar o imprimir: informe del vehículo</translation>
+    </message>
 </context>
 </TS>

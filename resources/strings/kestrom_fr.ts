@@ -1413,5 +1413,13 @@ Logiciel libre sous licence MIT.
         <source></source>
         <translation>La lecture a été annulée.</translation>
     </message>
+    <message id="ui_copy_rows">
+        <source></source>
+        <translation>&amp;Copier les lignes</translation>
+    </message>
+    <message id="ui_codes_to_report">
+        <source></source>
+        <translation>&amp;Enregistrer ou imprimer : rapport du véhicule</translation>
+    </message>
 </context>
 </TS>

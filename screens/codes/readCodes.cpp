@@ -77,33 +77,11 @@ void readCodes::start_task(int task, const std::string& status) {
         leave_cur_op_gracefully("");
 }
 
-void readCodes::work_current_task() {
-    if (!task_running() || awaits_owed_reply())
-        return;
-    switch (g_cur_mode) {
-    case MODE_HANDSHAKE:
-        handshake_.connect_2_interface(next_step_idx);
-        break;
-    case TASK_READ_CODES:
-        work_out_read_codes(next_step_idx);
-        break;
-    case TASK_CLEAR_CODES:
-        work_out_clear_codes(next_step_idx);
-        break;
-    default:
-        break;
-    }
-}
-
-void readCodes::handleOBDRcvdMsg(const std::string& text) {
-    qCDebug(log_screens, "readDTC:handleOBDRcvdMsg got the stuff%s", text.c_str());
-    if (contains(text, "Timeout")) {
-        beep();
-        set_status_msg("Cur op timed out... Please Check/retry");
-        return; // no clean-up: the user retries with a button
-    }
-    if (completes_reply(text))
-        work_current_task();
+void readCodes::work_task(int task, int step) {
+    if (task == TASK_READ_CODES)
+        work_out_read_codes(step);
+    else if (task == TASK_CLEAR_CODES)
+        work_out_clear_codes(step);
 }
 
 void readCodes::leave_cur_op_gracefully(const std::string&) {

@@ -39,8 +39,6 @@ class readCodes final : public obd_screen {
     ~readCodes() override;
 
     QWidget* view() override;
-    void work_current_task() override;
-    void handleOBDRcvdMsg(const std::string& text) override;
     void leave_cur_op_gracefully(const std::string& message) override;
     void show_interface(const std::string& text) override;
     void show_protocol(const std::string& text) override;
@@ -59,6 +57,8 @@ class readCodes final : public obd_screen {
     codes_report report() const;
 
   private:
+    void work_task(int task, int step) override;
+    adapter_handshake* handshake() override { return &handshake_; }
     void awakeFromNib();
     void start_task(int task, const std::string& status);
     void forget_last_reading();

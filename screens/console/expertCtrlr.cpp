@@ -137,11 +137,8 @@ void expertCtrlr::work_current_task() {
 
 void expertCtrlr::handleOBDRcvdMsg(const std::string& text) {
     qCDebug(log_screens, "expertC:handleOBDRcvdMsg got the stuff%s", text.c_str());
-    if (contains(text, "Timeout")) {
-        beep();
-        set_status_msg("Cur op timed out... Please Check/retry");
+    if (takes_time_out(text))
         return; // the indicator stays until the next reply
-    }
     append_reply(text);
     waity->hide();
     if (received)

@@ -31,7 +31,8 @@ std::string title_of_last(int points) {
 
 actions::actions(Ks_lite_delegate& delegate)
     : obd_screen(delegate), pictures_(toolies, delegate.doors().resources),
-      frames_(delegate.doors().loop, [this] { draw_frame(); }), handshake_(*this) {
+      frames_(delegate.doors().loop, [this] { draw_frame(); }), handshake_(*this),
+      sampling_(*this, handshake_, *this), log_([this](const std::string& why) { log_failed(why); }) {
     view_ = std::make_unique<live_view>(delegate,
                                         block_units{live_pictures::chart_size(), DIAL_SIZE, 83});
     use_status_line(view_->statusLbl());
@@ -65,11 +66,10 @@ void actions::awakeFromNib() {
 
 void actions::initial_setup() {
     const auto chosen = KS_delegate.doors().defaults.string_array(PIDS_ARRAY_KEY);
-    _pid_logitems_list = chosen.value_or(std::vector<std::string>{});
     if (!chosen)
         KS_delegate.doors().message_boxes.show(
             {"No PIDs seleted ... select them on the prefs option "});
-    build_views();
+    build_views(chosen.value_or(std::vector<std::string>{}));
     qCDebug(log_screens, "her ------------ 005");
 }
 
@@ -93,37 +93,27 @@ void actions::comboBoxSelectionDidChange(int index) {
 }
 
 void actions::rework_gui_objects(int mode) {
-    if (const auto parameters =
-            make_live_run(mode, toolies)->parameters(KS_delegate.doors().defaults)) {
-        _pid_logitems_list = *parameters;
-        if (mode == TASK_RUN_LOG && parameters->empty())
-            toolies.myMsgBox("No PIDs selected ... select them on the prefs option ");
-    }
+    const auto parameters = make_live_run(mode, toolies)->parameters(KS_delegate.doors().defaults);
+    if (mode == TASK_RUN_LOG && parameters && parameters->empty())
+        toolies.myMsgBox("No PIDs selected ... select them on the prefs option ");
     if (mode == TASK_BOOST)
         g_cur_barom_press = STANDARD_BAROMETER;
-    build_views();
-    view_->show_next_sensors(mode == TASK_O2_SAMPLING && keep_logging &&
-                             _pid_logitems_list.size() > SENSORS_A_PAGE);
+    build_views(parameters.value_or(pids()));
+    view_->show_next_sensors(mode == TASK_O2_SAMPLING && running() && pids().size() > SENSORS_A_PAGE);
 }
 
-void actions::build_views() {
+void actions::build_views(const std::vector<std::string>& pids) {
     cur_pid_showing = 0;
     view_->show_zoom(false);
-    cur_log_points = sample_rows(_pid_logitems_list.size());
-    cur_log_points.append_fresh_row();
-    these_samples.clear();
+    sampling_.set_parameters(pids);
     std::vector<QString> names;
-    for (const std::string& pid : _pid_logitems_list) {
-        these_samples.push_back({pid, "0.0", "0.0", "0.0"});
+    for (const std::string& pid : pids)
         names.push_back(display_text(parameter_name(toolies, pid)));
-    }
-    cycle_values_.assign(_pid_logitems_list.size(), {});
-    first_request_ = cycle_filed_ = {};
     // The first thumbnail is selected, and moves the first dial.
     cur_thumbs_selected.clear();
     gauge_1_idx = 0;
     gauge_2_idx = -1;
-    pictures_.rebuild(_pid_logitems_list);
+    pictures_.rebuild(pids);
     set_chart_title(ALL_POINTS);
     pictures_.set_points_shown(-1);
     put_first_dial_back();
@@ -133,29 +123,22 @@ void actions::build_views() {
 }
 
 void actions::runLogs() {
-    if (keep_logging) {
+    if (running()) {
         leave_cur_op_gracefully("");
         return;
     }
     begin_task();
     next_step_idx = 0;
     view_->show_waity(true);
-    keep_logging = true;
     work_out_log_file();
     view_->show_running(true);
     run_a_log();
 }
 
 void actions::run_a_log() {
-    cur_log_points.clear();
-    add_item_to_log_vector("-X", -1);
+    sampling_.begin(make_live_run(g_cur_task, toolies));
     pictures_.forget_samples();
     frames_.request();
-    run_ = make_live_run(g_cur_task, toolies);
-    requests_answered_ = cycles_ = 0;
-    first_request_ = cycle_filed_ = {};
-    waits_in_vain_ = 0;
-    keep_logging = true;
     next_step_idx = 0;
     set_status_msg("Starting run log");
     start_over_link();
@@ -167,14 +150,13 @@ void actions::start_over_link() {
 }
 
 void actions::ask_what_car_supports(std::function<void()> ended) {
-    if (keep_logging)
+    if (running())
         return;
     begin_task();
     scan_ended_ = std::move(ended);
     scan_completed_ = false;
     car_parameters_.reset();
-    run_ = std::make_unique<supported_scan>(car_parameters_);
-    keep_logging = true;
+    sampling_.begin(std::make_unique<supported_scan>(car_parameters_));
     next_step_idx = 0;
     view_->show_running(true);
     set_status_msg(localized("ui_more_asking"));
@@ -184,55 +166,98 @@ void actions::ask_what_car_supports(std::function<void()> ended) {
 void actions::choose_more_parameters() {
     auto* dialog = new more_parameters(KS_delegate, *this, view_->root());
     dialog->chosen = [this] {
-        if (keep_logging)
+        if (running())
             leave_cur_op_gracefully("");
         rework_gui_objects(g_cur_task);
     };
     dialog->open();
 }
 
-void actions::work_current_task() {
-    if (!task_running() || awaits_owed_reply())
-        return;
-    switch (g_cur_mode) {
-    case MODE_HANDSHAKE:
-        handshake_.connect_2_interface(next_step_idx);
-        break;
+void actions::work_task(int task, int step) {
+    switch (task) {
     case TASK_RUN_LOG:
-        work_out_log(next_step_idx);
+        work_out_log(step);
         break;
     case TASK_FUEL_ECONOMY:
-        work_out_mpg(next_step_idx);
+        work_out_mpg(step);
         break;
     case TASK_BOOST:
-        work_out_boost(next_step_idx);
+        work_out_boost(step);
         break;
     case TASK_O2_SAMPLING:
-        work_o2_layout(next_step_idx);
+        work_o2_layout(step);
         break;
     default:
         break;
     }
 }
 
-void actions::handleOBDRcvdMsg(const std::string& text) {
-    qCDebug(log_screens, "readDTC:handleOBDRcvdMsg got the stuff%s", text.c_str());
-    if (text == "Timeout" && g_obd_msg_state == S_FAIL) {
-        if (task_running() && !awaits_owed_reply()) {
-            odb_curReplyBuffyMsg += text; // stands in front of the next reply
-            work_current_task();
-        }
-        return;
-    }
-    if (completes_reply(text))
+bool actions::takes_time_out(const std::string& text) {
+    if (text != "Timeout" || g_obd_msg_state != S_FAIL)
+        return false;
+    if (task_running() && !awaits_owed_reply()) {
+        odb_curReplyBuffyMsg += text; // stands in front of the next reply
         work_current_task();
+    }
+    return true;
+}
+
+void actions::show_parameters(const std::vector<std::string>&) {
+    rework_gui_objects(g_cur_task);
+}
+
+void actions::nothing_to_sample() {
+    set_status_msg(localized("ui_live_no_sensors"));
+    leave_cur_op_gracefully("");
+}
+
+void actions::questions_answered() {
+    scan_completed_ = true;
+    set_status_msg(localized(car_parameters_ ? "ui_more_told" : "ui_more_untold"));
+    leave_cur_op_gracefully("");
+}
+
+void actions::cycles_begin() {
+    if (sampling_begins)
+        sampling_begins();
+}
+
+// Replies come faster than they can be read: the status line follows with the frames.
+void actions::reply_came(const std::string& reply) {
+    cur_err_msg = "Got proper reply: ( " + reply + ")";
+    note_status(cur_err_msg);
+    status_changed_ = true;
+}
+
+void actions::sample_filed(int index, double value) {
+    pictures_.sample(index, value);
+    frames_.request();
+}
+
+void actions::cycle_filed(std::size_t row) {
+    log_.write_cycle(samples(), row, sampling_.length());
+    if (cycle_completed)
+        cycle_completed(sampling_.cycle_values());
+}
+
+void actions::work_out_log_file() {
+    log_failure_.clear();
+    log_.forget();
+    view_->show_log_mark("");
+    if (KS_delegate.doors().defaults.boolean(LOG_RUNS_KEY))
+        log_.begin(toolies, g_cur_task, g_vehicle_idx);
+}
+
+// The mark stays until the next run starts.
+void actions::log_failed(const std::string& why) {
+    log_failure_ = localized("ui_live_log_failed") + " " + why;
+    view_->show_log_mark(log_failure_);
 }
 
 void actions::leave_cur_op_gracefully(const std::string&) {
     view_->show_waity(false);
-    cur_log_idx = 0;
-    close_log();
-    keep_logging = false;
+    sampling_.end();
+    log_.close();
     view_->show_running(false);
     end_task();
     if (const auto told = std::exchange(scan_ended_, nullptr))
@@ -241,7 +266,7 @@ void actions::leave_cur_op_gracefully(const std::string&) {
 
 void actions::link_lost() {
     KS_delegate.give_up_on_replies(); // or its time-out would end a later run
-    if (keep_logging)
+    if (running())
         leave_cur_op_gracefully("");
 }
 
@@ -260,7 +285,7 @@ void actions::cellCicked() {
     if (selected.size() == 1)
         cur_pid_showing = *selected.begin();
     gauge_1_idx = -1;
-    for (int i = 0; i < static_cast<int>(_pid_logitems_list.size()); ++i)
+    for (int i = 0; i < static_cast<int>(pids().size()); ++i)
         pictures_.select_thumbnail(i, selected.contains(i));
     for (const int tag : selected)
         if (gauge_1_idx == -1)
@@ -269,7 +294,7 @@ void actions::cellCicked() {
     choose_second_dial(selected, selected_before, shown_before);
     pictures_.set_large_chart(cur_pid_showing, cur_thumbs_selected);
     put_first_dial_back();
-    pictures_.use_realtime_labels(cur_log_points.rows() < 3);
+    pictures_.use_realtime_labels(samples().rows() < 3);
     frames_.request();
 }
 
@@ -289,13 +314,13 @@ void actions::put_first_dial_back() {
 // A parameter's name, value with its unit, and range.
 QString actions::described(int index) const {
     const auto place = static_cast<std::size_t>(index);
-    if (place >= _pid_logitems_list.size())
+    if (place >= pids().size())
         return {};
-    const std::string& pid = _pid_logitems_list[place];
+    const std::string& pid = pids()[place];
     const value_range range = parameter_range(toolies, pid);
     return display_text(localized("ui_live_reading"))
         .arg(display_text(parameter_name(toolies, pid)),
-             display_text(pictures_.has_reply(index) ? these_samples[place][1] : "-"),
+             display_text(pictures_.has_reply(index) ? sampling_.latest()[place][1] : "-"),
              QString::number(range.low),
              QString::number(range.high) + u' ' +
                  display_text(parameter_units(toolies, pid)).trimmed());
@@ -306,7 +331,7 @@ void actions::describe_pictures() {
     strip.describe_cell = [this](int cell) { return described(cell); };
     strip.describe = [this] {
         QStringList all;
-        for (int i = 0; i < static_cast<int>(_pid_logitems_list.size()); ++i)
+        for (int i = 0; i < static_cast<int>(pids().size()); ++i)
             all.append(described(i));
         return all.join(QStringLiteral("; "));
     };
@@ -346,7 +371,7 @@ void actions::choose_second_dial(const std::set<int>& selected, std::size_t sele
 }
 
 void actions::zoomSliderDidChange(double v) {
-    const auto share = static_cast<int>(static_cast<double>(cur_log_points.rows()) * v);
+    const auto share = static_cast<int>(static_cast<double>(samples().rows()) * v);
     const int points = v >= 1 ? -1 : std::max(share, FEWEST_POINTS);
     pictures_.set_points_shown(points);
     set_chart_title(points < 0 ? ALL_POINTS : title_of_last(points));
@@ -364,7 +389,7 @@ void actions::clickIt() {
 
 // Four sensors fit above the chart: brings the next four there and shows the first of them.
 void actions::show_next_sensors() {
-    const auto sensors = static_cast<int>(_pid_logitems_list.size());
+    const auto sensors = static_cast<int>(pids().size());
     const int page = static_cast<int>(SENSORS_A_PAGE);
     const int next = (cur_pid_showing / page + 1) * page;
     const int first = next < sensors ? next : 0;
@@ -378,7 +403,7 @@ void actions::show_status_now_and_then() {
     const run_loop::milliseconds now = KS_delegate.doors().loop.now();
     if (!status_changed_)
         return;
-    if (keep_logging && now - status_shown_ < READING_TIME) {
+    if (running() && now - status_shown_ < READING_TIME) {
         frames_.request();
         return;
     }
@@ -391,9 +416,9 @@ void actions::draw_frame() {
     show_status_now_and_then();
     if (!view_->root()->isVisible())
         return; // becoming visible resizes the panel, which asks for a frame
-    view_->show_zoom(cur_log_points.rows() > FEWEST_POINTS);
-    const auto length = cycle_filed_ - first_request_;
+    view_->show_zoom(samples().rows() > FEWEST_POINTS);
+    const auto length = sampling_.length();
     view_->show_length(display_text(
         length.count() > 0 ? length_text(static_cast<std::uint64_t>(length.count())) : ""));
-    pictures_.draw(*view_, cur_log_points, these_samples);
+    pictures_.draw(*view_, sampling_.samples(), sampling_.latest());
 }

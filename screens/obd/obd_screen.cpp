@@ -1,10 +1,13 @@
 #include "obd_screen.h"
 
+#include "adapter_handshake.h"
 #include "alerts.h"
 #include "bundle.h"
 #include "globalVars.h"
 #include "reply_accumulator.h"
 #include "status_line.h"
+#include "system_log.h"
+#include "text.h"
 
 namespace {
 
@@ -87,6 +90,29 @@ void obd_screen::go_on(bool in_vain) {
     owed_bound_ = 0;
     const auto call = std::move(go_on_);
     call(in_vain);
+}
+
+void obd_screen::work_current_task() {
+    if (!task_running_ || awaits_owed_reply())
+        return;
+    if (g_cur_mode != MODE_HANDSHAKE)
+        work_task(g_cur_mode, next_step_idx);
+    else if (handshake())
+        handshake()->connect_2_interface(next_step_idx);
+}
+
+void obd_screen::handleOBDRcvdMsg(const std::string& text) {
+    qCDebug(log_screens, "readDTC:handleOBDRcvdMsg got the stuff%s", text.c_str());
+    if (!takes_time_out(text) && completes_reply(text))
+        work_current_task();
+}
+
+bool obd_screen::takes_time_out(const std::string& text) {
+    if (!contains(text, "Timeout"))
+        return false;
+    beep();
+    set_status_msg("Cur op timed out... Please Check/retry");
+    return true;
 }
 
 bool obd_screen::completes_reply(const std::string& chunk) {

@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+class adapter_handshake;
 class busy_indicator;
 class status_line;
 
@@ -18,6 +19,8 @@ class obd_screen : public screen_controller {
     explicit obd_screen(Ks_lite_delegate& delegate);
     ~obd_screen() override;
 
+    void work_current_task() override;
+    void handleOBDRcvdMsg(const std::string& text) override;
     void set_status_msg(const std::string& message) override;
     const std::string& status() const { return status_; }
 
@@ -40,6 +43,12 @@ class obd_screen : public screen_controller {
     mac_toolies toolies;
     std::string cur_err_msg;
 
+    // Goes on when the adapter owes no reply any more, at the latest after the bound, and then
+    // `in_vain`: what comes until then is dropped. That reply must not be taken for the answer to what is sent
+    // next, and a character sent meanwhile would interrupt it.
+    void when_adapter_is_free(run_loop::milliseconds bound, std::function<void(bool in_vain)> go_on);
+    // For the ends that say nothing and reset nothing.
+    void end_task();
     // A task of this screen runs. Replies and deferred calls that meet a screen without one belong
     // to somebody else and are dropped.
     bool task_running() const { return task_running_; }
@@ -57,19 +66,16 @@ class obd_screen : public screen_controller {
     // Opens the link and starts the task over it; the transport starts a task whose link is still
     // coming up. `link_usable` is called when it is up already. False: no link will come up.
     bool work_over_link(const std::function<void()>& link_usable);
-    // Goes on when the adapter owes no reply any more, at the latest after the bound, and then
-    // `in_vain`: what comes until then is dropped. That reply must not be taken for the answer to what is sent
-    // next, and a character sent meanwhile would interrupt it.
-    void when_adapter_is_free(run_loop::milliseconds bound, std::function<void(bool in_vain)> go_on);
     bool awaits_owed_reply() const { return owed_bound_ != 0; }
-    // The running task's next complete reply has come with this chunk; what was owed is seen to.
-    bool completes_reply(const std::string& chunk);
-
-  public:
-    // For the ends that say nothing and reset nothing.
-    void end_task();
+    // A step of the running task, when it is not the handshake's turn.
+    virtual void work_task(int task, int step) { (void)task, (void)step; }
+    virtual adapter_handshake* handshake() { return nullptr; }
+    // False for what is no time-out. Nothing is cleaned up: the user retries with a button.
+    virtual bool takes_time_out(const std::string& text);
 
   private:
+    // The running task's next complete reply has come with this chunk; what was owed is seen to.
+    bool completes_reply(const std::string& chunk);
     void begin_first_step();
     void go_on(bool in_vain);
 

@@ -92,7 +92,8 @@ constexpr std::array OPTIONS = {
          "live"},
         take_pids},
     row{{"--run", "log|fuel|o2|boost",
-         "what to sample: the parameters (log, the default), fuel economy, oxygen\nsensors or boost",
+         "what to sample: the parameters (log, the default), fuel economy, oxygen\nsensors or "
+         "boost",
          "live"},
         [](cli_request& asked, text, text value) { asked.run = value; }},
     row{{"--seconds", "N", "end so many seconds after the first request of the run", "live",
@@ -102,8 +103,8 @@ constexpr std::array OPTIONS = {
         }},
     row{{"--cycles", "N", "end after so many cycles; without either Ctrl+C ends it", "live"},
         [](cli_request& asked, text name, text value) {
-            asked.cycles = read_number(name, value, 1ULL,
-                                       std::numeric_limits<unsigned long long>::max());
+            asked.cycles =
+                read_number(name, value, 1ULL, std::numeric_limits<unsigned long long>::max());
         }},
     row{{"--log", "", "write a run log, as the window does", "live"},
         [](cli_request& asked, text, text) { asked.log = true; }},
@@ -158,9 +159,8 @@ constexpr std::array OPTIONS = {
             asked.demo = true;
             asked.demo_car = value;
         }},
-    row{{"--adapter", "HOST:PORT",
-         "talk to this Wi-Fi adapter instead of the one in the settings", "window car",
-         "--bluetooth"},
+    row{{"--adapter", "HOST:PORT", "talk to this Wi-Fi adapter instead of the one in the settings",
+         "window car", "--bluetooth"},
         take_adapter},
     row{{"--bluetooth", "ADDRESS", "talk to this Bluetooth adapter, without asking", "window car"},
         take_bluetooth},
@@ -170,7 +170,7 @@ constexpr std::array OPTIONS = {
          "its identification number (VIN) among it",
          "window car"},
         [](cli_request& asked, text, text value) { asked.record = value; }},
-    row{{"--screen", "codes|live|prefs|expert", "open the window with this screen", "window"},
+    row{{"--screen", "codes|live|report|prefs|expert", "open the window with this screen", "window"},
         [](cli_request& asked, text, text value) { asked.screen = value; }},
     row{{"--screenshot", "FILE.png", "save a picture of the window and leave", "window car"},
         [](cli_request& asked, text, text value) { asked.screenshot = value; }},

@@ -1,5 +1,6 @@
 // Runs one command of the command line on the screens themselves, without a display: presses the
-// button, is told of all that happens, and prints what was found once the task is over. Owned by main.
+// button, is told of all that happens, and prints what was found once the task is over. Owned by
+// main.
 #pragma once
 
 #include "car_task.h"

@@ -13,12 +13,11 @@
 #include "text.h"
 #include "user_defaults.h"
 
-#include <nlohmann/json.hpp>
-
 #include <QTime>
 
 #include <cmath>
 #include <cstdio>
+#include <nlohmann/json.hpp>
 #include <optional>
 #include <unistd.h>
 
@@ -302,5 +301,6 @@ std::unique_ptr<car_task> begin_live(const car_task_doors& doors) {
 
 void check_live(const cli_request& asked) {
     if ((!asked.pids.empty() || asked.all_pids) && asked.run != "log")
-        throw usage_error("--pids goes with --run log; the other runs have parameters of their own");
+        throw usage_error(
+            "--pids goes with --run log; the other runs have parameters of their own");
 }

@@ -170,4 +170,111 @@ TEST(faults_test, faults_combine) {
                                         {asked + 10, ">\r\nREADY\r\n"}}));
 }
 
+// Asked with headers on and blanks off, after a first request.
+TEST(faults_test, digit_and_several_parameters_meet_adapters_and_cars_of_every_kind) {
+    const std::string three = "7E8100941044F053D0B\r7E8211F1129AAAAAAAA\r\r>";
+    struct row {
+        const char* fault;
+        const char* command;
+        std::string reply;
+    };
+    for (const row& r : {
+             row{"latency=0", "0104050B11", three},
+             row{"latency=0", "0104050B112", three},
+             row{"latency=0", "0104050B111", "7E8100941044F053D0B\r\r>"},
+             row{"digit_counts_messages", "0104050B111", three},
+             row{"digit_ignored", "0104050B111", three},
+             row{"digit_unknown", "01041", "?\r\r>"},
+             row{"digit_no_data", "01041", "NO DATA\r\r>"},
+             row{"two_bytes", "0104050B11", "7E80341044F\r\r>"},
+             row{"zero_bytes", "010405", "7E8100841044F00BE3F\r7E821B813AAAAAAAAAA\r\r>"},
+             row{"first_pid_only", "0104050B11", "7E80341044F\r\r>"},
+             row{"pids_reordered", "010405", "7E80541053D044F\r\r>"},
+             row{"several_refused", "010405", "7E8037F0112\r\r>"},
+             row{"several_refused", "0104", "7E80341044F\r\r>"},
+             row{"wrong_length", "010405", "7E80641044F053D00\r\r>"},
+             row{"pending=1", "0104", "7E8037F0178\r7E80341044F\r\r>"},
+         }) {
+        adapter_harness car("clean", {r.fault});
+        for (const char* command : {"AT E0", "AT H1", "AT S0", "01 00"})
+            car.say(command);
+        EXPECT_EQ(car.say(r.command), r.reply) << r.fault;
+    }
+}
+
+// What a reply was ended before meets the next request, on each bus in its own way.
+TEST(faults_test,
+     frames_behind_an_early_end_are_late_on_can_repeated_on_j1850_and_collide_on_k_lines) {
+    struct row {
+        const char* car;
+        const char* fault;
+        const char* first;
+        const char* next;
+        const char* reply;
+    };
+    for (const row& r : {
+             row{"can11", "latency=0", "01 01 1", "01 51", "7E906410100040000\r7E803415101\r\r>"},
+             row{"can11", "late_frames_lost", "01 01 1", "01 51", "7E803415101\r\r>"},
+             row{"vpw", "latency=0", "01 01 1", "01 1C",
+                 "486B1841010004000048\r486B10411C012F\r486B18411C01B3\r\r>"},
+             row{"kwp_slow", "unit_gap=150", "AT DP", "01 1C", "FB ERROR\r\r>"},
+         }) {
+        adapter_harness car(r.car, {r.fault}, std::nullopt);
+        for (const char* command : {"AT E0", "AT H1", "AT S0", "01 00", r.first})
+            car.say(command);
+        EXPECT_EQ(car.say(r.next), r.reply) << r.car;
+    }
+}
+
+// The chip stops listening when AT ST says so, and with AT AT2 when the last reply was shorter.
+TEST(faults_test, a_short_time_out_loses_answers) {
+    const auto lines = [](adapter_harness& car, const char* command) {
+        car.now += std::chrono::seconds(1); // nothing is late any more
+        const std::string reply = car.say(command);
+        return std::count(reply.begin(), reply.end(), '\r') - 1;
+    };
+    adapter_harness slow("can11", {"unit_gap"}, std::nullopt);
+    slow.say("AT E0");
+    slow.say("AT AT0");
+    EXPECT_EQ(slow.say("AT ST 01"), "OK\r\r>");
+    slow.say("01 00");
+    EXPECT_EQ(slow.say("01 0C"), "NO DATA\r\r>");
+    slow.say("AT ST 00");
+    EXPECT_EQ(lines(slow, "01 0C"), 2);
+    slow.say("AT AT1");
+    slow.say("01 04"); // one unit
+    EXPECT_EQ(lines(slow, "01 0C"), 2);
+    slow.say("AT AT2");
+    slow.say("01 04");
+    EXPECT_EQ(lines(slow, "01 0C"), 1);
+}
+
+TEST(faults_test, pauses_serial_line_and_radio_take_their_time) {
+    const auto exchange = [](const char* car_name, int baud, int round_trip) {
+        adapter_harness car(car_name, {}, std::nullopt);
+        adapter_options options;
+        options.baud = baud;
+        options.round_trip = std::chrono::milliseconds(round_trip);
+        virtual_adapter adapter(car.the_car, options);
+        long took = 0, now = 0;
+        for (const char* command :
+             {"AT E0\r", "AT H1\r", "AT S0\r", "01001\r", "01041\r", "01041\r"}) {
+            const long began = now;
+            adapter.receive(command, std::chrono::milliseconds(now));
+            while (const auto due = adapter.next_output()) {
+                now = due->count();
+                adapter.take_output(*due);
+            }
+            took = now - began;
+        }
+        return took;
+    };
+    EXPECT_EQ(exchange("clean", 0, 0), 9);
+    EXPECT_EQ(exchange("clean", 38400, 0), 15); // 20 characters
+    EXPECT_EQ(exchange("clean", 115200, 0), 11);
+    EXPECT_EQ(exchange("clean", 0, 31), 40);
+    EXPECT_EQ(exchange("iso9141", 0, 0), 144); // as fast as ISO 9141-2 allows
+    EXPECT_EQ(exchange("pwm", 0, 0), 135);
+}
+
 } // namespace

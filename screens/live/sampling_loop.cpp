@@ -1,0 +1,355 @@
+#include "sampling_loop.h"
+
+#include "adapter_handshake.h"
+#include "alerts.h"
+#include "fuel_economy.h"
+#include "globalVars.h"
+#include "parameters.h"
+#include "sample_reply.h"
+#include "system_log.h"
+#include "text.h"
+
+#include <algorithm>
+#include <exception>
+#include <stdexcept>
+
+namespace {
+
+enum step : int {
+    START = 0,
+    REPLY = 1,
+    FIRST_QUESTION_ANSWERED = 2,
+};
+
+constexpr int SUPPORTED_PIDS_TIME_OUT = 12000;
+constexpr int REPLY_TIME_OUT = 3000;
+constexpr std::size_t LONGEST_SAMPLE = 331;
+
+// How long the answer that is still owed is awaited after one to another request: as long as an
+// adapter at most waits for the car, and longer when that was not enough.
+constexpr run_loop::milliseconds STRAGGLER_BOUND{1000};
+constexpr run_loop::milliseconds LONG_STRAGGLER_BOUND{4000};
+constexpr int MOST_WAITS_IN_VAIN = 3;
+constexpr int ANSWERS_TO_TRUST_AGAIN = 50; // in a row
+
+// The toolkit's operation has another name: asking for this one fails.
+std::string fix_3dos(std::string_view reply) {
+    if (reply.empty())
+        return {};
+    throw std::runtime_error("the toolkit has no operation fix_3dos:");
+}
+
+// Of several replies that came in one piece the one that answers the request, if any does: what
+// stands before it was left over.
+std::string reply_to(std::string_view pid, const std::string& replies) {
+    for (const std::string_view each : split(replies, ">"))
+        if (answers_parameter(whole_answer(each), pid))
+            return std::string(each);
+    return replies;
+}
+
+} // namespace
+
+sampling_loop::sampling_loop(obd_screen& screen, adapter_handshake& handshake,
+                             sampling_listener& listener)
+    : screen_(screen), handshake_(handshake), listener_(listener) {}
+
+void sampling_loop::set_parameters(const std::vector<std::string>& pids) {
+    _pid_logitems_list = pids;
+    cur_log_points = sample_rows(pids.size());
+    cur_log_points.append_fresh_row();
+    these_samples.clear();
+    for (const std::string& pid : pids)
+        these_samples.push_back({pid, "0.0", "0.0", "0.0"});
+    cycle_values_.assign(pids.size(), {});
+    first_request_ = cycle_filed_ = {};
+}
+
+void sampling_loop::begin(std::unique_ptr<live_run> run) {
+    run_ = std::move(run);
+    keep_logging = true;
+    if (run_->samples()) {
+        cur_log_points.clear();
+        add_item_to_log_vector("-X", -1);
+        requests_answered_ = cycles_ = 0;
+        first_request_ = cycle_filed_ = {};
+        waits_in_vain_ = 0;
+    }
+}
+
+void sampling_loop::end() {
+    cur_log_idx = 0;
+    keep_logging = false;
+}
+
+void sampling_loop::work_out_log(int step) {
+    if (!keep_logging)
+        return;
+    try {
+        switch (step) {
+        case START:
+            start_sampling();
+            break;
+        case REPLY:
+            take_reply();
+            break;
+        case FIRST_QUESTION_ANSWERED:
+            first_question_answered();
+            break;
+        default:
+            break;
+        }
+    } catch (const std::exception& failure) {
+        screen_.show_err_msg("work_out_log::Did not fully complete: ( " +
+                             std::string(failure.what()) + ")");
+        fail_with_alert(screen_.cur_err_msg);
+    }
+}
+
+void sampling_loop::start_sampling() {
+    screen_.set_status_msg("Starting log");
+    if (handshake_.comes_first()) {
+        listener_.another_car();
+        return;
+    }
+    const std::string reply = odb_curReplyMsg;
+    odb_curReplyMsg.clear();
+    if (p_cur_avail_pids && p_cur_avail_pids->empty()) {
+        if (!cur_cmd.contains("01 00\r")) {
+            ask_supported_pids();
+            return;
+        }
+        if (!take_supported_pids(reply))
+            return;
+    }
+    begin_cycle();
+}
+
+void sampling_loop::ask_supported_pids() {
+    g_this_delta = SUPPORTED_PIDS_TIME_OUT;
+    cur_cmd = std::string_view("01 00\r");
+    next_step_idx = START;
+    prep_and_send_cmd(cur_cmd, SUPPORTED_PIDS_TIME_OUT);
+}
+
+// False when the run has ended or the request was repeated.
+bool sampling_loop::take_supported_pids(const std::string& reply) {
+    std::string text = without(reply, " ");
+    if (contains(text, "...")) {
+        text = fix_3dos(text);
+        if (contains(text, "UNABLETOCONNECT")) {
+            if (g_retries > 0) {
+                g_retries = 0;
+                fail_with_alert("Connection to car issue.. Check and try again");
+                return false;
+            }
+            ++g_retries;
+            ask_supported_pids();
+            return false;
+        }
+    }
+    screen_.show_err_msg("Initial reply: ( " + text + ")");
+    const auto messages = mac_toolies::Pull_ECU_msg(text);
+    if (!messages || messages->empty())
+        throw std::runtime_error("no control unit in the answer to 01 00");
+    screen_.set_status_msg("Got proper reply: ( " + messages->front() + ")");
+    p_cur_avail_pids = slice(messages->front(), 4);
+    return true;
+}
+
+void sampling_loop::begin_cycle() {
+    cur_request_ = 0;
+    g_this_delta = REPLY_TIME_OUT;
+    const auto question = run_->first_question();
+    asks_first_question_ = question.has_value();
+    if (question) {
+        requests_ = {{*question, 0}};
+        ask(requests_.front());
+        return;
+    }
+    if (!run_->samples()) {
+        listener_.questions_answered();
+        return;
+    }
+    if (const auto found = run_->parameters_found()) {
+        if (found->empty()) {
+            listener_.nothing_to_sample();
+            return;
+        }
+        _pid_logitems_list = *found;
+        listener_.show_parameters(*found);
+    }
+    requests_ = run_->requests(_pid_logitems_list);
+    if (requests_.empty())
+        throw std::out_of_range("no PIDs selected");
+    listener_.cycles_begin();
+    first_request_ = cycle_filed_ = screen_.KS_delegate.doors().loop.now();
+    ask(requests_.front());
+}
+
+void sampling_loop::first_question_answered() {
+    const std::optional<std::string> reply = screened_reply();
+    if (!reply)
+        return;
+    if (answers_another(*reply, requests_.front().pid) &&
+        await_straggler(order_of_answer::one_behind))
+        return; // and ask once more
+    run_->whole_reply_came(odb_curReplyMsg);
+    run_->first_question_answered(*reply);
+    begin_cycle();
+}
+
+void sampling_loop::ask(const sample_request& request) {
+    cur_log_idx = request.place;
+    const std::string command = "01 " + request.pid + "\r";
+    cur_cmd = std::string_view(command);
+    next_step_idx = asks_first_question_ ? FIRST_QUESTION_ANSWERED : REPLY;
+    prep_and_send_cmd(cur_cmd, g_this_delta);
+}
+
+// Neither argument counts, on purpose: what is sent is cur_cmd, and the time-out is g_this_delta.
+void sampling_loop::prep_and_send_cmd(std::string_view, int) {
+    g_replies_expected = 1;
+    g_obd_msg_state = S_WAITING;
+    screen_.sendOBDcmd(cur_cmd);
+}
+
+void sampling_loop::add_item_to_log_vector(std::string_view this_item_val, int this_idx) {
+    if (this_idx < 0) {
+        cur_log_points.append_fresh_row();
+        return;
+    }
+    const auto place = static_cast<std::size_t>(this_idx);
+    // What is no whole answer stays as it came, but is no value.
+    const std::string_view answer = answer_in(this_item_val);
+    cycle_values_[place] = parameter_value(screen_.toolies, answer.empty() ? "~" : answer);
+    these_samples[place][1] = cycle_values_[place].text;
+    cur_log_points.file(place, this_item_val, cycle_values_[place]);
+}
+
+void sampling_loop::end_by_timeout(const char* message) {
+    connected_2_KS_interface = false;
+    next_step_idx = 0;
+    screen_.leave_cur_op_gracefully("");
+    screen_.set_status_msg(message);
+}
+
+void sampling_loop::fail_with_alert(const std::string& message) {
+    screen_.KS_delegate.doors().message_boxes.show({message});
+    screen_.leave_cur_op_gracefully("");
+}
+
+// The first line of the reply without blanks, "~" for one that the adapter did not understand;
+// nothing when the run has ended.
+std::optional<std::string> sampling_loop::screened_reply() {
+    if (g_obd_msg_state == S_FAIL) {
+        end_by_timeout("Timed out .. Try again");
+        return std::nullopt;
+    }
+    if (p_obdTimeOutCnt < 1 && mac_toolies::clean_a_reply(odb_curReplyMsg).empty()) {
+        end_by_timeout("Timed out** .. Try again");
+        return std::nullopt;
+    }
+    std::string reply =
+        p_obdTimeOutCnt < 1 ? reply_to(requests_[cur_request_].pid, odb_curReplyMsg) : "~";
+    if (contains(reply, "UNABLE TO CONNECT")) {
+        fail_with_alert("Did not get a reply from Car port.  Check ignition key is at least in "
+                        "position 2(right before crank) and pairing/connections");
+        return std::nullopt;
+    }
+    if (contains(reply, "?")) {
+        if (g_retries > 0) {
+            g_retries = 0;
+            fail_with_alert("Did not understand cmd  ... Try again");
+            return std::nullopt;
+        }
+        ++g_retries;
+        reply = "~";
+    }
+    reply = whole_answer(reply);
+    reply.resize(std::min(reply.size(), LONGEST_SAMPLE));
+    return reply;
+}
+
+sampling_loop::order_of_answer sampling_loop::order_of(std::string_view reply) const {
+    const sample_request& before =
+        requests_[(cur_request_ == 0 ? requests_.size() : cur_request_) - 1];
+    if (!answers_another(reply, requests_[cur_request_].pid))
+        return order_of_answer::in_step;
+    return answers_another(reply, before.pid) ? order_of_answer::wrong
+                                              : order_of_answer::one_behind;
+}
+
+void sampling_loop::take_reply() {
+    const std::optional<std::string> screened = screened_reply();
+    if (!screened)
+        return;
+    ++requests_answered_;
+    const sample_request asked = requests_[cur_request_];
+    const order_of_answer order = order_of(*screened);
+    const bool out_of_step = order != order_of_answer::in_step;
+    // What answers another request is not filed under this one's name.
+    const std::string reply = run_->reply_to_file(asked, out_of_step ? "~" : *screened);
+    listener_.reply_came(*screened);
+    qCDebug(log_screens, "loggy:%s", reply.c_str());
+    if (g_cur_task == TASK_FUEL_ECONOMY)
+        output_MPG_item(cur_log_idx, reply);
+    else
+        file_sample(reply, cur_log_idx);
+
+    if (++cur_request_ < requests_.size()) {
+        ask_next(order);
+        return;
+    }
+    cur_request_ = 0;
+    cycle_filed_ = screen_.KS_delegate.doors().loop.now();
+    if (const auto computed = run_->cycle_answered()) {
+        cur_log_idx = computed->place;
+        output_MPG_item(computed->place, computed->reply);
+    }
+    ask_next(order); // before the disk and the listener take their time
+    complete_cycle();
+}
+
+void sampling_loop::file_sample(const std::string& reply, int index) {
+    add_item_to_log_vector(reply, index);
+    listener_.sample_filed(index, cycle_values_[static_cast<std::size_t>(index)].value);
+}
+
+// An item of the fuel run, asked for or computed.
+void sampling_loop::output_MPG_item(int index, const std::string& this_reply_cp) {
+    file_sample(this_reply_cp, index);
+}
+
+// An answer to another request than the last means that the adapter owes one: it is awaited and
+// dropped, or every answer from now on would be one behind.
+void sampling_loop::ask_next(order_of_answer order) {
+    if (order == order_of_answer::in_step) {
+        if (++answers_in_step_ >= ANSWERS_TO_TRUST_AGAIN)
+            waits_in_vain_ = 0;
+    } else {
+        answers_in_step_ = 0;
+        if (await_straggler(order))
+            return;
+    }
+    ask(requests_[cur_request_]);
+}
+
+// False for an adapter that has been waited for in vain before: it owes nothing, it answers wrong.
+bool sampling_loop::await_straggler(order_of_answer order) {
+    if (waits_in_vain_ >= (order == order_of_answer::one_behind ? MOST_WAITS_IN_VAIN : 1))
+        return false;
+    screen_.KS_delegate.replies().answer_is_missing();
+    screen_.when_adapter_is_free(waits_in_vain_ == 0 ? STRAGGLER_BOUND : LONG_STRAGGLER_BOUND,
+                                 [this](bool in_vain) {
+                                     waits_in_vain_ = in_vain ? waits_in_vain_ + 1 : 0;
+                                     ask(requests_[cur_request_]);
+                                 });
+    return true;
+}
+
+void sampling_loop::complete_cycle() {
+    add_item_to_log_vector("-X", -1);
+    ++cycles_;
+    listener_.cycle_filed(cur_log_points.rows() - 2);
+}

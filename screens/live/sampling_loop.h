@@ -1,0 +1,108 @@
+// The sampling loop: one request after the other, each as soon as the reply before it has been
+// handled. It screens and files the replies; whoever owns it is told. A request leaves before the
+// owner is told of a sample, so before anything is drawn or written. No widgets.
+#pragma once
+
+#include "live_runs.h"
+#include "obd_screen.h"
+#include "sample_rows.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class adapter_handshake;
+
+class sampling_listener {
+  public:
+    // The handshake begins: what was known of the car is void.
+    virtual void another_car() = 0;
+    // The first question told which parameters to show; they have no rows yet.
+    virtual void show_parameters(const std::vector<std::string>& pids) = 0;
+    // The car was asked, and names none of what the run is about.
+    virtual void nothing_to_sample() = 0;
+    // A run that only asks has its answers.
+    virtual void questions_answered() = 0;
+    // The first cycle begins, before its first request.
+    virtual void cycles_begin() = 0;
+    virtual void reply_came(const std::string& reply) = 0;
+    // The value is NaN for an unusable reply.
+    virtual void sample_filed(int index, double value) = 0;
+    // The cycle is row `row` of samples().
+    virtual void cycle_filed(std::size_t row) = 0;
+
+  protected:
+    ~sampling_listener() = default;
+};
+
+class sampling_loop {
+  public:
+    sampling_loop(obd_screen& screen, adapter_handshake& handshake, sampling_listener& listener);
+
+    // Empty samples of these parameters, two-digit hex text each.
+    void set_parameters(const std::vector<std::string>& pids);
+    // A run begins: its first step follows when the link is up.
+    void begin(std::unique_ptr<live_run> run);
+    void end();
+    bool running() const { return keep_logging; }
+
+    void work_out_log(int step);
+    void prep_and_send_cmd(std::string_view command, int this_time_out);
+    void add_item_to_log_vector(std::string_view this_item_val, int this_idx);
+    void output_MPG_item(int index, const std::string& this_reply_cp);
+
+    const std::vector<std::string>& pids() const { return _pid_logitems_list; }
+    // The last row is being filled.
+    sample_rows& samples() { return cur_log_points; }
+    const sample_set& latest() const { return these_samples; }
+    // Of the last complete row, in the order of pids().
+    const std::vector<translated>& cycle_values() const { return cycle_values_; }
+    // Of the run: what was answered since its first cycle began, and how long its complete cycles
+    // took.
+    std::uint64_t requests_answered() const { return requests_answered_; }
+    std::uint64_t cycles() const { return cycles_; }
+    run_loop::milliseconds length() const { return cycle_filed_ - first_request_; }
+
+  private:
+    void start_sampling();
+    void ask_supported_pids();
+    bool take_supported_pids(const std::string& reply);
+    void begin_cycle();
+    void first_question_answered();
+    std::optional<std::string> screened_reply();
+    void take_reply();
+    enum class order_of_answer { in_step, one_behind, wrong };
+    order_of_answer order_of(std::string_view reply) const;
+    void ask_next(order_of_answer order);
+    bool await_straggler(order_of_answer order);
+    void ask(const sample_request& request);
+    void file_sample(const std::string& reply, int index);
+    void complete_cycle();
+    void end_by_timeout(const char* message);
+    void fail_with_alert(const std::string& message);
+
+    obd_screen& screen_;
+    adapter_handshake& handshake_;
+    sampling_listener& listener_;
+    std::unique_ptr<live_run> run_;
+
+    bool keep_logging = false;
+    int cur_log_idx = 0; // place, in the list of parameters, of what is being asked for
+    std::vector<std::string> _pid_logitems_list;
+    std::optional<std::string> p_cur_avail_pids; // absent and empty differ
+    int p_obdTimeOutCnt = 0;
+    sample_set these_samples;
+    sample_rows cur_log_points;
+    std::vector<translated> cycle_values_;
+
+    std::vector<sample_request> requests_;
+    std::size_t cur_request_ = 0;
+    bool asks_first_question_ = false;
+    int waits_in_vain_ = 0;   // for an answer that the adapter still owed
+    int answers_in_step_ = 0; // since the last that was not
+    std::uint64_t requests_answered_ = 0, cycles_ = 0;
+    run_loop::milliseconds first_request_{0}, cycle_filed_{0};
+};

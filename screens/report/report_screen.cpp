@@ -15,11 +15,6 @@ constexpr run_loop::milliseconds LATE{1000}; // a reply may begin in time and ne
 
 } // namespace
 
-kept_report& last_report() {
-    static kept_report kept;
-    return kept;
-}
-
 report_screen::report_screen(Ks_lite_delegate& delegate)
     : obd_screen(delegate), handshake_(*this), reader_(delegate.doors().loop, *this) {
     view_ = std::make_unique<report_view>(delegate, toolies);
@@ -149,7 +144,7 @@ void report_screen::show_progress(topic about, std::size_t asked, std::size_t wa
 
 void report_screen::finish() {
     view_->show_running(false);
-    last_report() = {report_of(reader_.heard(), toolies), true, false};
+    last_report() = {report_of(reader_.heard(), toolies), KS_delegate.link_number(), false};
     has_report_ = true;
     end_task();
     view_->show_report();

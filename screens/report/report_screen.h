@@ -6,6 +6,7 @@
 #include "car_reader.h"
 #include "car_report.h"
 #include "codes_handshake.h"
+#include "kept_report.h"
 #include "obd_screen.h"
 
 #include <memory>
@@ -13,14 +14,6 @@
 #include <string>
 
 class report_view;
-
-// What was read or opened last, whatever screen shows: a change of screen loses nothing.
-struct kept_report {
-    std::optional<car_report> report;
-    bool read_now = false; // over the link that is open
-    bool saved = false;
-};
-kept_report& last_report();
 
 class report_screen final : public obd_screen, private adapter_door {
   public:

@@ -9,6 +9,7 @@
 #include "report_screen.h"
 #include "saved_report.h"
 #include "status_line.h"
+#include "user_defaults.h"
 
 #include <QCheckBox>
 #include <QClipboard>
@@ -57,6 +58,15 @@ report_view::report_view(Ks_lite_delegate& delegate, const mac_toolies& toolies)
         row->addWidget(one);
     row->addStretch(1);
     row->addWidget(hide_vin_);
+    auto* offer = new QCheckBox(ui_text(delegate, "ui_report_offer"), root_.get());
+    offer->setObjectName(QStringLiteral("offerReport"));
+    offer->setToolTip(ui_text(delegate, "ui_report_offer_hint"));
+    offer->setChecked(!delegate.doors().defaults.boolean(NO_OFFER_KEY));
+    QObject::connect(offer, &QCheckBox::toggled, root_.get(), [this](bool on) {
+        delegate_.doors().defaults.set_boolean(NO_OFFER_KEY, !on);
+        delegate_.doors().defaults.synchronize();
+    });
+    row->addWidget(offer);
     bones.content->addLayout(row);
 
     sheet_ = new QTextBrowser(root_.get());
@@ -185,7 +195,7 @@ void report_view::open() {
     car_report opened;
     if (!read_report(ui_text(delegate_, "ui_report_open_title").toStdString(), opened))
         return;
-    last_report() = {std::move(opened), false, true};
+    last_report() = {std::move(opened), std::nullopt, true};
     show_report();
 }
 

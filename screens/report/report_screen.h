@@ -21,8 +21,6 @@ class report_screen final : public obd_screen, private adapter_door {
     ~report_screen() override;
 
     QWidget* view() override;
-    void work_current_task() override;
-    void handleOBDRcvdMsg(const std::string& text) override;
     void leave_cur_op_gracefully(const std::string& message) override;
     void link_lost() override;
     void save_before_leaving() override;
@@ -32,6 +30,11 @@ class report_screen final : public obd_screen, private adapter_door {
     // Of the last press: nothing while it runs, and when the adapter could not be brought up.
     const car_report* report() const;
     bool reading() const { return reader_.running(); }
+
+  protected:
+    void work_task(int task, int step) override;
+    adapter_handshake* handshake() override { return &handshake_; }
+    bool takes_time_out(const std::string& text) override;
 
   private:
     void ask(const std::string& command, run_loop::milliseconds bound, answered told) override;

@@ -13,7 +13,8 @@ namespace {
 
 using milliseconds = run_loop::milliseconds;
 
-constexpr char HEADERS_ON[] = "ATH1";
+constexpr char HEADERS_ON[] = "ATH1", WAIT_LONG[] = "ATAT0", WAIT_AS_LEARNT[] = "ATAT1",
+               FIRST_CONTACT[] = "0100";
 constexpr milliseconds ONE_TRY{8000};
 constexpr milliseconds BEFORE_THE_NEXT_TRY{1000}; // of a unit that is busy or not done yet
 constexpr int MOST_SILENT = 3;
@@ -50,7 +51,7 @@ void car_reader::start(conversation heard) {
     began_ = loop_.now();
     door_.ask(HEADERS_ON, ONE_TRY, [this](const std::optional<std::string>& reply) {
         if (reply)
-            next();
+            wait_long(true, [this] { next(); });
         else
             finish(reading_end::adapter_silent);
     });
@@ -96,10 +97,29 @@ void car_reader::take(std::optional<std::string> reply) {
         take_words(*reply);
     else
         take_data(*reply);
+    if (!patient_ && somebody_missed()) {
+        wait_long(true, [this] { ask(); });
+        return;
+    }
     if (worth_repeating())
         return repeat();
+    const bool all_met = asked_->request == FIRST_CONTACT;
     finish_piece();
-    next();
+    if (all_met)
+        wait_long(false, [this] { next(); });
+    else
+        next();
+}
+
+// However long every answer has taken so far, or no longer than that. A unit slower than the others
+// is cut off then.
+void car_reader::wait_long(bool patient, std::function<void()> go_on) {
+    patient_ = true; // until the adapter has heard otherwise
+    door_.ask(patient ? WAIT_LONG : WAIT_AS_LEARNT, ONE_TRY,
+              [this, patient, go_on = std::move(go_on)](const std::optional<std::string>& reply) {
+                  patient_ = patient || !reply;
+                  go_on();
+              });
 }
 
 void car_reader::take_words(const std::string& reply) {
@@ -151,6 +171,17 @@ void car_reader::keep(const unit_reply& told, std::vector<unit_reply>& in) {
 void car_reader::keep_unread(unread_kind kind, std::string_view text) {
     if (piece_.unread.size() < MOST_ANSWERS)
         piece_.unread.push_back({kind, readable(text)});
+}
+
+// Of what every unit should have answered.
+bool car_reader::somebody_missed() const {
+    constexpr std::string_view FOR_ALL[] = {"0101", "03", "07", "0A", "020200", "0900"};
+    if (!piece_.answered() || std::ranges::find(FOR_ALL, piece_.request) == std::end(FOR_ALL))
+        return false;
+    return std::ranges::any_of(heard_.units(), [this](const std::string& unit) {
+        return std::ranges::find(piece_.answers, unit, &unit_reply::unit) == piece_.answers.end() &&
+               std::ranges::find(piece_.refusals, unit, &unit_reply::unit) == piece_.refusals.end();
+    });
 }
 
 // A unit that put its answer off is asked until the bound; damage, and a unit that is silent about

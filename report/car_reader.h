@@ -44,17 +44,21 @@ class car_reader {
     void cancel() { stop(reading_end::cancelled); }
     void link_lost() { stop(reading_end::link_lost); }
     bool running() const { return running_; }
+    // The adapter was told to wait longer for answers, which only a reset undoes.
+    bool made_adapter_patient() const { return patient_; }
     const conversation& heard() const { return heard_; }
 
   private:
     void next();
     void ask();
+    void wait_long(bool patient, std::function<void()> go_on);
     void take(std::optional<std::string> reply);
     void take_words(const std::string& reply);
     void take_data(const std::string& reply);
     void keep(const unit_reply& told, std::vector<unit_reply>& in);
     void keep_unread(unread_kind kind, std::string_view text);
     bool worth_repeating() const;
+    bool somebody_missed() const;
     void repeat();
     void finish_piece();
     void stop(reading_end how);
@@ -64,6 +68,7 @@ class car_reader {
     adapter_door& door_;
     conversation heard_;
     bool running_ = false;
+    bool patient_ = false;
     milliseconds began_{0}, piece_began_{0};
     std::optional<question> asked_;
     asked_piece piece_;

@@ -145,6 +145,8 @@ void report_screen::show_progress(topic about, std::size_t asked, std::size_t wa
 // An earlier report stays when nothing was told.
 void report_screen::finish() {
     view_->show_running(false);
+    if (reader_.made_adapter_patient())
+        KS_did_connect_2_car = false; // so that the next handshake resets it
     end_task();
     if (!reader_.heard().anything_told()) {
         set_status_msg(localized("report_nothing_told"));

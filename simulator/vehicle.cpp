@@ -225,6 +225,7 @@ vehicle::messages vehicle::clear(control_unit& unit, const byte_string& request)
         return {};
     if (unit.clears_with_engine_off_only && moment_.engine.rpm > 0)
         return {{0x7F, 0x04, CONDITIONS_NOT_CORRECT}};
+    unit.answers.erase("0101"); // its status is counted anew
     unit.stored.clear();
     unit.pending.clear();
     unit.frozen.reset();

@@ -18,7 +18,6 @@
 #include "mac_toolies.h"
 #include "main_window.h"
 #include "message_box_alerts.h"
-#include "network.h"
 #include "progress_line.h"
 #include "qt_run_loop.h"
 #include "quick_style.h"
@@ -29,6 +28,8 @@
 #include "serial_port_profile.h"
 #include "supported_scan.h"
 #include "system_log.h"
+#include "tcp_adapter_server.h"
+#include "tcp_stream_pair.h"
 #include "user_defaults.h"
 
 #include <QApplication>
@@ -45,6 +46,7 @@
 #include <memory>
 #include <optional>
 #include <poll.h>
+#include <stdexcept>
 #include <string>
 #include <unistd.h>
 #include <vector>
@@ -63,8 +65,18 @@ bool display_there() {
 }
 
 // The built-in virtual car, listening on loopback.
-std::unique_ptr<network::served_car> start_demo_car(const std::string& name) {
-    return load_network().serve(load_car(name.empty() ? DEFAULT_DEMO_CAR : name));
+std::unique_ptr<tcp_adapter_server> start_demo_car(const std::string& name) {
+    auto server =
+        std::make_unique<tcp_adapter_server>(load_car(name.empty() ? DEFAULT_DEMO_CAR : name));
+    if (!server->listen("127.0.0.1", 0))
+        throw std::runtime_error("the virtual car cannot listen on 127.0.0.1: " + server->error());
+    return server;
+}
+
+stream_pair_factory tcp_streams(run_loop& loop) {
+    return [&loop](const std::string& host, long port) {
+        return std::make_unique<tcp_stream_pair>(loop, host, port);
+    };
 }
 
 // The settings as they are kept, for what only reads them.
@@ -213,9 +225,9 @@ bool start_recording(conversation_recorder& recorder, const cli_request& asked, 
 }
 
 // Puts the command line's choices into the store; answers the demo's car.
-std::unique_ptr<network::served_car> use_what_is_asked(user_defaults& defaults,
+std::unique_ptr<tcp_adapter_server> use_what_is_asked(user_defaults& defaults,
                                                        const cli_request& asked) {
-    std::unique_ptr<network::served_car> car;
+    std::unique_ptr<tcp_adapter_server> car;
     if (asked.demo) {
         car = start_demo_car(asked.demo_car);
         use_adapter(defaults, "127.0.0.1", std::to_string(car->port()));
@@ -230,7 +242,7 @@ std::unique_ptr<network::served_car> use_what_is_asked(user_defaults& defaults,
 }
 
 // Until the preferences choose an adapter; nothing of the user's changes.
-std::unique_ptr<network::served_car> connect_to_virtual_car(Ks_lite_delegate& delegate) {
+std::unique_ptr<tcp_adapter_server> connect_to_virtual_car(Ks_lite_delegate& delegate) {
     auto car = start_demo_car({});
     g_connect_with = KS_USE_WIFI;
     g_cur_wifi_IP = "127.0.0.1";

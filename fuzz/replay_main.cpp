@@ -1,26 +1,23 @@
-// Runs a target on files, without the fuzzing engine. Usage: TARGET FILE-OR-FOLDER...
+// Runs a target on its corpus, without the fuzzing engine. Usage: TARGET CORPUS...
+#include "corpus_lines.h"
 #include "fuzz_one.h"
 
 #include <QtGlobal>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <vector>
+#include <exception>
 
 namespace {
 
-namespace fs = std::filesystem;
-
-int replayed = 0;
-
-void replay(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    const std::vector<char> bytes{std::istreambuf_iterator<char>(file), {}};
-    std::printf("%s\n", path.c_str()); // the last one printed is the one that failed
-    std::fflush(stdout);
-    fuzz_one({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()});
-    ++replayed;
+void replay(const std::string& corpus) {
+    int line = 0;
+    for (const std::string& input : inputs_of(corpus)) {
+        std::printf("%s:%d\n", corpus.c_str(),
+                    ++line); // the last one printed is the one that failed
+        std::fflush(stdout);
+        const std::vector<std::uint8_t> bytes(input.begin(),
+                                              input.end()); // ends where the input does
+        fuzz_one(bytes);
+    }
 }
 
 } // namespace
@@ -28,13 +25,12 @@ void replay(const fs::path& path) {
 int main(int argc, char** argv) {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     fuzz_one({});
-    for (int i = 1; i < argc; ++i) {
-        if (!fs::is_directory(argv[i]))
+    try {
+        for (int i = 1; i < argc; ++i)
             replay(argv[i]);
-        else
-            for (const fs::directory_entry& entry : fs::directory_iterator(argv[i]))
-                replay(entry.path());
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+        return 1;
     }
-    std::printf("%d inputs\n", replayed);
-    return replayed > 0 ? 0 : 1;
+    return argc > 1 ? 0 : 1;
 }

@@ -9,7 +9,6 @@
 #include <QPainter>
 #include <QScreen>
 #include <QThread>
-#include <QThreadPool>
 #include <QTimer>
 
 namespace {
@@ -69,9 +68,8 @@ void stage::pass(double seconds) {
 void stage::settle() {
     for (int round = 0; round < 3; ++round) {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QThread::msleep(round ? 20 : 0); // the background picture is begun a frame later
+        QThread::msleep(round ? 20 : 0); // the background picture comes a frame later
         QApplication::processEvents();
-        QThreadPool::globalInstance()->waitForDone();
         if (!frozen_)
             app.loop.advance(std::chrono::milliseconds(60)); // a frame of the charts
         QApplication::processEvents();

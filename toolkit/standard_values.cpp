@@ -25,8 +25,8 @@ const parameter_row* row_of(unsigned pid) {
 
 template <class row>
 std::span<const row> rows_of(std::span<const row> all, unsigned pid) {
-    const auto found = std::ranges::equal_range(all, pid, {}, &row::pid);
-    return {found.begin(), found.end()};
+    const auto first = std::ranges::lower_bound(all, pid, {}, &row::pid);
+    return {first, std::ranges::upper_bound(first, all.end(), pid, {}, &row::pid)};
 }
 
 double shown(double metric_value, const quantity& unit, bool metric) {

@@ -17,7 +17,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
-#include <QResource>
 #include <QStyle>
 #include <QStyledItemDelegate>
 #include <QSvgRenderer>
@@ -32,8 +31,7 @@ namespace {
 constexpr int TITLE_ROW_HEIGHT = 6 * GRID; // the highest control of any screen
 
 // Renders the drawing at whatever size is asked for, in its own colours or in the desktop's text
-// colour. It reads the drawing when it is first shown, and needs no plugin for that. At the sizes
-// of the rail a one-coloured drawing is taken as it was drawn when the program was built.
+// colour. It reads the drawing when it is first shown, and needs no plugin for that.
 class drawn_icon_engine final : public QIconEngine {
   public:
     drawn_icon_engine(QString path, bool tinted) : path_(std::move(path)), tinted_(tinted) {}
@@ -49,36 +47,26 @@ class drawn_icon_engine final : public QIconEngine {
 
   private:
     QPixmap drawn(const QSize& size, QIcon::Mode mode) {
-        QImage image = tinted_ ? drawn_before(size) : QImage();
-        if (image.isNull()) {
-            if (!drawing_)
-                drawing_ = std::make_unique<QSvgRenderer>(path_);
-            image = QImage(size, QImage::Format_ARGB32_Premultiplied);
-            image.fill(Qt::transparent);
-            QPainter painter(&image);
-            drawing_->render(&painter);
-        }
-        if (!tinted_)
-            return QPixmap::fromImage(image);
+        if (!drawing_)
+            drawing_ = std::make_unique<QSvgRenderer>(path_);
+        QImage image(size, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
         QPainter painter(&image);
-        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        const QPalette palette = QGuiApplication::palette();
-        const auto role =
-            mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
-        painter.fillRect(image.rect(), mode == QIcon::Disabled
-                                           ? unavailable_text(palette)
-                                           : palette.color(QPalette::Active, role));
+        drawing_->render(&painter);
+        if (tinted_) {
+            painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+            painter.fillRect(image.rect(), tint(mode));
+        }
         painter.end();
         return QPixmap::fromImage(image);
     }
 
-    QImage drawn_before(const QSize& size) const {
-        const QResource mask(QString(path_).replace(QLatin1String(".svg"),
-                                                    QStringLiteral("-%1.mask").arg(size.width())));
-        if (mask.size() != qint64{size.width()} * size.height())
-            return {};
-        return QImage(mask.data(), size.width(), size.height(), size.width(), QImage::Format_Alpha8)
-            .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    static QColor tint(QIcon::Mode mode) {
+        const QPalette palette = QGuiApplication::palette();
+        if (mode == QIcon::Disabled)
+            return unavailable_text(palette);
+        return palette.color(QPalette::Active, mode == QIcon::Selected ? QPalette::HighlightedText
+                                                                       : QPalette::WindowText);
     }
 
     QString path_;

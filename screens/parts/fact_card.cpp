@@ -70,7 +70,7 @@ fact_card::fact_card(const QString& value_name, const QString& caption, QWidget*
     column->addStretch(1);
     lamp_->hide();
     // Whatever an adapter says of itself, the cards keep their size.
-    setFixedHeight(2 * GRID + 3 * fontMetrics().lineSpacing());
+    setFixedHeight(2 * (GRID + frameWidth()) + 3 * fontMetrics().lineSpacing());
     value_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 

@@ -1,12 +1,8 @@
 #include "background_picture.h"
 
-#include <QApplication>
 #include <QPainter>
-#include <QPointer>
 #include <QPushButton>
 #include <QSvgRenderer>
-#include <QThreadPool>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <chrono>
@@ -15,7 +11,7 @@ namespace {
 
 constexpr double OPACITY = 0.92;
 const QColor GROUND(31, 36, 44);
-// The window comes first, then its picture.
+// The window comes first, then its picture: a quarter of the start, 8 ms.
 constexpr std::chrono::milliseconds ONE_FRAME{16};
 
 // The drawing on its ground. It covers the whole picture; what does not fit is cut evenly.
@@ -38,6 +34,9 @@ QImage painted_scene(QSize pixels) {
 background_picture::background_picture(const QString& hint, QWidget* parent)
     : QWidget(parent), hint_(new QLabel(hint, this)) {
     setAttribute(Qt::WA_OpaquePaintEvent); // nothing beneath shines through
+    later_.setSingleShot(true);
+    later_.setInterval(ONE_FRAME);
+    later_.callOnTimeout(this, &background_picture::paint_scene);
     hint_->setAlignment(Qt::AlignCenter);
     hint_->setWordWrap(true);
     QPalette light = hint_->palette();
@@ -60,29 +59,9 @@ void background_picture::offer(const std::vector<QPushButton*>& buttons) {
     static_cast<QVBoxLayout*>(layout())->insertLayout(1, row);
 }
 
-// In a thread of the pool: the window waits for no picture, and painting so large an area from
-// outside Qt would hand every stroke to the pool in pieces and wait for them.
-void background_picture::begin_scene() {
-    const QSize pixels = size() * devicePixelRatioF();
-    if (being_painted_ || scene_.size() == pixels || pixels.isEmpty())
-        return;
-    being_painted_ = true;
-    QThreadPool::globalInstance()->start([pixels, view = QPointer(this)] {
-        QImage scene = painted_scene(pixels);
-        QMetaObject::invokeMethod(
-            qApp,
-            [view, scene] {
-                if (view)
-                    view->show_scene(scene);
-            },
-            Qt::QueuedConnection);
-    });
-}
-
-void background_picture::show_scene(const QImage& scene) {
-    being_painted_ = false;
-    scene_ = scene;
-    update(); // begins another one if the size has changed meanwhile
+void background_picture::paint_scene() {
+    scene_ = painted_scene(size() * devicePixelRatioF());
+    update();
 }
 
 void background_picture::paintEvent(QPaintEvent*) {
@@ -91,5 +70,6 @@ void background_picture::paintEvent(QPaintEvent*) {
         painter.fillRect(rect(), GROUND);
     else
         painter.drawImage(rect(), scene_); // one of another size is stretched till the next comes
-    QTimer::singleShot(ONE_FRAME, this, &background_picture::begin_scene);
+    if (scene_.size() != size() * devicePixelRatioF())
+        later_.start();
 }

@@ -1,9 +1,10 @@
 // What the main view shows until a screen is chosen: the picture, and one line that says where to
-// begin. The picture is painted beside the window's own work and appears a moment after it.
+// begin. The picture is painted when the window is there.
 #pragma once
 
 #include <QImage>
 #include <QLabel>
+#include <QTimer>
 #include <QWidget>
 
 #include <vector>
@@ -21,10 +22,9 @@ class background_picture final : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    void begin_scene();
-    void show_scene(const QImage& scene);
+    void paint_scene();
 
     QLabel* hint_;
     QImage scene_; // the drawing as last painted, for one size
-    bool being_painted_ = false;
+    QTimer later_;
 };

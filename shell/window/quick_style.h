@@ -1,16 +1,12 @@
 // The desktop's style with this program's few rules: headings of tables begin where the cells'
 // texts do, buttons have air around their words, titles of groups are heavier than what they group,
 // message boxes have the program's drawings. Where there is no desktop's style its place is taken
-// by Qt's own with flat parts (flat_parts). And without reading icons that nothing shows yet: every
-// menu bar asks for the arrow of its overflow when it is made, and for the first picture read Qt
-// loads all its picture plugins. Owned by the application.
+// by Qt's own with flat parts (flat_parts). Owned by the application.
 #pragma once
 
 #include "chrome.h"
 #include "flat_parts.h"
 
-#include <QCommonStyle>
-#include <QIconEngine>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QStyleOption>
@@ -19,8 +15,10 @@ class quick_style final : public QProxyStyle {
   public:
     QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
                        const QWidget* widget) const override {
+        // Every menu bar asks for the arrow of its overflow when it is made, and for the first
+        // picture read Qt loads all its plugins for pictures, 2 ms. Ours has one menu.
         if (which == SP_ToolBarHorizontalExtensionButton)
-            return QIcon(new late_icon(which));
+            return {};
         // Message boxes: the program's own drawings, sharp at every scale.
         if (which == SP_MessageBoxWarning)
             return picture_icon(QStringLiteral(":/kestrom/icons/warn.svg"));
@@ -97,21 +95,4 @@ class quick_style final : public QProxyStyle {
         font.setWeight(QFont::DemiBold);
         return font;
     }
-
-    // Read when it is painted.
-    class late_icon final : public QIconEngine {
-      public:
-        explicit late_icon(StandardPixmap which) : which_(which) {}
-        void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
-                   QIcon::State state) override {
-            QCommonStyle().standardIcon(which_).paint(painter, rect, Qt::AlignCenter, mode, state);
-        }
-        QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-            return QCommonStyle().standardIcon(which_).pixmap(size, mode, state);
-        }
-        QIconEngine* clone() const override { return new late_icon(which_); }
-
-      private:
-        StandardPixmap which_;
-    };
 };

@@ -85,8 +85,11 @@ class reply_reader {
     std::string answer_;
     bus_evidence known_;
     std::vector<found_message> messages_;
-    std::map<std::string, frame_gatherer, std::less<>> frames_; // by header
-    std::map<std::string, header_form, std::less<>> forms_;
+    struct sender {
+        header_form form = header_form::none;
+        frame_gatherer frames;
+    };
+    std::map<std::string, sender, std::less<>> senders_; // of frames, by header
     struct put_off {
         std::size_t line;
         std::string header, text;
@@ -107,12 +110,12 @@ void reply_reader::take(std::size_t number, std::string_view line) {
     } else if (contains(line, "<")) {
         unread(unread_kind::damaged_line, line);
     } else if (is_numbered_frame(line)) {
-        frames_[""].take_frame(line);
+        senders_[""].frames.take_frame(line);
     } else if (line != request_) { // no echo
         if (line.starts_with(request_) && line.size() > request_.size() + 1)
             line.remove_prefix(request_.size()); // an echo that lost its line end
         if (is_length_line(line, answer_))
-            frames_[""].take_length(number, line);
+            senders_[""].frames.take_length(number, line);
         else
             take_data(number, line);
     }
@@ -144,29 +147,32 @@ void reply_reader::take_can(std::size_t number, const headed_line& line, std::st
         break;
     }
     case '1':
-        forms_[header] = line.form;
-        frames_[header].take_length(number, slice(data, 1, 3));
-        frames_[header].take_frame("0:" + std::string(slice(data, 4)));
-        break;
-    case '2':
-        forms_[header] = line.form;
-        frames_[header].take_frame(std::string(data.substr(1, 1)) + ":" +
+    case '2': {
+        sender& from = senders_[header];
+        from.form = line.form;
+        if (data.front() == '1') {
+            from.frames.take_length(number, slice(data, 1, 3));
+            from.frames.take_frame("0:" + std::string(slice(data, 4)));
+        } else {
+            from.frames.take_frame(std::string(data.substr(1, 1)) + ":" +
                                    std::string(slice(data, 2)));
+        }
         break;
+    }
     default:
         unread(unread_kind::not_understood, whole);
     }
 }
 
 void reply_reader::gather() {
-    for (auto& [header, frames] : frames_) {
+    for (auto& [header, from] : senders_) {
         std::vector<gathered_message> gathered;
-        frames.finish(gathered, result_.unread);
+        from.frames.finish(gathered, result_.unread);
         for (gathered_message& one : gathered) {
             if (one.data.empty())
                 continue; // has been told of
             headed_line at;
-            at.form = forms_[header];
+            at.form = from.form;
             messages_.push_back({one.line, at, header, std::move(one.data), 0, {}, true});
         }
     }
@@ -191,7 +197,9 @@ void reply_reader::settle_bus() {
 }
 
 bus_form reply_reader::bus_of_message(const found_message& one) const {
-    return one.of_frames ? bus_form::can : result_.bus.form;
+    return one.of_frames                      ? bus_form::can
+           : one.at.form != header_form::none ? bus_of(one.at.form)
+                                              : result_.bus.form;
 }
 
 // That it has to have, by its service and by its frame.
@@ -261,9 +269,7 @@ bool reply_reader::answers_somebody_else(const found_message& one) const {
         return data.size() >= NEGATIVE_DIGITS;
     if (std::ranges::find(CODE_SERVICES, data.substr(0, 2)) != std::end(CODE_SERVICES))
         return false;
-    const bus_form bus = one.of_frames                      ? bus_form::can
-                         : one.at.form != header_form::none ? bus_of(one.at.form)
-                                                            : result_.bus.form;
+    const bus_form bus = bus_of_message(one);
     const auto whole = answer_digits(data, bus);
     return whole && data.size() >= std::max(*whole, one.announced) && belongs(one, *whole, bus);
 }

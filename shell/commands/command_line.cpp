@@ -83,6 +83,8 @@ class argument_reader {
             asked.run = value(name);
         } else if (name == "--log") {
             asked.log = true;
+        } else if (name == "--fast") {
+            asked.fast = true;
         } else if (name == "--json") {
             asked.json = true;
         } else if (name == "--yes") {
@@ -211,9 +213,9 @@ class argument_reader {
         if (asked.record && command->far_end != talks_to::car)
             fail("command " + asked.command + " talks to no adapter: there is nothing to record");
         if (asked.command != "live" &&
-            (!asked.pids.empty() || asked.all_pids || asked.log || asked.run != "log" ||
+            (!asked.pids.empty() || asked.all_pids || asked.log || asked.fast || asked.run != "log" ||
              asked.seconds > 0 || asked.cycles > 0))
-            fail("--pids, --run, --seconds, --cycles and --log belong to the command live");
+            fail("--pids, --run, --seconds, --cycles, --log and --fast belong to the command live");
         if (asked.yes && asked.command != "clear")
             fail("--yes belongs to the command clear");
         if (asked.seconds > 0 && asked.cycles > 0)

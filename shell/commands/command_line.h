@@ -30,6 +30,7 @@ struct cli_request {
     double seconds = 0;                    // of a live run; 0: no end
     unsigned long long cycles = 0;         // likewise
     bool log = false;
+    bool fast = false;
     bool quit_when_shown = false;
     bool help = false;
     bool version = false;

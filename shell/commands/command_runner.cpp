@@ -18,6 +18,7 @@
 
 namespace {
 constexpr int LOOK_EVERY_MS = 5;
+constexpr int MOST_LOOKS_AT_LEAVING = 200; // a second
 constexpr double DEFAULT_BOUND_SECONDS = 60;
 } // namespace
 
@@ -222,7 +223,7 @@ void command_runner::end(bool succeeded, const std::string& why) {
         std::printf("%s\n", codes_->status().c_str());
     }
     if (output_lost()) {
-        done_(1);
+        leave_when_adapter_is_back(1);
         return;
     }
     if (!succeeded && !why.empty() && why == messages_.last_printed()) // it has just been read
@@ -230,5 +231,20 @@ void command_runner::end(bool succeeded, const std::string& why) {
     else if (!succeeded)
         std::fprintf(stderr, "kestrom: %s failed: %s\n", asked_.command.c_str(),
                      printable(why).c_str());
-    done_(succeeded ? 0 : 1);
+    leave_when_adapter_is_back(succeeded ? 0 : 1);
+}
+
+// After a fast run the adapter is put back first, when it does as it is told within a second.
+void command_runner::leave_when_adapter_is_back(int exit_status) {
+    if (!live_ || !live_->puts_adapter_back()) {
+        done_(exit_status);
+        return;
+    }
+    connect(&leave_timer_, &QTimer::timeout, this, [this, exit_status, looks = 0]() mutable {
+        if (live_->puts_adapter_back() && ++looks < MOST_LOOKS_AT_LEAVING)
+            return;
+        leave_timer_.stop();
+        done_(exit_status);
+    });
+    leave_timer_.start(LOOK_EVERY_MS);
 }

@@ -43,12 +43,13 @@ class command_runner final : public QObject {
     void next_send();
     void take_reply(const std::string& chunk);
     void end(bool succeeded, const std::string& why);
+    void leave_when_adapter_is_back(int exit_status);
 
     const cli_request& asked_;
     Ks_lite_delegate& delegate_;
     console_alerts& messages_;
     std::function<void(int)> done_;
-    QTimer look_timer_;
+    QTimer look_timer_, leave_timer_;
     QTimer bound_;
     std::vector<std::string> statuses_;
 

@@ -51,7 +51,7 @@ Examples
   kestrom --adapter 192.168.0.10:35000 pids --json
 )"},
     {"live", 0, 0, talks_to::car,
-     "live [--pids 0D,0C|all] [--run log|fuel|o2|boost] [--seconds N | --cycles N] [--log] "
+     "live [--pids 0D,0C|all] [--run log|fuel|o2|boost] [--seconds N | --cycles N] [--log] [--fast] "
      "[--json]",
      "sample without pause and print the values of each cycle",
      R"(  --pids PID,...     parameters of service 01, two hex digits each, or all that the car
@@ -60,6 +60,8 @@ Examples
   --seconds N        end so many seconds after the first request of the run
   --cycles N         end after so many cycles; without either Ctrl+C ends it
   --log              write a run log, as the window does
+  --fast             ask for several values at once and wait no longer than needed, as far as adapter
+                     and car prove that they can; some cars do not like it
 
 Prints CSV with a header, a line for each cycle as it completes; a summary follows on standard error;
 its seconds, and those of --seconds, do not count the way to the car.

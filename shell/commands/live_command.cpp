@@ -155,6 +155,10 @@ bool live_command::over() const {
     return begin_ == 0 && !screen_->awaits_adapter();
 }
 
+bool live_command::puts_adapter_back() const {
+    return screen_->puts_adapter_back();
+}
+
 bool live_command::sampled() const {
     return screen_->cycles() > 0;
 }
@@ -250,20 +254,29 @@ void live_command::print_summary() const {
         elapsed > 0 ? static_cast<double>(screen_->requests_answered()) / elapsed : 0;
     const std::string& log = screen_->log_path();
     if (asked_.json) {
+        const std::string level =
+            asked_.fast ? ",\"fast_level\":" + std::to_string(screen_->fast_level().value_or(0)) : "";
         std::printf("{\"cycles\":%llu,\"requests\":%llu,\"seconds\":%s,\"requests_per_second\":%s,"
-                    "\"log\":%s}\n",
+                    "\"log\":%s%s}\n",
                     static_cast<unsigned long long>(screen_->cycles()),
                     static_cast<unsigned long long>(screen_->requests_answered()),
                     fixed_decimals(elapsed, TIME_DECIMALS).c_str(), fixed_decimals(rate, 1).c_str(),
-                    json_string(log).c_str());
+                    json_string(log).c_str(), level.c_str());
         return;
     }
     if (output_lost())
         return;
-    std::fprintf(stderr, "%llu cycles, %llu requests in %s s: %s requests per second\n",
+    const char* const what = asked_.fast ? "values" : "requests";
+    std::fprintf(stderr, "%llu cycles, %llu %s in %s s: %s %s per second",
                  static_cast<unsigned long long>(screen_->cycles()),
-                 static_cast<unsigned long long>(screen_->requests_answered()),
-                 fixed_decimals(elapsed, TIME_DECIMALS).c_str(), fixed_decimals(rate, 1).c_str());
+                 static_cast<unsigned long long>(screen_->requests_answered()), what,
+                 fixed_decimals(elapsed, TIME_DECIMALS).c_str(), fixed_decimals(rate, 1).c_str(), what);
+    if (asked_.fast)
+        std::fprintf(stderr, ", %s",
+                     screen_->localized("ui_fast_level_" +
+                                        std::to_string(screen_->fast_level().value_or(0)))
+                         .c_str());
+    std::fputc('\n', stderr);
     if (!log.empty())
         std::fprintf(stderr, "Log: %s\n", printable(log).c_str());
 }

@@ -23,6 +23,8 @@ class live_command {
     void start();
     // The run has ended, by itself or by what was asked.
     bool over() const;
+    // The run is over, and the adapter is not yet as it was.
+    bool puts_adapter_back() const;
     // At least one cycle was completed, and the run ended as asked.
     bool succeeded() const;
     // Neither a number of cycles nor a time was asked for.

@@ -26,6 +26,9 @@ class sampled_car {
         : the_car_(load_car(what.car)), adapter_(the_car_, options(what)),
           truth_(the_car_, options(what).seed, SPEED),
           sampler_(what.pids, the_car_.protocol >= 6, what.cap) {
+        // Another unit's value is no answer for the first one's.
+        for (std::size_t unit = 1; unit < the_car_.units.size(); ++unit)
+            the_car_.units[unit].fixed = {{0x05, {0xEE}}, {0x0C, {0xEE, 0xEE}}, {0x0D, {0xEE}}};
         adapter_.connection_opened(now_);
         truth_.seconds(now_);
         for (const char* command : {"ATE0\r", "0100\r"}) { // a search takes its time
@@ -114,7 +117,7 @@ class sampled_car {
         came_.erase(0, size);
         return reply;
     }
-    // What the car had to say between question and reply, its units alike.
+    // What the car had to say between question and reply, of its first unit.
     void judge(const fast_sampler::sample& one, milliseconds sent) {
         const auto pid = std::uint8_t(std::stoul(one.pid, nullptr, 16));
         if (one.reply == "~" || one.reply == "NODATA") {
@@ -122,11 +125,11 @@ class sampled_car {
             return;
         }
         for (milliseconds at = sent; at <= now_; ++at)
-            for (const unit_answer& told : truth_.answer({0x01, pid}, at))
-                if (hex_text(told.messages.front(), false) == one.reply) {
-                    ++true_;
-                    return;
-                }
+            if (const auto told = truth_.answer({0x01, pid}, at);
+                !told.empty() && hex_text(told.front().messages.front(), false) == one.reply) {
+                ++true_;
+                return;
+            }
         if (++false_ == 1)
             first_false_ = one.pid + ": " + one.reply;
     }

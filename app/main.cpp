@@ -345,7 +345,7 @@ int start(int argc, char** argv) {
     if (asked.without_display())
         qputenv("QT_QPA_PLATFORM", "offscreen");
     log_to_system(asked.command.empty());
-    if (command && command->run)
+    if (command && !talks_to_car(asked))
         return run_at_desk(argc, argv, asked);
     if (!display_there()) {
         std::fputs("kestrom: there is no display; give a command, such as 'kestrom --demo codes'\n",

@@ -116,7 +116,7 @@ std::vector<bus_frame> frames_on_bus(const std::vector<unit_answer>& answers,
     std::vector<bus_frame> frames;
     milliseconds next_unit = bus.first_byte;
     for (const unit_answer& answer : answers) {
-        milliseconds at = next_unit;
+        milliseconds at = next_unit + answer.delay;
         for (const byte_string& message : answer.messages) {
             if (bus.is_can())
                 add_can_message(frames, answer, message, at, bus.per_frame, flow_control);
@@ -124,8 +124,9 @@ std::vector<bus_frame> frames_on_bus(const std::vector<unit_answer>& answers,
                 frames.push_back({at, answer.address, message});
             at += puts_off(message) ? PUT_OFF : bus.per_frame;
         }
-        // One wire: a unit of an older bus waits for the one before.
-        next_unit = bus.is_can() ? next_unit + unit_gap : at - bus.per_frame + unit_gap;
+        // One wire: a unit of an older bus waits for the one before, but not for one that is late.
+        next_unit = bus.is_can() || answer.delay.count() > 0 ? next_unit + unit_gap
+                                                             : at - bus.per_frame + unit_gap;
     }
     for (bus_frame& frame : frames)
         frame.fill = fill;

@@ -50,6 +50,7 @@ inline constexpr char READ_CODES_VIEW[] = "read_codes_view";
 inline constexpr char ACTIONS_VIEW[] = "actions_view";
 inline constexpr char PREFS_VIEW[] = "prefs";
 inline constexpr char EXPERT_VIEW[] = "expertView";
+inline constexpr char REPORT_VIEW[] = "report_view";
 
 class Ks_lite_delegate {
   public:
@@ -67,6 +68,7 @@ class Ks_lite_delegate {
     // Choosing the preferences again while they show discards their unsaved edits.
     void do_prefs() { show_screen(PREFS_VIEW, false); }
     void do_expert() { show_screen(EXPERT_VIEW, true); }
+    void do_report() { show_screen(REPORT_VIEW, true); }
     void do_logs() {}
     void do_help_button();
     void applicationWillTerminate();

@@ -360,7 +360,7 @@ Die Namen der Prüfungen sind englisch.</translation>
     </message>
     <message id="ui_live_follow">
         <source></source>
-        <translation>Dem Dia&amp;gramm folgen</translation>
+        <translation>Dia&amp;gramm folgen</translation>
     </message>
     <message id="ui_live_follow_hint">
         <source></source>
@@ -368,7 +368,7 @@ Die Namen der Prüfungen sind englisch.</translation>
     </message>
     <message id="ui_live_dial_unmoved">
         <source></source>
-        <translation>Nichts bewegt dieses Instrument: Wählen Sie den ersten Messwert oder „Dem Diagramm folgen“.</translation>
+        <translation>Nichts bewegt dieses Instrument: Wählen Sie den ersten Messwert oder „Diagramm folgen“.</translation>
     </message>
     <message id="ui_live_length">
         <source></source>

@@ -132,6 +132,8 @@ void open_screen(Ks_lite_delegate& delegate, const std::string& name) {
         delegate.do_read_codes();
     else if (name == "live")
         delegate.do_actions();
+    else if (name == "report")
+        delegate.do_report();
     else if (name == "prefs")
         delegate.do_prefs();
     else if (name == "expert")

@@ -117,31 +117,40 @@ void car_reader::take_data(const std::string& reply) {
         told_now.insert(unit_address(one.form, one.header));
     std::erase_if(piece_.answers,
                   [&](const unit_reply& before) { return told_now.contains(before.unit); });
-    std::vector<std::string> units = heard_.units();
-    for (const ecu_answer& one : read.answers) {
-        const unit_reply answer{unit_address(one.form, one.header), one.data};
-        if (std::ranges::find(units, answer.unit) == units.end()) {
-            if (units.size() == MOST_UNITS) {
-                piece_.unread.push_back({unread_kind::not_understood, one.header + one.data});
-                continue;
-            }
-            units.push_back(answer.unit);
-        }
-        // An adapter that says everything twice has heard it once.
-        if (std::ranges::find(piece_.answers, answer) == piece_.answers.end())
-            piece_.answers.push_back(answer);
-    }
+    for (const ecu_answer& one : read.answers)
+        keep({unit_address(one.form, one.header), one.data}, piece_.answers);
     for (const unread_piece& one : read.unread)
         if (one.kind == unread_kind::refused)
-            piece_.refusals.push_back({one.unit, one.text});
+            keep({one.unit, one.text}, piece_.refusals);
         else if (one.kind != unread_kind::no_answer)
-            piece_.unread.push_back(one);
+            keep_unread(one.kind, one.text);
     std::erase_if(piece_.refusals, [this](const unit_reply& one) {
         return std::ranges::find(piece_.answers, one.unit, &unit_reply::unit) !=
                piece_.answers.end();
     });
     if (read.bus.form != bus_form::unknown)
         piece_.bus = read.bus.form;
+}
+
+// An adapter that says everything twice has heard it once.
+void car_reader::keep(const unit_reply& told, std::vector<unit_reply>& in) {
+    if (std::ranges::find(in, told) != in.end())
+        return;
+    std::vector<std::string> units = heard_.units();
+    for (const auto* heard : {&piece_.answers, &piece_.refusals})
+        for (const unit_reply& one : *heard)
+            units.push_back(one.unit);
+    const std::set<std::string> all(units.begin(), units.end());
+    if (in.size() < MOST_ANSWERS && told.data.size() <= LONGEST_DATA &&
+        (all.contains(told.unit) || all.size() < MOST_UNITS))
+        in.push_back(told);
+    else
+        keep_unread(unread_kind::not_understood, told.unit + told.data);
+}
+
+void car_reader::keep_unread(unread_kind kind, std::string_view text) {
+    if (piece_.unread.size() < MOST_ANSWERS)
+        piece_.unread.push_back({kind, readable(text)});
 }
 
 // A unit that put its answer off is asked until the bound; damage, and a unit that is silent about

@@ -52,6 +52,8 @@ class car_reader {
     void take(std::optional<std::string> reply);
     void take_words(const std::string& reply);
     void take_data(const std::string& reply);
+    void keep(const unit_reply& told, std::vector<unit_reply>& in);
+    void keep_unread(unread_kind kind, std::string_view text);
     bool worth_repeating() const;
     void repeat();
     void finish_piece();

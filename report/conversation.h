@@ -60,8 +60,8 @@ bool is_adapter_command(std::string_view request);
 // "0120" of "01" and 20.
 std::string request_of(std::string_view service, unsigned identifier);
 
-// More than any car has; what comes from others is told of, and not kept.
-inline constexpr std::size_t MOST_UNITS = 16;
+// More than any car has or says; what goes beyond is told of, and not kept.
+inline constexpr std::size_t MOST_UNITS = 16, MOST_ANSWERS = 200, LONGEST_DATA = 8192;
 
 // Takes the last six characters of the car's identification number out of all that was heard.
 conversation without_vin(conversation heard);

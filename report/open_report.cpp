@@ -13,8 +13,8 @@ namespace {
 using json = nlohmann::json;
 
 constexpr std::size_t LARGEST_DOCUMENT = 8 * 1024 * 1024;
-constexpr std::size_t MOST_PIECES = 2000, MOST_ANSWERS = 1000;
-constexpr std::size_t LONGEST_DATA = 8192, LONGEST_REQUEST = 20;
+constexpr std::size_t MOST_PIECES = 2000;
+constexpr std::size_t LONGEST_REQUEST = 20;
 
 class no_report : public std::runtime_error {
   public:

@@ -124,9 +124,8 @@ std::vector<bus_frame> frames_on_bus(const std::vector<unit_answer>& answers,
                 frames.push_back({at, answer.address, message});
             at += puts_off(message) ? PUT_OFF : bus.per_frame;
         }
-        // One wire: a unit of an older bus waits for the one before, but not for one that is late.
-        next_unit = bus.is_can() || answer.delay.count() > 0 ? next_unit + unit_gap
-                                                             : at - bus.per_frame + unit_gap;
+        // One wire: a unit of an older bus waits for the one before.
+        next_unit = bus.is_can() ? next_unit + unit_gap : at - bus.per_frame + unit_gap;
     }
     for (bus_frame& frame : frames)
         frame.fill = fill;

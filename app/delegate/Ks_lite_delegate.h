@@ -98,6 +98,8 @@ class Ks_lite_delegate {
     void reconnect();
     // The link is on its way up, and will start the screen's work.
     bool link_coming_up() const;
+    // Another one after each time that the link was dropped.
+    std::uint64_t link_number() const { return attempt_; }
     // A reply, a connection or a deferred call is still to come.
     bool anything_outstanding() const;
     // No reply is to come any more, and nothing that was sent times out.

@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr double MARGIN_MM = 15, POINTS_PER_INCH = 72;
+constexpr double POINTS_PER_INCH = 72;
 constexpr double FOOT_POINTS = 24, GAP_POINTS = 4;
 constexpr int RESOLUTION = 600;
 constexpr int TITLE_SIZE = 18, SECTION_SIZE = 13, FACT_SIZE = 13, TEXT_SIZE = 10, SMALL_SIZE = 9;
@@ -268,7 +268,8 @@ QByteArray sheet_pdf(const report_sheet& sheet, paper_size size) {
         pdf.setCreator(QStringLiteral("Kestrom " KESTROM_VERSION));
         pdf.setPageLayout(QPageLayout(
             QPageSize(size == paper_size::a4 ? QPageSize::A4 : QPageSize::Letter),
-            QPageLayout::Portrait, QMarginsF(MARGIN_MM, MARGIN_MM, MARGIN_MM, MARGIN_MM),
+            QPageLayout::Portrait,
+            QMarginsF(PAPER_MARGIN_MM, PAPER_MARGIN_MM, PAPER_MARGIN_MM, PAPER_MARGIN_MM),
             QPageLayout::Millimeter));
         print_sheet(pdf, sheet);
     }

@@ -9,6 +9,8 @@
 class QPagedPaintDevice;
 
 enum class paper_size { a4, letter };
+inline constexpr double PAPER_MARGIN_MM = 15;
+
 // By the user's country.
 paper_size usual_paper();
 

@@ -1457,5 +1457,37 @@ Freie Software unter der MIT-Lizenz.
         <source></source>
         <translation>Das Lesen wurde abgebrochen.</translation>
     </message>
+    <message id="ui_copy_rows">
+        <source></source>
+        <translation>Zeilen &amp;kopieren</translation>
+    </message>
+    <message id="ui_codes_to_report">
+        <source></source>
+        <translation>&amp;Speichern oder drucken: Fahrzeugbericht</translation>
+    </message>
+    <message id="ui_report_offer">
+        <source></source>
+        <translation>Vor dem Lösc&amp;hen anbieten</translation>
+    </message>
+    <message id="ui_report_offer_hint">
+        <source></source>
+        <translation>Bevor Codes gelöscht werden, wird ein gelesener, nicht gespeicherter Bericht angeboten.</translation>
+    </message>
+    <message id="ui_report_before_clear">
+        <source></source>
+        <translation>Den Bericht vor dem Löschen speichern?</translation>
+    </message>
+    <message id="ui_report_before_clear_hint">
+        <source></source>
+        <translation>Das Löschen entfernt auch Umgebungsdaten und Testergebnisse. Der gelesene Bericht enthält sie.</translation>
+    </message>
+    <message id="ui_report_show">
+        <source></source>
+        <translation>Bericht zeigen</translation>
+    </message>
+    <message id="ui_report_go_on">
+        <source></source>
+        <translation>Ohne Speichern weiter</translation>
+    </message>
 </context>
 </TS>

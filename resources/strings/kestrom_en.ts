@@ -1456,5 +1456,37 @@ Free software under the MIT licence.
         <source></source>
         <translation>The reading was cancelled.</translation>
     </message>
+    <message id="ui_copy_rows">
+        <source></source>
+        <translation>&amp;Copy rows</translation>
+    </message>
+    <message id="ui_codes_to_report">
+        <source></source>
+        <translation>&amp;Save or print: vehicle report</translation>
+    </message>
+    <message id="ui_report_offer">
+        <source></source>
+        <translation>O&amp;ffer it before clearing</translation>
+    </message>
+    <message id="ui_report_offer_hint">
+        <source></source>
+        <translation>Before codes are cleared, a report that was read and not saved is offered.</translation>
+    </message>
+    <message id="ui_report_before_clear">
+        <source></source>
+        <translation>Save the report before clearing?</translation>
+    </message>
+    <message id="ui_report_before_clear_hint">
+        <source></source>
+        <translation>Clearing also erases freeze frames and test results. The report that was read holds them.</translation>
+    </message>
+    <message id="ui_report_show">
+        <source></source>
+        <translation>Show the report</translation>
+    </message>
+    <message id="ui_report_go_on">
+        <source></source>
+        <translation>Go on without saving</translation>
+    </message>
 </context>
 </TS>

@@ -1457,5 +1457,37 @@ Software libre con licencia MIT.
         <source></source>
         <translation>La lectura se canceló.</translation>
     </message>
+    <message id="ui_copy_rows">
+        <source></source>
+        <translation>&amp;Copiar filas</translation>
+    </message>
+    <message id="ui_codes_to_report">
+        <source></source>
+        <translation>&amp;Guardar o imprimir: informe del vehículo</translation>
+    </message>
+    <message id="ui_report_offer">
+        <source></source>
+        <translation>O&amp;frecer antes de borrar</translation>
+    </message>
+    <message id="ui_report_offer_hint">
+        <source></source>
+        <translation>Antes de borrar códigos se ofrece un informe leído y no guardado.</translation>
+    </message>
+    <message id="ui_report_before_clear">
+        <source></source>
+        <translation>¿Guardar el informe antes de borrar?</translation>
+    </message>
+    <message id="ui_report_before_clear_hint">
+        <source></source>
+        <translation>El borrado elimina también los datos congelados y los resultados de las pruebas. El informe leído los contiene.</translation>
+    </message>
+    <message id="ui_report_show">
+        <source></source>
+        <translation>Mostrar el informe</translation>
+    </message>
+    <message id="ui_report_go_on">
+        <source></source>
+        <translation>Continuar sin guardar</translation>
+    </message>
 </context>
 </TS>

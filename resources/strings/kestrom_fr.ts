@@ -1457,5 +1457,37 @@ Logiciel libre sous licence MIT.
         <source></source>
         <translation>La lecture a été annulée.</translation>
     </message>
+    <message id="ui_copy_rows">
+        <source></source>
+        <translation>&amp;Copier les lignes</translation>
+    </message>
+    <message id="ui_codes_to_report">
+        <source></source>
+        <translation>&amp;Enregistrer ou imprimer : rapport du véhicule</translation>
+    </message>
+    <message id="ui_report_offer">
+        <source></source>
+        <translation>&amp;Proposer avant l'effacement</translation>
+    </message>
+    <message id="ui_report_offer_hint">
+        <source></source>
+        <translation>Avant d'effacer les codes, un rapport lu et non enregistré est proposé.</translation>
+    </message>
+    <message id="ui_report_before_clear">
+        <source></source>
+        <translation>Enregistrer le rapport avant d'effacer ?</translation>
+    </message>
+    <message id="ui_report_before_clear_hint">
+        <source></source>
+        <translation>L'effacement supprime aussi les données figées et les résultats des tests. Le rapport lu les contient.</translation>
+    </message>
+    <message id="ui_report_show">
+        <source></source>
+        <translation>Afficher le rapport</translation>
+    </message>
+    <message id="ui_report_go_on">
+        <source></source>
+        <translation>Continuer sans enregistrer</translation>
+    </message>
 </context>
 </TS>

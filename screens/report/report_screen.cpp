@@ -15,11 +15,6 @@ constexpr run_loop::milliseconds LATE{1000}; // a reply may begin in time and ne
 
 } // namespace
 
-kept_report& last_report() {
-    static kept_report kept;
-    return kept;
-}
-
 report_screen::report_screen(Ks_lite_delegate& delegate)
     : obd_screen(delegate), handshake_(*this), reader_(delegate.doors().loop, *this) {
     view_ = std::make_unique<report_view>(delegate, toolies);
@@ -74,32 +69,28 @@ void report_screen::cancel_clicked() {
     set_status_msg(localized("report_cancelled"));
 }
 
-void report_screen::work_current_task() {
-    if (!task_running() || awaits_owed_reply() || reader_.running())
+void report_screen::work_task(int task, int) {
+    if (reader_.running() || task != TASK_REPORT || handshake_.comes_first())
         return;
-    if (g_cur_mode == MODE_HANDSHAKE) {
-        handshake_.connect_2_interface(next_step_idx);
-    } else if (g_cur_mode == TASK_REPORT && !handshake_.comes_first()) {
-        // Headers stay on behind a report: whatever comes next begins with the handshake.
-        connected_2_KS_interface = false;
-        reader_.start(new_conversation());
-    }
+    // Headers stay on behind a report: whatever comes next begins with the handshake.
+    connected_2_KS_interface = false;
+    reader_.start(new_conversation());
 }
 
 void report_screen::handleOBDRcvdMsg(const std::string& text) {
-    qCDebug(log_screens, "report:handleOBDRcvdMsg got the stuff%s", text.c_str());
-    if (reader_.running()) {
-        if (contains(text, "Timeout") && told_ && !awaits_owed_reply())
-            answer(std::nullopt);
-        else if (completes_reply(text))
-            answer(odb_curReplyMsg);
-    } else if (contains(text, "Timeout")) {
-        beep();
-        set_status_msg("Cur op timed out... Please Check/retry");
-        view_->show_running(false);
-    } else if (completes_reply(text)) {
-        work_current_task();
-    }
+    if (!reader_.running())
+        obd_screen::handleOBDRcvdMsg(text);
+    else if (contains(text, "Timeout") && told_ && !awaits_owed_reply())
+        answer(std::nullopt);
+    else if (completes_reply(text))
+        answer(odb_curReplyMsg);
+}
+
+bool report_screen::takes_time_out(const std::string& text) {
+    if (!obd_screen::takes_time_out(text))
+        return false;
+    view_->show_running(false);
+    return true;
 }
 
 void report_screen::ask(const std::string& command, run_loop::milliseconds bound, answered told) {
@@ -149,7 +140,7 @@ void report_screen::show_progress(topic about, std::size_t asked, std::size_t wa
 
 void report_screen::finish() {
     view_->show_running(false);
-    last_report() = {report_of(reader_.heard(), toolies), true, false};
+    last_report() = {report_of(reader_.heard(), toolies), KS_delegate.link_number(), false};
     has_report_ = true;
     end_task();
     view_->show_report();

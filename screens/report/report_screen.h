@@ -6,6 +6,7 @@
 #include "car_reader.h"
 #include "car_report.h"
 #include "codes_handshake.h"
+#include "kept_report.h"
 #include "obd_screen.h"
 
 #include <memory>
@@ -14,21 +15,12 @@
 
 class report_view;
 
-// What was read or opened last, whatever screen shows: a change of screen loses nothing.
-struct kept_report {
-    std::optional<car_report> report;
-    bool read_now = false; // over the link that is open
-    bool saved = false;
-};
-kept_report& last_report();
-
 class report_screen final : public obd_screen, private adapter_door {
   public:
     explicit report_screen(Ks_lite_delegate& delegate);
     ~report_screen() override;
 
     QWidget* view() override;
-    void work_current_task() override;
     void handleOBDRcvdMsg(const std::string& text) override;
     void leave_cur_op_gracefully(const std::string& message) override;
     void link_lost() override;
@@ -41,6 +33,9 @@ class report_screen final : public obd_screen, private adapter_door {
     bool reading() const { return reader_.running(); }
 
   private:
+    void work_task(int task, int step) override;
+    adapter_handshake* handshake() override { return &handshake_; }
+    bool takes_time_out(const std::string& text) override;
     void ask(const std::string& command, run_loop::milliseconds bound, answered told) override;
     void give_up() override;
     void send_now();

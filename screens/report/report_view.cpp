@@ -9,6 +9,7 @@
 #include "report_screen.h"
 #include "saved_report.h"
 #include "status_line.h"
+#include "user_defaults.h"
 
 #include <QCheckBox>
 #include <QClipboard>
@@ -16,6 +17,8 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QMimeData>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QVBoxLayout>
@@ -45,14 +48,25 @@ report_view::report_view(Ks_lite_delegate& delegate, const mac_toolies& toolies)
     hide_vin_->setObjectName(QStringLiteral("hideVin"));
     hide_vin_->setToolTip(ui_text(delegate, "ui_report_hide_vin_hint"));
     save_ = add_button("saveReport", "ui_report_save", [this] { save(); });
+    print_ = add_button("printReport", "ui_report_print", [this] { print(); });
     copy_ = add_button("copyReport", "ui_report_copy", [this] { copy(); });
     auto* open_saved = add_button("openReport", "ui_report_open", [this] { open(); });
     compare_ = add_button("compareReport", "ui_report_compare", [this] { compare(); });
-    for (QWidget* one : {static_cast<QWidget*>(save_), static_cast<QWidget*>(copy_),
-                         static_cast<QWidget*>(open_saved), static_cast<QWidget*>(compare_)})
+    for (QWidget* one :
+         {static_cast<QWidget*>(save_), static_cast<QWidget*>(print_), static_cast<QWidget*>(copy_),
+          static_cast<QWidget*>(open_saved), static_cast<QWidget*>(compare_)})
         row->addWidget(one);
     row->addStretch(1);
     row->addWidget(hide_vin_);
+    auto* offer = new QCheckBox(ui_text(delegate, "ui_report_offer"), root_.get());
+    offer->setObjectName(QStringLiteral("offerReport"));
+    offer->setToolTip(ui_text(delegate, "ui_report_offer_hint"));
+    offer->setChecked(!delegate.doors().defaults.boolean(NO_OFFER_KEY));
+    QObject::connect(offer, &QCheckBox::toggled, root_.get(), [this](bool on) {
+        delegate_.doors().defaults.set_boolean(NO_OFFER_KEY, !on);
+        delegate_.doors().defaults.synchronize();
+    });
+    row->addWidget(offer);
     bones.content->addLayout(row);
 
     sheet_ = new QTextBrowser(root_.get());
@@ -84,7 +98,7 @@ void report_view::show_running(bool running) {
 
 void report_view::show_report() {
     const auto& kept = last_report().report;
-    for (QPushButton* one : {save_, copy_, compare_})
+    for (QPushButton* one : {save_, print_, copy_, compare_})
         one->setEnabled(kept.has_value());
     if (kept)
         show_sheet(sheet_of(*kept, delegate_.doors().resources));
@@ -134,6 +148,20 @@ void report_view::save() {
         status_->set_text(ui_text(delegate_, "ui_report_saved").arg(path).toStdString());
 }
 
+void report_view::print() {
+    const report_sheet sheet = sheet_to_give();
+    const modal_hold hold(delegate_.doors().loop);
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(QString::fromStdString(sheet.title + " " + sheet.vin));
+    printer.setPageSize(
+        QPageSize(usual_paper() == paper_size::a4 ? QPageSize::A4 : QPageSize::Letter));
+    printer.setPageMargins(
+        QMarginsF(PAPER_MARGIN_MM, PAPER_MARGIN_MM, PAPER_MARGIN_MM, PAPER_MARGIN_MM),
+        QPageLayout::Millimeter);
+    if (QPrintDialog(&printer, root_.get()).exec() == QDialog::Accepted)
+        print_sheet(printer, sheet);
+}
+
 void report_view::copy() {
     const report_sheet sheet = sheet_to_give();
     auto* both = new QMimeData;
@@ -167,7 +195,7 @@ void report_view::open() {
     car_report opened;
     if (!read_report(ui_text(delegate_, "ui_report_open_title").toStdString(), opened))
         return;
-    last_report() = {std::move(opened), false, true};
+    last_report() = {std::move(opened), std::nullopt, true};
     show_report();
 }
 

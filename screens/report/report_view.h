@@ -37,6 +37,7 @@ class report_view {
     car_report report_to_give() const;
     report_sheet sheet_to_give() const;
     void save();
+    void print();
     void copy();
     void open();
     void compare();
@@ -50,6 +51,7 @@ class report_view {
     busy_indicator* waity_ = nullptr;
     QPushButton* read_ = nullptr;
     QPushButton* save_ = nullptr;
+    QPushButton* print_ = nullptr;
     QPushButton* copy_ = nullptr;
     QPushButton* compare_ = nullptr;
     QCheckBox* hide_vin_ = nullptr;

@@ -175,7 +175,7 @@ constexpr std::array OPTIONS = {
          "its identification number (VIN) among it",
          "window car"},
         [](cli_request& asked, text, text value) { asked.record = value; }},
-    row{{"--screen", "codes|live|prefs|expert", "open the window with this screen", "window"},
+    row{{"--screen", "codes|live|report|prefs|expert", "open the window with this screen", "window"},
         [](cli_request& asked, text, text value) { asked.screen = value; }},
     row{{"--screenshot", "FILE.png", "save a picture of the window and leave", "window car"},
         [](cli_request& asked, text, text value) { asked.screenshot = value; }},

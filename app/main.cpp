@@ -1,20 +1,16 @@
 // Starts Kestrom: the window, or one command without a display.
 #include "bluetooth_door.h"
-#include "bluetooth_scan.h"
 #include "bundle.h"
 #include "car_library.h"
-#include "chart_command.h"
 #include "command_line.h"
 #include "command_runner.h"
 #include "commands.h"
 #include "console_alerts.h"
 #include "conversation_recorder.h"
-#include "decode_command.h"
-#include "export_command.h"
+#include "default_settings.h"
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
 #include "languages.h"
-#include "lookup_command.h"
 #include "mac_toolies.h"
 #include "main_window.h"
 #include "message_box_alerts.h"
@@ -37,7 +33,6 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -104,7 +99,7 @@ std::string settings_path(const cli_request& asked, std::optional<QTemporaryDir>
 void use_interface(user_defaults& store, int interface) {
     store.set_integer(KS_INTERFACE_KEY, interface);
     if (!store.contains(PIDS_ARRAY_KEY))
-        store.set_string_array(PIDS_ARRAY_KEY, {"0D", "11", "0C", "05"});
+        store.set_string_array(PIDS_ARRAY_KEY, default_pids());
 }
 
 void use_adapter(user_defaults& store, const std::string& host, const std::string& port) {
@@ -162,8 +157,8 @@ bool save_screenshot(main_window& window, const std::optional<std::string>& path
     return false;
 }
 
-// A command that needs no adapter: it reads the command line, or a log.
-int decode(int argc, char** argv, const cli_request& asked) {
+// A command that talks to no car.
+int run_at_desk(int argc, char** argv, const cli_request& asked) {
     const QGuiApplication application(argc, argv); // the chart is drawn
     const QTemporaryDir scratch;
     user_defaults units(scratch.filePath(QStringLiteral("kestrom.conf")).toStdString());
@@ -172,26 +167,8 @@ int decode(int argc, char** argv, const cli_request& asked) {
     const bundle resources = resources_for(kept);
     const mac_toolies toolies({&resources, &units, nullptr, nullptr});
     g_cur_barom_press = STANDARD_BAROMETER; // what logs count boost from
-    if (asked.command == "decode")
-        return run_decode(asked.arguments, toolies, units, std::cout, std::cerr);
-    if (asked.command == "vin")
-        return run_vin(asked.arguments, toolies, std::cout, std::cerr);
-    if (asked.command == "chart")
-        return run_chart(asked.arguments, toolies, resources, std::cout, std::cerr);
-    if (asked.command == "lookup")
-        return run_lookup(asked.arguments, toolies, std::cout, std::cerr);
-    if (asked.command == "export")
-        return run_export(asked.arguments, toolies, std::cout, std::cerr);
-    return run_mode6(asked.arguments, toolies, std::cout, std::cerr);
-}
-
-int scan_for_bluetooth(int argc, char** argv, const cli_request& asked) {
-    const QCoreApplication application(argc, argv);
-    const bundle resources = resources_for(kept_settings(asked));
-    bluez_devices devices(QDBusConnection::systemBus());
-    const double seconds = std::min(asked.timeout_seconds.value_or(60),
-                                    bluez_devices::SEARCH_MS / 1000.0 + 10); // BlueZ may start
-    return run_bluetooth_scan(devices, resources, seconds, asked.json, std::cout, std::cerr);
+    return find_command(asked.command)
+        ->run({asked, toolies, resources, units, std::cout, std::cerr});
 }
 
 // The doors to adapters as the command line asks for them: with a recorder listening, or bare.
@@ -252,65 +229,88 @@ std::unique_ptr<tcp_adapter_server> connect_to_virtual_car(Ks_lite_delegate& del
     return car;
 }
 
-int run(QApplication& application, const cli_request& asked) {
-    std::optional<QTemporaryDir> scratch;
-    user_defaults defaults(settings_path(asked, scratch));
-    auto car = use_what_is_asked(defaults, asked);
+// What the window and a command with a car work with.
+struct house {
+    QApplication& application;
+    const cli_request& asked;
+    std::optional<QTemporaryDir> scratch{};
+    user_defaults defaults{settings_path(asked, scratch)};
+    std::unique_ptr<network::served_car> car{use_what_is_asked(defaults, asked)};
     const bool first_start = defaults.integer(KS_INTERFACE_KEY) == 0;
+    qt_run_loop loop{};
+    const bundle resources{resources_for(defaults)};
+    notification_center notifications{};
+    console_alerts printed_alerts{loop};
+    message_box_alerts shown_alerts{loop};
+    conversation_recorder recorder{loop};
+    link_doors link{};
 
-    qt_run_loop loop;
-    const bundle resources = resources_for(defaults);
-    notification_center notifications;
-    console_alerts printed_alerts(loop);
-    message_box_alerts shown_alerts(loop);
-    alerts& message_boxes =
-        asked.without_display() ? static_cast<alerts&>(printed_alerts) : shown_alerts;
-    mac_toolies::initialize({&resources, &defaults, &message_boxes, &notifications});
-    conversation_recorder recorder(loop);
-    link_doors link{tcp_streams(loop), nullptr, nullptr};
-    link.bluetooth =
-        make_bluetooth_door(loop, message_boxes, resources, defaults, !asked.without_display());
-    if (asked.record) {
-        if (!start_recording(recorder, asked, static_cast<int>(defaults.integer(KS_INTERFACE_KEY))))
-            return USAGE_STATUS;
+    // No when what was asked for cannot be recorded.
+    bool make_doors() {
+        mac_toolies::initialize({&resources, &defaults, &message_boxes(), &notifications});
+        link.make_streams = tcp_streams(loop);
+        link.bluetooth = make_bluetooth_door(loop, message_boxes(), resources, defaults,
+                                             !asked.without_display());
+        if (!asked.record)
+            return true;
         link.record(recorder);
+        return start_recording(recorder, asked,
+                               static_cast<int>(defaults.integer(KS_INTERFACE_KEY)));
     }
-    Ks_lite_delegate delegate({loop, message_boxes, defaults, resources, notifications,
-                               link.make_streams, link.serial_port()},
-                              all_screens());
-    main_window window(delegate);
-    if (first_start)
-        window.offer_first_steps([&] { car = connect_to_virtual_car(delegate); });
-    first_paint painted;
-    if (asked.quit_when_shown)
-        window.installEventFilter(&painted);
-    int status = 0;
-    std::unique_ptr<command_runner> runner;
-    const quit_signals signals([&] {
-        if (runner)
-            runner->interrupt();
-        else
-            window.close();
-    });
-    const auto leave = [&](int exit_status) {
-        status = save_screenshot(window, asked.screenshot) ? exit_status : FAILURE_STATUS;
+    app_doors doors() {
+        return {loop,          message_boxes(),   defaults,          resources,
+                notifications, link.make_streams, link.serial_port()};
+    }
+    alerts& message_boxes() {
+        return asked.without_display() ? static_cast<alerts&>(printed_alerts) : shown_alerts;
+    }
+    int leave_with(main_window& window, int status) {
+        const int told = save_screenshot(window, asked.screenshot) ? status : FAILURE_STATUS;
         window.close();
-        application.exit(status);
-    };
-    if (asked.command.empty() || asked.screenshot)
-        window.show();
-    if (!asked.command.empty()) {
-        runner = std::make_unique<command_runner>(asked, delegate, printed_alerts);
-        QTimer::singleShot(0, &application, [&] { runner->start(leave); });
-    } else {
-        QTimer::singleShot(0, &application, [&] { // a box that it opens must not hold up the start
-            open_screen(delegate, asked.screen);
-            if (asked.screenshot) // once the window has been laid out
-                QTimer::singleShot(200, &application, [&] { leave(0); });
-        });
+        application.exit(told);
+        return told;
     }
-    const int ended = application.exec();
+};
+
+int run_window(house& home, Ks_lite_delegate& delegate, main_window& window) {
+    if (home.first_start)
+        window.offer_first_steps([&] { home.car = connect_to_virtual_car(delegate); });
+    first_paint painted;
+    if (home.asked.quit_when_shown)
+        window.installEventFilter(&painted);
+    const quit_signals signals([&] { window.close(); });
+    int status = 0;
+    window.show();
+    QTimer::singleShot(0, &home.application, [&] { // a box that it opens must not hold up the start
+        open_screen(delegate, home.asked.screen);
+        if (home.asked.screenshot) // once the window has been laid out
+            QTimer::singleShot(200, &home.application, [&] { status = home.leave_with(window, 0); });
+    });
+    const int ended = home.application.exec();
     return status ? status : ended;
+}
+
+int run_command(house& home, Ks_lite_delegate& delegate, main_window& window) {
+    command_runner runner(home.asked, delegate, home.printed_alerts);
+    const quit_signals signals([&] { runner.interrupt(); });
+    if (home.asked.screenshot)
+        window.show();
+    int status = 0;
+    home.loop.after(run_loop::milliseconds(0), [&] {
+        runner.start([&](int ended) { status = home.leave_with(window, ended); });
+    });
+    const int ended = home.application.exec();
+    return status ? status : ended;
+}
+
+int run(QApplication& application, const cli_request& asked) {
+    house home{application, asked};
+    if (!home.make_doors())
+        return USAGE_STATUS;
+    Ks_lite_delegate delegate(home.doors(), all_screens());
+    main_window window(delegate);
+    return asked.command.empty() ? run_window(home, delegate, window)
+                                 : run_command(home, delegate, window);
 }
 
 // What failed to reach standard output makes a failure of any command. A reader that has gone, such
@@ -326,14 +326,15 @@ int status_with_output(int status) {
 
 int start(int argc, char** argv) {
     const std::vector<std::string> arguments(argv + 1, argv + argc);
-    const auto [asked, error] = parse_command_line(arguments);
-    if (!error.empty()) {
-        std::fprintf(stderr, "kestrom: %s\nTry 'kestrom --help'.\n", error.c_str());
+    const parsed_command_line read = parse_command_line(arguments);
+    const cli_request& asked = read.asked;
+    if (!read.error.empty()) {
+        std::fputs(complaint_about(read).c_str(), stderr);
         return USAGE_STATUS;
     }
+    const command_row* command = find_command(asked.command);
     if (asked.help) {
-        const command_row* command = find_command(asked.command);
-        std::fputs((command ? command_help(*command) : usage_text()).c_str(), stdout);
+        std::fputs(help_text(command).c_str(), stdout);
         return 0;
     }
     if (asked.version) {
@@ -343,10 +344,8 @@ int start(int argc, char** argv) {
     if (asked.without_display())
         qputenv("QT_QPA_PLATFORM", "offscreen");
     log_to_system(asked.command.empty());
-    if (asked.command == BLUETOOTH_SCAN)
-        return scan_for_bluetooth(argc, argv, asked);
-    if (decodes(asked.command))
-        return decode(argc, argv, asked);
+    if (command && command->run)
+        return run_at_desk(argc, argv, asked);
     if (!display_there()) {
         std::fputs("kestrom: there is no display; give a command, such as 'kestrom --demo codes'\n",
                    stderr);

@@ -12,17 +12,17 @@
 #include <numbers>
 #include <vector>
 
-QImage raw_image(QSizeF size, double scale) {
+QImage filled_image(QSizeF size, double scale, const QColor& ground) {
     const QSize pixels = (size * scale).toSize().expandedTo(QSize(1, 1));
-    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    QImage image(pixels, ground.alpha() == 255 ? QImage::Format_RGB32
+                                               : QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(scale);
+    image.fill(ground);
     return image;
 }
 
 QImage empty_image(QSizeF size, double scale) {
-    QImage image = raw_image(size, scale);
-    image.fill(Qt::transparent);
-    return image;
+    return filled_image(size, scale, Qt::transparent);
 }
 
 void copy_picture(const QImage& from, QImage& to) {
@@ -42,51 +42,61 @@ void copy_pixels(const QImage& from, QImage& to, const QRect& pixels) {
                     static_cast<std::size_t>(inside.width()) * sizeof(QRgb));
 }
 
-// In 16 bits, so that many are done at a time.
-void lay_over(QRgb* pixels, const QRgb* rest, const QRgb* added, std::size_t count) {
-    auto* __restrict ground = reinterpret_cast<std::uint8_t*>(pixels);
-    const auto* __restrict left = reinterpret_cast<const std::uint8_t*>(rest);
-    const auto* __restrict more = reinterpret_cast<const std::uint8_t*>(added);
-    for (std::size_t i = 0; i < count * sizeof(QRgb); ++i) {
-        const auto product = static_cast<std::uint16_t>(ground[i] * left[i]);
-        const auto rounded = static_cast<std::uint16_t>(product + (product >> 8) + 128);
-        ground[i] = static_cast<std::uint8_t>((rounded >> 8) + more[i]);
-    }
-}
-
 namespace {
 
+constexpr int ONE = 256; // weights of a line's sources add up to that
+
+// Many bytes at a time: the sums fit into 16 bits.
 void add_weighted(std::uint16_t* __restrict sums, const uchar* __restrict source,
                   std::uint16_t weight, std::size_t bytes) {
     for (std::size_t i = 0; i < bytes; ++i)
         sums[i] = static_cast<std::uint16_t>(sums[i] + source[i] * weight);
 }
 
+void mix(uchar* __restrict target, const uchar* __restrict one, std::uint16_t weight,
+         const uchar* __restrict other, std::uint16_t other_weight, std::size_t bytes) {
+    for (std::size_t i = 0; i < bytes; ++i) {
+        const auto sum =
+            static_cast<std::uint16_t>(one[i] * weight + other[i] * other_weight + ONE / 2);
+        target[i] = static_cast<uchar>(sum / ONE);
+    }
+}
+
 } // namespace
 
-QImage squeezed(const QImage& picture, int lines) {
-    constexpr int ONE = 256; // weights of a line's sources add up to that
-    QImage result(picture.width(), lines, picture.format());
+void squeeze(const QImage& picture, int lines, QImage& to) {
+    const QSize size(picture.width(), lines);
+    if (to.size() != size || to.format() != picture.format())
+        to = QImage(size, picture.format());
     const auto bytes = static_cast<std::size_t>(picture.width()) * sizeof(QRgb);
     std::vector<std::uint16_t> sums(bytes);
+    std::vector<std::uint16_t> weights;
     const double step = static_cast<double>(picture.height()) / lines;
     for (int y = 0; y < lines; ++y) {
-        std::ranges::fill(sums, ONE / 2);
         const double end = std::min((y + 1) * step, double(picture.height()));
+        const int first = static_cast<int>(y * step);
         int given = 0;
-        for (int from = static_cast<int>(y * step); from < end; ++from) {
+        weights.clear();
+        for (int from = first; from < end; ++from) {
             const double along = std::min<double>(from + 1, end) - y * step;
             const int upto = from + 1 >= end ? ONE : static_cast<int>(along / step * ONE + 0.5);
-            const auto weight = static_cast<std::uint16_t>(upto - given);
+            weights.push_back(static_cast<std::uint16_t>(upto - given));
             given = upto;
-            const uchar* const source = picture.constScanLine(from);
-            add_weighted(sums.data(), source, weight, bytes);
         }
-        uchar* const target = result.scanLine(y);
-        for (std::size_t i = 0; i < bytes; ++i)
-            target[i] = static_cast<uchar>(sums[i] / ONE);
+        uchar* const target = to.scanLine(y);
+        if (weights.size() <= 2) {
+            const bool two = weights.size() == 2;
+            mix(target, picture.constScanLine(first), weights.front(),
+                picture.constScanLine(two ? first + 1 : first), two ? weights.back() : 0, bytes);
+        } else {
+            std::ranges::fill(sums, ONE / 2);
+            for (std::size_t i = 0; i < weights.size(); ++i)
+                add_weighted(sums.data(), picture.constScanLine(first + static_cast<int>(i)),
+                             weights[i], bytes);
+            for (std::size_t i = 0; i < bytes; ++i)
+                target[i] = static_cast<uchar>(sums[i] / ONE);
+        }
     }
-    return result;
 }
 
 QFont image_font(const QString& family, int pixels, bool bold) {

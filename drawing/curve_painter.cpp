@@ -3,11 +3,11 @@
 #include "canvas.h"
 #include "casing.h"
 #include "saturate.h"
+#include "short_strokes.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <initializer_list>
 #include <iterator>
 #include <optional>
 
@@ -312,12 +312,20 @@ QVector<QLineF> lines_of(const canvas& target, const std::vector<column_run>& ru
     return lines;
 }
 
-void paint_lines(canvas& target, const QVector<QLineF>& lines, const QColor& ink,
-                 std::initializer_list<double> widths) {
-    for (const double width : widths) {
-        target.painter().setPen(QPen(ink, width));
-        target.painter().drawLines(lines);
-    }
+void paint_lines(canvas& target, const QVector<QLineF>& lines, const QColor& ink, double width) {
+    QPainter& painter = target.painter();
+    const double scale = target.pixels().devicePixelRatio();
+    const bool smoothed = painter.testRenderHint(QPainter::Antialiasing);
+    short_strokes strokes(target.pixels(), width * scale, ink.rgba());
+    QVector<QLineF> rest;
+    for (const QLineF& line : lines)
+        if (const QLineF pixels(line.p1() * scale, line.p2() * scale);
+            smoothed && strokes.is_short(pixels))
+            strokes.stroke(pixels);
+        else
+            rest << line;
+    painter.setPen(QPen(ink, width));
+    painter.drawLines(rest);
 }
 
 // Of the segments; that of the columns is in the layer, and comes over it in the same colour.
@@ -326,7 +334,7 @@ void paint_casing(canvas& target, const std::vector<column_run>& runs, const pix
     const double width = style.line_width + 2 * CASING_WIDTH;
     QVector<QLineF> lines = lines_of(target, runs, true);
     lines.removeIf([&](const QLineF& line) { return layer.casing_holds(line, width); });
-    paint_lines(target, lines, style.casing, {width});
+    paint_lines(target, lines, style.casing, width);
 }
 
 } // namespace
@@ -340,7 +348,10 @@ void paint_curve(canvas& target, const std::vector<column_run>& runs, const curv
     shade.setAlphaF(static_cast<float>(AREA_ALPHA));
     layer.paint(qPremultiply(style.casing.rgba()), qPremultiply(shade.rgba()),
                 qPremultiply(style.ink.rgba()));
-    paint_lines(target, lines_of(target, runs, false), style.ink,
-                {FIRST_PASS_WIDTH, style.line_width});
+    const QVector<QLineF> lines = lines_of(target, runs, false);
+    // Where it ends a pixel inside the second pass nothing is seen of the first.
+    if ((style.line_width - FIRST_PASS_WIDTH) * target.pixels().devicePixelRatio() < 1)
+        paint_lines(target, lines, style.ink, FIRST_PASS_WIDTH);
+    paint_lines(target, lines, style.ink, style.line_width);
     target.painter().restore();
 }

@@ -40,6 +40,8 @@ class drawChartyItem {
     // How much wider than high the picture is shown than it is drawn: a thumbnail's letters are
     // drawn as much narrower.
     void set_stretch(double times);
+    // What the picture lies on; with an opaque colour it has no transparent pixels.
+    void set_ground(const QColor& colour) { ground_ = colour; }
     void draw_empty_background();
 
     void use_this_pids(std::vector<std::string> pids);
@@ -119,6 +121,7 @@ class drawChartyItem {
     struct grid_look {
         QSizeF size;
         double scale = 0;
+        QColor ground;
         bool thumbnail = false, selected = false;
         chart_area plot;
         std::vector<value_axis> axes;
@@ -142,7 +145,8 @@ class drawChartyItem {
     void display_value(canvas& target);
     void display_value_4_thumbnail(canvas& target);
     void paint_readout(canvas& target, double x, double y, const readout_look& look);
-    QFont value_font(const QString& value, double room, const readout_look& look);
+    void write_value(canvas& target, double room, double x, double y, const QString& value,
+                     const readout_look& look);
     void paint_level_bar(canvas& target, int segments);
 
     void start_realtime_curve(std::size_t parameter, const std::string& text);
@@ -157,6 +161,7 @@ class drawChartyItem {
     QSizeF chartySize{1, 1};
     double pixel_scale_ = 1;
     double stretch_ = 1;
+    QColor ground_ = Qt::transparent;
     double widest_value_ = 0; // of the read-out, at its full size
     int widest_of_ = -1;      // the parameter that this is of
     double last_OBD_val = 0;

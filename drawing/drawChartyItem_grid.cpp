@@ -35,8 +35,8 @@ QColor drawChartyItem::axis_figures() {
 
 drawChartyItem::grid_look drawChartyItem::look_of_grid(const label_records& labels,
                                                        std::string_view title) const {
-    grid_look look{chartySize, pixel_scale_, is_thumbnail,       is_thumb_selected,
-                   {},         {},           std::string(title), time_span_};
+    grid_look look{chartySize, pixel_scale_,       ground_,   is_thumbnail, is_thumb_selected, {},
+                   {},         std::string(title), time_span_};
     std::vector<int> shown;
     if (has_two_axes())
         shown = {*cur_ITEMS_2_PLOT.begin(), *std::next(cur_ITEMS_2_PLOT.begin())};
@@ -63,7 +63,7 @@ void drawChartyItem::draw_grid(const label_records& labels, std::string_view thi
     grid_look look = look_of_grid(labels, this_title);
     drawSizes = look.plot;
     if (grid_.isNull() || look != grid_look_) {
-        grid_ = empty_image(chartySize, pixel_scale_);
+        grid_ = filled_image(chartySize, pixel_scale_, ground_);
         canvas target(grid_);
         paint_grid(target, look);
         grid_look_ = std::move(look);

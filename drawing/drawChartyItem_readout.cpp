@@ -36,13 +36,11 @@ struct drawChartyItem::readout_look {
 namespace {
 
 // Condensed letters, which get their proportions back where the picture is stretched.
-void squeezed_text(canvas& target, double squeeze, double room, int smallest, double x, double y,
-                   const QString& text, const QFont& font, const QColor& ink,
-                   Qt::TextElideMode cut = Qt::ElideRight) {
+void squeezed(canvas& target, double squeeze, const std::function<void()>& write) {
     QPainter& painter = target.painter();
     painter.save();
     painter.scale(squeeze, 1);
-    target.text_within(room / squeeze, smallest, x / squeeze, y, text, font, ink, cut);
+    write();
     painter.restore();
 }
 
@@ -69,32 +67,39 @@ void drawChartyItem::paint_readout(canvas& target, double x, double y, const rea
     const auto k = static_cast<std::size_t>(cur_item_2_PLOT);
     if (cur_item_2_PLOT < 0 || k >= cur_sample_set.size() || k >= names_.size())
         return;
-    const double room = target.width() - x - RIGHT_MARGIN;
-    const QString value = qstring(cur_sample_set[k][1]);
-    squeezed_text(target, look.squeeze, room, look.smallest_value_pixels, x, y, value,
-                  value_font(value, room / look.squeeze, look), white(look.value_alpha));
-    const double name_y = y - NAME_BELOW_VALUE;
+    const double room = (target.width() - x - RIGHT_MARGIN) / look.squeeze;
+    const double left = x / look.squeeze;
+    squeezed(target, look.squeeze,
+             [&] { write_value(target, room, left, y, qstring(cur_sample_set[k][1]), look); });
     target.put(readout_name_, names_[k], [&](canvas& alone) {
-        squeezed_text(alone, look.squeeze, room, look.smallest_name_pixels, x, name_y,
-                      qstring(names_[k]), system_font(look.name_pixels), white(0.8),
-                      Qt::ElideMiddle); // bank and sensor stay at its end
+        squeezed(alone, look.squeeze, [&] {
+            alone.text_within(room, look.smallest_name_pixels, left, y - NAME_BELOW_VALUE,
+                              qstring(names_[k]), system_font(look.name_pixels), white(0.8),
+                              Qt::ElideMiddle); // bank and sensor stay at its end
+        });
     });
     paint_level_bar(target, look.segments);
 }
 
 // Of a size that the widest value so far needs: figures that grew and shrank with each value could
 // not be read.
-QFont drawChartyItem::value_font(const QString& value, double room, const readout_look& look) {
+void drawChartyItem::write_value(canvas& target, double room, double x, double y,
+                                 const QString& value, const readout_look& look) {
     if (widest_of_ != cur_item_2_PLOT) {
         widest_of_ = cur_item_2_PLOT;
         widest_value_ = 0;
     }
     QFont font = image_font(QStringLiteral("Arial"), look.value_pixels);
-    widest_value_ = std::max(widest_value_, text_width(font, value));
+    const double width = text_width(font, value);
+    widest_value_ = std::max(widest_value_, width);
     if (widest_value_ > room)
         font.setPixelSize(std::max(look.smallest_value_pixels,
                                    static_cast<int>(look.value_pixels * room / widest_value_)));
-    return font;
+    if (width * font.pixelSize() <= room * look.value_pixels)
+        target.text(x, y, value, font, white(look.value_alpha));
+    else
+        target.text_within(room, look.smallest_value_pixels, x, y, value, font,
+                           white(look.value_alpha));
 }
 
 // The lowest segment is lit even at the minimum; none is for what is no value.

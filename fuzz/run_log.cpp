@@ -3,6 +3,7 @@
 
 #include "fuzz_one.h"
 #include "fuzz_toolkit.h"
+#include "parameters.h"
 #include "scratch_folder.h"
 #include "text.h"
 
@@ -29,7 +30,7 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
             if (field.ends_with('\r'))
                 field.remove_suffix(1);
             REQUIRE(log->samples.text(row, p) == without(field, " "));
-            const double value = toolkit.decoder.get_OBDVal(log->samples.text(row, p));
+            const double value = parameter_value(toolkit.decoder, log->samples.text(row, p)).value;
             REQUIRE(std::isnan(value) ? std::isnan(log->samples.value(row, p))
                                       : log->samples.value(row, p) == value);
         }

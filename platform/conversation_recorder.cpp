@@ -1,33 +1,23 @@
 #include "conversation_recorder.h"
 
+#include <nlohmann/json.hpp>
+
 #include <QDateTime>
+
+using nlohmann::ordered_json;
 
 namespace {
 
 constexpr int FORMAT_VERSION = 1;
 
-// A JSON string of characters that each stand for one byte.
-std::string quoted(std::string_view bytes) {
-    constexpr char DIGITS[] = "0123456789abcdef";
-    std::string text = "\"";
-    for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (c == '"' || c == '\\')
-            (text += '\\') += c;
-        else if (c == '\r')
-            text += "\\r";
-        else if (c == '\n')
-            text += "\\n";
-        else if (byte < 0x20 || byte > 0x7E)
-            ((text += "\\u00") += DIGITS[byte / 16]) += DIGITS[byte % 16];
-        else
-            text += c;
-    }
-    return text += '"';
+// Characters that each stand for one byte.
+std::string letters_of(std::string_view bytes) {
+    return QString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size())).toStdString();
 }
 
-std::string member(std::string_view key, std::string_view text) {
-    return quoted(key) + ":" + quoted(text);
+// In ASCII.
+std::string line_of(const ordered_json& entry) {
+    return entry.dump(-1, ' ', true) + "\n";
 }
 
 } // namespace
@@ -39,23 +29,30 @@ std::optional<std::string> conversation_recorder::start(const std::string& path,
         return why;
     started_ = loop_.now();
     const std::string now = QDateTime::currentDateTimeUtc().toString(Qt::ISODate).toStdString();
-    return file_.append_line("{\"kestrom_recording\":" + std::to_string(FORMAT_VERSION) + "," +
-                             member("version", version) + "," + member("date", now) + "," +
-                             member("adapter", adapter) + "}\n");
+    return file_.append_line(line_of({{"kestrom_recording", FORMAT_VERSION},
+                                      {"version", version},
+                                      {"date", now},
+                                      {"adapter", adapter}}));
 }
 
 void conversation_recorder::note(std::string_view key, std::string_view bytes) {
-    append(member(key, bytes));
+    ordered_json members;
+    members[std::string(key)] = letters_of(bytes);
+    append(members);
 }
 
 void conversation_recorder::event(std::string_view what, std::string_view key,
                                   std::string_view text) {
-    append(member("event", what) + (key.empty() ? "" : "," + member(key, text)));
+    ordered_json members{{"event", what}};
+    if (!key.empty())
+        members[std::string(key)] = letters_of(text);
+    append(members);
 }
 
-void conversation_recorder::append(const std::string& members) {
-    const auto why = file_.append_line(
-        "{\"ms\":" + std::to_string((loop_.now() - started_).count()) + "," + members + "}\n");
+void conversation_recorder::append(const ordered_json& members) {
+    ordered_json entry{{"ms", (loop_.now() - started_).count()}};
+    entry.update(members);
+    const auto why = file_.append_line(line_of(entry));
     if (why && stopped)
         stopped(*why);
 }

@@ -10,6 +10,8 @@
 #include "log_file.h"
 #include "run_loop.h"
 
+#include <nlohmann/json_fwd.hpp>
+
 #include <functional>
 #include <optional>
 #include <string>
@@ -41,7 +43,7 @@ class conversation_recorder {
   private:
     void note(std::string_view key, std::string_view bytes);
     void event(std::string_view what, std::string_view key = {}, std::string_view text = {});
-    void append(const std::string& members);
+    void append(const nlohmann::ordered_json& members);
 
     const run_loop& loop_;
     run_loop::milliseconds started_;

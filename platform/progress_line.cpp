@@ -1,5 +1,7 @@
 #include "progress_line.h"
 
+#include "display_text.h"
+
 #include <QString>
 
 #include <cstdio>
@@ -36,12 +38,8 @@ void rewrite(const QString& text) {
 void show_progress(std::string_view text) {
     if (!on_terminal())
         return;
-    const std::string_view first = text.substr(0, text.find_first_of("\r\n"));
-    QString line = QString::fromUtf8(first.data(), static_cast<qsizetype>(first.size()));
-    for (QChar& c : line)
-        if (!c.isPrint() && !c.isSurrogate())
-            c = u' ';
-    rewrite(line.left(columns() - 1));
+    const QString first = display_text(text.substr(0, text.find_first_of("\r\n")));
+    rewrite(QString(first).replace(u'\t', u' ').left(columns() - 1));
 }
 
 void clear_progress() {

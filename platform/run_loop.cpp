@@ -45,6 +45,12 @@ void run_loop::from_event_loop(std::function<void()> call) {
 void run_loop::deliver_due() {
     if (delivering_)
         return;
+    deliver_all();
+    if (delivered && !held())
+        delivered();
+}
+
+void run_loop::deliver_all() {
     const delivery_guard guard(delivering_);
     while (!held() && !due_.empty()) {
         const timer_id id = due_.front();

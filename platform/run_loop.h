@@ -36,6 +36,9 @@ class run_loop {
 
     bool held() const { return holds_ > 0; }
 
+    // Told whenever everything that fell due has been delivered, and no dialog is up.
+    std::function<void()> delivered;
+
   protected:
     virtual void arm(timer_id id, milliseconds delay) = 0;
     virtual void disarm(timer_id id) = 0;
@@ -47,6 +50,8 @@ class run_loop {
 
   private:
     friend class modal_hold;
+
+    void deliver_all();
 
     std::unordered_map<timer_id, std::function<void()>> calls_;
     std::deque<timer_id> due_;

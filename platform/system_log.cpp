@@ -22,6 +22,9 @@ bool told_anyway(QtMsgType type, std::string_view area) {
 }
 
 void log_message(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    // Of the place that Qt takes instead: nothing of this program is kept there.
+    if (text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
+        return;
     const std::string_view area = context.category ? context.category : "";
     const bool logged = area.starts_with("kestrom.") && type != QtDebugMsg;
     // Standard error goes there already when a service manager has started the program.

@@ -37,7 +37,8 @@ car load_car(const std::string& name_or_file) {
     if (!file.open(QIODevice::ReadOnly))
         throw car_file_error(name_or_file, 0,
                              "neither a car's name nor a readable file (" +
-                                 file.errorString().toStdString() + ")");
+                                 file.errorString().toStdString() +
+                                 "); kestrom-virtual-car --list names the cars");
     const QByteArray text = file.readAll();
     return read_car(std::string_view(text.constData(), std::size_t(text.size())),
                     on_shelf ? name_or_file + SUFFIX : name_or_file);

@@ -1,8 +1,9 @@
 #include "json_schema.h"
 
+#include "number_text.h"
+
 #include <QRegularExpression>
 
-#include <charconv>
 
 namespace {
 
@@ -24,12 +25,6 @@ std::string_view kind_name(kind type) {
         return "object";
     }
     return "";
-}
-
-std::string number_text(double number) {
-    char text[32];
-    const auto end = std::to_chars(text, text + sizeof text, number).ptr;
-    return std::string(text, end);
 }
 
 bool matches(const std::string& text, const std::string& pattern) {

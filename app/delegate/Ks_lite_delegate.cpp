@@ -2,6 +2,7 @@
 
 #include "alerts.h"
 #include "bundle.h"
+#include "default_settings.h"
 #include "globalVars.h"
 #include "system_log.h"
 #include "user_defaults.h"
@@ -29,17 +30,8 @@ void Ks_lite_delegate::load_settings() {
     user_defaults& store = doors_.defaults;
     const int stored = store.integer(KS_INTERFACE_KEY);
     if (stored == 0) { // first run
-        store.set_integer(KS_INTERFACE_KEY, KS_USE_BT);
-        store.set_string(WIFI_IP_KEY, "192.168.0.10");
-        store.set_string(WIFI_PORT_KEY, "35000");
-        store.set_boolean(KS_METRIC_UNITS_KEY, false);
+        use_default_settings(store);
         store.set_boolean(LOG_RUNS_KEY, false);
-        store.set_string_array(PIDS_ARRAY_KEY, {"0D", "11", "0C", "05"});
-        g_connect_with = KS_USE_BT;
-        g_cur_wifi_IP = "192.168.0.10";
-        g_cur_wifi_port = "35000";
-        g_metric_units = false;
-        g_log_runs = false;
         store.synchronize();
         return;
     }

@@ -1,5 +1,5 @@
 // State that the link and the screens share. Everything runs on the one main thread, so there are
-// no locks. A leaf: anyone may include it.
+// no locks. scripts/check-structure names who may include it.
 #pragma once
 
 #include "constantes.h"

@@ -2,6 +2,8 @@
 
 #include "chrome.h"
 
+#include <QEvent>
+
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
@@ -113,6 +115,13 @@ void instrument_panel::rearrange() {
     parts_.hint->setGeometry(now_.dials.back());
     parts_.under_dials->setGeometry(now_.under_dials);
     if (rearranged)
+        rearranged();
+}
+
+// The pictures have the palette's ground in them.
+void instrument_panel::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && rearranged)
         rearranged();
 }
 

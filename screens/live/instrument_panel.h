@@ -48,6 +48,7 @@ class instrument_panel final : public QWidget {
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     void rearrange();

@@ -172,25 +172,32 @@ void live_pictures::draw(live_view& view, const sample_rows& rows, const sample_
     const QSizeF cell = strip.cell_size() * strip.devicePixelRatioF();
     const double thumbnail_scale =
         std::max(cell.width() / THUMBNAIL_SIZE.width(), cell.height() / THUMBNAIL_SIZE.height());
+    const QColor cell_ground = strip.ground();
+    const bool other_cells = thumbnail_scale != thumbnail_scale_ || cell_ground != cell_ground_;
     for (std::size_t i = 0; i < images_4_top.size(); ++i) {
         thumbnail& at = images_4_top[i];
-        if (!(at.changed || thumbnail_scale != thumbnail_scale_))
+        if (!(at.changed || other_cells))
             continue;
         at.changed = !strip.in_sight(static_cast<int>(i));
         if (at.changed)
             continue; // once it comes into sight
+        at.chart.set_ground(cell_ground);
         at.chart.set_stretch(cell.width() / cell.height());
         paint(at.chart, thumbnail_scale, "", at.realtime_labels);
         strip.set_picture(static_cast<int>(i), at.chart.imageRepresentation());
     }
     thumbnail_scale_ = thumbnail_scale;
+    cell_ground_ = cell_ground;
 
+    const QColor ground = view.chartFull().palette().color(QPalette::Window);
     if (const double scale = view.chartFull().pixel_scale();
-        scale > 0 && (large_chart_changed_ || scale != chart_scale_)) {
+        scale > 0 && (large_chart_changed_ || scale != chart_scale_ || ground != chart_ground_)) {
         view.chartFull().let_go();
+        cur_zoom_chart.set_ground(ground);
         paint(cur_zoom_chart, scale, cur_chart_title, realtime_labels_);
         view.chartFull().set_image(cur_zoom_chart.imageRepresentation());
         chart_scale_ = scale;
+        chart_ground_ = ground;
         large_chart_changed_ = false;
     }
     draw_dial(dials_[0], view.gauge_uno());

@@ -76,6 +76,7 @@ class live_pictures {
     drawChartyItem cur_zoom_chart;
     bool large_chart_changed_ = true;
     double chart_scale_ = 0, thumbnail_scale_ = 0;
+    QColor chart_ground_, cell_ground_;
     std::string cur_chart_title;
     bool realtime_labels_ = true;
     std::vector<std::string> pids_;

@@ -52,19 +52,19 @@ void thumbnail_strip::set_cell_size(QSize size) {
 
 void thumbnail_strip::set_picture(int cell, const QImage& picture) {
     const QSize pixels = cell_size_ * devicePixelRatioF();
-    QPixmap& shown = cells_.at(static_cast<std::size_t>(cell)).picture;
-    const bool only_lower =
-        picture.width() == pixels.width() && picture.height() >= pixels.height() &&
-        picture.format() == QImage::Format_ARGB32_Premultiplied && !pixels.isEmpty();
-    QImage whole(pixels, QImage::Format_RGB32);
-    whole.fill(laid_over(palette().color(QPalette::Window), CELL_GROUND));
-    QPainter(&whole).drawImage(
-        0, 0,
-        only_lower ? squeezed(picture, pixels.height())
-                   : picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-    shown = QPixmap::fromImage(std::move(whole));
+    QImage& shown = cells_.at(static_cast<std::size_t>(cell)).picture;
+    const bool only_lower = picture.width() == pixels.width() &&
+                            picture.height() >= pixels.height() && !pixels.isEmpty();
+    if (only_lower)
+        squeeze(picture, pixels.height(), shown);
+    else
+        shown = picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     shown.setDevicePixelRatio(devicePixelRatioF());
     update(rect_of(cell));
+}
+
+QColor thumbnail_strip::ground() const {
+    return laid_over(palette().color(QPalette::Window), CELL_GROUND);
 }
 
 QRect thumbnail_strip::rect_of(int cell) const {
@@ -213,11 +213,11 @@ void thumbnail_strip::paintEvent(QPaintEvent* event) {
         const QRect place = rect_of(cell);
         if (!event->region().intersects(place))
             continue;
-        const QPixmap& picture = cells_[static_cast<std::size_t>(cell)].picture;
+        const QImage& picture = cells_[static_cast<std::size_t>(cell)].picture;
         if (picture.isNull())
             painter.fillRect(place, CELL_GROUND);
         else
-            painter.drawPixmap(place, picture); // has its ground
+            painter.drawImage(place, picture); // has its ground
         if (selected_.contains(cell)) {
             painter.setPen(QPen(palette().color(QPalette::Highlight), FRAME));
             painter.drawRect(QRectF(place).adjusted(FRAME / 2.0, FRAME / 2.0, -FRAME / 2.0,

@@ -8,7 +8,6 @@
 #include "spoken.h"
 
 #include <QImage>
-#include <QPixmap>
 #include <QString>
 #include <QWidget>
 
@@ -35,7 +34,9 @@ class thumbnail_strip final : public QWidget, public spoken {
     int cells() const { return static_cast<int>(cells_.size()); }
     void set_cell_size(QSize size);
     QSize cell_size() const { return cell_size_; }
+    // Of 32 bits a pixel, upon ground().
     void set_picture(int cell, const QImage& picture);
+    QColor ground() const;
     const std::set<int>& selected() const { return selected_; }
     // As a click on the first of the cells, and on the others with Ctrl; cells that are not there
     // are ignored.
@@ -55,7 +56,7 @@ class thumbnail_strip final : public QWidget, public spoken {
   private:
     struct one_cell {
         QString name;
-        QPixmap picture;
+        QImage picture;
     };
     QScrollArea* area() const;
     QRect rect_of(int cell) const;

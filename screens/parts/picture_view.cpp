@@ -12,6 +12,7 @@ picture_view::picture_view(const QString& name, QSizeF units, QWidget* parent)
     setObjectName(name);
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setSizePolicy(policy);
+    setAttribute(Qt::WA_OpaquePaintEvent); // its ground is painted where the picture needs one
 }
 
 bool picture_view::event(QEvent* event) {
@@ -57,14 +58,19 @@ QRectF picture_view::shown_rect() const {
     return {snap((width() - size.width()) / 2), 0, size.width(), size.height()};
 }
 
-void picture_view::paintEvent(QPaintEvent*) {
+void picture_view::paintEvent(QPaintEvent* event) {
+    const bool same = fits(shown_rect());
+    const QRectF place =
+        same ? QRectF(shown_rect().topLeft(), QSizeF(image_.size()) / devicePixelRatioF())
+             : shown_rect();
+    QPainter painter(this);
+    QRegion ground = event->region();
+    if (!image_.isNull() && !image_.hasAlphaChannel())
+        ground -= place.toAlignedRect().adjusted(1, 1, -1, -1);
+    for (const QRect& part : ground)
+        painter.fillRect(part, palette().color(QPalette::Window));
     if (image_.isNull())
         return;
-    QPainter painter(this);
-    const QRectF place = shown_rect();
-    const QSizeF drawn = QSizeF(image_.size()) / devicePixelRatioF();
-    const bool same = fits(place);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, !same);
-    painter.drawImage(same ? QRectF(place.topLeft(), drawn) : place, image_,
-                      QRectF(image_.rect()));
+    painter.drawImage(place, image_, QRectF(image_.rect()));
 }

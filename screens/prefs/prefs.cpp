@@ -1,6 +1,7 @@
 #include "prefs.h"
 
 #include "bundle.h"
+#include "default_settings.h"
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
 #include "languages.h"
@@ -88,19 +89,9 @@ void prefs::savePrefs() {
 
 void prefs::setDefaults() {
     user_defaults& store = KS_delegate.doors().defaults;
-    g_connect_with = KS_USE_BT;
-    store.set_integer(KS_INTERFACE_KEY, KS_USE_BT);
-    store.set_string(WIFI_IP_KEY, "192.168.0.10");
-    store.set_string(WIFI_PORT_KEY, "35000");
-    g_cur_wifi_IP = "192.168.0.10";
-    g_cur_wifi_port = "35000";
-    store.set_boolean(KS_METRIC_UNITS_KEY, false);
-    g_metric_units = false;
-    // The stored "log_runs" is left alone on purpose: the next savePrefs writes it.
-    g_log_runs = false;
+    use_default_settings(store);
     store.set_boolean(REUSE_LAST_BT_KEY, false);
     store.set_string(LANGUAGE_KEY, "");
-    store.set_string_array(PIDS_ARRAY_KEY, {"0D", "11", "0C", "05"});
     store.synchronize();
 }
 
@@ -119,7 +110,7 @@ void prefs::metricCheckBoxStatus() {
 }
 
 void prefs::load_pids_list() {
-    for (const char* pid : {"0D", "11", "0C", "05"})
+    for (const std::string& pid : default_pids())
         add_item_to_pref_vector(pid);
 }
 

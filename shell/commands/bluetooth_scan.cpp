@@ -1,13 +1,15 @@
 #include "bluetooth_scan.h"
 
-#include "bundle.h"
+#include "bluez_devices.h"
+#include "commands.h"
+#include "display_text.h"
 #include "progress_line.h"
+#include "report_printer.h"
+
+#include <nlohmann/json.hpp>
 
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTimer>
 
 #include <algorithm>
@@ -18,29 +20,22 @@ namespace {
 
 constexpr int PROGRESS_EVERY_MS = 250;
 
-// A device may name itself anything: nothing of that drives the terminal, and a row stays a row.
-std::string printable_name(const std::string& name) {
-    QString text = QString::fromStdString(name);
-    for (QChar& c : text)
-        if (!c.isPrint() && !c.isSurrogate())
-            c = u' ';
-    return text.toStdString();
+ordered_json as_json(const bluetooth_entry& device) {
+    return {{"address", device.address},
+            {"name", device.name},
+            {"paired", device.paired},
+            {"signal_dbm", device.signal ? ordered_json(*device.signal) : ordered_json()},
+            {"serial_port", device.serial_port == serial_port_offer::unknown
+                                ? ordered_json()
+                                : ordered_json(device.serial_port == serial_port_offer::yes)}};
 }
 
-void print_json(const std::vector<bluetooth_entry>& devices, std::ostream& out) {
-    QJsonArray list;
-    for (const bluetooth_entry& device : devices) {
-        const QJsonValue offer = device.serial_port == serial_port_offer::unknown
-                                     ? QJsonValue()
-                                     : QJsonValue(device.serial_port == serial_port_offer::yes);
-        list.append(QJsonObject{{QStringLiteral("address"), QString::fromStdString(device.address)},
-                                {QStringLiteral("name"), QString::fromStdString(device.name)},
-                                {QStringLiteral("paired"), device.paired},
-                                {QStringLiteral("signal_dbm"),
-                                 device.signal ? QJsonValue(*device.signal) : QJsonValue()},
-                                {QStringLiteral("serial_port"), offer}});
-    }
-    out << QJsonDocument(QJsonObject{{QStringLiteral("devices"), list}}).toJson().toStdString();
+std::string as_json(const std::vector<bluetooth_entry>& devices, const std::string& error) {
+    ordered_json list = ordered_json::array();
+    for (const bluetooth_entry& device : devices)
+        list.push_back(as_json(device));
+    return json_lines({{"devices", list},
+                       {"error", error.empty() ? ordered_json() : ordered_json(error)}});
 }
 
 void print_text(const std::vector<bluetooth_entry>& devices, std::ostream& out) {
@@ -51,7 +46,7 @@ void print_text(const std::vector<bluetooth_entry>& devices, std::ostream& out) 
             device.signal ? std::to_string(*device.signal) + " dBm" : std::string("-");
         out << device.address << "  " << std::left << std::setw(8) << (device.paired ? "yes" : "no")
             << std::setw(10) << signal << std::setw(15)
-            << OFFERS[static_cast<int>(device.serial_port)] << printable_name(device.name) << '\n';
+            << OFFERS[static_cast<int>(device.serial_port)] << printable_line(device.name) << '\n';
     }
     if (devices.empty())
         out << "none\n";
@@ -59,8 +54,13 @@ void print_text(const std::vector<bluetooth_entry>& devices, std::ostream& out) 
 
 } // namespace
 
-int run_bluetooth_scan(bluez_devices& devices, const bundle& texts, double seconds, bool json,
-                       std::ostream& out, std::ostream& err) {
+int run_bluetooth_scan(const desk& work) {
+    bluez_devices devices(QDBusConnection::systemBus());
+    constexpr double LONGEST = bluez_devices::SEARCH_MS / 1000.0 + 10; // BlueZ may start
+    return scan_devices(work, devices, std::min(work.asked.timeout_seconds.value_or(60), LONGEST));
+}
+
+int scan_devices(const desk& work, bluez_devices& devices, double seconds) {
     QEventLoop waiting;
     // A queued look: what ends the wait may be true already.
     const auto look = [&] {
@@ -86,13 +86,13 @@ int run_bluetooth_scan(bluez_devices& devices, const bundle& texts, double secon
     const bluetooth_problem problem =
         devices.starting() ? bluetooth_problem::service_missing : devices.problem();
     devices.stop_search();
-    if (problem != bluetooth_problem::none) {
-        err << "kestrom: " << problem_text(problem, texts) << '\n';
-        return 1;
-    }
-    if (json)
-        print_json(devices.devices(), out);
-    else
-        print_text(devices.devices(), out);
-    return 0;
+    const bool failed = problem != bluetooth_problem::none;
+    const std::string error = failed ? problem_text(problem, work.resources) : std::string();
+    if (work.asked.json)
+        work.out << as_json(devices.devices(), error);
+    else if (!failed)
+        print_text(devices.devices(), work.out);
+    if (failed)
+        work.err << "kestrom: " << error << '\n';
+    return failed ? 1 : 0;
 }

@@ -1,256 +1,231 @@
 #include "command_line.h"
 
 #include "commands.h"
-#include "expertCtrlr.h"
 #include "mac_toolies.h"
 #include "parameters.h"
+#include "supported_scan.h"
 #include "text.h"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
-#include <charconv>
-#include <cmath>
 #include <cstdint>
-#include <set>
-#include <string_view>
+#include <limits>
 
 namespace {
 
-bool plain_ascii(std::string_view text) {
-    return std::ranges::all_of(text, [](char c) { return c >= ' ' && c <= '~'; });
+// HOST:PORT; an IPv6 address stands in brackets.
+void take_adapter(cli_request& asked, const std::string& name, const std::string& text) {
+    const std::size_t colon = text.rfind(':');
+    if (colon == std::string::npos || colon == 0)
+        throw usage_error(name + " needs HOST:PORT, such as 192.168.0.10:35000");
+    std::string host = text.substr(0, colon);
+    if (host.size() > 2 && host.front() == '[' && host.back() == ']')
+        host = host.substr(1, host.size() - 2);
+    else if (host.find_first_of(":[]") != std::string::npos)
+        throw usage_error(name + " needs an IPv6 address in brackets, such as [::1]:35000");
+    asked.adapter_host = host;
+    asked.adapter_port = text.substr(colon + 1);
+    read_number<std::uint16_t>("the port of " + name, asked.adapter_port, 1, 65535);
 }
 
-class argument_reader {
-  public:
-    explicit argument_reader(std::span<const std::string> arguments) : arguments_(arguments) {}
+// Six pairs of hexadecimal digits, with colons or dashes between them.
+void take_bluetooth(cli_request& asked, const std::string& name, const std::string& text) {
+    constexpr std::string_view FORM = "xx:xx:xx:xx:xx:xx";
+    const auto fits = [](char c, char form) {
+        return form == 'x' ? std::isxdigit(static_cast<unsigned char>(c)) != 0
+                           : c == ':' || c == '-';
+    };
+    if (!std::ranges::equal(text, FORM, fits))
+        throw usage_error(name + " needs an address such as 00:1D:A5:68:98:8B; see bluetooth-scan");
+    asked.bluetooth = text;
+}
 
-    parsed_command_line read() {
-        while (at_ < arguments_.size() && result_.error.empty())
-            take(arguments_[at_++]);
-        if (result_.error.empty())
-            check();
-        return result_;
+double read_seconds(const std::string& name, const std::string& text) {
+    return read_number(name, text, 0.001, 1e6);
+}
+
+// Two hex digits each, separated by commas, or "all".
+void take_pids(cli_request& asked, const std::string& name, const std::string& text) {
+    asked.pids.clear();
+    asked.all_pids = text == "all";
+    if (asked.all_pids)
+        return;
+    for (const std::string_view part : split(text, ",")) {
+        std::string pid(part);
+        std::ranges::transform(pid, pid.begin(), [](unsigned char c) { return std::toupper(c); });
+        if (pid.size() != 2 || !is_hex(pid))
+            throw usage_error(name +
+                              " needs two hex digits for each parameter, such as 0D,0C, or all");
+        if (!is_decoded(mac_toolies::convertStr2Byte(pid)))
+            throw usage_error(name + ": " + pid + " is no parameter that is decoded");
+        asked.pids.push_back(pid);
     }
+}
 
-  private:
-    void take(const std::string& argument) {
-        // A command's own arguments may begin with anything but "--", unless it reads its own
-        // options.
-        if (argument == "--help" || argument == "-h")
-            result_.asked.help = true;
-        else if (decodes(result_.asked.command))
-            result_.asked.arguments.push_back(argument);
-        else if (argument.size() > 1 && argument.starts_with("--"))
-            take_option(argument);
-        else if (result_.asked.command.empty())
-            result_.asked.command = argument;
-        else
-            result_.asked.arguments.push_back(argument);
-    }
+// "c" and "0C" are the same PID.
+void take_chart_pid(cli_request& asked, const std::string& name, const std::string& text) {
+    if (!is_hex(text) || text.size() > 2)
+        throw usage_error(name + " is two hex digits, such as 0C");
+    asked.chart_pids.push_back(pid_text(mac_toolies::convertStr2Byte(text)));
+}
 
-    void take_option(const std::string& argument) {
-        cli_request& asked = result_.asked;
-        const std::size_t equals = argument.find('=');
-        const std::string name = argument.substr(0, equals);
-        given_ =
-            equals == std::string::npos ? std::nullopt : std::optional(argument.substr(equals + 1));
-        if (name == "--demo") {
+using row = option_row<cli_request>;
+using text = const std::string&;
+
+// What a command has of its own comes first. "car" stands for every command that talks to one.
+constexpr std::array OPTIONS = {
+    row{{"--yes", "", "clear them indeed", "clear"},
+        [](cli_request& asked, text, text) { asked.yes = true; }},
+    row{{"--pids", "PID,...|all",
+         "parameters of service 01, two hex digits each, or all that the car\n"
+         "supports; else the user's. What it does not support is told and left out",
+         "live"},
+        take_pids},
+    row{{"--run", "log|fuel|o2|boost",
+         "what to sample: the parameters (log, the default), fuel economy, oxygen\nsensors or boost",
+         "live"},
+        [](cli_request& asked, text, text value) { asked.run = value; }},
+    row{{"--seconds", "N", "end so many seconds after the first request of the run", "live",
+         "--cycles"},
+        [](cli_request& asked, text name, text value) {
+            asked.seconds = read_seconds(name, value);
+        }},
+    row{{"--cycles", "N", "end after so many cycles; without either Ctrl+C ends it", "live"},
+        [](cli_request& asked, text name, text value) {
+            asked.cycles = read_number(name, value, 1ULL,
+                                       std::numeric_limits<unsigned long long>::max());
+        }},
+    row{{"--log", "", "write a run log, as the window does", "live"},
+        [](cli_request& asked, text, text) { asked.log = true; }},
+    row{{"--fast", "",
+         "ask for several values at once and wait no longer than needed, as far as\n"
+         "adapter and car prove that they can; some cars do not like it",
+         "live"},
+        [](cli_request& asked, text, text) { asked.fast = true; }},
+    row{{"--units", "metric|imperial", "units of the texts; else those of the settings", "decode"},
+        [](cli_request& asked, text, text value) { asked.units = value; }},
+    row{{"--standard", "", "what the standard means where a run or the table misleads",
+         "decode mode6"},
+        [](cli_request& asked, text, text) { asked.standard = true; }},
+    row{{"--pid", "PID", "parameter to draw, two hex digits; one or two", "chart"}, take_chart_pid},
+    row{{"-o", "FILE.png", "the picture to write", "chart"},
+        [](cli_request& asked, text, text value) { asked.picture = value; }},
+    row{{"--scale", "N", "make the picture so many times as large, 0.1 to 8", "chart"},
+        [](cli_request& asked, text name, text value) {
+            asked.scale = read_number(name, value, 0.1, 8.0);
+        }},
+    row{{"--dial", "", "the last value on a dial instead", "chart"},
+        [](cli_request& asked, text, text) { asked.dial = true; }},
+    row{{"--txt", "", "name the table .txt", "export"},
+        [](cli_request& asked, text, text) { asked.as_txt = true; }},
+    row{{"--time", "",
+         "put when each round was first, in seconds since the first request, from the\n"
+         "log's companion (its name with .times behind)",
+         "export"},
+        [](cli_request& asked, text, text) { asked.with_time = true; }},
+    row{{"--demo", "[=CAR]",
+         "talk to the built-in virtual car; kestrom-virtual-car --list names the cars",
+         "window car", "--adapter --bluetooth"},
+        [](cli_request& asked, text, text value) {
             asked.demo = true;
-            asked.demo_car = given_.value_or("");
-            given_.reset();
-        } else if (name == "--adapter") {
-            take_adapter(value(name));
-        } else if (name == "--bluetooth") {
-            take_bluetooth(value(name));
-        } else if (name == "--record") {
-            asked.record = value(name);
-        } else if (name == "--settings") {
-            asked.settings = value(name);
-        } else if (name == "--screen") {
-            asked.screen = value(name);
-        } else if (name == "--screenshot") {
-            asked.screenshot = value(name);
-        } else if (name == "--timeout") {
-            if (const double seconds = positive_number(name); seconds > 0)
-                asked.timeout_seconds = seconds;
-        } else if (name == "--seconds") {
-            asked.seconds = positive_number(name);
-        } else if (name == "--cycles") {
-            take_cycles(value(name));
-        } else if (name == "--pids") {
-            take_pids(value(name));
-        } else if (name == "--run") {
-            asked.run = value(name);
-        } else if (name == "--log") {
-            asked.log = true;
-        } else if (name == "--fast") {
-            asked.fast = true;
-        } else if (name == "--json") {
-            asked.json = true;
-        } else if (name == "--yes") {
-            asked.yes = true;
-        } else if (name == "--quit-when-shown") {
-            asked.quit_when_shown = true;
-        } else if (name == "--version") {
-            asked.version = true;
-        } else {
-            fail("unknown option " + name);
-        }
-        if (given_)
-            fail("option " + name + " takes no value");
-    }
-
-    // The option's value, behind "=" or as the next argument.
-    std::string value(const std::string& name) {
-        if (given_) {
-            const std::string text = *given_;
-            given_.reset();
-            return text;
-        }
-        if (at_ < arguments_.size())
-            return arguments_[at_++];
-        fail("option " + name + " needs a value");
-        return {};
-    }
-
-    // HOST:PORT; an IPv6 address stands in brackets.
-    void take_adapter(const std::string& text) {
-        const std::size_t colon = text.rfind(':');
-        if (colon == std::string::npos || colon == 0) {
-            fail("--adapter needs HOST:PORT, such as 192.168.0.10:35000");
-            return;
-        }
-        std::string host = text.substr(0, colon);
-        if (host.size() > 2 && host.front() == '[' && host.back() == ']')
-            host = host.substr(1, host.size() - 2);
-        else if (host.find_first_of(":[]") != std::string::npos)
-            fail("--adapter needs an IPv6 address in brackets, such as [::1]:35000");
-        const std::string port = text.substr(colon + 1);
-        std::uint16_t number = 0;
-        const auto read = std::from_chars(port.data(), port.data() + port.size(), number);
-        if (read.ec != std::errc() || read.ptr != port.data() + port.size() || number == 0)
-            fail("the port of --adapter is a number from 1 to 65535: '" + port + "'");
-        result_.asked.adapter_host = host;
-        result_.asked.adapter_port = port;
-    }
-
-    // Six pairs of hexadecimal digits, with colons or dashes between them.
-    void take_bluetooth(const std::string& text) {
-        constexpr std::string_view FORM = "xx:xx:xx:xx:xx:xx";
-        const auto fits = [](char c, char form) {
-            return form == 'x' ? std::isxdigit(static_cast<unsigned char>(c)) != 0
-                               : c == ':' || c == '-';
-        };
-        if (!std::ranges::equal(text, FORM, fits))
-            fail("--bluetooth needs an address such as 00:1D:A5:68:98:8B; see bluetooth-scan");
-        result_.asked.bluetooth = text;
-    }
-
-    double positive_number(const std::string& name) {
-        const std::string text = value(name);
-        double seconds = 0;
-        const auto read = std::from_chars(text.data(), text.data() + text.size(), seconds);
-        if (read.ec == std::errc() && read.ptr == text.data() + text.size() && seconds > 0 &&
-            seconds <= 1e6)
-            return seconds;
-        fail(name + " needs a number of seconds above 0");
-        return 0;
-    }
-
-    void take_cycles(const std::string& text) {
-        unsigned long long cycles = 0;
-        const auto read = std::from_chars(text.data(), text.data() + text.size(), cycles);
-        if (read.ec != std::errc() || read.ptr != text.data() + text.size() || cycles == 0)
-            fail("--cycles needs a number above 0");
-        result_.asked.cycles = cycles;
-    }
-
-    // Two hex digits each, separated by commas, or "all".
-    void take_pids(const std::string& text) {
-        if (text == "all") {
-            result_.asked.all_pids = true;
-            return;
-        }
-        for (const std::string_view part : split(text, ",")) {
-            std::string pid(part);
-            std::ranges::transform(pid, pid.begin(),
-                                   [](unsigned char c) { return std::toupper(c); });
-            if (pid.size() != 2 || !is_hex(pid))
-                fail("--pids needs two hex digits for each parameter, such as 0D,0C, or all");
-            else if (!is_decoded(mac_toolies::convertStr2Byte(pid)))
-                fail("--pids: " + pid + " is no parameter that is decoded");
-            result_.asked.pids.push_back(pid);
-        }
-    }
-
-    void check() {
-        const cli_request& asked = result_.asked;
-        const command_row* command = find_command(asked.command);
-        if (!asked.command.empty() && !command)
-            fail("unknown command " + asked.command);
-        if (asked.help || asked.version)
-            return;
-        static const std::set<std::string, std::less<>> SCREENS{"", "codes", "live", "prefs",
-                                                                "expert"};
-        if (!SCREENS.contains(asked.screen))
-            fail("--screen is one of codes, live, prefs, expert");
-        if (asked.demo + asked.adapter_host.has_value() + asked.bluetooth.has_value() > 1)
-            fail("--demo, --adapter and --bluetooth exclude each other");
-        if (asked.command.empty()) {
-            if (asked.json)
-                fail("--json needs a command");
-            return;
-        }
-        if (!command)
-            return;
-        if (asked.arguments.size() < command->least)
-            fail("command " + asked.command + " needs an argument");
-        else if (asked.arguments.size() > command->most)
-            fail("command " + asked.command + " takes no argument " +
-                 asked.arguments[command->most]);
-        if (asked.json && command->far_end == talks_to::nobody)
-            result_.asked.arguments.push_back("--json"); // it reads its own options
-        if (asked.record && command->far_end != talks_to::car)
-            fail("command " + asked.command + " talks to no adapter: there is nothing to record");
-        if (asked.command != "live" &&
-            (!asked.pids.empty() || asked.all_pids || asked.log || asked.fast || asked.run != "log" ||
-             asked.seconds > 0 || asked.cycles > 0))
-            fail("--pids, --run, --seconds, --cycles, --log and --fast belong to the command live");
-        if (asked.yes && asked.command != "clear")
-            fail("--yes belongs to the command clear");
-        if (asked.seconds > 0 && asked.cycles > 0)
-            fail("--seconds and --cycles exclude each other");
-        static const std::set<std::string, std::less<>> RUNS{"log", "fuel", "o2", "boost"};
-        if (!RUNS.contains(asked.run))
-            fail("--run is one of log, fuel, o2, boost");
-        else if ((!asked.pids.empty() || asked.all_pids) && asked.run != "log")
-            fail("--pids goes with --run log; the other runs have parameters of their own");
-        if (asked.command == "clear" && !asked.yes)
-            fail("clear erases codes and test results in the car: repeat it with --yes");
-        if (asked.command == "send")
-            for (const std::string& text : asked.arguments)
-                if (text.empty() || text.size() > LONGEST_CONSOLE_COMMAND || !plain_ascii(text))
-                    fail("a command is 1 to 38 plain characters: '" + text + "'");
-    }
-
-    void fail(std::string why) {
-        if (result_.error.empty())
-            result_.error = std::move(why);
-    }
-
-    std::span<const std::string> arguments_;
-    std::size_t at_ = 0;
-    std::optional<std::string> given_;
-    parsed_command_line result_;
+            asked.demo_car = value;
+        }},
+    row{{"--adapter", "HOST:PORT",
+         "talk to this Wi-Fi adapter instead of the one in the settings", "window car",
+         "--bluetooth"},
+        take_adapter},
+    row{{"--bluetooth", "ADDRESS", "talk to this Bluetooth adapter, without asking", "window car"},
+        take_bluetooth},
+    row{{"--record", "FILE",
+         "write the whole conversation with the adapter to FILE, for\n"
+         "kestrom-virtual-car --replay FILE; it holds what the car tells,\n"
+         "its identification number (VIN) among it",
+         "window car"},
+        [](cli_request& asked, text, text value) { asked.record = value; }},
+    row{{"--screen", "codes|live|prefs|expert", "open the window with this screen", "window"},
+        [](cli_request& asked, text, text value) { asked.screen = value; }},
+    row{{"--screenshot", "FILE.png", "save a picture of the window and leave", "window car"},
+        [](cli_request& asked, text, text value) { asked.screenshot = value; }},
+    row{{"--quit-when-shown", "",
+         "leave once the window has been painted (for measuring the start)", "window"},
+        [](cli_request& asked, text, text) { asked.quit_when_shown = true; }},
+    row{{"--json", "", "print JSON; docs/json holds the schemas",
+         "car decode vin mode6 export lookup bluetooth-scan"},
+        [](cli_request& asked, text, text) { asked.json = true; }},
+    row{{"--timeout", "SECONDS", "bound for the whole command (default 60; none for live)",
+         "car bluetooth-scan"},
+        [](cli_request& asked, text name, text value) {
+            asked.timeout_seconds = read_seconds(name, value);
+        }},
+    row{{"--settings", "FILE", "use this settings file"},
+        [](cli_request& asked, text, text value) { asked.settings = value; }},
+    row{{"--help", "", "this text; behind a command, more about it"},
+        [](cli_request& asked, text, text) { asked.help = true; }},
+    row{{"-h", "", "the same"}, [](cli_request& asked, text, text) { asked.help = true; }},
+    row{{"--version", "", "the version"},
+        [](cli_request& asked, text, text) { asked.version = true; }},
 };
+
+// "kestrom help COMMAND" asks what "kestrom COMMAND --help" does.
+void take_words(cli_request& asked, std::vector<std::string> words) {
+    if (!asked.help && !words.empty() && words[0] == HELP) {
+        if (words.size() > 2)
+            throw usage_error("help does not take the argument " + words[2]);
+        asked.help = true;
+        words.erase(words.begin());
+    }
+    if (words.empty())
+        return;
+    asked.command = words[0];
+    asked.arguments.assign(words.begin() + 1, words.end());
+    if (!find_command(asked.command))
+        throw usage_error("unknown command " + asked.command);
+}
+
+void check_command(const cli_request& asked, const words_read& words) {
+    const command_row* command = find_command(asked.command);
+    const auto subjects = subjects_of(command);
+    check_belonging(all_options(), words, subjects,
+                    command ? "the command " + asked.command : "the window, but with a command");
+    if (!command)
+        return;
+    if (asked.arguments.size() < command->least)
+        throw usage_error(asked.command + " needs " + std::string(command->arguments));
+    if (asked.arguments.size() > command->most)
+        throw usage_error(asked.command + " does not take the argument " +
+                          asked.arguments[command->most]);
+    if (command->check)
+        command->check(asked);
+}
 
 } // namespace
 
-bool decodes(std::string_view command) {
-    const command_row* found = find_command(command);
-    return found && found->far_end == talks_to::nobody;
+std::span<const option_text> all_options() {
+    static const std::vector<option_text> TEXTS = texts_of(std::span<const row>(OPTIONS));
+    return TEXTS;
 }
 
 parsed_command_line parse_command_line(std::span<const std::string> arguments) {
-    return argument_reader(arguments).read();
+    parsed_command_line read;
+    try {
+        const words_read words = read_words(all_options(), arguments);
+        for (const auto& [number, value] : words.options)
+            OPTIONS[number].take(read.asked, std::string(OPTIONS[number].text.name), value);
+        take_words(read.asked, words.others);
+        if (!read.asked.help && !read.asked.version)
+            check_command(read.asked, words);
+    } catch (const usage_error& why) {
+        read.error = why.what();
+        for (const std::string& word : arguments) // whose help tells more
+            if (read.asked.command.empty() && find_command(word))
+                read.asked.command = word;
+    }
+    return read;
+}
+
+std::string complaint_about(const parsed_command_line& senseless) {
+    const std::string& command = senseless.asked.command;
+    return "kestrom: " + senseless.error + "\nTry 'kestrom " +
+           (find_command(command) ? command + " " : "") + "--help'.\n";
 }

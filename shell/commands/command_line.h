@@ -1,15 +1,21 @@
 // The command line: what was asked for, read from the arguments without side effects.
 #pragma once
 
+#include "option_table.h"
+
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-inline constexpr char BLUETOOTH_SCAN[] = "bluetooth-scan";
-
 struct cli_request {
+    std::string command;                // empty: the window
+    std::vector<std::string> arguments; // of the command
+    bool help = false;
+    bool version = false;
+
+    // Which adapter, and what is kept of it.
     bool demo = false;
     std::string demo_car;                    // empty: the default car
     std::optional<std::string> adapter_host; // with adapter_port, as typed
@@ -17,12 +23,15 @@ struct cli_request {
     std::optional<std::string> bluetooth; // an adapter's address, as typed
     std::optional<std::string> record;    // the conversation, to this file
     std::optional<std::string> settings;
+
+    // Window
     std::string screen; // "codes", "live", "prefs", "expert" or empty
     std::optional<std::string> screenshot;
-    std::string command;                // empty: the window
-    std::vector<std::string> arguments; // of the command
-    bool yes = false;
+    bool quit_when_shown = false;
+
+    // Commands
     bool json = false;
+    bool yes = false;
     std::optional<double> timeout_seconds; // absent: the command's own bound
     std::vector<std::string> pids;         // of a live run; empty: the user's
     bool all_pids = false;                 // all that the car supports
@@ -31,9 +40,14 @@ struct cli_request {
     unsigned long long cycles = 0;         // likewise
     bool log = false;
     bool fast = false;
-    bool quit_when_shown = false;
-    bool help = false;
-    bool version = false;
+    std::string units; // "metric", "imperial"; empty: those of the settings
+    bool standard = false;
+    std::vector<std::string> chart_pids;
+    std::string picture;
+    double scale = 1;
+    bool dial = false;
+    bool as_txt = false;
+    bool with_time = false;
 
     bool without_display() const { return !command.empty() || screenshot; }
 };
@@ -44,7 +58,10 @@ struct parsed_command_line {
     std::string error;
 };
 
-// Commands that need no adapter and no window.
-bool decodes(std::string_view command);
-
 parsed_command_line parse_command_line(std::span<const std::string> arguments);
+
+// What is told of arguments that make no sense, whole lines.
+std::string complaint_about(const parsed_command_line& senseless);
+
+// The table of options.
+std::span<const option_text> all_options();

@@ -1,23 +1,20 @@
 // Runs one command of the command line on the screens themselves, without a display: presses the
-// button, waits until the task is over, and prints what the screen found. Owned by main.
+// button, is told of all that happens, and prints what was found once the task is over. Owned by main.
 #pragma once
 
-#include "command_line.h"
+#include "car_task.h"
+#include "commands.h"
 
 #include <QObject>
 #include <QTimer>
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
-#include <vector>
 
 class console_alerts;
-class expertCtrlr;
 class Ks_lite_delegate;
-class live_command;
-class pids_command;
-class readCodes;
 
 class command_runner final : public QObject {
   public:
@@ -30,36 +27,19 @@ class command_runner final : public QObject {
     void interrupt();
 
   private:
-    void start_codes();
-    void start_send();
-    void start_live();
-    void start_pids();
-    void look_for_channel();
+    void take_status(const std::string& text);
     void look();
-    bool over() const;
-    void finish_codes();
-    void end_with_told(bool succeeded);
-    void finish_live();
-    void next_send();
-    void take_reply(const std::string& chunk);
+    void finish();
     void end(bool succeeded, const std::string& why);
-    void leave_when_adapter_is_back(int exit_status);
+    void leave(int exit_status);
 
     const cli_request& asked_;
     Ks_lite_delegate& delegate_;
     console_alerts& messages_;
+    std::unique_ptr<car_task> task_;
     std::function<void(int)> done_;
-    QTimer look_timer_, leave_timer_;
     QTimer bound_;
-    std::vector<std::string> statuses_;
-
-    std::unique_ptr<live_command> live_;
-    std::unique_ptr<pids_command> pids_;
-    readCodes* codes_ = nullptr;
-    expertCtrlr* expert_ = nullptr;
-    bool channel_awaited_ = false;
-    std::size_t sent_ = 0;
-    std::string reply_;
-    bool reply_complete_ = false;
-    std::vector<std::string> replies_;
+    conversation_log told_;
+    bool begun_ = false, ended_ = false;
+    std::optional<int> leaves_with_;
 };

@@ -1,27 +1,52 @@
-// The commands of the command line: what each takes and what its help says.
+// The commands of the command line: what each takes, what its help says, and the function that does it.
 #pragma once
 
+#include "command_line.h"
+
 #include <cstddef>
+#include <iosfwd>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
-enum class talks_to { car, bluetooth, nobody };
+class bundle;
+class car_task;
+class mac_toolies;
+class user_defaults;
+struct car_task_doors;
 
+inline constexpr std::string_view HELP = "help";
+
+// What a command that talks to no car works with.
+struct desk {
+    const cli_request& asked;
+    const mac_toolies& toolies;
+    const bundle& resources;
+    user_defaults& units; // what `toolies` reads, a copy
+    std::ostream& out;
+    std::ostream& err; // for the reason of a status that is not 0
+};
+
+// A command that talks to a car makes a task of it, any other does its work at once and answers the
+// exit status: one of `begin` and `run`.
 struct command_row {
     std::string_view name;
     std::size_t least, most; // arguments
-    talks_to far_end;        // with nobody it reads its own options
-    std::string_view synopsis;
+    std::string_view arguments;
     std::string_view summary;
     std::string_view details; // whole lines, examples among them
+    void (*check)(const cli_request&) = nullptr; // throws usage_error
+    int (*run)(const desk&) = nullptr;
+    std::unique_ptr<car_task> (*begin)(const car_task_doors&) = nullptr;
 };
 
 std::span<const command_row> all_commands();
 // Null when there is none of that name.
 const command_row* find_command(std::string_view name);
+// What an option may belong to: the window, or this command.
+std::vector<std::string_view> subjects_of(const command_row* command);
 
-// What `kestrom --help` prints.
-std::string usage_text();
-// What `kestrom COMMAND --help` prints.
-std::string command_help(const command_row& command);
+// What `kestrom --help` prints, or `kestrom COMMAND --help`.
+std::string help_text(const command_row* command);

@@ -3,10 +3,11 @@
 #pragma once
 
 #include "alerts.h"
+#include "display_text.h"
 #include "progress_line.h"
-#include "report_printer.h"
 
 #include <cstdio>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -20,12 +21,14 @@ class console_alerts final : public alerts {
     const std::string& last_printed() const { return last_printed_; }
     // The same alert over and over: nobody is there to leave the screen.
     bool endless() const { return repeated_ >= MOST_REPEATED; }
+    // Whether the command itself will print that message.
+    std::function<bool(const std::string&)> is_result;
 
   protected:
     int run_modal(const alert_request& request) override {
         repeated_ = !messages_.empty() && messages_.back() == request.message ? repeated_ + 1 : 1;
         messages_.push_back(request.message);
-        if (request.buttons.size() > 1)
+        if (request.buttons.size() > 1 || (is_result && is_result(request.message)))
             return 0;
         last_printed_ = request.message;
         std::string printed = request.message;

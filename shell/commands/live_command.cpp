@@ -1,22 +1,26 @@
 #include "live_command.h"
 
 #include "actions.h"
+#include "car_task.h"
 #include "constantes.h"
+#include "csv_row.h"
+#include "display_text.h"
 #include "fixed_decimals.h"
 #include "Ks_lite_delegate.h"
+#include "number_text.h"
 #include "parameters.h"
 #include "progress_line.h"
-#include "report_printer.h"
 #include "text.h"
 #include "user_defaults.h"
 
+#include <nlohmann/json.hpp>
+
 #include <QTime>
 
-#include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <optional>
 #include <unistd.h>
-#include <utility>
 
 namespace {
 
@@ -32,18 +36,54 @@ int task_of(const std::string& run) {
     return run == "boost" ? TASK_BOOST : TASK_RUN_LOG;
 }
 
-std::string number_text(double value, const char* unreadable) {
-    if (!std::isfinite(value))
-        return unreadable;
-    char room[32];
-    return {room, std::to_chars(room, room + sizeof room, value).ptr};
+double rounded(double value, int decimals) {
+    const double places = std::pow(10, decimals);
+    return std::round(value * places) / places;
 }
 
-} // namespace
+class live_command final : public car_task {
+  public:
+    using car_task::car_task;
+    ~live_command() override;
 
-live_command::live_command(const cli_request& asked, Ks_lite_delegate& delegate,
-                           std::function<void()> done)
-    : asked_(asked), delegate_(delegate), done_(std::move(done)) {}
+    void start() override;
+    bool over() override { return begin_ == 0 && !screen_->awaits_adapter(); }
+    // At least one cycle was completed, the run ended as asked, and nothing went wrong.
+    bool succeeded() const override;
+    std::string what_went_wrong() const override;
+    bool may_be_interrupted() const override {
+        return asked_.cycles == 0 && asked_.seconds <= 0 && sampled();
+    }
+    bool has_no_bound() const override { return true; }
+    bool tells_progress() const override { return sampled(); }
+    bool tidies_up() const override { return screen_->puts_adapter_back(); }
+    void print(bool succeeded, const conversation_log& log) override;
+
+  private:
+    bool choose_parameters();
+    void begin_run();
+    void begin_sampling();
+    void end_as_asked();
+    void tell_of_waiting();
+    void print_header();
+    void print_cycle(const std::vector<translated>& values);
+    void show_cycles();
+    void print_summary() const;
+    bool sampled() const { return screen_ && screen_->cycles() > 0; }
+    double seconds() const; // of sampling, up to ended_
+    double rate() const;
+
+    actions* screen_ = nullptr;
+    std::optional<run_loop::milliseconds> sampling_since_; // its first request
+    run_loop::milliseconds ended_{0};
+    run_loop::milliseconds progress_shown_{0};
+    run_loop::timer_id limit_ = 0, begin_ = 0, next_look_ = 0;
+    std::string refused_; // why no run began
+    run_loop::milliseconds told_waiting_since_{0};
+    bool finished_as_asked_ = false;
+    bool finished_ = false;
+    std::vector<std::string> header_of_;
+};
 
 live_command::~live_command() {
     delegate_.doors().loop.cancel(limit_);
@@ -61,10 +101,8 @@ void live_command::start() {
         if (finished_)
             return;
         print_cycle(values);
-        if (asked_.cycles != 0 && screen_->cycles() >= asked_.cycles) {
-            finished_as_asked_ = true;
-            done_();
-        }
+        if (asked_.cycles != 0 && screen_->cycles() >= asked_.cycles)
+            end_as_asked();
     };
     if (asked_.pids.empty() && !asked_.all_pids) {
         screen_->runLogs();
@@ -82,7 +120,7 @@ void live_command::start() {
 
 void live_command::begin_run() {
     if (!choose_parameters()) {
-        done_();
+        finish_();
         return;
     }
     screen_->rework_gui_objects(TASK_RUN_LOG);
@@ -145,26 +183,17 @@ void live_command::begin_sampling() {
     sampling_since_ = delegate_.doors().loop.now();
     if (asked_.seconds > 0)
         limit_ = delegate_.doors().loop.after(
-            run_loop::milliseconds(static_cast<std::int64_t>(asked_.seconds * 1000)), [this] {
-                finished_as_asked_ = true;
-                done_();
-            });
+            run_loop::milliseconds(static_cast<std::int64_t>(asked_.seconds * 1000)),
+            [this] { end_as_asked(); });
 }
 
-bool live_command::over() const {
-    return begin_ == 0 && !screen_->awaits_adapter();
-}
-
-bool live_command::puts_adapter_back() const {
-    return screen_->puts_adapter_back();
-}
-
-bool live_command::sampled() const {
-    return screen_->cycles() > 0;
+void live_command::end_as_asked() {
+    finished_as_asked_ = true;
+    finish_();
 }
 
 bool live_command::succeeded() const {
-    return sampled() && finished_as_asked_;
+    return sampled() && finished_as_asked_ && what_went_wrong().empty();
 }
 
 std::string live_command::what_went_wrong() const {
@@ -175,7 +204,7 @@ std::string live_command::what_went_wrong() const {
     return finished_as_asked_ && screen_->cycles() == 0 ? "no cycle was completed" : "";
 }
 
-void live_command::finish() {
+void live_command::print(bool, const conversation_log&) {
     ended_ = delegate_.doors().loop.now();
     delegate_.doors().loop.cancel(limit_);
     finished_ = true;
@@ -188,50 +217,45 @@ double live_command::seconds() const {
     return static_cast<double>((ended_ - sampling_since_.value_or(ended_)).count()) / 1000;
 }
 
+double live_command::rate() const {
+    return seconds() > 0 ? static_cast<double>(screen_->requests_answered()) / seconds() : 0;
+}
+
 void live_command::print_header() {
     header_of_ = screen_->pids();
     if (asked_.json)
         return;
-    std::string line;
+    csv_row names;
     for (const std::string& pid : header_of_) {
-        const mac_toolies& toolies = screen_->toolies;
-        const std::string units = parameter_units(toolies, pid);
-        std::string name =
-            parameter_name(toolies, pid) + " (" + std::string(trimmed(units)) + ")";
-        if (name.find_first_of(",\"") != std::string::npos) {
-            std::string quoted = "\"";
-            for (const char c : name)
-                quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
-            name = quoted + "\"";
-        }
-        line += (line.empty() ? "" : ",") + name;
+        const std::string units = parameter_units(screen_->toolies, pid);
+        names.add(parameter_name(screen_->toolies, pid) + " (" + std::string(trimmed(units)) + ")");
     }
     clear_progress();
-    std::printf("%s\n", printable(line).c_str());
+    std::printf("%s\n", printable(names.text()).c_str());
 }
 
 void live_command::print_cycle(const std::vector<translated>& values) {
     if (header_of_ != screen_->pids())
         print_header();
     std::string line;
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        line += i == 0 ? "" : ",";
-        if (asked_.json)
-            line += json_string(header_of_[i]) + ":" + number_text(values[i].value, "null");
-        else
-            line += number_text(values[i].value, "nan");
-    }
     if (asked_.json) {
         ended_ = delegate_.doors().loop.now();
-        line = "{\"cycle\":" + std::to_string(screen_->cycles()) +
-               ",\"seconds\":" + fixed_decimals(seconds(), TIME_DECIMALS) + ",\"values\":{" + line +
-               "}}";
+        ordered_json by_pid = ordered_json::object();
+        for (std::size_t i = 0; i < values.size(); ++i)
+            by_pid[header_of_[i]] = json_number(values[i].value);
+        line = json_line(
+            {{"cycle", screen_->cycles()}, {"seconds", rounded(seconds(), 3)}, {"values", by_pid}});
+    } else {
+        csv_row row;
+        for (const translated& one : values)
+            row.add(number_text(one.value));
+        line = row.text() + "\n";
     }
     show_cycles();
-    std::printf("%s\n", line.c_str());
+    std::fputs(line.c_str(), stdout);
     // Whoever reads along sees each cycle as it completes.
     if (output_lost())
-        done_(); // nobody does, or nobody can
+        finish_(); // nobody does, or nobody can
 }
 
 // Of a run whose lines go elsewhere: on a terminal they tell it themselves.
@@ -249,34 +273,40 @@ void live_command::show_cycles() {
 }
 
 void live_command::print_summary() const {
-    const double elapsed = seconds();
-    const double rate =
-        elapsed > 0 ? static_cast<double>(screen_->requests_answered()) / elapsed : 0;
     const std::string& log = screen_->log_path();
+    const int level = screen_->fast_level().value_or(0);
     if (asked_.json) {
-        const std::string level =
-            asked_.fast ? ",\"fast_level\":" + std::to_string(screen_->fast_level().value_or(0)) : "";
-        std::printf("{\"cycles\":%llu,\"requests\":%llu,\"seconds\":%s,\"requests_per_second\":%s,"
-                    "\"log\":%s%s}\n",
-                    static_cast<unsigned long long>(screen_->cycles()),
-                    static_cast<unsigned long long>(screen_->requests_answered()),
-                    fixed_decimals(elapsed, TIME_DECIMALS).c_str(), fixed_decimals(rate, 1).c_str(),
-                    json_string(log).c_str(), level.c_str());
+        ordered_json told{{"cycles", screen_->cycles()},
+                          {"requests", screen_->requests_answered()},
+                          {"seconds", rounded(seconds(), 3)},
+                          {"requests_per_second", rounded(rate(), 1)},
+                          {"log", log}};
+        if (asked_.fast)
+            told["fast_level"] = level;
+        std::fputs(json_line(told).c_str(), stdout);
         return;
     }
     if (output_lost())
         return;
     const char* const what = asked_.fast ? "values" : "requests";
-    std::fprintf(stderr, "%llu cycles, %llu %s in %s s: %s %s per second",
-                 static_cast<unsigned long long>(screen_->cycles()),
-                 static_cast<unsigned long long>(screen_->requests_answered()), what,
-                 fixed_decimals(elapsed, TIME_DECIMALS).c_str(), fixed_decimals(rate, 1).c_str(), what);
-    if (asked_.fast)
-        std::fprintf(stderr, ", %s",
-                     screen_->localized("ui_fast_level_" +
-                                        std::to_string(screen_->fast_level().value_or(0)))
-                         .c_str());
-    std::fputc('\n', stderr);
+    const std::string how =
+        asked_.fast ? ", " + screen_->localized("ui_fast_level_" + std::to_string(level)) : "";
+    std::fprintf(stderr, "%s cycles, %s %s in %s s: %s %s per second%s\n",
+                 std::to_string(screen_->cycles()).c_str(),
+                 std::to_string(screen_->requests_answered()).c_str(), what,
+                 fixed_decimals(seconds(), TIME_DECIMALS).c_str(),
+                 fixed_decimals(rate(), 1).c_str(), what, how.c_str());
     if (!log.empty())
         std::fprintf(stderr, "Log: %s\n", printable(log).c_str());
+}
+
+} // namespace
+
+std::unique_ptr<car_task> begin_live(const car_task_doors& doors) {
+    return std::make_unique<live_command>(doors);
+}
+
+void check_live(const cli_request& asked) {
+    if ((!asked.pids.empty() || asked.all_pids) && asked.run != "log")
+        throw usage_error("--pids goes with --run log; the other runs have parameters of their own");
 }

@@ -1,57 +1,45 @@
 #include "lookup_command.h"
 
 #include "code_search.h"
+#include "commands.h"
 #include "mac_toolies.h"
+#include "report_printer.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include <nlohmann/json.hpp>
 
 #include <ostream>
 
 namespace {
 
 constexpr int FAILED_STATUS = 1;
-constexpr int USAGE_STATUS = 2;
 
-QString json_text(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+std::string wanted_of(const cli_request& asked) {
+    std::string wanted;
+    for (const std::string& argument : asked.arguments)
+        wanted += (wanted.empty() ? "" : " ") + argument;
+    return wanted;
 }
 
 } // namespace
 
-int run_lookup(std::span<const std::string> arguments, const mac_toolies& toolies,
-               std::ostream& out, std::ostream& err) {
-    std::string wanted;
-    bool json = false;
-    for (const std::string& argument : arguments) {
-        if (argument == "--json") {
-            json = true;
-        } else if (argument.starts_with("-")) {
-            err << "kestrom: unknown option " << argument << "\nTry 'kestrom lookup --help'.\n";
-            return USAGE_STATUS;
-        } else {
-            wanted += (wanted.empty() ? "" : " ") + argument;
-        }
-    }
-    if (wanted.find_first_not_of(' ') == wanted.npos) {
-        err << "kestrom: lookup needs a code or words, such as P0301 or \"oil pressure\"\n"
-               "Try 'kestrom lookup --help'.\n";
-        return USAGE_STATUS;
-    }
-    const std::vector<found_code> found = search_codes(toolies, wanted);
-    QJsonArray codes;
+void check_lookup(const cli_request& asked) {
+    if (wanted_of(asked).find_first_not_of(' ') == std::string::npos)
+        throw usage_error("lookup needs a code or words, such as P0301 or \"oil pressure\"");
+}
+
+int run_lookup(const desk& work) {
+    const std::vector<found_code> found = search_codes(work.toolies, wanted_of(work.asked));
+    ordered_json codes = ordered_json::array();
     for (const auto& [code, description] : found) {
-        if (json)
-            codes.append(QJsonObject{{QStringLiteral("code"), json_text(code)},
-                                     {QStringLiteral("description"), json_text(description)}});
+        if (work.asked.json)
+            codes.push_back({{"code", code}, {"description", description}});
         else
-            out << code << "  " << description << '\n';
+            work.out << code << "  " << description << '\n';
     }
-    if (json)
-        out << QJsonDocument(QJsonObject{{QStringLiteral("codes"), codes}}).toJson().toStdString();
+    if (work.asked.json)
+        work.out << json_lines({{"codes", codes}});
     if (!found.empty())
         return 0;
-    err << "kestrom: lookup found nothing\n";
+    work.err << "kestrom: lookup found nothing\n";
     return FAILED_STATUS;
 }

@@ -1,22 +1,9 @@
-// `kestrom pids`: what parameters the car supports. Owned by command_runner.
+// The command pids: what parameters the car supports.
 #pragma once
 
-#include "report_printer.h"
+#include <memory>
 
-class actions;
-class Ks_lite_delegate;
+class car_task;
+struct car_task_doors;
 
-class pids_command {
-  public:
-    explicit pids_command(Ks_lite_delegate& delegate) : delegate_(delegate) {}
-
-    void start();
-    bool over() const;
-    bool succeeded() const;
-    void print_text() const;
-    void print_json(const conversation_log& log) const;
-
-  private:
-    Ks_lite_delegate& delegate_;
-    actions* screen_ = nullptr;
-};
+std::unique_ptr<car_task> begin_pids(const car_task_doors& doors);

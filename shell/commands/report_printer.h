@@ -1,36 +1,28 @@
 // How the command line prints what the screens found.
 #pragma once
 
-#include "readCodes.h"
-
-#include <QJsonObject>
-#include <QString>
+#include <nlohmann/json_fwd.hpp>
 
 #include <string>
 #include <string_view>
 #include <vector>
 
+using nlohmann::ordered_json;
+
 struct conversation_log {
-    std::string status;
     std::vector<std::string> messages; // every alert, in order
     std::vector<std::string> statuses; // every status text, in order
 };
 
-QString json_text(std::string_view text);
-// With what was told on the way.
-void print_json_object(QJsonObject object, const conversation_log& log);
-void print_codes_text(const codes_report& report);
-void print_codes_json(const codes_report& report, const conversation_log& log);
-void print_raw_reply(const std::string& reply);
-void print_replies_json(const std::vector<std::string>& commands,
-                        const std::vector<std::string>& replies, const conversation_log& log);
+// The object with what was told on the way: the status that the task ended with, and the log.
+void print_conversation(ordered_json object, const std::string& status,
+                        const conversation_log& log);
+
+// Lines of JSON for people, or one line. Bytes that are not UTF-8 become replacement characters.
+std::string json_lines(const ordered_json& value);
+std::string json_line(const ordered_json& value);
+// A whole number without decimals, and null for what is no number.
+ordered_json json_number(double value);
 
 // Some of standard output could not be written; main tells it once the command is over.
 bool output_lost();
-
-// Without control characters, so that an adapter's bytes do not drive the terminal; line ends
-// become "\n".
-std::string printable(const std::string& text);
-
-// A JSON string, quotes included.
-std::string json_string(std::string_view text);

@@ -65,10 +65,7 @@ int serve(QCoreApplication& app, const virtual_car_options& options, const std::
     return serve_descriptors(*served, STDIN_FILENO, STDOUT_FILENO) ? 0 : FAILED;
 }
 
-int run(QCoreApplication& app) {
-    std::vector<std::string> arguments;
-    for (const QString& argument : app.arguments().mid(1))
-        arguments.push_back(argument.toStdString());
+int run(QCoreApplication& app, std::span<const std::string> arguments) {
     const virtual_car_options options = read_options(arguments);
     if (options.help) {
         std::cout << usage();
@@ -100,7 +97,7 @@ int main(int argc, char** argv) {
     std::signal(SIGPIPE, SIG_IGN);
     QCoreApplication app(argc, argv);
     try {
-        return run(app);
+        return run(app, std::vector<std::string>(argv + 1, argv + argc));
     } catch (const usage_error& error) {
         std::cerr << "kestrom-virtual-car: " << error.what()
                   << "\nTry 'kestrom-virtual-car --help'.\n";

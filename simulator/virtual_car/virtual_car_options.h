@@ -1,10 +1,10 @@
 // The command line of kestrom-virtual-car.
 #pragma once
 
+#include "option_table.h"
 #include "virtual_adapter.h"
 
 #include <span>
-#include <stdexcept>
 #include <string>
 
 struct virtual_car_options {
@@ -18,10 +18,6 @@ struct virtual_car_options {
     bool help = false;
     bool version = false;
     adapter_options adapter;
-};
-
-class usage_error : public std::runtime_error {
-    using std::runtime_error::runtime_error;
 };
 
 // Throws usage_error.

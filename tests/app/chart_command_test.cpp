@@ -1,21 +1,15 @@
-#include "bundle.h"
-#include "chart_command.h"
-#include "mac_toolies.h"
-#include "user_defaults.h"
+#include "desk_fixture.h"
 
 #include <QImage>
-#include <QTemporaryDir>
 
 #include <fstream>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <sstream>
 
 using testing::HasSubstr;
 
 namespace {
 
-class chart_command_test : public testing::Test {
+class chart_command_test : public desk_test {
   protected:
     int chart(std::string_view log, std::vector<std::string> arguments) {
         std::ofstream(path("run.gol"), std::ios::binary) << log;
@@ -24,25 +18,9 @@ class chart_command_test : public testing::Test {
             times << 500 + i * 1000 << '\n';
         times.close();
         arguments.insert(arguments.begin(), path("run.gol"));
-        return run(arguments);
-    }
-    int run(const std::vector<std::string>& arguments) {
-        out.str({});
-        err.str({});
-        return run_chart(arguments, toolies_, resources_, out, err);
-    }
-    std::string path(const char* name) const {
-        return folder_.filePath(QString::fromUtf8(name)).toStdString();
+        return run("chart", arguments);
     }
     QImage picture() const { return QImage(QString::fromStdString(path("out.png"))); }
-
-    std::ostringstream out, err;
-
-  private:
-    QTemporaryDir folder_;
-    bundle resources_{":/kestrom", "en"};
-    user_defaults settings_{path("chart.conf")};
-    mac_toolies toolies_{{&resources_, &settings_}};
 };
 
 constexpr std::string_view LOG =
@@ -53,7 +31,7 @@ TEST_F(chart_command_test, prints_the_axis_limits_and_draws_at_the_scale) {
     EXPECT_EQ(out.str(), "0C Engine Speed: 0.00 to 4000.00 RPM\nTime: 0.500 to 3.500 s\n");
     const QImage timed = picture();
     std::ofstream(path("run.gol.times")) << "500\n";
-    EXPECT_EQ(run({path("run.gol"), "--pid", "0C", "-o", path("out.png")}), 0);
+    EXPECT_EQ(run({"chart", path("run.gol"), "--pid", "0C", "-o", path("out.png")}), 0);
     EXPECT_THAT(err.str(), HasSubstr("run.gol.times: times of 1 of 4 rounds"));
     EXPECT_NE(picture(), timed);
     EXPECT_EQ(picture().size(), QSize(420, 230));
@@ -99,13 +77,14 @@ TEST_F(chart_command_test, a_log_of_any_bytes_is_charted_or_refused_with_its_nam
 
 TEST_F(chart_command_test, wrong_arguments_and_files_have_their_status) {
     const std::string picture_path = path("out.png");
-    EXPECT_EQ(run({path("none.gol"), "--pid", "0C", "-o", picture_path}), 1);
+    EXPECT_EQ(run({"chart", path("none.gol"), "--pid", "0C", "-o", picture_path}), 1);
     EXPECT_THAT(err.str(), HasSubstr("none.gol"));
     EXPECT_EQ(chart(LOG, {"--pid", "0C", "-o", path("no/such/folder.png")}), 1);
     EXPECT_THAT(err.str(), HasSubstr("folder.png"));
     const std::vector<std::vector<std::string>> wrong = {
         {"-o", picture_path},
         {"--pid", "0C"},
+        {"--pid", "0C", "-o", path("out.jpg")},
         {"--pid", "XY", "-o", picture_path},
         {"--pid", "10C", "-o", picture_path},
         {"--pid", "0C", "-o"},
@@ -120,7 +99,7 @@ TEST_F(chart_command_test, wrong_arguments_and_files_have_their_status) {
         EXPECT_EQ(chart(LOG, arguments), 2);
         EXPECT_THAT(err.str(), HasSubstr("--help"));
     }
-    EXPECT_EQ(run({}), 2);
+    EXPECT_EQ(run({"chart"}), 2);
 }
 
 } // namespace

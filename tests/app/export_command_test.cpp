@@ -1,43 +1,22 @@
-#include "bundle.h"
-#include "export_command.h"
-#include "mac_toolies.h"
-#include "user_defaults.h"
+#include "desk_fixture.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTemporaryDir>
 
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <sstream>
 
 using testing::HasSubstr;
 
 namespace {
 
-class export_command_test : public testing::Test {
+class export_command_test : public desk_test {
   protected:
     export_command_test() { std::filesystem::create_directories(path("data/loggies")); }
 
-    int run(const std::vector<std::string>& arguments) {
-        out.str({});
-        err.str({});
-        return run_export(arguments, toolies_, out, err);
-    }
+    int table(const words& arguments) { return run("export", arguments); }
     void write_log(const std::string& name) const { std::ofstream(path(name)) << "410C0FA0\n"; }
-    std::string path(const std::string& name) const {
-        return folder_.filePath(QString::fromStdString(name)).toStdString();
-    }
-
-    std::ostringstream out, err;
-
-  private:
-    QTemporaryDir folder_;
-    bundle resources_{":/kestrom", "en"};
-    user_defaults settings_{path("export.conf")};
-    mac_toolies toolies_{{&resources_, &settings_, nullptr, nullptr, path("data")}};
 };
 
 TEST_F(export_command_test, tables_stand_beside_their_log_wherever_it_is) {
@@ -52,16 +31,16 @@ TEST_F(export_command_test, tables_stand_beside_their_log_wherever_it_is) {
                  {{"--txt", "run.gol"}, path("data/loggies/run.txt")},
                  {{"fuel.txt", "--txt"}, path("data/loggies/fuel.txt.export.txt")}};
     for (const auto& c : cases) {
-        EXPECT_EQ(run(c.arguments), 0) << err.str();
+        EXPECT_EQ(table(c.arguments), 0) << err.str();
         EXPECT_EQ(out.str(), c.output + "\n");
         std::ostringstream table;
         table << std::ifstream(c.output).rdbuf();
         EXPECT_EQ(table.str(), "Engine Speed (RPM)\n1000.000000\n");
         EXPECT_EQ(err.str(), "");
     }
-    EXPECT_EQ(run({"--time", path("run.gol.d.gol")}), 1) << "there already";
+    EXPECT_EQ(table({"--time", path("run.gol.d.gol")}), 1) << "there already";
     std::filesystem::remove(path("run.csv.d.csv"));
-    EXPECT_EQ(run({"--time", path("run.gol.d.gol")}), 0);
+    EXPECT_EQ(table({"--time", path("run.gol.d.gol")}), 0);
     EXPECT_THAT(err.str(), HasSubstr("run.gol.d.gol.times: not there"));
 }
 
@@ -69,7 +48,7 @@ TEST_F(export_command_test, refusals_have_their_reason_and_status) {
     write_log("data/loggies/run.gol");
     std::ofstream(path("empty.gol"));
     std::ofstream(path("users.txt")) << "root:x:0:0:root,,,:/root:/bin/sh\nError? 4100.0,see\n";
-    EXPECT_EQ(run({"run.gol", "--json"}), 0);
+    EXPECT_EQ(table({"run.gol", "--json"}), 0);
     const QByteArray text = QByteArray::fromStdString(out.str());
     const QJsonObject told = QJsonDocument::fromJson(text).object();
     EXPECT_EQ(told.value(QStringLiteral("export")).toString().toStdString(),
@@ -88,7 +67,7 @@ TEST_F(export_command_test, refusals_have_their_reason_and_status) {
                  {{"a.gol", "b.gol"}, 2, "--help"},
                  {{"--csv", "run.gol"}, 2, "--help"}};
     for (const auto& c : cases) {
-        EXPECT_EQ(run(c.arguments), c.status);
+        EXPECT_EQ(table(c.arguments), c.status);
         EXPECT_THAT(err.str(), HasSubstr(c.complaint));
     }
     EXPECT_FALSE(std::filesystem::exists(path("users.txt.csv")));
@@ -97,7 +76,7 @@ TEST_F(export_command_test, refusals_have_their_reason_and_status) {
          {"~\n", "4\x01.0C\nNO DATA\n", "zz\n41 0C 1\n", "41E50017\r\n", "CAN ERROR"}) {
         std::filesystem::remove(path("odd.csv"));
         std::ofstream(path("odd.gol")) << log;
-        EXPECT_EQ(run({path("odd.gol")}), 0) << err.str();
+        EXPECT_EQ(table({path("odd.gol")}), 0) << err.str();
     }
 }
 

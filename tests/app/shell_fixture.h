@@ -43,6 +43,7 @@ class shell : public testing::Test {
         for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
             surroundings.insert(QLatin1String(name), users_home);
         surroundings.remove(QStringLiteral("DISPLAY"));
+        surroundings.remove(QStringLiteral("XDG_RUNTIME_DIR"));
         surroundings.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"),
                             QStringLiteral("unix:path=/nonexistent")); // this machine's own
         process.setProcessEnvironment(surroundings);

@@ -1,6 +1,10 @@
 // The list of Bluetooth devices against a mock of BlueZ, and what stands in its way.
 #include "bluetooth_scan.h"
 #include "bluez_devices.h"
+#include "commands.h"
+#include "mac_toolies.h"
+#include "user_defaults.h"
+#include "bluez_devices.h"
 #include "bundle.h"
 #include "mock_bluez.h"
 
@@ -108,16 +112,20 @@ TEST(bluetooth_scan, prints_what_was_found_or_why_it_cannot) {
     mock_bluez mock;
     ASSERT_TRUE(mock.usable());
     std::ostringstream out, err;
+    cli_request asked;
+    user_defaults units("/nonexistent/settings.conf");
+    const mac_toolies toolies({&texts, &units});
+    const desk work{asked, toolies, texts, units, out, err};
     {
         bluez_devices devices(mock.connect());
-        EXPECT_EQ(run_bluetooth_scan(devices, texts, 5, false, out, err), 1);
+        EXPECT_EQ(scan_devices(work, devices, 5), 1);
         EXPECT_NE(err.str().find("no Bluetooth adapter"), std::string::npos) << err.str();
         EXPECT_EQ(out.str(), "");
     }
     mock.add_adapter();
     mock.set_device(mock.add_device("00:1D:A5:68:98:8B", "OBD\x1b[31m"), SERIAL_PORT);
     bluez_devices devices(mock.connect());
-    EXPECT_EQ(run_bluetooth_scan(devices, texts, 0.3, false, out, err), 0);
+    EXPECT_EQ(scan_devices(work, devices, 0.3), 0);
     EXPECT_EQ(out.str(), "Address            Paired  Signal    Serial port    Name\n"
                          "00:1D:A5:68:98:8B  no      -79 dBm   yes            OBD [31m\n");
 }

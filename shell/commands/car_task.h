@@ -1,0 +1,51 @@
+// What a command does with a car: a task that runs on a screen, unseen. Owned by command_runner.
+#pragma once
+
+#include "command_line.h"
+#include "report_printer.h"
+
+#include <functional>
+#include <string>
+
+class console_alerts;
+class Ks_lite_delegate;
+
+struct car_task_doors {
+    const cli_request& asked;
+    Ks_lite_delegate& delegate;
+    const console_alerts& messages;
+    std::function<void()> finish; // ends the command at once; otherwise over() is asked
+};
+
+class car_task {
+  public:
+    explicit car_task(const car_task_doors& doors)
+        : asked_(doors.asked), delegate_(doors.delegate), messages_(doors.messages),
+          finish_(doors.finish) {}
+    virtual ~car_task() = default;
+
+    virtual void start() = 0;
+    // Asked whenever something has happened. May begin what comes next.
+    virtual bool over() = 0;
+    virtual bool succeeded() const = 0;
+    // What only the task knows of its failure.
+    virtual std::string what_went_wrong() const { return {}; }
+    // An interruption is the end that it was meant to have.
+    virtual bool may_be_interrupted() const { return false; }
+    // It may last a day: without --timeout nothing ends it, and only the last status is kept.
+    virtual bool has_no_bound() const { return false; }
+    // It tells its progress itself.
+    virtual bool tells_progress() const { return false; }
+    // It is over, and leaves the adapter as it found it.
+    virtual bool tidies_up() const { return false; }
+    // The message is what print() will print: nobody should read it twice.
+    virtual bool is_result(const std::string& message) const { return message.empty(); }
+    // What was found, or as much as there is of it. Also stops a task that still goes on.
+    virtual void print(bool succeeded, const conversation_log& log) = 0;
+
+  protected:
+    const cli_request& asked_;
+    Ks_lite_delegate& delegate_;
+    const console_alerts& messages_;
+    std::function<void()> finish_;
+};

@@ -204,7 +204,7 @@ bool start_recording(conversation_recorder& recorder, const cli_request& asked, 
 
 // Puts the command line's choices into the store; answers the demo's car.
 std::unique_ptr<tcp_adapter_server> use_what_is_asked(user_defaults& defaults,
-                                                       const cli_request& asked) {
+                                                      const cli_request& asked) {
     std::unique_ptr<tcp_adapter_server> car;
     if (asked.demo) {
         car = start_demo_car(asked.demo_car);
@@ -235,7 +235,7 @@ struct house {
     const cli_request& asked;
     std::optional<QTemporaryDir> scratch{};
     user_defaults defaults{settings_path(asked, scratch)};
-    std::unique_ptr<network::served_car> car{use_what_is_asked(defaults, asked)};
+    std::unique_ptr<tcp_adapter_server> car{use_what_is_asked(defaults, asked)};
     const bool first_start = defaults.integer(KS_INTERFACE_KEY) == 0;
     qt_run_loop loop{};
     const bundle resources{resources_for(defaults)};
@@ -284,7 +284,8 @@ int run_window(house& home, Ks_lite_delegate& delegate, main_window& window) {
     QTimer::singleShot(0, &home.application, [&] { // a box that it opens must not hold up the start
         open_screen(delegate, home.asked.screen);
         if (home.asked.screenshot) // once the window has been laid out
-            QTimer::singleShot(200, &home.application, [&] { status = home.leave_with(window, 0); });
+            QTimer::singleShot(200, &home.application,
+                               [&] { status = home.leave_with(window, 0); });
     });
     const int ended = home.application.exec();
     return status ? status : ended;

@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QHash>
 #include <QImage>
 #include <QLinearGradient>
 #include <QPainter>
@@ -37,6 +38,8 @@ inline void lay_over(QRgb* pixels, const QRgb* rest, const QRgb* added, std::siz
         ground[i] = static_cast<std::uint8_t>((rounded >> 8) + more[i]);
     }
 }
+// The same for many pixels.
+void lay_over_many(QRgb* pixels, const QRgb* rest, const QRgb* added, std::size_t count);
 // The `rest` of a pixel below one of this alpha.
 constexpr QRgb rest_below(int alpha) {
     return static_cast<QRgb>(255 - alpha) * 0x01010101U;
@@ -59,6 +62,18 @@ struct kept_detail {
 // A font of `pixels` image units, sharp at every scale.
 QFont image_font(const QString& family, int pixels, bool bold = false);
 double text_width(const QFont& font, const QString& text);
+
+// The widths of texts in one font, of its latest size, measured once: a byte of a reply has 256 of
+// them at most.
+class kept_widths {
+  public:
+    double of(const QFont& font, const QString& text);
+
+  private:
+    QHash<QString, double> widths_;
+    int pixels_ = 0;
+};
+
 QString qstring(std::string_view utf8);
 
 // Colour components from 0 to 1; what lies outside is clamped.

@@ -91,8 +91,8 @@ class line_cover {
             const std::size_t first = block * BLOCK;
             while (block + 1 < covered_.size() && covered_[block + 1] > 0)
                 ++block;
-            lay_over(pixels + first, &rest_[first], &added_[first],
-                     std::min((block + 1) * BLOCK, state_.size()) - first);
+            lay_over_many(pixels + first, &rest_[first], &added_[first],
+                          std::min((block + 1) * BLOCK, state_.size()) - first);
         }
     }
 

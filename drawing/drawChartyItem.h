@@ -15,7 +15,6 @@
 #include <QImage>
 
 #include <array>
-#include <map>
 #include <set>
 #include <string>
 #include <string_view>
@@ -153,7 +152,8 @@ class drawChartyItem {
     void extend_realtime_curve(std::size_t parameter, double value);
     chart_point realtime_point(std::size_t sample, double value) const;
 
-    mutable std::map<std::string, double> axis_label_widths_; // those that were asked for lately
+    mutable kept_widths axis_label_widths_;
+    kept_widths value_widths_;
     kept_detail plot_frame_, readout_name_, level_bar_;
     QImage image_;
     std::string imageID_;

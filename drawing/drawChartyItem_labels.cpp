@@ -86,15 +86,9 @@ double drawChartyItem::lower_limit(const label_record& record) {
 }
 
 double drawChartyItem::get_width_of_axis_label(const label_record& record) const {
-    constexpr std::size_t KEPT_WIDTHS = 64;
     const auto width = [this](double value) {
-        const std::string text = fixed_decimals(value, 2);
-        if (const auto found = axis_label_widths_.find(text); found != axis_label_widths_.end())
-            return found->second;
-        if (axis_label_widths_.size() == KEPT_WIDTHS)
-            axis_label_widths_.clear();
-        const QFont font = image_font(QStringLiteral("Arial"), 10);
-        return axis_label_widths_[text] = text_width(font, qstring(text));
+        return axis_label_widths_.of(image_font(QStringLiteral("Arial"), 10),
+                                     qstring(fixed_decimals(value, 2)));
     };
     return std::max(width(upper_limit(record)), width(lower_limit(record)));
 }

@@ -90,7 +90,7 @@ void drawChartyItem::write_value(canvas& target, double room, double x, double y
         widest_value_ = 0;
     }
     QFont font = image_font(QStringLiteral("Arial"), look.value_pixels);
-    const double width = text_width(font, value);
+    const double width = value_widths_.of(font, value);
     widest_value_ = std::max(widest_value_, width);
     if (widest_value_ > room)
         font.setPixelSize(std::max(look.smallest_value_pixels,

@@ -2,6 +2,7 @@
 #include "fuzz_one.h"
 #include "fuzz_toolkit.h"
 #include "log_export.h"
+#include "pieces_of_log.h"
 #include "scratch_folder.h"
 #include "text.h"
 
@@ -13,19 +14,6 @@ namespace {
 std::string content(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
-}
-
-// The pieces that count as lines, one after the other.
-std::vector<std::string> lines_of(std::string_view log) {
-    std::vector<std::string> lines(1);
-    for (const char c : log) {
-        lines.back() += c;
-        if (c == '\n' || lines.back().size() == 999)
-            lines.emplace_back();
-    }
-    if (lines.back().empty())
-        lines.pop_back();
-    return lines;
 }
 
 std::size_t fields_in(const std::string& line, const export_form& form) {

@@ -4,6 +4,7 @@
 #include "fuzz_one.h"
 #include "fuzz_toolkit.h"
 #include "parameters.h"
+#include "pieces_of_log.h"
 #include "scratch_folder.h"
 #include "text.h"
 
@@ -18,18 +19,13 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
     REQUIRE(log.has_value() == error.empty());
     if (!log)
         return 0;
-    std::vector<std::string_view> lines = split(as_text(bytes), "\n");
-    if (lines.back().empty())
-        lines.pop_back();
+    const std::vector<std::string> lines = lines_of(as_text(bytes));
     REQUIRE(log->samples.rows() == lines.size());
     for (std::size_t row = 0; row < lines.size(); ++row) {
-        const std::vector<std::string_view> replies = split(lines[row], ",");
+        const std::vector<std::string_view> replies = split(std::string_view(lines[row]), ",");
         REQUIRE(replies.size() == log->pids.size());
         for (std::size_t p = 0; p < replies.size(); ++p) {
-            std::string_view field = replies[p];
-            if (field.ends_with('\r'))
-                field.remove_suffix(1);
-            REQUIRE(log->samples.text(row, p) == without(field, " "));
+            REQUIRE(log->samples.text(row, p) == without(trimmed(replies[p], "\r\n"), " "));
             const double value = parameter_value(toolkit.decoder, log->samples.text(row, p)).value;
             REQUIRE(std::isnan(value) ? std::isnan(log->samples.value(row, p))
                                       : log->samples.value(row, p) == value);

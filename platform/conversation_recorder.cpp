@@ -1,8 +1,8 @@
 #include "conversation_recorder.h"
 
-#include <nlohmann/json.hpp>
-
 #include <QDateTime>
+
+#include <nlohmann/json.hpp>
 
 using nlohmann::ordered_json;
 

@@ -10,9 +10,8 @@
 #include "log_file.h"
 #include "run_loop.h"
 
-#include <nlohmann/json_fwd.hpp>
-
 #include <functional>
+#include <nlohmann/json_fwd.hpp>
 #include <optional>
 #include <string>
 #include <string_view>

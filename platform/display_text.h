@@ -7,9 +7,9 @@
 #include <string>
 #include <string_view>
 
-// UTF-8 to QString; bytes that are not UTF-8 become replacement characters; control characters other
-// than tabs and line ends, which become "\n", blanks, and so does what turns the direction of a text.
-// The widget must show it as plain text.
+// UTF-8 to QString; bytes that are not UTF-8 become replacement characters; control characters
+// other than tabs and line ends, which become "\n", blanks, and so does what turns the direction of
+// a text. The widget must show it as plain text.
 QString display_text(std::string_view text);
 
 // The same for a terminal, which an adapter's bytes must not drive; and as one line.

@@ -1,5 +1,6 @@
 #include "log_export.h"
 
+#include "csv_row.h"
 #include "fixed_decimals.h"
 #include "mac_toolies.h"
 #include "notices.h"
@@ -24,8 +25,6 @@ namespace {
 constexpr std::string_view LOG_EXTENSION = ".gol";
 constexpr std::string_view CSV_EXTENSION = ".csv";
 constexpr std::string_view TEXT_EXTENSION = ".txt";
-constexpr std::size_t PIECE_READ = std::size_t{16} * 1024;
-constexpr std::size_t LONGEST_LINE = 999; // bytes; what is longer is taken as several lines
 constexpr int DECIMALS = 6;
 constexpr int TIME_DECIMALS = 3;
 
@@ -73,7 +72,7 @@ std::optional<std::string> why_no_run_log(const std::string& path) {
     std::error_code unknown;
     if (!std::filesystem::is_regular_file(path, unknown))
         return std::nullopt;
-    std::string text(PIECE_READ, '\0');
+    std::string text(log_lines::PIECE, '\0');
     std::ifstream file(path, std::ios::binary);
     file.read(text.data(), static_cast<std::streamsize>(text.size()));
     text.resize(static_cast<std::size_t>(file.gcount()));
@@ -84,7 +83,7 @@ std::optional<std::string> why_no_run_log(const std::string& path) {
 }
 
 log_export::~log_export() {
-    if (input_ >= 0)
+    if (lines_.is_open())
         refuse(export_result::unwritable, {});
 }
 
@@ -105,13 +104,8 @@ export_result log_export::start(const std::string& log, const std::string& outpu
     if (::lstat(output.c_str(), &there) == 0)
         return refuse(export_result::output_exists,
                       "File (" + output + ")already exists.. Bailing out");
-    // A pipe must not keep us waiting for somebody to write to it.
-    input_ = ::open(log.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (input_ < 0 || ::fstat(input_, &there) != 0)
-        return refuse(export_result::unreadable, log + ": " + in_words(errno));
-    if (!S_ISREG(there.st_mode))
-        return refuse(export_result::unreadable, log + ": not a file");
-    size_ = static_cast<std::uint64_t>(there.st_size);
+    if (const auto why = lines_.open(log))
+        return refuse(export_result::unreadable, *why);
     if (form.with_time)
         times_.emplace(log);
     if (const auto why = written_.create(unfinished(output), log_file::existing::refuse))
@@ -120,26 +114,21 @@ export_result log_export::start(const std::string& log, const std::string& outpu
 }
 
 export_result log_export::step() {
-    if (input_ < 0)
+    if (!lines_.is_open())
         return export_result::unreadable;
-    const std::size_t kept = unread_.size();
-    unread_.resize(kept + PIECE_READ);
-    const ssize_t got = ::read(input_, unread_.data() + kept, PIECE_READ);
-    const int error = errno;
-    unread_.resize(kept + static_cast<std::size_t>(std::max<ssize_t>(got, 0)));
-    if (got < 0 && error != EINTR)
-        return refuse(export_result::unreadable,
-                      log_ + ":" + std::to_string(rows_ + 1) + ": " + in_words(error));
+    std::string error;
+    const bool more = lines_.read_piece(error);
+    if (!error.empty())
+        return refuse(export_result::unreadable, error);
     const bool naming = naming_;
-    if (!naming)
-        read_ += static_cast<std::uint64_t>(std::max<ssize_t>(got, 0));
-    take_lines(got == 0);
+    while (const auto line = naming_ == naming ? lines_.next() : std::nullopt)
+        take_line(*line);
     if (naming) {
-        if (got == 0)
+        if (naming_ && !more)
             end_naming();
         return export_result::working;
     }
-    if (const export_result result = write_table(); result != export_result::working || got != 0)
+    if (const export_result result = write_table(); result != export_result::working || more)
         return result;
     if (rows_ == 0)
         return refuse(export_result::empty, log_ + ": no samples");
@@ -151,12 +140,8 @@ export_result log_export::publish() {
         return refuse(export_result::unwritable, output_ + ": " + *why);
     if (const int error = rename_to_new(written_.path(), output_))
         return refuse(export_result::unwritable, output_ + ": " + in_words(error));
-    close_input();
+    lines_.close();
     return export_result::exported;
-}
-
-double log_export::done() const {
-    return size_ == 0 ? 1 : std::min(1.0, static_cast<double>(read_) / static_cast<double>(size_));
 }
 
 export_result log_export::refuse(export_result why, std::string error) {
@@ -164,38 +149,15 @@ export_result log_export::refuse(export_result why, std::string error) {
         written_.close();
         ::unlink(written_.path().c_str());
     }
-    close_input();
+    lines_.close();
     error_ = std::move(error);
     return why;
-}
-
-void log_export::close_input() {
-    if (input_ >= 0)
-        ::close(input_);
-    input_ = -1;
 }
 
 export_result log_export::write_table() {
     const auto why = written_.append_line(table_);
     table_.clear();
     return why ? refuse(export_result::unwritable, output_ + ": " + *why) : export_result::working;
-}
-
-// At the end of the log `all` is taken, also a last line without an end.
-void log_export::take_lines(bool all) {
-    const bool was_naming = naming_;
-    std::string_view rest = unread_;
-    while (!rest.empty()) {
-        const std::size_t end = rest.substr(0, LONGEST_LINE).find('\n');
-        if (end == rest.npos && rest.size() < LONGEST_LINE && !all)
-            break;
-        const std::size_t size = std::min(end == rest.npos ? LONGEST_LINE : end + 1, rest.size());
-        take_line(rest.substr(0, size));
-        rest.remove_prefix(size);
-        if (was_naming && !naming_)
-            return; // from the start, for the rows
-    }
-    unread_.erase(0, unread_.size() - rest.size());
 }
 
 void log_export::take_line(std::string_view line) {
@@ -234,42 +196,31 @@ void log_export::name_columns(std::span<const std::string_view> fields) {
 
 void log_export::end_naming() {
     naming_ = false;
-    unread_.clear();
-    ::lseek(input_, 0, SEEK_SET);
+    lines_.rewind(); // from the start, for the rows
 }
 
 void log_export::add_header() {
-    table_ += form_.with_time ? "Time (s)" : "";
-    for (std::size_t i = 0; i < names_->size(); ++i) {
-        const std::string& pid = (*names_)[i];
-        table_ += i == 0 && !form_.with_time ? "" : ",";
-        table_ += pid.empty() ? "" : parameter_name(toolies_, pid);
-        table_ += " (" + (pid.empty() ? "N/A" : parameter_units(toolies_, pid)) + ")";
-    }
-    table_ += '\n';
+    csv_row header;
+    if (form_.with_time)
+        header.add("Time (s)");
+    for (const std::string& pid : *names_)
+        header.add((pid.empty() ? "" : parameter_name(toolies_, pid)) + " (" +
+                   (pid.empty() ? "N/A" : parameter_units(toolies_, pid)) + ")");
+    table_ += header.text() + '\n';
 }
 
 void log_export::add_row(std::span<const std::string_view> fields) {
+    csv_row row;
     if (times_) {
         const auto time = times_->next();
-        table_ += time ? fixed_decimals(static_cast<double>(*time) / 1000, TIME_DECIMALS) : "nan";
+        row.add(time ? fixed_decimals(static_cast<double>(*time) / 1000, TIME_DECIMALS) : "nan");
     }
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-        table_ += i == 0 && !times_ ? "" : ",";
-        add_value(fields[i]);
+    for (const std::string_view field : fields) {
+        const std::string_view answer = answer_in(trimmed(field)); // the last has the line's end
+        const double value = parameter_value(toolies_, answer.empty() ? "~" : answer).value;
+        row.add(std::isnan(value) ? "nan" : fixed_decimals(value, DECIMALS)); // never "-nan"
     }
-    table_ += '\n';
-}
-
-void log_export::add_value(std::string_view field) {
-    const std::string_view answer = answer_in(trimmed(field)); // the last has the line's end
-    const double value = parameter_value(toolies_, answer.empty() ? "~" : answer).value;
-    if (std::isnan(value)) {
-        table_ += "nan"; // never "-nan"
-        return;
-    }
-    char digits[FIXED_DECIMALS_ROOM];
-    table_.append(digits, write_fixed_decimals(digits, value, DECIMALS));
+    table_ += row.text() + '\n';
 }
 
 export_outcome export_log(const mac_toolies& toolies, const std::string& log,

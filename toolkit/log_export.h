@@ -8,6 +8,7 @@
 #pragma once
 
 #include "log_file.h"
+#include "log_lines.h"
 #include "run_times.h"
 
 #include <cstdint>
@@ -66,7 +67,7 @@ class log_export {
     export_result step();
 
     std::uint64_t rows() const { return rows_; }
-    double done() const; // 0 to 1
+    double done() const { return naming_ ? 0 : lines_.done(); } // 0 to 1
     // Why it failed, with the name of the file, and the line where there is one; empty otherwise.
     const std::string& error() const { return error_; }
     // What a whole table lacks: times. Empty when it lacks nothing.
@@ -76,14 +77,11 @@ class log_export {
     export_result refuse(export_result why, std::string error);
     export_result write_table();
     export_result publish();
-    void take_lines(bool all);
     void take_line(std::string_view line);
     void name_columns(std::span<const std::string_view> fields);
     void end_naming();
     void add_header();
     void add_row(std::span<const std::string_view> fields);
-    void add_value(std::string_view field);
-    void close_input();
 
     const mac_toolies& toolies_;
     std::string log_, output_;
@@ -91,12 +89,9 @@ class log_export {
     std::optional<run_times> times_;
     bool naming_ = false;                           // the log is read ahead for names of columns
     std::optional<std::vector<std::string>> names_; // PIDs of the columns; empty: none yet
-    int input_ = -1;
+    log_lines lines_;
     log_file written_;
-    std::string unread_; // what was read and is not yet a whole line
-    std::string table_;  // lines still to be written
-    std::uint64_t size_ = 0;
-    std::uint64_t read_ = 0;
+    std::string table_; // lines still to be written
     std::uint64_t rows_ = 0;
     std::string error_;
 };

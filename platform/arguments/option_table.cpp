@@ -17,10 +17,9 @@ bool optional_value(const option_text& option) {
 
 // What a value is one of; empty when it is anything.
 std::vector<std::string_view> choices(const option_text& option) {
-    const bool listed = contains(option.value, "|") &&
-                        std::ranges::none_of(option.value, [](unsigned char c) {
-                            return std::isupper(c);
-                        });
+    const bool listed =
+        contains(option.value, "|") &&
+        std::ranges::none_of(option.value, [](unsigned char c) { return std::isupper(c); });
     return listed ? split(option.value, "|") : std::vector<std::string_view>();
 }
 
@@ -29,8 +28,8 @@ QString plain_name(const option_text& option) {
     return QLatin1String(name.data(), static_cast<qsizetype>(name.size()));
 }
 
-// Qt knows no option whose value may be left out: without one it gets an empty one. A character stands
-// for a byte, so that a name of a file passes whatever its bytes are.
+// Qt knows no option whose value may be left out: without one it gets an empty one. A character
+// stands for a byte, so that a name of a file passes whatever its bytes are.
 QStringList words_for_qt(std::span<const option_text> table,
                          std::span<const std::string> arguments) {
     QStringList words{QString()}; // the program
@@ -48,7 +47,8 @@ std::string complaint(const QCommandLineParser& parser) {
     if (const QStringList unknown = parser.unknownOptionNames(); !unknown.isEmpty())
         return "unknown option " + std::string(unknown[0].size() == 1 ? "-" : "--") +
                unknown[0].toLatin1().toStdString();
-    std::string told = parser.errorText().toLatin1().toStdString(); // "Missing value after '--port'."
+    std::string told =
+        parser.errorText().toLatin1().toStdString(); // "Missing value after '--port'."
     told[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(told[0])));
     return std::string(trimmed(told, "."));
 }
@@ -79,17 +79,17 @@ std::vector<std::string_view> words_of(std::string_view text) {
 words_read read_words(std::span<const option_text> table, std::span<const std::string> arguments) {
     QCommandLineParser parser;
     for (const option_text& option : table)
-        parser.addOption({plain_name(option), {},
-                          option.value.empty() ? QString() : QStringLiteral("value")});
+        parser.addOption(
+            {plain_name(option), {}, option.value.empty() ? QString() : QStringLiteral("value")});
     if (!parser.parse(words_for_qt(table, arguments)))
         throw usage_error(complaint(parser));
     words_read words;
     QHash<QString, qsizetype> seen;
     for (const QString& name : parser.optionNames()) {
         const auto row = std::ranges::find(table, name, plain_name);
-        const std::string value =
-            row->value.empty() ? std::string()
-                               : parser.values(name)[seen[name]++].toLatin1().toStdString();
+        const std::string value = row->value.empty()
+                                      ? std::string()
+                                      : parser.values(name)[seen[name]++].toLatin1().toStdString();
         check_value(*row, value);
         words.options.emplace_back(row - table.begin(), value);
     }

@@ -1,5 +1,5 @@
-// The options of a program as rows of one table: the words of its command line are read by it, and its
-// help is written from it. Qt's QCommandLineParser takes the words apart.
+// The options of a program as rows of one table: the words of its command line are read by it, and
+// its help is written from it. Qt's QCommandLineParser takes the words apart.
 #pragma once
 
 #include <charconv>
@@ -18,11 +18,12 @@ struct usage_error : std::runtime_error {
 };
 
 struct option_text {
-    std::string_view name;     // "--pids", "-o"
-    std::string_view value{};  // empty: a switch; "[=CAR]": may be left out; "log|fuel": one of these
+    std::string_view name; // "--pids", "-o"
+    std::string_view
+        value{}; // empty: a switch; "[=CAR]": may be left out; "log|fuel": one of these
     std::string_view effect{}; // for the help; its further lines are indented there
-    // Words with blanks between them: what it goes with (empty: everything), and the options that it
-    // excludes.
+    // Words with blanks between them: what it goes with (empty: everything), and the options that
+    // it excludes.
     std::string_view belongs{};
     std::string_view excludes{};
 };
@@ -66,7 +67,8 @@ std::vector<option_text> texts_of(std::span<const option_row<REQUEST>> table) {
 
 // All of the text a number in [lowest, highest]; throws usage_error.
 template <typename NUMBER>
-NUMBER read_number(const std::string& option, std::string_view text, NUMBER lowest, NUMBER highest) {
+NUMBER read_number(const std::string& option, std::string_view text, NUMBER lowest,
+                   NUMBER highest) {
     NUMBER value{};
     const auto [end, bad] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (bad == std::errc() && end == text.data() + text.size() && value >= lowest &&
@@ -74,6 +76,6 @@ NUMBER read_number(const std::string& option, std::string_view text, NUMBER lowe
         return value;
     std::ostringstream bounds;
     bounds << std::setprecision(15) << lowest << " to " << highest;
-    throw usage_error(option + " is a number from " + bounds.str() + ", not '" +
-                      std::string(text) + "'");
+    throw usage_error(option + " is a number from " + bounds.str() + ", not '" + std::string(text) +
+                      "'");
 }

@@ -30,6 +30,7 @@ QColor laid_over(const QColor& ground, const QColor& shade) {
 thumbnail_strip::thumbnail_strip(QWidget* parent) : QWidget(parent), spoken(QAccessible::List) {
     setObjectName(QStringLiteral("thumbiesMtrx"));
     setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent); // cells cover all of it
 }
 
 void thumbnail_strip::renew(const std::vector<QString>& names) {
@@ -215,7 +216,7 @@ void thumbnail_strip::paintEvent(QPaintEvent* event) {
             continue;
         const QImage& picture = cells_[static_cast<std::size_t>(cell)].picture;
         if (picture.isNull())
-            painter.fillRect(place, CELL_GROUND);
+            painter.fillRect(place, ground());
         else
             painter.drawImage(place, picture); // has its ground
         if (selected_.contains(cell)) {

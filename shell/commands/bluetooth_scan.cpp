@@ -6,14 +6,13 @@
 #include "progress_line.h"
 #include "report_printer.h"
 
-#include <nlohmann/json.hpp>
-
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTimer>
 
 #include <algorithm>
 #include <iomanip>
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace {
@@ -34,8 +33,8 @@ std::string as_json(const std::vector<bluetooth_entry>& devices, const std::stri
     ordered_json list = ordered_json::array();
     for (const bluetooth_entry& device : devices)
         list.push_back(as_json(device));
-    return json_lines({{"devices", list},
-                       {"error", error.empty() ? ordered_json() : ordered_json(error)}});
+    return json_lines(
+        {{"devices", list}, {"error", error.empty() ? ordered_json() : ordered_json(error)}});
 }
 
 void print_text(const std::vector<bluetooth_entry>& devices, std::ostream& out) {

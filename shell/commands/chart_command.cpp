@@ -55,12 +55,13 @@ QImage draw_chart(const desk& work, const run_log& log, const std::vector<int>& 
     for (const int column : std::set<int>(columns.begin(), columns.end())) {
         const label_record& label = labels[static_cast<std::size_t>(column)];
         work.out << log.pids[static_cast<std::size_t>(column)] << ' ' << label.name << ": "
-            << fixed_decimals(drawChartyItem::lower_limit(label), 2) << " to "
-            << fixed_decimals(drawChartyItem::upper_limit(label), 2) << ' ' << label.units << '\n';
+                 << fixed_decimals(drawChartyItem::lower_limit(label), 2) << " to "
+                 << fixed_decimals(drawChartyItem::upper_limit(label), 2) << ' ' << label.units
+                 << '\n';
     }
     if (log.from)
         work.out << "Time: " << fixed_decimals(static_cast<double>(*log.from) / 1000, 3) << " to "
-            << fixed_decimals(static_cast<double>(*log.to) / 1000, 3) << " s\n";
+                 << fixed_decimals(static_cast<double>(*log.to) / 1000, 3) << " s\n";
     return chart.image();
 }
 
@@ -76,7 +77,7 @@ QImage draw_dial(const desk& work, const run_log& log, int column) {
         dial.draw_cur_needle_value(last, std::isnan(log.last_values[place].value) ? needle::greyed
                                                                                   : needle::lit);
     work.out << log.pids[place] << ' ' << parameter_name(work.toolies, log.pids[place]) << ": "
-        << log.last_values[place].text << '\n';
+             << log.last_values[place].text << '\n';
     return dial.image();
 }
 

@@ -8,9 +8,8 @@
 #include "text.h"
 #include "unread_text.h"
 
-#include <nlohmann/json.hpp>
-
 #include <cstdio>
+#include <nlohmann/json.hpp>
 
 namespace {
 

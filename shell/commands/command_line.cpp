@@ -83,7 +83,8 @@ constexpr std::array OPTIONS = {
          "live"},
         take_pids},
     row{{"--run", "log|fuel|o2|boost",
-         "what to sample: the parameters (log, the default), fuel economy, oxygen\nsensors or boost",
+         "what to sample: the parameters (log, the default), fuel economy, oxygen\nsensors or "
+         "boost",
          "live"},
         [](cli_request& asked, text, text value) { asked.run = value; }},
     row{{"--seconds", "N", "end so many seconds after the first request of the run", "live",
@@ -93,14 +94,14 @@ constexpr std::array OPTIONS = {
         }},
     row{{"--cycles", "N", "end after so many cycles; without either Ctrl+C ends it", "live"},
         [](cli_request& asked, text name, text value) {
-            asked.cycles = read_number(name, value, 1ULL,
-                                       std::numeric_limits<unsigned long long>::max());
+            asked.cycles =
+                read_number(name, value, 1ULL, std::numeric_limits<unsigned long long>::max());
         }},
     row{{"--log", "", "write a run log, as the window does", "live"},
         [](cli_request& asked, text, text) { asked.log = true; }},
     row{{"--fast", "",
-         "ask for several values at once and wait no longer than needed, as far as\n"
-         "adapter and car prove that they can; some cars do not like it",
+         "ask for several values at once and wait no longer than needed, as far as\nadapter and car prove "
+         "that they can; some cars do not like it",
          "live"},
         [](cli_request& asked, text, text) { asked.fast = true; }},
     row{{"--units", "metric|imperial", "units of the texts; else those of the settings", "decode"},
@@ -131,9 +132,8 @@ constexpr std::array OPTIONS = {
             asked.demo = true;
             asked.demo_car = value;
         }},
-    row{{"--adapter", "HOST:PORT",
-         "talk to this Wi-Fi adapter instead of the one in the settings", "window car",
-         "--bluetooth"},
+    row{{"--adapter", "HOST:PORT", "talk to this Wi-Fi adapter instead of the one in the settings",
+         "window car", "--bluetooth"},
         take_adapter},
     row{{"--bluetooth", "ADDRESS", "talk to this Bluetooth adapter, without asking", "window car"},
         take_bluetooth},

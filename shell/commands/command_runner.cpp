@@ -7,11 +7,12 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 namespace {
 constexpr double DEFAULT_BOUND_SECONDS = 60;
 constexpr double LONGEST_BOUND_MS = 2e9;
-constexpr int TIDYING_BOUND_MS = 1000;
+constexpr int LONGEST_FAREWELL_MS = 1000; // to an adapter that does not do as it is told
 } // namespace
 
 command_runner::command_runner(const cli_request& asked, Ks_lite_delegate& delegate,
@@ -52,23 +53,10 @@ void command_runner::take_status(const std::string& text) {
 }
 
 void command_runner::look() {
-    if (begun_ && !ended_ && (task_->over() || messages_.endless()))
+    if (status_ && !task_->puts_adapter_back())
+        leave();
+    else if (begun_ && !ended_ && (task_->over() || messages_.endless()))
         finish();
-    else if (leaves_with_ && !task_->tidies_up())
-        leave(*leaves_with_);
-}
-
-// When the adapter is as it was, at the latest after a second.
-void command_runner::leave(int exit_status) {
-    if (!task_->tidies_up()) {
-        leaves_with_.reset();
-        bound_.stop();
-        done_(exit_status);
-    } else if (!leaves_with_) {
-        leaves_with_ = exit_status;
-        bound_.callOnTimeout([this] { done_(*leaves_with_); });
-        bound_.start(TIDYING_BOUND_MS);
-    }
 }
 
 void command_runner::finish() {
@@ -93,14 +81,19 @@ void command_runner::end(bool succeeded, const std::string& why) {
     clear_progress();
     told_.messages = messages_.messages();
     task_->print(succeeded, told_);
-    if (output_lost()) {
-        leave(1);
-        return;
+    status_ = succeeded && !output_lost() ? 0 : 1;
+    if (!succeeded && !output_lost()) {
+        const bool just_read = !why.empty() && why == messages_.last_printed();
+        std::fprintf(stderr, "kestrom: %s failed%s%s\n", asked_.command.c_str(), just_read ? "" : ": ",
+                     just_read ? "" : printable(why).c_str());
     }
-    if (!succeeded && !why.empty() && why == messages_.last_printed()) // it has just been read
-        std::fprintf(stderr, "kestrom: %s failed\n", asked_.command.c_str());
-    else if (!succeeded)
-        std::fprintf(stderr, "kestrom: %s failed: %s\n", asked_.command.c_str(),
-                     printable(why).c_str());
-    leave(succeeded ? 0 : 1);
+    if (task_->puts_adapter_back())
+        QTimer::singleShot(LONGEST_FAREWELL_MS, this, [this] { leave(); });
+    else
+        leave();
+}
+
+void command_runner::leave() {
+    if (const auto done = std::exchange(done_, nullptr))
+        done(*status_);
 }

@@ -1,5 +1,6 @@
 // Runs one command of the command line on the screens themselves, without a display: presses the
-// button, is told of all that happens, and prints what was found once the task is over. Owned by main.
+// button, is told of all that happens, and prints what was found once the task is over. Owned by
+// main.
 #pragma once
 
 #include "car_task.h"
@@ -31,7 +32,7 @@ class command_runner final : public QObject {
     void look();
     void finish();
     void end(bool succeeded, const std::string& why);
-    void leave(int exit_status);
+    void leave();
 
     const cli_request& asked_;
     Ks_lite_delegate& delegate_;
@@ -41,5 +42,5 @@ class command_runner final : public QObject {
     QTimer bound_;
     conversation_log told_;
     bool begun_ = false, ended_ = false;
-    std::optional<int> leaves_with_;
+    std::optional<int> status_; // once ended
 };

@@ -19,8 +19,7 @@ constexpr std::size_t MANY = 10'000;
 
 // A new command is a row here and a function; options of its own are rows in command_line.cpp.
 constexpr command_row COMMANDS[] = {
-    {"codes", 0, 0, "",
-     "read lamp, trouble codes and readiness monitors",
+    {"codes", 0, 0, "", "read lamp, trouble codes and readiness monitors",
      R"(With --json: one object, described in docs/json/codes.schema.json.
 Exit status: 0 when the car told its codes, 1 when it did not or a part could not be read.
 
@@ -32,8 +31,7 @@ Examples
   kestrom --demo --screenshot codes.png codes
 )",
      nullptr, nullptr, begin_codes},
-    {"clear", 0, 0, "--yes",
-     "clear the trouble codes",
+    {"clear", 0, 0, "--yes", "clear the trouble codes",
      R"(Clears the codes and with them the results of the readiness monitors, which the car works out
 anew over the next drives. With --json: the object of the command codes.
 Exit status: 0 when the car confirmed it, 1 when it did not.
@@ -42,8 +40,7 @@ Example
   kestrom --adapter 192.168.0.10:35000 clear --yes
 )",
      check_clear, nullptr, begin_codes},
-    {"send", 1, MANY, "COMMAND...",
-     "send each command and print the raw reply",
+    {"send", 1, MANY, "COMMAND...", "send each command and print the raw reply",
      R"(A command is 1 to 38 plain characters: the adapter's own (AT ...) or a request to the car in hex
 digits. With --json: one object, described in docs/json/send.schema.json.
 Exit status: 0 when each was answered with a prompt, 1 when one was not.
@@ -53,8 +50,7 @@ Examples
   kestrom --demo send "AT E0" "09 02" --json
 )",
      check_send, nullptr, begin_send},
-    {"pids", 0, 0, "",
-     "list the parameters that the car supports, with names and units",
+    {"pids", 0, 0, "", "list the parameters that the car supports, with names and units",
      R"(Asks every unit of the car, as far as each group of parameters announces the next. A parameter that
 cannot be told in words or numbers is marked so. With --json: one object, described in
 docs/json/pids.schema.json.
@@ -65,8 +61,7 @@ Examples
   kestrom --adapter 192.168.0.10:35000 pids --json
 )",
      nullptr, nullptr, begin_pids},
-    {"live", 0, 0, "",
-     "sample without pause and print the values of each cycle",
+    {"live", 0, 0, "", "sample without pause and print the values of each cycle",
      R"(Prints CSV with a header, a line for each cycle as it completes; a summary follows on standard error;
 its seconds, and those of --seconds, do not count the way to the car.
 With --json: a line of JSON for each cycle and one for the summary (docs/json/live.schema.json).
@@ -79,8 +74,7 @@ Examples
   kestrom live --run boost --json | grep cycle
 )",
      check_live, nullptr, begin_live},
-    {"decode", 1, MANY, "REPLY...",
-     "what replies to service 01 requests mean: text and number",
+    {"decode", 1, MANY, "REPLY...", "what replies to service 01 requests mean: text and number",
      R"(A line for each reply: the text, a tab, the number. A reply may write its line ends as \r and \n.
 A run shows some parameters in a way that misleads (the
 pressure of the evaporative system, catalyst temperatures, the commanded ratio, "V" behind trims);
@@ -93,8 +87,7 @@ Examples
   kestrom decode "41 3C 11 94" --standard
 )",
      check_decode, run_decode},
-    {"vin", 1, 1, "REPLY",
-     "the vehicle identification number in a reply to 09 02",
+    {"vin", 1, 1, "REPLY", "the vehicle identification number in a reply to 09 02",
      R"(Prints N/A when there is none in it. With --json: docs/json/vin.schema.json.
 Exit status: 0 success, 1 when it is not whole, 2 the arguments make no sense.
 
@@ -102,8 +95,7 @@ Example
   kestrom vin "014\r0:490201314731\r1:4A4734554A35\r2:3643313132323330\r>"
 )",
      nullptr, run_vin},
-    {"mode6", 2, 2, "ID VALUE",
-     "a test result scaled by its unit-and-scaling identifier",
+    {"mode6", 2, 2, "ID VALUE", "a test result scaled by its unit-and-scaling identifier",
      R"(Both in hex digits: two, and up to eight. With --standard the value has up to four and identifiers from
 80 on are signed. With --json: docs/json/mode6.schema.json.
 Exit status: 0 success, 2 the arguments make no sense.
@@ -123,8 +115,7 @@ Examples
   kestrom chart run.gol --pid 0C --dial -o dial.png
 )",
      check_chart, run_chart},
-    {"export", 1, 1, "LOG.gol",
-     "turn a run log into a table (CSV) beside it",
+    {"export", 1, 1, "LOG.gol", "turn a run log into a table (CSV) beside it",
      R"(A plain name that is no file here is that of a log in the log folder. An export that is there is
 never overwritten. With --json: docs/json/export.schema.json.
 Exit status: 0 success, 1 the log or the export failed, 2 the arguments make no sense.
@@ -134,8 +125,7 @@ Examples
   kestrom export ./run.gol --txt --time
 )",
      nullptr, run_export},
-    {"lookup", 1, MANY, "CODE|TEXT",
-     "what a trouble code means, or which codes speak of something",
+    {"lookup", 1, MANY, "CODE|TEXT", "what a trouble code means, or which codes speak of something",
      R"(A code's description, or every code whose description holds all of the words, in letters of any
 case. With --json: docs/json/lookup.schema.json.
 Exit status: 0 success, 1 nothing was found, 2 the arguments make no sense.
@@ -145,8 +135,7 @@ Examples
   kestrom lookup "oil pressure"
 )",
      check_lookup, run_lookup},
-    {"bluetooth-scan", 0, 0, "",
-     "list the Bluetooth devices that are paired or in reach",
+    {"bluetooth-scan", 0, 0, "", "list the Bluetooth devices that are paired or in reach",
      R"(With --json: docs/json/bluetooth-scan.schema.json.
 Exit status: 0 when a search was made, 1 when Bluetooth cannot be used.
 
@@ -155,8 +144,7 @@ Examples
   kestrom bluetooth-scan --timeout 5 --json
 )",
      nullptr, run_bluetooth_scan},
-    {HELP, 0, 1, "[COMMAND]",
-     "tell what a command does, and its options",
+    {HELP, 0, 1, "[COMMAND]", "tell what a command does, and its options",
      R"(The same as "kestrom COMMAND --help", or "kestrom --help" without a command.
 Exit status: 0, or 2 when there is no such command.
 
@@ -174,8 +162,9 @@ std::vector<option_text> options_for(const command_row* command) {
     std::vector<option_text> listed;
     const auto subjects = subjects_of(command);
     for (const option_text& option : all_options())
-        if (command ? std::ranges::any_of(subjects, [&](auto one) { return goes_with(option, one); })
-                    : is_general(option))
+        if (command
+                ? std::ranges::any_of(subjects, [&](auto one) { return goes_with(option, one); })
+                : is_general(option))
             listed.push_back(option);
     return listed;
 }
@@ -185,9 +174,12 @@ std::string synopsis(const command_row& command) {
     std::string line(command.name);
     line.append(command.arguments.empty() ? "" : " ").append(command.arguments);
     for (const option_text& option : options_for(&command))
-        if (!option.belongs.empty() && !is_general(option) && !contains(command.arguments, option.name))
-            line.append(" [").append(option.name).append(option.value.empty() ? "" : " ").append(
-                option.value) += "]";
+        if (!option.belongs.empty() && !is_general(option) &&
+            !contains(command.arguments, option.name))
+            line.append(" [")
+                .append(option.name)
+                .append(option.value.empty() ? "" : " ")
+                .append(option.value) += "]";
     return line;
 }
 

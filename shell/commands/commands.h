@@ -1,4 +1,5 @@
-// The commands of the command line: what each takes, what its help says, and the function that does it.
+// The commands of the command line: what each takes, what its help says, and the function that does
+// it.
 #pragma once
 
 #include "command_line.h"
@@ -36,7 +37,7 @@ struct command_row {
     std::size_t least, most; // arguments
     std::string_view arguments;
     std::string_view summary;
-    std::string_view details; // whole lines, examples among them
+    std::string_view details;                    // whole lines, examples among them
     void (*check)(const cli_request&) = nullptr; // throws usage_error
     int (*run)(const desk&) = nullptr;
     std::unique_ptr<car_task> (*begin)(const car_task_doors&) = nullptr;

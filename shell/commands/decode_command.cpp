@@ -11,12 +11,11 @@
 #include "text.h"
 #include "user_defaults.h"
 
-#include <nlohmann/json.hpp>
-
 #include <algorithm>
 #include <cctype>
 #include <charconv>
 #include <cmath>
+#include <nlohmann/json.hpp>
 #include <ostream>
 #include <string_view>
 

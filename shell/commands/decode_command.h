@@ -1,5 +1,5 @@
-// Commands that decode replies given on the command line. A reply may write its line ends as \r and \n.
-// Each prints a line per answer, or with --json an object (docs/json).
+// Commands that decode replies given on the command line. A reply may write its line ends as \r and
+// \n. Each prints a line per answer, or with --json an object (docs/json).
 #pragma once
 
 struct cli_request;

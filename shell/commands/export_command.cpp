@@ -7,10 +7,9 @@
 #include "report_printer.h"
 #include "run_log.h"
 
-#include <nlohmann/json.hpp>
-
 #include <csignal>
 #include <filesystem>
+#include <nlohmann/json.hpp>
 #include <ostream>
 #include <utility>
 
@@ -49,13 +48,14 @@ int run_export(const desk& work) {
     if (const auto why = why_no_run_log(log.string())) {
         outcome = {export_result::unreadable, 0, *why, {}};
     } else {
-        outcome = export_log(work.toolies, log.string(), output.string(),
-                             {.with_time = work.asked.with_time}, [shown = -1](double done) mutable {
-                                 const int percent = static_cast<int>(done * 100); // 0 to 1
-                                 if (std::exchange(shown, percent) != percent)
-                                     show_progress("Exporting: " + std::to_string(percent) + " %");
-                                 return !interrupted;
-                             });
+        outcome =
+            export_log(work.toolies, log.string(), output.string(),
+                       {.with_time = work.asked.with_time}, [shown = -1](double done) mutable {
+                           const int percent = static_cast<int>(done * 100); // 0 to 1
+                           if (std::exchange(shown, percent) != percent)
+                               show_progress("Exporting: " + std::to_string(percent) + " %");
+                           return !interrupted;
+                       });
         clear_progress();
     }
     if (work.asked.json)

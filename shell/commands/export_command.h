@@ -3,6 +3,6 @@
 
 struct desk;
 
-// LOG.gol: a path or the name of a log in the log folder. Prints where the table went. Exit status 1
-// when the log cannot be exported.
+// LOG.gol: a path or the name of a log in the log folder. Prints where the table went. Exit status
+// 1 when the log cannot be exported.
 int run_export(const desk& work);

@@ -13,12 +13,11 @@
 #include "text.h"
 #include "user_defaults.h"
 
-#include <nlohmann/json.hpp>
-
 #include <QTime>
 
 #include <cmath>
 #include <cstdio>
+#include <nlohmann/json.hpp>
 #include <optional>
 #include <unistd.h>
 
@@ -55,8 +54,8 @@ class live_command final : public car_task {
         return asked_.cycles == 0 && asked_.seconds <= 0 && sampled();
     }
     bool has_no_bound() const override { return true; }
+    bool puts_adapter_back() const override { return screen_ && screen_->puts_adapter_back(); }
     bool tells_progress() const override { return sampled(); }
-    bool tidies_up() const override { return screen_->puts_adapter_back(); }
     void print(bool succeeded, const conversation_log& log) override;
 
   private:
@@ -274,28 +273,27 @@ void live_command::show_cycles() {
 
 void live_command::print_summary() const {
     const std::string& log = screen_->log_path();
-    const int level = screen_->fast_level().value_or(0);
     if (asked_.json) {
-        ordered_json told{{"cycles", screen_->cycles()},
-                          {"requests", screen_->requests_answered()},
-                          {"seconds", rounded(seconds(), 3)},
-                          {"requests_per_second", rounded(rate(), 1)},
-                          {"log", log}};
+        ordered_json summary = {{"cycles", screen_->cycles()},
+                                {"requests", screen_->requests_answered()},
+                                {"seconds", rounded(seconds(), 3)},
+                                {"requests_per_second", rounded(rate(), 1)},
+                                {"log", log}};
         if (asked_.fast)
-            told["fast_level"] = level;
-        std::fputs(json_line(told).c_str(), stdout);
+            summary["fast_level"] = screen_->fast_level().value_or(0);
+        std::fputs(json_line(summary).c_str(), stdout);
         return;
     }
     if (output_lost())
         return;
     const char* const what = asked_.fast ? "values" : "requests";
-    const std::string how =
-        asked_.fast ? ", " + screen_->localized("ui_fast_level_" + std::to_string(level)) : "";
+    const std::string level = std::to_string(screen_->fast_level().value_or(0));
     std::fprintf(stderr, "%s cycles, %s %s in %s s: %s %s per second%s\n",
                  std::to_string(screen_->cycles()).c_str(),
                  std::to_string(screen_->requests_answered()).c_str(), what,
                  fixed_decimals(seconds(), TIME_DECIMALS).c_str(),
-                 fixed_decimals(rate(), 1).c_str(), what, how.c_str());
+                 fixed_decimals(rate(), 1).c_str(), what,
+                 asked_.fast ? (", " + screen_->localized("ui_fast_level_" + level)).c_str() : "");
     if (!log.empty())
         std::fprintf(stderr, "Log: %s\n", printable(log).c_str());
 }
@@ -308,5 +306,6 @@ std::unique_ptr<car_task> begin_live(const car_task_doors& doors) {
 
 void check_live(const cli_request& asked) {
     if ((!asked.pids.empty() || asked.all_pids) && asked.run != "log")
-        throw usage_error("--pids goes with --run log; the other runs have parameters of their own");
+        throw usage_error(
+            "--pids goes with --run log; the other runs have parameters of their own");
 }

@@ -1,5 +1,5 @@
-// The command live: runs the live-data screen without a display and prints a line of values for each
-// cycle as it completes.
+// The command live: runs the live-data screen without a display and prints a line of values for
+// each cycle as it completes.
 #pragma once
 
 #include <memory>

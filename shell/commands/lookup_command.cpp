@@ -6,7 +6,6 @@
 #include "report_printer.h"
 
 #include <nlohmann/json.hpp>
-
 #include <ostream>
 
 namespace {

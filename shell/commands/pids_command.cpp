@@ -7,9 +7,8 @@
 #include "parameters.h"
 #include "text.h"
 
-#include <nlohmann/json.hpp>
-
 #include <cstdio>
+#include <nlohmann/json.hpp>
 #include <vector>
 
 namespace {
@@ -48,7 +47,9 @@ class pids_command final : public car_task {
         screen_->ask_what_car_supports({});
     }
     bool over() override { return !screen_->awaits_adapter(); }
-    bool succeeded() const override { return screen_->scan_completed() && screen_->car_parameters(); }
+    bool succeeded() const override {
+        return screen_->scan_completed() && screen_->car_parameters();
+    }
     void print(bool succeeded, const conversation_log& log) override {
         if (asked_.json)
             print_json(log);
@@ -74,8 +75,8 @@ class pids_command final : public car_task {
                             {"name", text_or_null(one.name)},
                             {"unit", text_or_null(one.unit)},
                             {"decoded", one.decoded}});
-        print_conversation({{"parameters", list}},
-                           log.statuses.empty() ? "" : log.statuses.back(), log);
+        print_conversation({{"parameters", list}}, log.statuses.empty() ? "" : log.statuses.back(),
+                           log);
     }
 
     actions* screen_ = nullptr;

@@ -1,5 +1,5 @@
-// Turns SIGINT, SIGTERM and SIGHUP into an orderly end: the callback runs from the event loop. One per
-// program.
+// Turns SIGINT, SIGTERM and SIGHUP into an orderly end: the callback runs from the event loop. One
+// per program.
 #pragma once
 
 #include <QObject>

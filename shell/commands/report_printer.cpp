@@ -1,10 +1,9 @@
 #include "report_printer.h"
 
-#include <nlohmann/json.hpp>
-
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
+#include <nlohmann/json.hpp>
 
 namespace {
 

@@ -4,11 +4,16 @@
 #include "mac_toolies.h"
 #include "sample_rows.h"
 
+#include <limits>
 #include <optional>
 #include <string>
 #include <vector>
 
 struct run_log {
+    explicit run_log(std::size_t parameters)
+        : pids(parameters), samples(parameters), last_values(parameters),
+          last_numbers(parameters, std::numeric_limits<double>::quiet_NaN()) {}
+
     std::vector<std::string>
         pids; // of each column, as its first readable reply says; empty when none does
     sample_rows samples;
@@ -20,8 +25,8 @@ struct run_log {
     std::string times_complaint{};
 };
 
-// The log that a user named: a file that is there by its path; a plain name that is no file here may
-// be that of a log in the log folder.
+// The log that a user named: a file that is there by its path; a plain name that is no file here
+// may be that of a log in the log folder.
 std::string path_of_log(const std::string& log, const mac_toolies& toolies);
 
 // Nothing, with the file's name and line in `error`, when the file cannot be read, is empty, is no

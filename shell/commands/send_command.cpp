@@ -9,10 +9,9 @@
 #include "progress_line.h"
 #include "reply_accumulator.h"
 
-#include <nlohmann/json.hpp>
-
 #include <algorithm>
 #include <cstdio>
+#include <nlohmann/json.hpp>
 #include <unistd.h>
 
 namespace {
@@ -55,7 +54,7 @@ class send_command final : public car_task {
             return messages_.last_printed().empty() ? "no Bluetooth connection"
                                                     : messages_.last_printed();
         return "no reply to '" + asked_.arguments[sent_ - 1] + "'" +
-               (too_long_ ? ": no prompt within 64 KiB"
+               (too_long_                   ? ": no prompt within 64 KiB"
                 : screen_->status().empty() ? ""
                                             : ": " + screen_->status());
     }

@@ -39,8 +39,7 @@ constexpr std::array OPTIONS = {
         [](request& asked, text, text value) { asked.options.address = value; }},
     row{{"--protocol", "NAME", "put the car on another bus of --list", "", "--replay"},
         take_protocol},
-    row{{"--latency", "MS",
-         "every request takes that long, 0 for no time (as on the car's bus)"},
+    row{{"--latency", "MS", "every request takes that long, 0 for no time (as on the car's bus)"},
         [](request& asked, text name, text value) {
             asked.options.adapter.latency =
                 std::chrono::milliseconds(read_number(name, value, 0, 600000));
@@ -49,11 +48,13 @@ constexpr std::array OPTIONS = {
         [](request& asked, text name, text value) {
             asked.options.adapter.timing = read_number(name, value, 0.0, 100.0);
         }},
-    row{{"--baud", "N", "the chip speaks over a serial line of N baud, 0 for none (0)", "", "--replay"},
+    row{{"--baud", "N", "the chip speaks over a serial line of N baud, 0 for none (0)", "",
+         "--replay"},
         [](request& asked, text name, text value) {
             asked.options.adapter.baud = read_number(name, value, 0, 10'000'000);
         }},
-    row{{"--round-trip", "MS", "the radio takes MS milliseconds there and back (0)", "", "--replay"},
+    row{{"--round-trip", "MS", "the radio takes MS milliseconds there and back (0)", "",
+         "--replay"},
         [](request& asked, text name, text value) {
             asked.options.adapter.round_trip =
                 std::chrono::milliseconds(read_number(name, value, 0, 60000));
@@ -64,11 +65,11 @@ constexpr std::array OPTIONS = {
         }},
     row{{"--seed", "N", "another drive, other accidents (1)", "", "--replay"},
         [](request& asked, text name, text value) {
-            asked.options.adapter.seed = read_number(
-                name, value, std::uint64_t{0}, std::numeric_limits<std::uint64_t>::max());
+            asked.options.adapter.seed = read_number(name, value, std::uint64_t{0},
+                                                     std::numeric_limits<std::uint64_t>::max());
         }},
-    row{{"--fault", "NAME[=V]", "what goes wrong, a fault of --list; may be given several times", "",
-         "--replay"},
+    row{{"--fault", "NAME[=V]", "what goes wrong, a fault of --list; may be given several times",
+         "", "--replay"},
         take_fault},
     row{{"--replay", "FILE", "answer from a recording of kestrom --record instead of a car"},
         [](request& asked, text, text value) { asked.options.replay = value; }},
@@ -97,7 +98,8 @@ virtual_car_options read_options(std::span<const std::string> arguments) {
 
 std::string usage() {
     return "Usage: kestrom-virtual-car [OPTION]...\n\n"
-           "A car with an ELM327-type Wi-Fi adapter, for trying Kestrom without either.\n\nOptions\n" +
+           "A car with an ELM327-type Wi-Fi adapter, for trying Kestrom without "
+           "either.\n\nOptions\n" +
            option_lines(texts_of(std::span<const row>(OPTIONS))) +
            R"(
 Exit status: 0 success, 1 it cannot listen or write, 2 the arguments, the car file or the recording make

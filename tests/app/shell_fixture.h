@@ -1,4 +1,5 @@
-// The program as a user runs it from a shell, in a home of its own; a test may serve it a virtual car.
+// The program as a user runs it from a shell, in a home of its own; a test may serve it a virtual
+// car.
 #pragma once
 
 #include "tcp_adapter_server.h"

@@ -1,12 +1,11 @@
 // The list of Bluetooth devices against a mock of BlueZ, and what stands in its way.
 #include "bluetooth_scan.h"
 #include "bluez_devices.h"
+#include "bundle.h"
 #include "commands.h"
 #include "mac_toolies.h"
-#include "user_defaults.h"
-#include "bluez_devices.h"
-#include "bundle.h"
 #include "mock_bluez.h"
+#include "user_defaults.h"
 
 #include <sstream>
 
@@ -123,11 +122,12 @@ TEST(bluetooth_scan, prints_what_was_found_or_why_it_cannot) {
         EXPECT_EQ(out.str(), "");
     }
     mock.add_adapter();
-    mock.set_device(mock.add_device("00:1D:A5:68:98:8B", "OBD\x1b[31m"), SERIAL_PORT);
+    mock.set_device(mock.add_device("00:1D:A5:68:98:8B", "OBD\x1b[31m\u202E"), SERIAL_PORT);
     bluez_devices devices(mock.connect());
     EXPECT_EQ(scan_devices(work, devices, 0.3), 0);
     EXPECT_EQ(out.str(), "Address            Paired  Signal    Serial port    Name\n"
-                         "00:1D:A5:68:98:8B  no      -79 dBm   yes            OBD [31m\n");
+                         "00:1D:A5:68:98:8B  no      -79 dBm   yes            OBD [31m \n")
+        << "nor turns its direction";
 }
 
 } // namespace

@@ -1,0 +1,42 @@
+// The lines of a run log, read a piece of the file at a time. A log may hold any bytes.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+class log_lines {
+  public:
+    static constexpr std::size_t PIECE = std::size_t{16} * 1024;
+    static constexpr std::size_t LONGEST_LINE =
+        999; // bytes; what is longer is taken as several lines
+
+    log_lines() = default;
+    ~log_lines() { close(); }
+    log_lines(const log_lines&) = delete;
+    log_lines& operator=(const log_lines&) = delete;
+
+    // Why not, with the name of the file.
+    std::optional<std::string> open(const std::string& path);
+    // Reads another piece; false when the file has ended. Why not in `error`.
+    bool read_piece(std::string& error);
+    // The next line of what was read, with its end if it has one; at the end of the file also a
+    // last line without. The view holds until the next piece.
+    std::optional<std::string_view> next();
+    void rewind();
+    void close();
+
+    bool is_open() const { return file_ >= 0; }
+    std::uint64_t lines() const { return lines_; }
+    double done() const; // the part that was read, 0 to 1
+
+  private:
+    std::string path_;
+    int file_ = -1;
+    std::string unread_; // from taken_ on
+    std::size_t taken_ = 0;
+    bool ended_ = false;
+    std::uint64_t size_ = 0, read_ = 0, lines_ = 0;
+};

@@ -3,7 +3,6 @@
 #include "globalVars.h"
 #include "report_view.h"
 #include "saved_report.h"
-#include "system_log.h"
 #include "text.h"
 
 #include <utility>

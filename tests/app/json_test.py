@@ -69,7 +69,12 @@ def check_car(name):
     with virtual_car("--car", name, "--timing", "0.05") as address:
         told = same_codes(kestrom("--adapter", address, "--record", talk["codes"], "codes", "--json"))
         run = lines_fit("live", kestrom("--adapter", address, "--record", talk["live"], *live))
+        report = kestrom("--adapter", address, "report", "--json")
+        fits("report", json.loads(report))
         fits("send", json.loads(kestrom("--adapter", address, "send", "AT I", "09 02", "--json")))
+    saved = Path(HOME.name, f"{name}.report.json")
+    saved.write_text(report)
+    assert kestrom("report", "--open", str(saved), "--json") == report, name
     for path in talk.values():
         lines_fit("recording", Path(path).read_text())
     with virtual_car("--replay", talk["codes"]) as address:

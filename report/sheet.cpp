@@ -154,6 +154,8 @@ std::string count_text(const car_report& report, part kind, const bundle& texts)
     const auto count = report.count(kind, whole);
     if (!count)
         return texts.localized("report_not_told");
+    if (!whole && *count == 0)
+        return texts.localized("report_none_so_far");
     return whole ? std::to_string(*count) : say(texts, "report_at_least", {std::to_string(*count)});
 }
 
@@ -208,7 +210,7 @@ std::string bar_of(int percent) {
     std::string bar;
     for (int i = 0; i < PARTS_OF_A_BAR; ++i)
         bar += i * 100 < percent * PARTS_OF_A_BAR ? "█" : "░";
-    return bar + " " + std::to_string(percent) + " %";
+    return bar + "\u00A0" + std::to_string(percent) + "\u00A0%";
 }
 
 std::span<const std::string_view> section_names() {

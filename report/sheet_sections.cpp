@@ -149,7 +149,7 @@ void tests_section(sheet_section& to, const car_report& report, const bundle& te
         sheet_table table{{word(texts, "report_col_test"), word(texts, "report_col_value"),
                            word(texts, "report_col_lowest"), word(texts, "report_col_highest"),
                            word(texts, "report_col_result"), word(texts, "report_col_near")},
-                          {12, 4, 4, 4, 4, 6},
+                          {11, 4, 4, 4, 4, 7},
                           {}};
         for (const told_test& one : unit.tests) {
             std::string name = one.monitor;

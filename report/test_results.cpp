@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -79,7 +80,15 @@ std::optional<int> nearness_of(const limits& one) {
     return static_cast<int>(std::min(std::floor(share * 100), double(MOST_PERCENT)));
 }
 
+// The editions of the standard disagree about these two, and most sources know the first meaning.
+constexpr std::pair<std::string_view, std::string_view> TWO_MEANINGS[] = {
+    {"B0", "Particulate Filter Monitor, Bank 1 (newer: Misfire Monitor, Cylinder 15)"},
+    {"B1", "Particulate Filter Monitor, Bank 2 (newer: Misfire Monitor, Cylinder 16)"}};
+
 std::string name_of(const mac_toolies& toolies, std::string_view id, bool monitor) {
+    for (const auto& [known, meaning] : TWO_MEANINGS)
+        if (monitor && id == known)
+            return std::string(meaning);
     std::string name = toolies.grab_CAN_mode6_OBDMID_TESTID_description(id, monitor);
     return name == "N/A" || name == "Reserved" ? std::string() : name;
 }

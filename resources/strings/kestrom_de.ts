@@ -1335,23 +1335,23 @@ Freie Software unter der MIT-Lizenz.
     </message>
     <message id="ui_report_read">
         <source></source>
-        <translation>Bericht &amp;lesen</translation>
+        <translation>Bericht le&amp;sen</translation>
     </message>
     <message id="ui_report_cancel">
         <source></source>
-        <translation>&amp;Abbrechen</translation>
+        <translation>Abb&amp;rechen</translation>
     </message>
     <message id="ui_report_save">
         <source></source>
-        <translation>&amp;Speichern unter…</translation>
+        <translation>S&amp;peichern unter…</translation>
     </message>
     <message id="ui_report_print">
         <source></source>
-        <translation>&amp;Drucken…</translation>
+        <translation>Druc&amp;ken…</translation>
     </message>
     <message id="ui_report_copy">
         <source></source>
-        <translation>&amp;Kopieren</translation>
+        <translation>K&amp;opieren</translation>
     </message>
     <message id="ui_report_open">
         <source></source>
@@ -1467,7 +1467,7 @@ Freie Software unter der MIT-Lizenz.
     </message>
     <message id="ui_report_offer">
         <source></source>
-        <translation>Vor dem Lösc&amp;hen anbieten</translation>
+        <translation>Vor dem Löschen anbie&amp;ten</translation>
     </message>
     <message id="ui_report_offer_hint">
         <source></source>
@@ -1488,6 +1488,10 @@ Freie Software unter der MIT-Lizenz.
     <message id="ui_report_go_on">
         <source></source>
         <translation>Ohne Speichern weiter</translation>
+    </message>
+    <message id="report_none_so_far">
+        <source></source>
+        <translation>keine, soweit mitgeteilt</translation>
     </message>
 </context>
 </TS>

@@ -1334,11 +1334,11 @@ Free software under the MIT licence.
     </message>
     <message id="ui_report_read">
         <source></source>
-        <translation>&amp;Read report</translation>
+        <translation>Rea&amp;d report</translation>
     </message>
     <message id="ui_report_cancel">
         <source></source>
-        <translation>&amp;Cancel</translation>
+        <translation>C&amp;ancel</translation>
     </message>
     <message id="ui_report_save">
         <source></source>
@@ -1346,15 +1346,15 @@ Free software under the MIT licence.
     </message>
     <message id="ui_report_print">
         <source></source>
-        <translation>&amp;Print…</translation>
+        <translation>Prin&amp;t…</translation>
     </message>
     <message id="ui_report_copy">
         <source></source>
-        <translation>C&amp;opy</translation>
+        <translation>Cop&amp;y</translation>
     </message>
     <message id="ui_report_open">
         <source></source>
-        <translation>Ope&amp;n…</translation>
+        <translation>Open sa&amp;ved…</translation>
     </message>
     <message id="ui_report_compare">
         <source></source>
@@ -1362,7 +1362,7 @@ Free software under the MIT licence.
     </message>
     <message id="ui_report_hide_vin">
         <source></source>
-        <translation>&amp;Hide the end of the VIN</translation>
+        <translation>H&amp;ide the end of the VIN</translation>
     </message>
     <message id="ui_report_hide_vin_hint">
         <source></source>
@@ -1466,7 +1466,7 @@ Free software under the MIT licence.
     </message>
     <message id="ui_report_offer">
         <source></source>
-        <translation>O&amp;ffer it before clearing</translation>
+        <translation>Offer it &amp;before clearing</translation>
     </message>
     <message id="ui_report_offer_hint">
         <source></source>
@@ -1487,6 +1487,10 @@ Free software under the MIT licence.
     <message id="ui_report_go_on">
         <source></source>
         <translation>Go on without saving</translation>
+    </message>
+    <message id="report_none_so_far">
+        <source></source>
+        <translation>none, as far as told</translation>
     </message>
 </context>
 </TS>

@@ -1339,15 +1339,15 @@ Software libre con licencia MIT.
     </message>
     <message id="ui_report_cancel">
         <source></source>
-        <translation>&amp;Cancelar</translation>
+        <translation>Ca&amp;ncelar</translation>
     </message>
     <message id="ui_report_save">
         <source></source>
-        <translation>&amp;Guardar como…</translation>
+        <translation>G&amp;uardar como…</translation>
     </message>
     <message id="ui_report_print">
         <source></source>
-        <translation>Im&amp;primir…</translation>
+        <translation>I&amp;mprimir…</translation>
     </message>
     <message id="ui_report_copy">
         <source></source>
@@ -1359,11 +1359,11 @@ Software libre con licencia MIT.
     </message>
     <message id="ui_report_compare">
         <source></source>
-        <translation>Co&amp;mparar…</translation>
+        <translation>Comp&amp;arar…</translation>
     </message>
     <message id="ui_report_hide_vin">
         <source></source>
-        <translation>&amp;Ocultar el final del VIN</translation>
+        <translation>Ocul&amp;tar el final del VIN</translation>
     </message>
     <message id="ui_report_hide_vin_hint">
         <source></source>
@@ -1467,7 +1467,7 @@ Software libre con licencia MIT.
     </message>
     <message id="ui_report_offer">
         <source></source>
-        <translation>O&amp;frecer antes de borrar</translation>
+        <translation>Ofrecer ante&amp;s de borrar</translation>
     </message>
     <message id="ui_report_offer_hint">
         <source></source>
@@ -1488,6 +1488,10 @@ Software libre con licencia MIT.
     <message id="ui_report_go_on">
         <source></source>
         <translation>Continuar sin guardar</translation>
+    </message>
+    <message id="report_none_so_far">
+        <source></source>
+        <translation>ninguno, según lo comunicado</translation>
     </message>
 </context>
 </TS>

@@ -1339,15 +1339,15 @@ Logiciel libre sous licence MIT.
     </message>
     <message id="ui_report_cancel">
         <source></source>
-        <translation>&amp;Annuler</translation>
+        <translation>Ann&amp;uler</translation>
     </message>
     <message id="ui_report_save">
         <source></source>
-        <translation>&amp;Enregistrer sous…</translation>
+        <translation>Enregi&amp;strer sous…</translation>
     </message>
     <message id="ui_report_print">
         <source></source>
-        <translation>Im&amp;primer…</translation>
+        <translation>Impressio&amp;n…</translation>
     </message>
     <message id="ui_report_copy">
         <source></source>
@@ -1467,7 +1467,7 @@ Logiciel libre sous licence MIT.
     </message>
     <message id="ui_report_offer">
         <source></source>
-        <translation>&amp;Proposer avant l'effacement</translation>
+        <translation>Proposer avant l'e&amp;ffacement</translation>
     </message>
     <message id="ui_report_offer_hint">
         <source></source>
@@ -1488,6 +1488,10 @@ Logiciel libre sous licence MIT.
     <message id="ui_report_go_on">
         <source></source>
         <translation>Continuer sans enregistrer</translation>
+    </message>
+    <message id="report_none_so_far">
+        <source></source>
+        <translation>aucun, pour autant que communiqué</translation>
     </message>
 </context>
 </TS>

@@ -68,27 +68,31 @@ void report_screen::cancel_clicked() {
     set_status_msg(localized("report_cancelled"));
 }
 
+// The first time over the link that is up, then with each reply to the reader's questions.
 void report_screen::work_task(int task, int) {
-    if (reader_.running() || task != TASK_REPORT || handshake_.comes_first())
+    if (task != TASK_REPORT)
         return;
-    // Headers stay on behind a report: whatever comes next begins with the handshake.
-    connected_2_KS_interface = false;
-    reader_.start(new_conversation());
-}
-
-void report_screen::handleOBDRcvdMsg(const std::string& text) {
-    if (!reader_.running())
-        obd_screen::handleOBDRcvdMsg(text);
-    else if (contains(text, "Timeout") && told_ && !awaits_owed_reply())
-        answer(std::nullopt);
-    else if (completes_reply(text))
-        answer(odb_curReplyMsg);
+    if (reader_.running()) {
+        if (!odb_curReplyMsg.empty())
+            answer(odb_curReplyMsg);
+    } else if (!handshake_.comes_first()) {
+        // Headers stay on behind a report: whatever comes next begins with the handshake.
+        connected_2_KS_interface = false;
+        reader_.start(new_conversation());
+    }
 }
 
 bool report_screen::takes_time_out(const std::string& text) {
-    if (!obd_screen::takes_time_out(text))
+    if (!reader_.running()) {
+        const bool taken = obd_screen::takes_time_out(text);
+        if (taken)
+            view_->show_running(false);
+        return taken;
+    }
+    if (!contains(text, "Timeout"))
         return false;
-    view_->show_running(false);
+    if (!awaits_owed_reply())
+        answer(std::nullopt);
     return true;
 }
 
@@ -115,6 +119,7 @@ void report_screen::send_now() {
         bound_ = 0;
         answer(std::nullopt);
     });
+    odb_curReplyMsg.clear();
     send_and_go_to(command_ + "\r", 0);
     g_this_delta = REPLY_TIME_OUT_AT_START;
 }
@@ -137,15 +142,19 @@ void report_screen::show_progress(topic about, std::size_t asked, std::size_t wa
                                "%3", std::to_string(wanted)));
 }
 
+// An earlier report stays when nothing was told.
 void report_screen::finish() {
     view_->show_running(false);
+    end_task();
+    if (!reader_.heard().anything_told()) {
+        set_status_msg(localized("report_nothing_told"));
+        return;
+    }
     last_report() = {report_of(reader_.heard(), toolies), KS_delegate.link_number(), false};
     has_report_ = true;
-    end_task();
     view_->show_report();
-    set_status_msg(localized(!reader_.heard().anything_told()   ? "report_nothing_told"
-                             : last_report().report->all_told() ? "report_done"
-                                                                : "report_done_partly"));
+    set_status_msg(
+        localized(last_report().report->all_told() ? "report_done" : "report_done_partly"));
 }
 
 void report_screen::leave_cur_op_gracefully(const std::string&) {

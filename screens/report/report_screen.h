@@ -21,7 +21,6 @@ class report_screen final : public obd_screen, private adapter_door {
     ~report_screen() override;
 
     QWidget* view() override;
-    void handleOBDRcvdMsg(const std::string& text) override;
     void leave_cur_op_gracefully(const std::string& message) override;
     void link_lost() override;
     void save_before_leaving() override;
@@ -32,10 +31,12 @@ class report_screen final : public obd_screen, private adapter_door {
     const car_report* report() const;
     bool reading() const { return reader_.running(); }
 
-  private:
+  protected:
     void work_task(int task, int step) override;
     adapter_handshake* handshake() override { return &handshake_; }
     bool takes_time_out(const std::string& text) override;
+
+  private:
     void ask(const std::string& command, run_loop::milliseconds bound, answered told) override;
     void give_up() override;
     void send_now();

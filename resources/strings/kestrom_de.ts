@@ -348,7 +348,7 @@ Die Namen der Prüfungen sind englisch.</translation>
     </message>
     <message id="ui_fast_level_3">
         <source></source>
-        <translation>mehrere zugleich, ohne Warten</translation>
+        <translation>mehrere, ohne Warten</translation>
     </message>
     <message id="ui_fast_level_down">
         <source></source>

@@ -339,7 +339,7 @@ N/A: this car does not have this monitor</translation>
     </message>
     <message id="ui_fast_level_1">
         <source></source>
-        <translation>without waiting</translation>
+        <translation>no waiting</translation>
     </message>
     <message id="ui_fast_level_2">
         <source></source>
@@ -347,7 +347,7 @@ N/A: this car does not have this monitor</translation>
     </message>
     <message id="ui_fast_level_3">
         <source></source>
-        <translation>several at once, without waiting</translation>
+        <translation>several, no waiting</translation>
     </message>
     <message id="ui_fast_level_down">
         <source></source>

@@ -348,7 +348,7 @@ Los nombres de los monitores están en inglés.</translation>
     </message>
     <message id="ui_fast_level_3">
         <source></source>
-        <translation>varios a la vez, sin esperas</translation>
+        <translation>varios, sin esperas</translation>
     </message>
     <message id="ui_fast_level_down">
         <source></source>

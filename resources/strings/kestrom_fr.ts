@@ -348,7 +348,7 @@ Les noms des moniteurs sont en anglais.</translation>
     </message>
     <message id="ui_fast_level_3">
         <source></source>
-        <translation>plusieurs à la fois, sans attente</translation>
+        <translation>plusieurs, sans attente</translation>
     </message>
     <message id="ui_fast_level_down">
         <source></source>

@@ -315,7 +315,7 @@ bool actions::may_be_faster() {
 
 void actions::show_fast() {
     const bool helps = may_be_faster();
-    view_->show_fast(KS_delegate.doors().defaults.boolean(FAST_KEY), helps && !running(),
+    view_->show_fast(KS_delegate.doors().defaults.boolean(FAST_KEY), helps,
                      helps ? "ui_fast_hint" : "ui_fast_no_use");
     if (!running())
         view_->show_rate({});
@@ -333,7 +333,7 @@ void actions::show_rate() {
                            .arg(values * 1000 / static_cast<double>((now - counted_at_).count()), 0,
                                 'f', 0);
         if (sampling_.fast_most())
-            text += QStringLiteral(" · ") +
+            text += QLatin1Char('\n') +
                     display_text(localized("ui_fast_level_" + std::to_string(
                                                                   fast_level_.value_or(0))));
         view_->show_rate(text);

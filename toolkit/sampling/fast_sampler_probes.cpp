@@ -157,10 +157,12 @@ void fast_sampler::digit_tried(request& one, const std::optional<answer>& told) 
     one.digit_times.push_back(exchange());
     if (one.digit_times.size() < TIMES_TRIED)
         return;
-    if (median(one.digit_times) + CLEARLY <= median(one.plain_times) * 19 / 20)
+    if (median(one.digit_times) + CLEARLY <= median(one.plain_times) * 19 / 20) {
         one.digit = digit_use::proven;
-    else
+        one.plain_at = answered_at_; // so recently
+    } else {
         digit_fails(one);
+    }
 }
 
 // The first failure tells about the adapter, a later one about this request.

@@ -111,6 +111,7 @@ void use_adapter(user_defaults& store, const std::string& host, const std::strin
 // What the command line asks of a live run, as if the user had chosen it in the preferences.
 void use_run(user_defaults& store, const cli_request& asked) {
     store.set_boolean(LOG_RUNS_KEY, asked.log);
+    store.set_boolean(FAST_KEY, asked.fast);
     if (asked.all_pids || !asked.pids.empty()) {
         store.set_string_array(MORE_PIDS_KEY, {});
         store.set_string_array(PIDS_ARRAY_KEY,

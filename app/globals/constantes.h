@@ -44,6 +44,7 @@ inline constexpr char WIFI_IP_KEY[] = "wifi_IP";
 inline constexpr char WIFI_PORT_KEY[] = "wifi_port";
 inline constexpr char KS_METRIC_UNITS_KEY[] = "KS_metric_units";
 inline constexpr char LOG_RUNS_KEY[] = "log_runs";
+inline constexpr char FAST_KEY[] = "fast_sampling"; // the live-data screen's switch
 inline constexpr char PIDS_ARRAY_KEY[] = "pidsArray";
 inline constexpr char KS_LAST_BT_KEY[] = "KS_last_BT"; // address, bytes separated by dashes
 inline constexpr char REUSE_LAST_BT_KEY[] = "reuse_last_BT";

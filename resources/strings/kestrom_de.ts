@@ -314,9 +314,53 @@ Die Namen der Prüfungen sind englisch.</translation>
         <source></source>
         <translation>Strg+Klick auf einen zweiten Messwert oben zeigt hier sein Rundinstrument.</translation>
     </message>
+    <message id="ui_fast">
+        <source></source>
+        <translation>Sc&amp;hnell</translation>
+    </message>
+    <message id="ui_fast_hint">
+        <source></source>
+        <translation>Fragt mehrere Werte auf einmal ab und wartet nicht länger als nötig, soweit Adapter und Auto zeigen, dass sie es können. Manche Autos vertragen das schlecht: Schalten Sie es aus, wenn Lampen angehen oder der Motor unrund läuft. Gilt ab dem nächsten Start.</translation>
+    </message>
+    <message id="ui_fast_no_use">
+        <source></source>
+        <translation>Der Bus dieses Autos antwortet nicht schneller, als er schon gefragt wird.</translation>
+    </message>
+    <message id="ui_fast_rate">
+        <source></source>
+        <translation>%1 Werte/s</translation>
+    </message>
+    <message id="ui_fast_rate_hint">
+        <source></source>
+        <translation>Werte in der Sekunde, und wie sie abgefragt werden</translation>
+    </message>
+    <message id="ui_fast_level_0">
+        <source></source>
+        <translation>einzeln</translation>
+    </message>
+    <message id="ui_fast_level_1">
+        <source></source>
+        <translation>ohne Warten</translation>
+    </message>
+    <message id="ui_fast_level_2">
+        <source></source>
+        <translation>mehrere zugleich</translation>
+    </message>
+    <message id="ui_fast_level_3">
+        <source></source>
+        <translation>mehrere, ohne Warten</translation>
+    </message>
+    <message id="ui_fast_level_down">
+        <source></source>
+        <translation>Antworten passten nicht: Die schnelle Abfrage geht vorsichtiger weiter</translation>
+    </message>
+    <message id="ui_fast_given_up">
+        <source></source>
+        <translation>Antworten passten nicht: Es geht mit einzelnen Werten weiter</translation>
+    </message>
     <message id="ui_live_follow">
         <source></source>
-        <translation>Dem Dia&amp;gramm folgen</translation>
+        <translation>Dia&amp;gramm folgen</translation>
     </message>
     <message id="ui_live_follow_hint">
         <source></source>
@@ -324,7 +368,7 @@ Die Namen der Prüfungen sind englisch.</translation>
     </message>
     <message id="ui_live_dial_unmoved">
         <source></source>
-        <translation>Nichts bewegt dieses Instrument: Wählen Sie den ersten Messwert oder „Dem Diagramm folgen“.</translation>
+        <translation>Nichts bewegt dieses Instrument: Wählen Sie den ersten Messwert oder „Diagramm folgen“.</translation>
     </message>
     <message id="ui_live_length">
         <source></source>

@@ -313,6 +313,50 @@ N/A: this car does not have this monitor</translation>
         <source></source>
         <translation>Ctrl+click on a second parameter above shows its dial here.</translation>
     </message>
+    <message id="ui_fast">
+        <source></source>
+        <translation>F&amp;ast</translation>
+    </message>
+    <message id="ui_fast_hint">
+        <source></source>
+        <translation>Asks for several values at once and waits no longer than needed, as far as adapter and car prove that they can. Some cars do not like it: switch it off when lamps come on or the engine runs unevenly. Counts from the next start of a run.</translation>
+    </message>
+    <message id="ui_fast_no_use">
+        <source></source>
+        <translation>This car’s bus answers no faster than it is asked already.</translation>
+    </message>
+    <message id="ui_fast_rate">
+        <source></source>
+        <translation>%1 values/s</translation>
+    </message>
+    <message id="ui_fast_rate_hint">
+        <source></source>
+        <translation>Values a second, and how they are asked for</translation>
+    </message>
+    <message id="ui_fast_level_0">
+        <source></source>
+        <translation>one by one</translation>
+    </message>
+    <message id="ui_fast_level_1">
+        <source></source>
+        <translation>no waiting</translation>
+    </message>
+    <message id="ui_fast_level_2">
+        <source></source>
+        <translation>several at once</translation>
+    </message>
+    <message id="ui_fast_level_3">
+        <source></source>
+        <translation>several, no waiting</translation>
+    </message>
+    <message id="ui_fast_level_down">
+        <source></source>
+        <translation>Replies did not fit: fast sampling goes on more carefully</translation>
+    </message>
+    <message id="ui_fast_given_up">
+        <source></source>
+        <translation>Replies did not fit: sampling goes on one value at a time</translation>
+    </message>
     <message id="ui_live_follow">
         <source></source>
         <translation>Follo&amp;w the chart</translation>

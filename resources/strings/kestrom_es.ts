@@ -314,6 +314,50 @@ Los nombres de los monitores están en inglés.</translation>
         <source></source>
         <translation>Ctrl+clic en un segundo parámetro de arriba muestra aquí su indicador.</translation>
     </message>
+    <message id="ui_fast">
+        <source></source>
+        <translation>&amp;Rápido</translation>
+    </message>
+    <message id="ui_fast_hint">
+        <source></source>
+        <translation>Pide varios valores a la vez y no espera más de lo necesario, en la medida en que el adaptador y el coche demuestren que pueden. A algunos coches no les sienta bien: desactívelo si se encienden testigos o el motor gira mal. Vale desde el próximo inicio.</translation>
+    </message>
+    <message id="ui_fast_no_use">
+        <source></source>
+        <translation>El bus de este coche no responde más deprisa de lo que ya se le pregunta.</translation>
+    </message>
+    <message id="ui_fast_rate">
+        <source></source>
+        <translation>%1 valores/s</translation>
+    </message>
+    <message id="ui_fast_rate_hint">
+        <source></source>
+        <translation>Valores por segundo, y cómo se piden</translation>
+    </message>
+    <message id="ui_fast_level_0">
+        <source></source>
+        <translation>de uno en uno</translation>
+    </message>
+    <message id="ui_fast_level_1">
+        <source></source>
+        <translation>sin esperas</translation>
+    </message>
+    <message id="ui_fast_level_2">
+        <source></source>
+        <translation>varios a la vez</translation>
+    </message>
+    <message id="ui_fast_level_3">
+        <source></source>
+        <translation>varios, sin esperas</translation>
+    </message>
+    <message id="ui_fast_level_down">
+        <source></source>
+        <translation>Algunas respuestas no encajaban: el muestreo rápido sigue con más cuidado</translation>
+    </message>
+    <message id="ui_fast_given_up">
+        <source></source>
+        <translation>Algunas respuestas no encajaban: el muestreo sigue valor por valor</translation>
+    </message>
     <message id="ui_live_follow">
         <source></source>
         <translation>Seguir el grá&amp;fico</translation>

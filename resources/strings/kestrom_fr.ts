@@ -314,6 +314,50 @@ Les noms des moniteurs sont en anglais.</translation>
         <source></source>
         <translation>Ctrl+clic sur un deuxième paramètre ci-dessus affiche ici son cadran.</translation>
     </message>
+    <message id="ui_fast">
+        <source></source>
+        <translation>R&amp;apide</translation>
+    </message>
+    <message id="ui_fast_hint">
+        <source></source>
+        <translation>Demande plusieurs valeurs à la fois et n’attend pas plus que nécessaire, pour autant que l’adaptateur et la voiture prouvent qu’ils le peuvent. Certaines voitures le supportent mal : désactivez-le si des voyants s’allument ou si le moteur tourne mal. Vaut à partir du prochain démarrage.</translation>
+    </message>
+    <message id="ui_fast_no_use">
+        <source></source>
+        <translation>Le bus de cette voiture ne répond pas plus vite qu’il n’est déjà interrogé.</translation>
+    </message>
+    <message id="ui_fast_rate">
+        <source></source>
+        <translation>%1 valeurs/s</translation>
+    </message>
+    <message id="ui_fast_rate_hint">
+        <source></source>
+        <translation>Valeurs par seconde, et comment elles sont demandées</translation>
+    </message>
+    <message id="ui_fast_level_0">
+        <source></source>
+        <translation>une à une</translation>
+    </message>
+    <message id="ui_fast_level_1">
+        <source></source>
+        <translation>sans attente</translation>
+    </message>
+    <message id="ui_fast_level_2">
+        <source></source>
+        <translation>plusieurs à la fois</translation>
+    </message>
+    <message id="ui_fast_level_3">
+        <source></source>
+        <translation>plusieurs, sans attente</translation>
+    </message>
+    <message id="ui_fast_level_down">
+        <source></source>
+        <translation>Des réponses ne convenaient pas : l’échantillonnage rapide continue plus prudemment</translation>
+    </message>
+    <message id="ui_fast_given_up">
+        <source></source>
+        <translation>Des réponses ne convenaient pas : l’échantillonnage continue valeur par valeur</translation>
+    </message>
     <message id="ui_live_follow">
         <source></source>
         <translation>Suivre le &amp;graphique</translation>

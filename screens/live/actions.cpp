@@ -21,6 +21,9 @@ constexpr char ALL_POINTS[] = "All sampling points";
 constexpr int FEWEST_POINTS = 20; // in the large chart when zoomed in fully
 constexpr QSizeF DIAL_SIZE(364, 286);
 constexpr char FOLLOW_CHART_KEY[] = "follow_the_chart";
+// Requests on CAN, unless the settings say otherwise; below 0 as many as it takes.
+constexpr char MOST_A_SECOND_KEY[] = "fast_requests_a_second";
+constexpr int MOST_A_SECOND = 100;
 constexpr std::size_t SENSORS_A_PAGE = 4;
 
 std::string title_of_last(int points) {
@@ -55,11 +58,16 @@ void actions::awakeFromNib() {
     view_->on_more_parameters = [this] { choose_more_parameters(); };
     view_->on_next_sensors = [this] { show_next_sensors(); };
     view_->on_follow_chart = [this](bool yes) { follow_the_chart(yes); };
+    view_->on_fast = [this](bool yes) {
+        KS_delegate.doors().defaults.set_boolean(FAST_KEY, yes);
+        KS_delegate.doors().defaults.synchronize();
+    };
     view_->on_resized = [this] { frames_.request(); };
     view_->thumbiesMtrx().chosen = [this] { cellCicked(); };
     view_->thumbiesMtrx().exposed = [this] { frames_.request(); };
     describe_pictures();
     view_->show_follow_chart(KS_delegate.doors().defaults.boolean(FOLLOW_CHART_KEY));
+    show_fast();
     rework_gui_objects(g_cur_task);
     set_status_msg("");
 }
@@ -132,6 +140,7 @@ void actions::runLogs() {
     view_->show_waity(true);
     work_out_log_file();
     view_->show_running(true);
+    choose_fast();
     run_a_log();
 }
 
@@ -156,6 +165,7 @@ void actions::ask_what_car_supports(std::function<void()> ended) {
     scan_ended_ = std::move(ended);
     scan_completed_ = false;
     car_parameters_.reset();
+    sampling_.sample_fast({});
     sampling_.begin(std::make_unique<supported_scan>(car_parameters_));
     next_step_idx = 0;
     view_->show_running(true);
@@ -235,6 +245,8 @@ void actions::sample_filed(int index, double value) {
 }
 
 void actions::cycle_filed(std::size_t row) {
+    if (sampling_.fast_most())
+        fast_level_ = sampling_.fast_level().value_or(0);
     log_.write_cycle(samples(), row, sampling_.length());
     if (cycle_completed)
         cycle_completed(sampling_.cycle_values());
@@ -254,20 +266,80 @@ void actions::log_failed(const std::string& why) {
     view_->show_log_mark(log_failure_);
 }
 
+// What fast sampling changed of the adapter is put back beside whatever the user does next; a task
+// that begins meanwhile starts with a reset instead.
 void actions::leave_cur_op_gracefully(const std::string&) {
     view_->show_waity(false);
     sampling_.end();
     log_.close();
     view_->show_running(false);
     end_task();
+    show_fast();
+    if (sampling_.adapter_changed()) {
+        begin_task();
+        sampling_.put_adapter_back();
+    }
     if (const auto told = std::exchange(scan_ended_, nullptr))
         told();
 }
 
 void actions::link_lost() {
     KS_delegate.give_up_on_replies(); // or its time-out would end a later run
+    sampling_.leave_adapter();
     if (running())
         leave_cur_op_gracefully("");
+}
+
+void actions::fast_sampling_told(bool given_up) {
+    set_status_msg(localized(given_up ? "ui_fast_given_up" : "ui_fast_level_down"));
+}
+
+void actions::choose_fast() {
+    const user_defaults& defaults = KS_delegate.doors().defaults;
+    const int most = defaults.integer(MOST_A_SECOND_KEY);
+    const bool fast = defaults.boolean(FAST_KEY) && may_be_faster();
+    sampling_.sample_fast(fast ? std::optional(most == 0 ? MOST_A_SECOND : std::max(most, 0))
+                               : std::nullopt);
+    fast_level_.reset();
+    values_counted_ = 0;
+    counted_at_ = {};
+    show_fast();
+}
+
+// Between two messages a K line rests as long as the adapter would wait (ISO 9141-2, ISO 14230-2).
+bool actions::may_be_faster() {
+    const std::string_view protocol = g_cur_protocol;
+    return protocol.find("9141") == std::string_view::npos &&
+           protocol.find("14230") == std::string_view::npos;
+}
+
+void actions::show_fast() {
+    const bool helps = may_be_faster();
+    view_->show_fast(KS_delegate.doors().defaults.boolean(FAST_KEY), helps,
+                     helps ? "ui_fast_hint" : "ui_fast_no_use");
+    if (!running())
+        view_->show_rate({});
+}
+
+// Values a second, over a second each, and how they are asked for.
+void actions::show_rate() {
+    constexpr run_loop::milliseconds SPAN{1000};
+    const run_loop::milliseconds now = KS_delegate.doors().loop.now();
+    if (!running() || now - counted_at_ < SPAN)
+        return;
+    const auto values = static_cast<double>(requests_answered() - values_counted_);
+    if (counted_at_.count() > 0) {
+        QString text = display_text(localized("ui_fast_rate"))
+                           .arg(values * 1000 / static_cast<double>((now - counted_at_).count()), 0,
+                                'f', 0);
+        if (sampling_.fast_most())
+            text += QLatin1Char('\n') +
+                    display_text(localized("ui_fast_level_" + std::to_string(
+                                                                  fast_level_.value_or(0))));
+        view_->show_rate(text);
+    }
+    values_counted_ = requests_answered();
+    counted_at_ = now;
 }
 
 void actions::set_status_msg(const std::string& message) {
@@ -414,6 +486,7 @@ void actions::show_status_now_and_then() {
 
 void actions::draw_frame() {
     show_status_now_and_then();
+    show_rate();
     if (!view_->root()->isVisible())
         return; // becoming visible resizes the panel, which asks for a frame
     view_->show_zoom(samples().rows() > FEWEST_POINTS);

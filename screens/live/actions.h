@@ -64,12 +64,17 @@ class actions final : public obd_screen, private sampling_listener {
     bool running() const { return sampling_.running(); }
     // A run waits for the adapter or for the link to it.
     bool awaits_adapter() const {
-        return running() && (awaits_owed_reply() || KS_delegate.anything_outstanding());
+        return running() && (awaits_owed_reply() || sampling_.pausing() ||
+                             KS_delegate.anything_outstanding());
     }
     const std::vector<std::string>& pids() const { return sampling_.pids(); }
     // Of the run: what was answered since its first cycle began.
     std::uint64_t requests_answered() const { return sampling_.requests_answered(); }
     std::uint64_t cycles() const { return sampling_.cycles(); }
+    // As fast_sampler::level(), kept beyond the end of the run; nothing in a plain one.
+    std::optional<int> fast_level() const { return fast_level_; }
+    // A fast run is over, and the adapter is being put back.
+    bool puts_adapter_back() const { return !running() && task_running() && sampling_.adapter_changed(); }
     // The samples of the run; the last row is being filled.
     sample_rows& samples() { return sampling_.samples(); }
     // The log of the run; empty when there is none.
@@ -93,6 +98,10 @@ class actions final : public obd_screen, private sampling_listener {
     QString described(int index) const;
     void describe_pictures();
     void follow_the_chart(bool yes);
+    void choose_fast();
+    static bool may_be_faster();
+    void show_fast();
+    void show_rate();
     void choose_second_dial(const std::set<int>& selected, std::size_t selected_before, int shown_before);
     void draw_frame();
     void show_status_now_and_then();
@@ -116,6 +125,7 @@ class actions final : public obd_screen, private sampling_listener {
     void reply_came(const std::string& reply) override;
     void sample_filed(int index, double value) override;
     void cycle_filed(std::size_t row) override;
+    void fast_sampling_told(bool given_up) override;
 
     std::unique_ptr<live_view> view_;
     live_pictures pictures_;
@@ -132,6 +142,10 @@ class actions final : public obd_screen, private sampling_listener {
     std::string log_failure_;
     int gauge_1_idx = 0, gauge_2_idx = -1;
     int l_prev_mode_idx = 0;
+
+    std::optional<int> fast_level_;
+    std::uint64_t values_counted_ = 0; // for the rate that is shown
+    run_loop::milliseconds counted_at_{0};
 
     bool status_changed_ = false;
     run_loop::milliseconds status_shown_{0};

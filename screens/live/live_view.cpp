@@ -112,6 +112,7 @@ void live_view::build_controls(QHBoxLayout* row) {
     row->addSpacing(GRID);
     row->addWidget(run_label);
     row->addWidget(runSelectorCombo_);
+    build_fast(row);
     build_more(row);
     row->addSpacing(GRID);
 
@@ -136,6 +137,23 @@ void live_view::build_more(QHBoxLayout* row) {
     more->setFocusPolicy(Qt::StrongFocus);
     QObject::connect(more, &QToolButton::clicked, root(), [this] { on_more_parameters(); });
     row->addWidget(more);
+}
+
+void live_view::build_fast(QHBoxLayout* row) {
+    fast_ = new QCheckBox(ui_text(delegate_, "ui_fast"), root());
+    fast_->setObjectName(QStringLiteral("fastSwitch"));
+    QObject::connect(fast_, &QCheckBox::toggled, root(), [this](bool on) {
+        if (on_fast)
+            on_fast(on);
+    });
+    rate_ = new QLabel(root());
+    rate_->setObjectName(QStringLiteral("sampleRate"));
+    rate_->setTextFormat(Qt::PlainText);
+    rate_->setForegroundRole(QPalette::PlaceholderText);
+    rate_->setToolTip(ui_text(delegate_, "ui_fast_rate_hint"));
+    rate_->setAccessibleName(ui_text(delegate_, "ui_fast_rate_hint"));
+    row->addWidget(fast_);
+    row->addWidget(rate_);
 }
 
 // With the length of the run beside it.
@@ -239,6 +257,17 @@ void live_view::show_follow_chart(bool on) {
 
 void live_view::show_length(const QString& length) {
     length_->setText(length);
+}
+
+void live_view::show_fast(bool on, bool enabled, std::string_view hint_key) {
+    const QSignalBlocker quiet(fast_);
+    fast_->setChecked(on);
+    fast_->setEnabled(enabled);
+    fast_->setToolTip(ui_text(delegate_, hint_key));
+}
+
+void live_view::show_rate(const QString& rate) {
+    rate_->setText(rate);
 }
 
 void live_view::reset_zoom() {

@@ -42,6 +42,7 @@ class live_view {
     std::function<void(int)> on_run_selected;
     std::function<void(double)> on_zoom; // 0 to 1
     std::function<void(bool)> on_follow_chart;
+    std::function<void(bool)> on_fast;
     std::function<void()> on_resized;    // pictures are shown at another size
 
     void show_running(bool running);
@@ -50,6 +51,10 @@ class live_view {
     void show_follow_chart(bool on);
     // Since the run's first request; empty for none.
     void show_length(const QString& length);
+    // The switch for fast sampling, with what its tooltip says.
+    void show_fast(bool on, bool enabled, std::string_view hint_key);
+    // What comes of it; empty: nothing yet.
+    void show_rate(const QString& rate);
     // Back to all rows, without a call of on_zoom.
     void reset_zoom();
     void show_second_dial(bool visible);
@@ -64,6 +69,7 @@ class live_view {
   private:
     void build_controls(QHBoxLayout* row);
     void build_more(QHBoxLayout* row);
+    void build_fast(QHBoxLayout* row);
     void build_zoom(QHBoxLayout* row);
     void build_log_mark(QVBoxLayout* column);
     void build_panel(QVBoxLayout* column, const block_units& units);
@@ -89,5 +95,7 @@ class live_view {
     picture_view* gauge_uno_ = nullptr;
     picture_view* gauge_dos_ = nullptr;
     QCheckBox* follow_chart_ = nullptr;
+    QCheckBox* fast_ = nullptr;
+    QLabel* rate_ = nullptr;
     QLabel* dial_hint_ = nullptr; // in the second dial's place
 };

@@ -2,6 +2,7 @@
 
 #include "adapter_handshake.h"
 #include "alerts.h"
+#include "fast_sampler.h"
 #include "fuel_economy.h"
 #include "globalVars.h"
 #include "parameters.h"
@@ -14,12 +15,6 @@
 #include <stdexcept>
 
 namespace {
-
-enum step : int {
-    START = 0,
-    REPLY = 1,
-    FIRST_QUESTION_ANSWERED = 2,
-};
 
 constexpr int SUPPORTED_PIDS_TIME_OUT = 12000;
 constexpr int REPLY_TIME_OUT = 3000;
@@ -75,15 +70,19 @@ void sampling_loop::begin(std::unique_ptr<live_run> run) {
         first_request_ = cycle_filed_ = {};
         waits_in_vain_ = 0;
     }
+    fast_.reset();
+    plain_pause_ = {};
 }
 
 void sampling_loop::end() {
+    stop_timer();
+    fast_.reset();
     cur_log_idx = 0;
     keep_logging = false;
 }
 
 void sampling_loop::work_out_log(int step) {
-    if (!keep_logging)
+    if (!keep_logging && step != PUT_BACK)
         return;
     try {
         switch (step) {
@@ -95,6 +94,12 @@ void sampling_loop::work_out_log(int step) {
             break;
         case FIRST_QUESTION_ANSWERED:
             first_question_answered();
+            break;
+        case FAST_REPLY:
+            take_fast_reply();
+            break;
+        case PUT_BACK:
+            adapter_put_back();
             break;
         default:
             break;
@@ -184,7 +189,10 @@ void sampling_loop::begin_cycle() {
         throw std::out_of_range("no PIDs selected");
     listener_.cycles_begin();
     first_request_ = cycle_filed_ = screen_.KS_delegate.doors().loop.now();
-    ask(requests_.front());
+    if (most_a_second_)
+        begin_fast();
+    else
+        ask(requests_.front());
 }
 
 void sampling_loop::first_question_answered() {
@@ -201,10 +209,9 @@ void sampling_loop::first_question_answered() {
 
 void sampling_loop::ask(const sample_request& request) {
     cur_log_idx = request.place;
-    const std::string command = "01 " + request.pid + "\r";
-    cur_cmd = std::string_view(command);
-    next_step_idx = asks_first_question_ ? FIRST_QUESTION_ANSWERED : REPLY;
-    prep_and_send_cmd(cur_cmd, g_this_delta);
+    send_after(plain_pause_, [this, command = "01 " + request.pid] {
+        send_command(command, asks_first_question_ ? FIRST_QUESTION_ANSWERED : REPLY);
+    });
 }
 
 // Neither argument counts, on purpose: what is sent is cur_cmd, and the time-out is g_this_delta.
@@ -230,6 +237,7 @@ void sampling_loop::add_item_to_log_vector(std::string_view this_item_val, int t
 void sampling_loop::end_by_timeout(const char* message) {
     connected_2_KS_interface = false;
     next_step_idx = 0;
+    leave_adapter();
     screen_.leave_cur_op_gracefully("");
     screen_.set_status_msg(message);
 }
@@ -239,11 +247,24 @@ void sampling_loop::fail_with_alert(const std::string& message) {
     screen_.leave_cur_op_gracefully("");
 }
 
+// Whether the run ends with that reply, and has.
+bool sampling_loop::ended_by(const std::string& reply) {
+    if (g_obd_msg_state == S_FAIL) {
+        end_by_timeout("Timed out .. Try again");
+        return true;
+    }
+    if (!contains(reply, "UNABLE TO CONNECT"))
+        return false;
+    fail_with_alert("Did not get a reply from Car port.  Check ignition key is at least in "
+                    "position 2(right before crank) and pairing/connections");
+    return true;
+}
+
 // The first line of the reply without blanks, "~" for one that the adapter did not understand;
 // nothing when the run has ended.
 std::optional<std::string> sampling_loop::screened_reply() {
     if (g_obd_msg_state == S_FAIL) {
-        end_by_timeout("Timed out .. Try again");
+        ended_by({});
         return std::nullopt;
     }
     if (p_obdTimeOutCnt < 1 && mac_toolies::clean_a_reply(odb_curReplyMsg).empty()) {
@@ -252,11 +273,8 @@ std::optional<std::string> sampling_loop::screened_reply() {
     }
     std::string reply =
         p_obdTimeOutCnt < 1 ? reply_to(requests_[cur_request_].pid, odb_curReplyMsg) : "~";
-    if (contains(reply, "UNABLE TO CONNECT")) {
-        fail_with_alert("Did not get a reply from Car port.  Check ignition key is at least in "
-                        "position 2(right before crank) and pairing/connections");
+    if (ended_by(reply))
         return std::nullopt;
-    }
     if (contains(reply, "?")) {
         if (g_retries > 0) {
             g_retries = 0;
@@ -284,31 +302,41 @@ void sampling_loop::take_reply() {
     const std::optional<std::string> screened = screened_reply();
     if (!screened)
         return;
-    ++requests_answered_;
     const sample_request asked = requests_[cur_request_];
     const order_of_answer order = order_of(*screened);
     const bool out_of_step = order != order_of_answer::in_step;
     // What answers another request is not filed under this one's name.
-    const std::string reply = run_->reply_to_file(asked, out_of_step ? "~" : *screened);
-    listener_.reply_came(*screened);
+    file_reply(asked, out_of_step ? "~" : *screened, *screened);
+    if (++cur_request_ < requests_.size()) {
+        ask_next(order);
+        return;
+    }
+    end_cycle();
+    ask_next(order); // before the disk and the listener take their time
+    complete_cycle();
+}
+
+void sampling_loop::file_reply(const sample_request& asked, const std::string& told,
+                               const std::string& shown) {
+    ++requests_answered_;
+    cur_log_idx = asked.place;
+    const std::string reply = run_->reply_to_file(asked, told);
+    listener_.reply_came(shown);
     qCDebug(log_screens, "loggy:%s", reply.c_str());
     if (g_cur_task == TASK_FUEL_ECONOMY)
         output_MPG_item(cur_log_idx, reply);
     else
         file_sample(reply, cur_log_idx);
+}
 
-    if (++cur_request_ < requests_.size()) {
-        ask_next(order);
-        return;
-    }
+// What follows from its answers is computed.
+void sampling_loop::end_cycle() {
     cur_request_ = 0;
     cycle_filed_ = screen_.KS_delegate.doors().loop.now();
     if (const auto computed = run_->cycle_answered()) {
         cur_log_idx = computed->place;
         output_MPG_item(computed->place, computed->reply);
     }
-    ask_next(order); // before the disk and the listener take their time
-    complete_cycle();
 }
 
 void sampling_loop::file_sample(const std::string& reply, int index) {

@@ -1,6 +1,7 @@
 // The sampling loop: one request after the other, each as soon as the reply before it has been
 // handled. It screens and files the replies; whoever owns it is told. A request leaves before the
-// owner is told of a sample, so before anything is drawn or written. No widgets.
+// owner is told of a sample, so before anything is drawn or written. No widgets. fast_sampling.cpp:
+// the same with a fast_sampler, when that is asked for.
 #pragma once
 
 #include "live_runs.h"
@@ -8,6 +9,7 @@
 #include "sample_rows.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -15,6 +17,7 @@
 #include <vector>
 
 class adapter_handshake;
+class fast_sampler;
 
 class sampling_listener {
   public:
@@ -33,6 +36,8 @@ class sampling_listener {
     virtual void sample_filed(int index, double value) = 0;
     // The cycle is row `row` of samples().
     virtual void cycle_filed(std::size_t row) = 0;
+    // Replies did not fit: fast sampling goes on a level lower, or was given up.
+    virtual void fast_sampling_told(bool given_up) = 0;
 
   protected:
     ~sampling_listener() = default;
@@ -41,6 +46,7 @@ class sampling_listener {
 class sampling_loop {
   public:
     sampling_loop(obd_screen& screen, adapter_handshake& handshake, sampling_listener& listener);
+    ~sampling_loop();
 
     // Empty samples of these parameters, two-digit hex text each.
     void set_parameters(const std::vector<std::string>& pids);
@@ -48,6 +54,21 @@ class sampling_loop {
     void begin(std::unique_ptr<live_run> run);
     void end();
     bool running() const { return keep_logging; }
+
+    // From the next run on: as fast as the car answers, with at most so many requests a second on
+    // CAN (0: as many as it takes); nothing: plainly.
+    void sample_fast(std::optional<int> most_a_second) { most_a_second_ = most_a_second; }
+    std::optional<int> fast_most() const { return most_a_second_; }
+    // As fast_sampler::level(); nothing while the run is plain.
+    std::optional<int> fast_level() const;
+    // Between two requests, on purpose.
+    bool pausing() const { return pausing_; }
+    // The adapter is not as others expect it. Putting it back takes a few replies, the last of
+    // which ends the screen's task.
+    bool adapter_changed() const { return adapter_changed_; }
+    void put_adapter_back();
+    // It cannot be reached; the handshake will see to it.
+    void leave_adapter() { adapter_changed_ = false; }
 
     void work_out_log(int step);
     void prep_and_send_cmd(std::string_view command, int this_time_out);
@@ -67,13 +88,25 @@ class sampling_loop {
     run_loop::milliseconds length() const { return cycle_filed_ - first_request_; }
 
   private:
+    enum sampling_step : int {
+        START = 0,
+        REPLY = 1,
+        FIRST_QUESTION_ANSWERED = 2,
+        FAST_REPLY = 3,
+        PUT_BACK = 4,
+    };
+
     void start_sampling();
     void ask_supported_pids();
     bool take_supported_pids(const std::string& reply);
     void begin_cycle();
     void first_question_answered();
+    bool ended_by(const std::string& reply);
     std::optional<std::string> screened_reply();
     void take_reply();
+    void file_reply(const sample_request& asked, const std::string& reply,
+                    const std::string& shown);
+    void end_cycle();
     enum class order_of_answer { in_step, one_behind, wrong };
     order_of_answer order_of(std::string_view reply) const;
     void ask_next(order_of_answer order);
@@ -83,6 +116,16 @@ class sampling_loop {
     void complete_cycle();
     void end_by_timeout(const char* message);
     void fail_with_alert(const std::string& message);
+
+    // fast_sampling.cpp
+    void begin_fast();
+    void ask_fast();
+    void send_after(run_loop::milliseconds pause, std::function<void()> send);
+    void send_fast(const std::string& command);
+    void send_command(const std::string& command, int next_step);
+    void stop_timer();
+    void take_fast_reply();
+    void adapter_put_back();
 
     obd_screen& screen_;
     adapter_handshake& handshake_;
@@ -105,4 +148,13 @@ class sampling_loop {
     int answers_in_step_ = 0; // since the last that was not
     std::uint64_t requests_answered_ = 0, cycles_ = 0;
     run_loop::milliseconds first_request_{0}, cycle_filed_{0};
+
+    std::optional<int> most_a_second_;
+    std::unique_ptr<fast_sampler> fast_;
+    bool fast_silent_ = false; // no prompt has come
+    bool adapter_changed_ = false;
+    std::size_t put_back_ = 0; // of the commands that do it
+    run_loop::timer_id timer_ = 0; // of a pause, or of patience
+    bool pausing_ = false;
+    run_loop::milliseconds plain_pause_{0}; // of a car that complained
 };

@@ -108,6 +108,11 @@ constexpr std::array OPTIONS = {
         }},
     row{{"--log", "", "write a run log, as the window does", "live"},
         [](cli_request& asked, text, text) { asked.log = true; }},
+    row{{"--fast", "",
+         "ask for several values at once and wait no longer than needed, as far as\nadapter and car prove "
+         "that they can; some cars do not like it",
+         "live"},
+        [](cli_request& asked, text, text) { asked.fast = true; }},
     row{{"--units", "metric|imperial", "units of the texts; else those of the settings", "decode"},
         [](cli_request& asked, text, text value) { asked.units = value; }},
     row{{"--standard", "", "what the standard means where a run or the table misleads",

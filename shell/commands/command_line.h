@@ -39,6 +39,7 @@ struct cli_request {
     double seconds = 0;                    // of a live run; 0: no end
     unsigned long long cycles = 0;         // likewise
     bool log = false;
+    bool fast = false;
     std::string units; // "metric", "imperial"; empty: those of the settings
     bool standard = false;
     std::vector<std::string> chart_pids;

@@ -7,10 +7,12 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 namespace {
 constexpr double DEFAULT_BOUND_SECONDS = 60;
 constexpr double LONGEST_BOUND_MS = 2e9;
+constexpr int LONGEST_FAREWELL_MS = 1000; // to an adapter that does not do as it is told
 } // namespace
 
 command_runner::command_runner(const cli_request& asked, Ks_lite_delegate& delegate,
@@ -51,7 +53,9 @@ void command_runner::take_status(const std::string& text) {
 }
 
 void command_runner::look() {
-    if (begun_ && !ended_ && (task_->over() || messages_.endless()))
+    if (status_ && !task_->puts_adapter_back())
+        leave();
+    else if (begun_ && !ended_ && (task_->over() || messages_.endless()))
         finish();
 }
 
@@ -77,14 +81,19 @@ void command_runner::end(bool succeeded, const std::string& why) {
     clear_progress();
     told_.messages = messages_.messages();
     task_->print(succeeded, told_);
-    if (output_lost()) {
-        done_(1);
-        return;
+    status_ = succeeded && !output_lost() ? 0 : 1;
+    if (!succeeded && !output_lost()) {
+        const bool just_read = !why.empty() && why == messages_.last_printed();
+        std::fprintf(stderr, "kestrom: %s failed%s%s\n", asked_.command.c_str(), just_read ? "" : ": ",
+                     just_read ? "" : printable(why).c_str());
     }
-    if (!succeeded && !why.empty() && why == messages_.last_printed()) // it has just been read
-        std::fprintf(stderr, "kestrom: %s failed\n", asked_.command.c_str());
-    else if (!succeeded)
-        std::fprintf(stderr, "kestrom: %s failed: %s\n", asked_.command.c_str(),
-                     printable(why).c_str());
-    done_(succeeded ? 0 : 1);
+    if (task_->puts_adapter_back())
+        QTimer::singleShot(LONGEST_FAREWELL_MS, this, [this] { leave(); });
+    else
+        leave();
+}
+
+void command_runner::leave() {
+    if (const auto done = std::exchange(done_, nullptr))
+        done(*status_);
 }

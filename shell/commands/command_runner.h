@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 class console_alerts;
@@ -31,6 +32,7 @@ class command_runner final : public QObject {
     void look();
     void finish();
     void end(bool succeeded, const std::string& why);
+    void leave();
 
     const cli_request& asked_;
     Ks_lite_delegate& delegate_;
@@ -40,4 +42,5 @@ class command_runner final : public QObject {
     QTimer bound_;
     conversation_log told_;
     bool begun_ = false, ended_ = false;
+    std::optional<int> status_; // once ended
 };

@@ -1,15 +1,6 @@
 #include "commands.h"
 
-#include "bluetooth_scan.h"
-#include "chart_command.h"
-#include "codes_command.h"
-#include "decode_command.h"
-#include "export_command.h"
-#include "live_command.h"
-#include "lookup_command.h"
-#include "pids_command.h"
-#include "report_command.h"
-#include "send_command.h"
+#include "command_functions.h"
 #include "text.h"
 
 #include <algorithm>

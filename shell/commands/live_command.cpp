@@ -1,4 +1,4 @@
-#include "live_command.h"
+#include "command_functions.h"
 
 #include "actions.h"
 #include "car_task.h"
@@ -54,6 +54,7 @@ class live_command final : public car_task {
         return asked_.cycles == 0 && asked_.seconds <= 0 && sampled();
     }
     bool has_no_bound() const override { return true; }
+    bool puts_adapter_back() const override { return screen_ && screen_->puts_adapter_back(); }
     bool tells_progress() const override { return sampled(); }
     void print(bool succeeded, const conversation_log& log) override;
 
@@ -273,22 +274,26 @@ void live_command::show_cycles() {
 void live_command::print_summary() const {
     const std::string& log = screen_->log_path();
     if (asked_.json) {
-        std::fputs(json_line({{"cycles", screen_->cycles()},
-                              {"requests", screen_->requests_answered()},
-                              {"seconds", rounded(seconds(), 3)},
-                              {"requests_per_second", rounded(rate(), 1)},
-                              {"log", log}})
-                       .c_str(),
-                   stdout);
+        ordered_json summary = {{"cycles", screen_->cycles()},
+                                {"requests", screen_->requests_answered()},
+                                {"seconds", rounded(seconds(), 3)},
+                                {"requests_per_second", rounded(rate(), 1)},
+                                {"log", log}};
+        if (asked_.fast)
+            summary["fast_level"] = screen_->fast_level().value_or(0);
+        std::fputs(json_line(summary).c_str(), stdout);
         return;
     }
     if (output_lost())
         return;
-    std::fprintf(stderr, "%s cycles, %s requests in %s s: %s requests per second\n",
+    const char* const what = asked_.fast ? "values" : "requests";
+    const std::string level = std::to_string(screen_->fast_level().value_or(0));
+    std::fprintf(stderr, "%s cycles, %s %s in %s s: %s %s per second%s\n",
                  std::to_string(screen_->cycles()).c_str(),
-                 std::to_string(screen_->requests_answered()).c_str(),
+                 std::to_string(screen_->requests_answered()).c_str(), what,
                  fixed_decimals(seconds(), TIME_DECIMALS).c_str(),
-                 fixed_decimals(rate(), 1).c_str());
+                 fixed_decimals(rate(), 1).c_str(), what,
+                 asked_.fast ? (", " + screen_->localized("ui_fast_level_" + level)).c_str() : "");
     if (!log.empty())
         std::fprintf(stderr, "Log: %s\n", printable(log).c_str());
 }

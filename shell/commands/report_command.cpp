@@ -1,4 +1,4 @@
-#include "report_command.h"
+#include "command_functions.h"
 
 #include "bundle.h"
 #include "car_task.h"

@@ -119,6 +119,7 @@ class json_test(unittest.TestCase):
                 ("mode6", 0, ["mode6", "--json", "16", "01F4"]),
                 ("export", 0, ["export", log, "--json"]),
                 ("export", 1, ["export", log, "--json"]),
+                ("bluetooth-scan", 1, ["bluetooth-scan", "--json"]),
                 ("lookup", 0, ["lookup", "p0301", "--json"]),
                 ("lookup", 1, ["lookup", "no", "such", "thing", "--json"]),
                 ("pids", 0, ["--demo=hybrid", "pids", "--json"]),

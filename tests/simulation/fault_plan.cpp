@@ -40,11 +40,17 @@ adapter_options fault_plan::adapter() {
                                       fault{fault_kind::buffer_full, 9},
                                       fault{fault_kind::can_error, 4},
                                       fault{fault_kind::clone},
+                                      fault{fault_kind::digit_unknown},
+                                      fault{fault_kind::digit_counts_messages},
+                                      fault{fault_kind::first_pid_only},
+                                      fault{fault_kind::pids_reordered},
+                                      fault{fault_kind::pending, 9},
+                                      fault{fault_kind::unit_gap, 58},
                                       fault{fault_kind::no_bus},
                                       fault{fault_kind::ignition_off_at, 20}};
     adapter_options options;
     options.seed = dice_.seed();
-    if (dice_.happens(80))
+    if (dice_.happens(60))
         options.latency = dice_.time(20, 150);
     std::vector<fault> faults;
     for (int count = dice_.happens(40) ? dice_.between(1, 2) : 0; count > 0; --count)

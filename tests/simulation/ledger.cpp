@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <map>
 
 namespace {
 
@@ -53,6 +54,36 @@ bool answer_slot::holds_digits(std::string_view digits) const {
         return false;
     });
     return run.find(digits) != std::string::npos;
+}
+
+bool answer_slot::tells(std::string_view digits) const {
+    std::map<std::string, std::string> units;
+    return any_line(damaged ? arrived : said, [&](std::string_view line) {
+        if (line.size() < 8)
+            return false;
+        const bool wide = line.starts_with("18DA"), can = wide || line.starts_with("7E");
+        const std::size_t header = can ? (wide ? 8 : 3) : 6;
+        std::string_view data = line.substr(header);
+        if (can)
+            data = data.substr(data[0] == '1' ? 4 : 2);
+        std::string& unit = units[std::string(line.substr(can ? 0 : 4, can ? header : 2))];
+        unit += data;
+        return unit.find(digits) != std::string::npos;
+    });
+}
+
+bool answer_slot::asks_for(std::string_view pid) const {
+    for (std::size_t at = 2; command.starts_with("01") && at + 2 <= command.size(); at += 2)
+        if (command.substr(at, 2) == pid)
+            return true;
+    return false;
+}
+
+const answer_slot* ledger::asked_for(std::string_view pid, std::uint64_t before) const {
+    for (std::size_t i = slots_.size(); i-- > 1;)
+        if (slots_[i].written < before && slots_[i].asks_for(pid))
+            return &slots_[i];
+    return nullptr;
 }
 
 bool answer_slot::sound() const {

@@ -26,6 +26,10 @@ struct answer_slot {
     bool holds(std::string_view line) const;
     // The digits stand in what arrived, whatever frames and headers are around them.
     bool holds_digits(std::string_view digits) const;
+    // The frames of some unit, headers on, put together hold the digits.
+    bool tells(std::string_view digits) const;
+    // It asked for that parameter, alone or among others.
+    bool asks_for(std::string_view pid) const;
     // Nothing happened to it, and the adapter said nothing but data.
     bool sound() const;
     // A fault made of it what could have been sent: lines are gone as a whole, or have other digits
@@ -52,6 +56,9 @@ class ledger {
     const answer_slot& last() const { return slots_.back(); }
     // The newest slot of that command that was written before the moment; nothing without one.
     const answer_slot* asked(std::string_view command, std::uint64_t before) const;
+
+    // The newest slot that asked for that parameter before the moment.
+    const answer_slot* asked_for(std::string_view pid, std::uint64_t before) const;
 
     // Calls with each slot of a command that begins so of which anything was delivered after the moment, the
     // newest first, until one answers true.

@@ -261,25 +261,35 @@ void promises::status_is_true(const codes_report& shown) {
                           "count " + std::to_string(*shown.count));
 }
 
-// Since the parameter was asked for last an answer arrived that holds the text. Text behind a prompt
-// is kept for the next reply on purpose: an answer that came twice in one piece may be that of the
-// request before. An adapter that answers another request with this parameter's value has told it.
+// Since the parameter was asked for last an answer arrived that holds the text. Text behind a
+// prompt is kept for the next reply on purpose: an answer that came twice in one piece may be that
+// of the request before. An adapter that answers another request with this parameter's value has
+// told it. Asked for among others, or with a digit behind, nothing but the answer to that request
+// will do.
 bool promises::was_answered(const std::string& pid, const std::string& text) const {
+    if (const answer_slot* const last = app_.book.asked_for(pid, delivery_began_);
+        last && last->command != "01" + pid)
+        return answers_parameter(text, pid) &&
+               app_.book.any_answer("01", last->written, [&](const answer_slot& slot) {
+                   return slot.written >= last->written && slot.tells(text.substr(2));
+               });
     const answer_slot* asked = app_.book.asked("01" + pid, delivery_began_);
     if (asked)
         if (const answer_slot* const before = app_.book.asked("01" + pid, asked->written))
             asked = before;
     return asked && answers_parameter(text, pid) &&
            app_.book.any_answer("01", asked->written,
-                                [&](const answer_slot& slot) { return slot.holds(text); });
+                                [&](const answer_slot& slot) {
+                                    return slot.holds(text) || slot.tells(text.substr(2));
+                                });
 }
 
 bool promises::sample_was_sent(actions& screen, std::size_t row, std::size_t place,
                                const std::string& text) {
     const std::string& pid = screen.pids()[place];
     const auto usable = [&](std::size_t other) {
-        return !unusable(screen.toolies.translateResponse(
-            answer_in(screen.samples().text(row, other))));
+        return !unusable(
+            screen.toolies.translateResponse(answer_in(screen.samples().text(row, other))));
     };
     if (pid == "E4") // computed from the two others
         return usable(1) && usable(2);

@@ -172,7 +172,7 @@ void random_user::use_live_data() {
     auto& screen = static_cast<actions&>(*app_.delegate->current_screen());
     auto* const area = app_.find<QScrollArea>("xtopActionCharts");
     auto& strip = static_cast<thumbnail_strip&>(*area->widget());
-    switch (dice_.below(8)) {
+    switch (dice_.below(9)) {
     case 0: {
         const int kind = dice_.below(4);
         app_.story.note("user", "kind of run " + std::to_string(kind));
@@ -194,6 +194,9 @@ void random_user::use_live_data() {
         break;
     case 3:
         press("o2SwapBtn");
+        break;
+    case 4:
+        press("fastSwitch");
         break;
     default: {
         const bool running = screen.running();

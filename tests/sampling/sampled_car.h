@@ -1,0 +1,143 @@
+// A fast sampler and a virtual adapter, on a clock that a test moves, and what the car really said.
+#pragma once
+
+#include "car_library.h"
+#include "fast_sampler.h"
+#include "hex_text.h"
+#include "virtual_adapter.h"
+
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+class sampled_car {
+  public:
+    using milliseconds = std::chrono::milliseconds;
+
+    struct setting {
+        std::string car = "can11";
+        std::vector<std::string> faults{};
+        std::vector<std::string> pids{"0D", "11", "0C", "05"};
+        int baud = 0;
+        int cap = 0;
+    };
+    explicit sampled_car(const setting& what)
+        : the_car_(load_car(what.car)), adapter_(the_car_, options(what)),
+          truth_(the_car_, options(what).seed, SPEED),
+          sampler_(what.pids, the_car_.protocol >= 6, what.cap) {
+        // Another unit's value is no answer for the first one's.
+        for (std::size_t unit = 1; unit < the_car_.units.size(); ++unit)
+            the_car_.units[unit].fixed = {{0x05, {0xEE}}, {0x0C, {0xEE, 0xEE}}, {0x0D, {0xEE}}};
+        adapter_.connection_opened(now_);
+        truth_.seconds(now_);
+        for (const char* command : {"ATE0\r", "0100\r"}) { // a search takes its time
+            adapter_.receive(command, now_);
+            wait_for_prompt(std::chrono::minutes(1));
+        }
+    }
+
+    // One question and what came of it.
+    void step() {
+        const fast_sampler::question asked = sampler_.next(now_);
+        now_ += asked.pause;
+        sampler_.sent(now_);
+        asked_.insert(asked.command);
+        const milliseconds sent = now_;
+        const std::string reply = exchange(asked.command);
+        const bool silent = reply.find('>') == std::string::npos;
+        const auto out = silent ? sampler_.timed_out(now_) : sampler_.take(reply, now_);
+        for (const fast_sampler::sample& one : out.samples)
+            judge(one, sent);
+        cycles_ += out.ends_cycle;
+        told_ += out.told != fast_sampler::news::none;
+        highest_ = std::max(highest_, sampler_.level());
+        if (out.answer_is_missing)
+            wait_for_reply();
+    }
+    void run(milliseconds span) {
+        const milliseconds end = now_ + span;
+        while (now_ < end && !sampler_.finished())
+            step();
+    }
+    double values_a_second(milliseconds span) {
+        const int before = true_;
+        const milliseconds began = now_;
+        run(span);
+        return double(true_ - before) * 1000 / double((now_ - began).count());
+    }
+
+    int true_ = 0, false_ = 0, void_ = 0, cycles_ = 0, told_ = 0, highest_ = 0;
+    std::string first_false_;
+    std::set<std::string> asked_;
+    fast_sampler& sampler() { return sampler_; }
+    car& the_car() { return the_car_; }
+
+  private:
+    static constexpr double SPEED = 5; // no value stays as it was from one request to the next
+    static constexpr milliseconds PATIENCE{6000}, STRAGGLER{1000};
+
+    static adapter_options options(const setting& what) {
+        std::vector<fault> faults;
+        for (const std::string& name : what.faults)
+            faults.push_back(parse_fault(name));
+        adapter_options made;
+        made.faults = fault_set(faults);
+        made.speed = SPEED;
+        made.baud = what.baud;
+        return made;
+    }
+    std::string exchange(const std::string& command) {
+        adapter_.receive(command + "\r", now_);
+        return wait_for_prompt(PATIENCE);
+    }
+    void wait_for_reply() {
+        if (came_.find('>') == std::string::npos)
+            wait_for_prompt(STRAGGLER);
+        came_.clear();
+    }
+    std::string wait_for_prompt(milliseconds bound) {
+        const milliseconds end = now_ + bound;
+        while (came_.find('>') == std::string::npos) {
+            const auto due = adapter_.next_output();
+            if (!due || *due > end) {
+                now_ = end;
+                return std::exchange(came_, {});
+            }
+            now_ = std::max(now_, *due);
+            came_ += adapter_.take_output(now_);
+        }
+        while (adapter_.next_output() && *adapter_.next_output() <= now_)
+            came_ += adapter_.take_output(now_);
+        const std::size_t last = came_.rfind('>') + 1; // as the accumulator takes it
+        const bool whole =
+            came_.find_first_not_of(std::string_view("\r\n\0", 3), last) == std::string::npos;
+        const std::size_t size = whole ? came_.size() : came_.find('>') + 1;
+        const std::string reply = came_.substr(0, size);
+        came_.erase(0, size);
+        return reply;
+    }
+    // What the car had to say between question and reply, of its first unit.
+    void judge(const fast_sampler::sample& one, milliseconds sent) {
+        const auto pid = std::uint8_t(std::stoul(one.pid, nullptr, 16));
+        if (one.reply == "~" || one.reply == "NODATA") {
+            ++void_;
+            return;
+        }
+        for (milliseconds at = sent; at <= now_; ++at)
+            if (const auto told = truth_.answer({0x01, pid}, at);
+                !told.empty() && hex_text(told.front().messages.front(), false) == one.reply) {
+                ++true_;
+                return;
+            }
+        if (++false_ == 1)
+            first_false_ = one.pid + ": " + one.reply;
+    }
+
+    car the_car_;
+    virtual_adapter adapter_;
+    vehicle truth_;
+    fast_sampler sampler_;
+    milliseconds now_{0};
+    std::string came_;
+};

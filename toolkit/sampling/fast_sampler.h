@@ -1,0 +1,169 @@
+// What to ask a car whose adapter can do better than one plain request after the other, and what of
+// the replies can be filed. It sends nothing and knows no clock: given a reply and the time, it
+// says what to file and what to ask next.
+//
+// It begins as plain sampling does, learns what each parameter's answer looks like, and then tries
+// two things, each used only when it was proven on this connection: a digit behind the request that
+// tells the adapter how many frames to expect, so that it need not wait for more, and on CAN up to
+// six parameters in one request. Tries are requests of their own between two cycles; nothing of
+// their replies is filed. A reply with anything odd about it is void as a whole.
+#pragma once
+
+#include "strict_reply.h"
+
+#include <chrono>
+#include <deque>
+#include <map>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class fast_sampler {
+  public:
+    using milliseconds = std::chrono::milliseconds;
+
+    // `pids`: of one cycle, two capital hex digits each. `can`: the bus is one, as far as is known.
+    // `most_a_second`: requests on CAN; 0 for as many as it takes.
+    fast_sampler(const std::vector<std::string>& pids, bool can, int most_a_second);
+
+    struct question {
+        std::string command;
+        milliseconds pause; // before it is sent
+    };
+    question next(milliseconds now);
+    void sent(milliseconds now) { sent_at_ = now; }
+
+    struct sample {
+        std::string pid;
+        std::string reply; // as if asked for alone, "410C1AF8"; "~" when void, or "NODATA"
+    };
+    enum class news { none, a_level_down, given_up };
+    struct outcome {
+        std::vector<sample> samples;
+        bool ends_cycle = false;
+        bool answer_is_missing = false; // the adapter owes one more than it was asked for
+        news told = news::none;
+    };
+    outcome take(std::string_view reply, milliseconds now);
+    // No prompt came: what comes after all counts for nothing.
+    outcome timed_out(milliseconds now);
+
+    // There is nothing to be gained, or too much went wrong: the rest of the run is plain. Not
+    // before the end of a cycle.
+    bool finished() const { return ending_ && cursor_ == 0 && resync_ == resync::none; }
+    // What plain sampling shall wait between requests then: a car that complained is asked half as
+    // often.
+    milliseconds pause_afterwards() const { return afterwards_; }
+
+    // 0 plain, 1 the digit, 2 several parameters in a request, 3 both.
+    int level() const;
+    // Leaves the adapter as others expect it.
+    static std::span<const std::string_view> farewell();
+
+  private:
+    struct shape {                                       // of a reply
+        std::vector<std::pair<std::string, int>> frames; // by unit
+        std::vector<std::string> order;                  // of the parameters
+        bool operator==(const shape&) const = default;
+        int all_frames() const;
+    };
+    struct answer {
+        shape form;
+        std::string source; // unit
+        std::vector<parameter_answer> parts;
+    };
+    enum class digit_use { untried, proven, never };
+    struct request {
+        std::vector<std::string> pids;
+        std::vector<shape> seen{};    // asked plainly, until it is known
+        std::optional<shape> known{}; // three times alike
+        std::vector<milliseconds> plain_times{}, digit_times{};
+        digit_use digit = digit_use::untried;
+        int asked_since_plain = 0;
+        milliseconds plain_at{0};
+        bool learnt_again = false;
+
+        std::string command() const;
+        bool learnt() const { return known || digit == digit_use::never; }
+    };
+    enum class kind { setup, flush, in_step, plan, try_several, try_digit };
+    enum class stage { learning, trying_several, comparing, running };
+    enum class resync { none, flush, in_step };
+    struct attempt {
+        kind what;
+        request* asked;
+    };
+
+    // fast_sampler.cpp
+    question ask(kind what, std::string command, milliseconds now, request* asked = nullptr,
+                 bool digit = false);
+    question ask_plan(milliseconds now);
+    milliseconds pause(milliseconds now) const;
+    bool due_plain(const request& one, milliseconds now) const;
+    void take_setup(std::string_view reply, outcome& out);
+    void settle_bus(outcome& out);
+    void give_the_cycle_up(outcome& out);
+    void take_in_step(std::string_view reply, outcome& out);
+    void take_plan(std::string_view reply, outcome& out);
+    void file(request& one, const answer& told, outcome& out);
+    void void_reply(request& one, outcome& out);
+    void learn(request& one, const shape& form);
+    void learn_anew(request& one);
+    milliseconds exchange() const { return answered_at_ - sent_at_; }
+    void advance(outcome& out);
+    void cycle_ended();
+    void one_level_down(outcome& out);
+    void give_up(outcome& out);
+    std::optional<answer> read_answer(const request& asked, std::string_view reply);
+    std::vector<parameter_answer> parts_of(const request& asked, const std::string& data) const;
+    bool is_can() const { return bus_ >= '6' && bus_ <= '9'; }
+    bool may_use_digit() const { return digit_works_ && level_cap_ % 2 == 1; }
+
+    // fast_sampler_probes.cpp
+    void begin_several();
+    void group();
+    void queue_groups();
+    void run();
+    void take_try(std::string_view reply);
+    void several_tried(request& one, const std::optional<answer>& told);
+    void several_fail();
+    void compare();
+    void queue_digits();
+    void digit_fails(request& one);
+    void digit_tried(request& one, const std::optional<answer>& told);
+
+    bool can_;
+    int most_a_second_;
+    std::deque<request> requests_; // all that there ever were: plan and tries point into it
+    std::vector<request*> plan_, singles_, groups_;
+    std::size_t cursor_ = 0;
+    std::deque<attempt> tries_;
+    std::size_t setup_next_ = 0;
+    char bus_ = '0';  // as "AT DPN" tells it
+    char told_ = '0'; // what it told; "?" too
+    stage stage_ = stage::learning;
+    resync resync_ = resync::none;
+
+    kind asked_ = kind::setup;
+    request* asked_request_ = nullptr;
+    bool asked_digit_ = false;
+    std::string asked_command_;
+    request* last_of_car_ = nullptr; // since the last command whose answer nothing else resembles
+    std::string notice_;             // of the last reply
+    milliseconds sent_at_{0}, answered_at_{0};
+    milliseconds last_request_{0}, last_answer_{0}; // of the car
+
+    digits_by_pid lengths_;
+    std::map<std::string, std::string, std::less<>> sources_;                // unit by PID
+    std::map<std::string, std::string, std::less<>> before_, tried_, after_; // values by PID
+    std::size_t group_size_ = 0;
+    bool digit_works_ = true, wants_singles_ = false;
+    int level_cap_ = 3;
+    bool ending_ = false;
+    milliseconds afterwards_{0};
+    int count_ = 0, last_void_ = 0, steps_missed_ = 0;
+    bool voided_ = false;  // not long ago, on this level
+    bool put_off_ = false; // "7F 01 78"
+};

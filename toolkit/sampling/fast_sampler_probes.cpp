@@ -1,0 +1,175 @@
+// What is tried between the cycles: several parameters in one request, and the digit behind it.
+#include "answer_sizes.h"
+#include "fast_sampler.h"
+#include "hex_digits.h"
+#include "standard_values.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr std::size_t MOST_OF_A_REQUEST = 6; // ISO 15765-4
+constexpr std::size_t PAIR = 2;
+constexpr int TIMES_TRIED = 3;
+constexpr int MOST_FRAMES = 15; // one digit
+constexpr milliseconds CLEARLY{2};
+
+// Parameters that change slowly: what they are among several in one request must lie between what
+// they are alone, before and after.
+constexpr std::array<std::string_view, 10> SLOW{"05", "0F", "1C", "21", "30",
+                                                "31", "33", "46", "51", "5C"};
+
+// How long the answer is must be known, and the same in every car. Bitmaps must not be mixed with
+// values.
+bool may_be_grouped(std::string_view pid) {
+    const unsigned number = hex_value(pid);
+    const answer_length standard = standard_length(number);
+    return number % 0x20 != 0 && standard.or_bytes == 0 &&
+           parameter_bytes(number).value_or(standard.bytes) > 0;
+}
+
+milliseconds median(std::vector<milliseconds> times) {
+    std::ranges::sort(times);
+    return times[times.size() / 2];
+}
+
+} // namespace
+
+void fast_sampler::begin_several() {
+    group_size_ = MOST_OF_A_REQUEST;
+    if (is_can())
+        group();
+    if (groups_.empty()) {
+        run();
+        return;
+    }
+    stage_ = stage::trying_several;
+    if (const auto& pids = groups_.front()->pids; pids.size() > PAIR) {
+        requests_.push_back({{pids[0], pids[1]}});
+        tries_.push_back({kind::try_several, &requests_.back()});
+    }
+    queue_groups();
+}
+
+// Parameters of the same unit, in their order.
+void fast_sampler::group() {
+    groups_.clear();
+    std::map<std::string, std::vector<std::string>> by_unit;
+    for (const request* one : singles_)
+        if (const auto source = sources_.find(one->pids.front());
+            source != sources_.end() && one->known && may_be_grouped(one->pids.front()))
+            by_unit[source->second].push_back(one->pids.front());
+    for (const auto& [unit, pids] : by_unit)
+        for (std::size_t at = 0; at + 1 < pids.size(); at += group_size_) {
+            const std::size_t end = std::min(at + group_size_, pids.size());
+            requests_.push_back({{pids.begin() + static_cast<std::ptrdiff_t>(at),
+                                  pids.begin() + static_cast<std::ptrdiff_t>(end)}});
+            groups_.push_back(&requests_.back());
+        }
+}
+
+void fast_sampler::queue_groups() {
+    for (request* one : groups_)
+        for (int i = 0; i < TIMES_TRIED; ++i)
+            tries_.push_back({kind::try_several, one});
+}
+
+void fast_sampler::run() {
+    stage_ = stage::running;
+    queue_digits();
+    ending_ = tries_.empty() && level() == 0;
+}
+
+void fast_sampler::take_try(std::string_view reply) {
+    const std::optional<answer> told = read_answer(*asked_request_, reply);
+    if (!told)
+        resync_ = resync::flush;
+    if (asked_ == kind::try_digit)
+        digit_tried(*asked_request_, told);
+    else
+        several_tried(*asked_request_, told);
+}
+
+void fast_sampler::several_tried(request& one, const std::optional<answer>& told) {
+    if (!told || (!one.seen.empty() && one.seen.front() != told->form)) {
+        several_fail();
+        return;
+    }
+    learn(one, told->form);
+    for (const parameter_answer& part : told->parts)
+        tried_[part.pid] = part.reply;
+    if (tries_.empty())
+        stage_ = stage::comparing; // after one more cycle
+}
+
+void fast_sampler::several_fail() {
+    const bool pair_works = asked_request_->pids.size() > PAIR;
+    tries_.clear();
+    groups_.clear();
+    if (pair_works) {
+        group_size_ = PAIR;
+        group();
+        queue_groups();
+    } else {
+        run();
+    }
+}
+
+void fast_sampler::compare() {
+    const auto differs = [this](const std::string& pid) {
+        if (std::ranges::find(SLOW, pid) == SLOW.end() || !after_.contains(pid))
+            return false;
+        const auto [low, high] = std::minmax(before_[pid], after_[pid]);
+        return tried_[pid] < low || tried_[pid] > high;
+    };
+    std::vector<std::string> grouped;
+    for (const request* one : groups_)
+        grouped.insert(grouped.end(), one->pids.begin(), one->pids.end());
+    if (std::ranges::none_of(grouped, differs)) {
+        plan_ = groups_;
+        for (request* one : singles_)
+            if (std::ranges::find(grouped, one->pids.front()) == grouped.end())
+                plan_.push_back(one);
+    }
+    run();
+}
+
+void fast_sampler::queue_digits() {
+    if (!may_use_digit())
+        return;
+    for (request* one : plan_) {
+        const int frames = one->known ? one->known->all_frames() : 0;
+        if (one->digit == digit_use::untried && frames > 0 && frames <= MOST_FRAMES)
+            for (int i = 0; i < TIMES_TRIED; ++i)
+                tries_.push_back({kind::try_digit, one});
+    }
+}
+
+// Used when the reply is the same, and clearly sooner.
+void fast_sampler::digit_tried(request& one, const std::optional<answer>& told) {
+    if (!told || told->form != *one.known) {
+        digit_fails(one);
+        return;
+    }
+    one.digit_times.push_back(exchange());
+    if (one.digit_times.size() < TIMES_TRIED)
+        return;
+    if (median(one.digit_times) + CLEARLY <= median(one.plain_times) * 19 / 20) {
+        one.digit = digit_use::proven;
+        one.plain_at = answered_at_; // so recently
+    } else {
+        digit_fails(one);
+    }
+}
+
+// The first failure tells about the adapter, a later one about this request.
+void fast_sampler::digit_fails(request& one) {
+    digit_works_ = std::ranges::any_of(
+        plan_, [](const request* each) { return each->digit == digit_use::proven; });
+    one.digit = digit_use::never;
+    resync_ = resync::flush;
+    std::erase_if(tries_, [&](const attempt& each) { return !digit_works_ || each.asked == &one; });
+}

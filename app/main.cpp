@@ -132,6 +132,8 @@ void open_screen(Ks_lite_delegate& delegate, const std::string& name) {
         delegate.do_read_codes();
     else if (name == "live")
         delegate.do_actions();
+    else if (name == "report")
+        delegate.do_report();
     else if (name == "prefs")
         delegate.do_prefs();
     else if (name == "expert")
@@ -345,7 +347,7 @@ int start(int argc, char** argv) {
     if (asked.without_display())
         qputenv("QT_QPA_PLATFORM", "offscreen");
     log_to_system(asked.command.empty());
-    if (command && command->run)
+    if (command && !talks_to_car(asked))
         return run_at_desk(argc, argv, asked);
     if (!display_there()) {
         std::fputs("kestrom: there is no display; give a command, such as 'kestrom --demo codes'\n",

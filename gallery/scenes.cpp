@@ -110,6 +110,18 @@ void no_parameters(stage& on) {
     live(on);
 }
 
+void report(stage& on) {
+    on.app.delegate->do_report();
+}
+void report_read(stage& on) {
+    report(on);
+    on.press("readReport", CODES_SECONDS);
+}
+void report_reading(stage& on) {
+    report(on);
+    on.press("readReport", 4);
+}
+
 void expert(stage& on) {
     on.app.delegate->do_expert();
 }
@@ -292,6 +304,9 @@ const std::vector<scene> ALL = {
     {"live-twelve", "A run of twelve parameters", log_run, "hybrid", {}, twelve_parameters},
     {"live-more", "More parameters, and what the car supports", more_parameters_known, "hybrid"},
     {"look-up", "Looking a code up", look_up},
+    {"report-empty", "Report, nothing read", report},
+    {"report-reading", "A report is being read", report_reading, "diesel"},
+    {"report-read", "The report of a car", report_read, "diesel2019"},
     {"expert-empty", "Expert, nothing sent", expert},
     {"expert-talk", "Commands and replies", expert_talk},
     {"expert-timed-out",

@@ -4,6 +4,7 @@
 #include "expertCtrlr.h"
 #include "prefs.h"
 #include "readCodes.h"
+#include "report_screen.h"
 
 namespace {
 
@@ -20,5 +21,6 @@ screen_factories all_screens() {
         {ACTIONS_VIEW, make<actions>},
         {PREFS_VIEW, make<prefs>},
         {EXPERT_VIEW, make<expertCtrlr>},
+        {REPORT_VIEW, make<report_screen>},
     };
 }

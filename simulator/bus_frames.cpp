@@ -116,7 +116,7 @@ std::vector<bus_frame> frames_on_bus(const std::vector<unit_answer>& answers,
     std::vector<bus_frame> frames;
     milliseconds next_unit = bus.first_byte;
     for (const unit_answer& answer : answers) {
-        milliseconds at = next_unit;
+        milliseconds at = next_unit + answer.delay;
         for (const byte_string& message : answer.messages) {
             if (bus.is_can())
                 add_can_message(frames, answer, message, at, bus.per_frame, flow_control);

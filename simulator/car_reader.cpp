@@ -158,6 +158,19 @@ std::uint32_t read_address(const json_value& from, const bus_protocol& protocol)
     return address;
 }
 
+// Where one field means something to another is checked by whoever reads the car's answers.
+void read_own_answers(const json_value& from, control_unit& to) {
+    if (const json_value* answers = from.find("answers"))
+        for (const auto& [request, messages] : answers->object)
+            for (const json_value& one : messages.list)
+                to.answers[hex_text(read_bytes(request), false)].push_back(read_bytes(one.text));
+    if (const json_value* later = from.find("later"))
+        for (const auto& [request, seconds] : later->object)
+            to.later[hex_text(read_bytes(request), false)] = int(seconds.number);
+    if (const json_value* delay = from.find("delay_ms"))
+        to.delay_ms = int(delay->number);
+}
+
 control_unit read_unit(const json_value& from, const bus_protocol& protocol, bool compression) {
     control_unit unit;
     read(from, "name", unit.name);
@@ -174,6 +187,12 @@ control_unit read_unit(const json_value& from, const bus_protocol& protocol, boo
     if (const json_value* frame = from.find("freeze_frame"))
         unit.frozen = read_freeze_frame(*frame);
     read(from, "calibrations", unit.calibrations);
+    read(from, "verification_numbers", unit.verification_numbers);
+    if (const json_value* counters = from.find("counters"))
+        for (const json_value& one : counters->list)
+            unit.counters.push_back(int(one.number));
+    read(from, "short_name", unit.short_name);
+    read_own_answers(from, unit);
     if (const json_value* tests = from.find("tests"))
         for (const json_value& test : tests->list)
             unit.tests.push_back(read_test(test));

@@ -1,5 +1,6 @@
 #include "vehicle.h"
 
+#include "hex_text.h"
 #include "vehicle_info.h"
 
 #include <algorithm>
@@ -9,6 +10,7 @@ namespace {
 // Negative responses (ISO 14229-1).
 constexpr std::uint8_t SERVICE_NOT_SUPPORTED = 0x11;
 constexpr std::uint8_t CONDITIONS_NOT_CORRECT = 0x22;
+constexpr std::uint8_t ANSWER_TO_COME = 0x78;
 constexpr std::size_t CODES_PER_MESSAGE = 3; // before CAN
 
 const std::vector<std::string>& codes_for(const control_unit& unit, int service) {
@@ -62,6 +64,7 @@ double vehicle::battery_volts(std::chrono::milliseconds now) {
 
 std::vector<unit_answer> vehicle::answer(const byte_string& request, std::chrono::milliseconds now,
                                          std::optional<std::uint32_t> only) {
+    second_ = double(now.count()) / 1000;
     moment_.engine = drive_.at(seconds(now));
     // The car has come some way with its trouble.
     constexpr double KM_BEFORE = 312;
@@ -80,7 +83,8 @@ std::vector<unit_answer> vehicle::answer(const byte_string& request, std::chrono
         if (only && can() && !request.empty() && !known_service(request[0]))
             reply.push_back({0x7F, request[0], SERVICE_NOT_SUPPORTED});
         if (!reply.empty())
-            answers.push_back({unit.address, std::move(reply)});
+            answers.push_back(
+                {unit.address, std::move(reply), std::chrono::milliseconds(unit.delay_ms)});
     }
     std::stable_sort(
         answers.begin(), answers.end(),
@@ -88,7 +92,21 @@ std::vector<unit_answer> vehicle::answer(const byte_string& request, std::chrono
     return answers;
 }
 
+// An answer that is put off is worked out from the first time that it is asked for.
 vehicle::messages vehicle::answer_of(control_unit& unit, const byte_string& request) {
+    const std::string digits = hex_text(request, false);
+    if (const auto put_off = unit.later.find(digits); put_off != unit.later.end()) {
+        const double first =
+            asked_first_.try_emplace({unit.address, digits}, second_).first->second;
+        if (second_ < first + put_off->second)
+            return {{0x7F, request[0], ANSWER_TO_COME}};
+    }
+    if (const auto own = unit.answers.find(digits); own != unit.answers.end())
+        return own->second;
+    return answer_now(unit, request);
+}
+
+vehicle::messages vehicle::answer_now(control_unit& unit, const byte_string& request) {
     if (request.empty() || std::find(unit.silent_services.begin(), unit.silent_services.end(),
                                      request[0]) != unit.silent_services.end())
         return {};

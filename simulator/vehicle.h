@@ -8,6 +8,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -16,6 +17,7 @@ struct unit_answer {
     // Service data from the answer byte on ("41 00 ..."). CAN: one message of any length. Older
     // buses: each message at most seven bytes.
     std::vector<byte_string> messages;
+    std::chrono::milliseconds delay{0}; // beyond what the bus takes
 };
 
 class vehicle {
@@ -37,6 +39,7 @@ class vehicle {
     using messages = std::vector<byte_string>;
 
     messages answer_of(control_unit& unit, const byte_string& request);
+    messages answer_now(control_unit& unit, const byte_string& request);
     messages current_data(control_unit& unit, const byte_string& request);
     messages freeze_frame_data(const control_unit& unit, const byte_string& request) const;
     messages codes(const control_unit& unit, const byte_string& request) const;
@@ -50,6 +53,8 @@ class vehicle {
     std::optional<std::chrono::milliseconds> start_;
     car_moment moment_;
     double cleared_at_km_ = 0;
+    double second_ = 0; // of the request that is being answered
+    std::map<std::pair<std::uint32_t, std::string>, double> asked_first_; // at that second
 };
 
 // Two bytes of SAE J2012: P0301 is 03 01, U0100 is C1 00.

@@ -1,5 +1,6 @@
 #include "vehicle_info.h"
 
+#include "hex_text.h"
 #include "vehicle.h"
 
 #include <algorithm>
@@ -10,9 +11,22 @@ using messages = std::vector<byte_string>;
 
 constexpr std::size_t VIN_LENGTH = 17;
 constexpr std::size_t CALIBRATION_LENGTH = 16;
-constexpr std::size_t NAME_LENGTH = 20;
+constexpr std::size_t NAME_LENGTH = 20, SHORT_NAME_LENGTH = 4;
 
-enum info_type { vin_count = 1, vin, calibration_count, calibration, name_count = 9, name };
+enum info_type {
+    vin_count = 1,
+    vin,
+    calibration_count,
+    calibration,
+    number_count,
+    number,
+    counter_count,
+    counter,
+    name_count,
+    name,
+    diesel_counter
+};
+constexpr std::size_t BYTES_OF_A_MESSAGE = 4;
 
 void append(byte_string& to, const std::string& text, std::size_t length) {
     for (std::size_t i = 0; i < length; ++i)
@@ -30,6 +44,19 @@ byte_string payload(const car& the_car, const control_unit& unit, int type, bool
     } else if (type == calibration) {
         for (const std::string& id : unit.calibrations)
             append(bytes, id, CALIBRATION_LENGTH);
+    } else if (type == number) {
+        for (const std::string& one : unit.verification_numbers) {
+            const byte_string four = hex_bytes(one);
+            bytes.insert(bytes.end(), four.begin(), four.end());
+        }
+    } else if (type == counter || type == diesel_counter) {
+        for (const int count : unit.counters)
+            bytes.insert(bytes.end(), {std::uint8_t(count >> 8), std::uint8_t(count & 0xFF)});
+        if (!can)
+            bytes.resize((bytes.size() + 3) / BYTES_OF_A_MESSAGE * BYTES_OF_A_MESSAGE);
+    } else if (type == name && !unit.short_name.empty()) {
+        append(bytes, unit.short_name, SHORT_NAME_LENGTH);
+        append(bytes, "-" + unit.name, NAME_LENGTH - SHORT_NAME_LENGTH);
     } else if (type == name) {
         append(bytes, unit.name, NAME_LENGTH);
     }
@@ -47,9 +74,30 @@ std::vector<int> supported_types(const car& the_car, const control_unit& unit, b
         add(vin_count, vin);
     if (!unit.calibrations.empty())
         add(calibration_count, calibration);
-    if (can)
-        types.push_back(name);
+    if (!unit.verification_numbers.empty())
+        add(number_count, number);
+    if (!unit.counters.empty() && the_car.engine.fuel != fuel_kind::diesel)
+        add(counter_count, counter);
+    else if (!unit.counters.empty())
+        types.push_back(diesel_counter);
+    if (can || !unit.short_name.empty())
+        add(name_count, name);
     return types;
+}
+
+// How many items a CAN answer says that it holds.
+std::uint8_t item_count(const control_unit& unit, int type) {
+    switch (type) {
+    case calibration:
+        return std::uint8_t(unit.calibrations.size());
+    case number:
+        return std::uint8_t(unit.verification_numbers.size());
+    case counter:
+    case diesel_counter:
+        return std::uint8_t(unit.counters.size());
+    default:
+        return 1;
+    }
 }
 
 } // namespace
@@ -70,13 +118,14 @@ messages vehicle_info(const car& the_car, const control_unit& unit, const byte_s
     }
     if (std::find(types.begin(), types.end(), type) == types.end())
         return {};
-    if (type == vin_count || type == calibration_count) {
-        head.push_back(std::uint8_t(payload(the_car, unit, type + 1, can).size() / 4));
+    if (type % 2 != 0 && type < diesel_counter) {
+        head.push_back(
+            std::uint8_t(payload(the_car, unit, type + 1, can).size() / BYTES_OF_A_MESSAGE));
         return {head};
     }
     const byte_string bytes = payload(the_car, unit, type, can);
     if (can) {
-        head.push_back(type == calibration ? std::uint8_t(unit.calibrations.size()) : 1);
+        head.push_back(item_count(unit, type));
         head.insert(head.end(), bytes.begin(), bytes.end());
         return {head};
     }

@@ -1,5 +1,5 @@
 #include "fixed_decimals.h"
-#include "mac_toolies.h"
+#include "standard_values.h"
 #include "text.h"
 
 #include <algorithm>
@@ -116,6 +116,10 @@ double raw_value(std::uint32_t identifier, std::uint32_t value) {
 }
 
 } // namespace
+
+bool has_test_scaling(std::string_view identifier) {
+    return &scaling_of(mac_toolies::convertStr2Byte(identifier)) != &UNSCALED;
+}
 
 std::string mac_toolies::CAN_scale_and_units(std::string_view identifier,
                                              std::string_view this_value, bool with_units) {

@@ -37,3 +37,6 @@ std::string whole_answer(std::string_view reply);
 // A test value (two bytes in hex digits) by its unit-and-scaling identifier, the signed ones and
 // those that CAN_scale_and_units reads otherwise among them; empty for an identifier without a row.
 std::string standard_test_value(std::string_view identifier, std::string_view value);
+
+// Whether a test value can be scaled by that identifier, here or by CAN_scale_and_units.
+bool has_test_scaling(std::string_view identifier);

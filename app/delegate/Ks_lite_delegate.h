@@ -50,6 +50,7 @@ inline constexpr char READ_CODES_VIEW[] = "read_codes_view";
 inline constexpr char ACTIONS_VIEW[] = "actions_view";
 inline constexpr char PREFS_VIEW[] = "prefs";
 inline constexpr char EXPERT_VIEW[] = "expertView";
+inline constexpr char REPORT_VIEW[] = "report_view";
 
 class Ks_lite_delegate {
   public:
@@ -67,6 +68,7 @@ class Ks_lite_delegate {
     // Choosing the preferences again while they show discards their unsaved edits.
     void do_prefs() { show_screen(PREFS_VIEW, false); }
     void do_expert() { show_screen(EXPERT_VIEW, true); }
+    void do_report() { show_screen(REPORT_VIEW, true); }
     void do_logs() {}
     void do_help_button();
     void applicationWillTerminate();
@@ -96,6 +98,8 @@ class Ks_lite_delegate {
     void reconnect();
     // The link is on its way up, and will start the screen's work.
     bool link_coming_up() const;
+    // Another one after each time that the link was dropped.
+    std::uint64_t link_number() const { return attempt_; }
     // A reply, a connection or a deferred call is still to come.
     bool anything_outstanding() const;
     // No reply is to come any more, and nothing that was sent times out.

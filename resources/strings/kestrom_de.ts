@@ -360,7 +360,7 @@ Die Namen der Prüfungen sind englisch.</translation>
     </message>
     <message id="ui_live_follow">
         <source></source>
-        <translation>Dem Dia&amp;gramm folgen</translation>
+        <translation>Dia&amp;gramm folgen</translation>
     </message>
     <message id="ui_live_follow_hint">
         <source></source>
@@ -368,7 +368,7 @@ Die Namen der Prüfungen sind englisch.</translation>
     </message>
     <message id="ui_live_dial_unmoved">
         <source></source>
-        <translation>Nichts bewegt dieses Instrument: Wählen Sie den ersten Messwert oder „Dem Diagramm folgen“.</translation>
+        <translation>Nichts bewegt dieses Instrument: Wählen Sie den ersten Messwert oder „Diagramm folgen“.</translation>
     </message>
     <message id="ui_live_length">
         <source></source>
@@ -868,6 +868,630 @@ Freie Software unter der MIT-Lizenz.
     <message id="ui_lookup_close">
         <source></source>
         <translation>&amp;Schließen</translation>
+    </message>
+    <message id="report_title">
+        <source></source>
+        <translation>Fahrzeugbericht</translation>
+    </message>
+    <message id="report_compare_title">
+        <source></source>
+        <translation>Vergleich zweier Berichte</translation>
+    </message>
+    <message id="report_plate">
+        <source></source>
+        <translation>Kennzeichen</translation>
+    </message>
+    <message id="report_owner">
+        <source></source>
+        <translation>Halter</translation>
+    </message>
+    <message id="report_odometer">
+        <source></source>
+        <translation>Kilometerstand, abgelesen</translation>
+    </message>
+    <message id="report_signature">
+        <source></source>
+        <translation>Datum, Unterschrift</translation>
+    </message>
+    <message id="report_page">
+        <source></source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message id="report_foot">
+        <source></source>
+        <translation>Über genormtes OBD gelesen: nur Motor und Abgas; keine Airbags, Bremsen oder Karosserie.</translation>
+    </message>
+    <message id="report_fact_lamp">
+        <source></source>
+        <translation>Motorkontrollleuchte (MIL)</translation>
+    </message>
+    <message id="report_fact_codes">
+        <source></source>
+        <translation>Fehlercodes</translation>
+    </message>
+    <message id="report_fact_readiness">
+        <source></source>
+        <translation>Prüfbereitschaft</translation>
+    </message>
+    <message id="report_on">
+        <source></source>
+        <translation>AN</translation>
+    </message>
+    <message id="report_off">
+        <source></source>
+        <translation>aus</translation>
+    </message>
+    <message id="report_counts">
+        <source></source>
+        <translation>Gespeichert: %1; vorläufig: %2; permanent: %3</translation>
+    </message>
+    <message id="report_at_least">
+        <source></source>
+        <translation>mindestens %1</translation>
+    </message>
+    <message id="report_ready">
+        <source></source>
+        <translation>%1 von %2 abgeschlossen</translation>
+    </message>
+    <message id="report_not_told">
+        <source></source>
+        <translation>nicht mitgeteilt</translation>
+    </message>
+    <message id="report_refused">
+        <source></source>
+        <translation>verweigert (%1)</translation>
+    </message>
+    <message id="report_unread">
+        <source></source>
+        <translation>nicht lesbar</translation>
+    </message>
+    <message id="report_not_asked">
+        <source></source>
+        <translation>nicht gefragt</translation>
+    </message>
+    <message id="report_none">
+        <source></source>
+        <translation>keine</translation>
+    </message>
+    <message id="report_section_vehicle">
+        <source></source>
+        <translation>Fahrzeug</translation>
+    </message>
+    <message id="report_section_readings">
+        <source></source>
+        <translation>Beim Lesen</translation>
+    </message>
+    <message id="report_section_adapter">
+        <source></source>
+        <translation>Adapter und Bus</translation>
+    </message>
+    <message id="report_section_units">
+        <source></source>
+        <translation>Steuergeräte</translation>
+    </message>
+    <message id="report_section_codes">
+        <source></source>
+        <translation>Fehlercodes</translation>
+    </message>
+    <message id="report_section_frames">
+        <source></source>
+        <translation>Umgebungsdaten (Freeze Frame)</translation>
+    </message>
+    <message id="report_section_readiness">
+        <source></source>
+        <translation>Prüfbereitschaft</translation>
+    </message>
+    <message id="report_section_cleared">
+        <source></source>
+        <translation>Seit dem Löschen der Codes</translation>
+    </message>
+    <message id="report_section_tests">
+        <source></source>
+        <translation>Testergebnisse</translation>
+    </message>
+    <message id="report_section_counters">
+        <source></source>
+        <translation>Zähler im Fahrbetrieb</translation>
+    </message>
+    <message id="report_section_unread">
+        <source></source>
+        <translation>Was nicht gelesen wurde, und warum</translation>
+    </message>
+    <message id="report_section_changes">
+        <source></source>
+        <translation>Was kam und ging</translation>
+    </message>
+    <message id="report_vin">
+        <source></source>
+        <translation>Fahrgestellnummer (VIN)</translation>
+    </message>
+    <message id="report_vin_odd">
+        <source></source>
+        <translation>%1 (keine Nummer nach Norm)</translation>
+    </message>
+    <message id="report_vins_differ">
+        <source></source>
+        <translation>Die Steuergeräte nennen verschiedene Nummern: %1</translation>
+    </message>
+    <message id="report_read_at">
+        <source></source>
+        <translation>Gelesen am</translation>
+    </message>
+    <message id="report_seconds">
+        <source></source>
+        <translation>Dauer</translation>
+    </message>
+    <message id="report_volts">
+        <source></source>
+        <translation>Batterie, laut Adapter</translation>
+    </message>
+    <message id="report_engine_running">
+        <source></source>
+        <translation>Motor läuft</translation>
+    </message>
+    <message id="report_yes">
+        <source></source>
+        <translation>ja</translation>
+    </message>
+    <message id="report_no">
+        <source></source>
+        <translation>nein</translation>
+    </message>
+    <message id="report_adapter">
+        <source></source>
+        <translation>Adapter</translation>
+    </message>
+    <message id="report_protocol">
+        <source></source>
+        <translation>Protokoll</translation>
+    </message>
+    <message id="report_answered">
+        <source></source>
+        <translation>Antwortende Steuergeräte</translation>
+    </message>
+    <message id="report_col_unit">
+        <source></source>
+        <translation>Steuergerät</translation>
+    </message>
+    <message id="report_col_address">
+        <source></source>
+        <translation>Adresse</translation>
+    </message>
+    <message id="report_col_name">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="report_col_calibration">
+        <source></source>
+        <translation>Kalibrierung</translation>
+    </message>
+    <message id="report_col_verification">
+        <source></source>
+        <translation>Prüfnummer (CVN)</translation>
+    </message>
+    <message id="report_col_code">
+        <source></source>
+        <translation>Code</translation>
+    </message>
+    <message id="report_col_meaning">
+        <source></source>
+        <translation>Bedeutung</translation>
+    </message>
+    <message id="report_col_stored">
+        <source></source>
+        <translation>Gespeichert</translation>
+    </message>
+    <message id="report_col_pending">
+        <source></source>
+        <translation>Vorläufig</translation>
+    </message>
+    <message id="report_col_permanent">
+        <source></source>
+        <translation>Permanent</translation>
+    </message>
+    <message id="report_col_frame">
+        <source></source>
+        <translation>Frame</translation>
+    </message>
+    <message id="report_col_value">
+        <source></source>
+        <translation>Wert</translation>
+    </message>
+    <message id="report_col_monitor">
+        <source></source>
+        <translation>Prüfung</translation>
+    </message>
+    <message id="report_col_state">
+        <source></source>
+        <translation>Stand</translation>
+    </message>
+    <message id="report_col_drive">
+        <source></source>
+        <translation>Diese Fahrt</translation>
+    </message>
+    <message id="report_col_test">
+        <source></source>
+        <translation>Test</translation>
+    </message>
+    <message id="report_col_lowest">
+        <source></source>
+        <translation>Min.</translation>
+    </message>
+    <message id="report_col_highest">
+        <source></source>
+        <translation>Max.</translation>
+    </message>
+    <message id="report_col_result">
+        <source></source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message id="report_col_near">
+        <source></source>
+        <translation>Weg zum Grenzwert</translation>
+    </message>
+    <message id="report_col_done">
+        <source></source>
+        <translation>Ausgeführt</translation>
+    </message>
+    <message id="report_col_conditions">
+        <source></source>
+        <translation>Bedingungen erfüllt</translation>
+    </message>
+    <message id="report_col_ratio">
+        <source></source>
+        <translation>Verhältnis</translation>
+    </message>
+    <message id="report_col_what">
+        <source></source>
+        <translation>Was</translation>
+    </message>
+    <message id="report_col_why">
+        <source></source>
+        <translation>Warum</translation>
+    </message>
+    <message id="report_col_before">
+        <source></source>
+        <translation>Vorher</translation>
+    </message>
+    <message id="report_col_after">
+        <source></source>
+        <translation>Nachher</translation>
+    </message>
+    <message id="report_complete">
+        <source></source>
+        <translation>abgeschlossen</translation>
+    </message>
+    <message id="report_not_complete">
+        <source></source>
+        <translation>nicht abgeschlossen</translation>
+    </message>
+    <message id="report_not_supported">
+        <source></source>
+        <translation>Nicht vorhanden: %1</translation>
+    </message>
+    <message id="report_spark">
+        <source></source>
+        <translation>Prüfungen für Otto-Motoren</translation>
+    </message>
+    <message id="report_compression">
+        <source></source>
+        <translation>Prüfungen für Dieselmotoren</translation>
+    </message>
+    <message id="report_failed">
+        <source></source>
+        <translation>NICHT BESTANDEN</translation>
+    </message>
+    <message id="report_passed">
+        <source></source>
+        <translation>bestanden</translation>
+    </message>
+    <message id="report_no_result">
+        <source></source>
+        <translation>noch kein Ergebnis</translation>
+    </message>
+    <message id="report_legend">
+        <source></source>
+        <translation>Vorläufig: auf dieser oder der letzten Fahrt aufgetreten. Gespeichert: bestätigt. Permanent: bleibt nach dem Löschen, bis die Prüfung bestanden ist.</translation>
+    </message>
+    <message id="report_mismatch">
+        <source></source>
+        <translation>%1: Der Status zählt %2 gespeicherte Codes, die Liste enthält %3.</translation>
+    </message>
+    <message id="report_cylinders">
+        <source></source>
+        <translation>Zylinder sind so nummeriert, wie das Steuergerät sie zählt.</translation>
+    </message>
+    <message id="report_no_o2_tests">
+        <source></source>
+        <translation>Vor CAN werden die Lambdasonden-Tests von Dienst 05 nicht gelesen.</translation>
+    </message>
+    <message id="report_unknown_code">
+        <source></source>
+        <translation>nicht in der Codeliste</translation>
+    </message>
+    <message id="report_why_not_listed">
+        <source></source>
+        <translation>dieses Steuergerät bietet es nicht an</translation>
+    </message>
+    <message id="report_why_listed">
+        <source></source>
+        <translation>keine Antwort, obwohl das Steuergerät es anbietet</translation>
+    </message>
+    <message id="report_why_no_answer">
+        <source></source>
+        <translation>keine Antwort</translation>
+    </message>
+    <message id="report_why_time_out">
+        <source></source>
+        <translation>keine Antwort innerhalb der Frist</translation>
+    </message>
+    <message id="report_why_incomplete">
+        <source></source>
+        <translation>Teile der Antwort fehlen</translation>
+    </message>
+    <message id="report_why_ended">
+        <source></source>
+        <translation>das Lesen war zu Ende</translation>
+    </message>
+    <message id="report_partly">
+        <source></source>
+        <translation>ein Teil davon war nicht lesbar</translation>
+    </message>
+    <message id="report_all_units">
+        <source></source>
+        <translation>alle Steuergeräte</translation>
+    </message>
+    <message id="report_unit">
+        <source></source>
+        <translation>Steuergerät %1</translation>
+    </message>
+    <message id="report_request">
+        <source></source>
+        <translation>Anfrage %1</translation>
+    </message>
+    <message id="report_end_cancelled">
+        <source></source>
+        <translation>Das Lesen wurde abgebrochen: Gezeigt wird, was bis dahin gelesen war.</translation>
+    </message>
+    <message id="report_end_time_up">
+        <source></source>
+        <translation>Das Lesen dauerte zu lange und wurde beendet: Gezeigt wird, was bis dahin gelesen war.</translation>
+    </message>
+    <message id="report_end_adapter_silent">
+        <source></source>
+        <translation>Der Adapter verstummte: Gezeigt wird, was bis dahin gelesen war.</translation>
+    </message>
+    <message id="report_end_link_lost">
+        <source></source>
+        <translation>Die Verbindung brach ab: Gezeigt wird, was bis dahin gelesen war.</translation>
+    </message>
+    <message id="report_part_status">
+        <source></source>
+        <translation>Leuchte und Prüfbereitschaft</translation>
+    </message>
+    <message id="report_part_this_drive">
+        <source></source>
+        <translation>Prüfbereitschaft dieser Fahrt</translation>
+    </message>
+    <message id="report_part_stored">
+        <source></source>
+        <translation>Gespeicherte Codes</translation>
+    </message>
+    <message id="report_part_pending">
+        <source></source>
+        <translation>Vorläufige Codes</translation>
+    </message>
+    <message id="report_part_permanent">
+        <source></source>
+        <translation>Permanente Codes</translation>
+    </message>
+    <message id="report_part_frame">
+        <source></source>
+        <translation>Umgebungsdaten</translation>
+    </message>
+    <message id="report_part_vin">
+        <source></source>
+        <translation>VIN</translation>
+    </message>
+    <message id="report_part_unit_name">
+        <source></source>
+        <translation>Name des Steuergeräts</translation>
+    </message>
+    <message id="report_part_calibrations">
+        <source></source>
+        <translation>Kalibrierungen</translation>
+    </message>
+    <message id="report_part_verification_numbers">
+        <source></source>
+        <translation>Prüfnummern</translation>
+    </message>
+    <message id="report_part_counters">
+        <source></source>
+        <translation>Zähler im Fahrbetrieb</translation>
+    </message>
+    <message id="report_part_tests">
+        <source></source>
+        <translation>Testergebnisse</translation>
+    </message>
+    <message id="report_nothing_unread">
+        <source></source>
+        <translation>Alles Gefragte wurde mitgeteilt.</translation>
+    </message>
+    <message id="report_other_car">
+        <source></source>
+        <translation>Diese Berichte sind von zwei verschiedenen Autos: %1 und %2.</translation>
+    </message>
+    <message id="report_no_changes">
+        <source></source>
+        <translation>Nichts, was beide Berichte mitteilen, hat sich geändert.</translation>
+    </message>
+    <message id="ui_rail_report">
+        <source></source>
+        <translation>&amp;Bericht</translation>
+    </message>
+    <message id="ui_report_title">
+        <source></source>
+        <translation>Fahrzeugbericht</translation>
+    </message>
+    <message id="ui_report_read">
+        <source></source>
+        <translation>Bericht le&amp;sen</translation>
+    </message>
+    <message id="ui_report_cancel">
+        <source></source>
+        <translation>Abb&amp;rechen</translation>
+    </message>
+    <message id="ui_report_save">
+        <source></source>
+        <translation>S&amp;peichern unter…</translation>
+    </message>
+    <message id="ui_report_print">
+        <source></source>
+        <translation>Druc&amp;ken…</translation>
+    </message>
+    <message id="ui_report_copy">
+        <source></source>
+        <translation>K&amp;opieren</translation>
+    </message>
+    <message id="ui_report_open">
+        <source></source>
+        <translation>Ö&amp;ffnen…</translation>
+    </message>
+    <message id="ui_report_compare">
+        <source></source>
+        <translation>&amp;Vergleichen…</translation>
+    </message>
+    <message id="ui_report_hide_vin">
+        <source></source>
+        <translation>Ende der VIN verber&amp;gen</translation>
+    </message>
+    <message id="ui_report_hide_vin_hint">
+        <source></source>
+        <translation>In allem, was gespeichert, gedruckt oder kopiert wird, sind die letzten sechs Zeichen verborgen.</translation>
+    </message>
+    <message id="ui_report_empty">
+        <source></source>
+        <translation>„Bericht lesen“ fragt jedes Steuergerät nach Codes, Umgebungsdaten, Prüfbereitschaft, Testergebnissen und Kennung.</translation>
+    </message>
+    <message id="ui_report_save_title">
+        <source></source>
+        <translation>Bericht speichern</translation>
+    </message>
+    <message id="ui_report_open_title">
+        <source></source>
+        <translation>Bericht öffnen</translation>
+    </message>
+    <message id="ui_report_compare_title">
+        <source></source>
+        <translation>Früherer Bericht zum Vergleich</translation>
+    </message>
+    <message id="ui_report_not_saved">
+        <source></source>
+        <translation>Der Bericht wurde nicht gespeichert.</translation>
+    </message>
+    <message id="ui_report_saved">
+        <source></source>
+        <translation>Gespeichert: %1</translation>
+    </message>
+    <message id="ui_report_copied">
+        <source></source>
+        <translation>Der Bericht ist in der Zwischenablage.</translation>
+    </message>
+    <message id="ui_report_not_opened">
+        <source></source>
+        <translation>Diese Datei lässt sich nicht als Bericht öffnen.</translation>
+    </message>
+    <message id="report_starting">
+        <source></source>
+        <translation>Adapter wird vorbereitet</translation>
+    </message>
+    <message id="report_progress">
+        <source></source>
+        <translation>Lese %1 (%2 von %3)</translation>
+    </message>
+    <message id="report_topic_adapter">
+        <source></source>
+        <translation>die Angaben des Adapters</translation>
+    </message>
+    <message id="report_topic_supported">
+        <source></source>
+        <translation>das Angebot der Steuergeräte</translation>
+    </message>
+    <message id="report_topic_status">
+        <source></source>
+        <translation>Leuchte und Prüfbereitschaft</translation>
+    </message>
+    <message id="report_topic_codes">
+        <source></source>
+        <translation>Fehlercodes</translation>
+    </message>
+    <message id="report_topic_readings">
+        <source></source>
+        <translation>Messwerte</translation>
+    </message>
+    <message id="report_topic_frames">
+        <source></source>
+        <translation>Umgebungsdaten</translation>
+    </message>
+    <message id="report_topic_identity">
+        <source></source>
+        <translation>Kennungen</translation>
+    </message>
+    <message id="report_topic_tests">
+        <source></source>
+        <translation>Testergebnisse</translation>
+    </message>
+    <message id="report_done">
+        <source></source>
+        <translation>Der Bericht ist vollständig.</translation>
+    </message>
+    <message id="report_done_partly">
+        <source></source>
+        <translation>Der Bericht ist gelesen. Was nicht mitgeteilt wurde, steht am Ende.</translation>
+    </message>
+    <message id="report_nothing_told">
+        <source></source>
+        <translation>Das Auto hat nichts mitgeteilt.</translation>
+    </message>
+    <message id="report_cancelled">
+        <source></source>
+        <translation>Das Lesen wurde abgebrochen.</translation>
+    </message>
+    <message id="ui_copy_rows">
+        <source></source>
+        <translation>Zeilen &amp;kopieren</translation>
+    </message>
+    <message id="ui_codes_to_report">
+        <source></source>
+        <translation>&amp;Speichern oder drucken: Fahrzeugbericht</translation>
+    </message>
+    <message id="ui_report_offer">
+        <source></source>
+        <translation>Vor dem Löschen anbie&amp;ten</translation>
+    </message>
+    <message id="ui_report_offer_hint">
+        <source></source>
+        <translation>Bevor Codes gelöscht werden, wird ein gelesener, nicht gespeicherter Bericht angeboten.</translation>
+    </message>
+    <message id="ui_report_before_clear">
+        <source></source>
+        <translation>Den Bericht vor dem Löschen speichern?</translation>
+    </message>
+    <message id="ui_report_before_clear_hint">
+        <source></source>
+        <translation>Das Löschen entfernt auch Umgebungsdaten und Testergebnisse. Der gelesene Bericht enthält sie.</translation>
+    </message>
+    <message id="ui_report_show">
+        <source></source>
+        <translation>Bericht zeigen</translation>
+    </message>
+    <message id="ui_report_go_on">
+        <source></source>
+        <translation>Ohne Speichern weiter</translation>
+    </message>
+    <message id="report_none_so_far">
+        <source></source>
+        <translation>keine, soweit mitgeteilt</translation>
     </message>
 </context>
 </TS>

@@ -868,5 +868,629 @@ Free software under the MIT licence.
         <source></source>
         <translation>&amp;Close</translation>
     </message>
+    <message id="report_title">
+        <source></source>
+        <translation>Vehicle report</translation>
+    </message>
+    <message id="report_compare_title">
+        <source></source>
+        <translation>Two reports compared</translation>
+    </message>
+    <message id="report_plate">
+        <source></source>
+        <translation>Plate</translation>
+    </message>
+    <message id="report_owner">
+        <source></source>
+        <translation>Owner</translation>
+    </message>
+    <message id="report_odometer">
+        <source></source>
+        <translation>Odometer as read by hand</translation>
+    </message>
+    <message id="report_signature">
+        <source></source>
+        <translation>Date, signature</translation>
+    </message>
+    <message id="report_page">
+        <source></source>
+        <translation>Page %1 of %2</translation>
+    </message>
+    <message id="report_foot">
+        <source></source>
+        <translation>Read over generic OBD: engine and emissions only; no airbag, brakes or body.</translation>
+    </message>
+    <message id="report_fact_lamp">
+        <source></source>
+        <translation>Engine lamp (MIL)</translation>
+    </message>
+    <message id="report_fact_codes">
+        <source></source>
+        <translation>Trouble codes</translation>
+    </message>
+    <message id="report_fact_readiness">
+        <source></source>
+        <translation>Readiness</translation>
+    </message>
+    <message id="report_on">
+        <source></source>
+        <translation>ON</translation>
+    </message>
+    <message id="report_off">
+        <source></source>
+        <translation>off</translation>
+    </message>
+    <message id="report_counts">
+        <source></source>
+        <translation>Stored: %1; pending: %2; permanent: %3</translation>
+    </message>
+    <message id="report_at_least">
+        <source></source>
+        <translation>at least %1</translation>
+    </message>
+    <message id="report_ready">
+        <source></source>
+        <translation>%1 of %2 complete</translation>
+    </message>
+    <message id="report_not_told">
+        <source></source>
+        <translation>not told</translation>
+    </message>
+    <message id="report_refused">
+        <source></source>
+        <translation>refused (%1)</translation>
+    </message>
+    <message id="report_unread">
+        <source></source>
+        <translation>could not be read</translation>
+    </message>
+    <message id="report_not_asked">
+        <source></source>
+        <translation>not asked</translation>
+    </message>
+    <message id="report_none">
+        <source></source>
+        <translation>none</translation>
+    </message>
+    <message id="report_section_vehicle">
+        <source></source>
+        <translation>Vehicle</translation>
+    </message>
+    <message id="report_section_readings">
+        <source></source>
+        <translation>At the time of reading</translation>
+    </message>
+    <message id="report_section_adapter">
+        <source></source>
+        <translation>Adapter and bus</translation>
+    </message>
+    <message id="report_section_units">
+        <source></source>
+        <translation>Control units</translation>
+    </message>
+    <message id="report_section_codes">
+        <source></source>
+        <translation>Trouble codes</translation>
+    </message>
+    <message id="report_section_frames">
+        <source></source>
+        <translation>Freeze frames</translation>
+    </message>
+    <message id="report_section_readiness">
+        <source></source>
+        <translation>Readiness</translation>
+    </message>
+    <message id="report_section_cleared">
+        <source></source>
+        <translation>Since the codes were cleared</translation>
+    </message>
+    <message id="report_section_tests">
+        <source></source>
+        <translation>Test results</translation>
+    </message>
+    <message id="report_section_counters">
+        <source></source>
+        <translation>In-use counters</translation>
+    </message>
+    <message id="report_section_unread">
+        <source></source>
+        <translation>What was not read, and why</translation>
+    </message>
+    <message id="report_section_changes">
+        <source></source>
+        <translation>What came and went</translation>
+    </message>
+    <message id="report_vin">
+        <source></source>
+        <translation>Vehicle identification number (VIN)</translation>
+    </message>
+    <message id="report_vin_odd">
+        <source></source>
+        <translation>%1 (not a standard number)</translation>
+    </message>
+    <message id="report_vins_differ">
+        <source></source>
+        <translation>The units tell different numbers: %1</translation>
+    </message>
+    <message id="report_read_at">
+        <source></source>
+        <translation>Read on</translation>
+    </message>
+    <message id="report_seconds">
+        <source></source>
+        <translation>Time taken</translation>
+    </message>
+    <message id="report_volts">
+        <source></source>
+        <translation>Battery, by the adapter</translation>
+    </message>
+    <message id="report_engine_running">
+        <source></source>
+        <translation>Engine running</translation>
+    </message>
+    <message id="report_yes">
+        <source></source>
+        <translation>yes</translation>
+    </message>
+    <message id="report_no">
+        <source></source>
+        <translation>no</translation>
+    </message>
+    <message id="report_adapter">
+        <source></source>
+        <translation>Adapter</translation>
+    </message>
+    <message id="report_protocol">
+        <source></source>
+        <translation>Protocol</translation>
+    </message>
+    <message id="report_answered">
+        <source></source>
+        <translation>Units that answered</translation>
+    </message>
+    <message id="report_col_unit">
+        <source></source>
+        <translation>Unit</translation>
+    </message>
+    <message id="report_col_address">
+        <source></source>
+        <translation>Address</translation>
+    </message>
+    <message id="report_col_name">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="report_col_calibration">
+        <source></source>
+        <translation>Calibration</translation>
+    </message>
+    <message id="report_col_verification">
+        <source></source>
+        <translation>Verification number (CVN)</translation>
+    </message>
+    <message id="report_col_code">
+        <source></source>
+        <translation>Code</translation>
+    </message>
+    <message id="report_col_meaning">
+        <source></source>
+        <translation>Meaning</translation>
+    </message>
+    <message id="report_col_stored">
+        <source></source>
+        <translation>Stored</translation>
+    </message>
+    <message id="report_col_pending">
+        <source></source>
+        <translation>Pending</translation>
+    </message>
+    <message id="report_col_permanent">
+        <source></source>
+        <translation>Permanent</translation>
+    </message>
+    <message id="report_col_frame">
+        <source></source>
+        <translation>Frame</translation>
+    </message>
+    <message id="report_col_value">
+        <source></source>
+        <translation>Value</translation>
+    </message>
+    <message id="report_col_monitor">
+        <source></source>
+        <translation>Monitor</translation>
+    </message>
+    <message id="report_col_state">
+        <source></source>
+        <translation>State</translation>
+    </message>
+    <message id="report_col_drive">
+        <source></source>
+        <translation>This drive</translation>
+    </message>
+    <message id="report_col_test">
+        <source></source>
+        <translation>Test</translation>
+    </message>
+    <message id="report_col_lowest">
+        <source></source>
+        <translation>Min.</translation>
+    </message>
+    <message id="report_col_highest">
+        <source></source>
+        <translation>Max.</translation>
+    </message>
+    <message id="report_col_result">
+        <source></source>
+        <translation>Result</translation>
+    </message>
+    <message id="report_col_near">
+        <source></source>
+        <translation>Way to the limit</translation>
+    </message>
+    <message id="report_col_done">
+        <source></source>
+        <translation>Done</translation>
+    </message>
+    <message id="report_col_conditions">
+        <source></source>
+        <translation>Conditions met</translation>
+    </message>
+    <message id="report_col_ratio">
+        <source></source>
+        <translation>Ratio</translation>
+    </message>
+    <message id="report_col_what">
+        <source></source>
+        <translation>What</translation>
+    </message>
+    <message id="report_col_why">
+        <source></source>
+        <translation>Why</translation>
+    </message>
+    <message id="report_col_before">
+        <source></source>
+        <translation>Before</translation>
+    </message>
+    <message id="report_col_after">
+        <source></source>
+        <translation>After</translation>
+    </message>
+    <message id="report_complete">
+        <source></source>
+        <translation>complete</translation>
+    </message>
+    <message id="report_not_complete">
+        <source></source>
+        <translation>not complete</translation>
+    </message>
+    <message id="report_not_supported">
+        <source></source>
+        <translation>Not supported: %1</translation>
+    </message>
+    <message id="report_spark">
+        <source></source>
+        <translation>petrol set (spark ignition)</translation>
+    </message>
+    <message id="report_compression">
+        <source></source>
+        <translation>diesel set (compression ignition)</translation>
+    </message>
+    <message id="report_failed">
+        <source></source>
+        <translation>FAILED</translation>
+    </message>
+    <message id="report_passed">
+        <source></source>
+        <translation>passed</translation>
+    </message>
+    <message id="report_no_result">
+        <source></source>
+        <translation>no result yet</translation>
+    </message>
+    <message id="report_legend">
+        <source></source>
+        <translation>Pending: seen on this or the last drive. Stored: confirmed. Permanent: stays after clearing until its test has passed.</translation>
+    </message>
+    <message id="report_mismatch">
+        <source></source>
+        <translation>%1: its status counts %2 stored codes, its list holds %3.</translation>
+    </message>
+    <message id="report_cylinders">
+        <source></source>
+        <translation>Cylinders are numbered as the unit counts them.</translation>
+    </message>
+    <message id="report_no_o2_tests">
+        <source></source>
+        <translation>Before CAN, O2 sensor tests of service 05 are not read.</translation>
+    </message>
+    <message id="report_unknown_code">
+        <source></source>
+        <translation>not in the list of codes</translation>
+    </message>
+    <message id="report_why_not_listed">
+        <source></source>
+        <translation>this unit does not offer it</translation>
+    </message>
+    <message id="report_why_listed">
+        <source></source>
+        <translation>no answer, although the unit lists it</translation>
+    </message>
+    <message id="report_why_no_answer">
+        <source></source>
+        <translation>no answer</translation>
+    </message>
+    <message id="report_why_time_out">
+        <source></source>
+        <translation>no reply in time</translation>
+    </message>
+    <message id="report_why_incomplete">
+        <source></source>
+        <translation>parts of the answer are missing</translation>
+    </message>
+    <message id="report_why_ended">
+        <source></source>
+        <translation>the reading had ended</translation>
+    </message>
+    <message id="report_partly">
+        <source></source>
+        <translation>a part of it could not be read</translation>
+    </message>
+    <message id="report_all_units">
+        <source></source>
+        <translation>all units</translation>
+    </message>
+    <message id="report_unit">
+        <source></source>
+        <translation>unit %1</translation>
+    </message>
+    <message id="report_request">
+        <source></source>
+        <translation>request %1</translation>
+    </message>
+    <message id="report_end_cancelled">
+        <source></source>
+        <translation>The reading was cancelled: what follows is what was read until then.</translation>
+    </message>
+    <message id="report_end_time_up">
+        <source></source>
+        <translation>The reading took too long and was ended: what follows is what was read until then.</translation>
+    </message>
+    <message id="report_end_adapter_silent">
+        <source></source>
+        <translation>The adapter fell silent: what follows is what was read until then.</translation>
+    </message>
+    <message id="report_end_link_lost">
+        <source></source>
+        <translation>The connection broke: what follows is what was read until then.</translation>
+    </message>
+    <message id="report_part_status">
+        <source></source>
+        <translation>Lamp and readiness</translation>
+    </message>
+    <message id="report_part_this_drive">
+        <source></source>
+        <translation>Readiness of this drive</translation>
+    </message>
+    <message id="report_part_stored">
+        <source></source>
+        <translation>Stored codes</translation>
+    </message>
+    <message id="report_part_pending">
+        <source></source>
+        <translation>Pending codes</translation>
+    </message>
+    <message id="report_part_permanent">
+        <source></source>
+        <translation>Permanent codes</translation>
+    </message>
+    <message id="report_part_frame">
+        <source></source>
+        <translation>Freeze frame</translation>
+    </message>
+    <message id="report_part_vin">
+        <source></source>
+        <translation>VIN</translation>
+    </message>
+    <message id="report_part_unit_name">
+        <source></source>
+        <translation>Unit name</translation>
+    </message>
+    <message id="report_part_calibrations">
+        <source></source>
+        <translation>Calibrations</translation>
+    </message>
+    <message id="report_part_verification_numbers">
+        <source></source>
+        <translation>Verification numbers</translation>
+    </message>
+    <message id="report_part_counters">
+        <source></source>
+        <translation>In-use counters</translation>
+    </message>
+    <message id="report_part_tests">
+        <source></source>
+        <translation>Test results</translation>
+    </message>
+    <message id="report_nothing_unread">
+        <source></source>
+        <translation>Everything that was asked for was told.</translation>
+    </message>
+    <message id="report_other_car">
+        <source></source>
+        <translation>These reports are of two different cars: %1 and %2.</translation>
+    </message>
+    <message id="report_no_changes">
+        <source></source>
+        <translation>Nothing that both reports tell has changed.</translation>
+    </message>
+    <message id="ui_rail_report">
+        <source></source>
+        <translation>&amp;Report</translation>
+    </message>
+    <message id="ui_report_title">
+        <source></source>
+        <translation>Vehicle report</translation>
+    </message>
+    <message id="ui_report_read">
+        <source></source>
+        <translation>Rea&amp;d report</translation>
+    </message>
+    <message id="ui_report_cancel">
+        <source></source>
+        <translation>C&amp;ancel</translation>
+    </message>
+    <message id="ui_report_save">
+        <source></source>
+        <translation>&amp;Save as…</translation>
+    </message>
+    <message id="ui_report_print">
+        <source></source>
+        <translation>Prin&amp;t…</translation>
+    </message>
+    <message id="ui_report_copy">
+        <source></source>
+        <translation>Cop&amp;y</translation>
+    </message>
+    <message id="ui_report_open">
+        <source></source>
+        <translation>Open sa&amp;ved…</translation>
+    </message>
+    <message id="ui_report_compare">
+        <source></source>
+        <translation>Co&amp;mpare…</translation>
+    </message>
+    <message id="ui_report_hide_vin">
+        <source></source>
+        <translation>H&amp;ide the end of the VIN</translation>
+    </message>
+    <message id="ui_report_hide_vin_hint">
+        <source></source>
+        <translation>In what is saved, printed or copied its last six characters are hidden.</translation>
+    </message>
+    <message id="ui_report_empty">
+        <source></source>
+        <translation>Press Read report: every control unit is asked for codes, freeze frames, readiness, test results and identity.</translation>
+    </message>
+    <message id="ui_report_save_title">
+        <source></source>
+        <translation>Save report</translation>
+    </message>
+    <message id="ui_report_open_title">
+        <source></source>
+        <translation>Open report</translation>
+    </message>
+    <message id="ui_report_compare_title">
+        <source></source>
+        <translation>Earlier report to compare with</translation>
+    </message>
+    <message id="ui_report_not_saved">
+        <source></source>
+        <translation>The report was not saved.</translation>
+    </message>
+    <message id="ui_report_saved">
+        <source></source>
+        <translation>Saved: %1</translation>
+    </message>
+    <message id="ui_report_copied">
+        <source></source>
+        <translation>The report is in the clipboard.</translation>
+    </message>
+    <message id="ui_report_not_opened">
+        <source></source>
+        <translation>This file cannot be opened as a report.</translation>
+    </message>
+    <message id="report_starting">
+        <source></source>
+        <translation>Bringing up the adapter</translation>
+    </message>
+    <message id="report_progress">
+        <source></source>
+        <translation>Reading %1 (%2 of %3)</translation>
+    </message>
+    <message id="report_topic_adapter">
+        <source></source>
+        <translation>what the adapter says</translation>
+    </message>
+    <message id="report_topic_supported">
+        <source></source>
+        <translation>what the units offer</translation>
+    </message>
+    <message id="report_topic_status">
+        <source></source>
+        <translation>lamp and readiness</translation>
+    </message>
+    <message id="report_topic_codes">
+        <source></source>
+        <translation>trouble codes</translation>
+    </message>
+    <message id="report_topic_readings">
+        <source></source>
+        <translation>readings</translation>
+    </message>
+    <message id="report_topic_frames">
+        <source></source>
+        <translation>freeze frames</translation>
+    </message>
+    <message id="report_topic_identity">
+        <source></source>
+        <translation>identity</translation>
+    </message>
+    <message id="report_topic_tests">
+        <source></source>
+        <translation>test results</translation>
+    </message>
+    <message id="report_done">
+        <source></source>
+        <translation>The report is complete.</translation>
+    </message>
+    <message id="report_done_partly">
+        <source></source>
+        <translation>The report has been read. What was not told stands at its end.</translation>
+    </message>
+    <message id="report_nothing_told">
+        <source></source>
+        <translation>The car told nothing.</translation>
+    </message>
+    <message id="report_cancelled">
+        <source></source>
+        <translation>The reading was cancelled.</translation>
+    </message>
+    <message id="ui_copy_rows">
+        <source></source>
+        <translation>&amp;Copy rows</translation>
+    </message>
+    <message id="ui_codes_to_report">
+        <source></source>
+        <translation>&amp;Save or print: vehicle report</translation>
+    </message>
+    <message id="ui_report_offer">
+        <source></source>
+        <translation>Offer it &amp;before clearing</translation>
+    </message>
+    <message id="ui_report_offer_hint">
+        <source></source>
+        <translation>Before codes are cleared, a report that was read and not saved is offered.</translation>
+    </message>
+    <message id="ui_report_before_clear">
+        <source></source>
+        <translation>Save the report before clearing?</translation>
+    </message>
+    <message id="ui_report_before_clear_hint">
+        <source></source>
+        <translation>Clearing also erases freeze frames and test results. The report that was read holds them.</translation>
+    </message>
+    <message id="ui_report_show">
+        <source></source>
+        <translation>Show the report</translation>
+    </message>
+    <message id="ui_report_go_on">
+        <source></source>
+        <translation>Go on without saving</translation>
+    </message>
+    <message id="report_none_so_far">
+        <source></source>
+        <translation>none, as far as told</translation>
+    </message>
 </context>
 </TS>

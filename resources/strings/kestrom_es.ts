@@ -869,5 +869,629 @@ Software libre con licencia MIT.
         <source></source>
         <translation>&amp;Cerrar</translation>
     </message>
+    <message id="report_title">
+        <source></source>
+        <translation>Informe del vehículo</translation>
+    </message>
+    <message id="report_compare_title">
+        <source></source>
+        <translation>Comparación de dos informes</translation>
+    </message>
+    <message id="report_plate">
+        <source></source>
+        <translation>Matrícula</translation>
+    </message>
+    <message id="report_owner">
+        <source></source>
+        <translation>Titular</translation>
+    </message>
+    <message id="report_odometer">
+        <source></source>
+        <translation>Cuentakilómetros leído a mano</translation>
+    </message>
+    <message id="report_signature">
+        <source></source>
+        <translation>Fecha, firma</translation>
+    </message>
+    <message id="report_page">
+        <source></source>
+        <translation>Página %1 de %2</translation>
+    </message>
+    <message id="report_foot">
+        <source></source>
+        <translation>Leído por OBD genérico: solo motor y emisiones; sin airbags, frenos ni carrocería.</translation>
+    </message>
+    <message id="report_fact_lamp">
+        <source></source>
+        <translation>Testigo del motor (MIL)</translation>
+    </message>
+    <message id="report_fact_codes">
+        <source></source>
+        <translation>Códigos de avería</translation>
+    </message>
+    <message id="report_fact_readiness">
+        <source></source>
+        <translation>Preparación (readiness)</translation>
+    </message>
+    <message id="report_on">
+        <source></source>
+        <translation>ENCENDIDO</translation>
+    </message>
+    <message id="report_off">
+        <source></source>
+        <translation>apagado</translation>
+    </message>
+    <message id="report_counts">
+        <source></source>
+        <translation>Almacenados: %1; pendientes: %2; permanentes: %3</translation>
+    </message>
+    <message id="report_at_least">
+        <source></source>
+        <translation>al menos %1</translation>
+    </message>
+    <message id="report_ready">
+        <source></source>
+        <translation>%1 de %2 completos</translation>
+    </message>
+    <message id="report_not_told">
+        <source></source>
+        <translation>no comunicado</translation>
+    </message>
+    <message id="report_refused">
+        <source></source>
+        <translation>rechazado (%1)</translation>
+    </message>
+    <message id="report_unread">
+        <source></source>
+        <translation>ilegible</translation>
+    </message>
+    <message id="report_not_asked">
+        <source></source>
+        <translation>no preguntado</translation>
+    </message>
+    <message id="report_none">
+        <source></source>
+        <translation>ninguno</translation>
+    </message>
+    <message id="report_section_vehicle">
+        <source></source>
+        <translation>Vehículo</translation>
+    </message>
+    <message id="report_section_readings">
+        <source></source>
+        <translation>En el momento de la lectura</translation>
+    </message>
+    <message id="report_section_adapter">
+        <source></source>
+        <translation>Adaptador y bus</translation>
+    </message>
+    <message id="report_section_units">
+        <source></source>
+        <translation>Unidades de control</translation>
+    </message>
+    <message id="report_section_codes">
+        <source></source>
+        <translation>Códigos de avería</translation>
+    </message>
+    <message id="report_section_frames">
+        <source></source>
+        <translation>Datos congelados</translation>
+    </message>
+    <message id="report_section_readiness">
+        <source></source>
+        <translation>Preparación (readiness)</translation>
+    </message>
+    <message id="report_section_cleared">
+        <source></source>
+        <translation>Desde el borrado de los códigos</translation>
+    </message>
+    <message id="report_section_tests">
+        <source></source>
+        <translation>Resultados de las pruebas</translation>
+    </message>
+    <message id="report_section_counters">
+        <source></source>
+        <translation>Contadores en uso</translation>
+    </message>
+    <message id="report_section_unread">
+        <source></source>
+        <translation>Lo que no se ha leído y por qué</translation>
+    </message>
+    <message id="report_section_changes">
+        <source></source>
+        <translation>Lo que apareció y desapareció</translation>
+    </message>
+    <message id="report_vin">
+        <source></source>
+        <translation>Número de bastidor (VIN)</translation>
+    </message>
+    <message id="report_vin_odd">
+        <source></source>
+        <translation>%1 (número no conforme a la norma)</translation>
+    </message>
+    <message id="report_vins_differ">
+        <source></source>
+        <translation>Las unidades dan números distintos: %1</translation>
+    </message>
+    <message id="report_read_at">
+        <source></source>
+        <translation>Leído el</translation>
+    </message>
+    <message id="report_seconds">
+        <source></source>
+        <translation>Duración</translation>
+    </message>
+    <message id="report_volts">
+        <source></source>
+        <translation>Batería, según el adaptador</translation>
+    </message>
+    <message id="report_engine_running">
+        <source></source>
+        <translation>Motor en marcha</translation>
+    </message>
+    <message id="report_yes">
+        <source></source>
+        <translation>sí</translation>
+    </message>
+    <message id="report_no">
+        <source></source>
+        <translation>no</translation>
+    </message>
+    <message id="report_adapter">
+        <source></source>
+        <translation>Adaptador</translation>
+    </message>
+    <message id="report_protocol">
+        <source></source>
+        <translation>Protocolo</translation>
+    </message>
+    <message id="report_answered">
+        <source></source>
+        <translation>Unidades que respondieron</translation>
+    </message>
+    <message id="report_col_unit">
+        <source></source>
+        <translation>Unidad</translation>
+    </message>
+    <message id="report_col_address">
+        <source></source>
+        <translation>Dirección</translation>
+    </message>
+    <message id="report_col_name">
+        <source></source>
+        <translation>Nombre</translation>
+    </message>
+    <message id="report_col_calibration">
+        <source></source>
+        <translation>Calibración</translation>
+    </message>
+    <message id="report_col_verification">
+        <source></source>
+        <translation>Número de verificación (CVN)</translation>
+    </message>
+    <message id="report_col_code">
+        <source></source>
+        <translation>Código</translation>
+    </message>
+    <message id="report_col_meaning">
+        <source></source>
+        <translation>Significado</translation>
+    </message>
+    <message id="report_col_stored">
+        <source></source>
+        <translation>Almacenado</translation>
+    </message>
+    <message id="report_col_pending">
+        <source></source>
+        <translation>Pendiente</translation>
+    </message>
+    <message id="report_col_permanent">
+        <source></source>
+        <translation>Permanente</translation>
+    </message>
+    <message id="report_col_frame">
+        <source></source>
+        <translation>Congelado</translation>
+    </message>
+    <message id="report_col_value">
+        <source></source>
+        <translation>Valor</translation>
+    </message>
+    <message id="report_col_monitor">
+        <source></source>
+        <translation>Monitor</translation>
+    </message>
+    <message id="report_col_state">
+        <source></source>
+        <translation>Estado</translation>
+    </message>
+    <message id="report_col_drive">
+        <source></source>
+        <translation>Este trayecto</translation>
+    </message>
+    <message id="report_col_test">
+        <source></source>
+        <translation>Prueba</translation>
+    </message>
+    <message id="report_col_lowest">
+        <source></source>
+        <translation>Mín.</translation>
+    </message>
+    <message id="report_col_highest">
+        <source></source>
+        <translation>Máx.</translation>
+    </message>
+    <message id="report_col_result">
+        <source></source>
+        <translation>Resultado</translation>
+    </message>
+    <message id="report_col_near">
+        <source></source>
+        <translation>Camino al límite</translation>
+    </message>
+    <message id="report_col_done">
+        <source></source>
+        <translation>Hechas</translation>
+    </message>
+    <message id="report_col_conditions">
+        <source></source>
+        <translation>Condiciones cumplidas</translation>
+    </message>
+    <message id="report_col_ratio">
+        <source></source>
+        <translation>Relación</translation>
+    </message>
+    <message id="report_col_what">
+        <source></source>
+        <translation>Qué</translation>
+    </message>
+    <message id="report_col_why">
+        <source></source>
+        <translation>Por qué</translation>
+    </message>
+    <message id="report_col_before">
+        <source></source>
+        <translation>Antes</translation>
+    </message>
+    <message id="report_col_after">
+        <source></source>
+        <translation>Después</translation>
+    </message>
+    <message id="report_complete">
+        <source></source>
+        <translation>completo</translation>
+    </message>
+    <message id="report_not_complete">
+        <source></source>
+        <translation>incompleto</translation>
+    </message>
+    <message id="report_not_supported">
+        <source></source>
+        <translation>No disponibles: %1</translation>
+    </message>
+    <message id="report_spark">
+        <source></source>
+        <translation>monitores de gasolina</translation>
+    </message>
+    <message id="report_compression">
+        <source></source>
+        <translation>monitores de diésel</translation>
+    </message>
+    <message id="report_failed">
+        <source></source>
+        <translation>NO SUPERADA</translation>
+    </message>
+    <message id="report_passed">
+        <source></source>
+        <translation>superada</translation>
+    </message>
+    <message id="report_no_result">
+        <source></source>
+        <translation>sin resultado aún</translation>
+    </message>
+    <message id="report_legend">
+        <source></source>
+        <translation>Pendiente: visto en este trayecto o el anterior. Almacenado: confirmado. Permanente: sigue tras el borrado hasta superar su prueba.</translation>
+    </message>
+    <message id="report_mismatch">
+        <source></source>
+        <translation>%1: el estado cuenta %2 códigos almacenados, la lista contiene %3.</translation>
+    </message>
+    <message id="report_cylinders">
+        <source></source>
+        <translation>Los cilindros llevan el número con que los cuenta la unidad.</translation>
+    </message>
+    <message id="report_no_o2_tests">
+        <source></source>
+        <translation>Antes de CAN no se leen las pruebas de sondas O2 del servicio 05.</translation>
+    </message>
+    <message id="report_unknown_code">
+        <source></source>
+        <translation>no figura en la lista de códigos</translation>
+    </message>
+    <message id="report_why_not_listed">
+        <source></source>
+        <translation>esta unidad no lo ofrece</translation>
+    </message>
+    <message id="report_why_listed">
+        <source></source>
+        <translation>sin respuesta, aunque la unidad lo ofrece</translation>
+    </message>
+    <message id="report_why_no_answer">
+        <source></source>
+        <translation>sin respuesta</translation>
+    </message>
+    <message id="report_why_time_out">
+        <source></source>
+        <translation>sin respuesta a tiempo</translation>
+    </message>
+    <message id="report_why_incomplete">
+        <source></source>
+        <translation>faltan partes de la respuesta</translation>
+    </message>
+    <message id="report_why_ended">
+        <source></source>
+        <translation>la lectura había terminado</translation>
+    </message>
+    <message id="report_partly">
+        <source></source>
+        <translation>una parte no se pudo leer</translation>
+    </message>
+    <message id="report_all_units">
+        <source></source>
+        <translation>todas las unidades</translation>
+    </message>
+    <message id="report_unit">
+        <source></source>
+        <translation>unidad %1</translation>
+    </message>
+    <message id="report_request">
+        <source></source>
+        <translation>petición %1</translation>
+    </message>
+    <message id="report_end_cancelled">
+        <source></source>
+        <translation>La lectura se canceló: se muestra lo leído hasta entonces.</translation>
+    </message>
+    <message id="report_end_time_up">
+        <source></source>
+        <translation>La lectura duró demasiado y se detuvo: se muestra lo leído hasta entonces.</translation>
+    </message>
+    <message id="report_end_adapter_silent">
+        <source></source>
+        <translation>El adaptador dejó de responder: se muestra lo leído hasta entonces.</translation>
+    </message>
+    <message id="report_end_link_lost">
+        <source></source>
+        <translation>La conexión se cortó: se muestra lo leído hasta entonces.</translation>
+    </message>
+    <message id="report_part_status">
+        <source></source>
+        <translation>Testigo y preparación</translation>
+    </message>
+    <message id="report_part_this_drive">
+        <source></source>
+        <translation>Preparación de este trayecto</translation>
+    </message>
+    <message id="report_part_stored">
+        <source></source>
+        <translation>Códigos almacenados</translation>
+    </message>
+    <message id="report_part_pending">
+        <source></source>
+        <translation>Códigos pendientes</translation>
+    </message>
+    <message id="report_part_permanent">
+        <source></source>
+        <translation>Códigos permanentes</translation>
+    </message>
+    <message id="report_part_frame">
+        <source></source>
+        <translation>Datos congelados</translation>
+    </message>
+    <message id="report_part_vin">
+        <source></source>
+        <translation>VIN</translation>
+    </message>
+    <message id="report_part_unit_name">
+        <source></source>
+        <translation>Nombre de la unidad</translation>
+    </message>
+    <message id="report_part_calibrations">
+        <source></source>
+        <translation>Calibraciones</translation>
+    </message>
+    <message id="report_part_verification_numbers">
+        <source></source>
+        <translation>Números de verificación</translation>
+    </message>
+    <message id="report_part_counters">
+        <source></source>
+        <translation>Contadores en uso</translation>
+    </message>
+    <message id="report_part_tests">
+        <source></source>
+        <translation>Resultados de las pruebas</translation>
+    </message>
+    <message id="report_nothing_unread">
+        <source></source>
+        <translation>Se comunicó todo lo que se preguntó.</translation>
+    </message>
+    <message id="report_other_car">
+        <source></source>
+        <translation>Estos informes son de dos coches distintos: %1 y %2.</translation>
+    </message>
+    <message id="report_no_changes">
+        <source></source>
+        <translation>No ha cambiado nada de lo que comunican ambos informes.</translation>
+    </message>
+    <message id="ui_rail_report">
+        <source></source>
+        <translation>In&amp;forme</translation>
+    </message>
+    <message id="ui_report_title">
+        <source></source>
+        <translation>Informe del vehículo</translation>
+    </message>
+    <message id="ui_report_read">
+        <source></source>
+        <translation>&amp;Leer informe</translation>
+    </message>
+    <message id="ui_report_cancel">
+        <source></source>
+        <translation>Ca&amp;ncelar</translation>
+    </message>
+    <message id="ui_report_save">
+        <source></source>
+        <translation>G&amp;uardar como…</translation>
+    </message>
+    <message id="ui_report_print">
+        <source></source>
+        <translation>I&amp;mprimir…</translation>
+    </message>
+    <message id="ui_report_copy">
+        <source></source>
+        <translation>C&amp;opiar</translation>
+    </message>
+    <message id="ui_report_open">
+        <source></source>
+        <translation>A&amp;brir…</translation>
+    </message>
+    <message id="ui_report_compare">
+        <source></source>
+        <translation>Comp&amp;arar…</translation>
+    </message>
+    <message id="ui_report_hide_vin">
+        <source></source>
+        <translation>Ocul&amp;tar el final del VIN</translation>
+    </message>
+    <message id="ui_report_hide_vin_hint">
+        <source></source>
+        <translation>En lo que se guarda, imprime o copia se ocultan sus seis últimos caracteres.</translation>
+    </message>
+    <message id="ui_report_empty">
+        <source></source>
+        <translation>Pulse Leer informe: se pregunta a cada unidad por códigos, datos congelados, preparación, resultados de pruebas e identidad.</translation>
+    </message>
+    <message id="ui_report_save_title">
+        <source></source>
+        <translation>Guardar informe</translation>
+    </message>
+    <message id="ui_report_open_title">
+        <source></source>
+        <translation>Abrir informe</translation>
+    </message>
+    <message id="ui_report_compare_title">
+        <source></source>
+        <translation>Informe anterior para comparar</translation>
+    </message>
+    <message id="ui_report_not_saved">
+        <source></source>
+        <translation>El informe no se guardó.</translation>
+    </message>
+    <message id="ui_report_saved">
+        <source></source>
+        <translation>Guardado: %1</translation>
+    </message>
+    <message id="ui_report_copied">
+        <source></source>
+        <translation>El informe está en el portapapeles.</translation>
+    </message>
+    <message id="ui_report_not_opened">
+        <source></source>
+        <translation>Este archivo no se puede abrir como informe.</translation>
+    </message>
+    <message id="report_starting">
+        <source></source>
+        <translation>Preparando el adaptador</translation>
+    </message>
+    <message id="report_progress">
+        <source></source>
+        <translation>Leyendo %1 (%2 de %3)</translation>
+    </message>
+    <message id="report_topic_adapter">
+        <source></source>
+        <translation>lo que dice el adaptador</translation>
+    </message>
+    <message id="report_topic_supported">
+        <source></source>
+        <translation>lo que ofrecen las unidades</translation>
+    </message>
+    <message id="report_topic_status">
+        <source></source>
+        <translation>testigo y preparación</translation>
+    </message>
+    <message id="report_topic_codes">
+        <source></source>
+        <translation>códigos de avería</translation>
+    </message>
+    <message id="report_topic_readings">
+        <source></source>
+        <translation>valores</translation>
+    </message>
+    <message id="report_topic_frames">
+        <source></source>
+        <translation>datos congelados</translation>
+    </message>
+    <message id="report_topic_identity">
+        <source></source>
+        <translation>identidad</translation>
+    </message>
+    <message id="report_topic_tests">
+        <source></source>
+        <translation>resultados de pruebas</translation>
+    </message>
+    <message id="report_done">
+        <source></source>
+        <translation>El informe está completo.</translation>
+    </message>
+    <message id="report_done_partly">
+        <source></source>
+        <translation>El informe se ha leído. Lo no comunicado figura al final.</translation>
+    </message>
+    <message id="report_nothing_told">
+        <source></source>
+        <translation>El coche no comunicó nada.</translation>
+    </message>
+    <message id="report_cancelled">
+        <source></source>
+        <translation>La lectura se canceló.</translation>
+    </message>
+    <message id="ui_copy_rows">
+        <source></source>
+        <translation>&amp;Copiar filas</translation>
+    </message>
+    <message id="ui_codes_to_report">
+        <source></source>
+        <translation>&amp;Guardar o imprimir: informe del vehículo</translation>
+    </message>
+    <message id="ui_report_offer">
+        <source></source>
+        <translation>Ofrecer ante&amp;s de borrar</translation>
+    </message>
+    <message id="ui_report_offer_hint">
+        <source></source>
+        <translation>Antes de borrar códigos se ofrece un informe leído y no guardado.</translation>
+    </message>
+    <message id="ui_report_before_clear">
+        <source></source>
+        <translation>¿Guardar el informe antes de borrar?</translation>
+    </message>
+    <message id="ui_report_before_clear_hint">
+        <source></source>
+        <translation>El borrado elimina también los datos congelados y los resultados de las pruebas. El informe leído los contiene.</translation>
+    </message>
+    <message id="ui_report_show">
+        <source></source>
+        <translation>Mostrar el informe</translation>
+    </message>
+    <message id="ui_report_go_on">
+        <source></source>
+        <translation>Continuar sin guardar</translation>
+    </message>
+    <message id="report_none_so_far">
+        <source></source>
+        <translation>ninguno, según lo comunicado</translation>
+    </message>
 </context>
 </TS>

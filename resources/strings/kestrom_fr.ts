@@ -869,5 +869,629 @@ Logiciel libre sous licence MIT.
         <source></source>
         <translation>&amp;Fermer</translation>
     </message>
+    <message id="report_title">
+        <source></source>
+        <translation>Rapport du véhicule</translation>
+    </message>
+    <message id="report_compare_title">
+        <source></source>
+        <translation>Comparaison de deux rapports</translation>
+    </message>
+    <message id="report_plate">
+        <source></source>
+        <translation>Immatriculation</translation>
+    </message>
+    <message id="report_owner">
+        <source></source>
+        <translation>Propriétaire</translation>
+    </message>
+    <message id="report_odometer">
+        <source></source>
+        <translation>Compteur relevé à la main</translation>
+    </message>
+    <message id="report_signature">
+        <source></source>
+        <translation>Date, signature</translation>
+    </message>
+    <message id="report_page">
+        <source></source>
+        <translation>Page %1 sur %2</translation>
+    </message>
+    <message id="report_foot">
+        <source></source>
+        <translation>Lu par l'OBD générique : moteur et émissions seulement ; ni airbags, ni freins, ni carrosserie.</translation>
+    </message>
+    <message id="report_fact_lamp">
+        <source></source>
+        <translation>Voyant moteur (MIL)</translation>
+    </message>
+    <message id="report_fact_codes">
+        <source></source>
+        <translation>Codes d'anomalie</translation>
+    </message>
+    <message id="report_fact_readiness">
+        <source></source>
+        <translation>Contrôles (readiness)</translation>
+    </message>
+    <message id="report_on">
+        <source></source>
+        <translation>ALLUMÉ</translation>
+    </message>
+    <message id="report_off">
+        <source></source>
+        <translation>éteint</translation>
+    </message>
+    <message id="report_counts">
+        <source></source>
+        <translation>Mémorisés : %1 ; en attente : %2 ; permanents : %3</translation>
+    </message>
+    <message id="report_at_least">
+        <source></source>
+        <translation>au moins %1</translation>
+    </message>
+    <message id="report_ready">
+        <source></source>
+        <translation>%1 sur %2 terminés</translation>
+    </message>
+    <message id="report_not_told">
+        <source></source>
+        <translation>non communiqué</translation>
+    </message>
+    <message id="report_refused">
+        <source></source>
+        <translation>refusé (%1)</translation>
+    </message>
+    <message id="report_unread">
+        <source></source>
+        <translation>illisible</translation>
+    </message>
+    <message id="report_not_asked">
+        <source></source>
+        <translation>non demandé</translation>
+    </message>
+    <message id="report_none">
+        <source></source>
+        <translation>aucun</translation>
+    </message>
+    <message id="report_section_vehicle">
+        <source></source>
+        <translation>Véhicule</translation>
+    </message>
+    <message id="report_section_readings">
+        <source></source>
+        <translation>Au moment de la lecture</translation>
+    </message>
+    <message id="report_section_adapter">
+        <source></source>
+        <translation>Adaptateur et bus</translation>
+    </message>
+    <message id="report_section_units">
+        <source></source>
+        <translation>Calculateurs</translation>
+    </message>
+    <message id="report_section_codes">
+        <source></source>
+        <translation>Codes d'anomalie</translation>
+    </message>
+    <message id="report_section_frames">
+        <source></source>
+        <translation>Données figées</translation>
+    </message>
+    <message id="report_section_readiness">
+        <source></source>
+        <translation>Contrôles (readiness)</translation>
+    </message>
+    <message id="report_section_cleared">
+        <source></source>
+        <translation>Depuis l'effacement des codes</translation>
+    </message>
+    <message id="report_section_tests">
+        <source></source>
+        <translation>Résultats des tests</translation>
+    </message>
+    <message id="report_section_counters">
+        <source></source>
+        <translation>Compteurs en service</translation>
+    </message>
+    <message id="report_section_unread">
+        <source></source>
+        <translation>Ce qui n'a pas été lu, et pourquoi</translation>
+    </message>
+    <message id="report_section_changes">
+        <source></source>
+        <translation>Ce qui est apparu et disparu</translation>
+    </message>
+    <message id="report_vin">
+        <source></source>
+        <translation>Numéro d'identification (VIN)</translation>
+    </message>
+    <message id="report_vin_odd">
+        <source></source>
+        <translation>%1 (numéro non conforme à la norme)</translation>
+    </message>
+    <message id="report_vins_differ">
+        <source></source>
+        <translation>Les calculateurs donnent des numéros différents : %1</translation>
+    </message>
+    <message id="report_read_at">
+        <source></source>
+        <translation>Lu le</translation>
+    </message>
+    <message id="report_seconds">
+        <source></source>
+        <translation>Durée</translation>
+    </message>
+    <message id="report_volts">
+        <source></source>
+        <translation>Batterie, selon l'adaptateur</translation>
+    </message>
+    <message id="report_engine_running">
+        <source></source>
+        <translation>Moteur en marche</translation>
+    </message>
+    <message id="report_yes">
+        <source></source>
+        <translation>oui</translation>
+    </message>
+    <message id="report_no">
+        <source></source>
+        <translation>non</translation>
+    </message>
+    <message id="report_adapter">
+        <source></source>
+        <translation>Adaptateur</translation>
+    </message>
+    <message id="report_protocol">
+        <source></source>
+        <translation>Protocole</translation>
+    </message>
+    <message id="report_answered">
+        <source></source>
+        <translation>Calculateurs ayant répondu</translation>
+    </message>
+    <message id="report_col_unit">
+        <source></source>
+        <translation>Calculateur</translation>
+    </message>
+    <message id="report_col_address">
+        <source></source>
+        <translation>Adresse</translation>
+    </message>
+    <message id="report_col_name">
+        <source></source>
+        <translation>Nom</translation>
+    </message>
+    <message id="report_col_calibration">
+        <source></source>
+        <translation>Calibration</translation>
+    </message>
+    <message id="report_col_verification">
+        <source></source>
+        <translation>Numéro de vérification (CVN)</translation>
+    </message>
+    <message id="report_col_code">
+        <source></source>
+        <translation>Code</translation>
+    </message>
+    <message id="report_col_meaning">
+        <source></source>
+        <translation>Signification</translation>
+    </message>
+    <message id="report_col_stored">
+        <source></source>
+        <translation>Mémorisé</translation>
+    </message>
+    <message id="report_col_pending">
+        <source></source>
+        <translation>En attente</translation>
+    </message>
+    <message id="report_col_permanent">
+        <source></source>
+        <translation>Permanent</translation>
+    </message>
+    <message id="report_col_frame">
+        <source></source>
+        <translation>Figé</translation>
+    </message>
+    <message id="report_col_value">
+        <source></source>
+        <translation>Valeur</translation>
+    </message>
+    <message id="report_col_monitor">
+        <source></source>
+        <translation>Contrôle</translation>
+    </message>
+    <message id="report_col_state">
+        <source></source>
+        <translation>État</translation>
+    </message>
+    <message id="report_col_drive">
+        <source></source>
+        <translation>Ce trajet</translation>
+    </message>
+    <message id="report_col_test">
+        <source></source>
+        <translation>Test</translation>
+    </message>
+    <message id="report_col_lowest">
+        <source></source>
+        <translation>Min.</translation>
+    </message>
+    <message id="report_col_highest">
+        <source></source>
+        <translation>Max.</translation>
+    </message>
+    <message id="report_col_result">
+        <source></source>
+        <translation>Résultat</translation>
+    </message>
+    <message id="report_col_near">
+        <source></source>
+        <translation>Chemin vers la limite</translation>
+    </message>
+    <message id="report_col_done">
+        <source></source>
+        <translation>Effectués</translation>
+    </message>
+    <message id="report_col_conditions">
+        <source></source>
+        <translation>Conditions remplies</translation>
+    </message>
+    <message id="report_col_ratio">
+        <source></source>
+        <translation>Rapport</translation>
+    </message>
+    <message id="report_col_what">
+        <source></source>
+        <translation>Quoi</translation>
+    </message>
+    <message id="report_col_why">
+        <source></source>
+        <translation>Pourquoi</translation>
+    </message>
+    <message id="report_col_before">
+        <source></source>
+        <translation>Avant</translation>
+    </message>
+    <message id="report_col_after">
+        <source></source>
+        <translation>Après</translation>
+    </message>
+    <message id="report_complete">
+        <source></source>
+        <translation>terminé</translation>
+    </message>
+    <message id="report_not_complete">
+        <source></source>
+        <translation>non terminé</translation>
+    </message>
+    <message id="report_not_supported">
+        <source></source>
+        <translation>Non pris en charge : %1</translation>
+    </message>
+    <message id="report_spark">
+        <source></source>
+        <translation>contrôles moteur essence</translation>
+    </message>
+    <message id="report_compression">
+        <source></source>
+        <translation>contrôles moteur diesel</translation>
+    </message>
+    <message id="report_failed">
+        <source></source>
+        <translation>ÉCHEC</translation>
+    </message>
+    <message id="report_passed">
+        <source></source>
+        <translation>réussi</translation>
+    </message>
+    <message id="report_no_result">
+        <source></source>
+        <translation>pas encore de résultat</translation>
+    </message>
+    <message id="report_legend">
+        <source></source>
+        <translation>En attente : vu lors de ce trajet ou du dernier. Mémorisé : confirmé. Permanent : reste après l'effacement jusqu'à ce que le test réussisse.</translation>
+    </message>
+    <message id="report_mismatch">
+        <source></source>
+        <translation>%1 : l'état compte %2 codes mémorisés, la liste en contient %3.</translation>
+    </message>
+    <message id="report_cylinders">
+        <source></source>
+        <translation>Les cylindres sont numérotés comme le calculateur les compte.</translation>
+    </message>
+    <message id="report_no_o2_tests">
+        <source></source>
+        <translation>Avant le CAN, les tests de sondes O2 du service 05 ne sont pas lus.</translation>
+    </message>
+    <message id="report_unknown_code">
+        <source></source>
+        <translation>absent de la liste des codes</translation>
+    </message>
+    <message id="report_why_not_listed">
+        <source></source>
+        <translation>ce calculateur ne le propose pas</translation>
+    </message>
+    <message id="report_why_listed">
+        <source></source>
+        <translation>pas de réponse, bien que le calculateur le propose</translation>
+    </message>
+    <message id="report_why_no_answer">
+        <source></source>
+        <translation>pas de réponse</translation>
+    </message>
+    <message id="report_why_time_out">
+        <source></source>
+        <translation>pas de réponse à temps</translation>
+    </message>
+    <message id="report_why_incomplete">
+        <source></source>
+        <translation>des parties de la réponse manquent</translation>
+    </message>
+    <message id="report_why_ended">
+        <source></source>
+        <translation>la lecture était terminée</translation>
+    </message>
+    <message id="report_partly">
+        <source></source>
+        <translation>une partie n'a pas pu être lue</translation>
+    </message>
+    <message id="report_all_units">
+        <source></source>
+        <translation>tous les calculateurs</translation>
+    </message>
+    <message id="report_unit">
+        <source></source>
+        <translation>calculateur %1</translation>
+    </message>
+    <message id="report_request">
+        <source></source>
+        <translation>requête %1</translation>
+    </message>
+    <message id="report_end_cancelled">
+        <source></source>
+        <translation>La lecture a été interrompue : voici ce qui avait été lu jusque-là.</translation>
+    </message>
+    <message id="report_end_time_up">
+        <source></source>
+        <translation>La lecture a duré trop longtemps et a été arrêtée : voici ce qui avait été lu jusque-là.</translation>
+    </message>
+    <message id="report_end_adapter_silent">
+        <source></source>
+        <translation>L'adaptateur s'est tu : voici ce qui avait été lu jusque-là.</translation>
+    </message>
+    <message id="report_end_link_lost">
+        <source></source>
+        <translation>La connexion a été coupée : voici ce qui avait été lu jusque-là.</translation>
+    </message>
+    <message id="report_part_status">
+        <source></source>
+        <translation>Voyant et contrôles</translation>
+    </message>
+    <message id="report_part_this_drive">
+        <source></source>
+        <translation>Contrôles de ce trajet</translation>
+    </message>
+    <message id="report_part_stored">
+        <source></source>
+        <translation>Codes mémorisés</translation>
+    </message>
+    <message id="report_part_pending">
+        <source></source>
+        <translation>Codes en attente</translation>
+    </message>
+    <message id="report_part_permanent">
+        <source></source>
+        <translation>Codes permanents</translation>
+    </message>
+    <message id="report_part_frame">
+        <source></source>
+        <translation>Données figées</translation>
+    </message>
+    <message id="report_part_vin">
+        <source></source>
+        <translation>VIN</translation>
+    </message>
+    <message id="report_part_unit_name">
+        <source></source>
+        <translation>Nom du calculateur</translation>
+    </message>
+    <message id="report_part_calibrations">
+        <source></source>
+        <translation>Calibrations</translation>
+    </message>
+    <message id="report_part_verification_numbers">
+        <source></source>
+        <translation>Numéros de vérification</translation>
+    </message>
+    <message id="report_part_counters">
+        <source></source>
+        <translation>Compteurs en service</translation>
+    </message>
+    <message id="report_part_tests">
+        <source></source>
+        <translation>Résultats des tests</translation>
+    </message>
+    <message id="report_nothing_unread">
+        <source></source>
+        <translation>Tout ce qui a été demandé a été communiqué.</translation>
+    </message>
+    <message id="report_other_car">
+        <source></source>
+        <translation>Ces rapports concernent deux voitures différentes : %1 et %2.</translation>
+    </message>
+    <message id="report_no_changes">
+        <source></source>
+        <translation>Rien de ce que donnent les deux rapports n'a changé.</translation>
+    </message>
+    <message id="ui_rail_report">
+        <source></source>
+        <translation>&amp;Rapport</translation>
+    </message>
+    <message id="ui_report_title">
+        <source></source>
+        <translation>Rapport du véhicule</translation>
+    </message>
+    <message id="ui_report_read">
+        <source></source>
+        <translation>&amp;Lire le rapport</translation>
+    </message>
+    <message id="ui_report_cancel">
+        <source></source>
+        <translation>Ann&amp;uler</translation>
+    </message>
+    <message id="ui_report_save">
+        <source></source>
+        <translation>Enregi&amp;strer sous…</translation>
+    </message>
+    <message id="ui_report_print">
+        <source></source>
+        <translation>Impressio&amp;n…</translation>
+    </message>
+    <message id="ui_report_copy">
+        <source></source>
+        <translation>C&amp;opier</translation>
+    </message>
+    <message id="ui_report_open">
+        <source></source>
+        <translation>Ou&amp;vrir…</translation>
+    </message>
+    <message id="ui_report_compare">
+        <source></source>
+        <translation>Co&amp;mparer…</translation>
+    </message>
+    <message id="ui_report_hide_vin">
+        <source></source>
+        <translation>Mas&amp;quer la fin du VIN</translation>
+    </message>
+    <message id="ui_report_hide_vin_hint">
+        <source></source>
+        <translation>Dans ce qui est enregistré, imprimé ou copié, ses six derniers caractères sont masqués.</translation>
+    </message>
+    <message id="ui_report_empty">
+        <source></source>
+        <translation>Appuyez sur Lire le rapport : chaque calculateur est interrogé sur ses codes, données figées, contrôles, résultats de tests et identité.</translation>
+    </message>
+    <message id="ui_report_save_title">
+        <source></source>
+        <translation>Enregistrer le rapport</translation>
+    </message>
+    <message id="ui_report_open_title">
+        <source></source>
+        <translation>Ouvrir un rapport</translation>
+    </message>
+    <message id="ui_report_compare_title">
+        <source></source>
+        <translation>Rapport antérieur à comparer</translation>
+    </message>
+    <message id="ui_report_not_saved">
+        <source></source>
+        <translation>Le rapport n'a pas été enregistré.</translation>
+    </message>
+    <message id="ui_report_saved">
+        <source></source>
+        <translation>Enregistré : %1</translation>
+    </message>
+    <message id="ui_report_copied">
+        <source></source>
+        <translation>Le rapport est dans le presse-papiers.</translation>
+    </message>
+    <message id="ui_report_not_opened">
+        <source></source>
+        <translation>Ce fichier ne peut pas être ouvert comme rapport.</translation>
+    </message>
+    <message id="report_starting">
+        <source></source>
+        <translation>Préparation de l'adaptateur</translation>
+    </message>
+    <message id="report_progress">
+        <source></source>
+        <translation>Lecture : %1 (%2 sur %3)</translation>
+    </message>
+    <message id="report_topic_adapter">
+        <source></source>
+        <translation>ce que dit l'adaptateur</translation>
+    </message>
+    <message id="report_topic_supported">
+        <source></source>
+        <translation>ce que proposent les calculateurs</translation>
+    </message>
+    <message id="report_topic_status">
+        <source></source>
+        <translation>voyant et contrôles</translation>
+    </message>
+    <message id="report_topic_codes">
+        <source></source>
+        <translation>codes d'anomalie</translation>
+    </message>
+    <message id="report_topic_readings">
+        <source></source>
+        <translation>valeurs</translation>
+    </message>
+    <message id="report_topic_frames">
+        <source></source>
+        <translation>données figées</translation>
+    </message>
+    <message id="report_topic_identity">
+        <source></source>
+        <translation>identité</translation>
+    </message>
+    <message id="report_topic_tests">
+        <source></source>
+        <translation>résultats des tests</translation>
+    </message>
+    <message id="report_done">
+        <source></source>
+        <translation>Le rapport est complet.</translation>
+    </message>
+    <message id="report_done_partly">
+        <source></source>
+        <translation>Le rapport est lu. Ce qui n'a pas été communiqué figure à la fin.</translation>
+    </message>
+    <message id="report_nothing_told">
+        <source></source>
+        <translation>La voiture n'a rien communiqué.</translation>
+    </message>
+    <message id="report_cancelled">
+        <source></source>
+        <translation>La lecture a été annulée.</translation>
+    </message>
+    <message id="ui_copy_rows">
+        <source></source>
+        <translation>&amp;Copier les lignes</translation>
+    </message>
+    <message id="ui_codes_to_report">
+        <source></source>
+        <translation>&amp;Enregistrer ou imprimer : rapport du véhicule</translation>
+    </message>
+    <message id="ui_report_offer">
+        <source></source>
+        <translation>Proposer avant l'e&amp;ffacement</translation>
+    </message>
+    <message id="ui_report_offer_hint">
+        <source></source>
+        <translation>Avant d'effacer les codes, un rapport lu et non enregistré est proposé.</translation>
+    </message>
+    <message id="ui_report_before_clear">
+        <source></source>
+        <translation>Enregistrer le rapport avant d'effacer ?</translation>
+    </message>
+    <message id="ui_report_before_clear_hint">
+        <source></source>
+        <translation>L'effacement supprime aussi les données figées et les résultats des tests. Le rapport lu les contient.</translation>
+    </message>
+    <message id="ui_report_show">
+        <source></source>
+        <translation>Afficher le rapport</translation>
+    </message>
+    <message id="ui_report_go_on">
+        <source></source>
+        <translation>Continuer sans enregistrer</translation>
+    </message>
+    <message id="report_none_so_far">
+        <source></source>
+        <translation>aucun, pour autant que communiqué</translation>
+    </message>
 </context>
 </TS>

@@ -2,9 +2,11 @@
 
 #include "busy_indicator.h"
 #include "chrome.h"
+#include "copied_rows.h"
 #include "display_text.h"
 #include "empty_hint.h"
 #include "fact_card.h"
+#include "Ks_lite_delegate.h"
 #include "rows_model.h"
 #include "status_line.h"
 #include "text.h"
@@ -133,6 +135,11 @@ void codes_view::build_tables(QVBoxLayout* column) {
     codesReadTableView_->setModel(codes_model_);
     codesReadTableView_->setAccessibleName(ui_text(delegate_, "ui_codes_table"));
     codesReadTableView_->setToolTip(ui_text(delegate_, "ui_codes_table_hint"));
+    let_rows_be_copied(codesReadTableView_, ui_text(delegate_, "ui_copy_rows"));
+    auto* to_report = new QAction(ui_text(delegate_, "ui_codes_to_report"), codesReadTableView_);
+    to_report->setObjectName(QStringLiteral("codesToReport"));
+    QObject::connect(to_report, &QAction::triggered, root(), [this] { delegate_.do_report(); });
+    codesReadTableView_->addAction(to_report);
     fit_column(codesReadTableView_, 0, QStringLiteral("U0100"));
     codesReadTableView_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     no_codes_ = new empty_hint(codesReadTableView_, QString());

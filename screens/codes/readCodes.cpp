@@ -3,8 +3,10 @@
 #include "alerts.h"
 #include "codes_view.h"
 #include "globalVars.h"
+#include "kept_report.h"
 #include "system_log.h"
 #include "text.h"
+#include "user_defaults.h"
 
 readCodes::readCodes(Ks_lite_delegate& delegate) : obd_screen(delegate), handshake_(*this) {
     view_ = std::make_unique<codes_view>(delegate);
@@ -52,7 +54,25 @@ void readCodes::readCodes_clicked() {
     start_task(TASK_READ_CODES, "Starting Read Codes");
 }
 
+// Clearing takes with it most of what a report holds. Only one that was read over this link is
+// offered, and none is read for it.
+bool readCodes::report_wanted_first() {
+    const kept_report& kept = last_report();
+    if (!kept.report || kept.saved || kept.link != KS_delegate.link_number() ||
+        KS_delegate.doors().defaults.boolean(NO_OFFER_KEY))
+        return false;
+    alert_request offer;
+    offer.message = localized("ui_report_before_clear");
+    offer.informative = localized("ui_report_before_clear_hint");
+    offer.buttons = {localized("ui_report_show"), localized("ui_report_go_on")};
+    return KS_delegate.doors().message_boxes.show(offer) == 0;
+}
+
 void readCodes::clearCodes_clicked() {
+    if (report_wanted_first()) {
+        KS_delegate.do_report();
+        return;
+    }
     alert_request question;
     question.message = "Are you sure you want clear DTC Codes ";
     question.informative =

@@ -72,10 +72,10 @@ class obd_screen : public screen_controller {
     virtual adapter_handshake* handshake() { return nullptr; }
     // False for what is no time-out. Nothing is cleaned up: the user retries with a button.
     virtual bool takes_time_out(const std::string& text);
-
-  private:
     // The running task's next complete reply has come with this chunk; what was owed is seen to.
     bool completes_reply(const std::string& chunk);
+
+  private:
     void begin_first_step();
     void go_on(bool in_vain);
 

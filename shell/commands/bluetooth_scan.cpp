@@ -1,4 +1,4 @@
-#include "bluetooth_scan.h"
+#include "command_functions.h"
 
 #include "bluez_devices.h"
 #include "commands.h"

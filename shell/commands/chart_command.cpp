@@ -1,4 +1,4 @@
-#include "chart_command.h"
+#include "command_functions.h"
 
 #include "canvas.h"
 #include "commands.h"

@@ -3,6 +3,7 @@
 #include "commands.h"
 #include "mac_toolies.h"
 #include "parameters.h"
+#include "sheet.h"
 #include "supported_scan.h"
 #include "text.h"
 
@@ -60,6 +61,14 @@ void take_pids(cli_request& asked, const std::string& name, const std::string& t
         if (!is_decoded(mac_toolies::convertStr2Byte(pid)))
             throw usage_error(name + ": " + pid + " is no parameter that is decoded");
         asked.pids.push_back(pid);
+    }
+}
+
+void take_sections(cli_request& asked, const std::string& name, const std::string& text) {
+    for (const std::string_view part : split(text, ",")) {
+        if (std::ranges::find(section_names(), part) == section_names().end())
+            throw usage_error(name + ": " + std::string(part) + " is no section of a report");
+        asked.report_sections.emplace_back(part);
     }
 }
 
@@ -125,6 +134,29 @@ constexpr std::array OPTIONS = {
          "log's companion (its name with .times behind)",
          "export"},
         [](cli_request& asked, text, text) { asked.with_time = true; }},
+    row{{"--html", "FILE", "write the sheet to a file of HTML instead", "report",
+         "--pdf --json --text"},
+        [](cli_request& asked, text, text value) { asked.report_html = value; }},
+    row{{"--pdf", "FILE", "write it to a PDF, ready to print", "report", "--json --text"},
+        [](cli_request& asked, text, text value) { asked.report_pdf = value; }},
+    row{{"--text", "", "print it as text, which is also what happens without a choice", "report",
+         "--json"},
+        [](cli_request& asked, text, text) { asked.report_text = true; }},
+    row{{"--paper", "a4|letter", "of the PDF; else what is usual in the country", "report"},
+        [](cli_request& asked, text, text value) { asked.paper = value; }},
+    row{{"--hide-vin", "", "hide the last six characters of the VIN, in the bytes too", "report"},
+        [](cli_request& asked, text, text) { asked.hide_vin = true; }},
+    row{{"--only", "SECTION,...",
+         "leave out all other sections: vehicle, readings, adapter, units, codes,\n"
+         "frames, readiness, cleared, tests, counters, unread",
+         "report"},
+        take_sections},
+    row{{"--open", "FILE.json", "take a saved report instead of asking a car", "report",
+         "--demo --adapter --bluetooth --compare"},
+        [](cli_request& asked, text, text value) { asked.report_opened = value; }},
+    row{{"--compare", "", "tell what came and went between two saved reports", "report",
+         "--demo --adapter --bluetooth"},
+        [](cli_request& asked, text, text) { asked.compare = true; }},
     row{{"--demo", "[=CAR]",
          "talk to the built-in virtual car; kestrom-virtual-car --list names the cars",
          "window car", "--adapter --bluetooth"},
@@ -143,7 +175,7 @@ constexpr std::array OPTIONS = {
          "its identification number (VIN) among it",
          "window car"},
         [](cli_request& asked, text, text value) { asked.record = value; }},
-    row{{"--screen", "codes|live|prefs|expert", "open the window with this screen", "window"},
+    row{{"--screen", "codes|live|report|prefs|expert", "open the window with this screen", "window"},
         [](cli_request& asked, text, text value) { asked.screen = value; }},
     row{{"--screenshot", "FILE.png", "save a picture of the window and leave", "window car"},
         [](cli_request& asked, text, text value) { asked.screenshot = value; }},

@@ -46,6 +46,10 @@ struct cli_request {
     std::string picture;
     double scale = 1;
     bool dial = false;
+    std::string report_html, report_pdf, report_opened; // files; empty: not asked for
+    bool report_text = false, hide_vin = false, compare = false;
+    std::string paper;                        // "a4", "letter"; empty: the country's
+    std::vector<std::string> report_sections; // empty: all
     bool as_txt = false;
     bool with_time = false;
 

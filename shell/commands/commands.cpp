@@ -1,14 +1,6 @@
 #include "commands.h"
 
-#include "bluetooth_scan.h"
-#include "chart_command.h"
-#include "codes_command.h"
-#include "decode_command.h"
-#include "export_command.h"
-#include "live_command.h"
-#include "lookup_command.h"
-#include "pids_command.h"
-#include "send_command.h"
+#include "command_functions.h"
 #include "text.h"
 
 #include <algorithm>
@@ -61,6 +53,22 @@ Examples
   kestrom --adapter 192.168.0.10:35000 pids --json
 )",
      nullptr, nullptr, begin_pids},
+    {"report", 0, 2, "[--compare A.json B.json]",
+     "read all that the car tells of itself, on one sheet",
+     R"(Lamp, codes of every kind by control unit, freeze frames, readiness, test results, identity and
+counters, and what was not told, with the reason. Without a choice the sheet is printed as text. With
+--json: one object, described in docs/json/report.schema.json, which --open and --compare take.
+Exit status: 0 when the car told anything, with a note on standard error when it did not tell all;
+1 when nothing could be read or written, 2 the arguments make no sense.
+
+Examples
+  kestrom --demo=diesel report
+  kestrom report --pdf report.pdf --hide-vin
+  kestrom report --json >before.json
+  kestrom report --open before.json --html before.html
+  kestrom report --compare before.json after.json
+)",
+     check_report, run_saved_report, begin_report},
     {"live", 0, 0, "", "sample without pause and print the values of each cycle",
      R"(Prints CSV with a header, a line for each cycle as it completes; a summary follows on standard error;
 its seconds, and those of --seconds, do not count the way to the car.
@@ -234,6 +242,11 @@ std::span<const command_row> all_commands() {
 const command_row* find_command(std::string_view name) {
     const auto found = std::ranges::find(COMMANDS, name, &command_row::name);
     return found == std::end(COMMANDS) ? nullptr : found;
+}
+
+bool talks_to_car(const cli_request& asked) {
+    const command_row* command = find_command(asked.command);
+    return command && command->begin && asked.report_opened.empty() && !asked.compare;
 }
 
 std::vector<std::string_view> subjects_of(const command_row* command) {

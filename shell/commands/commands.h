@@ -31,7 +31,7 @@ struct desk {
 };
 
 // A command that talks to a car makes a task of it, any other does its work at once and answers the
-// exit status: one of `begin` and `run`.
+// exit status: `begin` or `run`.
 struct command_row {
     std::string_view name;
     std::size_t least, most; // arguments
@@ -46,6 +46,8 @@ struct command_row {
 std::span<const command_row> all_commands();
 // Null when there is none of that name.
 const command_row* find_command(std::string_view name);
+// A saved report is opened at the desk.
+bool talks_to_car(const cli_request& asked);
 // What an option may belong to: the window, or this command.
 std::vector<std::string_view> subjects_of(const command_row* command);
 

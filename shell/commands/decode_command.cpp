@@ -1,4 +1,4 @@
-#include "decode_command.h"
+#include "command_functions.h"
 
 #include "commands.h"
 #include "constantes.h"

@@ -1,4 +1,4 @@
-#include "export_command.h"
+#include "command_functions.h"
 
 #include "commands.h"
 #include "log_export.h"

@@ -1,4 +1,4 @@
-#include "lookup_command.h"
+#include "command_functions.h"
 
 #include "code_search.h"
 #include "commands.h"

@@ -1,4 +1,4 @@
-#include "pids_command.h"
+#include "command_functions.h"
 
 #include "actions.h"
 #include "car_task.h"

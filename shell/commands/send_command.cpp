@@ -1,4 +1,4 @@
-#include "send_command.h"
+#include "command_functions.h"
 
 #include "car_task.h"
 #include "console_alerts.h"

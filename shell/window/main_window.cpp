@@ -157,6 +157,7 @@ QWidget* main_window::build_rail() {
     };
     make_switch(READ_CODES_VIEW, "codes", "ui_rail_codes", [this] { delegate_.do_read_codes(); });
     make_switch(ACTIONS_VIEW, "live", "ui_rail_live", [this] { delegate_.do_actions(); });
+    make_switch(REPORT_VIEW, "report", "ui_rail_report", [this] { delegate_.do_report(); });
     auto* logs = make("logs", "logs", "ui_rail_logs");
     logs->setEnabled(false);
     logs->setToolTip(ui_text(delegate_, "ui_rail_logs_hint") + u'\n' +

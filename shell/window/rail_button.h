@@ -24,7 +24,7 @@ class rail_button final : public QToolButton {
         QFont heavy = font();
         heavy.setWeight(QFont::DemiBold);
         const int word = QFontMetrics(heavy).size(Qt::TextShowMnemonic, text()).width();
-        return QToolButton::sizeHint().expandedTo({word + 16, 64});
+        return QToolButton::sizeHint().expandedTo({word + 16, 56});
     }
     QSize minimumSizeHint() const override { return sizeHint(); }
 

@@ -249,7 +249,7 @@ TEST_F(shell, a_run_log_is_exported_and_charted_by_name_in_the_units_of_the_sett
     const QString settings = home.filePath(QStringLiteral("metric.conf"));
     write(folder + QStringLiteral("run.gol"), "410D64\n");
     write(settings, "KS_metric_units=true\n");
-    const outcome told = run({"--settings", settings.toStdString(), "export", "run.gol"});
+    const outcome told = run({"export", "run.gol", "--settings", settings.toStdString()});
     const QString table = folder + QStringLiteral("run.csv");
     EXPECT_EQ(told.out, table.toStdString() + "\n") << told.err;
     QFile file(table);

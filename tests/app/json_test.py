@@ -69,7 +69,12 @@ def check_car(name):
     with virtual_car("--car", name, "--timing", "0.05") as address:
         told = same_codes(kestrom("--adapter", address, "--record", talk["codes"], "codes", "--json"))
         run = lines_fit("live", kestrom("--adapter", address, "--record", talk["live"], *live))
+        report = kestrom("--adapter", address, "report", "--json")
+        fits("report", json.loads(report))
         fits("send", json.loads(kestrom("--adapter", address, "send", "AT I", "09 02", "--json")))
+    saved = Path(HOME.name, f"{name}.report.json")
+    saved.write_text(report)
+    assert kestrom("report", "--open", str(saved), "--json") == report, name
     for path in talk.values():
         lines_fit("recording", Path(path).read_text())
     with virtual_car("--replay", talk["codes"]) as address:
@@ -114,6 +119,7 @@ class json_test(unittest.TestCase):
                 ("mode6", 0, ["mode6", "--json", "16", "01F4"]),
                 ("export", 0, ["export", log, "--json"]),
                 ("export", 1, ["export", log, "--json"]),
+                ("bluetooth-scan", 1, ["bluetooth-scan", "--json"]),
                 ("lookup", 0, ["lookup", "p0301", "--json"]),
                 ("lookup", 1, ["lookup", "no", "such", "thing", "--json"]),
                 ("pids", 0, ["--demo=hybrid", "pids", "--json"]),

@@ -1,7 +1,8 @@
 // The list of Bluetooth devices against a mock of BlueZ, and what stands in its way.
-#include "bluetooth_scan.h"
 #include "bluez_devices.h"
+
 #include "bundle.h"
+#include "command_functions.h"
 #include "commands.h"
 #include "mac_toolies.h"
 #include "mock_bluez.h"

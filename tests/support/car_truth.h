@@ -22,6 +22,13 @@ inline bool silent(const control_unit& unit, int service) {
     return std::ranges::find(unit.silent_services, service) != unit.silent_services.end();
 }
 
+// By its status, which need not agree with its list.
+inline int announced_codes(const control_unit& unit) {
+    const auto own = unit.answers.find("0101");
+    return own == unit.answers.end() ? static_cast<int>(unit.stored.size())
+                                     : own->second.front()[2] & 0x7F;
+}
+
 inline std::vector<std::string> monitor_states(const readiness_bytes& bytes) {
     std::vector<std::string> states;
     const auto add = [&](bool there, bool incomplete) {
@@ -38,7 +45,7 @@ inline truth truth_of(const car& the_car) {
     truth told;
     for (const control_unit& unit : the_car.units) {
         if (unit.lamp)
-            told.count += static_cast<int>(unit.stored.size());
+            told.count += announced_codes(unit);
         if (&unit == &the_car.units.front()) {
             told.lamp = unit.lamp ? "ON" : "OFF";
             told.states = monitor_states(unit.readiness);

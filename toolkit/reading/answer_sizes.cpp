@@ -3,7 +3,7 @@
 #include "hex_digits.h"
 #include "text.h"
 
-#include <array>
+#include <algorithm>
 
 namespace {
 
@@ -18,23 +18,54 @@ constexpr std::string_view PARAMETER_BYTES = "4422111111112111"
 constexpr unsigned BITMAP_EVERY = 0x20;
 constexpr std::size_t BITMAP_BYTES = 4;
 
-enum class length { by_parameter, by_count, fixed };
+constexpr std::size_t RECORD_AT = 2, RECORD_DIGITS = 18; // of service 06 on CAN
+constexpr std::size_t MASK_DIGITS = 12;                  // "46", the group, four bytes
+
+enum class length { by_parameter, by_count, by_record, fixed };
 
 struct size_row {
     std::string_view answer; // what it begins with
     bus_form bus;            // unknown: whichever
     length kind;
-    std::size_t digits = 0;
+    std::size_t digits = 0; // of all of it; of its head where more follows
+    std::size_t each = 0;   // of what the head's last byte counts
 };
+constexpr bus_form CAN = bus_form::can, OLDER = bus_form::older, EITHER = bus_form::unknown;
+// The first row that fits holds.
 constexpr size_row ROWS[] = {
-    {"41", bus_form::unknown, length::by_parameter}, {"43", bus_form::can, length::by_count},
-    {"43", bus_form::older, length::fixed, 14},      {"44", bus_form::unknown, length::fixed, 2},
-    {"47", bus_form::can, length::by_count},         {"47", bus_form::older, length::fixed, 14},
-    {"4902", bus_form::can, length::fixed, 40},      {"4902", bus_form::older, length::fixed, 14},
-    {"4A", bus_form::can, length::by_count},         {"4A", bus_form::older, length::fixed, 14},
+    {"41", EITHER, length::by_parameter, 4},
+    {"42", EITHER, length::by_parameter, 6}, // the frame's number behind the PID
+    {"43", CAN, length::by_count, CODES_HEAD_DIGITS, CODE_DIGITS},
+    {"43", OLDER, length::fixed, 14},
+    {"44", EITHER, length::fixed, 2},
+    {"46", CAN, length::by_record},
+    {"46", OLDER, length::fixed, 14},
+    {"47", CAN, length::by_count, CODES_HEAD_DIGITS, CODE_DIGITS},
+    {"47", OLDER, length::fixed, 14},
+    {"4900", CAN, length::fixed, 12},
+    {"4902", CAN, length::fixed, 40},
+    {"4904", CAN, length::by_count, 6, 32}, // calibrations
+    {"4906", CAN, length::by_count, 6, 8},  // their verification numbers
+    {"4908", CAN, length::by_count, 6, 4},  // counters
+    {"490A", CAN, length::fixed, 46},       // the unit's name
+    {"490B", CAN, length::by_count, 6, 4},
+    {"4901", OLDER, length::fixed, 6}, // how many messages the next type takes
+    {"4903", OLDER, length::fixed, 6},
+    {"4905", OLDER, length::fixed, 6},
+    {"4907", OLDER, length::fixed, 6},
+    {"4909", OLDER, length::fixed, 6},
+    {"49", OLDER, length::fixed, 14},
+    {"4A", CAN, length::by_count, CODES_HEAD_DIGITS, CODE_DIGITS},
+    {"4A", OLDER, length::fixed, 14},
 };
 
-constexpr std::size_t PARAMETER_HEAD_DIGITS = 4; // "41" and the PID
+std::size_t digits_of_records(std::string_view data) {
+    if (hex_value(slice(data, RECORD_AT, 2)) % BITMAP_EVERY == 0)
+        return MASK_DIGITS;
+    const std::size_t records =
+        data.size() > RECORD_AT ? (data.size() - RECORD_AT) / RECORD_DIGITS : 0;
+    return RECORD_AT + RECORD_DIGITS * std::max<std::size_t>(records, 1);
+}
 
 } // namespace
 
@@ -52,10 +83,12 @@ std::optional<std::size_t> answer_digits(std::string_view data, bus_form bus) {
         case length::fixed:
             return row.digits;
         case length::by_count:
-            return CODES_HEAD_DIGITS + CODE_DIGITS * hex_value(slice(data, 2, 2));
+            return row.digits + row.each * hex_value(slice(data, row.digits - 2, 2));
+        case length::by_record:
+            return digits_of_records(data);
         case length::by_parameter:
             if (const auto bytes = parameter_bytes(hex_value(slice(data, 2, 2))))
-                return PARAMETER_HEAD_DIGITS + 2 * *bytes;
+                return row.digits + 2 * *bytes;
             return std::nullopt;
         }
     }

@@ -79,6 +79,19 @@ std::string unit_name_of_address(std::string_view address, std::string_view show
     return "ECU=" + std::string(shown_otherwise);
 }
 
+std::string unit_address(header_form form, std::string_view header) {
+    switch (form) {
+    case header_form::none:
+        return {};
+    case header_form::can_11:
+        return std::string(header);
+    case header_form::can_29:
+        return std::string(slice(header, 6, 2));
+    default:
+        return std::string(slice(header, 4, 2));
+    }
+}
+
 std::string unit_name(const headed_line& line) {
     switch (line.form) {
     case header_form::none:

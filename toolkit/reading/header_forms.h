@@ -29,5 +29,9 @@ std::optional<headed_line> behind_header(std::string_view line, std::string_view
 // these digits are the tester's, on purpose.
 std::string unit_name(const headed_line& line);
 
+// The address of the unit that sent a line: "7E8" of 11 bits, else its one byte; empty without a
+// header.
+std::string unit_address(header_form form, std::string_view header);
+
 // The names that go with the last byte of a unit's address (SAE J1979).
 std::string unit_name_of_address(std::string_view address, std::string_view shown_otherwise);

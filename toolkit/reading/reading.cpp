@@ -73,6 +73,7 @@ class reply_reader {
     std::size_t digits_of(const found_message& one) const;
     void take_message(const found_message& one);
     void take_answer(const found_message& one);
+    static std::size_t size_without_checksum(const found_message& one, bus_form bus);
     void check_what_follows(const found_message& one, std::size_t whole, bus_form bus);
     bool belongs(const found_message& one, std::size_t whole, bus_form bus) const;
     bool answers_somebody_else(const found_message& one) const;
@@ -92,7 +93,8 @@ class reply_reader {
     std::map<std::string, sender, std::less<>> senders_; // of frames, by header
     struct put_off {
         std::size_t line;
-        std::string header, text;
+        std::string header;
+        unread_piece told;
     };
     std::vector<put_off> pending_;
     bool no_data_ = false;
@@ -217,9 +219,10 @@ void reply_reader::take_message(const found_message& one) {
     } else if (data.starts_with(std::string(NEGATIVE) + std::string(request_.substr(0, 2))) &&
                data.size() >= NEGATIVE_DIGITS) {
         const unread_piece refusal{unread_kind::refused,
-                                   std::string(data.substr(0, NEGATIVE_DIGITS))};
+                                   std::string(data.substr(0, NEGATIVE_DIGITS)),
+                                   unit_address(one.at.form, one.header)};
         if (data.substr(4, 2) == PENDING)
-            pending_.push_back({one.line, one.header, refusal.text});
+            pending_.push_back({one.line, one.header, refusal});
         else
             result_.unread.push_back(refusal);
     } else if (!answers_somebody_else(one)) {
@@ -230,13 +233,20 @@ void reply_reader::take_message(const found_message& one) {
 void reply_reader::take_answer(const found_message& one) {
     const bus_form bus = bus_of_message(one);
     const std::string_view data = one.data;
-    const std::size_t whole = answer_digits(data, bus).value_or(data.size());
+    const std::size_t whole = answer_digits(data, bus).value_or(size_without_checksum(one, bus));
     if (data.size() < digits_of(one))
         unread(unread_kind::broken_off, data);
     check_what_follows(one, whole, bus);
     ecu_answer answer{one.at.form, one.header, {}, std::string(data.substr(0, whole)), bus};
     answer.unit = unit_name({answer.form, answer.header, {}});
     result_.answers.push_back(std::move(answer));
+}
+
+// Of an answer that no row tells the length of.
+std::size_t reply_reader::size_without_checksum(const found_message& one, bus_form bus) {
+    const bool has_checksum = bus == bus_form::older && one.at.form != header_form::none &&
+                              ends_with_checksum(one.header + one.data);
+    return one.data.size() - (has_checksum ? 2 : 0);
 }
 
 // Behind an answer only what fills up a CAN frame may stand, or an older bus's checksum.
@@ -281,7 +291,7 @@ void reply_reader::settle_pending() {
                 return later.line > one.line && later.header == one.header &&
                        later.data.starts_with(answer_);
             }))
-            unread(unread_kind::refused, one.text);
+            result_.unread.push_back(one.told);
 }
 
 reading reply_reader::read(std::string_view reply) {

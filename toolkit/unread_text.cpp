@@ -49,3 +49,10 @@ std::string unread_causes(const bundle& resources, const unread_pieces& unread) 
 std::string_view unread_name(unread_kind kind) {
     return row_of(kind).name;
 }
+
+std::optional<unread_kind> unread_kind_named(std::string_view name) {
+    const auto* found = std::ranges::find(ROWS, name, &kind_row::name);
+    if (found == std::end(ROWS))
+        return std::nullopt;
+    return static_cast<unread_kind>(found - std::begin(ROWS));
+}

@@ -3,6 +3,7 @@
 
 #include "unread.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,3 +14,4 @@ std::string unread_causes(const bundle& resources, const unread_pieces& unread);
 
 // The name of a kind in JSON.
 std::string_view unread_name(unread_kind kind);
+std::optional<unread_kind> unread_kind_named(std::string_view name);

@@ -1,0 +1,214 @@
+#include "car_reader.h"
+
+#include "header_forms.h"
+#include "hex_digits.h"
+#include "readable.h"
+#include "reading.h"
+#include "text.h"
+
+#include <algorithm>
+#include <set>
+
+namespace {
+
+using milliseconds = run_loop::milliseconds;
+
+constexpr char HEADERS_ON[] = "ATH1";
+constexpr milliseconds ONE_TRY{8000};
+constexpr milliseconds BEFORE_THE_NEXT_TRY{1000}; // of a unit that is busy or not done yet
+constexpr int MOST_SILENT = 3;
+constexpr int MOST_TRIES = 2; // of a question that nobody put off
+
+// "7F0978": the answer is still to come; 21: the unit is busy, ask again.
+bool puts_off(const unit_reply& refusal) {
+    return refusal.data.ends_with("78") || refusal.data.ends_with("21");
+}
+
+std::string plain_words(std::string_view reply) {
+    std::string text;
+    const std::string lines = without(reply, std::string_view("\n>\0", 3));
+    for (const std::string_view line : split(lines, "\r"))
+        if (const std::string_view words = trimmed(line); !words.empty())
+            text.append(text.empty() ? "" : " ").append(words);
+    return text;
+}
+
+} // namespace
+
+car_reader::~car_reader() {
+    loop_.cancel(waiting_);
+    if (running_)
+        door_.give_up();
+}
+
+void car_reader::start(conversation heard) {
+    stop(reading_end::cancelled);
+    heard_ = std::move(heard);
+    heard_.pieces.clear();
+    running_ = true;
+    silent_ = 0;
+    began_ = loop_.now();
+    door_.ask(HEADERS_ON, ONE_TRY, [this](const std::optional<std::string>& reply) {
+        if (reply)
+            next();
+        else
+            finish(reading_end::adapter_silent);
+    });
+}
+
+// Each question stands in the list until it has been asked, whatever becomes of it.
+void car_reader::next() {
+    const std::vector<question> all = wanted(heard_);
+    const auto open = std::ranges::find_if(
+        all, [this](const question& one) { return !heard_.find(one.request); });
+    if (open == all.end())
+        return finish(reading_end::complete);
+    if (loop_.now() - began_ >= LONGEST_READING)
+        return finish(reading_end::time_up);
+    asked_ = *open;
+    piece_ = {};
+    piece_.request = asked_->request;
+    piece_began_ = loop_.now();
+    tries_ = 0;
+    if (progress)
+        progress(asked_->about, heard_.pieces.size(), all.size());
+    if (running_)
+        ask();
+}
+
+void car_reader::ask() {
+    ++tries_;
+    const milliseconds left = asked_->bound - (loop_.now() - piece_began_);
+    door_.ask(asked_->request,
+              std::clamp(left, milliseconds(1000), std::max(ONE_TRY, asked_->bound)),
+              [this](std::optional<std::string> reply) { take(std::move(reply)); });
+}
+
+void car_reader::take(std::optional<std::string> reply) {
+    if (!reply) {
+        piece_.timed_out = true;
+        const bool adapter_gone = ++silent_ == MOST_SILENT;
+        finish_piece();
+        return adapter_gone ? finish(reading_end::adapter_silent) : next();
+    }
+    silent_ = 0;
+    if (is_adapter_command(asked_->request))
+        take_words(*reply);
+    else
+        take_data(*reply);
+    if (worth_repeating())
+        return repeat();
+    finish_piece();
+    next();
+}
+
+void car_reader::take_words(const std::string& reply) {
+    piece_.text = readable(plain_words(reply));
+}
+
+// A later try replaces what an earlier one told of the same unit; what only the earlier one told
+// stays.
+void car_reader::take_data(const std::string& reply) {
+    const reading read = read_reply(asked_->request, reply);
+    piece_.refusals.clear();
+    piece_.unread.clear();
+    std::set<std::string> told_now;
+    for (const ecu_answer& one : read.answers)
+        told_now.insert(unit_address(one.form, one.header));
+    std::erase_if(piece_.answers,
+                  [&](const unit_reply& before) { return told_now.contains(before.unit); });
+    for (const ecu_answer& one : read.answers)
+        keep({unit_address(one.form, one.header), one.data}, piece_.answers);
+    for (const unread_piece& one : read.unread)
+        if (one.kind == unread_kind::refused)
+            keep({one.unit, one.text}, piece_.refusals);
+        else if (one.kind != unread_kind::no_answer)
+            keep_unread(one.kind, one.text);
+    std::erase_if(piece_.refusals, [this](const unit_reply& one) {
+        return std::ranges::find(piece_.answers, one.unit, &unit_reply::unit) !=
+               piece_.answers.end();
+    });
+    if (read.bus.form != bus_form::unknown)
+        piece_.bus = read.bus.form;
+}
+
+// An adapter that says everything twice has heard it once.
+void car_reader::keep(const unit_reply& told, std::vector<unit_reply>& in) {
+    if (std::ranges::find(in, told) != in.end())
+        return;
+    std::vector<std::string> units = heard_.units();
+    for (const auto* heard : {&piece_.answers, &piece_.refusals})
+        for (const unit_reply& one : *heard)
+            units.push_back(one.unit);
+    const std::set<std::string> all(units.begin(), units.end());
+    if (in.size() < MOST_ANSWERS && told.data.size() <= LONGEST_DATA &&
+        (all.contains(told.unit) || all.size() < MOST_UNITS))
+        in.push_back(told);
+    else
+        keep_unread(unread_kind::not_understood, told.unit + told.data);
+}
+
+void car_reader::keep_unread(unread_kind kind, std::string_view text) {
+    if (piece_.unread.size() < MOST_ANSWERS)
+        piece_.unread.push_back({kind, readable(text)});
+}
+
+// A unit that put its answer off is asked until the bound; damage, and a unit that is silent about
+// what it lists, once more.
+bool car_reader::worth_repeating() const {
+    if (is_adapter_command(asked_->request))
+        return false;
+    const milliseconds left = asked_->bound - (loop_.now() - piece_began_);
+    if (left <= BEFORE_THE_NEXT_TRY)
+        return false;
+    if (std::ranges::any_of(piece_.refusals, puts_off))
+        return true;
+    if (tries_ < MOST_TRIES && !piece_.unread.empty())
+        return true;
+    const std::string_view request = asked_->request;
+    if (request.size() < 4)
+        return false;
+    const unsigned identifier = hex_value(request.substr(2, 2));
+    const bool slow = asked_->bound > ONE_TRY && identifier != 0;
+    if (tries_ >= MOST_TRIES && !slow)
+        return false;
+    return std::ranges::any_of(heard_.units(), [&](const std::string& unit) {
+        const auto silent = [&](const std::vector<unit_reply>& heard) {
+            return std::ranges::find(heard, unit, &unit_reply::unit) == heard.end();
+        };
+        return identifier != 0 && silent(piece_.answers) && silent(piece_.refusals) &&
+               heard_.lists(unit, request.substr(0, 2)).listed.test(identifier);
+    });
+}
+
+void car_reader::repeat() {
+    const bool at_once = std::ranges::none_of(piece_.refusals, puts_off) && tries_ < MOST_TRIES;
+    waiting_ = loop_.after(at_once ? milliseconds(0) : BEFORE_THE_NEXT_TRY, [this] {
+        waiting_ = 0;
+        ask();
+    });
+}
+
+void car_reader::finish_piece() {
+    piece_.milliseconds = static_cast<int>((loop_.now() - piece_began_).count());
+    heard_.pieces.push_back(std::move(piece_));
+    asked_.reset();
+}
+
+void car_reader::stop(reading_end how) {
+    if (!running_)
+        return;
+    loop_.cancel(waiting_);
+    waiting_ = 0;
+    door_.give_up();
+    finish(how);
+}
+
+void car_reader::finish(reading_end how) {
+    running_ = false;
+    asked_.reset();
+    heard_.end = how;
+    heard_.milliseconds = static_cast<int>((loop_.now() - began_).count());
+    if (done)
+        done();
+}

@@ -1,0 +1,93 @@
+#include "conversation.h"
+
+#include "hex_digits.h"
+#include "text.h"
+
+#include <algorithm>
+#include <set>
+
+namespace {
+
+constexpr unsigned GROUP = 0x20;
+constexpr std::size_t MASK_DIGITS = 8;
+
+// Where a list of supported identifiers begins, in digits: behind service and identifier, and
+// behind a frame or message number where there is one.
+std::size_t mask_place(std::string_view service, bool can) {
+    const bool numbered = service == "02" || (!can && (service == "06" || service == "09"));
+    return numbered ? 6 : 4;
+}
+
+std::string mask_request(std::string_view service, unsigned group) {
+    return request_of(service, group) + (service == "02" ? "00" : "");
+}
+
+} // namespace
+
+bool is_adapter_command(std::string_view request) {
+    return request.starts_with("AT");
+}
+
+std::string request_of(std::string_view service, unsigned identifier) {
+    constexpr char DIGITS[] = "0123456789ABCDEF";
+    return std::string(service) + DIGITS[identifier / 16 % 16] + DIGITS[identifier % 16];
+}
+
+const asked_piece* conversation::find(std::string_view request) const {
+    const auto found = std::ranges::find(pieces, request, &asked_piece::request);
+    return found == pieces.end() ? nullptr : &*found;
+}
+
+std::vector<std::string> conversation::units() const {
+    std::set<std::string> seen;
+    for (const asked_piece& piece : pieces)
+        for (const auto* heard : {&piece.answers, &piece.refusals})
+            for (const unit_reply& one : *heard)
+                seen.insert(one.unit);
+    return {seen.begin(), seen.end()};
+}
+
+bool conversation::anything_told() const {
+    return std::ranges::any_of(pieces, &asked_piece::answered);
+}
+
+bool conversation::on_can() const {
+    const auto told = std::ranges::find_if(
+        pieces, [](const asked_piece& one) { return one.bus != bus_form::unknown; });
+    return told != pieces.end() && told->bus == bus_form::can;
+}
+
+conversation::id_list conversation::lists(std::string_view unit, std::string_view service) const {
+    id_list told;
+    bool more = true;
+    for (unsigned group = 0; group < told.listed.size(); group += GROUP) {
+        unsigned bits = 0;
+        if (more) {
+            const asked_piece* piece = find(mask_request(service, group));
+            if (!piece)
+                break;
+            const auto answer = std::ranges::find(piece->answers, unit, &unit_reply::unit);
+            if (answer == piece->answers.end())
+                break;
+            const std::string_view mask =
+                slice(std::string_view(answer->data),
+                      mask_place(service, piece->bus != bus_form::older), MASK_DIGITS);
+            if (mask.size() < MASK_DIGITS)
+                break;
+            bits = hex_value(mask);
+            more = (bits & 1) != 0; // stands for the next list as well as for its number
+        }
+        for (unsigned place = 1; place <= GROUP && group + place < told.listed.size(); ++place) {
+            told.reached.set(group + place);
+            told.listed.set(group + place, (bits >> (GROUP - place) & 1) != 0);
+        }
+    }
+    return told;
+}
+
+std::bitset<256> conversation::listed_by_anyone(std::string_view service) const {
+    std::bitset<256> all;
+    for (const std::string& unit : units())
+        all |= lists(unit, service).listed;
+    return all;
+}

@@ -1,0 +1,118 @@
+#include "findings.h"
+
+#include "hex_digits.h"
+#include "questions.h"
+#include "text.h"
+
+#include <algorithm>
+#include <map>
+
+namespace {
+
+constexpr std::size_t IDENTITY_HEAD = 4; // "49" and the identifier, in digits
+
+bool has_lists(std::string_view service) {
+    return service == "01" || service == "02" || service == "06" || service == "09";
+}
+
+std::string parted(std::string_view digits) {
+    std::string text;
+    for (std::size_t at = 0; at < digits.size(); at += 2)
+        text.append(at == 0 ? "" : " ").append(digits.substr(at, 2));
+    return text;
+}
+
+finding not_told(std::string_view request, outcome result, std::string why) {
+    finding found;
+    found.result = result;
+    found.why = std::move(why);
+    found.request = request;
+    return found;
+}
+
+// Of a request that was never sent: the unit's list did not call for it, or there was no list, or
+// the reading had ended.
+finding finding_of_unasked(const conversation& heard, std::string_view request,
+                           std::string_view unit) {
+    const std::string_view service = request.substr(0, 2);
+    if (heard.end != reading_end::complete || !has_lists(service) || request.size() < 4)
+        return not_told(request, outcome::not_asked, WHY_ENDED);
+    const std::string list = std::string(service) + "00" + (service == "02" ? "00" : "");
+    if (request == list || !heard.find(list))
+        return not_told(request, outcome::not_asked, WHY_ENDED);
+    finding found = finding_of(heard, list, unit);
+    if (found.told())
+        return not_told(request, outcome::not_told, WHY_NOT_LISTED);
+    found.request = request;
+    found.raw.clear();
+    return found;
+}
+
+std::string why_silent(const conversation& heard, std::string_view request, std::string_view unit) {
+    if (request.size() < 4 || !has_lists(request.substr(0, 2)))
+        return WHY_SILENT;
+    const unsigned identifier = hex_value(request.substr(2, 2));
+    const auto lists = heard.lists(unit, request.substr(0, 2));
+    return lists.listed.test(identifier)    ? WHY_LISTED
+           : lists.reached.test(identifier) ? WHY_NOT_LISTED
+                                            : WHY_SILENT;
+}
+
+} // namespace
+
+finding finding_of(const conversation& heard, std::string_view request, std::string_view unit) {
+    const asked_piece* piece = heard.find(request);
+    if (!piece)
+        return finding_of_unasked(heard, request, unit);
+    finding found = not_told(request, outcome::not_told, "");
+    found.unread = piece->unread;
+    for (const unit_reply& one : piece->answers)
+        if (one.unit == unit)
+            found.raw.append(found.raw.empty() ? "" : " ").append(one.data);
+    const auto refusal = std::ranges::find(piece->refusals, unit, &unit_reply::unit);
+    if (!found.raw.empty()) {
+        found.result = outcome::told;
+    } else if (refusal != piece->refusals.end()) {
+        found.result = outcome::refused;
+        found.why = parted(refusal->data);
+    } else if (piece->timed_out) {
+        found.result = outcome::unread;
+        found.why = WHY_TIME_OUT;
+    } else if (!piece->unread.empty()) {
+        found.result = outcome::unread;
+    } else {
+        found.why = why_silent(heard, request, unit);
+    }
+    return found;
+}
+
+std::vector<std::string> answers_of(const conversation& heard, std::string_view request,
+                                    std::string_view unit) {
+    std::vector<std::string> all;
+    if (const asked_piece* piece = heard.find(request))
+        for (const unit_reply& one : piece->answers)
+            if (one.unit == unit)
+                all.push_back(one.data);
+    return all;
+}
+
+std::string identity_bytes(const conversation& heard, std::string_view request,
+                           std::string_view unit, bool& whole) {
+    const std::vector<std::string> answers = answers_of(heard, request, unit);
+    const asked_piece* piece = heard.find(request);
+    if (answers.empty() || !piece)
+        return {};
+    if (piece->bus != bus_form::older) // the number of items first
+        return std::string(slice(std::string_view(answers.front()), IDENTITY_HEAD));
+    std::map<unsigned, std::string> messages;
+    for (const std::string& one : answers)
+        messages[hex_value(slice(std::string_view(one), IDENTITY_HEAD, 2))] =
+            slice(std::string_view(one), IDENTITY_HEAD + 2);
+    std::string bytes;
+    unsigned number = 0;
+    for (const auto& [told, data] : messages) {
+        whole = whole && told == ++number;
+        bytes += data;
+    }
+    return bytes;
+}

@@ -1,0 +1,254 @@
+#include "sheet.h"
+
+#include "bundle.h"
+#include "sheet_parts.h"
+#include "text.h"
+#include "unread_text.h"
+
+#include <algorithm>
+#include <set>
+
+namespace {
+
+using cells = std::vector<std::string>;
+
+bool since_cleared(unsigned pid) {
+    return pid == 0x21 || pid == 0x30 || pid == 0x31 || pid == 0x4D || pid == 0x4E;
+}
+constexpr unsigned OBD_STANDARD = 0x1C, FUEL = 0x51, ODOMETER = 0xA6, ENGINE_SPEED = 0x0C;
+
+// "2026-11-22T18:04:07+01:00" as people write it.
+std::string moment(const std::string& read_at) {
+    return replace_all(replace_all(replace_all(read_at, "T", " "), "+", " +"), "Z", " UTC");
+}
+
+// What different units tell alike stands once.
+void add_readings(sheet_table& to, const car_report& report, bool (*wanted)(unsigned pid)) {
+    for (const unit_report& unit : report.units)
+        for (const told_value& one : unit.readings) {
+            if (!wanted(one.pid))
+                continue;
+            const bool alone =
+                std::ranges::count_if(report.units, [&](const unit_report& other) {
+                    return std::ranges::any_of(other.readings, [&](const told_value& same) {
+                        return same.pid == one.pid;
+                    });
+                }) == 1;
+            to.rows.push_back({alone ? one.name : one.name + ", " + unit_label(unit), one.text});
+        }
+}
+
+sheet_table pairs() {
+    return {{}, {2, 3}, {}};
+}
+
+void vehicle_section(sheet_section& to, const car_report& report, const bundle& texts) {
+    sheet_table table = pairs();
+    std::set<std::string> different;
+    std::string vin = texts.localized("report_not_told");
+    for (const unit_report& unit : report.units)
+        if (unit.of(part::vin).told() && different.insert(unit.vin).second && different.size() == 1)
+            vin = unit.vin_is_standard ? unit.vin : say(texts, "report_vin_odd", {unit.vin});
+    table.rows.push_back({texts.localized("report_vin"), vin});
+    add_readings(table, report, [](unsigned pid) {
+        return pid == OBD_STANDARD || pid == FUEL || pid == ODOMETER;
+    });
+    to.table(std::move(table));
+    if (different.size() < 2)
+        return;
+    std::string all;
+    for (const std::string& one : different)
+        all += (all.empty() ? "" : ", ") + one;
+    to.line(say(texts, "report_vins_differ", {all}));
+}
+
+void readings_section(sheet_section& to, const car_report& report, const bundle& texts) {
+    sheet_table table = pairs();
+    table.rows.push_back({texts.localized("report_read_at"), moment(report.heard.read_at)});
+    if (!report.adapter_volts.empty())
+        table.rows.push_back({texts.localized("report_volts"), report.adapter_volts});
+    for (const unit_report& unit : report.units)
+        if (const auto speed = std::ranges::find(unit.readings, ENGINE_SPEED, &told_value::pid);
+            speed != unit.readings.end()) {
+            const bool running = !speed->found.raw.ends_with("0000");
+            table.rows.push_back({texts.localized("report_engine_running"),
+                                  texts.localized(running ? "report_yes" : "report_no")});
+            break;
+        }
+    add_readings(table, report, [](unsigned pid) {
+        return !since_cleared(pid) && pid != OBD_STANDARD && pid != FUEL && pid != ODOMETER;
+    });
+    to.table(std::move(table));
+}
+
+void cleared_section(sheet_section& to, const car_report& report, const bundle& texts) {
+    sheet_table table = pairs();
+    add_readings(table, report, since_cleared);
+    if (table.rows.empty())
+        to.line(texts.localized("report_not_told"));
+    to.table(std::move(table));
+}
+
+void adapter_section(sheet_section& to, const car_report& report, const bundle& texts) {
+    sheet_table table = pairs();
+    const auto add = [&](std::string_view key, const std::string& value) {
+        table.rows.push_back(
+            {texts.localized(key), value.empty() ? texts.localized("report_not_told") : value});
+    };
+    add("report_adapter", report.adapter);
+    add("report_protocol",
+        report.protocol +
+            (report.protocol_number.empty() ? "" : " (" + report.protocol_number + ")"));
+    std::string units;
+    for (const unit_report& unit : report.units)
+        units += (units.empty() ? "" : ", ") + unit_label(unit);
+    add("report_answered", units.empty() ? texts.localized("report_none") : units);
+    const int tenths = (report.heard.milliseconds + 50) / 100;
+    add("report_seconds", std::to_string(tenths / 10) + "." + std::to_string(tenths % 10) + " s");
+    to.table(std::move(table));
+}
+
+void units_section(sheet_section& to, const car_report& report, const bundle& texts) {
+    sheet_table table{{texts.localized("report_col_address"), texts.localized("report_col_name"),
+                       texts.localized("report_col_calibration"),
+                       texts.localized("report_col_verification")},
+                      {2, 5, 5, 5},
+                      {}};
+    for (const unit_report& unit : report.units) {
+        cells first{unit.address, unit.name, "", ""};
+        for (const calibration& one : unit.calibrations) {
+            first[2] = one.id.empty() ? texts.localized("report_not_told") : one.id;
+            first[3] = one.verification_number.empty() ? texts.localized("report_not_told")
+                                                       : one.verification_number;
+            table.rows.push_back(first);
+            first = cells(4);
+        }
+        if (unit.calibrations.empty()) {
+            first[2] = first[3] = texts.localized("report_not_told");
+            table.rows.push_back(first);
+        }
+    }
+    if (table.rows.empty())
+        to.line(texts.localized("report_not_told"));
+    to.table(std::move(table));
+}
+
+struct section_row {
+    std::string_view name;
+    section_maker make;
+};
+constexpr section_row SECTIONS[] = {
+    {"vehicle", vehicle_section},     {"readings", readings_section}, {"adapter", adapter_section},
+    {"units", units_section},         {"codes", codes_section},       {"frames", frames_section},
+    {"readiness", readiness_section}, {"cleared", cleared_section},   {"tests", tests_section},
+    {"counters", counters_section},   {"unread", unread_section},
+};
+
+std::string lamp_text(const car_report& report, const bundle& texts) {
+    const auto lamp = report.lamp();
+    return texts.localized(!lamp ? "report_not_told" : *lamp ? "report_on" : "report_off");
+}
+
+std::string count_text(const car_report& report, part kind, const bundle& texts) {
+    bool whole = false;
+    const auto count = report.count(kind, whole);
+    if (!count)
+        return texts.localized("report_not_told");
+    if (!whole && *count == 0)
+        return texts.localized("report_none_so_far");
+    return whole ? std::to_string(*count) : say(texts, "report_at_least", {std::to_string(*count)});
+}
+
+std::vector<sheet_fact> facts_of(const car_report& report, const bundle& texts) {
+    const auto ready = report.readiness();
+    return {{texts.localized("report_fact_lamp"), lamp_text(report, texts)},
+            {texts.localized("report_fact_codes"),
+             say(texts, "report_counts",
+                 {count_text(report, part::stored, texts), count_text(report, part::pending, texts),
+                  count_text(report, part::permanent, texts)})},
+            {texts.localized("report_fact_readiness"),
+             ready ? say(texts, "report_ready",
+                         {std::to_string(ready->complete), std::to_string(ready->supported)})
+                   : texts.localized("report_not_told")}};
+}
+
+} // namespace
+
+std::string say(const bundle& texts, std::string_view key,
+                std::initializer_list<std::string> places) {
+    const std::string pattern = texts.localized(key);
+    std::string text;
+    for (std::size_t at = 0; at < pattern.size(); ++at) {
+        const std::size_t place = pattern[at] == '%' && at + 1 < pattern.size()
+                                      ? static_cast<std::size_t>(pattern[at + 1] - '1')
+                                      : places.size();
+        if (place < places.size()) { // what is put in is not looked at again
+            text += *(places.begin() + place);
+            ++at;
+        } else {
+            text += pattern[at];
+        }
+    }
+    return text;
+}
+
+std::string unit_label(const unit_report& unit) {
+    return unit.address.empty() ? unit.name : unit.name + " (" + unit.address + ")";
+}
+
+std::string why_not(const finding& found, const bundle& texts) {
+    if (found.result == outcome::refused)
+        return found.why;
+    std::string why = found.why.empty() ? "" : texts.localized("report_why_" + found.why);
+    if (const std::string causes = unread_causes(texts, found.unread); !causes.empty())
+        why += (why.empty() ? "" : "; ") + causes;
+    return why;
+}
+
+std::string bar_of(int percent) {
+    constexpr int PARTS_OF_A_BAR = 10;
+    std::string bar;
+    for (int i = 0; i < PARTS_OF_A_BAR; ++i)
+        bar += i * 100 < percent * PARTS_OF_A_BAR ? "█" : "░";
+    return bar + "\u00A0" + std::to_string(percent) + "\u00A0%";
+}
+
+std::span<const std::string_view> section_names() {
+    static const auto names = [] {
+        std::array<std::string_view, std::size(SECTIONS)> all;
+        std::ranges::transform(SECTIONS, all.begin(), &section_row::name);
+        return all;
+    }();
+    return names;
+}
+
+void report_sheet::keep(std::span<const std::string> names) {
+    std::erase_if(sections, [&](const sheet_section& one) {
+        return std::ranges::find(names, one.name) == names.end();
+    });
+}
+
+report_sheet sheet_of(const car_report& report, const bundle& texts) {
+    report_sheet sheet;
+    sheet.title = texts.localized("report_title");
+    sheet.vin = report.vin;
+    sheet.read_at = moment(report.heard.read_at);
+    for (const char* key : {"report_plate", "report_owner", "report_odometer"})
+        sheet.to_fill_in.push_back(texts.localized(key));
+    sheet.signature = texts.localized("report_signature");
+    constexpr const char* ENDS[] = {"", "report_end_cancelled", "report_end_time_up",
+                                    "report_end_adapter_silent", "report_end_link_lost"};
+    if (report.heard.end != reading_end::complete)
+        sheet.warnings.push_back(texts.localized(ENDS[static_cast<std::size_t>(report.heard.end)]));
+    sheet.facts = facts_of(report, texts);
+    for (const section_row& row : SECTIONS) {
+        sheet_section section{
+            row.name, texts.localized("report_section_" + std::string(row.name)), {}};
+        row.make(section, report, texts);
+        if (!section.blocks.empty())
+            sheet.sections.push_back(std::move(section));
+    }
+    sheet.foot = texts.localized("report_foot") + " " + report.heard.program;
+    sheet.page = texts.localized("report_page");
+    return sheet;
+}

@@ -1,0 +1,75 @@
+// Parameters of service 01 and of the freeze frame, by the table of standard values first.
+#include "constantes.h"
+#include "findings.h"
+#include "hex_digits.h"
+#include "parameters.h"
+#include "text.h"
+#include "user_defaults.h"
+
+namespace {
+
+constexpr unsigned READINGS[] = {0x1C, 0x51, 0x0C, 0x05, 0x42, 0x21, 0x30, 0x31, 0x4D, 0x4E, 0xA6};
+constexpr unsigned GROUP = 0x20;
+constexpr std::string_view NO_VALUE = "~";
+
+// `answer`: as of service 01. Empty when it is no whole answer.
+std::string value_text(const std::string& answer, const mac_toolies& toolies) {
+    const bool metric = toolies.doors().defaults->boolean(KS_METRIC_UNITS_KEY);
+    std::string text = standard_value(answer, metric).text;
+    if (text == NO_VALUE)
+        text = parameter_value(toolies, answer).text;
+    if (text == NO_VALUE || text == "N/A")
+        return {};
+    return replace_all(std::string(trimmed(std::string_view(text))), "  ", " ");
+}
+
+told_value value_of(const conversation& heard, const std::string& request, unsigned pid,
+                    std::string_view unit, const mac_toolies& toolies) {
+    told_value value;
+    value.pid = pid;
+    value.name = parameter_name(toolies, request.substr(2, 2));
+    if (value.name == "N/A" || value.name == "NOT FOUND")
+        value.name = "PID " + request.substr(2, 2);
+    value.found = finding_of(heard, request, unit);
+    const std::size_t head = request.size(); // the frame's number stands behind the PID
+    for (const std::string& answer : answers_of(heard, request, unit))
+        if (answer.size() > head) {
+            value.text = value_text("41" + request.substr(2, 2) + answer.substr(head), toolies);
+            if (value.text.empty()) // nobody's table explains it: the bytes themselves
+                value.text = answer.substr(head);
+        }
+    return value;
+}
+
+void take(unit_report& unit, std::vector<told_value>& to, told_value value) {
+    if (value.found.told() && value.text.empty())
+        value.found.result = outcome::unread;
+    if (value.found.told())
+        to.push_back(std::move(value));
+    else if (value.found.why != WHY_NOT_LISTED && value.found.result != outcome::not_asked)
+        unit.gaps.push_back(std::move(value.found));
+}
+
+// That are unanswered by a unit which answers nothing of the kind are no gaps.
+bool expected(const finding& list) {
+    return list.told() || list.result == outcome::unread;
+}
+
+} // namespace
+
+void fill_values(unit_report& unit, const conversation& heard, const mac_toolies& toolies) {
+    const bool tells = expected(finding_of(heard, "0100", unit.address));
+    for (const unsigned pid : READINGS) {
+        const std::string request = request_of("01", pid);
+        told_value value = value_of(heard, request, pid, unit.address, toolies);
+        if (heard.find(request) && (tells || value.found.told()))
+            take(unit, unit.readings, std::move(value));
+    }
+    if (unit.frame_code.empty())
+        return;
+    for (unsigned pid = 3; pid <= 0xFF; ++pid) {
+        const std::string request = request_of("02", pid) + "00";
+        if (pid % GROUP != 0 && heard.find(request))
+            take(unit, unit.frame_values, value_of(heard, request, pid, unit.address, toolies));
+    }
+}

@@ -1,0 +1,207 @@
+#include "report_view.h"
+
+#include "alerts.h"
+#include "bundle.h"
+#include "busy_indicator.h"
+#include "chrome.h"
+#include "Ks_lite_delegate.h"
+#include "report_json.h"
+#include "report_screen.h"
+#include "saved_report.h"
+#include "status_line.h"
+#include "user_defaults.h"
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QMimeData>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QTextBrowser>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr char FILE_KINDS[] = "HTML (*.html);;PDF (*.pdf);;JSON (*.json);;Text (*.txt)";
+constexpr char SAVED_KINDS[] = "JSON (*.json)";
+
+} // namespace
+
+report_view::report_view(Ks_lite_delegate& delegate, const mac_toolies& toolies)
+    : delegate_(delegate), toolies_(toolies) {
+    const screen_bones bones = make_screen_bones(delegate, "ui_report_title", true);
+    root_.reset(bones.root);
+    status_ = bones.status;
+    waity_ = bones.waity;
+    read_ = add_button("readReport", "ui_report_read", [this] {
+        if (const auto& press = running_ ? on_cancel : on_read)
+            press();
+    });
+    bones.title_row->addWidget(read_);
+
+    auto* row = new QHBoxLayout;
+    row->setSpacing(GRID);
+    hide_vin_ = new QCheckBox(ui_text(delegate, "ui_report_hide_vin"), root_.get());
+    hide_vin_->setObjectName(QStringLiteral("hideVin"));
+    hide_vin_->setToolTip(ui_text(delegate, "ui_report_hide_vin_hint"));
+    save_ = add_button("saveReport", "ui_report_save", [this] { save(); });
+    print_ = add_button("printReport", "ui_report_print", [this] { print(); });
+    copy_ = add_button("copyReport", "ui_report_copy", [this] { copy(); });
+    auto* open_saved = add_button("openReport", "ui_report_open", [this] { open(); });
+    compare_ = add_button("compareReport", "ui_report_compare", [this] { compare(); });
+    for (QWidget* one :
+         {static_cast<QWidget*>(save_), static_cast<QWidget*>(print_), static_cast<QWidget*>(copy_),
+          static_cast<QWidget*>(open_saved), static_cast<QWidget*>(compare_)})
+        row->addWidget(one);
+    row->addStretch(1);
+    row->addWidget(hide_vin_);
+    auto* offer = new QCheckBox(ui_text(delegate, "ui_report_offer"), root_.get());
+    offer->setObjectName(QStringLiteral("offerReport"));
+    offer->setToolTip(ui_text(delegate, "ui_report_offer_hint"));
+    offer->setChecked(!delegate.doors().defaults.boolean(NO_OFFER_KEY));
+    QObject::connect(offer, &QCheckBox::toggled, root_.get(), [this](bool on) {
+        delegate_.doors().defaults.set_boolean(NO_OFFER_KEY, !on);
+        delegate_.doors().defaults.synchronize();
+    });
+    row->addWidget(offer);
+    bones.content->addLayout(row);
+
+    sheet_ = new QTextBrowser(root_.get());
+    sheet_->setObjectName(QStringLiteral("reportSheet"));
+    sheet_->setOpenLinks(false);
+    sheet_->setAccessibleName(ui_text(delegate, "ui_report_title"));
+    sheet_->setPlaceholderText(ui_text(delegate, "ui_report_empty"));
+    sheet_->document()->setDocumentMargin(2 * GRID);
+    bones.content->addWidget(sheet_, 1);
+    root_->setFocusProxy(read_);
+    show_running(false);
+}
+
+report_view::~report_view() = default;
+
+QPushButton* report_view::add_button(const char* name, std::string_view key,
+                                     std::function<void()> press) {
+    auto* button = new QPushButton(ui_text(delegate_, key), root_.get());
+    button->setObjectName(QLatin1String(name));
+    QObject::connect(button, &QPushButton::clicked, root_.get(), std::move(press));
+    return button;
+}
+
+void report_view::show_running(bool running) {
+    running_ = running;
+    waity_->setVisible(running);
+    read_->setText(ui_text(delegate_, running ? "ui_report_cancel" : "ui_report_read"));
+}
+
+void report_view::show_report() {
+    const auto& kept = last_report().report;
+    for (QPushButton* one : {save_, print_, copy_, compare_})
+        one->setEnabled(kept.has_value());
+    if (kept)
+        show_sheet(sheet_of(*kept, delegate_.doors().resources));
+    else
+        sheet_->clear();
+}
+
+void report_view::show_sheet(const report_sheet& sheet) {
+    sheet_->setHtml(QString::fromStdString(sheet_rich_text(sheet)));
+}
+
+car_report report_view::report_to_give() const {
+    const car_report& kept = *last_report().report;
+    return hide_vin_->isChecked() ? report_of(without_vin(kept.heard), toolies_) : kept;
+}
+
+report_sheet report_view::sheet_to_give() const {
+    return sheet_of(report_to_give(), delegate_.doors().resources);
+}
+
+void report_view::tell(const std::string& message) {
+    delegate_.doors().message_boxes.show({.message = message});
+}
+
+void report_view::save() {
+    const car_report report = report_to_give();
+    QString kind;
+    QString path;
+    {
+        const modal_hold hold(delegate_.doors().loop);
+        path = QFileDialog::getSaveFileName(root_.get(), ui_text(delegate_, "ui_report_save_title"),
+                                            QString::fromStdString(usual_name(report) + ".html"),
+                                            QLatin1String(FILE_KINDS), &kind);
+    }
+    if (path.isEmpty())
+        return;
+    if (!rendering_named(path.toStdString())) // the kind chosen says what it is
+        path += kind.mid(kind.indexOf(u'.')).chopped(1);
+    const auto why = write_whole(
+        path.toStdString(),
+        rendered(report, sheet_of(report, delegate_.doors().resources),
+                 rendering_named(path.toStdString()).value_or(rendering::html), usual_paper()));
+    if (why)
+        tell(delegate_.doors().resources.localized("ui_report_not_saved") + " " + *why);
+    last_report().saved = last_report().saved || !why;
+    if (!why)
+        status_->set_text(ui_text(delegate_, "ui_report_saved").arg(path).toStdString());
+}
+
+void report_view::print() {
+    const report_sheet sheet = sheet_to_give();
+    const modal_hold hold(delegate_.doors().loop);
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(QString::fromStdString(sheet.title + " " + sheet.vin));
+    printer.setPageSize(
+        QPageSize(usual_paper() == paper_size::a4 ? QPageSize::A4 : QPageSize::Letter));
+    printer.setPageMargins(
+        QMarginsF(PAPER_MARGIN_MM, PAPER_MARGIN_MM, PAPER_MARGIN_MM, PAPER_MARGIN_MM),
+        QPageLayout::Millimeter);
+    if (QPrintDialog(&printer, root_.get()).exec() == QDialog::Accepted)
+        print_sheet(printer, sheet);
+}
+
+void report_view::copy() {
+    const report_sheet sheet = sheet_to_give();
+    auto* both = new QMimeData;
+    both->setText(QString::fromStdString(sheet_text(sheet)));
+    both->setHtml(QString::fromStdString(sheet_html(sheet)));
+    QGuiApplication::clipboard()->setMimeData(both);
+    status_->set_text(ui_text(delegate_, "ui_report_copied").toStdString());
+}
+
+bool report_view::read_report(const std::string& title, car_report& to) {
+    QString path;
+    {
+        const modal_hold hold(delegate_.doors().loop);
+        path = QFileDialog::getOpenFileName(root_.get(), QString::fromStdString(title), {},
+                                            QLatin1String(SAVED_KINDS));
+    }
+    if (path.isEmpty())
+        return false;
+    std::string why;
+    const auto document = read_whole(path.toStdString(), why);
+    const auto heard = document ? open_report(*document, why) : std::nullopt;
+    if (!heard) {
+        tell(delegate_.doors().resources.localized("ui_report_not_opened") + " " + why);
+        return false;
+    }
+    to = report_of(*heard, toolies_);
+    return true;
+}
+
+void report_view::open() {
+    car_report opened;
+    if (!read_report(ui_text(delegate_, "ui_report_open_title").toStdString(), opened))
+        return;
+    last_report() = {std::move(opened), std::nullopt, true};
+    show_report();
+}
+
+// The one that shows is the later one.
+void report_view::compare() {
+    car_report before;
+    if (read_report(ui_text(delegate_, "ui_report_compare_title").toStdString(), before))
+        show_sheet(comparison_of(before, *last_report().report, delegate_.doors().resources));
+}

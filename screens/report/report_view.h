@@ -1,0 +1,60 @@
+// The widgets of the report screen: the sheet itself, and what can be done with it.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+class busy_indicator;
+class Ks_lite_delegate;
+class mac_toolies;
+class QCheckBox;
+class QPushButton;
+class QTextBrowser;
+class QWidget;
+class status_line;
+struct car_report;
+struct report_sheet;
+
+class report_view {
+  public:
+    report_view(Ks_lite_delegate& delegate, const mac_toolies& toolies);
+    ~report_view();
+
+    QWidget* root() { return root_.get(); }
+    status_line* statusLbl() { return status_; }
+
+    void show_running(bool running);
+    // The last report, as far as there is one.
+    void show_report();
+
+    std::function<void()> on_read, on_cancel;
+
+  private:
+    QPushButton* add_button(const char* name, std::string_view key, std::function<void()> press);
+    void show_sheet(const report_sheet& sheet);
+    // As it leaves the program.
+    car_report report_to_give() const;
+    report_sheet sheet_to_give() const;
+    void save();
+    void print();
+    void copy();
+    void open();
+    void compare();
+    bool read_report(const std::string& title, car_report& to);
+    void tell(const std::string& message);
+
+    Ks_lite_delegate& delegate_;
+    const mac_toolies& toolies_;
+    std::unique_ptr<QWidget> root_;
+    status_line* status_ = nullptr;
+    busy_indicator* waity_ = nullptr;
+    QPushButton* read_ = nullptr;
+    QPushButton* save_ = nullptr;
+    QPushButton* print_ = nullptr;
+    QPushButton* copy_ = nullptr;
+    QPushButton* compare_ = nullptr;
+    QCheckBox* hide_vin_ = nullptr;
+    QTextBrowser* sheet_ = nullptr;
+    bool running_ = false;
+};

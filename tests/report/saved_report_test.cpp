@@ -1,0 +1,80 @@
+// Reports as files: what is saved opens as it was, a hidden number is nowhere in it, and nothing
+// that only looks like a report is taken for one.
+#include "report_fixture.h"
+#include "report_json.h"
+#include "text.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string in_hex(std::string_view text) {
+    std::string digits;
+    for (const char c : text)
+        digits += request_of("", static_cast<unsigned char>(c));
+    return digits;
+}
+
+TEST(saved_report, opens_as_it_was_and_holds_no_hidden_number) {
+    for (const std::string& name : car_names()) {
+        SCOPED_TRACE(name);
+        car_on_the_bench bench(name);
+        const car_report& report = bench.read();
+        const std::string saved = report_json(report);
+        std::string why;
+        const auto opened = open_report(saved, why);
+        ASSERT_TRUE(opened) << why;
+        EXPECT_EQ(report_json(report_of(*opened, bench.toolies)), saved);
+
+        const std::string vin = bench.the_car.vin;
+        if (vin.empty())
+            continue;
+        const std::string tail = vin.substr(11);
+        ASSERT_TRUE(contains(saved, tail));
+        const std::string hidden =
+            report_json(report_of(without_vin(bench.reader.heard()), bench.toolies));
+        EXPECT_FALSE(contains(hidden, tail));
+        EXPECT_FALSE(contains(hidden, in_hex(tail.substr(0, 2)) + in_hex(tail.substr(2, 2))));
+        EXPECT_TRUE(contains(hidden, vin.substr(0, 11) + "******"));
+    }
+}
+
+struct foreign_row {
+    const char* name;
+    const char* from; // in a sound document
+    const char* to;
+    const char* why;
+};
+constexpr foreign_row FOREIGN[] = {
+    {"no JSON", "{", "[", "it is no JSON document"},
+    {"another format", "kestrom-report", "x", "it is no report of Kestrom"},
+    {"another version", "\"version\": 1", "\"version\": 2", "it is of another version"},
+    {"no pieces", "\"conversation\"", "\"x\"", "\"conversation\" is missing"},
+    {"a list for a text", "\"text\": \"ELM", "\"x\": \"ELM", "\"text\" is missing"},
+    {"a negative time", "\"milliseconds\": ", "\"milliseconds\": -",
+     "\"milliseconds\" is no number from 0 on"},
+    {"data that is not hex", "\"data\": \"41", "\"data\": \"4G",
+     "\"data\" is not in capital hex digits"},
+    {"a request twice", "\"request\": \"07\"", "\"request\": \"03\"", "a request stands twice"},
+    {"an odd unit", "\"unit\": \"7E8\"", "\"unit\": \"7E87E87E8\"", "it names too many units"},
+    {"an unknown end", "\"complete\",", "\"over\",", "\"end\" is no word of this version"},
+};
+
+TEST(saved_report, that_is_none_is_refused_with_the_reason) {
+    car_on_the_bench bench("can11");
+    const std::string sound = report_json(bench.read());
+    // The worked-out half of a document is for others to read: only the conversation counts.
+    const std::size_t talk = sound.find("\"conversation\"");
+    for (const foreign_row& row : FOREIGN) {
+        std::string document = sound;
+        std::size_t at = document.find(row.from, talk);
+        at = at == document.npos ? document.find(row.from) : at;
+        ASSERT_NE(at, document.npos) << row.name;
+        document.replace(at, std::string_view(row.from).size(), row.to);
+        std::string why;
+        EXPECT_FALSE(open_report(document, why)) << row.name;
+        EXPECT_EQ(why, row.why) << row.name;
+    }
+}
+
+} // namespace

@@ -1,0 +1,156 @@
+// How each piece ends, as the sheet says it: a value, none, not told, refused, or not readable. The
+// car has one unit and answers what a row says; to all else there is no data.
+#include "report_fixture.h"
+#include "sheet.h"
+#include "text.h"
+
+#include <gtest/gtest.h>
+#include <map>
+
+namespace {
+
+class scripted_door final : public adapter_door {
+  public:
+    explicit scripted_door(virtual_run_loop& loop) : loop_(loop) {}
+    void ask(const std::string& command, run_loop::milliseconds bound, answered told) override {
+        std::optional<std::string> reply = "NO DATA\r\r>";
+        if (const auto found = replies.find(command); found != replies.end())
+            reply =
+                found->second ? std::optional(std::string(found->second) + "\r\r>") : std::nullopt;
+        const auto takes = reply ? run_loop::milliseconds(50) : bound;
+        call_ = loop_.after(takes, [told = std::move(told), reply] { told(reply); });
+    }
+    void give_up() override { loop_.cancel(call_); }
+
+    std::map<std::string, const char*> replies; // null: none in time
+
+  private:
+    virtual_run_loop& loop_;
+    run_loop::timer_id call_ = 0;
+};
+
+class one_unit {
+  public:
+    one_unit() : door(loop), reader(loop, door) {
+        door.replies = {{"ATH1", "OK"},
+                        {"0100", "7E8 06 41 00 80 00 00 00"},
+                        {"0101", "7E8 06 41 01 81 07 00 00"},
+                        {"03", "7E8 04 43 01 03 01"}};
+    }
+    car_report read() {
+        reader.start({});
+        loop.advance(std::chrono::minutes(10));
+        EXPECT_FALSE(reader.running());
+        return report_of(reader.heard(), toolies);
+    }
+    std::string text(const car_report& report) { return sheet_text(sheet_of(report, resources)); }
+
+    virtual_run_loop loop;
+    scripted_door door;
+    car_reader reader;
+    QTemporaryDir folder;
+    bundle resources{":/kestrom", "en_US"};
+    user_defaults store{folder.filePath(QStringLiteral("s.conf")).toStdString()};
+    mac_toolies toolies{{&resources, &store, nullptr, nullptr, folder.path().toStdString()}};
+};
+
+struct piece_row {
+    const char* name;
+    const char* request;
+    const char* reply; // null: none in time
+    const char* said;
+    const char* fact = "permanent: not told";
+};
+const piece_row ROWS[] = {
+    {"no data", "0A", "NO DATA", "Permanent codes: not told"},
+    {"none", "0A", "7E8 02 4A 00", "Permanent codes: none", "permanent: 0"},
+    {"a code", "0A", "7E8 04 4A 01 20 02", "P2002", "permanent: 1"},
+    {"refused", "0A", "7E8 03 7F 0A 11", "Permanent codes: refused (7F 0A 11)"},
+    {"put off and answered", "0A", "7E8 03 7F 0A 78\r7E8 04 4A 01 20 02", "P2002", "permanent: 1"},
+    {"put off for good", "0A", "7E8 03 7F 0A 78", "Permanent codes: refused (7F 0A 78)"},
+    {"a late list of other codes", "0A", "7E8 02 47 00\r7E8 02 4A 00",
+     "Permanent codes: a part of it could not be read", "permanent: none, as far as told"},
+    {"a late answer to another request", "0A", "7E8 06 41 01 81 07 00 00\r7E8 02 4A 00",
+     "Permanent codes: none", "permanent: 0"},
+    {"only the late answer", "0A", "7E8 06 41 01 81 07 00 00", "Permanent codes: not told"},
+    {"an error of the bus", "0A", "CAN ERROR", "Permanent codes: could not be read"},
+    {"a damaged line", "0A", "7E8 04 4A 01 20 <DATA ERROR", "Permanent codes: could not be read"},
+    {"fewer codes than counted", "0A", "7E8 04 4A 02 20 02",
+     "Permanent codes: a part of it could not be read", "permanent: at least 1"},
+    {"no reply in time", "0A", nullptr, "no reply in time"},
+    {"fill behind the answer", "0A", "7E8 04 4A 01 20 02 AA AA AA", "P2002", "permanent: 1"},
+    {"a count that its list contradicts", "03", "7E8 06 43 02 03 01 04 20",
+     "its status counts 1 stored codes, its list holds 2"},
+    {"a number with bytes that are no text", "0902",
+     "7E8 10 14 49 02 01 57 4B 45\r7E8 21 00 01 02 FF 54 31 36\r7E8 22 41 35 42 34 31 31 32",
+     "(not a standard number)"},
+    {"a long answer without its end", "0902", "7E8 10 14 49 02 01 57 4B 45", "VIN"},
+};
+
+TEST(sheet, tells_how_each_piece_ended) {
+    for (const piece_row& row : ROWS) {
+        SCOPED_TRACE(row.name);
+        one_unit car;
+        car.door.replies[row.request] = row.reply;
+        const car_report report = car.read();
+        EXPECT_EQ(report.heard.end, reading_end::complete);
+        const std::string text = car.text(report);
+        EXPECT_TRUE(contains(text, row.said)) << text;
+        EXPECT_TRUE(contains(text, row.fact)) << text;
+        EXPECT_TRUE(contains(text, "P0301")) << text; // a piece that fails voids nothing
+    }
+}
+
+TEST(sheet, keeps_what_was_read_before_an_end) {
+    one_unit car;
+    for (const char* request : {"07", "0A", "0120"})
+        car.door.replies[request] = nullptr;
+    car.door.replies["020200"] = car.door.replies["0900"] = car.door.replies["0600"] = nullptr;
+    const car_report silent = car.read();
+    EXPECT_EQ(silent.heard.end, reading_end::adapter_silent);
+    EXPECT_TRUE(contains(car.text(silent), "The adapter fell silent"));
+    EXPECT_TRUE(contains(car.text(silent), "P0301"));
+    EXPECT_FALSE(contains(car.text(silent), "Permanent codes: none"));
+
+    one_unit other;
+    std::size_t asked = 0;
+    other.reader.progress = [&](topic, std::size_t, std::size_t) {
+        if (++asked == 8)
+            other.reader.cancel();
+    };
+    const car_report cancelled = other.read();
+    EXPECT_EQ(cancelled.heard.end, reading_end::cancelled);
+    EXPECT_EQ(cancelled.heard.pieces.size(), 7U);
+    EXPECT_TRUE(contains(other.text(cancelled), "not asked"));
+}
+
+TEST(sheet, shows_markup_of_an_adapter_as_text) {
+    one_unit car;
+    car.door.replies["ATI"] = "<script>alert(1)</script> \"&'";
+    const report_sheet sheet = sheet_of(car.read(), car.resources);
+    for (const std::string& html : {sheet_html(sheet), sheet_rich_text(sheet)}) {
+        EXPECT_FALSE(contains(html, "<script"));
+        EXPECT_TRUE(contains(html, "&lt;script"));
+        EXPECT_TRUE(contains(html, "&quot;&amp;&#39;"));
+    }
+}
+
+TEST(sheet, compares_only_what_both_reports_tell) {
+    one_unit before, after;
+    before.door.replies["07"] = "7E8 04 47 01 04 20";
+    before.door.replies["0A"] = "7E8 04 4A 01 20 02";
+    after.door.replies["03"] = "7E8 02 43 00";
+    after.door.replies["07"] = "7E8 03 7F 07 11";
+    after.door.replies["0A"] = before.door.replies["0A"];
+    const std::string text =
+        sheet_text(comparison_of(before.read(), after.read(), before.resources));
+    const auto row = [&](const char* code) {
+        const std::size_t at = text.find(code);
+        return at == text.npos ? std::string() : text.substr(at, text.find('\n', at) - at);
+    };
+    EXPECT_TRUE(row("P0301").ends_with("–")) << text;
+    EXPECT_TRUE(row("P0420").ends_with("not told")) << text;
+    EXPECT_EQ(row("P2002"), "");
+}
+
+} // namespace

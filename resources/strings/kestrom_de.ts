@@ -324,7 +324,7 @@ Die Namen der Prüfungen sind englisch.</translation>
     </message>
     <message id="ui_fast_no_use">
         <source></source>
-        <translation>Der Bus dieses Autos antwortet nicht schneller, als er schon gefragt wird.</translation>
+        <translation>Dieses Auto antwortet nicht schneller, als es schon gefragt wird.</translation>
     </message>
     <message id="ui_fast_rate">
         <source></source>

@@ -323,7 +323,7 @@ N/A: this car does not have this monitor</translation>
     </message>
     <message id="ui_fast_no_use">
         <source></source>
-        <translation>This car’s bus answers no faster than it is asked already.</translation>
+        <translation>This car answers no faster than it is asked already.</translation>
     </message>
     <message id="ui_fast_rate">
         <source></source>

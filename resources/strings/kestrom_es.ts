@@ -324,7 +324,7 @@ Los nombres de los monitores están en inglés.</translation>
     </message>
     <message id="ui_fast_no_use">
         <source></source>
-        <translation>El bus de este coche no responde más deprisa de lo que ya se le pregunta.</translation>
+        <translation>Este coche no responde más deprisa de lo que ya se le pregunta.</translation>
     </message>
     <message id="ui_fast_rate">
         <source></source>

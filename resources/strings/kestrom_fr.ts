@@ -324,7 +324,7 @@ Les noms des moniteurs sont en anglais.</translation>
     </message>
     <message id="ui_fast_no_use">
         <source></source>
-        <translation>Le bus de cette voiture ne répond pas plus vite qu’il n’est déjà interrogé.</translation>
+        <translation>Cette voiture ne répond pas plus vite qu’elle n’est déjà interrogée.</translation>
     </message>
     <message id="ui_fast_rate">
         <source></source>

@@ -212,6 +212,12 @@ bool actions::takes_time_out(const std::string& text) {
     return true;
 }
 
+void actions::another_car() {
+    car_parameters_.reset();
+    fast_helps_ = true;
+    show_fast();
+}
+
 void actions::show_parameters(const std::vector<std::string>&) {
     rework_gui_objects(g_cur_task);
 }
@@ -297,7 +303,7 @@ void actions::fast_sampling_told(bool given_up) {
 void actions::choose_fast() {
     const user_defaults& defaults = KS_delegate.doors().defaults;
     const int most = defaults.integer(MOST_A_SECOND_KEY);
-    const bool fast = defaults.boolean(FAST_KEY) && may_be_faster();
+    const bool fast = defaults.boolean(FAST_KEY) && fast_helps_;
     sampling_.sample_fast(fast ? std::optional(most == 0 ? MOST_A_SECOND : std::max(most, 0))
                                : std::nullopt);
     fast_level_.reset();
@@ -306,17 +312,14 @@ void actions::choose_fast() {
     show_fast();
 }
 
-// Between two messages a K line rests as long as the adapter would wait (ISO 9141-2, ISO 14230-2).
-bool actions::may_be_faster() {
-    const std::string_view protocol = g_cur_protocol;
-    return protocol.find("9141") == std::string_view::npos &&
-           protocol.find("14230") == std::string_view::npos;
+void actions::fast_sampling_is_no_use() {
+    fast_helps_ = false;
+    show_fast();
 }
 
 void actions::show_fast() {
-    const bool helps = may_be_faster();
-    view_->show_fast(KS_delegate.doors().defaults.boolean(FAST_KEY), helps,
-                     helps ? "ui_fast_hint" : "ui_fast_no_use");
+    view_->show_fast(KS_delegate.doors().defaults.boolean(FAST_KEY), fast_helps_,
+                     fast_helps_ ? "ui_fast_hint" : "ui_fast_no_use");
     if (!running())
         view_->show_rate({});
 }

@@ -99,7 +99,6 @@ class actions final : public obd_screen, private sampling_listener {
     void describe_pictures();
     void follow_the_chart(bool yes);
     void choose_fast();
-    static bool may_be_faster();
     void show_fast();
     void show_rate();
     void choose_second_dial(const std::set<int>& selected, std::size_t selected_before, int shown_before);
@@ -117,7 +116,7 @@ class actions final : public obd_screen, private sampling_listener {
     void log_failed(const std::string& why);
 
     // What the sampling loop tells.
-    void another_car() override { car_parameters_.reset(); }
+    void another_car() override;
     void show_parameters(const std::vector<std::string>& pids) override;
     void nothing_to_sample() override;
     void questions_answered() override;
@@ -126,6 +125,7 @@ class actions final : public obd_screen, private sampling_listener {
     void sample_filed(int index, double value) override;
     void cycle_filed(std::size_t row) override;
     void fast_sampling_told(bool given_up) override;
+    void fast_sampling_is_no_use() override;
 
     std::unique_ptr<live_view> view_;
     live_pictures pictures_;
@@ -143,6 +143,7 @@ class actions final : public obd_screen, private sampling_listener {
     int gauge_1_idx = 0, gauge_2_idx = -1;
     int l_prev_mode_idx = 0;
 
+    bool fast_helps_ = true; // as far as is known of this car
     std::optional<int> fast_level_;
     std::uint64_t values_counted_ = 0; // for the rate that is shown
     run_loop::milliseconds counted_at_{0};

@@ -41,6 +41,7 @@ void sampling_loop::begin_fast() {
     // A change of screen stops nothing: whatever comes next begins with the handshake, and that
     // with a reset.
     adapter_changed_ = true;
+    fast_given_up_ = false;
     connected_2_KS_interface = KS_did_connect_2_car = false;
     ask_fast();
 }
@@ -48,6 +49,8 @@ void sampling_loop::begin_fast() {
 void sampling_loop::ask_fast() {
     if (fast_->finished()) {
         plain_pause_ = fast_->pause_afterwards();
+        if (!fast_given_up_)
+            listener_.fast_sampling_is_no_use();
         put_adapter_back();
         return;
     }
@@ -106,6 +109,7 @@ void sampling_loop::take_fast_reply() {
                 file_reply(asked, one.reply, one.reply);
     if (out.ends_cycle)
         end_cycle();
+    fast_given_up_ = fast_given_up_ || out.told == fast_sampler::news::given_up;
     if (out.told != fast_sampler::news::none)
         listener_.fast_sampling_told(out.told == fast_sampler::news::given_up);
     if (out.answer_is_missing) {

@@ -38,6 +38,8 @@ class sampling_listener {
     virtual void cycle_filed(std::size_t row) = 0;
     // Replies did not fit: fast sampling goes on a level lower, or was given up.
     virtual void fast_sampling_told(bool given_up) = 0;
+    // Nothing was to be gained: the rest of the run is plain.
+    virtual void fast_sampling_is_no_use() = 0;
 
   protected:
     ~sampling_listener() = default;
@@ -152,6 +154,7 @@ class sampling_loop {
     std::optional<int> most_a_second_;
     std::unique_ptr<fast_sampler> fast_;
     bool fast_silent_ = false; // no prompt has come
+    bool fast_given_up_ = false;
     bool adapter_changed_ = false;
     std::size_t put_back_ = 0; // of the commands that do it
     run_loop::timer_id timer_ = 0; // of a pause, or of patience

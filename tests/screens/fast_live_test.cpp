@@ -1,0 +1,129 @@
+// Fast sampling on the live-data screen, over a virtual car with genuine times.
+#include "actions.h"
+#include "app_harness.h"
+#include "car_library.h"
+#include "qt_warnings.h"
+#include "virtual_car_pair.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <gtest/gtest.h>
+
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+
+class fast_run {
+  public:
+    explicit fast_run(const std::string& name, std::vector<fault> faults = {})
+        : the_car(load_car(name)), adapter(the_car, options(std::move(faults))) {
+        app.delegate->doors().make_streams = [this](const std::string&,
+                                                    long) -> std::unique_ptr<stream_pair> {
+            return std::make_unique<virtual_car_pair>(app.loop, adapter);
+        };
+        expect_warning("propagateSizeHints"); // of a view that is a window of its own
+        app.delegate->do_actions();
+        screen().view()->show();
+        app.find<QCheckBox>("fastSwitch")->click();
+    }
+    static adapter_options options(std::vector<fault> faults) {
+        adapter_options chosen;
+        chosen.faults = fault_set(std::move(faults));
+        return chosen;
+    }
+    void run(seconds span, int task = TASK_RUN_LOG) {
+        screen().choose_run(task);
+        app.press("startStopBtn");
+        app.loop.advance(span);
+    }
+    actions& screen() { return static_cast<actions&>(*app.delegate->current_screen()); }
+    // What the adapter says to a client that sets up nothing.
+    std::string says(const std::string& command) {
+        app.loop.advance(seconds(1));
+        adapter.receive(command + "\r", app.loop.now());
+        std::string text;
+        while (const auto due = adapter.next_output())
+            text += adapter.take_output(*due);
+        return text;
+    }
+
+    app_harness app;
+    car the_car;
+    virtual_adapter adapter;
+};
+
+TEST(fast_live, switch_makes_a_run_fast_tells_so_and_the_adapter_is_left_as_it_was) {
+    fast_run fast("can29");
+    fast.run(seconds(10));
+    EXPECT_EQ(fast.screen().fast_level(), 3);
+    EXPECT_GT(fast.screen().cycles(), 200u);
+    EXPECT_TRUE(fast.app.find<QLabel>("sampleRate")->text().contains(QStringLiteral("several")));
+    EXPECT_FALSE(connected_2_KS_interface);
+    const sample_rows& rows = fast.screen().samples();
+    EXPECT_TRUE(rows.text(rows.rows() - 2, 2).starts_with("410C")); // as a plain run files it
+    EXPECT_EQ(rows.text(rows.rows() - 2, 2).size(), 8u);
+
+    fast.app.press("startStopBtn");
+    EXPECT_FALSE(fast.screen().running());
+    fast.app.loop.advance(seconds(1));
+    EXPECT_FALSE(fast.screen().task_running());
+    EXPECT_TRUE(connected_2_KS_interface);
+    EXPECT_EQ(fast.says("01 51"), "41 51 01\r\r>");
+}
+
+TEST(fast_live, question_mark_to_a_try_costs_nothing) {
+    fast_run fast("can11", {parse_fault("digit_unknown")});
+    fast.run(seconds(10));
+    EXPECT_TRUE(fast.screen().running());
+    EXPECT_EQ(fast.screen().fast_level(), 2);
+    EXPECT_EQ(g_retries, 0);
+    EXPECT_TRUE(fast.app.messages.shown.empty());
+}
+
+TEST(fast_live, screen_left_in_the_middle_lets_the_next_one_begin_with_a_reset) {
+    fast_run fast("can29");
+    fast.run(seconds(5));
+    fast.app.delegate->do_read_codes();
+    fast.app.press("readCodes");
+    fast.app.loop.advance(seconds(20));
+    EXPECT_TRUE(connected_2_KS_interface);
+    EXPECT_TRUE(fast.app.last_status().starts_with("Codes read!")) << fast.app.last_status();
+    EXPECT_EQ(fast.says("01 51"), "41 51 01\r\r>");
+}
+
+TEST(fast_live, every_kind_of_run_is_faster) {
+    for (const int task : {TASK_FUEL_ECONOMY, TASK_BOOST, TASK_O2_SAMPLING}) {
+        fast_run fast("can29");
+        fast.run(seconds(10), task);
+        EXPECT_EQ(fast.screen().fast_level(), 3) << task;
+        // This car has not two of the boost run's four, and silence takes its time.
+        EXPECT_GT(fast.screen().requests_answered(), task == TASK_BOOST ? 70u : 600u) << task;
+        const sample_rows& rows = fast.screen().samples();
+        EXPECT_FALSE(std::isnan(rows.value(rows.rows() - 2, 0))) << task;
+    }
+}
+
+TEST(fast_live, where_nothing_is_gained_the_run_goes_on_plainly_and_the_switch_says_so) {
+    fast_run fast("iso9141");
+    fast.run(seconds(30));
+    EXPECT_TRUE(fast.screen().running());
+    EXPECT_EQ(fast.screen().fast_level(), 0);
+    EXPECT_TRUE(connected_2_KS_interface); // the adapter is as it was
+    EXPECT_GT(fast.screen().cycles(), 10u);
+    fast.app.press("startStopBtn");
+    EXPECT_FALSE(fast.app.find<QCheckBox>("fastSwitch")->isEnabled());
+    fast.app.loop.advance(seconds(1));
+    EXPECT_TRUE(fast.says("01 1C").starts_with("41 1C "));
+}
+
+TEST(fast_live, rate_is_capped) {
+    fast_run fast("can29", {parse_fault("first_pid_only")}); // one value a request
+    fast.app.defaults.set_integer("fast_requests_a_second", 20);
+    fast.run(seconds(5));
+    const auto before = fast.screen().requests_answered();
+    fast.app.loop.advance(seconds(10));
+    EXPECT_NEAR(double(fast.screen().requests_answered() - before), 200, 10);
+}
+
+} // namespace

@@ -43,8 +43,8 @@ TEST(fast_sampler_test, uses_what_was_proven_and_nothing_else) {
              row{"can11", {"pending=4"}, 0, ""},
              row{"iso9141", {}, 0, ""}, // the rest after a message takes as long
              row{"kwp_slow", {}, 0, ""},
-             row{"vpw", {}, 1, "010C2"},
-             row{"pwm", {}, 1, "010C1"},
+             row{"vpw", {}, 0, "010D2"},
+             row{"pwm", {}, 0, "010D1"},
          }) {
         sampled_car car({r.car, r.faults, FOUR});
         car.run(minutes(1));

@@ -131,9 +131,11 @@ fast_sampler::question fast_sampler::ask(kind what, std::string command, millise
 milliseconds fast_sampler::pause(milliseconds now) const {
     if (is_can() && most_a_second_ > 0)
         return std::max(milliseconds(0), last_request_ + milliseconds(1000 / most_a_second_) - now);
-    if (bus_ == '1' || bus_ == '2')
-        return std::max(milliseconds(0), last_answer_ + J1850_PAUSE - now);
-    return milliseconds(0);
+    return std::max(milliseconds(0), last_answer_ + rest() - now);
+}
+
+milliseconds fast_sampler::rest() const {
+    return bus_ == '1' || bus_ == '2' ? J1850_PAUSE : milliseconds(0);
 }
 
 // Units that woke up or fell asleep change the number of frames.

@@ -101,6 +101,7 @@ class fast_sampler {
                  bool digit = false);
     question ask_plan(milliseconds now);
     milliseconds pause(milliseconds now) const;
+    milliseconds rest() const; // between an answer and the next request
     bool due_plain(const request& one, milliseconds now) const;
     void take_setup(std::string_view reply, outcome& out);
     void settle_bus(outcome& out);

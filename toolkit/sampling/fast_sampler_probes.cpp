@@ -157,7 +157,8 @@ void fast_sampler::digit_tried(request& one, const std::optional<answer>& told) 
     one.digit_times.push_back(exchange());
     if (one.digit_times.size() < TIMES_TRIED)
         return;
-    if (median(one.digit_times) + CLEARLY <= median(one.plain_times) * 19 / 20) {
+    // The rest that J1850 needs before the next request is more than the digit saves.
+    if (median(one.digit_times) + CLEARLY + rest() <= median(one.plain_times) * 19 / 20) {
         one.digit = digit_use::proven;
         one.plain_at = answered_at_; // so recently
     } else {

@@ -3,6 +3,7 @@
 #include "car_status.h"
 #include "codes_view.h"
 #include "globalVars.h"
+#include "reading.h"
 #include "readCodes.h"
 #include "system_log.h"
 #include "text.h"
@@ -130,6 +131,7 @@ void readCodes::status_answered() {
 
 void readCodes::decode_status() {
     const car_status status = read_status(odb_curReplyMsg);
+    status_reply_ = without(odb_curReplyMsg, " ");
     status_told_ = status.told;
     count_known_ = status.told && status.all_read;
     status_bus_ = status.bus;
@@ -155,6 +157,10 @@ std::vector<std::string> readCodes::work_reply_to_error_codes_pid(std::string_vi
     // Old cars put it so that nothing is stored; not those that have just counted codes.
     if (read.no_data && (!status_told_ || no_of_codes > 0))
         read.unread.push_back({unread_kind::no_answer, {}});
+    // A unit that tells its status only now was cut off by the adapter, and may have been so again.
+    for (const ecu_answer& late : read_reply("0101", this_reply).answers)
+        if (!contains(status_reply_, late.data))
+            read.unread.push_back({unread_kind::no_answer, {}});
     std::ranges::move(read.unread, std::back_inserter(unread_));
     return std::move(read.codes);
 }

@@ -316,7 +316,7 @@ Die Namen der Prüfungen sind englisch.</translation>
     </message>
     <message id="ui_fast">
         <source></source>
-        <translation>Sc&amp;hnell</translation>
+        <translation>Schnell</translation>
     </message>
     <message id="ui_fast_hint">
         <source></source>
@@ -775,7 +775,7 @@ Freie Software unter der MIT-Lizenz.
     </message>
     <message id="ui_more_button">
         <source></source>
-        <translation>Weitere Messwerte …</translation>
+        <translation>Weitere …</translation>
     </message>
     <message id="ui_more_hint">
         <source></source>
@@ -1327,7 +1327,7 @@ Freie Software unter der MIT-Lizenz.
     </message>
     <message id="ui_rail_report">
         <source></source>
-        <translation>&amp;Bericht</translation>
+        <translation>Bericht</translation>
     </message>
     <message id="ui_report_title">
         <source></source>

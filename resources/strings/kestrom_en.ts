@@ -315,7 +315,7 @@ N/A: this car does not have this monitor</translation>
     </message>
     <message id="ui_fast">
         <source></source>
-        <translation>F&amp;ast</translation>
+        <translation>Fast</translation>
     </message>
     <message id="ui_fast_hint">
         <source></source>
@@ -1326,7 +1326,7 @@ Free software under the MIT licence.
     </message>
     <message id="ui_rail_report">
         <source></source>
-        <translation>&amp;Report</translation>
+        <translation>Report</translation>
     </message>
     <message id="ui_report_title">
         <source></source>

@@ -316,7 +316,7 @@ Los nombres de los monitores están en inglés.</translation>
     </message>
     <message id="ui_fast">
         <source></source>
-        <translation>&amp;Rápido</translation>
+        <translation>Rápido</translation>
     </message>
     <message id="ui_fast_hint">
         <source></source>
@@ -1327,7 +1327,7 @@ Software libre con licencia MIT.
     </message>
     <message id="ui_rail_report">
         <source></source>
-        <translation>In&amp;forme</translation>
+        <translation>Informe</translation>
     </message>
     <message id="ui_report_title">
         <source></source>

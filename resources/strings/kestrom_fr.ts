@@ -316,7 +316,7 @@ Les noms des moniteurs sont en anglais.</translation>
     </message>
     <message id="ui_fast">
         <source></source>
-        <translation>R&amp;apide</translation>
+        <translation>Rapide</translation>
     </message>
     <message id="ui_fast_hint">
         <source></source>
@@ -775,7 +775,7 @@ Logiciel libre sous licence MIT.
     </message>
     <message id="ui_more_button">
         <source></source>
-        <translation>Autres paramètres…</translation>
+        <translation>Autres…</translation>
     </message>
     <message id="ui_more_hint">
         <source></source>
@@ -1327,7 +1327,7 @@ Logiciel libre sous licence MIT.
     </message>
     <message id="ui_rail_report">
         <source></source>
-        <translation>&amp;Rapport</translation>
+        <translation>Rapport</translation>
     </message>
     <message id="ui_report_title">
         <source></source>

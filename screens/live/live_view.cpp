@@ -23,6 +23,7 @@
 
 namespace {
 
+constexpr int ROOM_FOR_RATE = 1100; // below, the words of the row need it
 constexpr int ZOOM_STEPS = 1000;
 constexpr int BUTTON_SIZE = 6 * GRID;
 constexpr double CELL_SHARE = 0.25; // of the large chart's width
@@ -267,7 +268,7 @@ void live_view::show_fast(bool on, bool enabled, std::string_view hint_key) {
 }
 
 void live_view::show_rate(const QString& rate) {
-    rate_->setText(rate);
+    rate_->setText(root()->width() >= ROOM_FOR_RATE ? rate : QString());
 }
 
 void live_view::reset_zoom() {

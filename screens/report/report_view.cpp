@@ -44,9 +44,6 @@ report_view::report_view(Ks_lite_delegate& delegate, const mac_toolies& toolies)
 
     auto* row = new QHBoxLayout;
     row->setSpacing(GRID);
-    hide_vin_ = new QCheckBox(ui_text(delegate, "ui_report_hide_vin"), root_.get());
-    hide_vin_->setObjectName(QStringLiteral("hideVin"));
-    hide_vin_->setToolTip(ui_text(delegate, "ui_report_hide_vin_hint"));
     save_ = add_button("saveReport", "ui_report_save", [this] { save(); });
     print_ = add_button("printReport", "ui_report_print", [this] { print(); });
     copy_ = add_button("copyReport", "ui_report_copy", [this] { copy(); });
@@ -57,6 +54,9 @@ report_view::report_view(Ks_lite_delegate& delegate, const mac_toolies& toolies)
           static_cast<QWidget*>(open_saved), static_cast<QWidget*>(compare_)})
         row->addWidget(one);
     row->addStretch(1);
+    hide_vin_ = new QCheckBox(ui_text(delegate, "ui_report_hide_vin"), root_.get());
+    hide_vin_->setObjectName(QStringLiteral("hideVin"));
+    hide_vin_->setToolTip(ui_text(delegate, "ui_report_hide_vin_hint"));
     row->addWidget(hide_vin_);
     auto* offer = new QCheckBox(ui_text(delegate, "ui_report_offer"), root_.get());
     offer->setObjectName(QStringLiteral("offerReport"));

@@ -24,6 +24,7 @@ class fast_run {
         };
         expect_warning("propagateSizeHints"); // of a view that is a window of its own
         app.delegate->do_actions();
+        screen().view()->resize(1200, 720); // room for the rate
         screen().view()->show();
         app.find<QCheckBox>("fastSwitch")->click();
     }

@@ -264,11 +264,14 @@ void live_view::show_fast(bool on, bool enabled, std::string_view hint_key) {
     const QSignalBlocker quiet(fast_);
     fast_->setChecked(on);
     fast_->setEnabled(enabled);
-    fast_->setToolTip(ui_text(delegate_, hint_key));
+    fast_hint_ = ui_text(delegate_, hint_key);
+    fast_->setToolTip(fast_hint_);
 }
 
 void live_view::show_rate(const QString& rate) {
-    rate_->setText(root()->width() >= ROOM_FOR_RATE ? rate : QString());
+    const bool room = root()->width() >= ROOM_FOR_RATE;
+    rate_->setText(room ? rate : QString());
+    fast_->setToolTip(room || rate.isEmpty() ? fast_hint_ : rate + u'\n' + fast_hint_);
 }
 
 void live_view::reset_zoom() {

@@ -97,5 +97,6 @@ class live_view {
     QCheckBox* follow_chart_ = nullptr;
     QCheckBox* fast_ = nullptr;
     QLabel* rate_ = nullptr;
+    QString fast_hint_;
     QLabel* dial_hint_ = nullptr; // in the second dial's place
 };

@@ -62,47 +62,8 @@ std::string answering_server::reply_to(const std::string& command) {
     return car_.answer(std::string_view(command).substr(3, 2)) + "\r\r>";
 }
 
-answering_server::answering_server(answering_manner manner) : manner_(manner) {
-    listener_ = ::socket(AF_INET, SOCK_STREAM, 0);
-    sockaddr_in address = loopback(0);
-    ::bind(listener_, reinterpret_cast<sockaddr*>(&address), sizeof address);
-    ::listen(listener_, 1);
-    socklen_t size = sizeof address;
-    ::getsockname(listener_, reinterpret_cast<sockaddr*>(&address), &size);
-    port_ = ntohs(address.sin_port);
-    thread_ = std::thread([this] { serve(); });
-}
-
-answering_server::~answering_server() {
-    leaving_ = true;
-    ::shutdown(listener_, SHUT_RDWR);
-    if (const int client = client_; client >= 0)
-        ::shutdown(client, SHUT_RDWR);
-    thread_.join();
-    ::close(listener_);
-}
-
-double answering_server::processor_seconds() {
-    clockid_t clock{};
-    timespec spent{};
-    if (pthread_getcpuclockid(thread_.native_handle(), &clock) == 0)
-        clock_gettime(clock, &spent);
-    return static_cast<double>(spent.tv_sec) + static_cast<double>(spent.tv_nsec) * 1e-9;
-}
-
-void answering_server::serve() {
-    while (!leaving_) {
-        const int client = ::accept(listener_, nullptr, nullptr);
-        if (client < 0)
-            continue;
-        client_ = client;
-        const int no_delay = manner_.pieces == 1 ? 1 : 0;
-        ::setsockopt(client, IPPROTO_TCP, TCP_NODELAY, &no_delay, sizeof no_delay);
-        answer(client);
-        client_ = -1;
-        ::close(client);
-    }
-}
+answering_server::answering_server(answering_manner manner)
+    : manner_(manner), server_(manner.pieces == 1, [this](int client) { answer(client); }) {}
 
 void answering_server::answer(int client) {
     std::string command;

@@ -3,12 +3,11 @@
 #pragma once
 
 #include "drive_cycle.h"
+#include "loopback_server.h"
 
-#include <atomic>
 #include <chrono>
 #include <string>
 #include <string_view>
-#include <thread>
 
 // What a car on its drive answers to the four parameters of a run, one sample every 20 ms, in the
 // order asked.
@@ -32,27 +31,19 @@ struct answering_manner {
 class answering_server {
   public:
     explicit answering_server(answering_manner manner = {});
-    ~answering_server();
-    answering_server(const answering_server&) = delete;
-    answering_server& operator=(const answering_server&) = delete;
 
-    int port() const { return port_; }
+    int port() const { return server_.port(); }
     // What the server's thread has computed so far.
-    double processor_seconds();
+    double processor_seconds() { return server_.processor_seconds(); }
 
   private:
-    void serve();
     void answer(int client);
 
     std::string reply_to(const std::string& command);
 
     answering_manner manner_;
     driving_car car_;
-    int listener_ = -1;
-    int port_ = 0;
-    std::atomic<int> client_{-1};
-    std::atomic<bool> leaving_{false};
-    std::thread thread_;
+    loopback_server server_;
 };
 
 // A client as bare as can be: writes the command, reads up to the prompt. Exchanges a second.

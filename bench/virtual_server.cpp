@@ -1,12 +1,8 @@
 #include "virtual_server.h"
 
 #include <algorithm>
-#include <arpa/inet.h>
 #include <array>
-#include <ctime>
-#include <netinet/tcp.h>
 #include <poll.h>
-#include <pthread.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -24,49 +20,8 @@ adapter_options with_baud(int baud) {
 } // namespace
 
 virtual_server::virtual_server(const std::string& car_name, int baud)
-    : car_(load_car(car_name)), adapter_(car_, with_baud(baud)) {
-    listener_ = ::socket(AF_INET, SOCK_STREAM, 0);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    ::bind(listener_, reinterpret_cast<sockaddr*>(&address), sizeof address);
-    ::listen(listener_, 1);
-    socklen_t size = sizeof address;
-    ::getsockname(listener_, reinterpret_cast<sockaddr*>(&address), &size);
-    port_ = ntohs(address.sin_port);
-    thread_ = std::thread([this] { serve(); });
-}
-
-virtual_server::~virtual_server() {
-    leaving_ = true;
-    ::shutdown(listener_, SHUT_RDWR);
-    if (const int client = client_; client >= 0)
-        ::shutdown(client, SHUT_RDWR);
-    thread_.join();
-    ::close(listener_);
-}
-
-double virtual_server::processor_seconds() {
-    clockid_t clock{};
-    timespec spent{};
-    if (pthread_getcpuclockid(thread_.native_handle(), &clock) == 0)
-        clock_gettime(clock, &spent);
-    return static_cast<double>(spent.tv_sec) + static_cast<double>(spent.tv_nsec) * 1e-9;
-}
-
-void virtual_server::serve() {
-    while (!leaving_) {
-        const int client = ::accept(listener_, nullptr, nullptr);
-        if (client < 0)
-            continue;
-        client_ = client;
-        const int on = 1;
-        ::setsockopt(client, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
-        talk(client);
-        client_ = -1;
-        ::close(client);
-    }
-}
+    : car_(load_car(car_name)), adapter_(car_, with_baud(baud)),
+      server_(true, [this](int client) { talk(client); }) {}
 
 void virtual_server::talk(int client) {
     const auto start = clock_type::now();

@@ -2,30 +2,22 @@
 #pragma once
 
 #include "car_library.h"
+#include "loopback_server.h"
 #include "virtual_adapter.h"
 
-#include <atomic>
-#include <thread>
+#include <string>
 
 class virtual_server {
   public:
     virtual_server(const std::string& car_name, int baud);
-    ~virtual_server();
-    virtual_server(const virtual_server&) = delete;
-    virtual_server& operator=(const virtual_server&) = delete;
 
-    int port() const { return port_; }
-    double processor_seconds();
+    int port() const { return server_.port(); }
+    double processor_seconds() { return server_.processor_seconds(); }
 
   private:
-    void serve();
     void talk(int client);
 
     car car_;
     virtual_adapter adapter_;
-    int listener_ = -1;
-    int port_ = 0;
-    std::atomic<int> client_{-1};
-    std::atomic<bool> leaving_{false};
-    std::thread thread_;
+    loopback_server server_;
 };

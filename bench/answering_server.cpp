@@ -6,12 +6,12 @@
 #include <arpa/inet.h>
 #include <array>
 #include <cstdio>
+#include <ctime>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <pthread.h>
 #include <string>
 #include <sys/socket.h>
-#include <ctime>
 #include <unistd.h>
 
 namespace {

@@ -23,9 +23,9 @@ class driving_car {
 };
 
 struct answering_manner {
-    int pieces = 1;                          // that a reply is written in, with Nagle's algorithm on
-    std::chrono::milliseconds between{0};    // the pieces
-    std::chrono::milliseconds before{0};     // a reply
+    int pieces = 1;                       // that a reply is written in, with Nagle's algorithm on
+    std::chrono::milliseconds between{0}; // the pieces
+    std::chrono::milliseconds before{0};  // a reply
 };
 
 class answering_server {

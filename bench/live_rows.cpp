@@ -1,4 +1,5 @@
-// kestrom-live-bench: what sampling live data costs, with the live screen shown, over a real socket.
+// kestrom-live-bench: what sampling live data costs, with the live screen shown, over a real
+// socket.
 #include "answering_server.h"
 #include "ratio_table.h"
 #include "running_program.h"
@@ -87,8 +88,7 @@ double bytes_a_sample() {
     const double before = in_use();
     const std::uint64_t samples_before = program.screen().requests_answered();
     program.requests_a_second(milliseconds(10'000));
-    const auto samples =
-        static_cast<double>(program.screen().requests_answered() - samples_before);
+    const auto samples = static_cast<double>(program.screen().requests_answered() - samples_before);
     std::printf("  %.0f samples\n", samples);
     return (in_use() - before) / samples;
 }

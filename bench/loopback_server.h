@@ -7,7 +7,8 @@
 
 class loopback_server {
   public:
-    // `talk` serves a client on the server's thread until it has gone. The last member of what it uses.
+    // `talk` serves a client on the server's thread until it has gone. The last member of what it
+    // uses.
     loopback_server(bool no_delay, std::function<void(int client)> talk);
     ~loopback_server();
     loopback_server(const loopback_server&) = delete;

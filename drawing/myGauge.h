@@ -90,6 +90,6 @@ class myGauge {
     int range_lo = 0, range_hi = 100, range_scaling = 1;
 
     double pixel_scale_ = 1;
-    QImage empty_dial_; // as loaded, at the pixel scale
+    QImage empty_dial_;   // as loaded, at the pixel scale
     cast_shadow hubs_[2]; // the hub with and without its glow, as drawn over every needle
 };

@@ -28,7 +28,8 @@ void check_codes(const car& the_car, const std::string& reply) {
         if (std::find(unit.silent_services.begin(), unit.silent_services.end(), 3) ==
             unit.silent_services.end())
             truth.insert(truth.end(), unit.stored.begin(), unit.stored.end());
-    std::vector<std::string> read = read_codes("03", reply, {bus_form::can, bus_source::headers}).codes;
+    std::vector<std::string> read =
+        read_codes("03", reply, {bus_form::can, bus_source::headers}).codes;
     std::sort(truth.begin(), truth.end());
     std::sort(read.begin(), read.end());
     REQUIRE(read == truth);

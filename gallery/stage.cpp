@@ -99,8 +99,7 @@ void stage::hide_folder(QWidget& in) {
     const QString data = app.folder.filePath(QStringLiteral("data"));
     for (QLabel* label : in.findChildren<QLabel*>())
         if (label->text().contains(data))
-            label->setText(
-                QString(label->text()).replace(data, QLatin1String(ANY_DATA)));
+            label->setText(QString(label->text()).replace(data, QLatin1String(ANY_DATA)));
 }
 
 void stage::take_picture(QWidget* dialog) {

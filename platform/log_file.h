@@ -28,7 +28,8 @@ class log_file {
 
     // Appends `lines`, whole lines with their ends, all or nothing: when they cannot be written,
     // the disk failed earlier lines or the file has been removed, the file is cut back to where it
-    // stood and closed, and the reason returned. What is appended to a closed file goes nowhere, without an error.
+    // stood and closed, and the reason returned. What is appended to a closed file goes nowhere,
+    // without an error.
     std::optional<std::string> append_line(std::string_view lines);
 
     // From now on a file into which no line came is removed when it is closed.

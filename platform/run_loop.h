@@ -23,7 +23,8 @@ class run_loop {
     // Runs `call` once, `delay` from now. Never runs it before returning.
     timer_id after(milliseconds delay, std::function<void()> call);
     // Runs `call` before returning when nothing else is being delivered, held or waiting, else as
-    // after(0) does. Only for the event loop's own slots, which no operation of the program is below.
+    // after(0) does. Only for the event loop's own slots, which no operation of the program is
+    // below.
     void from_event_loop(std::function<void()> call);
     // Takes back a call that has not run yet; an unknown or finished id is ignored.
     void cancel(timer_id id);

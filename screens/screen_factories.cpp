@@ -17,10 +17,8 @@ std::unique_ptr<screen_controller> make(Ks_lite_delegate& delegate) {
 
 screen_factories all_screens() {
     return {
-        {READ_CODES_VIEW, make<readCodes>},
-        {ACTIONS_VIEW, make<actions>},
-        {PREFS_VIEW, make<prefs>},
-        {EXPERT_VIEW, make<expertCtrlr>},
+        {READ_CODES_VIEW, make<readCodes>}, {ACTIONS_VIEW, make<actions>},
+        {PREFS_VIEW, make<prefs>},          {EXPERT_VIEW, make<expertCtrlr>},
         {REPORT_VIEW, make<report_screen>},
     };
 }

@@ -67,7 +67,8 @@ struct control_unit {
     std::string short_name; // makes service 09 type 0A of two parts: "ECM", "Engine"
     std::vector<test_result> tests;
     std::vector<int> silent_services; // services it never answers, as some old units
-    // By the digits of the request: what it says instead of all that the rest of its data makes it say.
+    // By the digits of the request: what it says instead of all that the rest of its data makes it
+    // say.
     std::map<std::string, std::vector<byte_string>> answers;
     std::map<std::string, int> later; // seconds in which it only says that the answer will come
     int delay_ms = 0;                 // more than a unit usually takes

@@ -4,7 +4,6 @@
 
 #include <QRegularExpression>
 
-
 namespace {
 
 using kind = json_value::kind;

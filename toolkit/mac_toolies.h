@@ -1,10 +1,11 @@
-// The decoding toolkit: turns adapter replies into bytes, values and display text. It keeps no state of its
-// own; one shared instance exists (sharedManager) and some screens create one for themselves. The doors it
-// looks through (resources, settings, message boxes, notifications) are handed to it and outlive it.
+// The decoding toolkit: turns adapter replies into bytes, values and display text. It keeps no
+// state of its own; one shared instance exists (sharedManager) and some screens create one for
+// themselves. The doors it looks through (resources, settings, message boxes, notifications) are
+// handed to it and outlive it.
 //
-// Replies are text. The adapter ends lines with "\r", may add line feeds, may print a search notice ending in
-// "..." before the first line and ends every reply with ">". Marks in answers: "~" unusable reply, "N/A" missing
-// table entry or unit, "NOT FOUND" unknown PID name.
+// Replies are text. The adapter ends lines with "\r", may add line feeds, may print a search notice
+// ending in "..." before the first line, and ends every reply with ">". Marks in answers: "~"
+// unusable reply, "N/A" missing table entry or unit, "NOT FOUND" unknown PID name.
 #pragma once
 
 #include "data_folder.h"
@@ -64,7 +65,7 @@ class mac_toolies {
     static void initialize(const toolkit_doors& doors);
     static mac_toolies& sharedManager();
 
-    // --- reply_text.cpp: normalising, hex, splitting, padding -------------------------------------------
+    // --- reply_text.cpp: normalising, hex, splitting, padding
     static std::string clean_a_reply(std::string_view reply);
     // The reply from its first "..." on, the dots included; unchanged without one.
     static std::string fix_3dots(std::string_view reply);
@@ -74,59 +75,62 @@ class mac_toolies {
     static int charToNibble(char c); // 0 for anything but a hex digit
     // Nothing for text of odd length.
     static std::optional<std::vector<std::uint8_t>> fromHexString(std::string_view text);
-    // Reads as C's "%x": leading white space, a sign and "0x" are accepted, reading stops at the first other
-    // character, no digits give 0; more than 32 bits saturate.
+    // Reads as C's "%x": leading white space, a sign and "0x" are accepted, reading stops at the
+    // first other character, no digits give 0; more than 32 bits saturate.
     static std::uint32_t convertStr2Byte(std::string_view text);
     static std::string convertByte2HexStr(unsigned value);
     // Every piece, empty ones too.
-    static std::vector<std::string> Pull_line_into_array(std::string_view text, std::string_view this_token,
-                                                         int no_of_items = 0);
+    static std::vector<std::string>
+    Pull_line_into_array(std::string_view text, std::string_view this_token, int no_of_items = 0);
     // Non-empty pieces between any of the separator characters, of the first 299 bytes.
     static int count_items_in_Str(std::string_view text, std::string_view this_token);
     static std::string myReplace(std::string_view text, std::string_view this_str,
                                  std::string_view with_this_str);
     static std::string padLeft(std::string_view text, int padded_size, std::string_view padChar);
     static std::string padRight(std::string_view text, int padded_size, std::string_view pdChar);
-    static std::string padString(std::string_view text, char this_pad_char, int this_padded_len, bool onRight);
+    static std::string padString(std::string_view text, char this_pad_char, int this_padded_len,
+                                 bool onRight);
     static std::string formatStringWithDouble(std::string_view text, int no_of_decs);
 
-    // --- message_boxes.cpp ------------------------------------------------------------------------------
+    // --- message_boxes.cpp
     void myMsgBox(std::string_view text) const;
     // True when the first button was chosen. An empty other_btn_txt: one button.
-    bool myMsgBox(std::string_view title, std::string_view this_msg, std::string_view cancel_btn_txt,
-                  std::string_view other_btn_txt) const;
+    bool myMsgBox(std::string_view title, std::string_view this_msg,
+                  std::string_view cancel_btn_txt, std::string_view other_btn_txt) const;
 
-    // --- controllers.cpp: several control units in one reply --------------------------------------------
+    // --- controllers.cpp: several control units in one reply
     static std::string pull_ECU(std::string_view line);
     static std::optional<std::string> pull_PID_msg(std::string_view line, std::string_view this_PID,
                                                    std::string_view for_this_ECU);
     static std::optional<std::vector<std::string>> Pull_ECU_msg(std::string_view reply);
     static std::string grab_CAN_msg(std::string_view reply);
 
-    // --- supported_pids.cpp -----------------------------------------------------------------------------
+    // --- supported_pids.cpp
     static void handle_00_replies(std::string_view reply, int this_pid_group);
-    static bool is_this_code_available(std::string_view mask, std::string_view this_pid, int this_pid_set);
+    static bool is_this_code_available(std::string_view mask, std::string_view this_pid,
+                                       int this_pid_set);
 
-    // --- trouble_codes.cpp ------------------------------------------------------------------------------
-    // By the bus that g_cur_protocol names, an older bus's short lines padded. What could not be read is told
-    // by read_codes (trouble_codes.h).
+    // --- trouble_codes.cpp
+    // By the bus that g_cur_protocol names, an older bus's short lines padded. What could not be
+    // read is told by read_codes (trouble_codes.h).
     static std::vector<std::string> work_reply_to_error_codes_pid(std::string_view mode,
                                                                   std::string_view this_reply);
     static std::string pull_DTC_code(std::string_view four_digits);
 
-    // --- readiness.cpp ----------------------------------------------------------------------------------
-    // Empties and refills `these_flags` from bytes B, C, D of "01 01" as hex text (SAE J1979). Throws
-    // std::out_of_range at the first missing label line; the rows built so far stay.
-    void handle_readiness_codes(std::string_view flags_text, std::vector<readiness_flag>& these_flags) const;
+    // --- readiness.cpp
+    // Empties and refills `these_flags` from bytes B, C, D of "01 01" as hex text (SAE J1979).
+    // Throws std::out_of_range at the first missing label line; the rows built so far stay.
+    void handle_readiness_codes(std::string_view flags_text,
+                                std::vector<readiness_flag>& these_flags) const;
 
-    // --- tables.cpp: shipped text tables ----------------------------------------------------------------
-    std::optional<std::vector<std::string>> get_array_from_resource(std::string_view name,
-                                                                    std::string_view this_type) const;
+    // --- tables.cpp: shipped text tables
+    std::optional<std::vector<std::string>>
+    get_array_from_resource(std::string_view name, std::string_view this_type) const;
     std::optional<text_dictionary> get_dictionary_from_resource(std::string_view name,
                                                                 std::string_view this_type,
                                                                 std::string_view this_delim) const;
 
-    // --- pid_names.cpp, catalogue.cpp: names, units and ranges of parameters ----------------------------
+    // --- pid_names.cpp, catalogue.cpp: names, units and ranges of parameters
     // A PID is hex text of any case; text that is not hex is PID 0.
     std::string get_pid_name(std::string_view pid, bool with_pid) const;
     // In the user's units; "N/A" for a PID without any.
@@ -137,54 +141,56 @@ class mac_toolies {
     // (PID E4); empty for any other PID.
     std::string encode_to_OBD(double value, std::string_view this_pid) const;
 
-    // --- translation.cpp --------------------------------------------------------------------------------
-    // The display text of a service 01 reply of any length and any bytes (SAE J1979), in the user's units;
+    // --- translation.cpp
+    // The display text of a service 01 reply of any length and any bytes (SAE J1979), in the user's
+    // units;
     // "~" when it cannot be read. Only the first line counts.
     std::string translateResponse(std::string_view reply) const;
-    // The number that the display text begins with, so rounded as it is: 0 for a text without one, NaN for
-    // an unusable reply.
+    // The number that the display text begins with, so rounded as it is: 0 for a text without one,
+    // NaN for an unusable reply.
     double get_OBDVal(std::string_view reply) const;
     // Both of the above for the cost of one.
     translated translate_once(std::string_view reply) const;
 
-    // --- mode6.cpp, vin.cpp -----------------------------------------------------------------------------
-    // A test value (hex text) scaled by its unit-and-scaling identifier, six decimals; with_units appends a
-    // blank and the unit, which may be empty (SAE J1979 service 06 on CAN).
+    // --- mode6.cpp, vin.cpp
+    // A test value (hex text) scaled by its unit-and-scaling identifier, six decimals; with_units
+    // appends a blank and the unit, which may be empty (SAE J1979 service 06 on CAN).
     static std::string CAN_scale_and_units(std::string_view identifier, std::string_view this_value,
                                            bool with_units);
     // The name of a monitor or test identifier; "N/A" outside the table.
-    std::string grab_CAN_mode6_OBDMID_TESTID_description(std::string_view identifier, bool is_OBDMID) const;
+    std::string grab_CAN_mode6_OBDMID_TESTID_description(std::string_view identifier,
+                                                         bool is_OBDMID) const;
     static std::string work_out_vin(std::string_view reply);
-    // Whether what was worked out of that reply is a whole number: 17 characters of ISO 3779, out of
-    // undamaged lines and frames in their order.
+    // Whether what was worked out of that reply is a whole number: 17 characters of ISO 3779, out
+    // of undamaged lines and frames in their order.
     static bool is_whole_vin(std::string_view vin, std::string_view reply);
 
-    // --- run_logs.cpp: names of run logs ----------------------------------------------------------------
-    // The local date and time, in the order that goes with the user's units, with the user's month names and
-    // a 12-hour clock without a mark of the half of the day. Flag 0: as file names have it,
-    // "Nov_15_2026-0254_33"; 1: for display, "Nov 15 2026 02:54:33".
+    // --- run_logs.cpp: names of run logs
+    // The local date and time, in the order that goes with the user's units, with the user's month
+    // names and a 12-hour clock without a mark of the half of the day. Flag 0: as file names have
+    // it, "Nov_15_2026-0254_33"; 1: for display, "Nov 15 2026 02:54:33".
     std::string get_todays_date(int flag) const;
     // "loggies" in the data folder; it may not exist yet.
     std::string log_folder() const;
     // Makes the log folder where there is nothing yet; why it cannot be made, else empty.
     std::string make_log_folder() const;
-    // The path, without extension, of a log that a run of the task would begin now. Creates the log folder
-    // when there is none; a failure is logged and the path returned all the same.
+    // The path, without extension, of a log that a run of the task would begin now. Creates the log
+    // folder when there is none; a failure is logged and the path returned all the same.
     std::string work_out_log_fname_for_mode(int task) const;
     // The logs in the log folder, newest first; neither exports nor what else lies there.
     std::vector<logged_run> list_logs() const;
-    // Removes a file of the log folder. False, with a warning in the log, when that fails or the text is not
-    // the plain name of a file.
+    // Removes a file of the log folder. False, with a warning in the log, when that fails or the
+    // text is not the plain name of a file.
     bool delete_a_log(std::string_view file_name) const;
 
-    // --- export.cpp -------------------------------------------------------------------------------------
-    // Writes a log of the log folder, given without folder, as a table of translated values beside it
-    // (log_export.h). True when at least one line of it was read. An export that is there already is kept and
-    // a message box says so; an output that cannot be written is logged; of a log that is missing or has no
-    // line an empty output is left.
+    // --- export.cpp
+    // Writes a log of the log folder, given without folder, as a table of translated values beside
+    // it (log_export.h). True when at least one line of it was read. An export that is there
+    // already is kept and a message box says so; an output that cannot be written is logged; of a
+    // log that is missing or has no line an empty output is left.
     bool export_to_CSV(std::string_view log_file_name, bool as_txt) const;
 
-    // --- canned_adapter.cpp -----------------------------------------------------------------------------
+    // --- canned_adapter.cpp
     // Posts the canned answer to `command` as "OBDevent" before it returns.
     void emulate_OBD(std::string_view command) const;
 
@@ -197,6 +203,7 @@ class mac_toolies {
     std::string_view table_text(std::string_view table, std::uint32_t code) const;
 
     toolkit_doors doors_;
-    // Line tables that translation has asked for; what the program ships with does not change under it.
+    // Line tables that translation has asked for; what the program ships with does not change under
+    // it.
     mutable std::map<std::string, std::vector<std::string>, std::less<>> line_tables_;
 };

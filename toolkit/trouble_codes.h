@@ -19,8 +19,8 @@ struct codes_reading {
     unread_pieces unread;
 };
 
-// `service`: two digits. `known`: what tells the bus beside the reply itself. `announced`: the number
-// of codes where the car has told it, which decides when nothing else tells the bus.
+// `service`: two digits. `known`: what tells the bus beside the reply itself. `announced`: the
+// number of codes where the car has told it, which decides when nothing else tells the bus.
 codes_reading read_codes(std::string_view service, std::string_view reply, bus_evidence known,
                          std::optional<int> announced = std::nullopt,
                          half_codes halves = half_codes::left_unread);

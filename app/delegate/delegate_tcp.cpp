@@ -110,7 +110,7 @@ void Ks_lite_delegate::bytes_available() {
 
 void Ks_lite_delegate::sendOBDcmd_TCP(std::string_view command) {
     if (!openTCP_socky())
-        return; // dropped; the open event starts the screen's work again
+        return;                         // dropped; the open event starts the screen's work again
     doors_.loop.cancel(deferred_call_); // the screen has begun by itself
     deferred_call_ = 0;
     ledger_.command_left(doors_.loop.now());

@@ -45,8 +45,8 @@ void tcp_stream_pair::connected() {
 }
 
 // Some adapters write a reply in pieces with Nagle's algorithm on; a delayed acknowledgement would
-// then cost 40 ms a request. The kernel drops the option now and then, so it is set again after each
-// read that no command follows; a command takes the acknowledgement with it.
+// then cost 40 ms a request. The kernel drops the option now and then, so it is set again after
+// each read that no command follows; a command takes the acknowledgement with it.
 void tcp_stream_pair::acknowledge_at_once() {
     const int on = 1;
     ::setsockopt(static_cast<int>(socket_.socketDescriptor()), IPPROTO_TCP, TCP_QUICKACK, &on,

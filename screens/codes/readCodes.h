@@ -91,9 +91,9 @@ class readCodes final : public obd_screen {
     int no_of_codes = 0;
 
     int units_answered_ = 0;
-    std::string status_reply_; // without blanks
-    bool status_told_ = false; // a unit answered "01 01" in this task
-    bool count_known_ = false; // and so did all others, as far as one can tell
+    std::string status_reply_;                // without blanks
+    bool status_told_ = false;                // a unit answered "01 01" in this task
+    bool count_known_ = false;                // and so did all others, as far as one can tell
     bus_form status_bus_ = bus_form::unknown; // by its headers
     unread_pieces unread_;                    // of this task's replies
     bool codes_told_ = false;

@@ -27,7 +27,8 @@ namespace {
 constexpr int ECHO_POINT_SIZE = 14;
 constexpr int TRANSCRIPT_CHARACTERS = 4'000'000;
 constexpr int TRANSCRIPT_LINES = 20'000; // a monitored bus must not eat the memory
-// Qt lays out a line anew for each piece that it gets: a flood without line ends is broken into such.
+// Qt lays out a line anew for each piece that it gets: a flood without line ends is broken into
+// such.
 constexpr int LONGEST_LINE = 4'000;
 
 // Blue that can be read on the ground it stands on.

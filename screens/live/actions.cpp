@@ -35,7 +35,8 @@ std::string title_of_last(int points) {
 actions::actions(Ks_lite_delegate& delegate)
     : obd_screen(delegate), pictures_(toolies, delegate.doors().resources),
       frames_(delegate.doors().loop, [this] { draw_frame(); }), handshake_(*this),
-      sampling_(*this, handshake_, *this), log_([this](const std::string& why) { log_failed(why); }) {
+      sampling_(*this, handshake_, *this),
+      log_([this](const std::string& why) { log_failed(why); }) {
     view_ = std::make_unique<live_view>(delegate,
                                         block_units{live_pictures::chart_size(), DIAL_SIZE, 83});
     use_status_line(view_->statusLbl());
@@ -107,7 +108,8 @@ void actions::rework_gui_objects(int mode) {
     if (mode == TASK_BOOST)
         g_cur_barom_press = STANDARD_BAROMETER;
     build_views(parameters.value_or(pids()));
-    view_->show_next_sensors(mode == TASK_O2_SAMPLING && running() && pids().size() > SENSORS_A_PAGE);
+    const bool more = pids().size() > SENSORS_A_PAGE;
+    view_->show_next_sensors(mode == TASK_O2_SAMPLING && running() && more);
 }
 
 void actions::build_views(const std::vector<std::string>& pids) {
@@ -332,13 +334,11 @@ void actions::show_rate() {
         return;
     const auto values = static_cast<double>(requests_answered() - values_counted_);
     if (counted_at_.count() > 0) {
-        QString text = display_text(localized("ui_fast_rate"))
-                           .arg(values * 1000 / static_cast<double>((now - counted_at_).count()), 0,
-                                'f', 0);
+        const double rate = values * 1000 / static_cast<double>((now - counted_at_).count());
+        QString text = display_text(localized("ui_fast_rate")).arg(rate, 0, 'f', 0);
+        const std::string level = "ui_fast_level_" + std::to_string(fast_level_.value_or(0));
         if (sampling_.fast_most())
-            text += QLatin1Char('\n') +
-                    display_text(localized("ui_fast_level_" + std::to_string(
-                                                                  fast_level_.value_or(0))));
+            text += QLatin1Char('\n') + display_text(localized(level));
         view_->show_rate(text);
     }
     values_counted_ = requests_answered();

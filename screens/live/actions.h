@@ -2,10 +2,10 @@
 // watches the run's parameters as thumbnails, one large chart and up to two dials, while the
 // sampling loop asks the car for one after the other without pause.
 //
-// Files: actions the screen: set-up, selection, start and stop; sampling_loop what is asked and filed;
-// run_logger the log; live_runs what the kinds of run differ in; live_handshake the way to the car;
-// live_view the widgets; live_pictures what they show. Pictures and status line follow with the next
-// paced frame.
+// Files: actions the screen: set-up, selection, start and stop; sampling_loop what is asked and
+// filed; run_logger the log; live_runs what the kinds of run differ in; live_handshake the way to
+// the car; live_view the widgets; live_pictures what they show. Pictures and status line follow
+// with the next paced frame.
 #pragma once
 
 #include "frame_pacer.h"
@@ -64,8 +64,8 @@ class actions final : public obd_screen, private sampling_listener {
     bool running() const { return sampling_.running(); }
     // A run waits for the adapter or for the link to it.
     bool awaits_adapter() const {
-        return running() && (awaits_owed_reply() || sampling_.pausing() ||
-                             KS_delegate.anything_outstanding());
+        return running() &&
+               (awaits_owed_reply() || sampling_.pausing() || KS_delegate.anything_outstanding());
     }
     const std::vector<std::string>& pids() const { return sampling_.pids(); }
     // Of the run: what was answered since its first cycle began.
@@ -74,7 +74,9 @@ class actions final : public obd_screen, private sampling_listener {
     // As fast_sampler::level(), kept beyond the end of the run; nothing in a plain one.
     std::optional<int> fast_level() const { return fast_level_; }
     // A fast run is over, and the adapter is being put back.
-    bool puts_adapter_back() const { return !running() && task_running() && sampling_.adapter_changed(); }
+    bool puts_adapter_back() const {
+        return !running() && task_running() && sampling_.adapter_changed();
+    }
     // The samples of the run; the last row is being filled.
     sample_rows& samples() { return sampling_.samples(); }
     // The log of the run; empty when there is none.
@@ -101,7 +103,8 @@ class actions final : public obd_screen, private sampling_listener {
     void choose_fast();
     void show_fast();
     void show_rate();
-    void choose_second_dial(const std::set<int>& selected, std::size_t selected_before, int shown_before);
+    void choose_second_dial(const std::set<int>& selected, std::size_t selected_before,
+                            int shown_before);
     void draw_frame();
     void show_status_now_and_then();
 

@@ -39,8 +39,8 @@ void frame_pacer::draw_frame() {
     drawing_ = false;
     const auto ended = loop_.fine_now();
     const auto took = ended - begun;
-    const auto wait = std::max(WAIT_AFTER_FRAME * took,
-                               std::min(QUIET_AFTER_FRAME * took, LONGEST_QUIET));
+    const auto wait =
+        std::max(WAIT_AFTER_FRAME * took, std::min(QUIET_AFTER_FRAME * took, LONGEST_QUIET));
     next_frame_ = std::max(begun + SHORTEST_INTERVAL, ended + wait);
     if (requested_while_drawing_)
         request();

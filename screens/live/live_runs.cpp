@@ -42,7 +42,8 @@ class log_run final : public live_run {
             if (std::ranges::find(chosen, pid) == chosen.end())
                 chosen.push_back(pid);
         // What a hand wrote into the settings file need not be parameters.
-        std::erase_if(chosen, [](const std::string& pid) { return pid.size() != 2 || !is_hex(pid); });
+        std::erase_if(chosen,
+                      [](const std::string& pid) { return pid.size() != 2 || !is_hex(pid); });
         return chosen;
     }
 };
@@ -146,8 +147,7 @@ class oxygen_run final : public live_run {
 
 } // namespace
 
-std::vector<sample_request>
-live_run::requests(const std::vector<std::string>& parameters) const {
+std::vector<sample_request> live_run::requests(const std::vector<std::string>& parameters) const {
     std::vector<sample_request> all;
     for (const std::string& pid : parameters)
         all.push_back({pid, static_cast<int>(all.size())});

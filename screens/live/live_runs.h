@@ -30,7 +30,8 @@ class live_run {
 
     // The parameters shown, two-digit hex text each. Nothing: whatever the last answer to
     // first_question() named, or the list as it was.
-    virtual std::optional<std::vector<std::string>> parameters(const user_defaults& store) const = 0;
+    virtual std::optional<std::vector<std::string>>
+    parameters(const user_defaults& store) const = 0;
 
     // No: it ends with its questions.
     virtual bool samples() const { return true; }
@@ -40,11 +41,12 @@ class live_run {
     virtual void whole_reply_came(std::string_view reply) { (void)reply; }
     // The answer, without blanks. May bring another question, or the parameters to show.
     virtual void first_question_answered(std::string_view reply) { (void)reply; }
-    virtual std::optional<std::vector<std::string>> parameters_found() const { return std::nullopt; }
+    virtual std::optional<std::vector<std::string>> parameters_found() const {
+        return std::nullopt;
+    }
 
     // The requests of one cycle.
-    virtual std::vector<sample_request>
-    requests(const std::vector<std::string>& parameters) const;
+    virtual std::vector<sample_request> requests(const std::vector<std::string>& parameters) const;
     // What is filed for a usable or unusable answer to a request.
     virtual std::string reply_to_file(const sample_request& asked, const std::string& reply) {
         (void)asked;

@@ -43,7 +43,7 @@ class live_view {
     std::function<void(double)> on_zoom; // 0 to 1
     std::function<void(bool)> on_follow_chart;
     std::function<void(bool)> on_fast;
-    std::function<void()> on_resized;    // pictures are shown at another size
+    std::function<void()> on_resized; // pictures are shown at another size
 
     void show_running(bool running);
     void show_waity(bool visible);

@@ -156,7 +156,7 @@ class sampling_loop {
     bool fast_silent_ = false; // no prompt has come
     bool fast_given_up_ = false;
     bool adapter_changed_ = false;
-    std::size_t put_back_ = 0; // of the commands that do it
+    std::size_t put_back_ = 0;     // of the commands that do it
     run_loop::timer_id timer_ = 0; // of a pause, or of patience
     bool pausing_ = false;
     run_loop::milliseconds plain_pause_{0}; // of a car that complained

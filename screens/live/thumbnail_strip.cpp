@@ -221,8 +221,8 @@ void thumbnail_strip::paintEvent(QPaintEvent* event) {
             painter.drawImage(place, picture); // has its ground
         if (selected_.contains(cell)) {
             painter.setPen(QPen(palette().color(QPalette::Highlight), FRAME));
-            painter.drawRect(QRectF(place).adjusted(FRAME / 2.0, FRAME / 2.0, -FRAME / 2.0,
-                                                    -FRAME / 2.0));
+            painter.drawRect(
+                QRectF(place).adjusted(FRAME / 2.0, FRAME / 2.0, -FRAME / 2.0, -FRAME / 2.0));
         }
         if (hasFocus() && cell == current_) {
             painter.setPen(QPen(Qt::white, 1, Qt::DotLine));

@@ -201,8 +201,7 @@ void adapter_handshake::protocol_answered() {
         g_cur_protocol = std::string_view(reply);
     }
     const bool rejected = contains(reply, REPLY_REJECTED);
-    if (contains(reply, "AUTO") ||
-        (!rejected && ++fixed_protocols_told_ > MOST_FIXED_PROTOCOLS)) {
+    if (contains(reply, "AUTO") || (!rejected && ++fixed_protocols_told_ > MOST_FIXED_PROTOCOLS)) {
         send("AT H1\r", HEADERS_ON_ANSWERED);
     } else {
         odb_curReplyMsg.clear();

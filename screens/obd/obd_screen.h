@@ -44,9 +44,10 @@ class obd_screen : public screen_controller {
     std::string cur_err_msg;
 
     // Goes on when the adapter owes no reply any more, at the latest after the bound, and then
-    // `in_vain`: what comes until then is dropped. That reply must not be taken for the answer to what is sent
-    // next, and a character sent meanwhile would interrupt it.
-    void when_adapter_is_free(run_loop::milliseconds bound, std::function<void(bool in_vain)> go_on);
+    // `in_vain`: what comes until then is dropped. That reply must not be taken for the answer to
+    // what is sent next, and a character sent meanwhile would interrupt it.
+    void when_adapter_is_free(run_loop::milliseconds bound,
+                              std::function<void(bool in_vain)> go_on);
     // For the ends that say nothing and reset nothing.
     void end_task();
     // A task of this screen runs. Replies and deferred calls that meet a screen without one belong

@@ -1,4 +1,5 @@
-// Rows of a table in the clipboard: what its reader sees of them, a line each, cells parted by tabs.
+// Rows of a table in the clipboard: what its reader sees of them, a line each, cells parted by
+// tabs.
 #pragma once
 
 class QAction;

@@ -1,6 +1,6 @@
-// Shows one drawn instrument: centred at the top, as large as it fits with its aspect kept. Tells at which
-// scale the picture must be drawn to be shown pixel for pixel; a picture of another scale is
-// stretched until the next one comes.
+// Shows one drawn instrument: centred at the top, as large as it fits with its aspect kept. Tells
+// at which scale the picture must be drawn to be shown pixel for pixel; a picture of another scale
+// is stretched until the next one comes.
 #pragma once
 
 #include "spoken.h"

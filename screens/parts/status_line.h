@@ -1,6 +1,6 @@
 // The status line at the foot of every screen: plain text, elided to two lines' height with the
-// whole text in the tooltip; selectable unless it changes too fast for that. The label's text is the message itself, whatever is visible
-// of it.
+// whole text in the tooltip; selectable unless it changes too fast for that. The label's text is
+// the message itself, whatever is visible of it.
 #pragma once
 
 #include <QLabel>

@@ -1,6 +1,5 @@
-#include "command_functions.h"
-
 #include "bluez_devices.h"
+#include "command_functions.h"
 #include "commands.h"
 #include "display_text.h"
 #include "progress_line.h"

@@ -1,6 +1,5 @@
-#include "command_functions.h"
-
 #include "canvas.h"
+#include "command_functions.h"
 #include "commands.h"
 #include "drawChartyItem.h"
 #include "fixed_decimals.h"

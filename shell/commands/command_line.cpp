@@ -109,7 +109,8 @@ constexpr std::array OPTIONS = {
     row{{"--log", "", "write a run log, as the window does", "live"},
         [](cli_request& asked, text, text) { asked.log = true; }},
     row{{"--fast", "",
-         "ask for several values at once and wait no longer than needed, as far as\nadapter and car prove "
+         "ask for several values at once and wait no longer than needed, as far as\nadapter and "
+         "car prove "
          "that they can; some cars do not like it",
          "live"},
         [](cli_request& asked, text, text) { asked.fast = true; }},
@@ -175,7 +176,8 @@ constexpr std::array OPTIONS = {
          "its identification number (VIN) among it",
          "window car"},
         [](cli_request& asked, text, text value) { asked.record = value; }},
-    row{{"--screen", "codes|live|report|prefs|expert", "open the window with this screen", "window"},
+    row{{"--screen", "codes|live|report|prefs|expert", "open the window with this screen",
+         "window"},
         [](cli_request& asked, text, text value) { asked.screen = value; }},
     row{{"--screenshot", "FILE.png", "save a picture of the window and leave", "window car"},
         [](cli_request& asked, text, text value) { asked.screenshot = value; }},

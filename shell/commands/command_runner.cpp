@@ -84,8 +84,8 @@ void command_runner::end(bool succeeded, const std::string& why) {
     status_ = succeeded && !output_lost() ? 0 : 1;
     if (!succeeded && !output_lost()) {
         const bool just_read = !why.empty() && why == messages_.last_printed();
-        std::fprintf(stderr, "kestrom: %s failed%s%s\n", asked_.command.c_str(), just_read ? "" : ": ",
-                     just_read ? "" : printable(why).c_str());
+        std::fprintf(stderr, "kestrom: %s failed%s%s\n", asked_.command.c_str(),
+                     just_read ? "" : ": ", just_read ? "" : printable(why).c_str());
     }
     if (task_->puts_adapter_back())
         QTimer::singleShot(LONGEST_FAREWELL_MS, this, [this] { leave(); });

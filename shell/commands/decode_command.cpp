@@ -1,5 +1,4 @@
 #include "command_functions.h"
-
 #include "commands.h"
 #include "constantes.h"
 #include "display_text.h"

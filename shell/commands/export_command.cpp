@@ -1,5 +1,4 @@
 #include "command_functions.h"
-
 #include "commands.h"
 #include "log_export.h"
 #include "mac_toolies.h"

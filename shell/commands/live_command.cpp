@@ -1,7 +1,6 @@
-#include "command_functions.h"
-
 #include "actions.h"
 #include "car_task.h"
+#include "command_functions.h"
 #include "constantes.h"
 #include "csv_row.h"
 #include "display_text.h"

@@ -1,6 +1,5 @@
-#include "command_functions.h"
-
 #include "code_search.h"
+#include "command_functions.h"
 #include "commands.h"
 #include "mac_toolies.h"
 #include "report_printer.h"

@@ -1,7 +1,6 @@
-#include "command_functions.h"
-
 #include "actions.h"
 #include "car_task.h"
+#include "command_functions.h"
 #include "display_text.h"
 #include "Ks_lite_delegate.h"
 #include "parameters.h"

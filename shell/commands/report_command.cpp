@@ -1,7 +1,6 @@
-#include "command_functions.h"
-
 #include "bundle.h"
 #include "car_task.h"
+#include "command_functions.h"
 #include "commands.h"
 #include "Ks_lite_delegate.h"
 #include "report_json.h"

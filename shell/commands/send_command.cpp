@@ -1,6 +1,5 @@
-#include "command_functions.h"
-
 #include "car_task.h"
+#include "command_functions.h"
 #include "console_alerts.h"
 #include "display_text.h"
 #include "expertCtrlr.h"

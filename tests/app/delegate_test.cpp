@@ -6,7 +6,6 @@
 #include <QPlainTextEdit>
 
 #include <gtest/gtest.h>
-
 #include <sstream>
 
 namespace {

@@ -1,6 +1,5 @@
 // The list of Bluetooth devices against a mock of BlueZ, and what stands in its way.
 #include "bluez_devices.h"
-
 #include "bundle.h"
 #include "command_functions.h"
 #include "commands.h"

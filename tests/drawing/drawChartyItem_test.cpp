@@ -127,8 +127,7 @@ TEST_F(chart_test, axis_width_is_measured_on_the_moved_limits) {
     const label_record same{"", "", "39.000000", "15.000000"};
     EXPECT_EQ(drawChartyItem::upper_limit(moved), 40);
     EXPECT_EQ(drawChartyItem::lower_limit(moved), 0);
-    EXPECT_EQ(chart.get_width_of_axis_label(moved),
-              chart.get_width_of_axis_label(same));
+    EXPECT_EQ(chart.get_width_of_axis_label(moved), chart.get_width_of_axis_label(same));
     EXPECT_LT(chart.get_width_of_axis_label({"", "", "5", "2"}),
               chart.get_width_of_axis_label(moved));
 }

@@ -7,6 +7,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -62,7 +63,8 @@ TEST(fast_live, switch_makes_a_run_fast_tells_so_and_the_adapter_is_left_as_it_w
     EXPECT_TRUE(fast.app.find<QLabel>("sampleRate")->text().contains(QStringLiteral("several")));
     fast.screen().view()->resize(900, 600);
     fast.app.loop.advance(seconds(3));
-    EXPECT_TRUE(fast.app.find<QCheckBox>("fastSwitch")->toolTip().contains(QStringLiteral("several")))
+    EXPECT_TRUE(
+        fast.app.find<QCheckBox>("fastSwitch")->toolTip().contains(QStringLiteral("several")))
         << "without room for the rate";
     EXPECT_FALSE(connected_2_KS_interface);
     const sample_rows& rows = fast.screen().samples();

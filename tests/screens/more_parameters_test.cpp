@@ -57,7 +57,8 @@ class more_parameters_test : public testing::Test {
 };
 
 // Group after group as long as one is announced, and every unit's word counts.
-class told_by_every_car : public more_parameters_test, public testing::WithParamInterface<std::string> {};
+class told_by_every_car : public more_parameters_test,
+                          public testing::WithParamInterface<std::string> {};
 
 TEST_P(told_by_every_car, tells_of_every_unit_to_the_last_group) {
     use_car(GetParam());

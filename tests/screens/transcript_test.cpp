@@ -74,9 +74,7 @@ class transcript : public testing::TestWithParam<std::string> {
         EXPECT_EQ(app.find("reconnect")->isHidden(), text == "hidden");
     }
     // The second has passed after which the hint looks at the clock
-    void looks(const std::string&) {
-        static_cast<stall_hint*>(app.find("stallHint"))->refresh();
-    }
+    void looks(const std::string&) { static_cast<stall_hint*>(app.find("stallHint"))->refresh(); }
     void rows(const std::string& text);
     void row(const std::string& text);
     std::string told(const std::string& text) const {

@@ -209,7 +209,8 @@ void far_end::serve(scripted_serial_port& door) {
 void far_end::connect(const std::shared_ptr<client>& who) {
     client_ = who;
     expect_link_timer(FIRST_COMMAND_OR_FAREWELL);
-    // The first command may go to another adapter, which is chosen meanwhile and has no channel yet.
+    // The first command may go to another adapter, which is chosen meanwhile and has no channel
+    // yet.
     after(FIRST_COMMAND_OR_FAREWELL,
           [this] { expect_link_timer(std::chrono::seconds(g_this_delta)); });
     ++connection_;

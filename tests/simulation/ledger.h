@@ -60,12 +60,13 @@ class ledger {
     // The newest slot that asked for that parameter before the moment.
     const answer_slot* asked_for(std::string_view pid, std::uint64_t before) const;
 
-    // Calls with each slot of a command that begins so of which anything was delivered after the moment, the
-    // newest first, until one answers true.
+    // Calls with each slot of a command that begins so of which anything was delivered after the
+    // moment, the newest first, until one answers true.
     template <class call>
     bool any_answer(std::string_view command, std::uint64_t after, call fits) const {
         for (std::size_t i = slots_.size(); i-- > 0;)
-            if (slots_[i].delivered > after && slots_[i].command.starts_with(command) && fits(slots_[i]))
+            if (slots_[i].delivered > after && slots_[i].command.starts_with(command) &&
+                fits(slots_[i]))
                 return true;
         return false;
     }

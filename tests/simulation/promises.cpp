@@ -216,10 +216,12 @@ void promises::none_means_none(readCodes& screen, const codes_report& shown) {
             codes.insert(one.text);
     const answer_slot* const last = app_.book.asked("03", app_.book.moment() + 1);
     app_.story.expect(!last || last->written < task_began_ || !last->sound() ||
-                          std::ranges::all_of(last->car.codes, [&](const std::string& code) {
-                              return codes.contains(code) ||
-                                     !last->holds_digits(code_digits(code)); // cut off by the adapter
-                          }),
+                          std::ranges::all_of(last->car.codes,
+                                              [&](const std::string& code) {
+                                                  return codes.contains(code) ||
+                                                         !last->holds_digits(code_digits(
+                                                             code)); // cut off by the adapter
+                                              }),
                       NONE_MEANS_NONE, "a code that came whole is missing");
 }
 
@@ -281,10 +283,9 @@ bool promises::was_answered(const std::string& pid, const std::string& text) con
         if (const answer_slot* const before = app_.book.asked("01" + pid, asked->written))
             asked = before;
     return asked && answers_parameter(text, pid) &&
-           app_.book.any_answer("01", asked->written,
-                                [&](const answer_slot& slot) {
-                                    return slot.holds(text) || slot.tells(text.substr(2));
-                                });
+           app_.book.any_answer("01", asked->written, [&](const answer_slot& slot) {
+               return slot.holds(text) || slot.tells(text.substr(2));
+           });
 }
 
 bool promises::sample_was_sent(actions& screen, std::size_t row, std::size_t place,

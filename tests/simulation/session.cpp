@@ -25,7 +25,8 @@ const std::vector<car>& library() {
     static const std::vector<car> all = [] {
         std::vector<car> cars;
         for (const std::string& name : car_names())
-            // An adapter that was not told to wait cuts a slow unit off: nothing that a screen could know.
+            // An adapter that was not told to wait cuts a slow unit off: nothing that a screen
+            // could know.
             if (const car one = load_car(name);
                 std::ranges::none_of(one.units, [](const auto& unit) { return unit.delay_ms > 0; }))
                 cars.push_back(one);

@@ -71,8 +71,12 @@ TEST_F(shipped_tables, codes_are_searched_by_name_and_by_words) {
     const struct {
         std::string_view text;
         std::vector<std::string> codes;
-    } cases[] = {{"p0001 ", {"P0001"}},        {"OIL", {"P0001", "P0003"}}, {"level oil", {"P0003"}},
-                 {"oil pump", {}},             {"  ", {}},                  {"P0009", {}}};
+    } cases[] = {{"p0001 ", {"P0001"}},
+                 {"OIL", {"P0001", "P0003"}},
+                 {"level oil", {"P0003"}},
+                 {"oil pump", {}},
+                 {"  ", {}},
+                 {"P0009", {}}};
     for (const auto& row : cases) {
         std::vector<std::string> codes;
         for (const found_code& found : search_codes(toolies, row.text))

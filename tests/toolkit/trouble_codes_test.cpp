@@ -50,7 +50,8 @@ TEST(trouble_codes, frame_numbers_start_again_after_15) {
     std::string reply = "03\r07A\r0:433C01000100\r"; // behind an echo
     const char* const DIGITS = "0123456789ABCDEF";
     for (int frame = 1; frame <= 17; ++frame)
-        reply += std::string(1, DIGITS[frame % 16]) + (frame < 17 ? ":01000100010001\r" : ":01000100000000\r");
+        reply += std::string(1, DIGITS[frame % 16]) +
+                 (frame < 17 ? ":01000100010001\r" : ":01000100000000\r");
     const codes decoded = read_codes("03", reply + "\r>", {}).codes;
     EXPECT_EQ(decoded.size(), 60U);
     EXPECT_THAT(decoded, testing::Contains("P0100"));

@@ -18,7 +18,7 @@ enum class unread_kind {
 
 struct unread_piece {
     unread_kind kind;
-    std::string text; // as it came, in capitals without blanks; a notice as adapters print it
+    std::string text;      // as it came, in capitals without blanks; a notice as adapters print it
     std::string unit = {}; // the address of the one that refused; empty with headers off
     bool operator==(const unread_piece&) const = default;
 };

@@ -137,8 +137,8 @@ void myGauge::work_out_base_gauge() {
     const unsigned pid = mac_toolies::convertStr2Byte(cur_PID);
     const std::array<int, 3> fixed = gauge_range(pid);
     const value_range shown = parameter_range(toolies, cur_PID);
-    const dial_range range = is_told_by_standard(pid) ? dial_range_over(shown.low, shown.high)
-                                                      : dial_range{fixed[0], fixed[1], fixed[2]};
+    const dial_range range = only_standard_decodes(pid) ? dial_range_over(shown.low, shown.high)
+                                                        : dial_range{fixed[0], fixed[1], fixed[2]};
     range_lo = range.low;
     range_hi = range.high;
     range_scaling = range.scaling;

@@ -161,7 +161,7 @@ void virtual_adapter::damage(std::vector<unit_answer>& answers) {
             continue;
         if (every_nth(options_.faults, fault_kind::wrong_pid, ++values_))
             message[1] ^= 0x01;
-        if (every_nth(options_.faults, fault_kind::pending, ++put_off_))
+        if (every_nth(options_.faults, fault_kind::pending, ++deferred_))
             answer.messages.insert(answer.messages.begin(), {0x7F, 0x01, 0x78});
     }
 }

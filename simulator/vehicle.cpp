@@ -94,10 +94,10 @@ std::vector<unit_answer> vehicle::answer(const byte_string& request, std::chrono
 // How long an answer is deferred counts from its first request.
 vehicle::messages vehicle::answer_of(control_unit& unit, const byte_string& request) {
     const std::string digits = hex_text(request, false);
-    if (const auto put_off = unit.later.find(digits); put_off != unit.later.end()) {
+    if (const auto deferred = unit.later.find(digits); deferred != unit.later.end()) {
         const double first =
             asked_first_.try_emplace({unit.address, digits}, second_).first->second;
-        if (second_ < first + put_off->second)
+        if (second_ < first + deferred->second)
             return {{0x7F, request[0], ANSWER_TO_COME}};
     }
     if (const auto own = unit.answers.find(digits); own != unit.answers.end())

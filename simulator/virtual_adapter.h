@@ -111,5 +111,5 @@ class virtual_adapter final : public adapter {
     bool restarting_ = false;
     bool closing_ = false;
     long commands_ = 0; // of this connection
-    long replies_ = 0, requests_ = 0, values_ = 0, put_off_ = 0, messages_ = 0;
+    long replies_ = 0, requests_ = 0, values_ = 0, deferred_ = 0, messages_ = 0;
 };

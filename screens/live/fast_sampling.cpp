@@ -109,9 +109,9 @@ void sampling_loop::take_fast_reply() {
                 file_reply(asked, one.reply, one.reply);
     if (out.ends_cycle)
         end_cycle();
-    fast_given_up_ = fast_given_up_ || out.told == fast_sampler::news::given_up;
-    if (out.told != fast_sampler::news::none)
-        listener_.fast_sampling_told(out.told == fast_sampler::news::given_up);
+    fast_given_up_ = fast_given_up_ || out.change == fast_sampler::news::given_up;
+    if (out.change != fast_sampler::news::none)
+        listener_.fast_sampling_told(out.change == fast_sampler::news::given_up);
     if (out.answer_is_missing) {
         screen_.KS_delegate.replies().answer_is_missing();
         screen_.when_adapter_is_free(STRAGGLER_BOUND, [this](bool) { ask_fast(); });

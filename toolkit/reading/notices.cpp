@@ -18,7 +18,7 @@ constexpr notice NOTICES[] = {
     {"BUSERROR", "BUS ERROR", notice_kind::trouble},
     {"CANERROR", "CAN ERROR", notice_kind::trouble},
     {"DATAERROR", "DATA ERROR", notice_kind::trouble},
-    {"ERROR", "BUS INIT: ERROR", notice_kind::trouble}, // what is left of it
+    {"ERROR", "BUS INIT: ERROR", notice_kind::trouble}, // what remains of it
     {"FBERROR", "FB ERROR", notice_kind::trouble},
     {"LPALERT", "LP ALERT", notice_kind::trouble},
     {"LVRESET", "LV RESET", notice_kind::trouble},

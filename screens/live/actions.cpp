@@ -364,8 +364,7 @@ void actions::cellCicked() {
         pictures_.select_thumbnail(i, selected.contains(i));
     for (const int tag : selected)
         if (gauge_1_idx == -1)
-            gauge_1_idx =
-                -tag; // deliberately negated: only the first parameter moves the first dial
+            gauge_1_idx = -tag; // deliberately: only the first parameter moves the first dial
     cur_thumbs_selected = selected;
     choose_second_dial(selected, selected_before, shown_before);
     pictures_.set_large_chart(cur_pid_showing, cur_thumbs_selected);

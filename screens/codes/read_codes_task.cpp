@@ -117,7 +117,7 @@ void readCodes::status_answered() {
 }
 
 void readCodes::decode_status() {
-    const car_status status = read_status(odb_curReplyMsg);
+    const car_status status = read_status(odb_curReplyMsg, g_status_units);
     status_reply_ = without(odb_curReplyMsg, " ");
     status_told_ = status.told;
     count_known_ = status.told && status.all_read;
@@ -134,6 +134,9 @@ void readCodes::decode_status() {
     for (const unread_piece& one : status.unread)
         if (one.kind != unread_kind::no_answer) // shown as "N/A"
             unread_.push_back(one);
+    // Asked anew at the next reading: the unit may be gone, or have been a damaged header.
+    if (std::ranges::count(unread_, unread_kind::silent_unit, &unread_piece::kind) > 0)
+        connected_2_KS_interface = false;
 }
 
 std::vector<std::string> readCodes::work_reply_to_error_codes_pid(std::string_view mode,

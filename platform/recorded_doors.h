@@ -1,5 +1,5 @@
-// The doors to the adapter with a recorder listening at them: what passes is written down and
-// handed on unchanged. Made by main when a recording is asked for.
+// Doors to the adapter that record the traffic and pass it on unchanged. Made by main when a
+// recording is requested.
 #pragma once
 
 #include "serial_port_profile.h"

@@ -22,7 +22,7 @@ constexpr handshake_texts LIVE_TEXTS{
     .rejection_leaves = true,
 };
 
-// How far behind a search notice carriage returns are removed.
+// How far after a search notice carriage returns are removed.
 constexpr std::size_t RETURNS_REMOVED_WITHIN = 4;
 
 } // namespace
@@ -47,7 +47,7 @@ std::string live_handshake::check_initial_car_reply() {
         screen_.toolies.myMsgBox(told);
         return REPLY_REJECTED;
     }
-    // No test for "?" here: such a reply goes on, and the step that reads it decides.
+    // No test for "?" here: such a reply passes, and the step that reads it decides.
     if (contains(reply, "BUS INIT:") && contains(reply, "ERROR")) {
         screen_.toolies.myMsgBox(screen_.localized("init_OBD_error_MSG"));
         return REPLY_REJECTED;

@@ -15,7 +15,7 @@ toolkit_doors doors_for_toolkit(app_doors& doors) {
     return {&doors.resources, &doors.defaults, &doors.message_boxes, &doors.notifications};
 }
 
-// How long another command's reply is awaited, whatever a run has made of the reply time-out.
+// How long another command's reply is awaited, even if a run has changed the reply time-out.
 constexpr std::chrono::seconds OLD_REPLY_BOUND{REPLY_TIME_OUT_AT_START};
 
 } // namespace

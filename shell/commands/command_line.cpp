@@ -82,7 +82,7 @@ void take_chart_pid(cli_request& asked, const std::string& name, const std::stri
 using row = option_row<cli_request>;
 using text = const std::string&;
 
-// What a command has of its own comes first. "car" stands for every command that talks to one.
+// Options of single commands come first. "car" means every command that talks to a car.
 constexpr std::array OPTIONS = {
     row{{"--yes", "", "clear them indeed", "clear"},
         [](cli_request& asked, text, text) { asked.yes = true; }},
@@ -201,7 +201,7 @@ constexpr std::array OPTIONS = {
         [](cli_request& asked, text, text) { asked.version = true; }},
 };
 
-// "kestrom help COMMAND" asks what "kestrom COMMAND --help" does.
+// "kestrom help COMMAND" is the same as "kestrom COMMAND --help".
 void take_words(cli_request& asked, std::vector<std::string> words) {
     if (!asked.help && !words.empty() && words[0] == HELP) {
         if (words.size() > 2)
@@ -251,7 +251,7 @@ parsed_command_line parse_command_line(std::span<const std::string> arguments) {
             check_command(read.asked, words);
     } catch (const usage_error& why) {
         read.error = why.what();
-        for (const std::string& word : arguments) // whose help tells more
+        for (const std::string& word : arguments) // whose help is more specific
             if (read.asked.command.empty() && find_command(word))
                 read.asked.command = word;
     }

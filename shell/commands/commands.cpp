@@ -161,7 +161,7 @@ Example
 )"},
 };
 
-// In the help of the program: what goes with more than some commands.
+// In the help of the program: options of more than a few commands.
 bool is_general(const option_text& option) {
     return goes_with(option, "window") || goes_with(option, "car");
 }

@@ -60,7 +60,7 @@ class send_command final : public car_task {
 
     void print(bool, const conversation_log& log) override {
         if (!asked_.json)
-            return; // each was printed as it came
+            return; // each was printed on arrival
         ordered_json list = ordered_json::array();
         for (std::size_t i = 0; i < replies_.size(); ++i)
             list.push_back({{"command", asked_.arguments[i]}, {"reply", replies_[i]}});
@@ -92,7 +92,7 @@ class send_command final : public car_task {
         if (asked_.json)
             return;
         clear_progress();
-        // A person reads lines; a program gets every byte.
+        // Lines for a person; every byte for a program.
         std::string text = isatty(STDOUT_FILENO) ? printable(reply_) : reply_;
         text += '\n';
         std::fwrite(text.data(), 1, text.size(), stdout);

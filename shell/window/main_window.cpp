@@ -27,7 +27,7 @@ namespace {
 constexpr char GEOMETRY_KEY[] = "window_geometry";
 constexpr QSize DEFAULT_SIZE{1100, 720};
 constexpr QSize SMALLEST_SIZE{800, 480}; // a screen of 1920 x 1080 at 200 %, with a panel
-constexpr QSize FRAME{8, 40};            // that a window manager adds, at most
+constexpr QSize FRAME{8, 40};            // the most that a window manager adds
 constexpr int RAIL_WIDTH = 128;
 
 // Offscreen there is neither a real screen nor a place to remember.
@@ -172,7 +172,7 @@ QWidget* main_window::build_rail() {
     return rail;
 }
 
-// A little darker than the window, whatever the desktop's scheme is now.
+// Slightly darker than the window in the desktop's current scheme.
 void main_window::shade_rail() {
     QPalette quiet = QGuiApplication::palette();
     const QColor window = quiet.color(QPalette::Window);
@@ -197,7 +197,7 @@ void main_window::follow_screen() {
         screen->view()->setFocus();
 }
 
-// Where it was, or where that is now: the screen may be another one.
+// Restores its place, or the nearest visible one: the screen may have changed.
 void main_window::restore_place() {
     const std::string stored = delegate_.doors().defaults.string(GEOMETRY_KEY);
     const bool known = !stored.empty() &&
@@ -210,7 +210,7 @@ void main_window::restore_place() {
 }
 
 void main_window::closeEvent(QCloseEvent* event) {
-    // A window that nobody saw has no place to remember.
+    // A window that was never shown has no place to remember.
     if (isVisible() && somebody_looks()) {
         delegate_.doors().defaults.set_string(GEOMETRY_KEY,
                                               saveGeometry().toBase64().toStdString());

@@ -4,5 +4,5 @@
 
 #include "adapter.h"
 
-// Until the input ends and the last reply has left, or a fault closes. False when writing failed.
+// Runs until the input ends and the last reply is sent, or a fault closes. False if writing failed.
 bool serve_descriptors(adapter& served, int input, int output);

@@ -95,6 +95,24 @@ class mock_bluez {
     void power(bool on) {
         set("/org/bluez/hci0", ADAPTER_INTERFACE, {{QStringLiteral("Powered"), on}});
     }
+    // Runs Python in the mock; its `objects` by path, and what was run before, are there.
+    void run(const std::string& python) {
+        call("/", "org.freedesktop.DBus.Mock", "AddMethod",
+             {QStringLiteral("org.bluez.Mock"), QStringLiteral("Run"), QStringLiteral("s"),
+              QString(), QStringLiteral("exec(args[0], globals())")});
+        call("/", "org.bluez.Mock", "Run", {QString::fromStdString(python)});
+    }
+    // The words of a Python expression.
+    std::string told(const std::string& python) {
+        call("/", "org.freedesktop.DBus.Mock", "AddMethod",
+             {QStringLiteral("org.bluez.Mock"), QStringLiteral("Tell"), QStringLiteral("s"),
+              QStringLiteral("s"), QStringLiteral("ret = eval(args[0], globals())")});
+        return call("/", "org.bluez.Mock", "Tell", {QString::fromStdString(python)})
+            .arguments()
+            .value(0)
+            .toString()
+            .toStdString();
+    }
     void remove_device(const std::string& path) {
         call("/org/bluez/hci0", "org.bluez.Adapter1", "RemoveDevice",
              {QVariant::fromValue(QDBusObjectPath(QString::fromStdString(path)))});

@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr QSize DEFAULT_SIZE{720, 440};
+constexpr QSize DEFAULT_SIZE{840, 440};
 constexpr int REFRESH_MS = 100; // hundreds of devices report many times a second
 constexpr int TICK_MS = 1000;
 constexpr int PATIENCE_MS = 5000; // afterwards the seconds are counted

@@ -158,10 +158,11 @@ void bluez_connection::connect_profile() {
                   });
 }
 
-// A dual adapter may have its serial port on the other side only.
+// A dual adapter may have its serial port on the other side only, and not every device shows its
+// kind.
 bool bluez_connection::falls_back(bluetooth_problem problem) const {
     const auto device = devices_.find(address_);
-    return profile_ && device && device->low_energy &&
+    return profile_ && device && (device->low_energy || !device->classic) &&
            (problem == bluetooth_problem::no_serial_port || problem == bluetooth_problem::refused ||
             problem == bluetooth_problem::out_of_reach);
 }

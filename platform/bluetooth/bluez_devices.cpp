@@ -14,19 +14,20 @@ bool switched_on(const interface_properties& interfaces) {
     return interfaces.value(ADAPTER_INTERFACE).value(QStringLiteral("Powered")).toBool();
 }
 
+constexpr int NOT_MEASURED = 127; // by the controller
 constexpr char NO_CLASSIC = 0x04; // in a Low Energy device's advertisement
 
 // What a device's kind shows in: a classic one tells its class when it is found, a Low Energy one
-// has flags in its advertisement, or a random address.
+// has a random address, a serial service, or flags in its advertisement, which not every BlueZ
+// tells.
 void tell_kind(bluetooth_entry& device, const QVariantMap& properties, bool serial_service) {
     const QByteArray flags = properties.value(QStringLiteral("AdvertisingFlags")).toByteArray();
     const bool random =
         properties.value(QStringLiteral("AddressType")).toString() == QLatin1String("random");
-    device.low_energy = random || !flags.isEmpty() || serial_service;
-    device.classic =
-        !random && (!device.low_energy || device.classic_port == serial_port_offer::yes ||
-                    properties.value(QStringLiteral("Class")).toUInt() != 0 ||
-                    (!flags.isEmpty() && !(flags.front() & NO_CLASSIC)));
+    device.low_energy = random || serial_service || !flags.isEmpty();
+    device.classic = !random && (device.classic_port == serial_port_offer::yes ||
+                                 properties.value(QStringLiteral("Class")).toUInt() != 0 ||
+                                 (!flags.isEmpty() && !(flags.front() & NO_CLASSIC)));
 }
 
 bluetooth_entry entry(const QString& path, const QVariantMap& properties) {
@@ -42,7 +43,8 @@ bluetooth_entry entry(const QString& path, const QVariantMap& properties) {
     found.name = text("Name").toStdString();
     if (found.name.empty())
         found.name = found.address;
-    if (const QVariant signal = properties.value(QStringLiteral("RSSI")); signal.isValid())
+    if (const QVariant signal = properties.value(QStringLiteral("RSSI"));
+        signal.isValid() && signal.toInt() != NOT_MEASURED)
         found.signal = signal.toInt();
     found.paired = flag("Paired");
     found.connected = flag("Connected");
@@ -296,8 +298,8 @@ std::vector<bluetooth_entry> bluez_devices::devices() const {
         if (!is_device(object.key(), *object))
             continue;
         bluetooth_entry device = entry(object.key(), object->interfaces.value(DEVICE_INTERFACE));
-        if (device.classic || device.paired || device.name != device.address ||
-            device.serial_port == serial_port_offer::yes)
+        if (device.classic || !device.low_energy || device.paired ||
+            device.name != device.address || device.serial_port == serial_port_offer::yes)
             found.emplace_back(object->order, std::move(device));
     }
     std::ranges::sort(found, [](const auto& a, const auto& b) {

@@ -31,7 +31,7 @@ struct bluetooth_entry {
     bool paired = false;
     bool connected = false;
     bool resolved = false; // connected, and asked for its services
-    // Its kind; a dual device is both.
+    // Its kind; a dual device is both, and neither is one that has not shown it.
     bool classic = false;
     bool low_energy = false;
     serial_port_offer classic_port = serial_port_offer::unknown;

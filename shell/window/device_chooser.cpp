@@ -102,7 +102,7 @@ void device_chooser::build_table() {
     fit_column(table_, 1, QStringLiteral("00:00:00:00:00:00"));
     fit_column(table_, 2, text("bt_yes"));
     fit_column(table_, 3, QStringLiteral("-100 dBm"));
-    fit_column(table_, 4, text("bt_low_energy"));
+    fit_column(table_, 4, text("bt_when_connecting"));
     fit_column(table_, 5, text("bt_when_connecting"));
     hint_ = new empty_hint(table_, QString());
     // What to do may be a command that one wants to copy.
@@ -166,7 +166,7 @@ QString device_chooser::cell(int row, const QString& column) const {
     if (column == QLatin1String("Signal"))
         return device.signal ? QStringLiteral("%1 dBm").arg(*device.signal) : QString();
     if (column == QLatin1String("Kind"))
-        return text(!device.low_energy ? "bt_classic"
+        return text(!device.low_energy ? device.classic ? "bt_classic" : "bt_when_connecting"
                     : device.classic   ? "bt_both_kinds"
                                        : "bt_low_energy");
     constexpr const char* OFFERS[] = {"bt_when_connecting", "bt_yes", "bt_no"};

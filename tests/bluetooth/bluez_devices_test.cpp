@@ -94,6 +94,7 @@ TEST(bluetooth_devices, their_kind_is_told_by_advertisement_class_and_services) 
     } cases[] = {
         {{{QStringLiteral("Class"), 0x1F00u}}, true, false, serial_port_offer::unknown},
         {SERIAL_PORT, true, false, serial_port_offer::yes},
+        {{}, false, false, serial_port_offer::unknown},
         {random, false, true, serial_port_offer::unknown},
         {{{services, usual}}, false, true, serial_port_offer::yes},
         {{{services, usual + SERIAL_PORT.first().toStringList()}},
@@ -114,10 +115,10 @@ TEST(bluetooth_devices, their_kind_is_told_by_advertisement_class_and_services) 
     mock_bluez mock;
     ASSERT_TRUE(mock.usable());
     mock.add_adapter();
-    mock.set_device(mock.add_device("00:00:00:00:00:FF", ""), random); // a beacon
+    mock.set_device(mock.add_device("00:00:00:00:00:FF", "", 0), random); // a beacon
     char address[] = "00:00:00:00:00:00";
     for (const auto& row : cases) {
-        mock.set_device(mock.add_device(address, "OBDII"), row.properties);
+        mock.set_device(mock.add_device(address, "OBDII", 0), row.properties);
         ++address[16];
     }
     bluez_devices devices(mock.connect());

@@ -121,7 +121,7 @@ class low_energy_adapter : public testing::Test {
     low_energy_adapter() {
         EXPECT_TRUE(mock.usable());
         mock.add_adapter();
-        device = mock.add_device(ADDRESS, "OBDII");
+        device = mock.add_device(ADDRESS, "OBDII", 0);
     }
 
     bluetooth_user user_who_waits() {

@@ -76,14 +76,18 @@ class mock_bluez {
     void add_adapter() {
         call("/", "org.bluez.Mock", "AddAdapter", {QStringLiteral("hci0"), QStringLiteral("desk")});
     }
-    // Answers the object's path.
-    std::string add_device(const char* address, const std::string& name) {
-        return call("/", "org.bluez.Mock", "AddDevice",
-                    {QStringLiteral("hci0"), QLatin1String(address), QString::fromStdString(name)})
-            .arguments()
-            .value(0)
-            .toString()
-            .toStdString();
+    // Answers the object's path. With a class it is a classic one.
+    std::string add_device(const char* address, const std::string& name,
+                           uint device_class = 0x1F00) {
+        const std::string path =
+            call("/", "org.bluez.Mock", "AddDevice",
+                 {QStringLiteral("hci0"), QLatin1String(address), QString::fromStdString(name)})
+                .arguments()
+                .value(0)
+                .toString()
+                .toStdString();
+        set_device(path, {{QStringLiteral("Class"), device_class}});
+        return path;
     }
     void set(const std::string& path, const QString& interface, const QVariantMap& properties) {
         call(path.c_str(), "org.freedesktop.DBus.Mock", "UpdateProperties",

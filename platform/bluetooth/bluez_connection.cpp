@@ -91,17 +91,15 @@ void bluez_connection::follow_devices() {
         return;
     }
     const auto device = devices_.find(address_);
-    if (device && devices_.disconnecting(device->path))
-        return; // from the connection before; a new one would fail with it
     if (!device_path_.isEmpty()) {
         if (!device)
             finish(bluetooth_problem::out_of_reach); // BlueZ has forgotten it meanwhile
-        else if (!profile_ && !low_energy_)
-            open_low_energy();
         else if (low_energy_ ? low_energy_->asked() : device->connected)
             reach_limit_.stop();
         return;
     }
+    if (device && devices_.disconnecting(device->path))
+        return; // from the connection before; a new one would fail with it
     if (device) {
         connect_device(*device);
     } else if (!searched_) {
@@ -116,13 +114,17 @@ void bluez_connection::connect_device(const bluetooth_entry& device) {
     device_path_ = device.path;
     connected_before_ = device.connected;
     devices_.stop_search(); // a search slows connecting down
-    if (device.low_energy && (!device.classic || device.classic_port == serial_port_offer::no)) {
-        open_low_energy();
-        return;
-    }
-    if (!device.connected)
+    low_energy_too_ = device.low_energy;
+    over_classic_ = fallen_back_
+                        ? !over_classic_
+                        : device.classic &&
+                              (device.classic_port != serial_port_offer::no || !device.low_energy);
+    if (!device.connected || !over_classic_)
         reach_limit_.start(REACH_MS);
-    register_profile();
+    if (over_classic_)
+        register_profile();
+    else
+        open_low_energy();
 }
 
 void bluez_connection::register_profile() {
@@ -158,27 +160,37 @@ void bluez_connection::connect_profile() {
                   });
 }
 
-// A dual adapter may have its serial port on the other side only, and not every device shows its
-// kind.
+// A dual adapter may have its serial port on the other side only, and BlueZ finds out about a
+// device that has not shown its kind.
 bool bluez_connection::falls_back(bluetooth_problem problem) const {
+    if (fallen_back_ || device_path_.isEmpty())
+        return false;
     const auto device = devices_.find(address_);
-    return profile_ && device && (device->low_energy || !device->classic) &&
+    const bool other_kind =
+        over_classic_ ? low_energy_too_ : device && device->classic_port == serial_port_offer::yes;
+    return other_kind &&
            (problem == bluetooth_problem::no_serial_port || problem == bluetooth_problem::refused ||
             problem == bluetooth_problem::out_of_reach);
 }
 
+// From the start: BlueZ may have forgotten the device that it did not reach.
 void bluez_connection::fall_back(bluetooth_problem problem) {
-    classic_problem_ = problem;
-    profile_.release()->deleteLater(); // this may be an answer to it
+    fallen_back_ = true;
+    first_problem_ = problem;
     if (made_link())
-        devices_.disconnect_device(device_path_); // or BlueZ would go on over the classic link
+        devices_.disconnect_device(device_path_); // or BlueZ would go on over the same link
+    device_path_.clear();
+    searched_ = false;
+    if (profile_) // this may be an answer to it
+        profile_.release()->deleteLater();
+    if (low_energy_)
+        low_energy_.release()->deleteLater();
+    total_limit_.start(TOTAL_MS);
     QMetaObject::invokeMethod(this, &bluez_connection::follow_devices, Qt::QueuedConnection);
 }
 
 void bluez_connection::open_low_energy() {
     connecting_ = true;
-    reach_limit_.start(REACH_MS);
-    total_limit_.start(TOTAL_MS);
     low_energy_ = std::make_unique<low_energy_port>(devices_, device_path_);
     connect(low_energy_.get(), &low_energy_port::opened, this,
             [this] { new_connection(low_energy_->take_descriptor()); });
@@ -225,9 +237,7 @@ void bluez_connection::finish(bluetooth_problem problem) {
     }
     finished_ = true;
     problem_ =
-        problem == bluetooth_problem::no_serial_port && classic_problem_ != bluetooth_problem::none
-            ? classic_problem_
-            : problem;
+        fallen_back_ && problem == bluetooth_problem::no_serial_port ? first_problem_ : problem;
     reach_limit_.stop();
     total_limit_.stop();
     if (problem != bluetooth_problem::none)

@@ -1,8 +1,8 @@
 // One attempt to get the serial port of one Bluetooth device from BlueZ: find the device, register
 // as a client of the Serial Port profile, let BlueZ look up the service, pair if need be and
-// connect, and take the descriptor it hands over. A Low Energy device, and a dual one without the
-// classic serial port, is left to low_energy_port. Lives as long as the channel: without the
-// registration BlueZ would close it.
+// connect, and take the descriptor it hands over. A Low Energy device, a dual one without the
+// classic serial port, and one that has not shown its kind are left to low_energy_port. Lives as
+// long as the channel: without the registration BlueZ would close it.
 #pragma once
 
 #include "bluez_devices.h"
@@ -62,7 +62,10 @@ class bluez_connection final : public QObject {
     QString device_path_; // empty until BlueZ knows the device
     std::unique_ptr<profile_object> profile_;
     std::unique_ptr<low_energy_port> low_energy_;
-    bluetooth_problem classic_problem_ = bluetooth_problem::none; // before Low Energy was tried
+    bool over_classic_ = false; // else over Low Energy
+    bool low_energy_too_ = false;
+    bool fallen_back_ = false; // from the other of the two, for the first problem
+    bluetooth_problem first_problem_ = bluetooth_problem::none;
     QTimer reach_limit_, total_limit_;
     bool searched_ = false;
     bool connecting_ = false;

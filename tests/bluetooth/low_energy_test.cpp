@@ -67,6 +67,7 @@ constexpr char PERIPHERAL[] = R"py(
 import socket, threading
 device, mtu, written, kinds, notify = objects[PATH], 23, b'', set(), None
 DEVICE, GATT = 'org.bluez.Device1', 'org.bluez.Gatt'
+CLASSIC = '00001101-0000-1000-8000-00805f9b34fb'
 YES, NO = dbus.Boolean(True), dbus.Boolean(False)
 
 def add(path, interface, properties, methods):
@@ -257,39 +258,52 @@ TEST_F(low_energy_adapter, a_failure_is_told_apart_and_takes_the_connection_down
     }
 }
 
-// Its kind is told by the advertisement, the class and the services.
-TEST_F(low_energy_adapter, a_dual_one_is_asked_for_its_classic_port_first) {
+TEST_F(low_energy_adapter, a_dual_one_falls_back_to_low_energy_and_one_of_unknown_kind_to_classic) {
+    const QStringList both{SERIAL_PORT_UUID_TEXT, uuid(QStringLiteral("fff0"))};
     const struct {
-        const char* classic; // the answer of ConnectProfile
+        QStringList services; // told beforehand
+        const char* classic;  // the answer of ConnectProfile
         std::string low_energy;
         bluetooth_problem told;
-        qsizetype tried; // over Low Energy
+        qsizetype asked, tried; // classic, Low Energy
     } cases[] = {
-        {"br-connection-profile-unavailable", "", bluetooth_problem::none, 1},
-        {"br-connection-page-timeout", "", bluetooth_problem::none, 1},
-        {"br-connection-refused", raising("serve", "Failed", "br-connection-profile-unavailable"),
-         bluetooth_problem::refused, 1},
-        {"br-connection-profile-unavailable",
+        {both, "br-connection-profile-unavailable", "", bluetooth_problem::none, 1, 1},
+        {both, "br-connection-page-timeout", "", bluetooth_problem::none, 1, 1},
+        {{}, "", "", bluetooth_problem::none, 0, 1},
+        {{},
+         "br-connection-busy",
+         "def serve():\n"
+         "    device.UpdateProperties(DEVICE, {'UUIDs': dbus.Array([CLASSIC], 's')})\n"
+         "    raise dbus.exceptions.DBusException('br-connection-profile-unavailable',"
+         " name='org.bluez.Error.NotAvailable')",
+         bluetooth_problem::in_use,
+         1,
+         1},
+        {both, "br-connection-refused",
+         raising("serve", "Failed", "br-connection-profile-unavailable"),
+         bluetooth_problem::refused, 1, 1},
+        {both, "br-connection-profile-unavailable",
          raising("serve", "Failed", "le-connection-abort-by-local"),
-         bluetooth_problem::out_of_reach, 1},
-        {"br-connection-busy", "", bluetooth_problem::in_use, 0},
+         bluetooth_problem::out_of_reach, 1, 1},
+        {both, "br-connection-busy", "", bluetooth_problem::in_use, 1, 0},
     };
     qsizetype asked = 0;
     qsizetype tried = 0;
     for (const auto& row : cases) {
         SCOPED_TRACE(row.classic);
         serve(TYPICAL);
-        mock.set_device(device,
-                        {{QStringLiteral("Class"), 0x1F00u},
-                         {QStringLiteral("Paired"), true},
-                         {QStringLiteral("UUIDs"),
-                          QStringList{SERIAL_PORT_UUID_TEXT, uuid(QStringLiteral("fff0"))}}});
+        mock.run("device.Disconnect()");
+        mock.set_device(device, {{QStringLiteral("UUIDs"), row.services}});
+        ASSERT_TRUE(QTest::qWaitFor([&] {
+            const auto known = door.devices().find(ADDRESS);
+            return known && !known->resolved && known->classic != row.services.isEmpty();
+        }));
         mock.on_connect(device, "raise dbus.exceptions.DBusException('" + std::string(row.classic) +
                                     "', name='org.bluez.Error.Failed')");
         mock.run(row.low_energy);
         EXPECT_EQ(connect(), error_number(row.told));
         EXPECT_EQ(told, row.told);
-        EXPECT_EQ(calls("ConnectProfile"), ++asked);
+        EXPECT_EQ(calls("ConnectProfile"), asked += row.asked);
         EXPECT_EQ(calls("Connect"), tried += row.tried);
         chosen->closeConnection();
         chosen.reset();

@@ -606,6 +606,22 @@ Die Namen der Prüfungen sind englisch.</translation>
         <source></source>
         <translation>Serielle Schnittstelle</translation>
     </message>
+    <message id="bt_col_kind">
+        <source></source>
+        <translation>Art</translation>
+    </message>
+    <message id="bt_classic">
+        <source></source>
+        <translation>Klassisch</translation>
+    </message>
+    <message id="bt_low_energy">
+        <source></source>
+        <translation>Low Energy</translation>
+    </message>
+    <message id="bt_both_kinds">
+        <source></source>
+        <translation>beide</translation>
+    </message>
     <message id="bt_yes">
         <source></source>
         <translation>ja</translation>

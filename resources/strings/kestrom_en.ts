@@ -605,6 +605,22 @@ N/A: this car does not have this monitor</translation>
         <source></source>
         <translation>Serial port</translation>
     </message>
+    <message id="bt_col_kind">
+        <source></source>
+        <translation>Kind</translation>
+    </message>
+    <message id="bt_classic">
+        <source></source>
+        <translation>Classic</translation>
+    </message>
+    <message id="bt_low_energy">
+        <source></source>
+        <translation>Low Energy</translation>
+    </message>
+    <message id="bt_both_kinds">
+        <source></source>
+        <translation>both</translation>
+    </message>
     <message id="bt_yes">
         <source></source>
         <translation>yes</translation>

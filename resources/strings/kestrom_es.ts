@@ -606,6 +606,22 @@ Los nombres de los monitores están en inglés.</translation>
         <source></source>
         <translation>Puerto serie</translation>
     </message>
+    <message id="bt_col_kind">
+        <source></source>
+        <translation>Tipo</translation>
+    </message>
+    <message id="bt_classic">
+        <source></source>
+        <translation>Clásico</translation>
+    </message>
+    <message id="bt_low_energy">
+        <source></source>
+        <translation>Low Energy</translation>
+    </message>
+    <message id="bt_both_kinds">
+        <source></source>
+        <translation>ambos</translation>
+    </message>
     <message id="bt_yes">
         <source></source>
         <translation>sí</translation>

@@ -606,6 +606,22 @@ Les noms des moniteurs sont en anglais.</translation>
         <source></source>
         <translation>Port série</translation>
     </message>
+    <message id="bt_col_kind">
+        <source></source>
+        <translation>Type</translation>
+    </message>
+    <message id="bt_classic">
+        <source></source>
+        <translation>Classique</translation>
+    </message>
+    <message id="bt_low_energy">
+        <source></source>
+        <translation>Low Energy</translation>
+    </message>
+    <message id="bt_both_kinds">
+        <source></source>
+        <translation>les deux</translation>
+    </message>
     <message id="bt_yes">
         <source></source>
         <translation>oui</translation>

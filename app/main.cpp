@@ -26,6 +26,7 @@
 #include "system_log.h"
 #include "tcp_adapter_server.h"
 #include "tcp_stream_pair.h"
+#include "transports.h"
 #include "user_defaults.h"
 
 #include <QApplication>
@@ -96,14 +97,14 @@ std::string settings_path(const cli_request& asked, std::optional<QTemporaryDir>
 }
 
 // A named interface makes it no first start, which would choose the parameters of a run.
-void use_interface(user_defaults& store, int interface) {
-    store.set_integer(KS_INTERFACE_KEY, interface);
+void use_stored(user_defaults& store, const transport& way) {
+    store_transport(way, store);
     if (!store.contains(PIDS_ARRAY_KEY))
         store.set_string_array(PIDS_ARRAY_KEY, default_pids());
 }
 
 void use_adapter(user_defaults& store, const std::string& host, const std::string& port) {
-    use_interface(store, KS_USE_WIFI);
+    use_stored(store, transport_named("wifi"));
     store.set_string(WIFI_IP_KEY, host);
     store.set_string(WIFI_PORT_KEY, port);
 }
@@ -122,7 +123,7 @@ void use_run(user_defaults& store, const cli_request& asked) {
 }
 
 void use_bluetooth(user_defaults& store, const std::string& address) {
-    use_interface(store, KS_USE_BT);
+    use_stored(store, transport_named("bluetooth"));
     store.set_boolean(REUSE_LAST_BT_KEY, true);
     store.set_string(KS_LAST_BT_KEY, address);
 }
@@ -183,21 +184,21 @@ struct link_doors {
         return *(recorded_bluetooth ? recorded_bluetooth : bluetooth);
     }
     void record(conversation_recorder& recorder) {
-        make_streams = recorded_streams(std::move(make_streams), recorder);
+        make_streams = recorded_streams(std::move(make_streams), recorder, "wifi");
         recorded_bluetooth = recorded_serial_port(*bluetooth, recorder);
     }
 };
 
 // No, with the reason told, when the file cannot be made.
-bool start_recording(conversation_recorder& recorder, const cli_request& asked, int interface) {
+bool start_recording(conversation_recorder& recorder, const cli_request& asked,
+                     const transport& way) {
     const std::string& path = *asked.record;
-    const char* adapter = asked.demo ? "demo" : interface == KS_USE_BT ? "bluetooth" : "wifi";
     recorder.stopped = [path](const std::string& why) {
         clear_progress();
         std::fprintf(stderr, "kestrom: the recording %s ends here: %s\n", path.c_str(),
                      why.c_str());
     };
-    const auto failure = recorder.start(path, KESTROM_VERSION, adapter);
+    const auto failure = recorder.start(path, KESTROM_VERSION, asked.demo ? "demo" : way.name);
     if (failure)
         std::fprintf(stderr, "kestrom: cannot record to %s: %s; name another file\n", path.c_str(),
                      failure->c_str());
@@ -224,7 +225,7 @@ std::unique_ptr<tcp_adapter_server> use_what_is_asked(user_defaults& defaults,
 // Until the preferences choose an adapter; nothing of the user's changes.
 std::unique_ptr<tcp_adapter_server> connect_to_virtual_car(Ks_lite_delegate& delegate) {
     auto car = start_demo_car({});
-    g_connect_with = KS_USE_WIFI;
+    use_transport(transport_named("wifi"));
     g_cur_wifi_IP = "127.0.0.1";
     g_cur_wifi_port = std::to_string(car->port());
     delegate.settings_left();
@@ -256,8 +257,7 @@ struct house {
         if (!asked.record)
             return true;
         link.record(recorder);
-        return start_recording(recorder, asked,
-                               static_cast<int>(defaults.integer(KS_INTERFACE_KEY)));
+        return start_recording(recorder, asked, stored_transport(defaults));
     }
     app_doors doors() {
         return {loop,          message_boxes(),   defaults,          resources,

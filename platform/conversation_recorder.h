@@ -21,7 +21,7 @@ class conversation_recorder {
     explicit conversation_recorder(const run_loop& loop) : loop_(loop), started_(loop.now()) {}
 
     // Creates the file, which must not be there yet, with its header; the times count from now.
-    // `adapter` is "demo", "wifi" or "bluetooth". The reason when that fails.
+    // `adapter` is "demo", "wifi", "serial" or "bluetooth". The reason when that fails.
     std::optional<std::string> start(const std::string& path, const std::string& version,
                                      std::string_view adapter);
 
@@ -29,7 +29,7 @@ class conversation_recorder {
     // Meant to be sent, but there was no connection, or it did not take them.
     void unsent(std::string_view bytes) { note("unsent", bytes); }
     void received(std::string_view bytes) { note("received", bytes); }
-    // `over` is "wifi" or "bluetooth".
+    // `over` is "wifi", "serial" or "bluetooth".
     void connecting(std::string_view over) { event("connecting", "over", over); }
     void opened() { event("open"); }
     void ended() { event("end"); } // by the far end

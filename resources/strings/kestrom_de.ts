@@ -47,6 +47,16 @@ Bitte prüfen Sie:
 • Kein Telefon und kein anderes Programm benutzt den Adapter gleichzeitig.
 • Das Auto unterstützt OBD-II.</translation>
     </message>
+    <message id="no_reply_from_car_MSG_serial">
+        <source></source>
+        <translation>Der Adapter funktioniert, aber das Auto hat nicht geantwortet.
+
+Bitte prüfen Sie:
+• Die Zündung ist eingeschaltet oder der Motor läuft.
+• Der Adapter sitzt fest in der Diagnosebuchse.
+• Kein anderes Programm benutzt den Adapter gleichzeitig.
+• Das Auto unterstützt OBD-II.</translation>
+    </message>
     <message id="init_OBD_error_MSG">
         <source></source>
         <translation>Der Adapter konnte den Diagnosebus des Autos nicht starten. Schalten Sie die Zündung aus und wieder ein, prüfen Sie, dass der Adapter fest in der Diagnosebuchse sitzt, und versuchen Sie es noch einmal.</translation>
@@ -66,6 +76,10 @@ Bitte prüfen Sie:
     <message id="tcp_no_answer_yet_MSG">
         <source></source>
         <translation>Der Adapter hat noch nicht geantwortet. Prüfen Sie, ob dieser Rechner im Funknetz des Adapters ist und ob Adresse und Port stimmen.</translation>
+    </message>
+    <message id="serial_no_answer_yet_MSG">
+        <source></source>
+        <translation>Der Adapter hat noch nicht geantwortet. Prüfen Sie das Kabel und den Anschluss in den Einstellungen.</translation>
     </message>
     <message id="bt_no_adapter_MSG">
         <source></source>

@@ -47,6 +47,16 @@ Please check:
 • No phone or other program uses the adapter at the same time.
 • The car supports OBD-II.</translation>
     </message>
+    <message id="no_reply_from_car_MSG_serial">
+        <source></source>
+        <translation>The adapter works, but the car did not answer.
+
+Please check:
+• The ignition is on, or the engine is running.
+• The adapter sits firmly in the diagnostic port.
+• No other program uses the adapter at the same time.
+• The car supports OBD-II.</translation>
+    </message>
     <message id="init_OBD_error_MSG">
         <source></source>
         <translation>The adapter could not start the car's diagnostic bus. Switch the ignition off and on again, make sure that the adapter sits firmly in the diagnostic port, and try once more.</translation>
@@ -66,6 +76,10 @@ Please check:
     <message id="tcp_no_answer_yet_MSG">
         <source></source>
         <translation>The adapter has not answered yet. Check that this computer is in the adapter's wireless network and that address and port are right.</translation>
+    </message>
+    <message id="serial_no_answer_yet_MSG">
+        <source></source>
+        <translation>The adapter has not answered yet. Check the cable and the port in the preferences.</translation>
     </message>
     <message id="bt_no_adapter_MSG">
         <source></source>

@@ -47,6 +47,16 @@ Compruebe que:
 • Ningún teléfono ni otro programa usa el adaptador al mismo tiempo.
 • El coche admite OBD-II.</translation>
     </message>
+    <message id="no_reply_from_car_MSG_serial">
+        <source></source>
+        <translation>El adaptador funciona, pero el coche no ha respondido.
+
+Compruebe que:
+• El contacto está dado o el motor está en marcha.
+• El adaptador está bien enchufado en la toma de diagnóstico.
+• Ningún otro programa usa el adaptador al mismo tiempo.
+• El coche admite OBD-II.</translation>
+    </message>
     <message id="init_OBD_error_MSG">
         <source></source>
         <translation>El adaptador no ha podido iniciar el bus de diagnóstico del coche. Quite el contacto y vuelva a darlo, compruebe que el adaptador está bien enchufado en la toma de diagnóstico e inténtelo otra vez.</translation>
@@ -66,6 +76,10 @@ Compruebe que:
     <message id="tcp_no_answer_yet_MSG">
         <source></source>
         <translation>El adaptador aún no ha respondido. Compruebe que este equipo está en la red inalámbrica del adaptador y que la dirección y el puerto son correctos.</translation>
+    </message>
+    <message id="serial_no_answer_yet_MSG">
+        <source></source>
+        <translation>El adaptador aún no ha respondido. Compruebe el cable y el puerto en las preferencias.</translation>
     </message>
     <message id="bt_no_adapter_MSG">
         <source></source>

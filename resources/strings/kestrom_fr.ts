@@ -47,6 +47,16 @@ Veuillez vérifier que :
 • aucun téléphone ni autre programme n'utilise l'adaptateur en même temps ;
 • la voiture prend en charge OBD-II.</translation>
     </message>
+    <message id="no_reply_from_car_MSG_serial">
+        <source></source>
+        <translation>L'adaptateur fonctionne, mais la voiture n'a pas répondu.
+
+Veuillez vérifier que :
+• le contact est mis ou le moteur tourne ;
+• l'adaptateur est bien enfoncé dans la prise de diagnostic ;
+• aucun autre programme n'utilise l'adaptateur en même temps ;
+• la voiture prend en charge OBD-II.</translation>
+    </message>
     <message id="init_OBD_error_MSG">
         <source></source>
         <translation>L'adaptateur n'a pas pu initialiser le bus de diagnostic de la voiture. Coupez puis remettez le contact, vérifiez que l'adaptateur est bien enfoncé dans la prise de diagnostic, et réessayez.</translation>
@@ -66,6 +76,10 @@ Veuillez vérifier que :
     <message id="tcp_no_answer_yet_MSG">
         <source></source>
         <translation>L'adaptateur n'a pas encore répondu. Vérifiez que cet ordinateur est connecté au réseau sans fil de l'adaptateur et que l'adresse et le port sont corrects.</translation>
+    </message>
+    <message id="serial_no_answer_yet_MSG">
+        <source></source>
+        <translation>L'adaptateur n'a pas encore répondu. Vérifiez le câble et le port dans les préférences.</translation>
     </message>
     <message id="bt_no_adapter_MSG">
         <source></source>

@@ -7,6 +7,7 @@
 #include "languages.h"
 #include "prefs_view.h"
 #include "system_log.h"
+#include "transports.h"
 #include "user_defaults.h"
 
 #include <algorithm>
@@ -57,16 +58,13 @@ void prefs::setPrefsScreen() {
 
 void prefs::savePrefs() {
     user_defaults& store = KS_delegate.doors().defaults;
-    if (!view_->wifi_selected()) {
-        g_connect_with = KS_USE_BT;
-        store.set_integer(KS_INTERFACE_KEY, KS_USE_BT);
-    } else {
-        g_connect_with = KS_USE_WIFI;
+    use_transport(transport_named(view_->wifi_selected() ? "wifi" : "bluetooth"));
+    store_transport(chosen_transport(), store);
+    if (view_->wifi_selected()) {
         const std::string address = view_->address();
         const std::string port = view_->port();
         g_cur_wifi_IP = address;
         g_cur_wifi_port = port;
-        store.set_integer(KS_INTERFACE_KEY, KS_USE_WIFI);
         store.set_string(WIFI_IP_KEY, address);
         store.set_string(WIFI_PORT_KEY, port);
     }

@@ -16,12 +16,14 @@
 #include "message_box_alerts.h"
 #include "progress_line.h"
 #include "qt_run_loop.h"
+#include "qt_serial_line.h"
 #include "quick_style.h"
 #include "quit_signals.h"
 #include "recorded_doors.h"
 #include "report_printer.h"
 #include "screen_factories.h"
 #include "serial_port_profile.h"
+#include "serial_stream_pair.h"
 #include "supported_scan.h"
 #include "system_log.h"
 #include "tcp_adapter_server.h"
@@ -75,6 +77,13 @@ stream_pair_factory tcp_streams(run_loop& loop) {
     };
 }
 
+stream_pair_factory serial_streams(run_loop& loop, const bundle& texts) {
+    return [&loop, &texts](const std::string& path, long speed) {
+        return std::make_unique<serial_stream_pair>(loop, texts, std::make_unique<qt_serial_line>(),
+                                                    path, speed);
+    };
+}
+
 // The settings as they are kept, for what only reads them.
 user_defaults kept_settings(const cli_request& asked) {
     return user_defaults(asked.settings.value_or(user_defaults::default_path()));
@@ -89,7 +98,8 @@ bundle resources_for(const user_defaults& store) {
 // on a copy in `scratch`, made then, so that nothing of the user's changes.
 std::string settings_path(const cli_request& asked, std::optional<QTemporaryDir>& scratch) {
     const std::string path = asked.settings.value_or(user_defaults::default_path());
-    if (!asked.demo && !asked.adapter_host && !asked.bluetooth && asked.command != "live")
+    if (!asked.demo && !asked.adapter_host && !asked.serial_port && !asked.bluetooth &&
+        asked.command != "live")
         return path;
     const QString copy = scratch.emplace().filePath(QStringLiteral("kestrom.conf"));
     QFile::copy(QString::fromStdString(path), copy); // a file that is not there yet is none here
@@ -126,6 +136,12 @@ void use_bluetooth(user_defaults& store, const std::string& address) {
     use_stored(store, transport_named("bluetooth"));
     store.set_boolean(REUSE_LAST_BT_KEY, true);
     store.set_string(KS_LAST_BT_KEY, address);
+}
+
+void use_serial_port(user_defaults& store, const std::string& path, int speed) {
+    use_stored(store, transport_named("serial"));
+    store.set_string(SERIAL_PORT_KEY, path);
+    store.set_integer(SERIAL_SPEED_KEY, speed);
 }
 
 void open_screen(Ks_lite_delegate& delegate, const std::string& name) {
@@ -176,7 +192,7 @@ int run_at_desk(int argc, char** argv, const cli_request& asked) {
 
 // The doors to adapters as the command line asks for them: with a recorder listening, or bare.
 struct link_doors {
-    stream_pair_factory make_streams;
+    stream_pair_factory make_streams, make_serial_streams;
     std::unique_ptr<serial_port_profile> bluetooth;
     std::unique_ptr<serial_port_profile> recorded_bluetooth;
 
@@ -185,6 +201,7 @@ struct link_doors {
     }
     void record(conversation_recorder& recorder) {
         make_streams = recorded_streams(std::move(make_streams), recorder, "wifi");
+        make_serial_streams = recorded_streams(std::move(make_serial_streams), recorder, "serial");
         recorded_bluetooth = recorded_serial_port(*bluetooth, recorder);
     }
 };
@@ -214,6 +231,8 @@ std::unique_ptr<tcp_adapter_server> use_what_is_asked(user_defaults& defaults,
         use_adapter(defaults, "127.0.0.1", std::to_string(car->port()));
     } else if (asked.adapter_host) {
         use_adapter(defaults, *asked.adapter_host, asked.adapter_port);
+    } else if (asked.serial_port) {
+        use_serial_port(defaults, *asked.serial_port, asked.serial_speed);
     } else if (asked.bluetooth) {
         use_bluetooth(defaults, *asked.bluetooth);
     }
@@ -252,6 +271,7 @@ struct house {
     bool make_doors() {
         mac_toolies::initialize({&resources, &defaults, &message_boxes(), &notifications});
         link.make_streams = tcp_streams(loop);
+        link.make_serial_streams = serial_streams(loop, resources);
         link.bluetooth = make_bluetooth_door(loop, message_boxes(), resources, defaults,
                                              !asked.without_display());
         if (!asked.record)
@@ -260,8 +280,15 @@ struct house {
         return start_recording(recorder, asked, stored_transport(defaults));
     }
     app_doors doors() {
-        return {loop,          message_boxes(),   defaults,          resources,
-                notifications, link.make_streams, link.serial_port()};
+        return {loop,
+                message_boxes(),
+                defaults,
+                resources,
+                notifications,
+                link.make_streams,
+                link.serial_port(),
+                link.make_serial_streams,
+                list_serial_ports};
     }
     alerts& message_boxes() {
         return asked.without_display() ? static_cast<alerts&>(printed_alerts) : shown_alerts;

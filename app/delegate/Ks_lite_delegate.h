@@ -12,6 +12,7 @@
 #include "reply_ledger.h"
 #include "run_loop.h"
 #include "screen_controller.h"
+#include "serial_port_list.h"
 #include "serial_port_profile.h"
 #include "stream_pair.h"
 
@@ -39,6 +40,7 @@ struct app_doors {
     stream_pair_factory make_streams; // over TCP
     serial_port_profile& bluetooth;
     stream_pair_factory make_serial_streams = {};
+    serial_port_lister serial_ports = {};
 };
 
 // Makes the controller of an interface file; nothing when it cannot be loaded.

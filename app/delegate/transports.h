@@ -25,6 +25,9 @@ struct transport {
     const char* name;           // in recordings
     int interface;              // KS_interface and g_connect_with
     bool serial;                // tells the two streams apart
+    const char* first_step;     // the button of a first start
+    const char* first_step_key; // its text
+    const char* kind_key;       // text: what it needs, and what to do when it fails
     const char* car_silent_key; // text: the adapter works, the car does not answer
 
     bool (Ks_lite_delegate::*open)();

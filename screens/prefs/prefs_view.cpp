@@ -2,10 +2,12 @@
 
 #include "bundle.h"
 #include "chrome.h"
+#include "constantes.h"
 #include "display_text.h"
 #include "Ks_lite_delegate.h"
 #include "languages.h"
 #include "rows_model.h"
+#include "transports.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -90,16 +92,39 @@ QWidget* prefs_view::build_adapter() {
     auto* group = new QGroupBox(ui_text(delegate_, "ui_adapter_group"), root());
     auto* column = new QVBoxLayout(group);
     column->setSpacing(GRID);
-    bluetooth_ = new QRadioButton(ui_text(delegate_, "ui_bluetooth"), group);
-    bluetooth_->setObjectName(QStringLiteral("interfaceBluetooth"));
     lastBTCheck_ = new QCheckBox(ui_text(delegate_, "ui_last_bt"), group);
     lastBTCheck_->setObjectName(QStringLiteral("lastBTCheck"));
     lastBTCheck_->setToolTip(ui_text(delegate_, "ui_last_bt_hint"));
-    wifi_ = new QRadioButton(ui_text(delegate_, "ui_wifi"), group);
-    wifi_->setObjectName(QStringLiteral("interfaceWifi"));
-    QObject::connect(bluetooth_, &QRadioButton::clicked, root(), [this] { on_bluetooth(); });
-    QObject::connect(wifi_, &QRadioButton::clicked, root(), [this] { on_wifi(); });
+    auto* bluetooth_panel = new QWidget(group);
+    auto* indented = new QHBoxLayout(bluetooth_panel);
+    indented->setContentsMargins(3 * GRID, 0, 0, 0);
+    indented->addWidget(lastBTCheck_);
+    const struct {
+        const char *name, *key;
+        std::function<void()>& clicked;
+        QWidget* panel;
+    } rows[] = {
+        {"interfaceBluetooth", "ui_bluetooth", on_bluetooth, bluetooth_panel},
+        {"interfaceWifi", "ui_wifi", on_wifi, build_wifi_panel(group)},
+        {"interfaceSerial", "ui_serial", on_serial, build_serial_panel(group)},
+    };
+    for (std::size_t row = 0; row < interfaces_.size(); ++row) {
+        interfaces_[row] = new QRadioButton(ui_text(delegate_, rows[row].key), group);
+        interfaces_[row]->setObjectName(QLatin1String(rows[row].name));
+        interfaces_[row]->setToolTip(ui_text(delegate_, transports()[row].kind_key));
+        QObject::connect(interfaces_[row], &QRadioButton::clicked, root(),
+                         [&clicked = rows[row].clicked] { clicked(); });
+        column->addWidget(interfaces_[row]);
+        column->addWidget(rows[row].panel);
+    }
+    kind_ = new QLabel(group);
+    kind_->setWordWrap(true);
+    kind_->setForegroundRole(QPalette::PlaceholderText);
+    column->addWidget(kind_);
+    return group;
+}
 
+QWidget* prefs_view::build_wifi_panel(QWidget* group) {
     wifiTabView_ = new QWidget(group);
     wifiTabView_->setObjectName(QStringLiteral("wifiTabView"));
     auto* form = new QFormLayout(wifiTabView_);
@@ -113,15 +138,33 @@ QWidget* prefs_view::build_adapter() {
         field->setMaximumWidth(40 * GRID);
     form->addRow(ui_text(delegate_, "ui_address"), ipLbl_);
     form->addRow(ui_text(delegate_, "ui_port"), portsLbl_);
+    return wifiTabView_;
+}
 
-    column->addWidget(bluetooth_);
-    auto* indented = new QHBoxLayout;
-    indented->addSpacing(3 * GRID);
-    indented->addWidget(lastBTCheck_);
-    column->addLayout(indented);
-    column->addWidget(wifi_);
-    column->addWidget(wifiTabView_);
-    return group;
+QWidget* prefs_view::build_serial_panel(QWidget* group) {
+    serial_panel_ = new QWidget(group);
+    serial_panel_->setObjectName(QStringLiteral("serialPanel"));
+    auto* form = new QFormLayout(serial_panel_);
+    form->setContentsMargins(3 * GRID, 0, 0, 0);
+    form->setSpacing(GRID);
+    serial_port_ = new QComboBox(serial_panel_);
+    serial_port_->setObjectName(QStringLiteral("serialPort"));
+    serial_speed_ = new QComboBox(serial_panel_);
+    serial_speed_->setObjectName(QStringLiteral("serialSpeed"));
+    serial_speed_->addItem(ui_text(delegate_, "ui_serial_auto"), 0);
+    for (const long speed : USUAL_SPEEDS)
+        serial_speed_->addItem(QString::number(speed), static_cast<int>(speed));
+    for (QComboBox* box : {serial_port_, serial_speed_}) {
+        box->setMaximumWidth(40 * GRID);
+        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box->setMinimumContentsLength(20); // a cable's own words may be long
+    }
+    form->addRow(ui_text(delegate_, "ui_port"), serial_port_);
+    form->addRow(ui_text(delegate_, "ui_serial_speed"), serial_speed_);
+    QObject::connect(serial_port_, &QComboBox::activated, root(), [this] {
+        chosen_port_ = serial_port_->currentData().toString().toStdString();
+    });
+    return serial_panel_;
 }
 
 QWidget* prefs_view::build_display() {
@@ -204,18 +247,63 @@ QWidget* prefs_view::build_parameters() {
     return group;
 }
 
-void prefs_view::select_wifi(bool wifi) {
-    QRadioButton* chosen = wifi ? wifi_ : bluetooth_;
-    chosen->setChecked(true);
-    root()->setFocusProxy(chosen);
-}
-bool prefs_view::wifi_selected() const {
-    return wifi_->isChecked();
+void prefs_view::select_interface(std::size_t row) {
+    interfaces_[row]->setChecked(true);
+    root()->setFocusProxy(interfaces_[row]);
 }
 
-void prefs_view::show_wifi_panel(bool visible) {
-    wifiTabView_->setVisible(visible);
-    lastBTCheck_->setEnabled(!visible);
+std::size_t prefs_view::interface_row() const {
+    std::size_t row = 0;
+    while (!interfaces_[row]->isChecked())
+        ++row;
+    return row;
+}
+
+void prefs_view::show_panel() {
+    const transport& chosen = transports()[interface_row()];
+    wifiTabView_->setVisible(chosen.interface == KS_USE_WIFI && !chosen.serial);
+    serial_panel_->setVisible(chosen.serial);
+    lastBTCheck_->setEnabled(chosen.interface == KS_USE_BT);
+    kind_->setText(ui_text(delegate_, chosen.kind_key));
+}
+
+void prefs_view::set_serial(const std::string& path, int speed) {
+    chosen_port_ = path;
+    if (serial_speed_->findData(speed) < 0)
+        serial_speed_->addItem(QString::number(speed), speed);
+    serial_speed_->setCurrentIndex(serial_speed_->findData(speed));
+    show_serial_ports(ports_);
+}
+
+// The chosen one stays chosen while it is unplugged; where none was, the first is.
+void prefs_view::show_serial_ports(const std::vector<serial_port_entry>& ports) {
+    if (chosen_port_.empty() && !ports.empty())
+        chosen_port_ = ports.front().path;
+    const QString chosen = display_text(chosen_port_);
+    if (ports == ports_ && serial_port_->currentData() == chosen && serial_port_->count() > 0)
+        return;
+    ports_ = ports;
+    serial_port_->clear();
+    for (const serial_port_entry& port : ports) {
+        std::string words = port.path;
+        for (const std::string& word : {port.name, port.maker})
+            if (!word.empty())
+                words += (words == port.path ? ": " : ", ") + printable_line(word);
+        serial_port_->addItem(display_text(words), display_text(port.path));
+        serial_port_->setItemData(serial_port_->count() - 1, display_text(words), Qt::ToolTipRole);
+    }
+    if (serial_port_->findData(chosen) < 0)
+        serial_port_->addItem(chosen.isEmpty() ? ui_text(delegate_, "ui_serial_none")
+                                               : ui_text(delegate_, "ui_serial_absent").arg(chosen),
+                              chosen);
+    serial_port_->setCurrentIndex(serial_port_->findData(chosen));
+}
+
+std::string prefs_view::serial_port() const {
+    return chosen_port_;
+}
+int prefs_view::serial_speed() const {
+    return serial_speed_->currentData().toInt();
 }
 
 void prefs_view::set_address(const std::string& address, const std::string& port) {

@@ -51,4 +51,6 @@ int run_lookup(const desk& work);
 // Searches until the search ends, or as long as was asked. Needs a running application object;
 // spins its event loop. 1 when Bluetooth cannot be used.
 int run_bluetooth_scan(const desk& work);
+// The serial ports that are there, with the names of their cables.
+int run_serial_ports(const desk& work);
 int scan_devices(const desk& work, bluez_devices& devices, double seconds);

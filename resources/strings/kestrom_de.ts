@@ -7,7 +7,7 @@
         <source></source>
         <translation>Kestrom liest die On-Board-Diagnose (OBD-II) Ihres Autos über einen Adapter vom Typ ELM327.
 
-Verbinden: Stecken Sie den Adapter in die Diagnosebuchse des Autos, meist unter dem Lenkrad, und schalten Sie die Zündung ein. Bei einem WLAN-Adapter verbinden Sie diesen Rechner zuerst mit dem Funknetz des Adapters, wählen dann in den Einstellungen WLAN und tragen Adresse und Port ein (meist 192.168.0.10 und 35000). Bei einem Bluetooth-Adapter wählen Sie Bluetooth; beim ersten Lesen oder Messen wählen Sie das Gerät. Bei einem USB- oder seriellen Kabel wählen Sie dieses und den Anschluss; die Geschwindigkeit wird durch Probieren gefunden. Was jede Art braucht und was bei Störungen hilft, sagen die Einstellungen.
+Verbinden: Stecken Sie den Adapter in die Diagnosebuchse des Autos, meist unter dem Lenkrad, und schalten Sie die Zündung ein. Bei einem WLAN-Adapter verbinden Sie diesen Rechner zuerst mit dem Funknetz des Adapters, wählen dann in den Einstellungen WLAN und tragen Adresse und Port ein (meist 192.168.0.10 und 35000). Bei einem Bluetooth-Adapter wählen Sie Bluetooth; beim ersten Lesen oder Messen wählen Sie das Gerät. Bei einem Kabel wählen Sie den Anschluss. Mehr sagen die Kurzhinweise dort.
 
 Fehlercodes: „Codes lesen“ zeigt die gespeicherten Codes mit ihrer Bedeutung, die Motorkontrollleuchte und die Prüfbereitschaft (Readiness). „Codes löschen“ löscht die Codes, schaltet die Leuchte aus und setzt die Prüfbereitschaft zurück; tun Sie das bei stehendem Motor und erst, wenn Sie die Codes notiert haben.
 
@@ -131,7 +131,7 @@ Bitte prüfen Sie:
     </message>
     <message id="ui_start_serial">
         <source></source>
-        <translation>&amp;USB- oder serielles Kabel</translation>
+        <translation>USB- oder serielles &amp;Kabel</translation>
     </message>
     <message id="ui_start_demo">
         <source></source>
@@ -478,15 +478,15 @@ Die Namen der Prüfungen sind englisch.</translation>
     </message>
     <message id="ui_serial">
         <source></source>
-        <translation>&amp;USB- oder serielles Kabel</translation>
+        <translation>USB- oder serielles &amp;Kabel</translation>
     </message>
     <message id="ui_serial_speed">
         <source></source>
-        <translation>Geschwindigkeit:</translation>
+        <translation>Tempo:</translation>
     </message>
     <message id="ui_serial_auto">
         <source></source>
-        <translation>durch Probieren gefunden</translation>
+        <translation>durch Probieren</translation>
     </message>
     <message id="ui_serial_absent">
         <source></source>
@@ -506,7 +506,7 @@ Die Namen der Prüfungen sind englisch.</translation>
     </message>
     <message id="ui_kind_serial">
         <source></source>
-        <translation>Braucht einen freien Anschluss und das Recht daran. Tempo: gut und am gleichmäßigsten. Wenn es nicht geht: Kabel neu einstecken; die Meldung sagt, wer den Anschluss hat oder welche Gruppe ihn benutzen darf.</translation>
+        <translation>Braucht einen freien Anschluss und das Recht daran. Tempo: gut, höchstens das des Kabels. Wenn es nicht geht: Kabel neu einstecken; die Meldung sagt, wer den Anschluss hat oder welche Gruppe ihn benutzen darf.</translation>
     </message>
     <message id="ui_address">
         <source></source>

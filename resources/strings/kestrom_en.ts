@@ -7,7 +7,7 @@
         <source></source>
         <translation>Kestrom reads your car's on-board diagnostics (OBD-II) through an ELM327-type adapter.
 
-Connect: plug the adapter into the car's diagnostic port, usually below the steering wheel, and switch the ignition on. For a Wi-Fi adapter, join the adapter's own wireless network first, then choose Wi-Fi in Preferences and enter its address and port (most use 192.168.0.10 and 35000). For a Bluetooth adapter, choose Bluetooth; the first task you start asks which device to use. For a USB or serial cable, choose that, and its port; the speed is found by trying. Preferences says what each kind needs and what to do when it fails.
+Connect: plug the adapter into the car's diagnostic port, usually below the steering wheel, and switch the ignition on. For a Wi-Fi adapter, join the adapter's own wireless network first, then choose Wi-Fi in Preferences and enter its address and port (most use 192.168.0.10 and 35000). For a Bluetooth adapter, choose Bluetooth; the first task you start asks which device to use. For a cable, choose its port. The tooltips there tell more.
 
 Trouble codes: “Read codes” shows the stored codes with their meaning, the malfunction lamp and the readiness monitors. “Clear codes” erases the codes, switches the lamp off and resets the monitors; do it with the engine off, and only after writing the codes down.
 
@@ -505,7 +505,7 @@ N/A: this car does not have this monitor</translation>
     </message>
     <message id="ui_kind_serial">
         <source></source>
-        <translation>Needs a free port and the right to use it. Speed: good, and the steadiest. When it fails: plug the cable in again; the message tells who has the port or which group may use it.</translation>
+        <translation>Needs a free port and the right to use it. Speed: good, at most that of the cable. When it fails: plug the cable in again; the message tells who has the port or which group may use it.</translation>
     </message>
     <message id="ui_address">
         <source></source>

@@ -7,7 +7,7 @@
         <source></source>
         <translation>Kestrom lee el diagnóstico de a bordo (OBD-II) de su coche mediante un adaptador de tipo ELM327.
 
-Conexión: enchufe el adaptador en la toma de diagnóstico del coche, normalmente bajo el volante, y dé el contacto. Con un adaptador Wi-Fi, conecte primero este equipo a la red inalámbrica del adaptador, elija después Wi-Fi en las preferencias y escriba su dirección y su puerto (casi siempre 192.168.0.10 y 35000). Con un adaptador Bluetooth, elija Bluetooth; la primera tarea que inicie preguntará qué dispositivo usar. Con un cable USB o serie, elíjalo y elija su puerto; la velocidad se halla probando. Las preferencias dicen qué necesita cada tipo y qué hacer si falla.
+Conexión: enchufe el adaptador en la toma de diagnóstico del coche, normalmente bajo el volante, y dé el contacto. Con un adaptador Wi-Fi, conecte primero este equipo a la red inalámbrica del adaptador, elija después Wi-Fi en las preferencias y escriba su dirección y su puerto (casi siempre 192.168.0.10 y 35000). Con un adaptador Bluetooth, elija Bluetooth; la primera tarea que inicie preguntará qué dispositivo usar. Con un cable, elija su puerto. Las ayudas emergentes cuentan más.
 
 Códigos de avería: «Leer códigos» muestra los códigos guardados con su significado, el testigo de avería y el estado de los monitores. «Borrar códigos» borra los códigos, apaga el testigo y pone a cero los monitores; hágalo con el motor parado y solo después de anotar los códigos.
 
@@ -506,7 +506,7 @@ Los nombres de los monitores están en inglés.</translation>
     </message>
     <message id="ui_kind_serial">
         <source></source>
-        <translation>Necesita un puerto libre y permiso para usarlo. Velocidad: buena, y la más constante. Si falla: vuelva a conectar el cable; el mensaje dice quién ocupa el puerto o qué grupo puede usarlo.</translation>
+        <translation>Necesita un puerto libre y permiso para usarlo. Velocidad: buena, como mucho la del cable. Si falla: vuelva a conectar el cable; el mensaje dice quién ocupa el puerto o qué grupo puede usarlo.</translation>
     </message>
     <message id="ui_address">
         <source></source>

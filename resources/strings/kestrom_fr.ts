@@ -7,7 +7,7 @@
         <source></source>
         <translation>Kestrom lit le diagnostic embarqué (OBD-II) de votre voiture au moyen d'un adaptateur de type ELM327.
 
-Connexion : branchez l'adaptateur sur la prise de diagnostic de la voiture, en général sous le volant, et mettez le contact. Avec un adaptateur Wi-Fi, connectez d'abord cet ordinateur au réseau sans fil de l'adaptateur, puis choisissez Wi-Fi dans les préférences et saisissez l'adresse et le port (le plus souvent 192.168.0.10 et 35000). Avec un adaptateur Bluetooth, choisissez Bluetooth ; la première tâche que vous lancez demande quel appareil utiliser. Avec un câble USB ou série, choisissez-le, puis son port ; la vitesse est trouvée par essais. Les préférences disent ce que chaque sorte demande et que faire en cas d'échec.
+Connexion : branchez l'adaptateur sur la prise de diagnostic de la voiture, en général sous le volant, et mettez le contact. Avec un adaptateur Wi-Fi, connectez d'abord cet ordinateur au réseau sans fil de l'adaptateur, puis choisissez Wi-Fi dans les préférences et saisissez l'adresse et le port (le plus souvent 192.168.0.10 et 35000). Avec un adaptateur Bluetooth, choisissez Bluetooth ; la première tâche que vous lancez demande quel appareil utiliser. Avec un câble, choisissez son port. Les infobulles y disent le reste.
 
 Codes défaut : « Lire les codes » affiche les codes enregistrés avec leur signification, le témoin d'anomalie et l'état des moniteurs. « Effacer les codes » efface les codes, éteint le témoin et remet les moniteurs à zéro ; faites-le moteur arrêté, et seulement après avoir noté les codes.
 
@@ -478,7 +478,7 @@ Les noms des moniteurs sont en anglais.</translation>
     </message>
     <message id="ui_serial">
         <source></source>
-        <translation>Câble USB ou &amp;série</translation>
+        <translation>Câble USB &amp;ou série</translation>
     </message>
     <message id="ui_serial_speed">
         <source></source>
@@ -506,7 +506,7 @@ Les noms des moniteurs sont en anglais.</translation>
     </message>
     <message id="ui_kind_serial">
         <source></source>
-        <translation>Demande un port libre et le droit de l'utiliser. Vitesse : bonne, et la plus régulière. En cas d'échec : rebranchez le câble ; le message dit qui occupe le port ou quel groupe peut l'utiliser.</translation>
+        <translation>Demande un port libre et le droit de l'utiliser. Vitesse : bonne, au plus celle du câble. En cas d'échec : rebranchez le câble ; le message dit qui occupe le port ou quel groupe peut l'utiliser.</translation>
     </message>
     <message id="ui_address">
         <source></source>

@@ -2,7 +2,6 @@
 
 #include "bundle.h"
 #include "chrome.h"
-#include "constantes.h"
 #include "display_text.h"
 #include "Ks_lite_delegate.h"
 #include "languages.h"
@@ -92,79 +91,80 @@ QWidget* prefs_view::build_adapter() {
     auto* group = new QGroupBox(ui_text(delegate_, "ui_adapter_group"), root());
     auto* column = new QVBoxLayout(group);
     column->setSpacing(GRID);
-    lastBTCheck_ = new QCheckBox(ui_text(delegate_, "ui_last_bt"), group);
-    lastBTCheck_->setObjectName(QStringLiteral("lastBTCheck"));
-    lastBTCheck_->setToolTip(ui_text(delegate_, "ui_last_bt_hint"));
-    auto* bluetooth_panel = new QWidget(group);
-    auto* indented = new QHBoxLayout(bluetooth_panel);
-    indented->setContentsMargins(3 * GRID, 0, 0, 0);
-    indented->addWidget(lastBTCheck_);
     const struct {
         const char *name, *key;
         std::function<void()>& clicked;
-        QWidget* panel;
+        QWidget* (prefs_view::*panel)(QWidget* group);
     } rows[] = {
-        {"interfaceBluetooth", "ui_bluetooth", on_bluetooth, bluetooth_panel},
-        {"interfaceWifi", "ui_wifi", on_wifi, build_wifi_panel(group)},
-        {"interfaceSerial", "ui_serial", on_serial, build_serial_panel(group)},
+        {"interfaceBluetooth", "ui_bluetooth", on_bluetooth, &prefs_view::build_bluetooth_panel},
+        {"interfaceWifi", "ui_wifi", on_wifi, &prefs_view::build_wifi_panel},
+        {"interfaceSerial", "ui_serial", on_serial, &prefs_view::build_serial_panel},
     };
     for (std::size_t row = 0; row < interfaces_.size(); ++row) {
-        interfaces_[row] = new QRadioButton(ui_text(delegate_, rows[row].key), group);
-        interfaces_[row]->setObjectName(QLatin1String(rows[row].name));
-        interfaces_[row]->setToolTip(ui_text(delegate_, transports()[row].kind_key));
-        QObject::connect(interfaces_[row], &QRadioButton::clicked, root(),
+        auto* choice = new QRadioButton(ui_text(delegate_, rows[row].key), group);
+        choice->setObjectName(QLatin1String(rows[row].name));
+        choice->setToolTip(ui_text(delegate_, transports()[row].kind_key));
+        QObject::connect(choice, &QRadioButton::clicked, root(),
                          [&clicked = rows[row].clicked] { clicked(); });
-        column->addWidget(interfaces_[row]);
-        column->addWidget(rows[row].panel);
+        interfaces_[row] = choice;
+        panels_[row] = (this->*rows[row].panel)(group);
+        column->addWidget(choice);
+        column->addWidget(panels_[row]);
     }
-    kind_ = new QLabel(group);
-    kind_->setWordWrap(true);
-    kind_->setForegroundRole(QPalette::PlaceholderText);
-    column->addWidget(kind_);
     return group;
 }
 
+QWidget* prefs_view::build_bluetooth_panel(QWidget* group) {
+    auto* panel = new QWidget(group);
+    auto* indented = new QHBoxLayout(panel);
+    indented->setContentsMargins(3 * GRID, 0, 0, 0);
+    lastBTCheck_ = new QCheckBox(ui_text(delegate_, "ui_last_bt"), panel);
+    lastBTCheck_->setObjectName(QStringLiteral("lastBTCheck"));
+    lastBTCheck_->setToolTip(ui_text(delegate_, "ui_last_bt_hint"));
+    indented->addWidget(lastBTCheck_);
+    return panel;
+}
+
 QWidget* prefs_view::build_wifi_panel(QWidget* group) {
-    wifiTabView_ = new QWidget(group);
-    wifiTabView_->setObjectName(QStringLiteral("wifiTabView"));
-    auto* form = new QFormLayout(wifiTabView_);
+    auto* panel = new QWidget(group);
+    panel->setObjectName(QStringLiteral("wifiTabView"));
+    auto* form = new QFormLayout(panel);
     form->setContentsMargins(3 * GRID, 0, 0, 0);
     form->setSpacing(GRID);
-    ipLbl_ = new QLineEdit(wifiTabView_);
+    ipLbl_ = new QLineEdit(panel);
     ipLbl_->setObjectName(QStringLiteral("ipLbl"));
-    portsLbl_ = new QLineEdit(wifiTabView_);
+    portsLbl_ = new QLineEdit(panel);
     portsLbl_->setObjectName(QStringLiteral("portsLbl"));
     for (QLineEdit* field : {ipLbl_, portsLbl_})
         field->setMaximumWidth(40 * GRID);
     form->addRow(ui_text(delegate_, "ui_address"), ipLbl_);
     form->addRow(ui_text(delegate_, "ui_port"), portsLbl_);
-    return wifiTabView_;
+    return panel;
 }
 
 QWidget* prefs_view::build_serial_panel(QWidget* group) {
-    serial_panel_ = new QWidget(group);
-    serial_panel_->setObjectName(QStringLiteral("serialPanel"));
-    auto* form = new QFormLayout(serial_panel_);
+    auto* panel = new QWidget(group);
+    panel->setObjectName(QStringLiteral("serialPanel"));
+    auto* form = new QFormLayout(panel);
     form->setContentsMargins(3 * GRID, 0, 0, 0);
     form->setSpacing(GRID);
-    serial_port_ = new QComboBox(serial_panel_);
+    serial_port_ = new QComboBox(panel);
     serial_port_->setObjectName(QStringLiteral("serialPort"));
-    serial_speed_ = new QComboBox(serial_panel_);
+    serial_speed_ = new QComboBox(panel);
     serial_speed_->setObjectName(QStringLiteral("serialSpeed"));
     serial_speed_->addItem(ui_text(delegate_, "ui_serial_auto"), 0);
     for (const long speed : USUAL_SPEEDS)
         serial_speed_->addItem(QString::number(speed), static_cast<int>(speed));
-    for (QComboBox* box : {serial_port_, serial_speed_}) {
-        box->setMaximumWidth(40 * GRID);
-        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        box->setMinimumContentsLength(20); // a cable's own words may be long
-    }
+    // A cable's own words may be long.
+    serial_port_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    serial_port_->setMinimumContentsLength(12);
+    serial_port_->setMaximumWidth(40 * GRID);
     form->addRow(ui_text(delegate_, "ui_port"), serial_port_);
     form->addRow(ui_text(delegate_, "ui_serial_speed"), serial_speed_);
     QObject::connect(serial_port_, &QComboBox::activated, root(), [this] {
         chosen_port_ = serial_port_->currentData().toString().toStdString();
     });
-    return serial_panel_;
+    return panel;
 }
 
 QWidget* prefs_view::build_display() {
@@ -260,11 +260,10 @@ std::size_t prefs_view::interface_row() const {
 }
 
 void prefs_view::show_panel() {
-    const transport& chosen = transports()[interface_row()];
-    wifiTabView_->setVisible(chosen.interface == KS_USE_WIFI && !chosen.serial);
-    serial_panel_->setVisible(chosen.serial);
-    lastBTCheck_->setEnabled(chosen.interface == KS_USE_BT);
-    kind_->setText(ui_text(delegate_, chosen.kind_key));
+    for (std::size_t row = 0; row < panels_.size(); ++row) {
+        panels_[row]->setVisible(interfaces_[row]->isChecked());
+        panels_[row]->setEnabled(interfaces_[row]->isChecked());
+    }
 }
 
 void prefs_view::set_serial(const std::string& path, int speed) {
@@ -297,6 +296,7 @@ void prefs_view::show_serial_ports(const std::vector<serial_port_entry>& ports) 
                                                : ui_text(delegate_, "ui_serial_absent").arg(chosen),
                               chosen);
     serial_port_->setCurrentIndex(serial_port_->findData(chosen));
+    serial_port_->setToolTip(serial_port_->currentText()); // which the box may cut
 }
 
 std::string prefs_view::serial_port() const {

@@ -59,6 +59,7 @@ class prefs_view {
 
   private:
     QWidget* build_adapter();
+    QWidget* build_bluetooth_panel(QWidget* group);
     QWidget* build_wifi_panel(QWidget* group);
     QWidget* build_serial_panel(QWidget* group);
     QWidget* build_display();
@@ -69,9 +70,7 @@ class prefs_view {
     std::vector<pid_row> pids_; // read by the table up to its end
     std::unique_ptr<QWidget> root_;
     std::array<QRadioButton*, 3> interfaces_{};
-    QLabel* kind_ = nullptr;
-    QWidget* wifiTabView_ = nullptr;
-    QWidget* serial_panel_ = nullptr;
+    std::array<QWidget*, 3> panels_{};
     QComboBox* serial_port_ = nullptr;
     QComboBox* serial_speed_ = nullptr;
     std::vector<serial_port_entry> ports_; // as shown

@@ -196,13 +196,13 @@ void myGauge::draw_cur_needle_value(double value, needle look) {
     needle_pixels_ =
         draw_gauge_needle_raw(target, NEEDLE_X, NEEDLE_Y, value / range_scaling, NEEDLE_START,
                               NEEDLE_END, range_lo, range_hi, NEEDLE_WIDTH, NEEDLE_LENGTH, look);
-    changed_ = restored | needle_pixels_;
+    changed_ |= restored | needle_pixels_;
 }
 
 void myGauge::draw_without_needle(face look) {
     if (image_without_needle.isNull())
         return;
-    changed_ = restore_face();
+    changed_ |= restore_face();
     canvas target(image_);
     if (look == face::dimmed) {
         target.painter().setCompositionMode(QPainter::CompositionMode_SourceAtop);

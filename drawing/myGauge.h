@@ -15,6 +15,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <utility>
 
 class bundle;
 class canvas;
@@ -53,8 +54,8 @@ class myGauge {
     void my_set(std::string_view identifier) { imageID_ = identifier; }
     bool isFlipped() const { return false; }
     QSizeF size() const { return gaugeSize; }
-    // The pixels that may have changed since the previous value.
-    const QRect& changed_pixels() const { return changed_; }
+    // The pixels that may differ since this was asked last.
+    QRect take_changed_pixels() { return std::exchange(changed_, {}); }
 
     double get_OBDVal(std::string_view reply) const { return toolies.get_OBDVal(reply); }
     static chart_point scale_point(int x, double this_y, int scr_x, int scr_y, int scr_width,

@@ -20,7 +20,7 @@ class conversation_recorder {
     explicit conversation_recorder(const run_loop& loop) : loop_(loop), started_(loop.now()) {}
 
     // Creates the file, which must not exist yet, with its header; times count from now. `adapter`
-    // is "demo", "wifi" or "bluetooth". Returns the reason of failure.
+    // is "demo", "wifi", "serial" or "bluetooth". Returns the reason of failure.
     std::optional<std::string> start(const std::string& path, const std::string& version,
                                      std::string_view adapter);
 
@@ -28,7 +28,7 @@ class conversation_recorder {
     // Not sent: there was no connection, or it did not accept them.
     void unsent(std::string_view bytes) { note("unsent", bytes); }
     void received(std::string_view bytes) { note("received", bytes); }
-    // `over` is "wifi" or "bluetooth".
+    // `over` is "wifi", "serial" or "bluetooth".
     void connecting(std::string_view over) { event("connecting", "over", over); }
     void opened() { event("open"); }
     void ended() { event("end"); } // by the far end

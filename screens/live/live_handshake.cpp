@@ -3,6 +3,7 @@
 #include "globalVars.h"
 #include "obd_screen.h"
 #include "text.h"
+#include "transports.h"
 
 #include <algorithm>
 
@@ -36,9 +37,7 @@ std::string live_handshake::check_initial_car_reply() {
         connected_2_KS_interface = false;
         next_step_idx = 0;
         screen_.set_status_msg("Timed out .. Try again");
-        screen_.toolies.myMsgBox(screen_.localized(g_connect_with == KS_USE_BT
-                                                       ? "no_reply_from_car_MSG_BT"
-                                                       : "no_reply_from_car_MSG_TCP"));
+        screen_.toolies.myMsgBox(screen_.localized(chosen_transport().car_silent_key));
         return REPLY_REJECTED;
     }
     if (contains(reply, "UNABLE TO CONNECT")) {

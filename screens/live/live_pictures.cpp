@@ -134,7 +134,7 @@ void live_pictures::draw_dial(dial& shown, picture_view& view) {
                                           latest.stale ? needle::greyed : needle::lit);
     else
         shown.gauge.draw_without_needle(face::awaiting);
-    view.set_image(shown.gauge.imageRepresentation(), shown.gauge.changed_pixels());
+    view.set_image(shown.gauge.imageRepresentation(), shown.gauge.take_changed_pixels());
     shown.put_back = shown.changed = false;
 }
 

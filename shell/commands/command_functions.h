@@ -50,4 +50,6 @@ int run_lookup(const desk& work);
 // Searches until the search ends, or for the given time. Needs an application object and runs its
 // event loop. 1 if Bluetooth cannot be used.
 int run_bluetooth_scan(const desk& work);
+// The serial ports that are there, with the names of their cables.
+int run_serial_ports(const desk& work);
 int scan_devices(const desk& work, bluez_devices& devices, double seconds);

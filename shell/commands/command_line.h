@@ -20,8 +20,10 @@ struct cli_request {
     std::string demo_car;                    // empty: the default car
     std::optional<std::string> adapter_host; // with adapter_port, as typed
     std::string adapter_port;
-    std::optional<std::string> bluetooth; // an adapter's address, as typed
-    std::optional<std::string> record;    // the conversation, to this file
+    std::optional<std::string> serial_port; // path of an adapter's device file
+    int serial_speed = 0;                   // 0: found by trying
+    std::optional<std::string> bluetooth;   // an adapter's address, as typed
+    std::optional<std::string> record;      // the conversation, to this file
     std::optional<std::string> settings;
 
     // Window

@@ -1,5 +1,6 @@
 #include "background_picture.h"
 
+#include <QGridLayout>
 #include <QPainter>
 #include <QPushButton>
 #include <QSvgRenderer>
@@ -50,13 +51,17 @@ background_picture::background_picture(const QString& hint, QWidget* parent)
 
 void background_picture::offer(const std::vector<QPushButton*>& buttons) {
     hint_->hide();
-    auto* row = new QHBoxLayout;
-    row->setSpacing(16);
-    row->addStretch(1);
-    for (QPushButton* button : buttons)
-        row->addWidget(button);
-    row->addStretch(1);
-    static_cast<QVBoxLayout*>(layout())->insertLayout(1, row);
+    auto* block = new QGridLayout; // side by side they would be wider than a small window
+    block->setSpacing(16);
+    constexpr int ABREAST = 2;
+    block->setColumnStretch(0, 1);
+    block->setColumnStretch(ABREAST + 1, 1);
+    int place = 0;
+    for (QPushButton* button : buttons) {
+        block->addWidget(button, place / ABREAST, 1 + place % ABREAST);
+        ++place;
+    }
+    static_cast<QVBoxLayout*>(layout())->insertLayout(1, block);
 }
 
 void background_picture::paint_scene() {

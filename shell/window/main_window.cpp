@@ -4,12 +4,12 @@
 #include "background_picture.h"
 #include "bundle.h"
 #include "chrome.h"
-#include "constantes.h"
 #include "export_window.h"
 #include "Ks_lite_delegate.h"
 #include "lookup_window.h"
 #include "mac_toolies.h"
 #include "rail_button.h"
+#include "transports.h"
 #include "user_defaults.h"
 
 #include <QAction>
@@ -82,16 +82,17 @@ void main_window::offer_first_steps(std::function<void()> start_demo) {
         connect(button, &QPushButton::clicked, this, take);
         return button;
     };
-    const auto set_up = [this](int interface) {
-        delegate_.doors().defaults.set_integer(KS_INTERFACE_KEY, interface);
-        delegate_.do_prefs();
-    };
-    back_pic->offer({step("startWifi", "ui_start_wifi", [set_up] { set_up(KS_USE_WIFI); }),
-                     step("startBluetooth", "ui_start_bluetooth", [set_up] { set_up(KS_USE_BT); }),
-                     step("startDemo", "ui_start_demo", [this, start = std::move(start_demo)] {
-                         start();
-                         delegate_.do_read_codes();
-                     })});
+    std::vector<QPushButton*> steps;
+    for (const transport& way : transports())
+        steps.push_back(step(way.first_step, way.first_step_key, [this, &way] {
+            store_transport(way, delegate_.doors().defaults);
+            delegate_.do_prefs();
+        }));
+    steps.push_back(step("startDemo", "ui_start_demo", [this, start = std::move(start_demo)] {
+        start();
+        delegate_.do_read_codes();
+    }));
+    back_pic->offer(steps);
 }
 
 void main_window::build_menu() {

@@ -1,5 +1,4 @@
-// An adapter on two file descriptors: standard input and output, or a pty for a Bluetooth
-// test.
+// An adapter on two file descriptors: standard input and output, or a pseudo-terminal.
 #pragma once
 
 #include "adapter.h"

@@ -1,4 +1,4 @@
-// Random choices determined by a seed.
+// Choices that follow from a seed.
 #pragma once
 
 #include "run_loop.h"
@@ -8,9 +8,9 @@
 #include <chrono>
 #include <cstddef>
 
-class rng {
+class dice {
   public:
-    explicit rng(std::uint64_t seed) : random_(seed) {}
+    explicit dice(std::uint64_t seed) : random_(seed) {}
 
     // From 0 up to, but not including, `count`.
     int below(int count) { return static_cast<int>(random_.next() % static_cast<unsigned>(count)); }

@@ -1481,10 +1481,6 @@ Freie Software unter der MIT-Lizenz.
         <source></source>
         <translation>Das Löschen entfernt auch Umgebungsdaten und Testergebnisse. Der gelesene Bericht enthält sie.</translation>
     </message>
-    <message id="ui_report_show">
-        <source></source>
-        <translation>Bericht zeigen</translation>
-    </message>
     <message id="ui_report_go_on">
         <source></source>
         <translation>Ohne Speichern weiter</translation>
@@ -1492,6 +1488,14 @@ Freie Software unter der MIT-Lizenz.
     <message id="report_none_so_far">
         <source></source>
         <translation>keine, soweit mitgeteilt</translation>
+    </message>
+    <message id="ui_report_save_first">
+        <source></source>
+        <translation>Speichern unter…</translation>
+    </message>
+    <message id="ui_report_text_file">
+        <source></source>
+        <translation>Text</translation>
     </message>
 </context>
 </TS>

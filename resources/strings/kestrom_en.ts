@@ -1480,10 +1480,6 @@ Free software under the MIT licence.
         <source></source>
         <translation>Clearing also erases freeze frames and test results. The report that was read holds them.</translation>
     </message>
-    <message id="ui_report_show">
-        <source></source>
-        <translation>Show the report</translation>
-    </message>
     <message id="ui_report_go_on">
         <source></source>
         <translation>Go on without saving</translation>
@@ -1491,6 +1487,14 @@ Free software under the MIT licence.
     <message id="report_none_so_far">
         <source></source>
         <translation>none, as far as told</translation>
+    </message>
+    <message id="ui_report_save_first">
+        <source></source>
+        <translation>Save as…</translation>
+    </message>
+    <message id="ui_report_text_file">
+        <source></source>
+        <translation>Text</translation>
     </message>
 </context>
 </TS>

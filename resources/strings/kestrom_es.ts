@@ -1481,10 +1481,6 @@ Software libre con licencia MIT.
         <source></source>
         <translation>El borrado elimina también los datos congelados y los resultados de las pruebas. El informe leído los contiene.</translation>
     </message>
-    <message id="ui_report_show">
-        <source></source>
-        <translation>Mostrar el informe</translation>
-    </message>
     <message id="ui_report_go_on">
         <source></source>
         <translation>Continuar sin guardar</translation>
@@ -1492,6 +1488,14 @@ Software libre con licencia MIT.
     <message id="report_none_so_far">
         <source></source>
         <translation>ninguno, según lo comunicado</translation>
+    </message>
+    <message id="ui_report_save_first">
+        <source></source>
+        <translation>Guardar como…</translation>
+    </message>
+    <message id="ui_report_text_file">
+        <source></source>
+        <translation>Texto</translation>
     </message>
 </context>
 </TS>

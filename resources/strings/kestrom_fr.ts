@@ -1481,10 +1481,6 @@ Logiciel libre sous licence MIT.
         <source></source>
         <translation>L'effacement supprime aussi les données figées et les résultats des tests. Le rapport lu les contient.</translation>
     </message>
-    <message id="ui_report_show">
-        <source></source>
-        <translation>Afficher le rapport</translation>
-    </message>
     <message id="ui_report_go_on">
         <source></source>
         <translation>Continuer sans enregistrer</translation>
@@ -1492,6 +1488,14 @@ Logiciel libre sous licence MIT.
     <message id="report_none_so_far">
         <source></source>
         <translation>aucun, pour autant que communiqué</translation>
+    </message>
+    <message id="ui_report_save_first">
+        <source></source>
+        <translation>Enregistrer sous…</translation>
+    </message>
+    <message id="ui_report_text_file">
+        <source></source>
+        <translation>Texte</translation>
     </message>
 </context>
 </TS>

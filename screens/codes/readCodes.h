@@ -62,7 +62,7 @@ class readCodes final : public obd_screen {
     void awakeFromNib();
     void start_task(int task, const std::string& status);
     void forget_last_reading();
-    bool report_wanted_first();
+    bool report_is_safe();
 
     // read_codes_task.cpp
     void work_out_read_codes(int step);

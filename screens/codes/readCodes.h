@@ -87,7 +87,7 @@ class readCodes final : public obd_screen {
     std::vector<code_row> codesReadArray;
     std::vector<readiness_flag> readinessFlagsArray;
     text_dictionary P0_Codes;
-    std::vector<std::string> codes_rcvd;
+    std::vector<std::string> codes_rcvd, units_rcvd; // a unit for each code
     int no_of_codes = 0;
 
     int units_answered_ = 0;

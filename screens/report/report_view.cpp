@@ -140,7 +140,8 @@ void report_view::print() {
     const report_sheet sheet = sheet_to_give();
     const modal_hold hold(delegate_.doors().loop);
     QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(QString::fromStdString(sheet.title + " " + sheet.vin));
+    // Also the name of the file when it is printed into one.
+    printer.setDocName(QString::fromStdString(usual_name(report_to_give(delegate_, toolies_))));
     printer.setPageSize(
         QPageSize(usual_paper() == paper_size::a4 ? QPageSize::A4 : QPageSize::Letter));
     printer.setPageMargins(
@@ -176,6 +177,7 @@ bool report_view::read_report(std::string_view title, car_report& to) {
         return false;
     }
     to = report_of(*heard, toolies_);
+    status_->set_text(ui_text(delegate_, "ui_report_opened").arg(path).toStdString());
     return true;
 }
 

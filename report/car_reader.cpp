@@ -16,9 +16,10 @@ using milliseconds = run_loop::milliseconds;
 constexpr char HEADERS_ON[] = "ATH1", WAIT_LONG[] = "ATAT0", WAIT_AS_LEARNT[] = "ATAT1",
                FIRST_CONTACT[] = "0100";
 constexpr milliseconds ONE_TRY{8000};
-constexpr milliseconds BEFORE_THE_NEXT_TRY{1000}; // of a unit that is busy or not done yet
+constexpr milliseconds BEFORE_THE_NEXT_TRY{
+    1000}; // for a unit that is busy or has deferred its answer
 constexpr int MOST_SILENT = 3;
-constexpr int MOST_TRIES = 2; // of a question that nobody put off
+constexpr int MOST_TRIES = 2; // of a question that no unit deferred
 
 std::string plain_words(std::string_view reply) {
     std::string text;
@@ -52,7 +53,7 @@ void car_reader::start(conversation heard) {
     });
 }
 
-// Each question stands in the list until it has been asked, whatever becomes of it.
+// Each question stays in the list until it has been asked, whatever the outcome.
 void car_reader::next() {
     const std::vector<question> all = wanted(heard_);
     const auto open = std::ranges::find_if(
@@ -121,8 +122,7 @@ void car_reader::take_words(const std::string& reply) {
     piece_.text = readable(plain_words(reply));
 }
 
-// A later try replaces what an earlier one told of the same unit; what only the earlier one told
-// stays.
+// A later try replaces the answers of an earlier one from the same unit; others are kept.
 void car_reader::take_data(const std::string& reply) {
     const reading read = read_reply(asked_->request, reply);
     piece_.refusals.clear();
@@ -147,7 +147,7 @@ void car_reader::take_data(const std::string& reply) {
         piece_.bus = read.bus.form;
 }
 
-// An adapter that says everything twice has heard it once.
+// Duplicate messages count once.
 void car_reader::keep(const unit_reply& told, std::vector<unit_reply>& in) {
     if (std::ranges::find(in, told) != in.end())
         return;
@@ -168,7 +168,7 @@ void car_reader::keep_unread(unread_kind kind, std::string_view text) {
         piece_.unread.push_back({kind, readable(text)});
 }
 
-// Of what every unit should have answered.
+// For questions that every unit should have answered.
 bool car_reader::somebody_missed() const {
     constexpr std::string_view FOR_ALL[] = {"0101", "03", "07", "0A", "020200", "0900"};
     if (!piece_.answered() || std::ranges::find(FOR_ALL, piece_.request) == std::end(FOR_ALL))
@@ -179,8 +179,8 @@ bool car_reader::somebody_missed() const {
     });
 }
 
-// A unit that put its answer off is asked until the bound; damage, and a unit that is silent about
-// what it lists, once more.
+// A unit that deferred its answer is asked again until the time limit; after damage, or silence of
+// a unit about something it lists, once more.
 bool car_reader::worth_repeating() const {
     if (is_adapter_command(asked_->request))
         return false;

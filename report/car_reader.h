@@ -1,6 +1,6 @@
-// Reads all that a car tells of itself, one question after the other on the run loop, never
-// blocking. A question that fails voids nothing; what was heard until an end is kept. Owned by
-// whoever owns the door.
+// Reads everything that a car reports about itself, one question after the other on the run loop,
+// never blocking. A failed question does not affect others; what was received before the end is
+// kept. Owned by the owner of the door.
 #pragma once
 
 #include "conversation.h"
@@ -12,16 +12,16 @@
 #include <string>
 #include <string_view>
 
-// The way to an adapter that is up, with its echo off. An owed reply is the door's business: it
-// must never be taken for the answer to what is asked next.
+// Access to an initialised adapter with its echo off. The door handles owed replies: one must never
+// be taken for the answer to the next request.
 class adapter_door {
   public:
-    // A whole reply up to its prompt; nothing when none came in time.
+    // A complete reply with its prompt; nothing if none came in time.
     using answered = std::function<void(std::optional<std::string> reply)>;
 
     virtual ~adapter_door() = default;
     virtual void ask(const std::string& command, run_loop::milliseconds bound, answered told) = 0;
-    // What was asked is awaited no more; `told` is not called.
+    // Stops waiting for the reply; `told` is not called.
     virtual void give_up() = 0;
 };
 
@@ -35,7 +35,7 @@ class car_reader {
     car_reader(const car_reader&) = delete;
     car_reader& operator=(const car_reader&) = delete;
 
-    // What is asked about, and how much of what is wanted by now has been asked.
+    // The current topic, and how many of the questions known so far have been asked.
     std::function<void(topic about, std::size_t asked, std::size_t wanted)> progress;
     std::function<void()> done;
 
@@ -44,7 +44,7 @@ class car_reader {
     void cancel() { stop(reading_end::cancelled); }
     void link_lost() { stop(reading_end::link_lost); }
     bool running() const { return running_; }
-    // The adapter was told to wait longer for answers, which only a reset undoes.
+    // The adapter's wait was lengthened, which only a reset undoes.
     bool made_adapter_patient() const { return patient_; }
     const conversation& heard() const { return heard_; }
 
@@ -73,6 +73,6 @@ class car_reader {
     std::optional<question> asked_;
     asked_piece piece_;
     int tries_ = 0;
-    int silent_ = 0; // questions in a row that ran into their time-out
+    int silent_ = 0; // consecutive questions that timed out
     run_loop::timer_id waiting_ = 0;
 };

@@ -67,7 +67,7 @@ std::optional<int> car_report::count(part kind, bool& whole) const {
     whole = true;
     for (const unit_report& unit : units) {
         const finding& found = unit.of(kind);
-        // A unit that has no such list has no code in it; any other silence leaves it open.
+        // A unit without such a list has no code in it; any other missing answer leaves it unknown.
         whole = whole && found.told() && found.unread.empty();
         if (found.told())
             codes = codes.value_or(0) +

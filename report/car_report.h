@@ -1,5 +1,5 @@
-// The whole report of a car as data: what each control unit told, and of what it did not tell the
-// reason. Worked out of a conversation; the JSON document and every sheet are renderings of it.
+// The whole report of a car as data: what each control unit reported, and the reason for what it
+// did not. Derived from a conversation; the JSON document and every sheet are renderings of it.
 #pragma once
 
 #include "conversation.h"
@@ -11,10 +11,10 @@
 
 class mac_toolies;
 
-// What became of one thing that a unit was asked for.
+// The outcome of one request to a unit.
 enum class outcome {
     told,
-    not_told, // by this unit, whether or not others did
+    not_told, // by this unit, even if others did
     refused,
     unread,
     not_asked
@@ -23,23 +23,23 @@ std::string_view outcome_name(outcome one);
 
 struct finding {
     outcome result = outcome::not_asked;
-    // Why there is nothing: the refusal ("7F 0A 11"), or one of the WHY_ words.
+    // Why there is no data: the refusal ("7F 0A 11"), or one of the WHY_ words.
     std::string why;
     unread_pieces unread;
     std::string request;
-    std::string raw; // hex digits, messages parted by blanks
+    std::string raw; // hex digits, messages separated by blanks
 
     bool told() const { return result == outcome::told; }
 };
-inline constexpr char WHY_NOT_LISTED[] = "not_listed"; // the unit's own list leaves it out
-inline constexpr char WHY_LISTED[] = "listed";         // which makes its silence odd
+inline constexpr char WHY_NOT_LISTED[] = "not_listed"; // not in the unit's own list
+inline constexpr char WHY_LISTED[] = "listed";         // although in its list
 inline constexpr char WHY_SILENT[] = "no_answer";
 inline constexpr char WHY_TIME_OUT[] = "time_out";
 inline constexpr char WHY_INCOMPLETE[] = "incomplete"; // messages are missing
 inline constexpr char WHY_PUT_OFF[] = "put_off";       // and never answered
-inline constexpr char WHY_ENDED[] = "ended";           // before it was asked
+inline constexpr char WHY_ENDED[] = "ended";           // the reading ended before
 
-// Things that every unit is asked for, each with its finding.
+// What every unit is asked for, each with its finding.
 enum class part {
     status,
     this_drive,
@@ -73,17 +73,17 @@ struct told_code {
 struct told_monitor {
     std::string name;
     bool continuous = false, supported = false, complete = false;
-    std::optional<bool> complete_this_drive; // nothing: not told, or not enabled
+    std::optional<bool> complete_this_drive; // nothing: not reported, or not enabled
 };
 
 enum class verdict { failed, passed, no_result };
 
 struct told_test {
     std::string id;                     // "21/A9", "30/11"
-    std::string monitor, test;          // names; empty where there is none
-    std::string value, lowest, highest; // empty limits: none on that side
+    std::string monitor, test;          // names; empty if none
+    std::string value, lowest, highest; // empty: no limit on that side
     verdict result = verdict::no_result;
-    std::optional<int> nearness; // percent of the way to the limit that is nearest
+    std::optional<int> nearness; // percent of the way to the nearest limit
     std::string raw;
 };
 
@@ -104,11 +104,11 @@ struct unit_report {
     const finding& of(part one) const { return findings[static_cast<std::size_t>(one)]; }
 
     bool lamp_on = false;
-    int announced_codes = 0; // by its status
+    int announced_codes = 0; // from its status
     bool compression = false;
     std::vector<told_monitor> monitors;
     std::vector<told_code> codes;
-    std::string frame_code; // empty: no frame is kept
+    std::string frame_code; // empty: no frame stored
     std::vector<told_value> frame_values;
     std::vector<told_value> readings;
     std::string vin;
@@ -116,8 +116,8 @@ struct unit_report {
     std::vector<calibration> calibrations;
     std::vector<told_counter> counters;
     std::vector<told_test> tests;
-    std::size_t stored_heard = 0; // with those told twice
-    // What it lists or was asked for beside the parts, and did not tell.
+    std::size_t stored_heard = 0; // including duplicates
+    // What it lists or was asked for besides the parts, and did not report.
     std::vector<finding> gaps;
 };
 
@@ -128,13 +128,13 @@ struct monitor_count {
 struct car_report {
     conversation heard;
     std::vector<unit_report> units;
-    std::string vin; // of the first unit that told one
+    std::string vin; // from the first unit that reported one
     std::string adapter, adapter_volts, protocol, protocol_number;
 
-    // Of all units; `whole` turns false where a unit's are missing.
+    // Of all units; `whole` becomes false if a unit's are missing.
     std::optional<bool> lamp(bool& whole) const; // nothing when nobody told; on when any says so
     std::optional<int> count(part kind, bool& whole) const;
-    // Of the engine's unit, or the first that told.
+    // Of the engine's unit, or the first that reported.
     const unit_report* readiness_unit() const;
     std::optional<monitor_count> readiness() const;
     bool all_told() const;

@@ -11,8 +11,8 @@ namespace {
 constexpr unsigned GROUP = 0x20;
 constexpr std::size_t MASK_DIGITS = 8;
 
-// Where a list of supported identifiers begins, in digits: behind service and identifier, and
-// behind a frame or message number where there is one.
+// Where a list of supported identifiers begins, in digits: after service, identifier and any frame
+// or message number.
 std::size_t mask_place(std::string_view service, bool can) {
     const bool numbered = service == "02" || (!can && (service == "06" || service == "09"));
     return numbered ? 6 : 4;
@@ -79,7 +79,7 @@ conversation::id_list conversation::lists(std::string_view unit, std::string_vie
             if (mask.size() < MASK_DIGITS)
                 break;
             bits = hex_value(mask);
-            more = (bits & 1) != 0; // stands for the next list as well as for its number
+            more = (bits & 1) != 0; // means the next list as well as its number
         }
         for (unsigned place = 1; place <= GROUP && group + place < told.listed.size(); ++place) {
             told.reached.set(group + place);

@@ -1,5 +1,5 @@
-// What was asked of a car and what came back, piece by piece: all that a report rests on. Plain
-// data; a saved report holds it, and everything else is worked out of it anew.
+// The requests to a car and its answers, piece by piece: the source of a report. Plain data; a
+// saved report holds it, and everything else is derived from it again.
 #pragma once
 
 #include "constantes.h"
@@ -11,7 +11,7 @@
 #include <vector>
 
 struct unit_reply {
-    std::string unit; // its address: "7E8", "10"; empty where no header told
+    std::string unit; // its address: "7E8", "10"; empty without a header
     std::string data; // capital hex digits, the service byte first
     bool operator==(const unit_reply&) const = default;
 };
@@ -25,7 +25,7 @@ struct asked_piece {
     std::vector<unit_reply> refusals; // "7F0A11"
     unread_pieces unread;
     bus_form bus = bus_form::unknown;
-    std::string text; // what the adapter said to a command of its own
+    std::string text; // the adapter's answer to its own command
     bool timed_out = false;
     int milliseconds = 0;
 
@@ -37,22 +37,22 @@ enum class reading_end { complete, cancelled, time_up, adapter_silent, link_lost
 struct conversation {
     std::string read_at;   // "2026-11-22T18:04:07+01:00"
     std::string program;   // name and version
-    std::string named_bus; // what the adapter called the bus while the link came up; may be empty
+    std::string named_bus; // the adapter's name of the bus during the handshake; may be empty
     std::vector<asked_piece> pieces;
     reading_end end = reading_end::complete;
     int milliseconds = 0;
-    bool vin_hidden = false; // it is no longer in here
+    bool vin_hidden = false; // it has been removed
 
     const asked_piece* find(std::string_view request) const;
-    // Addresses of all that answered or refused anything, the lowest first.
+    // Addresses of all units that answered or refused anything, the lowest first.
     std::vector<std::string> units() const;
     bool anything_told() const; // by the car
-    // On the older buses the first message of an answer has other places for some bytes.
+    // On the older buses the first message of an answer has some bytes at other positions.
     bool on_can() const;
     // The identifiers that a unit says it answers to in a service (01, 02, 06, 09).
     struct id_list {
         std::bitset<256> listed;
-        std::bitset<256> reached; // as far as its lists tell, either way
+        std::bitset<256> reached; // covered by its lists, set or clear
     };
     id_list lists(std::string_view unit, std::string_view service) const;
     std::bitset<256> listed_by_anyone(std::string_view service) const;
@@ -63,8 +63,8 @@ bool is_adapter_command(std::string_view request);
 // "0120" of "01" and 20.
 std::string request_of(std::string_view service, unsigned identifier);
 
-// More than any car has or says; what goes beyond is told of, and not kept.
+// More than any car has or sends; what exceeds it is reported, but not stored.
 inline constexpr std::size_t MOST_UNITS = 16, MOST_ANSWERS = 200, LONGEST_DATA = 8192;
 
-// Takes the last six characters of the car's identification number out of all that was heard.
+// Removes the last six characters of the car's identification number from everything received.
 conversation without_vin(conversation heard);

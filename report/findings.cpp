@@ -30,8 +30,8 @@ finding not_told(std::string_view request, outcome result, std::string why) {
     return found;
 }
 
-// Of a request that was never sent: the unit's list did not call for it, or there was no list, or
-// the reading had ended.
+// For a request that was never sent: the unit's list did not call for it, there was no list, or the
+// reading had ended.
 finding finding_of_unasked(const conversation& heard, std::string_view request,
                            std::string_view unit) {
     const std::string_view service = request.substr(0, 2);
@@ -102,7 +102,7 @@ std::string identity_bytes(const conversation& heard, std::string_view request,
     const asked_piece* piece = heard.find(request);
     if (answers.empty() || !piece)
         return {};
-    if (piece->bus != bus_form::older) // the number of items first
+    if (piece->bus != bus_form::older) // starts with the number of items
         return std::string(slice(std::string_view(answers.front()), IDENTITY_HEAD));
     std::map<unsigned, std::string> messages;
     for (const std::string& one : answers)

@@ -1,4 +1,4 @@
-// What a conversation holds of one unit's answer to one request.
+// One unit's answer to one request, from a conversation.
 #pragma once
 
 #include "car_report.h"
@@ -13,12 +13,12 @@ finding finding_of(const conversation& heard, std::string_view request, std::str
 std::vector<std::string> answers_of(const conversation& heard, std::string_view request,
                                     std::string_view unit);
 
-// What the unit's answer to a service 09 request says, behind service and identifier. On the older
-// buses the messages are numbered from 1 on; `whole` turns false when one is missing.
+// The unit's answer to a service 09 request, after service and identifier. On the older buses the
+// messages are numbered from 1; `whole` becomes false if one is missing.
 std::string identity_bytes(const conversation& heard, std::string_view request,
                            std::string_view unit, bool& whole);
 
-// Each fills in one room of the report.
+// Each fills in one part of the report.
 void fill_status(unit_report& unit, const conversation& heard);
 void fill_codes(unit_report& unit, const conversation& heard, const mac_toolies& toolies);
 void fill_values(unit_report& unit, const conversation& heard, const mac_toolies& toolies);

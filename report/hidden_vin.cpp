@@ -1,4 +1,4 @@
-// The car's identification number without what tells one car from the next of its kind.
+// The car's identification number without the part that identifies the individual car.
 #include "conversation.h"
 #include "hex_digits.h"
 #include "text.h"
@@ -14,7 +14,8 @@ constexpr std::size_t SHOWN = 11, HIDDEN = 6;
 constexpr std::string_view STAR = "2A";
 constexpr std::string_view STARS = "******", STARS_IN_HEX = "2A2A2A2A2A2A";
 
-// The characters that a unit told, in their order: where each one's digits stand. Zeros only fill.
+// The characters that a unit told, in their order: where each one's digits stand. Zeros are
+// padding.
 using characters = std::vector<std::pair<std::string*, std::size_t>>;
 
 characters told_by(asked_piece& piece, const std::string& unit) {
@@ -33,7 +34,7 @@ characters told_by(asked_piece& piece, const std::string& unit) {
     return told;
 }
 
-// Covers what is hidden; answers its digits.
+// Masks the hidden part; returns its digits.
 std::string cover_end(const characters& told) {
     std::string tail;
     for (std::size_t i = 0; i < told.size(); ++i) {
@@ -71,7 +72,7 @@ conversation without_vin(conversation heard) {
     for (asked_piece& piece : heard.pieces) {
         for (unread_piece& one : piece.unread)
             if (one.kind != unread_kind::adapter_notice)
-                one.text = STARS; // any part of it may be in there, be it late
+                one.text = STARS; // may contain any part of it, be it late
         for (const std::string& tail : tails) {
             for (unit_reply& one : piece.answers)
                 cover(one.data, tail, STARS_IN_HEX);

@@ -1,5 +1,5 @@
-// What a unit says of itself: identification number, name, calibrations, counters (service 09 of
-// SAE J1979).
+// What a unit reports about itself: identification number, name, calibrations, counters (service 09
+// of SAE J1979).
 #include "findings.h"
 #include "hex_digits.h"
 #include "text.h"
@@ -15,7 +15,7 @@ constexpr std::size_t CALIBRATION_DIGITS = 32, NUMBER_DIGITS = 8, COUNTER_DIGITS
 constexpr std::size_t MESSAGE_BYTES = 4; // before CAN
 constexpr std::size_t SHORT_NAME = 4;
 
-// Up to the first zero; what is no printable character stands as a dot.
+// Up to the first zero; unprintable characters become dots.
 std::string text_of(std::string_view digits) {
     std::string text;
     for (std::size_t at = 0; at + 2 <= digits.size(); at += 2) {
@@ -27,7 +27,7 @@ std::string text_of(std::string_view digits) {
     return std::string(trimmed(std::string_view(text)));
 }
 
-// Without the zeros that fill up the front before CAN.
+// Without the leading zeros that pad it on the older buses.
 std::string_view behind_zeros(std::string_view digits) {
     while (digits.starts_with("00"))
         digits.remove_prefix(2);
@@ -63,7 +63,7 @@ class identity_reader {
         return piece && piece->bus != bus_form::older;
     }
 
-    // `counted_by`: what says, before CAN, how many messages there are.
+    // `counted_by`: the request that, on the older buses, returns the number of messages.
     items items_of(part one, std::string_view request, std::string_view counted_by = {}) {
         finding& found = unit_.of(one) = finding_of(heard_, request, unit_.address);
         items told;
@@ -148,7 +148,7 @@ class identity_reader {
     const conversation& heard_;
 };
 
-// Beside the first two in pairs: how often done, how often the conditions were met.
+// After the first two, pairs: times completed, times the conditions were met.
 constexpr std::string_view SPARK[] = {"Catalyst, bank 1",
                                       "Catalyst, bank 2",
                                       "O2 sensor, bank 1",

@@ -1,4 +1,4 @@
-// The report that was read or opened last, whatever screen shows: a change of screen loses nothing.
+// The report last read or opened, kept across changes of screen.
 #pragma once
 
 #include "car_report.h"
@@ -8,7 +8,7 @@
 
 struct kept_report {
     std::optional<car_report> report;
-    std::optional<std::uint64_t> link{}; // over which it was read; nothing for one from a file
+    std::optional<std::uint64_t> link{}; // the link it was read over; nothing if from a file
     bool saved = false;
 };
 inline kept_report& last_report() {

@@ -10,16 +10,16 @@ using std::chrono::seconds;
 
 constexpr unsigned GROUP = 0x20, LAST_GROUP = 0xE0;
 constexpr seconds FIRST_CONTACT{20}; // the adapter may look for the bus
-constexpr seconds SLOW_PIECE{20};    // verification numbers are worked out while one waits
+constexpr seconds SLOW_PIECE{20};    // verification numbers are computed on request
 constexpr unsigned VERIFICATION_NUMBERS = 0x06;
 
-// Of service 01, beside status and supported lists.
+// Of service 01, besides status and supported lists.
 constexpr unsigned READINGS[] = {0x41, 0x1C, 0x51, 0x0C, 0x05, 0x42,
                                  0x21, 0x30, 0x31, 0x4D, 0x4E, 0xA6};
 constexpr unsigned IDENTITY[] = {0x02, 0x0A, 0x04, VERIFICATION_NUMBERS, 0x08, 0x0B};
-// Before CAN these say how many messages the next one takes.
+// On the older buses these return the number of messages of the next one.
 constexpr unsigned COUNTED[] = {0x03, 0x05, 0x07};
-// Asked of a car that does not say what it knows of itself.
+// Asked of a car that does not list its identifiers.
 constexpr unsigned ALWAYS_WORTH_IT[] = {0x02, 0x04, VERIFICATION_NUMBERS};
 
 class question_list {
@@ -67,7 +67,7 @@ class question_list {
                    : listed_.emplace(service, so_far_.listed_by_anyone(service)).first->second;
     }
 
-    // The lists of a service, as far as some unit says that there is another.
+    // The lists of a service, as long as a unit announces another.
     void supported(std::string_view service) {
         const std::string frame = service == "02" ? "00" : "";
         for (unsigned group = 0; group <= LAST_GROUP; group += GROUP)
@@ -81,7 +81,7 @@ class question_list {
                 add(request_of("01", pid), pid == 0x41 ? topic::status : topic::readings);
     }
 
-    // Of frame 00, where a unit names the code that it was kept for.
+    // Of frame 00, if a unit reports the code that it was stored for.
     void frames() {
         add("020200", topic::frames);
         const asked_piece* named = so_far_.find("020200");
@@ -90,7 +90,7 @@ class question_list {
             }))
             return;
         supported("02");
-        // Some refuse the list, but not the values: those are of service 01 then.
+        // Some units refuse the list, but not the values: then the list of service 01 is used.
         const std::string_view listed_by = answered("020000") ? "02" : "01";
         for (unsigned pid = 3; pid <= 0xFF; ++pid)
             if (pid % GROUP != 0 && listed(listed_by).test(pid))

@@ -1,5 +1,5 @@
-// What is worth asking of a car, in which order, given what it has told so far. No state: the next
-// question follows from the conversation alone.
+// What to ask a car, and in which order, given its answers so far. No state: the next question
+// depends only on the conversation.
 #pragma once
 
 #include "conversation.h"
@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-// What a question is about, as progress and report name it.
+// The topic of a question, for progress and report.
 enum class topic {
     adapter,
     supported,
@@ -25,9 +25,9 @@ std::string_view topic_name(topic one);
 struct question {
     std::string request;
     topic about;
-    // For all tries together.
+    // The limit for all tries together.
     std::chrono::milliseconds bound{8000};
 };
 
-// All that is wanted by now, what has been asked already included. More may follow from answers.
+// All questions known so far, including those already asked. Answers may add more.
 std::vector<question> wanted(const conversation& so_far);

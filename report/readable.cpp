@@ -6,7 +6,7 @@ namespace {
 
 constexpr qsizetype LONGEST_TEXT = 500;
 
-// Controls, and marks that turn the direction of what stands around them.
+// Control characters, and marks that change the direction of text.
 bool is_invisible(QChar c) {
     return c.category() == QChar::Other_Control || c.category() == QChar::Other_Format ||
            c.category() == QChar::Separator_Line || c.category() == QChar::Separator_Paragraph;

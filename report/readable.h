@@ -1,4 +1,4 @@
-// Foreign text as it may stand in a report: UTF-8, in one line, no longer than makes sense.
+// Makes text from outside fit for a report: UTF-8, one line, limited length.
 #pragma once
 
 #include <string>

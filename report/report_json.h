@@ -1,5 +1,5 @@
-// The report as a JSON document (docs/json/report.schema.json), and back. What a document says of
-// the car is worked out anew from the conversation that it holds.
+// The report as a JSON document (docs/json/report.schema.json), and back. The report of a document
+// is derived again from the conversation that it holds.
 #pragma once
 
 #include "car_report.h"
@@ -10,8 +10,8 @@
 
 inline constexpr int REPORT_VERSION = 1;
 
-// Pretty printed, with a line end behind it. Hidden numbers are the conversation's business.
+// Indented, with a final line end. Numbers are hidden in the conversation, not here.
 std::string report_json(const car_report& report);
 
-// From outside and hostile: nothing, with the reason in `why`, for what is no such document.
+// Hostile input: nothing, with the reason in `why`, if it is not such a document.
 std::optional<conversation> open_report(std::string_view document, std::string& why);

@@ -17,12 +17,12 @@ bool since_cleared(unsigned pid) {
 }
 constexpr unsigned OBD_STANDARD = 0x1C, FUEL = 0x51, ODOMETER = 0xA6, ENGINE_SPEED = 0x0C;
 
-// "2026-11-22T18:04:07+01:00" as people write it.
+// "2026-11-22T18:04:07+01:00" in a readable form.
 std::string moment(const std::string& read_at) {
     return replace_all(replace_all(replace_all(read_at, "T", " "), "+", " +"), "Z", " UTC");
 }
 
-// What different units tell alike stands once.
+// What several units report alike appears once.
 void add_readings(sheet_table& to, const car_report& report, bool (*wanted)(unsigned pid)) {
     for (const unit_report& unit : report.units)
         for (const told_value& one : unit.readings) {
@@ -189,7 +189,7 @@ std::string say(const bundle& texts, std::string_view key,
         const std::size_t place = pattern[at] == '%' && at + 1 < pattern.size()
                                       ? static_cast<std::size_t>(pattern[at + 1] - '1')
                                       : places.size();
-        if (place < places.size()) { // what is put in is not looked at again
+        if (place < places.size()) { // inserted text is not searched again
             text += *(places.begin() + place);
             ++at;
         } else {

@@ -1,5 +1,5 @@
-// The report as a sheet that people read: three facts, then sections of lines and tables. Text,
-// HTML, paper and screen are renderings of this.
+// The report as a readable sheet: three facts, then sections of lines and tables. Text, HTML, paper
+// and screen are renderings of this.
 #pragma once
 
 #include "car_report.h"
@@ -33,7 +33,7 @@ struct sheet_section {
     void heading(std::string text) {
         blocks.push_back({sheet_block::kind::heading, std::move(text)});
     }
-    // One without rows is left out.
+    // A table without rows is left out.
     void table(sheet_table rows) {
         if (!rows.rows.empty())
             blocks.push_back({sheet_block::kind::table, {}, std::move(rows)});
@@ -45,7 +45,7 @@ struct sheet_fact {
 };
 
 struct report_sheet {
-    std::string title, vin, read_at;     // vin: empty when not told
+    std::string title, vin, read_at;     // vin: empty if not reported
     std::vector<std::string> to_fill_in; // by hand, on paper
     std::string signature;
     std::vector<std::string> warnings;
@@ -54,23 +54,23 @@ struct report_sheet {
     std::string foot;
     std::string page; // "Page %1 of %2"
 
-    // Keeps these sections alone.
+    // Keeps only these sections.
     void keep(std::span<const std::string> names);
 };
 
 std::span<const std::string_view> section_names();
 
 report_sheet sheet_of(const car_report& report, const bundle& texts);
-// What came and what went, of what both reports tell.
+// What appeared and disappeared, of what both reports contain.
 report_sheet comparison_of(const car_report& before, const car_report& after, const bundle& texts);
 
-// Why a finding holds nothing, as a sentence.
+// Why a finding is empty, as a sentence.
 std::string why_not(const finding& found, const bundle& texts);
-// Bars of ten, for how near a limit is.
+// A bar of ten, for how close a limit is.
 std::string bar_of(int percent);
 
 std::string sheet_text(const report_sheet& sheet);
-// One file without scripts, pictures or anything from elsewhere.
+// One self-contained file without scripts or pictures.
 std::string sheet_html(const report_sheet& sheet);
-// What of it Qt's rich text understands, for the screen.
+// The subset that Qt's rich text supports, for the screen.
 std::string sheet_rich_text(const report_sheet& sheet);

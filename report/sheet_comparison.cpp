@@ -1,5 +1,5 @@
-// Before and after a repair: what of two reports differs. A list that one of them does not hold
-// lets nothing come or go.
+// Before and after a repair: the differences of two reports. A list missing from one of them yields
+// no differences.
 #include "bundle.h"
 #include "sheet_parts.h"
 #include "text.h"
@@ -9,7 +9,7 @@
 
 namespace {
 
-// What each report says of one thing, by the unit and the thing.
+// What each report says about an item, by unit and item.
 using thing = std::pair<std::string, std::string>;
 struct two_states {
     std::string before, after;

@@ -1,4 +1,4 @@
-// The sheet as HTML. Whatever it holds is text: markup in it is shown, not followed.
+// The sheet as HTML. All contents are text: markup in it is shown, not interpreted.
 #include "sheet.h"
 
 namespace {

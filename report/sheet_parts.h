@@ -1,4 +1,4 @@
-// The sections of a sheet, as sheet.cpp puts them together.
+// The sections of a sheet, assembled by sheet.cpp.
 #pragma once
 
 #include "sheet.h"
@@ -7,7 +7,7 @@
 
 class bundle;
 
-// A text of the strings table, its places filled in.
+// A text of the strings table with its placeholders filled in.
 std::string say(const bundle& texts, std::string_view key,
                 std::initializer_list<std::string> places = {});
 // A monitor or counter in the user's language; what the strings table does not know as it is.

@@ -15,7 +15,7 @@ std::string word(const bundle& texts, std::string_view key) {
     return texts.localized(key);
 }
 
-// "not told", "refused (7F 0A 11)" ...: what stands where a value would.
+// "not told", "refused (7F 0A 11)" ...: the text in place of a value.
 std::string instead(const finding& found, const bundle& texts) {
     return say(texts, "report_" + std::string(outcome_name(found.result)), {found.why});
 }
@@ -29,7 +29,7 @@ sheet_table codes_of(const unit_report& unit, const bundle& texts) {
     for (const told_code& one : unit.codes) {
         std::vector<std::string> row{
             one.code, one.meaning.empty() ? word(texts, "report_unknown_code") : one.meaning};
-        // A tick, nothing for a list that leaves it out, and a dash where there is no list.
+        // A tick, nothing if the list leaves it out, or a dash without a list.
         for (std::size_t kind = 0; kind < CODE_KINDS.size(); ++kind)
             row.push_back(one.kinds[kind] ? TICK
                           : unit.of(CODE_KINDS[kind]).told() &&
@@ -42,7 +42,7 @@ sheet_table codes_of(const unit_report& unit, const bundle& texts) {
     return table;
 }
 
-// What the lists without codes say: none, or why not.
+// Lists without codes: "none", or the reason.
 std::string empty_lists(const unit_report& unit, const bundle& texts) {
     std::string text;
     for (std::size_t kind = 0; kind < CODE_KINDS.size(); ++kind) {
@@ -196,7 +196,7 @@ void counters_section(sheet_section& to, const car_report& report, const bundle&
 
 // Alike for several units: one row.
 void unread_section(sheet_section& to, const car_report& report, const bundle& texts) {
-    std::vector<std::vector<std::string>> rows; // what, how it ended, why, units
+    std::vector<std::vector<std::string>> rows; // what, outcome, reason, units
     const auto add = [&](const std::string& what, const finding& found, const unit_report& unit) {
         std::vector<std::string> row{what, instead(found, texts),
                                      found.result == outcome::refused ? "" : why_not(found, texts),

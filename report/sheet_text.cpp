@@ -5,7 +5,7 @@
 
 namespace {
 
-// Letters, not bytes.
+// Characters, not bytes.
 std::size_t width_of(std::string_view text) {
     return static_cast<std::size_t>(std::ranges::count_if(
         text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));

@@ -83,7 +83,7 @@ told_code& code_named(unit_report& unit, const std::string& code) {
     return unit.codes.back();
 }
 
-// On CAN the number of codes stands in front; the older buses fill a line of three with zeros.
+// On CAN the number of codes comes first; the older buses pad a line of three codes with zeros.
 void take_codes(unit_report& unit, std::string_view answer, std::size_t kind, bool older) {
     for (std::size_t at = older ? 2 : 4; at + CODE_DIGITS <= answer.size(); at += CODE_DIGITS) {
         const std::string_view digits = answer.substr(at, CODE_DIGITS);

@@ -1,5 +1,5 @@
-// Results of the on-board tests (service 06 of SAE J1979), on CAN with their scaling, before it as
-// numbers.
+// Results of the on-board tests (service 06 of SAE J1979), scaled on CAN, as plain numbers on the
+// older buses.
 #include "findings.h"
 #include "hex_digits.h"
 #include "mac_toolies.h"
@@ -17,7 +17,7 @@ constexpr std::size_t RECORD_DIGITS = 18, OLD_DIGITS = 14;
 constexpr unsigned GROUP = 0x20, FIRST_SIGNED = 0x80, SIGN = 0x8000, WHOLE_RANGE = 0x10000;
 constexpr int MOST_PERCENT = 999;
 
-// The number that a word of digits stands for, and what stands for "no limit" on either side.
+// The number in a word of digits, and the values that mean "no limit" on either side.
 struct scale {
     bool is_signed;
     int number(std::string_view word) const {
@@ -48,7 +48,7 @@ std::string scaled(std::string_view scaling, std::string_view word) {
         return without_spare_zeros(text);
     if (has_test_scaling(scaling))
         return without_spare_zeros(mac_toolies::CAN_scale_and_units(scaling, word, true));
-    return std::string(word) + " (" + std::string(scaling) + ")"; // nobody's table has it
+    return std::string(word) + " (" + std::string(scaling) + ")"; // in no table
 }
 
 struct limits {
@@ -62,7 +62,7 @@ verdict verdict_of(const limits& one) {
     return passed ? verdict::passed : verdict::failed;
 }
 
-// How much of the way from a good value to the nearest limit is gone; beyond it more than 100.
+// How far a value is from a good one to the nearest limit, in percent; above 100 beyond it.
 std::optional<int> nearness_of(const limits& one) {
     double share = 0;
     if (one.has_lowest && one.has_highest) {
@@ -80,7 +80,7 @@ std::optional<int> nearness_of(const limits& one) {
     return static_cast<int>(std::min(std::floor(share * 100), double(MOST_PERCENT)));
 }
 
-// The editions of the standard disagree about these two, and most sources know the first meaning.
+// The editions of the standard disagree about these two; most sources use the first meaning.
 constexpr std::pair<std::string_view, std::string_view> TWO_MEANINGS[] = {
     {"B0", "Particulate Filter Monitor, Bank 1 (newer: Misfire Monitor, Cylinder 15)"},
     {"B1", "Particulate Filter Monitor, Bank 2 (newer: Misfire Monitor, Cylinder 16)"}};

@@ -25,7 +25,7 @@ std::string plainly(std::string text) {
     return text;
 }
 
-// `answer`: as of service 01. Empty when it is no whole answer.
+// `answer`: as in service 01. Empty if it is not a complete answer.
 std::string value_text(const std::string& answer, const mac_toolies& toolies) {
     const bool metric = toolies.doors().defaults->boolean(KS_METRIC_UNITS_KEY);
     std::string text = standard_value(answer, metric).text;
@@ -44,11 +44,11 @@ told_value value_of(const conversation& heard, const std::string& request, unsig
     if (value.name == "N/A" || value.name == "NOT FOUND")
         value.name = "PID " + request.substr(2, 2);
     value.found = finding_of(heard, request, unit);
-    const std::size_t head = request.size(); // the frame's number stands behind the PID
+    const std::size_t head = request.size(); // the frame number follows the PID
     for (const std::string& answer : answers_of(heard, request, unit))
         if (answer.size() > head) {
             value.text = value_text("41" + request.substr(2, 2) + answer.substr(head), toolies);
-            if (value.text.empty()) // nobody's table explains it: the bytes themselves
+            if (value.text.empty()) // not in any table: the bytes themselves
                 value.text = answer.substr(head);
         }
     return value;
@@ -63,7 +63,7 @@ void take(unit_report& unit, std::vector<told_value>& to, told_value value) {
         unit.gaps.push_back(std::move(value.found));
 }
 
-// That are unanswered by a unit which answers nothing of the kind are no gaps.
+// A value is not a gap if its unit answers none of that kind.
 bool expected(const finding& list) {
     return list.told() || list.result == outcome::unread;
 }

@@ -23,12 +23,12 @@ QString text_of(const std::string& text) {
     return QString::fromStdString(text);
 }
 
-// A strip as wide as the page that stands on one page as a whole.
+// A strip as wide as the page that is not split between pages.
 struct strip {
     double height = 0;
     std::function<void(double top)> draw;
-    bool keeps_next = false; // a heading is not left alone at the foot
-    int head = -1;           // the strip that is repeated above it on a new page
+    bool keeps_next = false; // a heading is not left alone at the bottom
+    int head = -1;           // the strip repeated above it on a new page
 };
 
 class typesetter {
@@ -142,7 +142,7 @@ class typesetter {
         }
     }
 
-    // Lines for a pen.
+    // Lines to write on.
     void add_lines_to_fill_in(const std::vector<std::string>& labels, double above) {
         const QFont in = font(TEXT_SIZE);
         const double space = above * point_, line = 1.6 * TEXT_SIZE * point_;
@@ -203,7 +203,7 @@ class typesetter {
             add_lines_to_fill_in({sheet_.signature}, 12);
     }
 
-    // Of a heading with all that it must not be parted from.
+    // The height of a heading with everything that must stay with it.
     double height_with_next(std::size_t from) const {
         double height = strips_[from].height;
         while (strips_[from].keeps_next && from + 1 < strips_.size())

@@ -1,5 +1,5 @@
-// The report's sheet on paper: black on white, no row over two pages, with the car's number and
-// "page n of m" on each.
+// The report's sheet on paper: black on white, no row split between pages, with the car's number
+// and "page n of m" on each.
 #pragma once
 
 #include "sheet.h"

@@ -1,4 +1,4 @@
-// The report as the bytes of a file, and onto the disk.
+// The report as the bytes of a file, and saved to disk.
 #pragma once
 
 #include "paper.h"
@@ -10,7 +10,7 @@
 
 enum class rendering { text, html, pdf, json };
 
-// By the end of a file's name; nothing for another one.
+// From the extension of a file name; nothing for an unknown one.
 std::optional<rendering> rendering_named(const std::string& path);
 
 QByteArray rendered(const car_report& report, const report_sheet& sheet, rendering as,
@@ -18,10 +18,11 @@ QByteArray rendered(const car_report& report, const report_sheet& sheet, renderi
 
 // The reason when it failed; what was there before then stays.
 std::optional<std::string> write_whole(const std::string& path, const QByteArray& bytes);
-// Nothing, with the reason, for a file that cannot be read.
+// Nothing, with the reason, if the file cannot be read.
 std::optional<std::string> read_whole(const std::string& path, std::string& why);
 
-// "report_WKE4D19E060******_2026-11-22", without an ending, of characters that any disk takes.
+// "report_WKE4D19E060******_2026-11-22", without extension, in characters that any file system
+// accepts.
 std::string usual_name(const car_report& report);
 
 // "2026-11-22T18:04:07+01:00" of now, and the program's name with its version.

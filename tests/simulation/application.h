@@ -1,5 +1,5 @@
-// One start of the whole program over the virtual clock, with the far end behind its doors. A
-// session starts it once, and again where only a new start helps.
+// One start of the whole program on the virtual clock, with the far end behind its doors. A session
+// starts it once, and again where only a restart helps.
 #pragma once
 
 #include "bundle.h"
@@ -20,17 +20,18 @@
 #include <string>
 
 struct application {
-    application(const std::string& folder, trace& told, ledger& kept, fault_plan& plan)
-        : story(told), book(kept), far(loop, told, kept, plan),
+    application(const std::string& folder, event_trace& events, wire_ledger& answers,
+                fault_plan& plan)
+        : trace(events), ledger(answers), far(loop, events, answers, plan),
           defaults(folder + "/settings.conf") {
-        story.use_clock(&loop);
+        trace.use_clock(&loop);
         reset_global_vars();
         mac_toolies::initialize({&resources(), &defaults, &messages, &notifications,
                                  folder + "/data",
                                  [this] { return wall_clock + loop.now().count() / 1000; }});
         far.serve(bluetooth);
     }
-    // Apart from the constructor: whoever watches the deliveries has to come first.
+    // Separate from the constructor: observers of the deliveries must register first.
     void start() {
         delegate = std::make_unique<Ks_lite_delegate>(
             app_doors{
@@ -39,7 +40,7 @@ struct application {
                 bluetooth},
             all_screens());
     }
-    ~application() { story.use_clock(nullptr); }
+    ~application() { trace.use_clock(nullptr); }
 
     static const bundle& resources() {
         static const bundle compiled_in(":/kestrom", "en_GB");
@@ -51,17 +52,17 @@ struct application {
     widget* find(const char* name) {
         return view()->findChild<widget*>(QLatin1String(name));
     }
-    // The screen, when it is that one.
+    // The current screen if it is that one, else null.
     template <class screen>
     screen* showing(const char* interface_file) {
         return delegate && delegate->current_screen_name() == interface_file
                    ? static_cast<screen*>(delegate->current_screen())
                    : nullptr;
     }
-    bool advance(run_loop::milliseconds span) { return loop.advance(span), !story.failed(); }
+    bool advance(run_loop::milliseconds span) { return loop.advance(span), !trace.failed(); }
 
-    trace& story;
-    ledger& book;
+    event_trace& trace;
+    wire_ledger& ledger;
     std::time_t wall_clock = 1'790'000'000;
     virtual_run_loop loop;
     far_end far;

@@ -1,12 +1,12 @@
-// The disk that a session writes to, and what may be wrong with it. A full disk is a limit on the
-// size of files, which this process sets itself.
+// The disk that a session writes to, and its faults. A full disk is simulated by a limit on the
+// size of files of this process.
 #pragma once
 
 #include <string>
 
 class disk {
   public:
-    // Empties the folder, or makes it.
+    // Empties the folder, or creates it.
     explicit disk(std::string folder);
     ~disk() { mend(); }
     disk(const disk&) = delete;
@@ -14,7 +14,7 @@ class disk {
 
     void fill();
     void remove_logs();
-    // A file stands where the log folder should be.
+    // Puts a file in place of the log folder.
     void block_logs();
     void mend();
 

@@ -36,7 +36,7 @@ class simulated_pair final : public stream_pair {
         while (wanted > 0) {
             auto& [slot, bytes] = incoming_.front();
             const std::string part = bytes.substr(0, wanted);
-            far_.book().delivered(slot, part);
+            far_.ledger().delivered(slot, part);
             chunk += part;
             wanted -= part.size();
             bytes.erase(0, part.size());
@@ -45,7 +45,7 @@ class simulated_pair final : public stream_pair {
         }
         if (waiting_ > 0)
             later(milliseconds(0), [this] { handler_call(STREAM_BYTES_AVAILABLE); });
-        far_.story().note("<", chunk);
+        far_.trace().note("<", chunk);
         return chunk;
     }
     void write(std::string_view bytes) override {
@@ -106,7 +106,7 @@ constexpr milliseconds WIRE_TIME{10};
 constexpr milliseconds FIRST_COMMAND_OR_FAREWELL{1000};
 constexpr std::size_t LONGEST_TRICKLE = 1000;
 
-std::string with_rubbish(std::string bytes, int count, dice& choices) {
+std::string with_rubbish(std::string bytes, int count, rng& choices) {
     for (; count > 0; --count) {
         const char rubbish = choices.byte();
         bytes.insert(static_cast<std::size_t>(choices.below(static_cast<int>(bytes.size()) + 1)), 1,
@@ -117,14 +117,14 @@ std::string with_rubbish(std::string bytes, int count, dice& choices) {
 
 } // namespace
 
-far_end::far_end(virtual_run_loop& loop, trace& story, ledger& book, fault_plan& plan)
-    : loop_(loop), story_(story), book_(book), plan_(plan) {}
+far_end::far_end(virtual_run_loop& loop, event_trace& trace, wire_ledger& ledger, fault_plan& plan)
+    : loop_(loop), trace_(trace), ledger_(ledger), plan_(plan) {}
 
 void far_end::plug_in(const car& the_car, adapter_options options) {
     car_ = the_car;
     options_ = std::move(options);
     adapter_.emplace(car_, options_);
-    slot_ = ledger::NOBODY;
+    slot_ = wire_ledger::UNSOLICITED;
     fate_ = {};
     held_.clear();
 }
@@ -138,7 +138,7 @@ void far_end::after(milliseconds delay, std::function<void()> call) {
     });
 }
 
-// Those that the link arms for what has just happened.
+// Timers that the link arms for what has just happened.
 void far_end::expect_link_timer(milliseconds delay) {
     link_timers_.insert(loop_.now() + delay);
 }
@@ -157,7 +157,7 @@ std::vector<milliseconds> far_end::timers_of_others() const {
 
 std::unique_ptr<stream_pair> far_end::make_streams(const std::string& host, long port) {
     expect_link_timer(TCP_TIME_OUT);
-    expect_link_timer(std::chrono::seconds(g_this_delta)); // of a command that is dropped
+    expect_link_timer(std::chrono::seconds(g_this_delta)); // of a dropped command
     const bool reachable = host.starts_with("10.0.0.") && port >= 35000 && port <= 35009;
     return std::make_unique<simulated_pair>(*this, reachable);
 }
@@ -172,7 +172,7 @@ void far_end::serve(scripted_serial_port& door) {
             expect_link_timer(std::chrono::seconds(g_this_delta));
             if (opens != door.opens)
                 return;
-            // Given up: the event comes all the same.
+            // Given up: the event still comes.
             if (refused || closed != door.closed_channels)
                 return door.channel.open_complete(refused ? 111 : 0);
             channel_ = std::make_shared<client>();
@@ -181,8 +181,8 @@ void far_end::serve(scripted_serial_port& door) {
                     const std::string part = bytes.substr(at, plan_.chunk(bytes.size() - at));
                     at += part.size();
                     after(milliseconds(0), [this, &door, slot, part] {
-                        book_.delivered(slot, part);
-                        story_.note("<", part);
+                        ledger_.delivered(slot, part);
+                        trace_.note("<", part);
                         door.channel.data(part);
                     });
                 }
@@ -201,7 +201,7 @@ void far_end::serve(scripted_serial_port& door) {
     door.when_written = [this, &door](std::string_view bytes) {
         door.written.clear();
         expect_link_timer(std::chrono::seconds(g_this_delta));
-        if (channel_) // the stack takes nothing for a channel that is still opening
+        if (channel_) // the stack accepts nothing for a channel that is still opening
             write(bytes);
     };
 }
@@ -217,31 +217,31 @@ void far_end::connect(const std::shared_ptr<client>& who) {
     wire_free_ = loop_.now();
     mid_reply_ = false;
     adapter_->connection_opened(loop_.now());
-    slot_ = ledger::NOBODY;
+    slot_ = wire_ledger::UNSOLICITED;
     held_.clear();
 }
 
 void far_end::write(std::string_view bytes) {
-    story_.note(">", bytes);
+    trace_.note(">", bytes);
     expect_link_timer(std::chrono::seconds(g_this_delta));
-    story_.expect(!must_be_silent(), "no step runs while an alert is open",
+    trace_.expect(!must_be_silent(), "no step runs while an alert is open",
                   "sent: " + std::string(bytes));
-    slot_ = book_.written(bytes, car_);
+    slot_ = ledger_.written(bytes, car_);
     fate_ = plan_.next_reply();
     if (fate_.damages() || fate_.lost)
-        book_.damaged(slot_);
+        ledger_.damaged(slot_);
     held_.clear();
     passed_ = 0;
     adapter_->receive(bytes, loop_.now());
     pump();
 }
 
-// Passes on what the adapter has to say by now, and comes back when more is due.
+// Passes on the adapter's output that is due, and schedules the next.
 void far_end::pump() {
     for (auto due = adapter_->next_output(); due && *due <= loop_.now();
          due = adapter_->next_output()) {
         const std::string bytes = adapter_->take_output(loop_.now());
-        book_.said(slot_, bytes);
+        ledger_.said(slot_, bytes);
         apply_fate(bytes);
     }
     if (const auto due = adapter_->next_output())
@@ -251,7 +251,7 @@ void far_end::pump() {
 void far_end::apply_fate(std::string bytes) {
     if (fate_.lost)
         return;
-    dice& choices = plan_.choices();
+    rng& choices = plan_.choices();
     if (fate_.cut_at >= 0) {
         const std::size_t room = static_cast<std::size_t>(fate_.cut_at);
         const std::size_t left = room - std::min(room, passed_);
@@ -276,7 +276,7 @@ void far_end::apply_fate(std::string bytes) {
     held_.clear();
 }
 
-// Out of turn, but no two at once: what answers everything twice would soon drown us in answers.
+// Out of turn, but one at a time: duplicating every answer would soon flood the wire.
 void far_end::send_whole(std::size_t slot, const std::string& reply, milliseconds delay) {
     milliseconds due = loop_.now() + WIRE_TIME + delay;
     while (!wholes_due_.insert(due).second)
@@ -287,7 +287,7 @@ void far_end::send_whole(std::size_t slot, const std::string& reply, millisecond
     });
 }
 
-// In its turn behind what is on the wire.
+// Queued after what is on the wire.
 void far_end::send(std::size_t slot, std::string bytes, milliseconds delay) {
     const milliseconds step = fate_.gap;
     const bool in_bytes = step.count() > 0 && bytes.size() <= LONGEST_TRICKLE;
@@ -303,9 +303,9 @@ void far_end::send(std::size_t slot, std::string bytes, milliseconds delay) {
 void far_end::arrive(std::size_t slot, const std::string& bytes, int connection) {
     if (connection != connection_)
         return;
-    if (slot != arriving_ && mid_reply_) { // two answers run into one another
-        book_.damaged(arriving_);
-        book_.damaged(slot);
+    if (slot != arriving_ && mid_reply_) { // two answers overlap
+        ledger_.damaged(arriving_);
+        ledger_.damaged(slot);
     }
     arriving_ = slot;
     mid_reply_ = !bytes.ends_with('>');
@@ -314,8 +314,8 @@ void far_end::arrive(std::size_t slot, const std::string& bytes, int connection)
 }
 
 void far_end::restart_adapter(bool banner) {
-    story_.note("!", banner ? "adapter restarts and says so" : "adapter restarts");
-    book_.damaged(slot_);
+    trace_.note("!", banner ? "adapter restarts and says so" : "adapter restarts");
+    ledger_.damaged(slot_);
     adapter_.emplace(car_, options_);
     adapter_->connection_opened(loop_.now());
     if (banner)
@@ -323,13 +323,13 @@ void far_end::restart_adapter(bool banner) {
 }
 
 void far_end::fall_silent() {
-    story_.note("!", "far end falls silent");
-    book_.damaged(slot_);
+    trace_.note("!", "far end falls silent");
+    ledger_.damaged(slot_);
     client_.reset();
 }
 
 void far_end::hang_up() {
-    story_.note("!", "far end hangs up");
+    trace_.note("!", "far end hangs up");
     const auto who = client_.lock();
     client_.reset();
     expect_link_timer(FIRST_COMMAND_OR_FAREWELL);

@@ -1,6 +1,6 @@
-// The far end of the link: a virtual adapter in a virtual car, and the wire from it, on which the
-// faults of a plan happen. Serves one connection at a time, as a stream pair or as the channel of
-// the scripted Bluetooth door. Keeps the ledger.
+// The far end of the link: a virtual adapter in a virtual car, and the wire from it, where a plan
+// injects faults. Serves one connection at a time, as a stream pair or as the channel of the
+// scripted Bluetooth door. Fills the ledger.
 #pragma once
 
 #include "fault_plan.h"
@@ -18,15 +18,15 @@
 
 class far_end {
   public:
-    // Whoever is connected.
+    // The connected program.
     struct client {
         std::function<void(std::size_t slot, const std::string& bytes)> take;
         std::function<void()> closed;
     };
 
-    far_end(virtual_run_loop& loop, trace& story, ledger& book, fault_plan& plan);
+    far_end(virtual_run_loop& loop, event_trace& trace, wire_ledger& ledger, fault_plan& plan);
 
-    // Another car, and an adapter that has just been given power.
+    // Another car, and an adapter that has just been powered on.
     void plug_in(const car& the_car, adapter_options options);
     std::unique_ptr<stream_pair> make_streams(const std::string& host, long port);
     void serve(scripted_serial_port& door);
@@ -35,9 +35,9 @@ class far_end {
     void restart_adapter(bool banner);
     void hang_up();
     void fall_silent(); // without an event
-    void chatter(std::string bytes) { send(ledger::NOBODY, std::move(bytes), {}); }
+    void chatter(std::string bytes) { send(wire_ledger::UNSOLICITED, std::move(bytes), {}); }
 
-    // Timers that are neither the wire's nor the link's.
+    // Timers that belong neither to the wire nor to the link.
     std::vector<std::chrono::milliseconds> timers_of_others() const;
     void expect_link_timer(std::chrono::milliseconds delay);
 
@@ -45,14 +45,14 @@ class far_end {
     int open_pairs() const { return open_pairs_; }
     fault_plan& plan() { return plan_; }
     void after(std::chrono::milliseconds delay, std::function<void()> call);
-    ledger& book() { return book_; }
-    trace& story() { return story_; }
+    wire_ledger& ledger() { return ledger_; }
+    event_trace& trace() { return trace_; }
 
     // For the connections.
     void connect(const std::shared_ptr<client>& who);
     void write(std::string_view bytes);
     void count_pairs(int more) { open_pairs_ += more; }
-    // Set while no command may leave the program: a dialog is up.
+    // True while no command may leave the program: a dialog is open.
     std::function<bool()> must_be_silent = [] { return false; };
 
   private:
@@ -63,24 +63,24 @@ class far_end {
     void arrive(std::size_t slot, const std::string& bytes, int connection);
 
     virtual_run_loop& loop_;
-    trace& story_;
-    ledger& book_;
+    event_trace& trace_;
+    wire_ledger& ledger_;
     fault_plan& plan_;
     car car_;
     adapter_options options_;
     std::optional<virtual_adapter> adapter_;
     std::weak_ptr<client> client_;
-    std::shared_ptr<client> channel_;   // while a Bluetooth channel is open
-    std::size_t slot_ = ledger::NOBODY; // whose answer the adapter is giving
+    std::shared_ptr<client> channel_;             // while a Bluetooth channel is open
+    std::size_t slot_ = wire_ledger::UNSOLICITED; // of the answer that the adapter is sending
     reply_fate fate_;
-    std::string held_;       // of an overtaken or doubled reply, until its prompt
+    std::string held_;       // of an overtaken or duplicate reply, until its prompt
     std::size_t passed_ = 0; // bytes of the reply
     run_loop::milliseconds wire_free_{0};
-    std::size_t arriving_ = ledger::NOBODY; // whose answer came last
-    bool mid_reply_ = false;                // and has not come to its prompt
+    std::size_t arriving_ = wire_ledger::UNSOLICITED; // of the latest answer
+    bool mid_reply_ = false;                          // whose prompt has not arrived
     std::set<run_loop::milliseconds> wholes_due_;
     std::multiset<std::chrono::milliseconds> own_timers_;
     std::set<std::chrono::milliseconds> link_timers_;
     int open_pairs_ = 0;
-    int connection_ = 0; // counts them: what is under way on one does not reach the next
+    int connection_ = 0; // number of the current one: bytes under way do not reach the next
 };

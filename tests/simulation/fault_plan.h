@@ -1,20 +1,20 @@
-// What goes wrong in one session: drawn once from the seed, asked for each reply and connection.
+// The faults of one session: drawn once from the seed, applied to each reply and connection.
 #pragma once
 
-#include "dice.h"
+#include "rng.h"
 #include "virtual_adapter.h"
 
 #include <chrono>
 #include <string>
 
-// What becomes of one reply on the wire.
+// The fate of one reply on the wire.
 struct reply_fate {
     std::chrono::milliseconds delay{0};
     bool overtaken = false; // later replies do not wait for it
     bool lost = false;
     int twice_after = -1;    // milliseconds; -1: sent once
     int cut_at = -1;         // bytes; -1: whole
-    int rubbish = 0;         // bytes strewn in
+    int rubbish = 0;         // bytes inserted
     int percent_dropped = 0; // of its bytes
     bool crlf = false;
     std::chrono::milliseconds gap{0}; // between its bytes
@@ -26,18 +26,18 @@ class fault_plan {
   public:
     explicit fault_plan(std::uint64_t seed);
 
-    // Faults of the adapter and of the car, which it knows of itself.
+    // Faults that the adapter and the car implement themselves.
     adapter_options adapter();
     // No more faults from now on.
     void stop();
 
     reply_fate next_reply();
-    // How much of what waits one read gets.
+    // How many of the waiting bytes one read returns.
     std::size_t chunk(std::size_t waiting);
-    // A connection: refused, and how long it takes.
-    bool refuses() { return dice_.happens(refused_); }
+    // Whether a connection is refused, and how long it takes.
+    bool refuses() { return rng_.happens(refused_); }
     std::chrono::milliseconds opening();
-    // Now and then: the adapter restarts, the connection breaks, somebody speaks unasked ...
+    // Now and then: the adapter restarts, the connection breaks, unsolicited output ...
     enum class incident {
         none,
         reset,
@@ -54,10 +54,10 @@ class fault_plan {
     };
     incident next_incident();
 
-    dice& choices() { return dice_; }
+    rng& choices() { return rng_; }
 
   private:
-    dice dice_;
+    rng rng_;
     // In percent of replies.
     int delayed_ = 0, overtaken_ = 0, lost_ = 0, twice_ = 0, cut_ = 0, rubbish_ = 0, dropped_ = 0,
         crlf_ = 0, trickled_ = 0;

@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::size_t MOST_KEPT = 1 << 16; // of one answer
 
-// Calls with every line, until one answers true.
+// Calls with every line, until it returns true.
 template <class call>
 bool any_line(std::string_view text, call fits) {
     const std::string lines = bare(text);
@@ -40,7 +40,7 @@ bool all_hex(std::string_view text) {
 }
 
 bool answer_slot::holds(std::string_view line) const {
-    // Behind a header whose digits went into another reply.
+    // After a header whose digits went into another reply.
     if (any_line(said, [&](std::string_view one) { return one.ends_with(line); }))
         return true;
     return damaged && all_hex(line) && bare(arrived).find(line) != std::string::npos &&
@@ -48,10 +48,10 @@ bool answer_slot::holds(std::string_view line) const {
 }
 
 bool answer_slot::holds_digits(std::string_view digits) const {
-    std::string run; // the digits of all lines, without the numbers of frames
+    std::string run; // the digits of all lines, without frame numbers
     any_line(arrived, [&](std::string_view line) {
         run += line.size() > 1 && line[1] == ':' ? line.substr(2) : line;
-        if (line.starts_with("0:") && line.size() == 15) // thirteen lose the fifth, on purpose
+        if (line.starts_with("0:") && line.size() == 15) // thirteen lose the fifth, deliberately
             run.erase(run.size() - 9, 1);
         return false;
     });
@@ -83,7 +83,7 @@ std::vector<std::string> answer_slot::messages() const {
         if (line.size() < header + 4)
             return false;
         std::string_view data = line.substr(header);
-        if (header == 6) { // with a checksum behind
+        if (header == 6) { // followed by a checksum
             whole.emplace_back(data.substr(0, data.size() - 2));
             return false;
         }
@@ -114,7 +114,7 @@ bool answer_slot::asks_for(std::string_view pid) const {
     return false;
 }
 
-const answer_slot* ledger::asked_for(std::string_view pid, std::uint64_t before) const {
+const answer_slot* wire_ledger::asked_for(std::string_view pid, std::uint64_t before) const {
     for (std::size_t i = slots_.size(); i-- > 1;)
         if (slots_[i].written < before && slots_[i].asks_for(pid))
             return &slots_[i];
@@ -145,12 +145,12 @@ std::vector<std::string> answer_slot::status_digits() const {
     return found;
 }
 
-void ledger::forget() {
+void wire_ledger::forget() {
     slots_.assign(1, {});
     moment_ = 0;
 }
 
-std::size_t ledger::written(std::string_view command, const car& asked) {
+std::size_t wire_ledger::written(std::string_view command, const car& asked) {
     answer_slot slot;
     for (const char c : bare(command))
         if (c != '\r')
@@ -162,19 +162,19 @@ std::size_t ledger::written(std::string_view command, const car& asked) {
     return slots_.size() - 1;
 }
 
-void ledger::delivered(std::size_t slot, std::string_view bytes) {
+void wire_ledger::delivered(std::size_t slot, std::string_view bytes) {
     if (bytes.empty())
         return;
     slots_[slot].delivered = ++moment_;
     keep(slots_[slot].arrived, bytes);
 }
 
-bool ledger::in_time(const answer_slot& slot) const {
+bool wire_ledger::in_time(const answer_slot& slot) const {
     const answer_slot* const next = &slot + 1;
     return slot.delivered > 0 && (&slot == &slots_.back() || slot.delivered < next->written);
 }
 
-const answer_slot* ledger::asked(std::string_view command, std::uint64_t before) const {
+const answer_slot* wire_ledger::asked(std::string_view command, std::uint64_t before) const {
     for (auto slot = slots_.rbegin(); slot != slots_.rend(); ++slot)
         if (slot->written < before && slot->command == command)
             return &*slot;

@@ -1,6 +1,6 @@
-// What was said on the wire in answer to what, kept on the adapter's side: what the program shows
-// is held against it. Every command opens a slot; every byte from the adapter belongs to the slot
-// of the command it answers, whatever a fault makes of it on the way.
+// Which reply answered which command, recorded on the adapter's side to check what the program
+// shows. Every command opens a slot; every byte from the adapter belongs to the slot of the command
+// it answers, whatever a fault makes of it on the way.
 #pragma once
 
 #include "car_truth.h"
@@ -13,39 +13,39 @@
 
 struct answer_slot {
     std::string command;         // without blanks and line end, in capitals
-    std::uint64_t written = 0;   // moments count up with every write and every delivery
-    std::uint64_t delivered = 0; // the moment of the last byte, 0 while there is none
+    std::uint64_t written = 0;   // moments increase with every write and delivery
+    std::uint64_t delivered = 0; // the moment of the last byte, 0 if none
     std::string said;            // by the adapter
     std::string arrived;         // at the program
     bool damaged = false;        // a fault has changed, left out or added bytes
-    truth car;                   // at that moment, when it was asked for codes or status
+    truth car;                   // at that moment, if asked for codes or status
 
     bool complete() const { return arrived.ends_with('>') && !damaged; }
-    // The line, without blanks, was said; or bytes were changed on the way so that nobody can tell
-    // it from one: all of it hexadecimal and of a length that was said.
+    // The line, without blanks, was sent; or bytes were changed so that it is indistinguishable:
+    // all hexadecimal, and as long as a line that was sent.
     bool holds(std::string_view line) const;
-    // The digits stand in what arrived, whatever frames and headers are around them.
+    // The digits occur in what arrived, apart from frames and headers.
     bool holds_digits(std::string_view digits) const;
-    // The frames of some unit, headers on, put together hold the digits.
+    // The assembled frames of a unit, with headers on, contain the digits.
     bool tells(std::string_view digits) const;
-    // What the units said, headers on, each message put together and without what fills its frames.
+    // The messages of the units, with headers on, each assembled and without padding.
     std::vector<std::string> messages() const;
-    // It asked for that parameter, alone or among others.
+    // Whether it requests that parameter, alone or among others.
     bool asks_for(std::string_view pid) const;
-    // Nothing happened to it, and the adapter said nothing but data.
+    // No fault happened to it, and the adapter sent only data.
     bool sound() const;
-    // A fault made of it what could have been sent: lines are gone as a whole, or have other digits
-    // and as many.
+    // A fault turned it into what could have been sent: whole lines are missing, or have as many
+    // but different digits.
     bool passes_for_another() const;
-    // What stands behind every "4101" in the lines that arrived.
+    // What follows each "4101" in the lines that arrived.
     std::vector<std::string> status_digits() const;
 };
 
-class ledger {
+class wire_ledger {
   public:
-    static constexpr std::size_t NOBODY = 0; // the slot of what was said unasked
+    static constexpr std::size_t UNSOLICITED = 0; // the slot of unsolicited output
 
-    ledger() { forget(); }
+    wire_ledger() { forget(); }
     void forget();
     // The number of the new slot.
     std::size_t written(std::string_view command, const car& asked);
@@ -56,16 +56,16 @@ class ledger {
     std::uint64_t moment() const { return moment_; }
     std::size_t commands() const { return slots_.size() - 1; }
     const answer_slot& last() const { return slots_.back(); }
-    // The newest slot of that command that was written before the moment; nothing without one.
+    // The newest slot of that command written before the moment; null if none.
     const answer_slot* asked(std::string_view command, std::uint64_t before) const;
 
-    // All of it came before anything else was asked.
+    // Whether all of it arrived before the next command.
     bool in_time(const answer_slot& slot) const;
-    // The newest slot that asked for that parameter before the moment.
+    // The newest slot that requested that parameter before the moment.
     const answer_slot* asked_for(std::string_view pid, std::uint64_t before) const;
 
-    // Calls with each slot of a command that begins so of which anything was delivered after the
-    // moment, the newest first, until one answers true.
+    // Calls `fits` with each slot whose command begins like that and of which anything was
+    // delivered after the moment, the newest first, until it returns true.
     template <class call>
     bool any_answer(std::string_view command, std::uint64_t after, call fits) const {
         for (std::size_t i = slots_.size(); i-- > 0;)

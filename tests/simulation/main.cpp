@@ -22,10 +22,10 @@ namespace {
 
 struct wishes {
     std::uint64_t from = 1, to = 100;
-    double minutes = 0; // 0: no bound
+    double minutes = 0; // 0: no limit
     long cycles = 0;
     bool print = false;
-    bool twice = false; // each seed, and compare
+    bool twice = false; // run each seed twice and compare
 };
 
 wishes read_wishes(int argc, char** argv) {
@@ -62,7 +62,7 @@ void tell_replay() {
     std::fflush(stdout);
 }
 
-// What ends a session from outside leaves its seed behind.
+// A session ended from outside still reports its seed.
 void tell_end() {
     std::printf("seed %lu did not come to its end\n", seed_under_way);
     tell_replay();
@@ -99,7 +99,7 @@ int main(int argc, char** argv) {
     const wishes asked = read_wishes(argc, argv);
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication::setStyle(QStringLiteral("windows")); // the quickest
+    QApplication::setStyle(QStringLiteral("windows")); // the fastest
     qInstallMessageHandler(say_nothing);
     const QApplication application(argc, argv);
     program = argv[0];

@@ -59,9 +59,9 @@ bool plain_in_log(char c) {
     return c >= ' ' && c <= '~' && c != ',';
 }
 
-// Whether a field of the log reads as that reply does: as long, the same where it is plain text,
-// and the same answer or none.
-bool field_tells(std::string_view field, std::string_view reply) {
+// Whether a field of the log matches that reply: as long, the same where it is plain text, and the
+// same answer or none.
+bool field_matches(std::string_view field, std::string_view reply) {
     if (reply.empty())
         return field == "~";
     const auto alike = [](char in_log, char came) {
@@ -71,14 +71,14 @@ bool field_tells(std::string_view field, std::string_view reply) {
 }
 
 // Whether the text is one line for each cycle and one field for each of its replies.
-bool log_tells(const std::string& text, const std::vector<std::vector<std::string>>& cycles) {
+bool log_matches(const std::string& text, const std::vector<std::vector<std::string>>& cycles) {
     std::istringstream log(text);
     std::string line;
     for (const auto& replies : cycles) {
         if (!std::getline(log, line) || log.eof())
             return false;
         const auto fields = split(line, ",");
-        if (!std::ranges::equal(fields, replies, field_tells))
+        if (!std::ranges::equal(fields, replies, field_matches))
             return false;
     }
     return !std::getline(log, line);
@@ -90,7 +90,7 @@ std::optional<unsigned> hex_byte(const std::string& digits, std::size_t at) {
     return static_cast<unsigned>(std::stoul(digits.substr(at, 2), nullptr, 16));
 }
 
-bool digits_tell_states(const std::string& digits, const std::vector<std::string>& states) {
+bool digits_give_states(const std::string& digits, const std::vector<std::string>& states) {
     const auto b = hex_byte(digits, 2), c = hex_byte(digits, 4), d = hex_byte(digits, 6);
     if (!b || !c)
         return false;
@@ -119,24 +119,24 @@ void promises::started() {
         app_.notifications.add_observer(OBD_EVENT, [this](const std::string&) { delivery_ends(); });
     app_.delegate->screen_changed = [this] { screen_changed(); };
     app_.delegate->status_shown = [this](const std::string& text) {
-        app_.story.note("status", text);
-        app_.story.expect(!app_.loop.held(), SILENT_UNDER_ALERT, "status: " + text);
+        app_.trace.note("status", text);
+        app_.trace.expect(!app_.loop.held(), SILENT_UNDER_ALERT, "status: " + text);
     };
 }
 
 void promises::delivery_begins() {
-    app_.story.expect(++depth_ == 1, NEVER_NESTED, "a chunk came while one was being handled");
-    app_.story.expect(!app_.loop.held(), SILENT_UNDER_ALERT, "a chunk was delivered");
-    delivery_began_ = app_.book.moment();
+    app_.trace.expect(++depth_ == 1, NEVER_NESTED, "a chunk came while one was being handled");
+    app_.trace.expect(!app_.loop.held(), SILENT_UNDER_ALERT, "a chunk was delivered");
+    delivery_began_ = app_.ledger.moment();
 }
 
 void promises::delivery_ends() {
     --depth_;
-    hold_now();
+    check_now();
 }
 
 void promises::screen_changed() {
-    app_.story.note("screen", app_.delegate->current_screen_name());
+    app_.trace.note("screen", app_.delegate->current_screen_name());
     codes_shown_.clear();
     status_shown_.clear();
     end_checked_ = false;
@@ -146,10 +146,10 @@ void promises::screen_changed() {
         live->cycle_completed = [this, live](const auto&) { cycle_announced(*live); };
 }
 
-void promises::hold_now() {
-    app_.story.expect(odb_curReplyBuffyMsg.size() <= LONGEST_REPLY + CHUNK, BOUNDED,
+void promises::check_now() {
+    app_.trace.expect(odb_curReplyBuffyMsg.size() <= LONGEST_REPLY + CHUNK, BOUNDED,
                       "the accumulator holds " + std::to_string(odb_curReplyBuffyMsg.size()));
-    app_.story.expect(odb_curReplyMsg.size() <= LONGEST_REPLY + CHUNK, BOUNDED, "the last reply");
+    app_.trace.expect(odb_curReplyMsg.size() <= LONGEST_REPLY + CHUNK, BOUNDED, "the last reply");
     if (auto* const codes = app_.showing<readCodes>(READ_CODES_VIEW))
         codes_are_true(*codes);
     else if (auto* const live = app_.showing<actions>(ACTIONS_VIEW))
@@ -157,7 +157,7 @@ void promises::hold_now() {
     else if (auto* const report = app_.showing<report_screen>(REPORT_VIEW))
         report_is_true(*report);
     else if (app_.showing<screen_controller>(EXPERT_VIEW))
-        app_.story.expect(app_.find<QPlainTextEdit>("replyTxt")->document()->characterCount() <=
+        app_.trace.expect(app_.find<QPlainTextEdit>("replyTxt")->document()->characterCount() <=
                               TRANSCRIPT_BOUND,
                           BOUNDED, "the transcript");
 }
@@ -169,13 +169,13 @@ void promises::codes_are_true(readCodes& screen) {
     for (const code_row& row : shown.codes)
         codes += " " + row[0];
     if (codes != codes_shown_) {
-        app_.story.note("shown", codes_shown_ = codes);
+        app_.trace.note("shown", codes_shown_ = codes);
         for (const code_row& row : shown.codes)
-            app_.story.expect(code_was_sent(row[0]), TRUE_CODES, row[0]);
+            app_.trace.expect(code_was_sent(row[0]), TRUE_CODES, row[0]);
     }
     std::string status = shown.lamp + (shown.count ? std::to_string(*shown.count) : "-");
     if (status != status_shown_) {
-        app_.story.note("shown", status_shown_ = status);
+        app_.trace.note("shown", status_shown_ = status);
         status_is_true(shown);
     }
     std::vector<std::string> states;
@@ -183,16 +183,16 @@ void promises::codes_are_true(readCodes& screen) {
         states.push_back(flag.state);
     if (states != states_shown_) {
         states_shown_ = states;
-        app_.story.expect(states.empty() ||
-                              car_told([&](const truth& car) { return car.states == states; },
-                                       [&](const std::string& digits) {
-                                           return digits_tell_states(digits, states);
-                                       }),
+        app_.trace.expect(states.empty() ||
+                              car_reported([&](const truth& car) { return car.states == states; },
+                                           [&](const std::string& digits) {
+                                               return digits_give_states(digits, states);
+                                           }),
                           TRUE_CODES, "readiness");
     }
 }
 
-// Once for each reading, as it ends. "NO DATA" is how old cars put it that nothing is stored.
+// Once for each reading, when it ends. Old cars say "NO DATA" when nothing is stored.
 void promises::none_means_none(readCodes& screen, const codes_report& shown) {
     if (end_checked_ == shown.codes_told)
         return;
@@ -203,22 +203,22 @@ void promises::none_means_none(readCodes& screen, const codes_report& shown) {
     for (const code_row& row : shown.codes)
         codes.insert(row[0]);
     const bool whole = shown.unread.empty();
-    app_.story.note("shown", whole ? "all was read" : "not all was read");
-    app_.story.expect(whole == screen.succeeded() &&
+    app_.trace.note("shown", whole ? "all was read" : "not all was read");
+    app_.trace.expect(whole == screen.succeeded() &&
                           (whole || !screen.status().starts_with("Codes read!.")) &&
                           whole == app_.find<QWidget>("unreadMark")->isHidden(),
                       NONE_MEANS_NONE, "unread pieces against " + screen.status());
-    const auto told_so = [&](const answer_slot& slot) {
+    const auto accounts_for_it = [&](const answer_slot& slot) {
         return slot.car.codes == codes || slot.passes_for_another() ||
                (codes.empty() && bare(slot.said).find("NODATA") != std::string::npos);
     };
-    app_.story.expect(!whole || app_.book.any_answer("03", task_began_, told_so), NONE_MEANS_NONE,
-                      std::to_string(codes.size()) + " codes, nothing unread");
+    app_.trace.expect(!whole || app_.ledger.any_answer("03", task_began_, accounts_for_it),
+                      NONE_MEANS_NONE, std::to_string(codes.size()) + " codes, nothing unread");
     for (const unread_piece& one : shown.unread)
         if (one.kind == unread_kind::left_out)
             codes.insert(one.text);
-    const answer_slot* const last = app_.book.asked("03", app_.book.moment() + 1);
-    app_.story.expect(!last || last->written < task_began_ || !last->sound() ||
+    const answer_slot* const last = app_.ledger.asked("03", app_.ledger.moment() + 1);
+    app_.trace.expect(!last || last->written < task_began_ || !last->sound() ||
                           std::ranges::all_of(last->car.codes,
                                               [&](const std::string& code) {
                                                   return codes.contains(code) ||
@@ -229,24 +229,24 @@ void promises::none_means_none(readCodes& screen, const codes_report& shown) {
 }
 
 bool promises::code_was_sent(const std::string& code) const {
-    return app_.book.any_answer("03", task_began_, [&](const answer_slot& slot) {
+    return app_.ledger.any_answer("03", task_began_, [&](const answer_slot& slot) {
         return slot.car.codes.contains(code) ||
                (slot.damaged && slot.holds_digits(code_digits(code)));
     });
 }
 
-// An answer to this task's question for the status says so: the car's own, or, when it was changed
-// on the way, the digits that arrived.
-bool promises::car_told(const std::function<bool(const truth&)>& fits,
-                        const std::function<bool(const std::string& digits)>& reads) const {
-    return app_.book.any_answer("0101", task_began_, [&](const answer_slot& slot) {
+// Whether an answer to this task's status request says so: the car's own or, if it was changed on
+// the way, the digits that arrived.
+bool promises::car_reported(const std::function<bool(const truth&)>& fits,
+                            const std::function<bool(const std::string& digits)>& reads) const {
+    return app_.ledger.any_answer("0101", task_began_, [&](const answer_slot& slot) {
         return fits(slot.car) || (slot.damaged && std::ranges::any_of(slot.status_digits(), reads));
     });
 }
 
-// The numbers that some of the units told add up to it: one that is not heard adds nothing.
+// Whether the counts of some of the units add up to it: a unit that is not heard adds nothing.
 bool promises::count_was_sent(int count) const {
-    return app_.book.any_answer("0101", task_began_, [&](const answer_slot& slot) {
+    return app_.ledger.any_answer("0101", task_began_, [&](const answer_slot& slot) {
         std::set<int> sums{0};
         for (const std::string& digits : slot.status_digits())
             if (const auto byte = hex_byte(digits, 0); byte && (*byte & 0x80))
@@ -258,35 +258,36 @@ bool promises::count_was_sent(int count) const {
 
 void promises::status_is_true(const codes_report& shown) {
     if (shown.lamp == "ON" || shown.lamp == "OFF")
-        app_.story.expect(car_told([&](const truth& car) { return car.lamp == shown.lamp; },
-                                   [&](const std::string& digits) {
-                                       const auto byte = hex_byte(digits, 0);
-                                       return byte && ((*byte & 0x80) != 0) == (shown.lamp == "ON");
-                                   }),
+        app_.trace.expect(car_reported([&](const truth& car) { return car.lamp == shown.lamp; },
+                                       [&](const std::string& digits) {
+                                           const auto byte = hex_byte(digits, 0);
+                                           return byte &&
+                                                  ((*byte & 0x80) != 0) == (shown.lamp == "ON");
+                                       }),
                           TRUE_CODES, "lamp " + shown.lamp);
     if (shown.count && !shown.lamp.empty())
-        app_.story.expect(count_was_sent(*shown.count), TRUE_CODES,
+        app_.trace.expect(count_was_sent(*shown.count), TRUE_CODES,
                           "count " + std::to_string(*shown.count));
 }
 
-// Since the parameter was asked for last an answer arrived that holds the text. Text behind a
-// prompt is kept for the next reply on purpose: an answer that came twice in one piece may be that
-// of the request before. An adapter that answers another request with this parameter's value has
-// told it. Asked for among others, or with a digit behind, nothing but the answer to that request
-// will do.
+// Whether an answer with the text has arrived since the parameter was last requested. Text after a
+// prompt is deliberately kept for the next reply, so a duplicate answer in one piece may be that of
+// the previous request. An adapter that answers another request with this parameter's value has
+// reported it. For a combined request, or one with a digit, only the answer to that very request
+// counts.
 bool promises::was_answered(const std::string& pid, const std::string& text) const {
-    if (const answer_slot* const last = app_.book.asked_for(pid, delivery_began_);
+    if (const answer_slot* const last = app_.ledger.asked_for(pid, delivery_began_);
         last && last->command != "01" + pid)
         return answers_parameter(text, pid) &&
-               app_.book.any_answer("01", last->written, [&](const answer_slot& slot) {
+               app_.ledger.any_answer("01", last->written, [&](const answer_slot& slot) {
                    return slot.written >= last->written && slot.tells(text.substr(2));
                });
-    const answer_slot* asked = app_.book.asked("01" + pid, delivery_began_);
+    const answer_slot* asked = app_.ledger.asked("01" + pid, delivery_began_);
     if (asked)
-        if (const answer_slot* const before = app_.book.asked("01" + pid, asked->written))
+        if (const answer_slot* const before = app_.ledger.asked("01" + pid, asked->written))
             asked = before;
     return asked && answers_parameter(text, pid) &&
-           app_.book.any_answer("01", asked->written, [&](const answer_slot& slot) {
+           app_.ledger.any_answer("01", asked->written, [&](const answer_slot& slot) {
                return slot.holds(text) || slot.tells(text.substr(2));
            });
 }
@@ -301,7 +302,7 @@ bool promises::sample_was_sent(actions& screen, std::size_t row, std::size_t pla
     if (pid == "E4") // computed from the two others
         return usable(1) && usable(2);
     if (pid == "E5")
-        return app_.book.any_answer("010B", 0, [](const answer_slot&) { return true; });
+        return app_.ledger.any_answer("010B", 0, [](const answer_slot&) { return true; });
     return was_answered(pid, text);
 }
 
@@ -320,23 +321,23 @@ void promises::samples_are_true(actions& screen) {
             if (text == "-1" || text == "~")
                 continue;
             const std::string shown = screen.toolies.translateResponse(answer_in(text));
-            const bool told = !unusable(shown) || !std::isnan(rows.value(row, place));
-            if (told && !sample_was_sent(screen, row, place, text))
-                app_.story.broken(TRUE_VALUES,
+            const bool has_value = !unusable(shown) || !std::isnan(rows.value(row, place));
+            if (has_value && !sample_was_sent(screen, row, place, text))
+                app_.trace.broken(TRUE_VALUES,
                                   screen.pids()[place] + ": " + text + " shown as " + shown);
         }
 }
 
-// "44" anywhere in what came is taken for the confirmation, on purpose.
-void promises::told(const std::string& message) {
+// "44" anywhere in the reply deliberately counts as the confirmation.
+void promises::box_opened(const std::string& message) {
     const auto confirms = [](const answer_slot& slot) { return slot.holds_digits("44"); };
     if (message.find("cleared sucessfully") != message.npos)
-        app_.story.expect(app_.book.any_answer("", task_began_, confirms),
+        app_.trace.expect(app_.ledger.any_answer("", task_began_, confirms),
                           "codes are told cleared when a unit has said so", message);
 }
 
 void promises::answers_again() {
-    app_.defaults.set_string_array(PIDS_ARRAY_KEY, {"0C", "0D"}); // not of the car before
+    app_.defaults.set_string_array(PIDS_ARRAY_KEY, {"0C", "0D"}); // not those of the previous car
     app_.delegate->do_actions();
     app_.loop.settle();
     const auto& live = *app_.showing<actions>(ACTIONS_VIEW);
@@ -344,10 +345,10 @@ void promises::answers_again() {
     run_begins();
     const std::uint64_t before = live.requests_answered();
     app_.advance(seconds(5));
-    app_.story.expect(live.running() && live.requests_answered() > before + 3, SAMPLES_AGAIN,
+    app_.trace.expect(live.running() && live.requests_answered() > before + 3, SAMPLES_AGAIN,
                       std::to_string(live.requests_answered() - before) + " answers");
     app_.find<>("startStopBtn")->click();
-    app_.story.expect(!live.running(), SAMPLES_AGAIN, "stop");
+    app_.trace.expect(!live.running(), SAMPLES_AGAIN, "stop");
     app_.advance(seconds(5));
     app_.delegate->do_expert();
     app_.loop.settle();
@@ -355,11 +356,11 @@ void promises::answers_again() {
     app_.find<>("sendBtn")->click();
     app_.advance(seconds(1));
     const QString transcript = app_.find<QPlainTextEdit>("replyTxt")->toPlainText();
-    app_.story.expect(transcript.trimmed().endsWith(u'>') && transcript.contains(u"ELM327"),
+    app_.trace.expect(transcript.trimmed().endsWith(u'>') && transcript.contains(u"ELM327"),
                       "the console answers after the faults", transcript.toStdString());
 }
 
-// A new run under an old name replaces the file.
+// A new run with an old name replaces the file.
 void promises::run_begins() {
     if (auto* const live = app_.showing<actions>(ACTIONS_VIEW); live && !live->log_path().empty())
         logs_[live->log_path()] = {};
@@ -376,7 +377,7 @@ void promises::cycle_announced(actions& screen) {
         return;
     run_record& record = logs_[path];
     record.failed = record.failed || !screen.log_failure().empty();
-    app_.story.expect(record.failed || !record.removed, WHOLE_LOGS,
+    app_.trace.expect(record.failed || !record.removed, WHOLE_LOGS,
                       "a cycle was announced although its log has been removed");
     if (record.failed)
         return;
@@ -395,13 +396,13 @@ void promises::logs_are_complete(const std::string& folder) {
             (name.starts_with("log_") && name.ends_with(".txt")))
             continue;
         const std::string text = file_text(entry->path().string());
-        app_.story.note("log", name + " " + std::to_string(text.size()));
-        app_.story.expect(text.empty() || text.ends_with('\n'), WHOLE_LOGS,
+        app_.trace.note("log", name + " " + std::to_string(text.size()));
+        app_.trace.expect(text.empty() || text.ends_with('\n'), WHOLE_LOGS,
                           name + " ends: " + text);
     }
     for (const auto& [path, record] : logs_) {
         const std::string text = file_text(path);
-        app_.story.expect(record.removed || log_tells(text, record.cycles), WHOLE_LOGS,
+        app_.trace.expect(record.removed || log_matches(text, record.cycles), WHOLE_LOGS,
                           path + " of " + std::to_string(record.cycles.size()) +
                               " cycles: " + text);
     }
@@ -411,41 +412,41 @@ void promises::come_to_rest() {
     // The longest time-out of all is that of a run: 3000 s.
     const milliseconds end = app_.loop.now() + seconds(2 * 3000 + 200);
     auto* const live = app_.showing<actions>(ACTIONS_VIEW);
-    int calm = 0, told_again = 0, talking = 0;
-    while (app_.loop.now() < end && talking < 60 && !app_.story.failed()) {
-        const std::uint64_t effects = app_.story.effects();
-        const std::size_t commands = app_.book.commands();
+    int calm = 0, repeated = 0, talking = 0;
+    while (app_.loop.now() < end && talking < 60 && !app_.trace.failed()) {
+        const std::uint64_t effects = app_.trace.effects();
+        const std::size_t commands = app_.ledger.commands();
         const std::uint64_t answered = live ? live->requests_answered() : 0;
         app_.advance(seconds(5));
         if (live && live->running() && live->requests_answered() > answered + 2)
             return; // sampling
-        if (app_.book.commands() == commands && !app_.delegate->anything_outstanding() &&
+        if (app_.ledger.commands() == commands && !app_.delegate->anything_outstanding() &&
             !(live && live->running()) && ++calm == 2)
             return; // idle
-        talking += app_.book.commands() != commands;
-        // An adapter that never understands "AT DP" is asked for ever, on purpose, and the user
-        // told each time.
-        if (app_.book.last().command == "ATDP" || app_.book.last().command == "ATSPA3")
-            told_again += app_.story.effects() > effects;
-        if (told_again > 20)
+        talking += app_.ledger.commands() != commands;
+        // An adapter that never understands "AT DP" is deliberately asked forever, with a message
+        // each time.
+        if (app_.ledger.last().command == "ATDP" || app_.ledger.last().command == "ATSPA3")
+            repeated += app_.trace.effects() > effects;
+        if (repeated > 20)
             return;
     }
     const bool half_a_reply = app_.delegate->replies().awaited_since().count() != 0 &&
-                              app_.book.moment() > app_.book.last().written;
-    // The first chunk of a reply ends its time-out: when its prompt never comes, only the user does
-    // something about it. The stall hint counts the seconds.
-    app_.story.expect(half_a_reply, RESTS, app_.delegate->current_screen_name());
+                              app_.ledger.moment() > app_.ledger.last().written;
+    // The first chunk of a reply ends its time-out: if its prompt never comes, only the user can
+    // act. The stall hint counts the seconds.
+    app_.trace.expect(half_a_reply, RESTS, app_.delegate->current_screen_name());
 }
 
 void promises::nothing_outlives_its_screen() {
     for (const milliseconds due : app_.far.timers_of_others())
-        app_.story.broken(NOTHING_LEFT, "a timer is armed for " + std::to_string(due.count()));
+        app_.trace.broken(NOTHING_LEFT, "a timer is armed for " + std::to_string(due.count()));
     std::error_code failed;
     for (std::filesystem::directory_iterator entry("/proc/self/fd", failed), end;
          !failed && entry != end; entry.increment(failed)) {
         std::error_code gone;
         const std::string target = std::filesystem::read_symlink(entry->path(), gone).string();
-        app_.story.expect(target.find("/loggies/") == std::string::npos, NOTHING_LEFT,
+        app_.trace.expect(target.find("/loggies/") == std::string::npos, NOTHING_LEFT,
                           target + " is open");
     }
 }
@@ -459,9 +460,9 @@ void promises::shows(const truth& car) {
     std::vector<std::string> states;
     for (const readiness_flag& flag : shown.readiness)
         states.push_back(flag.state);
-    app_.story.expect(screen->succeeded(), WORKS_AGAIN, "the task: " + screen->status());
-    app_.story.expect(codes == car.codes, WORKS_AGAIN, "codes: " + std::to_string(codes.size()));
-    app_.story.expect(shown.lamp == car.lamp, WORKS_AGAIN, "lamp " + shown.lamp);
-    app_.story.expect(shown.count == car.count, WORKS_AGAIN, "count");
-    app_.story.expect(states == car.states, WORKS_AGAIN, "readiness");
+    app_.trace.expect(screen->succeeded(), WORKS_AGAIN, "the task: " + screen->status());
+    app_.trace.expect(codes == car.codes, WORKS_AGAIN, "codes: " + std::to_string(codes.size()));
+    app_.trace.expect(shown.lamp == car.lamp, WORKS_AGAIN, "lamp " + shown.lamp);
+    app_.trace.expect(shown.count == car.count, WORKS_AGAIN, "count");
+    app_.trace.expect(states == car.states, WORKS_AGAIN, "readiness");
 }

@@ -1,4 +1,4 @@
-// What has to hold in every session, whatever happens. Watches one start of the program.
+// The invariants of every session. Observes one start of the program.
 #pragma once
 
 #include "application.h"
@@ -17,36 +17,36 @@ struct asked_piece;
 
 class promises {
   public:
-    // Before application::start(), and the second half after.
+    // Constructed before application::start(); started() is called after it.
     explicit promises(application& app);
     ~promises();
     void started();
 
-    // Between two deliveries, as often as one likes.
-    void hold_now();
+    // Between two deliveries, any number of times.
+    void check_now();
     // No more faults: after the time-outs every screen is idle or sampling.
     void come_to_rest();
-    // The screen has been left: neither timers nor files of it are open.
+    // The screen has been left: none of its timers or files are open.
     void nothing_outlives_its_screen();
     // The run logs of the folder hold what was announced.
     void logs_are_complete(const std::string& folder);
     // The trouble-codes screen shows that car, exactly.
     void shows(const truth& car);
 
-    // Somebody else has touched the logs of the folder: nothing is known of them any more.
+    // The logs of the folder were changed from outside: no longer checked.
     void forget_logs();
     // The button of the live-data screen has started a run.
     void run_begins();
-    // Of the trouble-codes screen: a task begins.
+    // A task of the trouble-codes screen begins.
     void task_begins(std::uint64_t moment) { task_began_ = moment; }
-    // Of the report's screen: a reading begins.
+    // A reading of the report screen begins.
     void report_begins() {
-        report_began_ = app_.book.moment();
+        report_began_ = app_.ledger.moment();
         report_checked_ = false;
     }
     // A message box is open.
-    void told(const std::string& message);
-    // Live data of a healthy car, and the console: both work again.
+    void box_opened(const std::string& message);
+    // Live data of a healthy car and the console work again.
     void answers_again();
 
   private:
@@ -57,8 +57,8 @@ class promises {
     void codes_are_true(readCodes& screen);
     void none_means_none(readCodes& screen, const codes_report& shown);
     bool code_was_sent(const std::string& code) const;
-    bool car_told(const std::function<bool(const truth&)>& fits,
-                  const std::function<bool(const std::string& digits)>& reads) const;
+    bool car_reported(const std::function<bool(const truth&)>& fits,
+                      const std::function<bool(const std::string& digits)>& reads) const;
     bool count_was_sent(int count) const;
     void status_is_true(const codes_report& shown);
     // report_promises.cpp
@@ -72,7 +72,7 @@ class promises {
     bool was_answered(const std::string& pid, const std::string& text) const;
 
     struct run_record {
-        std::vector<std::vector<std::string>> cycles; // the replies as they were filed
+        std::vector<std::vector<std::string>> cycles; // the replies as filed
         bool failed = false;
         bool removed = false;
     };
@@ -88,6 +88,6 @@ class promises {
     bool end_checked_ = false; // of the reading shown
     std::vector<std::string> states_shown_;
     std::uint64_t answers_seen_ = 0;
-    std::pair<std::size_t, std::size_t> checked_; // row and place up to which samples were
+    std::pair<std::size_t, std::size_t> checked_; // up to this row and place
     std::map<std::string, run_record> logs_;
 };

@@ -46,45 +46,45 @@ constexpr const char* HOSTS[] = {"10.0.0.9", "10.0.0.10", "nowhere", ""};
 } // namespace
 
 random_user::random_user(application& app, promises& kept, std::uint64_t seed)
-    : app_(app), promises_(kept), dice_(seed) {
+    : app_(app), promises_(kept), rng_(seed) {
     answer_dialogs();
 }
 
 void random_user::answer_dialogs() {
     app_.messages.while_open = [this](const alert_request& request) {
-        app_.story.note("alert", request.message);
-        promises_.told(request.message);
-        if (dice_.happens(50))
-            app_.loop.advance(dice_.time(0, 8000));
-        app_.messages.answers.assign(1, dice_.below(static_cast<int>(request.buttons.size())));
+        app_.trace.note("alert", request.message);
+        promises_.box_opened(request.message);
+        if (rng_.happens(50))
+            app_.loop.advance(rng_.time(0, 8000));
+        app_.messages.answers.assign(1, rng_.below(static_cast<int>(request.buttons.size())));
         app_.messages.shown.clear();
     };
     app_.bluetooth.while_choosing = [this] {
-        app_.story.note("alert", "device chooser");
-        if (dice_.happens(50))
-            app_.loop.advance(dice_.time(0, 8000));
+        app_.trace.note("alert", "device chooser");
+        if (rng_.happens(50))
+            app_.loop.advance(rng_.time(0, 8000));
         app_.far.expect_link_timer(std::chrono::seconds(g_this_delta)); // a command without channel
-        app_.bluetooth.selector_result = dice_.happens(80) ? SELECTOR_SUCCESS : -1001;
-        app_.bluetooth.nothing_selected = dice_.happens(3);
-        app_.bluetooth.no_service_record = dice_.happens(3);
-        app_.bluetooth.open_error = dice_.happens(5) ? 5 : 0;
-        app_.bluetooth.open_leaves_channel = dice_.happens(97);
+        app_.bluetooth.selector_result = rng_.happens(80) ? SELECTOR_SUCCESS : -1001;
+        app_.bluetooth.nothing_selected = rng_.happens(3);
+        app_.bluetooth.no_service_record = rng_.happens(3);
+        app_.bluetooth.open_error = rng_.happens(5) ? 5 : 0;
+        app_.bluetooth.open_leaves_channel = rng_.happens(97);
     };
 }
 
 void random_user::act() {
-    if (!app_.delegate->current_screen() || dice_.happens(12))
+    if (!app_.delegate->current_screen() || rng_.happens(12))
         switch_screen();
-    else if (dice_.happens(3))
+    else if (rng_.happens(3))
         app_.delegate->do_help_button();
-    else if (dice_.happens(3))
+    else if (rng_.happens(3))
         export_a_log();
-    else if (dice_.happens(3))
+    else if (rng_.happens(3))
         choose_other_adapter();
     else if (auto* const reconnect = app_.find<>("reconnect");
-             reconnect && !reconnect->isHidden() && dice_.happens(25))
+             reconnect && !reconnect->isHidden() && rng_.happens(25))
         press("reconnect");
-    else if (dice_.happens(45))
+    else if (rng_.happens(45))
         wait();
     else if (const std::string& screen = app_.delegate->current_screen_name();
              screen == READ_CODES_VIEW)
@@ -109,7 +109,7 @@ void random_user::switch_screen() {
 }
 
 void random_user::show_some_screen() {
-    switch (dice_.below(12)) {
+    switch (rng_.below(12)) {
     case 10:
     case 11:
         return app_.delegate->do_report();
@@ -131,8 +131,8 @@ void random_user::show_some_screen() {
 
 void random_user::wait() {
     static constexpr int SPANS[] = {1, 20, 100, 400, 1000, 1500, 3000, 3500, 8000, 27000};
-    const milliseconds span(dice_.one_of(SPANS));
-    app_.story.note("user", "waits");
+    const milliseconds span(rng_.one_of(SPANS));
+    app_.trace.note("user", "waits");
     app_.loop.advance(span);
 }
 
@@ -140,48 +140,48 @@ void random_user::press(const char* name) {
     auto* const button = app_.find<>(name);
     if (!button || button->isHidden() || !button->isEnabled())
         return;
-    app_.story.note("user", name);
-    if (!app_.bluetooth.open_leaves_channel) // a command goes nowhere, its time-out is armed
+    app_.trace.note("user", name);
+    if (!app_.bluetooth.open_leaves_channel) // the command is lost, its time-out armed
         app_.far.expect_link_timer(std::chrono::seconds(g_this_delta));
     button->click();
 }
 
 void random_user::expect_answer(const char* what, std::uint64_t before) {
-    app_.story.expect(app_.story.effects() != before, ANSWERS, what);
+    app_.trace.expect(app_.trace.effects() != before, ANSWERS, what);
 }
 
 void random_user::read_codes() {
-    const std::uint64_t before = app_.story.effects();
-    promises_.task_begins(app_.book.moment());
+    const std::uint64_t before = app_.trace.effects();
+    promises_.task_begins(app_.ledger.moment());
     press("readCodes");
     expect_answer("read codes", before);
 }
 
 void random_user::use_codes() {
-    const std::uint64_t before = app_.story.effects();
-    if (dice_.happens(65)) {
+    const std::uint64_t before = app_.trace.effects();
+    if (rng_.happens(65)) {
         read_codes();
-    } else if (dice_.happens(75)) {
-        const std::uint64_t began = app_.book.moment();
+    } else if (rng_.happens(75)) {
+        const std::uint64_t began = app_.ledger.moment();
         press("clearCodes");
         expect_answer("clear codes", before);
-        if (app_.story.effects() > before + 1) // the question, and more than that
+        if (app_.trace.effects() > before + 1) // more than the question
             promises_.task_begins(began);
     } else {
-        app_.story.note("user", "diagnose");
+        app_.trace.note("user", "diagnose");
         app_.find<QAction>("obd_sim")->trigger();
         expect_answer("diagnose", before);
     }
 }
 
-// Mostly left alone while it runs: a second press cancels.
+// Usually left alone while running: a second press cancels.
 void random_user::use_report() {
     const bool running = static_cast<report_screen*>(app_.delegate->current_screen())->reading();
-    if (running && dice_.happens(80))
+    if (running && rng_.happens(80))
         return wait();
     if (!running)
         promises_.report_begins();
-    const std::uint64_t before = app_.story.effects();
+    const std::uint64_t before = app_.trace.effects();
     press("readReport");
     expect_answer("read report", before);
 }
@@ -190,25 +190,25 @@ void random_user::use_live_data() {
     auto& screen = static_cast<actions&>(*app_.delegate->current_screen());
     auto* const area = app_.find<QScrollArea>("xtopActionCharts");
     auto& strip = static_cast<thumbnail_strip&>(*area->widget());
-    switch (dice_.below(9)) {
+    switch (rng_.below(9)) {
     case 0: {
-        const int kind = dice_.below(4);
-        app_.story.note("user", "kind of run " + std::to_string(kind));
+        const int kind = rng_.below(4);
+        app_.trace.note("user", "kind of run " + std::to_string(kind));
         app_.find<QComboBox>("runSelectorCombo")->setCurrentIndex(kind);
         break;
     }
     case 1: {
         std::set<int> some;
-        for (int count = dice_.between(1, 3); count > 0; --count)
-            some.insert(dice_.below(8));
-        app_.story.note("user", "selects thumbnails");
+        for (int count = rng_.between(1, 3); count > 0; --count)
+            some.insert(rng_.below(8));
+        app_.trace.note("user", "selects thumbnails");
         strip.choose(some);
-        app_.story.expect(strip.cells() == 0 || !strip.selected().empty(), ANSWERS, "thumbnails");
+        app_.trace.expect(strip.cells() == 0 || !strip.selected().empty(), ANSWERS, "thumbnails");
         break;
     }
     case 2:
         if (auto* const zoom = app_.find<QSlider>("charty_zoomer"); !zoom->isHidden())
-            zoom->setValue(dice_.between(0, 1000));
+            zoom->setValue(rng_.between(0, 1000));
         break;
     case 3:
         press("o2SwapBtn");
@@ -218,12 +218,12 @@ void random_user::use_live_data() {
         break;
     default: {
         const bool running = screen.running();
-        const std::uint64_t before = app_.story.effects();
+        const std::uint64_t before = app_.trace.effects();
         press("startStopBtn");
-        if (!running) // also one that ended at once
+        if (!running) // even one that ended at once
             promises_.run_begins();
-        app_.story.expect(running ? !screen.running()
-                                  : screen.running() || app_.story.effects() != before,
+        app_.trace.expect(running ? !screen.running()
+                                  : screen.running() || app_.trace.effects() != before,
                           ANSWERS, "start or stop");
     }
     }
@@ -231,40 +231,40 @@ void random_user::use_live_data() {
 
 void random_user::use_preferences() {
     static constexpr const char* BOXES[] = {"unitsCheck", "logRunsCheck", "lastBTCheck"};
-    switch (dice_.below(8)) {
+    switch (rng_.below(8)) {
     case 0:
-        return press(dice_.happens(25) ? "interfaceBluetooth" : "interfaceWifi");
+        return press(rng_.happens(25) ? "interfaceBluetooth" : "interfaceWifi");
     case 1:
-        app_.story.note("user", "port");
+        app_.trace.note("user", "port");
         return app_.find<QLineEdit>("portsLbl")
             ->setText(
-                QString::fromUtf8(dice_.happens(60) ? PORTS[dice_.below(3)] : dice_.one_of(PORTS)));
+                QString::fromUtf8(rng_.happens(60) ? PORTS[rng_.below(3)] : rng_.one_of(PORTS)));
     case 2:
-        app_.story.note("user", "address");
+        app_.trace.note("user", "address");
         return app_.find<QLineEdit>("ipLbl")->setText(
-            QString::fromUtf8(dice_.happens(80) ? HOSTS[dice_.below(2)] : dice_.one_of(HOSTS)));
+            QString::fromUtf8(rng_.happens(80) ? HOSTS[rng_.below(2)] : rng_.one_of(HOSTS)));
     case 3:
     case 4: {
         auto* const table = app_.find<QTableView>("_pid_availableTableView");
-        app_.story.note("user", "parameter");
-        Q_EMIT table->clicked(table->model()->index(dice_.below(4), 0));
+        app_.trace.note("user", "parameter");
+        Q_EMIT table->clicked(table->model()->index(rng_.below(4), 0));
         return;
     }
     case 5:
-        return dice_.happens(30) ? press("setDefaultsBtn") : press("logRunsCheck");
+        return rng_.happens(30) ? press("setDefaultsBtn") : press("logRunsCheck");
     default:
-        return press(dice_.one_of(BOXES));
+        return press(rng_.one_of(BOXES));
     }
 }
 
 void random_user::use_console() {
     auto* const transcript = app_.find<QPlainTextEdit>("replyTxt");
     const int length = transcript->document()->characterCount();
-    const std::uint64_t before = app_.story.effects();
-    app_.find<QLineEdit>("cmdTxt")->setText(QString::fromUtf8(dice_.one_of(COMMANDS)));
+    const std::uint64_t before = app_.trace.effects();
+    app_.find<QLineEdit>("cmdTxt")->setText(QString::fromUtf8(rng_.one_of(COMMANDS)));
     press("sendBtn");
-    app_.story.expect(transcript->document()->characterCount() != length ||
-                          app_.story.effects() != before,
+    app_.trace.expect(transcript->document()->characterCount() != length ||
+                          app_.trace.effects() != before,
                       ANSWERS, "send");
 }
 
@@ -274,20 +274,20 @@ void random_user::export_a_log() {
     if (logs.empty())
         return;
     std::ranges::sort(logs, {}, &logged_run::name); // files of one second have no order
-    const std::string& name = dice_.one_of(logs).name;
-    app_.story.note("user", "exports " + name);
-    toolies.export_to_CSV(name, dice_.happens(50));
+    const std::string& name = rng_.one_of(logs).name;
+    app_.trace.note("user", "exports " + name);
+    toolies.export_to_CSV(name, rng_.happens(50));
 }
 
-// In the midst of whatever is under way, and back to that screen.
+// In the middle of whatever is running, and back to that screen.
 void random_user::choose_other_adapter() {
     const std::string before = app_.delegate->current_screen_name();
     app_.delegate->do_prefs();
     app_.loop.settle();
-    if (dice_.happens(50))
+    if (rng_.happens(50))
         press(g_connect_with == KS_USE_WIFI ? "interfaceBluetooth" : "interfaceWifi");
     else
-        app_.find<QLineEdit>("portsLbl")->setText(QLatin1String(PORTS[dice_.below(3)]));
+        app_.find<QLineEdit>("portsLbl")->setText(QLatin1String(PORTS[rng_.below(3)]));
     before == ACTIONS_VIEW ? app_.delegate->do_actions() : app_.delegate->do_read_codes();
 }
 

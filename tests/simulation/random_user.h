@@ -1,10 +1,10 @@
-// Somebody who presses whatever can be pressed, in an order that follows from a seed. One act is
-// one press, or some waiting.
+// A user who presses whatever can be pressed, in an order determined by a seed. One act is one
+// press, or a wait.
 #pragma once
 
 #include "application.h"
-#include "dice.h"
 #include "promises.h"
+#include "rng.h"
 
 #include <string>
 
@@ -13,7 +13,7 @@ class random_user {
     random_user(application& app, promises& kept, std::uint64_t seed);
 
     void act();
-    // What a user does when nothing helps: other settings and back, or so.
+    // What a user does when nothing else helps: other settings and back.
     void change_port_and_back();
     void read_codes();
 
@@ -34,5 +34,5 @@ class random_user {
 
     application& app_;
     promises& promises_;
-    dice dice_;
+    rng rng_;
 };

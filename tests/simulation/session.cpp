@@ -18,15 +18,14 @@ namespace {
 
 constexpr int ACTS = 40;
 constexpr seconds SPAN{60};
-constexpr std::uint64_t WATCHED_EVERY = 16; // sessions: drawing takes most of the time
+constexpr std::uint64_t VISIBLE_EVERY = 16; // sessions: drawing takes most of the time
 constexpr QSize SMALL_SCREEN(640, 360);
 
 const std::vector<car>& library() {
     static const std::vector<car> all = [] {
         std::vector<car> cars;
         for (const std::string& name : car_names())
-            // An adapter that was not told to wait cuts a slow unit off: nothing that a screen
-            // could know.
+            // An adapter with a short wait cuts off a slow unit, which a screen cannot detect.
             if (const car one = load_car(name);
                 std::ranges::none_of(one.units, [](const auto& unit) { return unit.delay_ms > 0; }))
                 cars.push_back(one);
@@ -37,32 +36,32 @@ const std::vector<car>& library() {
 
 class session {
   public:
-    session(std::uint64_t seed, const std::string& folder, trace& story)
-        : dice_(seed), folder_(folder), story_(story), disk_(folder), plan_(dice_.seed()),
-          is_watched_(seed % WATCHED_EVERY == 0), ends_abruptly_(seed % 2 == 0) {}
+    session(std::uint64_t seed, const std::string& folder, event_trace& trace)
+        : rng_(seed), folder_(folder), trace_(trace), disk_(folder), plan_(rng_.seed()),
+          is_visible_(seed % VISIBLE_EVERY == 0), ends_abruptly_(seed % 2 == 0) {}
 
     void run() {
         write_settings();
         {
-            application app(folder_, story_, book_, plan_);
+            application app(folder_, trace_, ledger_, plan_);
             promises kept(app);
             begin(app, kept, plan_.adapter());
-            random_user user(app, kept, dice_.seed());
-            for (int i = 0; i < ACTS && app.loop.now() < SPAN && !story_.failed(); ++i) {
+            random_user user(app, kept, rng_.seed());
+            for (int i = 0; i < ACTS && app.loop.now() < SPAN && !trace_.failed(); ++i) {
                 user.act();
-                if (is_watched_)
+                if (is_visible_)
                     watch(app);
-                kept.hold_now();
+                kept.check_now();
                 meet(app, kept);
             }
             stop_faults(app);
-            if (!story_.failed())
+            if (!trace_.failed())
                 kept.come_to_rest();
             const bool over_wifi = g_connect_with == KS_USE_WIFI;
-            if (!story_.failed() && over_wifi)
+            if (!trace_.failed() && over_wifi)
                 read_healthy_car(app, kept, user);
             leave(app, kept);
-            if (over_wifi || story_.failed())
+            if (over_wifi || trace_.failed())
                 return;
         }
         start_anew();
@@ -71,23 +70,23 @@ class session {
   private:
     void write_settings() {
         user_defaults settings(folder_ + "/settings.conf");
-        if (dice_.happens(5))
+        if (rng_.happens(5))
             return; // a first start
-        settings.set_integer(KS_INTERFACE_KEY, dice_.happens(70) ? KS_USE_WIFI : KS_USE_BT);
+        settings.set_integer(KS_INTERFACE_KEY, rng_.happens(70) ? KS_USE_WIFI : KS_USE_BT);
         settings.set_string(WIFI_IP_KEY, "10.0.0.9");
         settings.set_string(WIFI_PORT_KEY, "35000");
-        settings.set_boolean(KS_METRIC_UNITS_KEY, dice_.happens(50));
-        settings.set_boolean(LOG_RUNS_KEY, dice_.happens(60));
-        settings.set_boolean(REUSE_LAST_BT_KEY, dice_.happens(30));
+        settings.set_boolean(KS_METRIC_UNITS_KEY, rng_.happens(50));
+        settings.set_boolean(LOG_RUNS_KEY, rng_.happens(60));
+        settings.set_boolean(REUSE_LAST_BT_KEY, rng_.happens(30));
         static const std::vector<std::vector<std::string>> LISTS{
             {"0D", "11", "0C", "05"}, {"0C"}, {"0C", "42", "1F", "03", "06"}, {}};
-        settings.set_string_array(PIDS_ARRAY_KEY, dice_.one_of(LISTS));
+        settings.set_string_array(PIDS_ARRAY_KEY, rng_.one_of(LISTS));
         settings.synchronize();
     }
 
     void begin(application& app, promises& kept, adapter_options options) {
-        book_.forget();
-        app.far.plug_in(dice_.one_of(library()), std::move(options));
+        ledger_.forget();
+        app.far.plug_in(rng_.one_of(library()), std::move(options));
         app.start();
         kept.started();
     }
@@ -99,7 +98,7 @@ class session {
             break;
         case reset:
         case reset_with_banner:
-            app.far.restart_adapter(dice_.happens(50));
+            app.far.restart_adapter(rng_.happens(50));
             break;
         case hang_up:
             app.far.hang_up();
@@ -128,35 +127,35 @@ class session {
             disk_.mend();
             break;
         case clock_jump:
-            app.wall_clock += dice_.between(-90000, 90000);
+            app.wall_clock += rng_.between(-90000, 90000);
             break;
         }
     }
 
     void stop_faults(application& app) {
-        story_.note("!", "faults stop");
+        trace_.note("!", "faults stop");
         plan_.stop();
         disk_.mend();
         app.messages.while_open = [this](const alert_request& request) {
-            story_.note("alert", request.message);
+            trace_.note("alert", request.message);
         };
         app.messages.answers.clear();
     }
 
     void read_healthy_car(application& app, promises& kept, random_user& user) {
-        app.far.plug_in(dice_.one_of(library()), healthy());
+        app.far.plug_in(rng_.one_of(library()), healthy());
         user.change_port_and_back();
         read_and_compare(app, kept, user);
     }
 
     void start_anew() {
-        application app(folder_, story_, book_, plan_);
+        application app(folder_, trace_, ledger_, plan_);
         promises kept(app);
         begin(app, kept, healthy());
-        random_user user(app, kept, dice_.seed());
+        random_user user(app, kept, rng_.seed());
         stop_faults(app);
         app.bluetooth.while_choosing = [] {};
-        if (g_connect_with == KS_USE_WIFI) // chosen last, and saved at the end
+        if (g_connect_with == KS_USE_WIFI) // the last choice, saved at the end
             user.change_port_and_back();
         else
             app.delegate->do_read_codes();
@@ -171,18 +170,18 @@ class session {
     }
 
     void read_and_compare(application& app, promises& kept, random_user& user) {
-        story_.note("!", "a healthy car: " + app.far.the_car().name);
+        trace_.note("!", "a healthy car: " + app.far.the_car().name);
         const truth expected = truth_of(app.far.the_car());
         user.read_codes();
         auto* const screen = app.showing<readCodes>(READ_CODES_VIEW);
-        for (int i = 0; i < 60 && (i < 5 || screen->task_running()) && !story_.failed(); ++i)
+        for (int i = 0; i < 60 && (i < 5 || screen->task_running()) && !trace_.failed(); ++i)
             app.advance(seconds(1));
         kept.shows(expected);
-        if (!story_.failed())
+        if (!trace_.failed())
             kept.answers_again();
     }
 
-    // A screen that can be seen draws: its pictures when they are due, the rest now and then.
+    // A visible screen draws: its pictures when due, the rest now and then.
     static void watch(application& app) {
         QWidget& view = *app.view();
         if (view.isVisible()) {
@@ -195,7 +194,7 @@ class session {
 
     void leave(application& app, promises& kept) {
         if (!ends_abruptly_) {
-            app.delegate->do_expert(); // it costs least
+            app.delegate->do_expert(); // the cheapest screen
             app.loop.settle();
             kept.nothing_outlives_its_screen();
         }
@@ -203,22 +202,22 @@ class session {
         kept.logs_are_complete(folder_);
         app.delegate.reset();
         QCoreApplication::removePostedEvents(nullptr);
-        story_.expect(app.far.open_pairs() == 0, "no socket outlives the program", "open");
+        trace_.expect(app.far.open_pairs() == 0, "no socket outlives the program", "open");
     }
 
-    dice dice_;
+    rng rng_;
     std::string folder_;
-    trace& story_;
-    ledger book_;
+    event_trace& trace_;
+    wire_ledger ledger_;
     disk disk_;
     fault_plan plan_;
-    bool is_watched_, ends_abruptly_;
+    bool is_visible_, ends_abruptly_;
 };
 
 } // namespace
 
 session_result run_session(std::uint64_t seed, const std::string& folder, bool print) {
-    trace story(print, folder);
-    session(seed, folder, story).run();
-    return {story.promise(), story.how(), story.hash(), story.last_lines()};
+    event_trace trace(print, folder);
+    session(seed, folder, trace).run();
+    return {trace.promise(), trace.how(), trace.hash(), trace.last_lines()};
 }

@@ -1,5 +1,5 @@
-// What happened in a session, in order: a hash of all of it, and its last lines for whoever has to
-// find out why a promise was broken. The first broken promise ends the session.
+// The events of a session, in order: a hash of them all, and the last lines, to find out why a
+// promise was broken. The first broken promise ends the session.
 #pragma once
 
 #include "run_loop.h"
@@ -11,10 +11,10 @@
 #include <string_view>
 #include <utility>
 
-class trace {
+class event_trace {
   public:
-    // The name of the session's folder differs from run to run and is left out.
-    trace(bool print, std::string folder) : print_(print), folder_(std::move(folder)) {}
+    // Leaves out the name of the session's folder, which differs from run to run.
+    event_trace(bool print, std::string folder) : print_(print), folder_(std::move(folder)) {}
 
     void use_clock(const run_loop* clock) { clock_ = clock; }
     void note(std::string_view kind, std::string_view what) {
@@ -29,12 +29,12 @@ class trace {
             std::printf("%s\n", line.c_str());
         effects_ += kind == "status" || kind == "alert" || kind == "screen" || kind == "shown";
         if (failed() && kind != "BROKEN")
-            return; // what led to it is what counts
+            return; // only the lines that led to it are kept
         last_.push_back(std::move(line));
         if (last_.size() > KEPT)
             last_.pop_front();
     }
-    // A promise does not hold.
+    // Records a broken promise.
     void broken(std::string_view promise, std::string_view how) {
         if (!promise_.empty())
             return;
@@ -51,7 +51,7 @@ class trace {
     const std::string& promise() const { return promise_; }
     const std::string& how() const { return how_; }
     const std::deque<std::string>& last_lines() const { return last_; }
-    // How much the user has been shown so far.
+    // Counts what the user has been shown so far.
     std::uint64_t effects() const { return effects_; }
     std::uint64_t hash() const { return hash_; }
 

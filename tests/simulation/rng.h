@@ -1,4 +1,4 @@
-// Choices that follow from a seed.
+// Random choices determined by a seed.
 #pragma once
 
 #include "run_loop.h"
@@ -8,9 +8,9 @@
 #include <chrono>
 #include <cstddef>
 
-class dice {
+class rng {
   public:
-    explicit dice(std::uint64_t seed) : random_(seed) {}
+    explicit rng(std::uint64_t seed) : random_(seed) {}
 
     // From 0 up to, but not including, `count`.
     int below(int count) { return static_cast<int>(random_.next() % static_cast<unsigned>(count)); }

@@ -84,29 +84,29 @@ stream_pair_factory serial_streams(run_loop& loop, const bundle& texts) {
     };
 }
 
-// The settings as they are kept, for what only reads them.
+// The stored settings, read only.
 user_defaults kept_settings(const cli_request& asked) {
     return user_defaults(asked.settings.value_or(user_defaults::default_path()));
 }
 
-// What the program ships with, its texts in the language chosen in the preferences.
+// The resources, with texts in the language chosen in the preferences.
 bundle resources_for(const user_defaults& store) {
     return bundle(":/kestrom", chosen_language(store));
 }
 
-// The store to use. A demo, a named adapter and a live run with parameters of its own work
-// on a copy in `scratch`, made then, so that nothing of the user's changes.
+// The settings file to use. A demo, a named adapter and a live run work on a copy in `scratch`, so
+// that the user's settings do not change.
 std::string settings_path(const cli_request& asked, std::optional<QTemporaryDir>& scratch) {
     const std::string path = asked.settings.value_or(user_defaults::default_path());
     if (!asked.demo && !asked.adapter_host && !asked.serial_port && !asked.bluetooth &&
         asked.command != "live")
         return path;
     const QString copy = scratch.emplace().filePath(QStringLiteral("kestrom.conf"));
-    QFile::copy(QString::fromStdString(path), copy); // a file that is not there yet is none here
+    QFile::copy(QString::fromStdString(path), copy); // a missing file has no copy
     return copy.toStdString();
 }
 
-// A named interface makes it no first start, which would choose the parameters of a run.
+// With a named interface this is not a first start, which would set default parameters.
 void use_stored(user_defaults& store, const transport& way) {
     store_transport(way, store);
     if (!store.contains(PIDS_ARRAY_KEY))
@@ -127,7 +127,7 @@ void use_run(user_defaults& store, const cli_request& asked) {
         store.set_string_array(MORE_PIDS_KEY, {});
         store.set_string_array(PIDS_ARRAY_KEY,
                                asked.all_pids ? std::vector<std::string>{"0C"} : asked.pids);
-    } else if (asked.run != "log") { // which has its own, but would be told that there are none
+    } else if (asked.run != "log") { // which has its own, but needs a list that is not empty
         store.set_string_array(PIDS_ARRAY_KEY, {"0C"});
     }
 }
@@ -157,7 +157,7 @@ void open_screen(Ks_lite_delegate& delegate, const std::string& name) {
         delegate.do_expert();
 }
 
-// Leaves once the window has been painted for the first time.
+// Quits once the window has been painted for the first time.
 class first_paint final : public QObject {
   public:
     using QObject::QObject;
@@ -168,7 +168,7 @@ class first_paint final : public QObject {
     }
 };
 
-// True when it was saved, or none was asked for.
+// True if it was saved, or none was requested.
 bool save_screenshot(main_window& window, const std::optional<std::string>& path) {
     if (!path || window.grab().save(QString::fromStdString(*path), "PNG"))
         return true;
@@ -176,7 +176,7 @@ bool save_screenshot(main_window& window, const std::optional<std::string>& path
     return false;
 }
 
-// A command that talks to no car.
+// A command without a car.
 int run_at_desk(int argc, char** argv, const cli_request& asked) {
     const QGuiApplication application(argc, argv); // the chart is drawn
     const QTemporaryDir scratch;
@@ -185,12 +185,12 @@ int run_at_desk(int argc, char** argv, const cli_request& asked) {
     units.set_boolean(KS_METRIC_UNITS_KEY, kept.boolean(KS_METRIC_UNITS_KEY));
     const bundle resources = resources_for(kept);
     const mac_toolies toolies({&resources, &units, nullptr, nullptr});
-    g_cur_barom_press = STANDARD_BAROMETER; // what logs count boost from
+    g_cur_barom_press = STANDARD_BAROMETER; // reference of boost in logs
     return find_command(asked.command)
         ->run({asked, toolies, resources, units, std::cout, std::cerr});
 }
 
-// The doors to adapters as the command line asks for them: with a recorder listening, or bare.
+// The doors to adapters, with a recorder if requested.
 struct link_doors {
     stream_pair_factory make_streams, make_serial_streams;
     std::unique_ptr<serial_port_profile> bluetooth;
@@ -206,7 +206,7 @@ struct link_doors {
     }
 };
 
-// No, with the reason told, when the file cannot be made.
+// False, after printing the reason, if the file cannot be created.
 bool start_recording(conversation_recorder& recorder, const cli_request& asked,
                      const transport& way) {
     const std::string& path = *asked.record;
@@ -241,7 +241,7 @@ std::unique_ptr<tcp_adapter_server> use_what_is_asked(user_defaults& defaults,
     return car;
 }
 
-// Until the preferences choose an adapter; nothing of the user's changes.
+// Used until the preferences choose an adapter; the user's settings do not change.
 std::unique_ptr<tcp_adapter_server> connect_to_virtual_car(Ks_lite_delegate& delegate) {
     auto car = start_demo_car({});
     use_transport(transport_named("wifi"));
@@ -251,7 +251,7 @@ std::unique_ptr<tcp_adapter_server> connect_to_virtual_car(Ks_lite_delegate& del
     return car;
 }
 
-// What the window and a command with a car work with.
+// What the window and commands with a car need.
 struct house {
     QApplication& application;
     const cli_request& asked;
@@ -267,7 +267,7 @@ struct house {
     conversation_recorder recorder{loop};
     link_doors link{};
 
-    // No when what was asked for cannot be recorded.
+    // False if the conversation cannot be recorded.
     bool make_doors() {
         mac_toolies::initialize({&resources, &defaults, &message_boxes(), &notifications});
         link.make_streams = tcp_streams(loop);
@@ -310,7 +310,7 @@ int run_window(house& home, Ks_lite_delegate& delegate, main_window& window) {
     const quit_signals signals([&] { window.close(); });
     int status = 0;
     window.show();
-    QTimer::singleShot(0, &home.application, [&] { // a box that it opens must not hold up the start
+    QTimer::singleShot(0, &home.application, [&] { // a box that it opens must not delay the start
         open_screen(delegate, home.asked.screen);
         if (home.asked.screenshot) // once the window has been laid out
             QTimer::singleShot(200, &home.application,
@@ -343,8 +343,8 @@ int run(QApplication& application, const cli_request& asked) {
                                  : run_command(home, delegate, window);
 }
 
-// What failed to reach standard output makes a failure of any command. A reader that has gone, such
-// as head(1), has all it wants: no word about it.
+// Lost output makes any command fail. If the reader has gone, such as head(1), no message is
+// printed: it has all it wants.
 int status_with_output(int status) {
     if (!output_lost())
         return status;
@@ -400,6 +400,6 @@ int start(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
-    std::signal(SIGPIPE, SIG_IGN); // the write itself tells that the reader has gone
+    std::signal(SIGPIPE, SIG_IGN); // the write itself reports that the reader has gone
     return status_with_output(start(argc, argv));
 }

@@ -63,7 +63,7 @@ void take(unit_report& unit, std::vector<told_value>& to, told_value value) {
         unit.gaps.push_back(std::move(value.found));
 }
 
-// A value is not a gap if its unit answers none of that kind.
+// Whether a missing value is a gap: not if the unit answers none of that kind.
 bool expected(const finding& list) {
     return list.told() || list.result == outcome::unread;
 }

@@ -62,7 +62,7 @@ void Ks_lite_delegate::release_current_screen() {
         return;
     mainViewController->view()->hide();
     mainViewController->view()->setParent(nullptr);
-    // One of the screen's own operations may be running: let it go only from the run loop.
+    // One of the screen's own operations may be running: destroy it only from the run loop.
     released_.push_back(std::move(mainViewController));
     doors_.loop.cancel(release_);
     release_ = doors_.loop.after(run_loop::milliseconds(0), [this] { released_.clear(); });
@@ -83,7 +83,7 @@ void Ks_lite_delegate::applicationWillTerminate() {
 }
 
 void Ks_lite_delegate::wrap_leave() {
-    // An open Bluetooth channel is not closed here, only seen off; it ends with the program.
+    // An open Bluetooth channel is not closed here, only abandoned; it ends with the program.
     if (connected_2_BT_interface)
         rfcommChannelClosed();
     else

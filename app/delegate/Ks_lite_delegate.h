@@ -30,7 +30,7 @@ struct transport;
 class QWidget;
 class Ks_lite_delegate;
 
-// The outside world, as the program's start-up code or a test provides it.
+// The outside world, provided by the start-up code or a test.
 struct app_doors {
     run_loop& loop;
     alerts& message_boxes;
@@ -43,7 +43,7 @@ struct app_doors {
     serial_port_lister serial_ports = {};
 };
 
-// Makes the controller of an interface file; nothing when it cannot be loaded.
+// Makes the controller of an interface file; nothing if it cannot be loaded.
 using screen_factory = std::function<std::unique_ptr<screen_controller>(Ks_lite_delegate&)>;
 using screen_factories = std::map<std::string, screen_factory, std::less<>>;
 
@@ -69,7 +69,7 @@ class Ks_lite_delegate {
     // ------------------------------------------------------------------------------------------
     void do_read_codes() { show_screen(READ_CODES_VIEW, true); }
     void do_actions() { show_screen(ACTIONS_VIEW, true); }
-    // Choosing the preferences again while they show discards their unsaved edits.
+    // Choosing the preferences again while they are shown discards unsaved edits.
     void do_prefs() { show_screen(PREFS_VIEW, false); }
     void do_expert() { show_screen(EXPERT_VIEW, true); }
     void do_report() { show_screen(REPORT_VIEW, true); }
@@ -78,38 +78,38 @@ class Ks_lite_delegate {
     void applicationWillTerminate();
     void wrap_leave();
 
-    // Where a screen's view is placed; the window owns it.
+    // Where a screen's view is placed; owned by the window.
     void set_main_view(QWidget* view) { mainView = view; }
     screen_controller* current_screen() { return mainViewController.get(); }
     const std::string& current_screen_name() const { return screen_name_; }
     std::function<void()> screen_changed;
-    // Told every status text, whatever the screen does with it.
+    // Called with every status text, whatever the screen does with it.
     std::function<void(const std::string&)> status_shown;
 
     // --- link
     // -------------------------------------------------------------------------------------------
-    // Yes: the link is usable now. No: it is being opened (or could not be) and starts the screen's
-    // work itself once it is up.
+    // True: the link is usable now. False: it is being opened (or could not be) and starts the
+    // screen's work itself once it is up.
     bool openInterfaceConnection();
     void sendOBDcmd(std::string_view command);
     void l_work_current_task(const std::string* message);
     void l_set_status_msg(const std::string& message);
     void disconnect();
-    // The settings have been changed: a link to another adapter than they name now is closed, and
+    // The settings have been changed: a link to an adapter that they no longer name is closed, and
     // what that adapter said is forgotten.
     void settings_left();
-    // What a restart does to the link, and then opens it. Starts no task.
+    // Resets the link as a restart would, and opens it. Starts no task.
     void reconnect();
-    // The link is on its way up, and will start the screen's work.
+    // The link is being opened, and will start the screen's work.
     bool link_coming_up() const;
-    // Another one after each time that the link was dropped.
+    // Changes each time the link is dropped.
     std::uint64_t link_number() const { return attempt_; }
     // A reply, a connection or a deferred call is still to come.
     bool anything_outstanding() const;
-    // No reply is to come any more, and nothing that was sent times out.
+    // No reply is expected any more, and commands already sent do not time out.
     void give_up_on_replies();
-    // Nothing has come since the connection broke or could not be made, since a time-out, or for
-    // long although a reply is awaited.
+    // Nothing has arrived since the connection broke or failed, since a time-out, or for long
+    // although a reply is awaited.
     bool link_in_doubt() const;
     reply_ledger& replies() { return ledger_; }
     // What is told where the link could not begin to open and no event will say why; else empty.
@@ -168,7 +168,7 @@ class Ks_lite_delegate {
     reply_ledger ledger_;
     bool in_doubt_ = false;
 
-    // What the settings named when the link was opened last.
+    // What the settings named when the link was last opened.
     struct adapter_choice {
         const transport* way = nullptr; // none
         std::string address;
@@ -176,8 +176,8 @@ class Ks_lite_delegate {
     };
     static adapter_choice chosen_adapter();
     adapter_choice opened_to_;
-    std::uint64_t attempt_ = 0;      // counts them: the events of an abandoned one are nobody's
-    bool only_connecting_ = false;   // no task waits for the link that is coming up
+    std::uint64_t attempt_ = 0;      // counts attempts: the events of an abandoned one are ignored
+    bool only_connecting_ = false;   // no task is waiting for the link
     const transport* way_ = nullptr; // of the streams
     std::unique_ptr<stream_pair> streams_;
     enum class attempt_state {

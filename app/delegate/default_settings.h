@@ -1,4 +1,4 @@
-// What a first start finds in the preferences, and what their button brings back.
+// The preferences of a first start, restored by the Defaults button.
 #pragma once
 
 #include <string>
@@ -6,9 +6,9 @@
 
 class user_defaults;
 
-// The parameters of a run that were never chosen.
+// The parameters of a run if none were ever chosen.
 std::vector<std::string> default_pids();
 
-// Into the store and into the shared state. The stored "log_runs" is left alone on purpose: the
-// next time the preferences are left writes it.
+// Written to the store and the shared state. The stored "log_runs" is deliberately left alone:
+// leaving the preferences writes it.
 void use_default_settings(user_defaults& store);

@@ -1,6 +1,6 @@
-// The Bluetooth transport: an RFCOMM channel to the adapter's serial-port service. A channel that
-// was once asked for stays the program's channel, open or not: only another adapter in the
-// preferences, or the user who wants it back, connects again.
+// The Bluetooth transport: an RFCOMM channel to the adapter's serial-port service. A channel once
+// requested remains the program's channel, open or not: only another adapter in the preferences, or
+// Reconnect, connects again.
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
 #include "system_log.h"
@@ -37,7 +37,7 @@ std::shared_ptr<bluetooth_device> Ks_lite_delegate::choose_bluetooth_device() {
     return chosen.front();
 }
 
-// The adapter of last time, when the user wants no question and it has an address that can be read.
+// The last adapter, if the user wants to reuse it and its address is valid.
 std::shared_ptr<bluetooth_device> Ks_lite_delegate::last_bluetooth_device() const {
     if (!doors_.defaults.boolean(REUSE_LAST_BT_KEY))
         return nullptr;
@@ -85,7 +85,7 @@ bool Ks_lite_delegate::openSerialPortProfile() {
                             "happen an spp service must have an rfcomm channel id.***\n");
         return false;
     }
-    // The chooser has connected; without it that happens here, and a failure leaves nothing behind.
+    // The chooser has connected; without it that happens here, and a failure leaves no trace.
     if (const int refused = device->connect(); refused != 0) {
         log_failed_open(refused);
         return false;
@@ -97,7 +97,7 @@ bool Ks_lite_delegate::openSerialPortProfile() {
         closeDeviceConnectionOnDevice(device);
         return false;
     }
-    // A failure that left no channel goes on like a success, on purpose.
+    // A failure without a channel deliberately continues like a success.
     bluetooth_opening_ = mRFCOMMChannel != nullptr;
     mBluetoothDevice = device;
     l_set_status_msg("BT Connected");
@@ -129,7 +129,7 @@ void Ks_lite_delegate::rfcommChannelClosed() {
     doors_.loop.after(DISCONNECTION_DELAY,
                       [this, device = mBluetoothDevice] { closeDeviceConnectionOnDevice(device); });
     connected_2_BT_interface = false;
-    if (ledger_.half_come()) // the time-out, which tells of a lost channel, has been stopped by it
+    if (ledger_.half_come()) // it has stopped the time-out that would report a lost channel
         ledger_.link_gone();
     tell_link_lost();
 }
@@ -159,11 +159,11 @@ void Ks_lite_delegate::drop_channel() {
 }
 
 void Ks_lite_delegate::sendOBDcmd_BT(std::string_view command) {
-    // The zero byte behind the text is sent as well.
+    // The terminating zero byte is sent as well.
     std::string bytes(command);
     bytes.push_back('\0');
     bytes.resize(bytes.size() & LONGEST_WRITE);
     ledger_.command_left(doors_.loop.now());
     if (mRFCOMMChannel)
-        (void)mRFCOMMChannel->writeSync(bytes); // a failure shows as the reply time-out
+        (void)mRFCOMMChannel->writeSync(bytes); // a failure appears as a reply time-out
 }

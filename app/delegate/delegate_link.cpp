@@ -6,8 +6,8 @@
 #include "transports.h"
 
 void Ks_lite_delegate::sendOBDcmd(std::string_view command) {
-    // The timer armed before is left running on purpose: if it belongs to a command that is still
-    // unanswered, it will report that.
+    // The previous timer is deliberately left running: if its command is still unanswered, it will
+    // report that.
     obdTimeOutTimer = doors_.loop.after(std::chrono::seconds(g_this_delta),
                                         [this, generation = ledger_.generation()] {
                                             if (generation == ledger_.generation())
@@ -59,10 +59,10 @@ void Ks_lite_delegate::l_set_status_msg(const std::string& message) {
         mainViewController->set_status_msg(message);
 }
 
-// A link that came up only because the user wanted it back has nothing to begin.
+// A link opened by Reconnect has no task to start.
 void Ks_lite_delegate::work_over_new_link(const std::string& message) {
     if (only_connecting_ && in_doubt_)
-        return; // it has broken again
+        return; // it has failed again
     if (only_connecting_)
         l_set_status_msg(doors_.resources.localized("ui_reconnected"));
     else
@@ -113,7 +113,7 @@ std::string Ks_lite_delegate::advice() const {
     return told ? told(doors_) : std::string();
 }
 
-// Closes the link and forgets what a new start of the program would not know.
+// Closes the link and forgets what a restarted program would not know.
 void Ks_lite_delegate::drop_link() {
     ++attempt_;
     opened_to_ = {};

@@ -1,6 +1,6 @@
 // The transports that are streams: a TCP connection to the adapter, or a serial port. A lost
-// connection still counts as open; only another adapter in the preferences, or the user who wants
-// it back, connects again.
+// connection still counts as open; only another adapter in the preferences, or Reconnect, connects
+// again.
 #include "bundle.h"
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
@@ -103,8 +103,8 @@ void Ks_lite_delegate::bytes_available() {
 
 void Ks_lite_delegate::sendOBDcmd_TCP(std::string_view command) {
     if (!openTCP_socky())
-        return;                         // dropped; the open event starts the screen's work again
-    doors_.loop.cancel(deferred_call_); // the screen has begun by itself
+        return;                         // dropped; the open event restarts the screen's work
+    doors_.loop.cancel(deferred_call_); // the screen has started by itself
     deferred_call_ = 0;
     ledger_.command_left(doors_.loop.now());
     if (streams_)
@@ -122,7 +122,7 @@ void Ks_lite_delegate::disconnect() {
     attempt_state_ = attempt_state::none;
     give_up_on_replies();
     ledger_.link_gone();
-    // Whatever was to begin on this connection begins on the next.
+    // What was to start on this connection starts on the next.
     doors_.loop.cancel(deferred_call_);
     deferred_call_ = 0;
 }

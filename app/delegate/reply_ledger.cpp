@@ -8,7 +8,7 @@ constexpr char PROMPT = '>';
 constexpr std::string_view NO_TEXT("\r\n\0", 3);
 constexpr std::chrono::seconds PATIENCE{5};
 
-// Prompts that follow one another without text between them end one reply.
+// Consecutive prompts without text between them end one reply.
 int count_replies(std::string_view text) {
     int count = 0;
     for (std::size_t at = 0; (at = text.find(PROMPT, at)) != std::string_view::npos; ++count)

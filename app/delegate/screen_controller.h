@@ -1,4 +1,4 @@
-// What the link and the shell know of a screen. A screen that sends commands overrides the four
+// What the link and the shell know about a screen. A screen that sends commands overrides the four
 // operations; the preferences keep the do-nothing defaults. The delegate owns the current screen
 // and destroys it only from the run loop.
 #pragma once
@@ -14,15 +14,15 @@ class screen_controller {
     // The screen's root widget, owned by the screen.
     virtual QWidget* view() = 0;
 
-    // One received chunk, or "Timeout". May come at any time, also for a command that a screen
-    // before this one sent.
+    // One received chunk, or "Timeout". May come at any time, even for a command sent by an earlier
+    // screen.
     virtual void handleOBDRcvdMsg(const std::string& text) { (void)text; }
     virtual void set_status_msg(const std::string& message) { (void)message; }
     // Performs the next step of the screen's current task.
     virtual void work_current_task() {}
     virtual void leave_cur_op_gracefully(const std::string& message) { (void)message; }
-    // The connection has broken, or could not be made: no reply is to come.
+    // The connection has broken or failed: no reply will come.
     virtual void link_lost() {}
-    // Called before another screen takes this one's place, and before the window closes.
+    // Called before another screen replaces this one, and before the window closes.
     virtual void save_before_leaving() {}
 };

@@ -35,7 +35,7 @@ inline constexpr int TASK_FUEL_ECONOMY = 7;
 inline constexpr int TASK_BOOST = 12;
 inline constexpr int TASK_O2_SAMPLING = 13;
 
-// Barometric pressure where nobody measures it, in kPa.
+// Barometric pressure if not measured, in kPa.
 inline constexpr int STANDARD_BAROMETER = 101;
 
 // Names of the stored settings.

@@ -1,5 +1,5 @@
 // State that the link and the screens share. Everything runs on the one main thread, so there are
-// no locks. scripts/check-structure names who may include it.
+// no locks. scripts/check-structure names the files that may include it.
 #pragma once
 
 #include "constantes.h"
@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-// Text with the capacity of a C buffer of SIZE bytes: longer text is cut at SIZE - 1.
+// Text with the capacity of a C buffer of SIZE bytes: longer text is truncated to SIZE - 1.
 template <std::size_t SIZE>
 class bounded_text {
   public:
@@ -41,7 +41,7 @@ extern int next_step_idx;   // step that the next complete reply runs
 extern int g_retries;       // one counter for every step chain
 extern int g_obd_msg_state; // S_IDLE ...
 extern int g_replies_expected;           // set to 1 before each send; informative
-extern bounded_text<20> cur_cmd;         // the command last built, "\r" included
+extern bounded_text<20> cur_cmd;         // the last command built, "\r" included
 extern std::string odb_curReplyBuffyMsg; // reply accumulator
 extern std::string odb_curReplyMsg;      // last complete reply, prompt included
 extern bool connected_2_WIFI_interface;

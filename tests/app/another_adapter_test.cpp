@@ -173,7 +173,7 @@ TEST_F(another_adapter, ends_its_task_when_nobody_chooses_it) {
     app.find<QLineEdit>("cmdTxt")->setText(QStringLiteral("AT I"));
     app.press("sendBtn");
     app.bluetooth.selector_result = SELECTOR_SUCCESS;
-    app.delegate->openInterfaceConnection(); // for somebody else
+    app.delegate->openInterfaceConnection(); // for another task
     open_bluetooth();
     EXPECT_EQ(sent_over_bluetooth(), "");
 }
@@ -198,7 +198,7 @@ TEST_F(another_adapter, over_bluetooth_a_lost_channel_is_opened_again) {
     EXPECT_EQ(app.bluetooth.closed_connections, 1) << "the farewell to the lost one comes late";
     app.press("readCodes");
     EXPECT_EQ(sent_over_bluetooth(), "AT Z\r");
-    app.loop.advance(seconds(3)); // silent, and nobody is chosen
+    app.loop.advance(seconds(3)); // silent, and no device is chosen
     app.bluetooth.selector_result = -1001;
     app.press("reconnect");
     EXPECT_EQ(app.last_status(), app.bluetooth.advice());

@@ -35,7 +35,7 @@ class link_over_bluetooth : public testing::Test {
     app_harness app{app_harness::first_start};
 };
 
-// A command as the adapter receives it: the zero byte behind the text is sent too.
+// A command as the adapter receives it: with the terminating zero byte.
 std::string with_zero(const std::string& command) {
     return command + std::string(1, '\0');
 }
@@ -75,7 +75,7 @@ TEST_F(link_over_bluetooth, the_codes_screen_waits_for_the_channel) {
     EXPECT_EQ(sent(), "");
 }
 
-// A run waits for no link that nobody opens.
+// A run does not wait for a link that is not being opened.
 TEST_F(link_over_bluetooth, a_run_ends_when_the_chooser_is_cancelled_or_the_channel_closes) {
     app.defaults.set_string_array(PIDS_ARRAY_KEY, {"0D"});
     app.delegate->do_actions();

@@ -152,7 +152,7 @@ std::vector<ended_run> runs_ended_by(int signal, int count,
     for (const auto& run : all) {
         run->process.waitForFinished();
         run->out += run->process.readAllStandardOutput();
-        run->out.truncate(run->out.lastIndexOf('\n') + 1); // what was told in whole
+        run->out.truncate(run->out.lastIndexOf('\n') + 1); // the complete lines
         list printed = lines_of(run->out.toStdString());
         if (!printed.empty())
             printed.erase(printed.begin());

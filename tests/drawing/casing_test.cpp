@@ -1,5 +1,5 @@
-// Every curve and figure against the ground it stands on: KESTROM_CONTRAST_TABLE=FILE writes the
-// figures of docs/look.md.
+// The contrast of every curve and figure with its background: KESTROM_CONTRAST_TABLE=FILE writes
+// the figures of docs/look.md.
 #include "casing.h"
 #include "drawChartyItem.h"
 #include "drawing_fixture.h"

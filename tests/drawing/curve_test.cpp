@@ -58,9 +58,9 @@ sample_rows samples_of(shape kind, std::size_t count) {
                 continue;
             break;
         case shape::mixed:
-            if (const unsigned dice = random() % 4; dice == 0)
+            if (const unsigned pick = random() % 4; pick == 0)
                 continue;
-            else if (dice == 1)
+            else if (pick == 1)
                 value = NAN_VALUE;
             break;
         }

@@ -141,7 +141,7 @@ void expect_same(const sample_stretch& found, const long_sum& expected) {
     ASSERT_EQ(covered, expected.inner.end());
 }
 
-// Puts together what it is told, and asks for some blocks in pieces.
+// Collects what it visits, and requests some blocks in pieces.
 struct piece_adder {
     unsigned percent_taken;
     std::mt19937& random;
@@ -177,10 +177,10 @@ TEST_F(sample_rows_test, stretches_add_up_to_the_rows_of_any_window_in_any_mixtu
     for (std::size_t i = 0; i < COUNT; ++i) {
         rows.append_fresh_row();
         for (std::size_t p = 0; p < std::size(mixtures); ++p) {
-            const unsigned dice = random() % 1000;
-            if (dice < mixtures[p].gaps)
+            const unsigned pick = random() % 1000;
+            if (pick < mixtures[p].gaps)
                 rows.file(p, "y", number(NAN_VALUE));
-            else if (dice >= mixtures[p].gaps + mixtures[p].unfilled)
+            else if (pick >= mixtures[p].gaps + mixtures[p].unfilled)
                 rows.file(p, "x", number(random() % 1000 / (p == 4 ? 1 : 7) + i / 3 % 5 * 200));
         }
     }

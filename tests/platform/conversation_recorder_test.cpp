@@ -43,7 +43,7 @@ TEST_F(conversation_recorder_test, a_tcp_conversation_is_written_as_it_happens) 
         if (code == STREAM_BYTES_AVAILABLE)
             read += pair->read(1024);
         if (code == STREAM_END && side == stream_side::input)
-            pair.reset(); // as whoever opens another one does
+            pair.reset(); // as when another one is opened
     });
     pair->write("early\r");
     for (const stream_side side : {stream_side::input, stream_side::output})

@@ -51,7 +51,7 @@ TEST_F(settings_file, rubbish_in_the_file_reads_as_absent_values) {
     const std::string plain = folder.filePath(QStringLiteral("rubbish.conf")).toStdString();
     QFile file(QString::fromStdString(plain));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    // Behind a lone "[" the reader makes up the key "/wifi_port".
+    // After a lone "[" the reader invents the key "/wifi_port".
     constexpr char RUBBISH[] = "\x00\xff\xfe[[[=\n==\nKS_interface=six\n[\nwifi_port=1\n[x]\n";
     file.write(RUBBISH, sizeof RUBBISH - 1);
     file.close();

@@ -1,4 +1,4 @@
-// The adapter behind a real port, over loopback.
+// The adapter on a real port, over loopback.
 #include "car_library.h"
 #include "tcp_adapter_server.h"
 

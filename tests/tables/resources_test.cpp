@@ -48,7 +48,7 @@ std::multiset<std::string> placeholders(const std::string& text) {
     return result;
 }
 
-// The letter behind "&" in lower case; NUL without one.
+// The letter after "&" in lower case; NUL if none.
 char mnemonic(const std::string& text) {
     const auto mark = text.find('&');
     if (mark == std::string::npos || mark + 1 == text.size())

@@ -36,17 +36,25 @@ class codes_taker {
     }
 
     codes_reading take() {
-        for (const ecu_answer& one : reply_.answers)
+        for (const ecu_answer& one : reply_.answers) {
             if (halves_ == half_codes::left_unread && one.data.size() % 2 != 0)
                 continue; // all digits after the lost one are misplaced
-            else if (one.bus == bus_form::can)
+            if (one.bus == bus_form::can)
                 take_message(one);
             else
                 take_line(one);
+            result_.units.resize(result_.codes.size(), label_of(one));
+        }
         return std::move(result_);
     }
 
   private:
+    static std::string label_of(const ecu_answer& one) {
+        const std::string address = unit_address(one.form, one.header);
+        return one.unit.empty() || one.unit.starts_with("ECU") ? address
+                                                               : one.unit + " (" + address + ")";
+    }
+
     void add(std::string_view digits) {
         result_.codes.push_back(mac_toolies::pull_DTC_code(digits));
     }
@@ -102,6 +110,7 @@ codes_reading read_codes(std::string_view service, std::string_view reply, bus_e
         return by_other;
     if (!by_form.unread.empty()) { // a damaged line may look like either
         by_form.codes.clear();
+        by_form.units.clear();
         by_form.unread.push_back({unread_kind::not_understood, {}});
     }
     return by_form;

@@ -1101,7 +1101,7 @@ Freie Software unter der MIT-Lizenz.
     </message>
     <message id="report_vin_odd">
         <source></source>
-        <translation>%1 (keine Nummer nach Norm)</translation>
+        <translation>%1 (keine Nummer nach Norm: %2)</translation>
     </message>
     <message id="report_vins_differ">
         <source></source>
@@ -1330,14 +1330,6 @@ Freie Software unter der MIT-Lizenz.
     <message id="report_partly">
         <source></source>
         <translation>ein Teil davon war nicht lesbar</translation>
-    </message>
-    <message id="report_all_units">
-        <source></source>
-        <translation>alle Steuergeräte</translation>
-    </message>
-    <message id="report_unit">
-        <source></source>
-        <translation>Steuergerät %1</translation>
     </message>
     <message id="report_request">
         <source></source>
@@ -1575,10 +1567,6 @@ Freie Software unter der MIT-Lizenz.
         <source></source>
         <translation>Das Löschen entfernt auch Umgebungsdaten und Testergebnisse. Der gelesene Bericht enthält sie.</translation>
     </message>
-    <message id="ui_report_show">
-        <source></source>
-        <translation>Bericht zeigen</translation>
-    </message>
     <message id="ui_report_go_on">
         <source></source>
         <translation>Ohne Speichern weiter</translation>
@@ -1586,6 +1574,134 @@ Freie Software unter der MIT-Lizenz.
     <message id="report_none_so_far">
         <source></source>
         <translation>keine, soweit mitgeteilt</translation>
+    </message>
+    <message id="ui_report_save_first">
+        <source></source>
+        <translation>Speichern unter…</translation>
+    </message>
+    <message id="ui_report_text_file">
+        <source></source>
+        <translation>Text</translation>
+    </message>
+    <message id="report_off_so_far">
+        <source></source>
+        <translation>aus, soweit mitgeteilt</translation>
+    </message>
+    <message id="report_why_put_off">
+        <source></source>
+        <translation>das Steuergerät bat um Geduld und antwortete nicht innerhalb der Frist</translation>
+    </message>
+    <message id="ui_report_opened">
+        <source></source>
+        <translation>Geöffnet: %1</translation>
+    </message>
+    <message id="ui_code_from">
+        <source></source>
+        <translation>Vom Steuergerät: %1</translation>
+    </message>
+    <message id="report_name_Misfire">
+        <source></source>
+        <translation>Zündaussetzer</translation>
+    </message>
+    <message id="report_name_Fuel system">
+        <source></source>
+        <translation>Kraftstoffsystem</translation>
+    </message>
+    <message id="report_name_Comprehensive components">
+        <source></source>
+        <translation>Bauteile insgesamt</translation>
+    </message>
+    <message id="report_name_Catalyst">
+        <source></source>
+        <translation>Katalysator</translation>
+    </message>
+    <message id="report_name_Heated catalyst">
+        <source></source>
+        <translation>Beheizter Katalysator</translation>
+    </message>
+    <message id="report_name_Evaporative system">
+        <source></source>
+        <translation>Tankentlüftung</translation>
+    </message>
+    <message id="report_name_Secondary air system">
+        <source></source>
+        <translation>Sekundärluft</translation>
+    </message>
+    <message id="report_name_A/C refrigerant / petrol particulate filter">
+        <source></source>
+        <translation>Kältemittel / Otto-Partikelfilter</translation>
+    </message>
+    <message id="report_name_O2 sensor">
+        <source></source>
+        <translation>Lambdasonde</translation>
+    </message>
+    <message id="report_name_O2 sensor heater">
+        <source></source>
+        <translation>Heizung der Lambdasonde</translation>
+    </message>
+    <message id="report_name_EGR/VVT system">
+        <source></source>
+        <translation>AGR/VVT-System</translation>
+    </message>
+    <message id="report_name_NMHC catalyst">
+        <source></source>
+        <translation>NMHC-Katalysator</translation>
+    </message>
+    <message id="report_name_NOx/SCR aftertreatment">
+        <source></source>
+        <translation>NOx/SCR-Nachbehandlung</translation>
+    </message>
+    <message id="report_name_Boost pressure">
+        <source></source>
+        <translation>Ladedruck</translation>
+    </message>
+    <message id="report_name_Exhaust gas sensor">
+        <source></source>
+        <translation>Abgassensor</translation>
+    </message>
+    <message id="report_name_Particulate filter">
+        <source></source>
+        <translation>Partikelfilter</translation>
+    </message>
+    <message id="report_name_OBD monitoring conditions met">
+        <source></source>
+        <translation>Bedingungen für OBD-Prüfungen erfüllt</translation>
+    </message>
+    <message id="report_name_Ignition cycles">
+        <source></source>
+        <translation>Zündzyklen</translation>
+    </message>
+    <message id="report_name_Catalyst, bank 1">
+        <source></source>
+        <translation>Katalysator, Bank 1</translation>
+    </message>
+    <message id="report_name_Catalyst, bank 2">
+        <source></source>
+        <translation>Katalysator, Bank 2</translation>
+    </message>
+    <message id="report_name_O2 sensor, bank 1">
+        <source></source>
+        <translation>Lambdasonde, Bank 1</translation>
+    </message>
+    <message id="report_name_O2 sensor, bank 2">
+        <source></source>
+        <translation>Lambdasonde, Bank 2</translation>
+    </message>
+    <message id="report_name_Secondary O2 sensor, bank 1">
+        <source></source>
+        <translation>Zweite Lambdasonde, Bank 1</translation>
+    </message>
+    <message id="report_name_Secondary O2 sensor, bank 2">
+        <source></source>
+        <translation>Zweite Lambdasonde, Bank 2</translation>
+    </message>
+    <message id="report_name_NOx catalyst">
+        <source></source>
+        <translation>NOx-Katalysator</translation>
+    </message>
+    <message id="report_name_NOx adsorber">
+        <source></source>
+        <translation>NOx-Speicher</translation>
     </message>
 </context>
 </TS>

@@ -1100,7 +1100,7 @@ Free software under the MIT licence.
     </message>
     <message id="report_vin_odd">
         <source></source>
-        <translation>%1 (not a standard number)</translation>
+        <translation>%1 (not a standard number: %2)</translation>
     </message>
     <message id="report_vins_differ">
         <source></source>
@@ -1329,14 +1329,6 @@ Free software under the MIT licence.
     <message id="report_partly">
         <source></source>
         <translation>a part of it could not be read</translation>
-    </message>
-    <message id="report_all_units">
-        <source></source>
-        <translation>all units</translation>
-    </message>
-    <message id="report_unit">
-        <source></source>
-        <translation>unit %1</translation>
     </message>
     <message id="report_request">
         <source></source>
@@ -1574,10 +1566,6 @@ Free software under the MIT licence.
         <source></source>
         <translation>Clearing also erases freeze frames and test results. The report that was read holds them.</translation>
     </message>
-    <message id="ui_report_show">
-        <source></source>
-        <translation>Show the report</translation>
-    </message>
     <message id="ui_report_go_on">
         <source></source>
         <translation>Go on without saving</translation>
@@ -1585,6 +1573,134 @@ Free software under the MIT licence.
     <message id="report_none_so_far">
         <source></source>
         <translation>none, as far as told</translation>
+    </message>
+    <message id="ui_report_save_first">
+        <source></source>
+        <translation>Save as…</translation>
+    </message>
+    <message id="ui_report_text_file">
+        <source></source>
+        <translation>Text</translation>
+    </message>
+    <message id="report_off_so_far">
+        <source></source>
+        <translation>off, as far as told</translation>
+    </message>
+    <message id="report_why_put_off">
+        <source></source>
+        <translation>the unit asked to wait and did not answer in time</translation>
+    </message>
+    <message id="ui_report_opened">
+        <source></source>
+        <translation>Opened: %1</translation>
+    </message>
+    <message id="ui_code_from">
+        <source></source>
+        <translation>From control unit: %1</translation>
+    </message>
+    <message id="report_name_Misfire">
+        <source></source>
+        <translation>Misfire</translation>
+    </message>
+    <message id="report_name_Fuel system">
+        <source></source>
+        <translation>Fuel system</translation>
+    </message>
+    <message id="report_name_Comprehensive components">
+        <source></source>
+        <translation>Comprehensive components</translation>
+    </message>
+    <message id="report_name_Catalyst">
+        <source></source>
+        <translation>Catalyst</translation>
+    </message>
+    <message id="report_name_Heated catalyst">
+        <source></source>
+        <translation>Heated catalyst</translation>
+    </message>
+    <message id="report_name_Evaporative system">
+        <source></source>
+        <translation>Evaporative system</translation>
+    </message>
+    <message id="report_name_Secondary air system">
+        <source></source>
+        <translation>Secondary air system</translation>
+    </message>
+    <message id="report_name_A/C refrigerant / petrol particulate filter">
+        <source></source>
+        <translation>A/C refrigerant / petrol particulate filter</translation>
+    </message>
+    <message id="report_name_O2 sensor">
+        <source></source>
+        <translation>O2 sensor</translation>
+    </message>
+    <message id="report_name_O2 sensor heater">
+        <source></source>
+        <translation>O2 sensor heater</translation>
+    </message>
+    <message id="report_name_EGR/VVT system">
+        <source></source>
+        <translation>EGR/VVT system</translation>
+    </message>
+    <message id="report_name_NMHC catalyst">
+        <source></source>
+        <translation>NMHC catalyst</translation>
+    </message>
+    <message id="report_name_NOx/SCR aftertreatment">
+        <source></source>
+        <translation>NOx/SCR aftertreatment</translation>
+    </message>
+    <message id="report_name_Boost pressure">
+        <source></source>
+        <translation>Boost pressure</translation>
+    </message>
+    <message id="report_name_Exhaust gas sensor">
+        <source></source>
+        <translation>Exhaust gas sensor</translation>
+    </message>
+    <message id="report_name_Particulate filter">
+        <source></source>
+        <translation>Particulate filter</translation>
+    </message>
+    <message id="report_name_OBD monitoring conditions met">
+        <source></source>
+        <translation>OBD monitoring conditions met</translation>
+    </message>
+    <message id="report_name_Ignition cycles">
+        <source></source>
+        <translation>Ignition cycles</translation>
+    </message>
+    <message id="report_name_Catalyst, bank 1">
+        <source></source>
+        <translation>Catalyst, bank 1</translation>
+    </message>
+    <message id="report_name_Catalyst, bank 2">
+        <source></source>
+        <translation>Catalyst, bank 2</translation>
+    </message>
+    <message id="report_name_O2 sensor, bank 1">
+        <source></source>
+        <translation>O2 sensor, bank 1</translation>
+    </message>
+    <message id="report_name_O2 sensor, bank 2">
+        <source></source>
+        <translation>O2 sensor, bank 2</translation>
+    </message>
+    <message id="report_name_Secondary O2 sensor, bank 1">
+        <source></source>
+        <translation>Secondary O2 sensor, bank 1</translation>
+    </message>
+    <message id="report_name_Secondary O2 sensor, bank 2">
+        <source></source>
+        <translation>Secondary O2 sensor, bank 2</translation>
+    </message>
+    <message id="report_name_NOx catalyst">
+        <source></source>
+        <translation>NOx catalyst</translation>
+    </message>
+    <message id="report_name_NOx adsorber">
+        <source></source>
+        <translation>NOx adsorber</translation>
     </message>
 </context>
 </TS>

@@ -1101,7 +1101,7 @@ Software libre con licencia MIT.
     </message>
     <message id="report_vin_odd">
         <source></source>
-        <translation>%1 (número no conforme a la norma)</translation>
+        <translation>%1 (número no conforme a la norma: %2)</translation>
     </message>
     <message id="report_vins_differ">
         <source></source>
@@ -1330,14 +1330,6 @@ Software libre con licencia MIT.
     <message id="report_partly">
         <source></source>
         <translation>una parte no se pudo leer</translation>
-    </message>
-    <message id="report_all_units">
-        <source></source>
-        <translation>todas las unidades</translation>
-    </message>
-    <message id="report_unit">
-        <source></source>
-        <translation>unidad %1</translation>
     </message>
     <message id="report_request">
         <source></source>
@@ -1575,10 +1567,6 @@ Software libre con licencia MIT.
         <source></source>
         <translation>El borrado elimina también los datos congelados y los resultados de las pruebas. El informe leído los contiene.</translation>
     </message>
-    <message id="ui_report_show">
-        <source></source>
-        <translation>Mostrar el informe</translation>
-    </message>
     <message id="ui_report_go_on">
         <source></source>
         <translation>Continuar sin guardar</translation>
@@ -1586,6 +1574,134 @@ Software libre con licencia MIT.
     <message id="report_none_so_far">
         <source></source>
         <translation>ninguno, según lo comunicado</translation>
+    </message>
+    <message id="ui_report_save_first">
+        <source></source>
+        <translation>Guardar como…</translation>
+    </message>
+    <message id="ui_report_text_file">
+        <source></source>
+        <translation>Texto</translation>
+    </message>
+    <message id="report_off_so_far">
+        <source></source>
+        <translation>apagado, según lo comunicado</translation>
+    </message>
+    <message id="report_why_put_off">
+        <source></source>
+        <translation>la unidad pidió esperar y no respondió a tiempo</translation>
+    </message>
+    <message id="ui_report_opened">
+        <source></source>
+        <translation>Abierto: %1</translation>
+    </message>
+    <message id="ui_code_from">
+        <source></source>
+        <translation>De la unidad de control: %1</translation>
+    </message>
+    <message id="report_name_Misfire">
+        <source></source>
+        <translation>Fallos de encendido</translation>
+    </message>
+    <message id="report_name_Fuel system">
+        <source></source>
+        <translation>Sistema de combustible</translation>
+    </message>
+    <message id="report_name_Comprehensive components">
+        <source></source>
+        <translation>Componentes en general</translation>
+    </message>
+    <message id="report_name_Catalyst">
+        <source></source>
+        <translation>Catalizador</translation>
+    </message>
+    <message id="report_name_Heated catalyst">
+        <source></source>
+        <translation>Catalizador calentado</translation>
+    </message>
+    <message id="report_name_Evaporative system">
+        <source></source>
+        <translation>Sistema evaporativo</translation>
+    </message>
+    <message id="report_name_Secondary air system">
+        <source></source>
+        <translation>Aire secundario</translation>
+    </message>
+    <message id="report_name_A/C refrigerant / petrol particulate filter">
+        <source></source>
+        <translation>Refrigerante / filtro de partículas de gasolina</translation>
+    </message>
+    <message id="report_name_O2 sensor">
+        <source></source>
+        <translation>Sonda de oxígeno</translation>
+    </message>
+    <message id="report_name_O2 sensor heater">
+        <source></source>
+        <translation>Calefactor de la sonda de oxígeno</translation>
+    </message>
+    <message id="report_name_EGR/VVT system">
+        <source></source>
+        <translation>Sistema EGR/VVT</translation>
+    </message>
+    <message id="report_name_NMHC catalyst">
+        <source></source>
+        <translation>Catalizador NMHC</translation>
+    </message>
+    <message id="report_name_NOx/SCR aftertreatment">
+        <source></source>
+        <translation>Postratamiento NOx/SCR</translation>
+    </message>
+    <message id="report_name_Boost pressure">
+        <source></source>
+        <translation>Presión de sobrealimentación</translation>
+    </message>
+    <message id="report_name_Exhaust gas sensor">
+        <source></source>
+        <translation>Sensor de gases de escape</translation>
+    </message>
+    <message id="report_name_Particulate filter">
+        <source></source>
+        <translation>Filtro de partículas</translation>
+    </message>
+    <message id="report_name_OBD monitoring conditions met">
+        <source></source>
+        <translation>Condiciones de supervisión OBD cumplidas</translation>
+    </message>
+    <message id="report_name_Ignition cycles">
+        <source></source>
+        <translation>Ciclos de encendido</translation>
+    </message>
+    <message id="report_name_Catalyst, bank 1">
+        <source></source>
+        <translation>Catalizador, banco 1</translation>
+    </message>
+    <message id="report_name_Catalyst, bank 2">
+        <source></source>
+        <translation>Catalizador, banco 2</translation>
+    </message>
+    <message id="report_name_O2 sensor, bank 1">
+        <source></source>
+        <translation>Sonda de oxígeno, banco 1</translation>
+    </message>
+    <message id="report_name_O2 sensor, bank 2">
+        <source></source>
+        <translation>Sonda de oxígeno, banco 2</translation>
+    </message>
+    <message id="report_name_Secondary O2 sensor, bank 1">
+        <source></source>
+        <translation>Segunda sonda de oxígeno, banco 1</translation>
+    </message>
+    <message id="report_name_Secondary O2 sensor, bank 2">
+        <source></source>
+        <translation>Segunda sonda de oxígeno, banco 2</translation>
+    </message>
+    <message id="report_name_NOx catalyst">
+        <source></source>
+        <translation>Catalizador NOx</translation>
+    </message>
+    <message id="report_name_NOx adsorber">
+        <source></source>
+        <translation>Adsorbedor de NOx</translation>
     </message>
 </context>
 </TS>

@@ -1101,7 +1101,7 @@ Logiciel libre sous licence MIT.
     </message>
     <message id="report_vin_odd">
         <source></source>
-        <translation>%1 (numéro non conforme à la norme)</translation>
+        <translation>%1 (numéro non conforme à la norme : %2)</translation>
     </message>
     <message id="report_vins_differ">
         <source></source>
@@ -1330,14 +1330,6 @@ Logiciel libre sous licence MIT.
     <message id="report_partly">
         <source></source>
         <translation>une partie n'a pas pu être lue</translation>
-    </message>
-    <message id="report_all_units">
-        <source></source>
-        <translation>tous les calculateurs</translation>
-    </message>
-    <message id="report_unit">
-        <source></source>
-        <translation>calculateur %1</translation>
     </message>
     <message id="report_request">
         <source></source>
@@ -1575,10 +1567,6 @@ Logiciel libre sous licence MIT.
         <source></source>
         <translation>L'effacement supprime aussi les données figées et les résultats des tests. Le rapport lu les contient.</translation>
     </message>
-    <message id="ui_report_show">
-        <source></source>
-        <translation>Afficher le rapport</translation>
-    </message>
     <message id="ui_report_go_on">
         <source></source>
         <translation>Continuer sans enregistrer</translation>
@@ -1586,6 +1574,134 @@ Logiciel libre sous licence MIT.
     <message id="report_none_so_far">
         <source></source>
         <translation>aucun, pour autant que communiqué</translation>
+    </message>
+    <message id="ui_report_save_first">
+        <source></source>
+        <translation>Enregistrer sous…</translation>
+    </message>
+    <message id="ui_report_text_file">
+        <source></source>
+        <translation>Texte</translation>
+    </message>
+    <message id="report_off_so_far">
+        <source></source>
+        <translation>éteint, pour autant que communiqué</translation>
+    </message>
+    <message id="report_why_put_off">
+        <source></source>
+        <translation>le calculateur a demandé d’attendre et n’a pas répondu à temps</translation>
+    </message>
+    <message id="ui_report_opened">
+        <source></source>
+        <translation>Ouvert : %1</translation>
+    </message>
+    <message id="ui_code_from">
+        <source></source>
+        <translation>Du calculateur : %1</translation>
+    </message>
+    <message id="report_name_Misfire">
+        <source></source>
+        <translation>Ratés d’allumage</translation>
+    </message>
+    <message id="report_name_Fuel system">
+        <source></source>
+        <translation>Système d’alimentation</translation>
+    </message>
+    <message id="report_name_Comprehensive components">
+        <source></source>
+        <translation>Composants divers</translation>
+    </message>
+    <message id="report_name_Catalyst">
+        <source></source>
+        <translation>Catalyseur</translation>
+    </message>
+    <message id="report_name_Heated catalyst">
+        <source></source>
+        <translation>Catalyseur chauffé</translation>
+    </message>
+    <message id="report_name_Evaporative system">
+        <source></source>
+        <translation>Système d’évaporation</translation>
+    </message>
+    <message id="report_name_Secondary air system">
+        <source></source>
+        <translation>Air secondaire</translation>
+    </message>
+    <message id="report_name_A/C refrigerant / petrol particulate filter">
+        <source></source>
+        <translation>Réfrigérant / filtre à particules essence</translation>
+    </message>
+    <message id="report_name_O2 sensor">
+        <source></source>
+        <translation>Sonde à oxygène</translation>
+    </message>
+    <message id="report_name_O2 sensor heater">
+        <source></source>
+        <translation>Chauffage de la sonde à oxygène</translation>
+    </message>
+    <message id="report_name_EGR/VVT system">
+        <source></source>
+        <translation>Système EGR/VVT</translation>
+    </message>
+    <message id="report_name_NMHC catalyst">
+        <source></source>
+        <translation>Catalyseur NMHC</translation>
+    </message>
+    <message id="report_name_NOx/SCR aftertreatment">
+        <source></source>
+        <translation>Post-traitement NOx/SCR</translation>
+    </message>
+    <message id="report_name_Boost pressure">
+        <source></source>
+        <translation>Pression de suralimentation</translation>
+    </message>
+    <message id="report_name_Exhaust gas sensor">
+        <source></source>
+        <translation>Capteur de gaz d’échappement</translation>
+    </message>
+    <message id="report_name_Particulate filter">
+        <source></source>
+        <translation>Filtre à particules</translation>
+    </message>
+    <message id="report_name_OBD monitoring conditions met">
+        <source></source>
+        <translation>Conditions de surveillance OBD réunies</translation>
+    </message>
+    <message id="report_name_Ignition cycles">
+        <source></source>
+        <translation>Cycles d’allumage</translation>
+    </message>
+    <message id="report_name_Catalyst, bank 1">
+        <source></source>
+        <translation>Catalyseur, rangée 1</translation>
+    </message>
+    <message id="report_name_Catalyst, bank 2">
+        <source></source>
+        <translation>Catalyseur, rangée 2</translation>
+    </message>
+    <message id="report_name_O2 sensor, bank 1">
+        <source></source>
+        <translation>Sonde à oxygène, rangée 1</translation>
+    </message>
+    <message id="report_name_O2 sensor, bank 2">
+        <source></source>
+        <translation>Sonde à oxygène, rangée 2</translation>
+    </message>
+    <message id="report_name_Secondary O2 sensor, bank 1">
+        <source></source>
+        <translation>Seconde sonde à oxygène, rangée 1</translation>
+    </message>
+    <message id="report_name_Secondary O2 sensor, bank 2">
+        <source></source>
+        <translation>Seconde sonde à oxygène, rangée 2</translation>
+    </message>
+    <message id="report_name_NOx catalyst">
+        <source></source>
+        <translation>Catalyseur NOx</translation>
+    </message>
+    <message id="report_name_NOx adsorber">
+        <source></source>
+        <translation>Adsorbeur NOx</translation>
     </message>
 </context>
 </TS>

@@ -62,7 +62,7 @@ class readCodes final : public obd_screen {
     void awakeFromNib();
     void start_task(int task, const std::string& status);
     void forget_last_reading();
-    bool report_wanted_first();
+    bool report_is_safe();
 
     // read_codes_task.cpp
     void work_out_read_codes(int step);
@@ -87,7 +87,7 @@ class readCodes final : public obd_screen {
     std::vector<code_row> codesReadArray;
     std::vector<readiness_flag> readinessFlagsArray;
     text_dictionary P0_Codes;
-    std::vector<std::string> codes_rcvd;
+    std::vector<std::string> codes_rcvd, units_rcvd; // a unit for each code
     int no_of_codes = 0;
 
     int units_answered_ = 0;

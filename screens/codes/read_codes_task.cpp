@@ -152,6 +152,7 @@ std::vector<std::string> readCodes::work_reply_to_error_codes_pid(std::string_vi
         if (late.starts_with("4101") && !contains(status_reply_, late))
             read.unread.push_back({unread_kind::no_answer, {}});
     std::ranges::move(read.unread, std::back_inserter(unread_));
+    units_rcvd = std::move(read.units);
     return std::move(read.codes);
 }
 
@@ -171,7 +172,7 @@ void readCodes::codes_answered() {
         qCDebug(log_screens, "%s - %s", code.c_str(), codesReadArray.back()[1].c_str());
     }
     codes_told_ = true;
-    view_->show_codes(codesReadArray);
+    view_->show_codes(codesReadArray, units_rcvd);
     set_status_msg("Rerieve codes successfully");
     refresh_readiness();
     succeeded_ = unread_.empty();

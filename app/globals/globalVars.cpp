@@ -1,8 +1,11 @@
 #include "globalVars.h"
 
 int g_connect_with = 0;
+bool g_stream_is_serial = false;
 std::string g_cur_wifi_IP;
 std::string g_cur_wifi_port;
+std::string g_cur_serial_port;
+int g_cur_serial_speed = 0;
 bool g_metric_units = false;
 bool g_log_runs = false;
 int g_this_delta = 0;
@@ -22,6 +25,7 @@ bool KS_did_connect_2_car = false;
 bounded_text<40> g_cur_interface;
 bounded_text<80> g_cur_protocol;
 bus_form g_bus_form = bus_form::unknown;
+std::map<std::string, std::string> g_status_units;
 bounded_text<16> g_Supported_obd_mask_0;
 bounded_text<16> g_Supported_obd_mask_1;
 bounded_text<16> g_Supported_obd_mask_2;
@@ -34,8 +38,11 @@ bool connecting_2_car_port = false;
 
 void reset_global_vars() {
     g_connect_with = 0;
+    g_stream_is_serial = false;
     g_cur_wifi_IP.clear();
     g_cur_wifi_port.clear();
+    g_cur_serial_port.clear();
+    g_cur_serial_speed = 0;
     g_metric_units = false;
     g_log_runs = false;
     g_this_delta = 0;
@@ -55,6 +62,7 @@ void reset_global_vars() {
     g_cur_interface.clear();
     g_cur_protocol.clear();
     g_bus_form = bus_form::unknown;
+    g_status_units.clear();
     g_Supported_obd_mask_0.clear();
     g_Supported_obd_mask_1.clear();
     g_Supported_obd_mask_2.clear();

@@ -5,6 +5,7 @@
 #include "constantes.h"
 
 #include <cstddef>
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -26,8 +27,11 @@ class bounded_text {
 };
 
 extern int g_connect_with;        // transport: KS_USE_BT or KS_USE_WIFI
+extern bool g_stream_is_serial;   // of KS_USE_WIFI: a serial port
 extern std::string g_cur_wifi_IP; // adapter address and port, as typed
 extern std::string g_cur_wifi_port;
+extern std::string g_cur_serial_port;
+extern int g_cur_serial_speed; // 0: the usual ones are tried
 extern bool g_metric_units;
 extern bool g_log_runs;
 extern int g_this_delta;    // reply time-out in seconds
@@ -44,8 +48,10 @@ extern bool connected_2_WIFI_interface;
 extern bool connected_2_BT_interface;
 extern bool connected_2_KS_interface; // handshake completed
 extern bool KS_did_connect_2_car;     // the car has answered once; later handshakes skip the reset
-extern bounded_text<40> g_cur_interface;        // adapter identity, the raw answer to "AT I"
-extern bounded_text<80> g_cur_protocol;         // the first screened answer to "AT DP"
+extern bounded_text<40> g_cur_interface; // adapter identity, the raw answer to "AT I"
+extern bounded_text<80> g_cur_protocol;  // the first screened answer to "AT DP"
+// Names of the units whose masks name PID 01 (status), by their addresses; of the same headers.
+extern std::map<std::string, std::string> g_status_units;
 extern bus_form g_bus_form;                     // by the headers of the handshake's answers
 extern bounded_text<16> g_Supported_obd_mask_0; // supported-PID bitmaps as 8 hex digits
 extern bounded_text<16> g_Supported_obd_mask_1;

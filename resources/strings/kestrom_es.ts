@@ -7,7 +7,7 @@
         <source></source>
         <translation>Kestrom lee el diagnóstico de a bordo (OBD-II) de su coche mediante un adaptador de tipo ELM327.
 
-Conexión: enchufe el adaptador en la toma de diagnóstico del coche, normalmente bajo el volante, y dé el contacto. Con un adaptador Wi-Fi, conecte primero este equipo a la red inalámbrica del adaptador, elija después Wi-Fi en las preferencias y escriba su dirección y su puerto (casi siempre 192.168.0.10 y 35000). Con un adaptador Bluetooth, elija Bluetooth; la primera tarea que inicie preguntará qué dispositivo usar.
+Conexión: enchufe el adaptador en la toma de diagnóstico del coche, normalmente bajo el volante, y dé el contacto. Con un adaptador Wi-Fi, conecte primero este equipo a la red inalámbrica del adaptador, elija después Wi-Fi en las preferencias y escriba su dirección y su puerto (casi siempre 192.168.0.10 y 35000). Con un adaptador Bluetooth, elija Bluetooth; la primera tarea que inicie preguntará qué dispositivo usar. Con un cable, elija su puerto. Las ayudas emergentes cuentan más.
 
 Códigos de avería: «Leer códigos» muestra los códigos guardados con su significado, el testigo de avería y el estado de los monitores. «Borrar códigos» borra los códigos, apaga el testigo y pone a cero los monitores; hágalo con el motor parado y solo después de anotar los códigos.
 
@@ -47,6 +47,16 @@ Compruebe que:
 • Ningún teléfono ni otro programa usa el adaptador al mismo tiempo.
 • El coche admite OBD-II.</translation>
     </message>
+    <message id="no_reply_from_car_MSG_serial">
+        <source></source>
+        <translation>El adaptador funciona, pero el coche no ha respondido.
+
+Compruebe que:
+• El contacto está dado o el motor está en marcha.
+• El adaptador está bien enchufado en la toma de diagnóstico.
+• Ningún otro programa usa el adaptador al mismo tiempo.
+• El coche admite OBD-II.</translation>
+    </message>
     <message id="init_OBD_error_MSG">
         <source></source>
         <translation>El adaptador no ha podido iniciar el bus de diagnóstico del coche. Quite el contacto y vuelva a darlo, compruebe que el adaptador está bien enchufado en la toma de diagnóstico e inténtelo otra vez.</translation>
@@ -66,6 +76,34 @@ Compruebe que:
     <message id="tcp_no_answer_yet_MSG">
         <source></source>
         <translation>El adaptador aún no ha respondido. Compruebe que este equipo está en la red inalámbrica del adaptador y que la dirección y el puerto son correctos.</translation>
+    </message>
+    <message id="serial_no_answer_yet_MSG">
+        <source></source>
+        <translation>El adaptador aún no ha respondido. Compruebe el cable y el puerto en las preferencias.</translation>
+    </message>
+    <message id="serial_not_there">
+        <source></source>
+        <translation>%1 no existe. Conecte el adaptador o elija otro puerto en las preferencias.</translation>
+    </message>
+    <message id="serial_taken">
+        <source></source>
+        <translation>%1 ha desaparecido: otro servicio se ha quedado con el cable del adaptador. Casi siempre es brltty, para líneas braille. Si nadie lo necesita, escriba «sudo apt remove brltty» en un terminal y vuelva a conectar el adaptador.</translation>
+    </message>
+    <message id="serial_not_permitted">
+        <source></source>
+        <translation>No tiene permiso para usar %1: pertenece al grupo %2. Escriba «sudo usermod -a -G %2 $USER» en un terminal, cierre la sesión y vuelva a entrar.</translation>
+    </message>
+    <message id="serial_busy">
+        <source></source>
+        <translation>Otro programa tiene abierto %1. Ciérrelo y vuelva a intentarlo. ModemManager lo suelta por sí solo en menos de medio minuto.</translation>
+    </message>
+    <message id="serial_silent">
+        <source></source>
+        <translation>Ningún adaptador responde en %1 (probado: %2 baudios). Compruebe que es el puerto del adaptador, que el adaptador está en la toma de diagnóstico y la velocidad en las preferencias.</translation>
+    </message>
+    <message id="serial_other">
+        <source></source>
+        <translation>%1 no se puede usar: %2</translation>
     </message>
     <message id="bt_no_adapter_MSG">
         <source></source>
@@ -90,6 +128,10 @@ Compruebe que:
     <message id="ui_start_bluetooth">
         <source></source>
         <translation>Adaptador &amp;Bluetooth</translation>
+    </message>
+    <message id="ui_start_serial">
+        <source></source>
+        <translation>Cable &amp;USB o serie</translation>
     </message>
     <message id="ui_start_demo">
         <source></source>
@@ -433,6 +475,38 @@ Los nombres de los monitores están en inglés.</translation>
     <message id="ui_wifi">
         <source></source>
         <translation>&amp;Wi-Fi</translation>
+    </message>
+    <message id="ui_serial">
+        <source></source>
+        <translation>Cable &amp;USB o serie</translation>
+    </message>
+    <message id="ui_serial_speed">
+        <source></source>
+        <translation>Velocidad:</translation>
+    </message>
+    <message id="ui_serial_auto">
+        <source></source>
+        <translation>hallada probando</translation>
+    </message>
+    <message id="ui_serial_absent">
+        <source></source>
+        <translation>%1 (no conectado)</translation>
+    </message>
+    <message id="ui_serial_none">
+        <source></source>
+        <translation>ninguno conectado</translation>
+    </message>
+    <message id="ui_kind_bluetooth">
+        <source></source>
+        <translation>Solo necesita el adaptador; emparéjelo aquí o en los ajustes del escritorio. Velocidad: media. Si falla: desenchúfelo, vuelva a enchufarlo y compruebe que ningún teléfono lo ocupa.</translation>
+    </message>
+    <message id="ui_kind_wifi">
+        <source></source>
+        <translation>Necesita que este equipo esté en la red inalámbrica del adaptador, a menudo sin internet. Velocidad: buena. Si falla: vuelva a unirse a esa red y compruebe la dirección y el puerto.</translation>
+    </message>
+    <message id="ui_kind_serial">
+        <source></source>
+        <translation>Necesita un puerto libre y permiso para usarlo. Velocidad: buena, como mucho la del cable. Si falla: vuelva a conectar el cable; el mensaje dice quién ocupa el puerto o qué grupo puede usarlo.</translation>
     </message>
     <message id="ui_address">
         <source></source>
@@ -784,6 +858,10 @@ Software libre con licencia MIT.
     <message id="unread_no_answer">
         <source></source>
         <translation>el coche no ha respondido</translation>
+    </message>
+    <message id="unread_silent_unit">
+        <source></source>
+        <translation>una unidad de control no ha respondido (%1)</translation>
     </message>
     <message id="unread_left_out">
         <source></source>

@@ -38,7 +38,7 @@ QTableView* make_table(const char* name, QWidget* parent) {
     return table;
 }
 
-// A mark before the word, so that nobody needs colour to tell the states apart.
+// A mark before the word, so that states differ without colour.
 QString readiness_mark(const std::string& state) {
     if (state == "OK")
         return QStringLiteral("\u2713  OK");
@@ -171,8 +171,8 @@ void codes_view::build_tables(QVBoxLayout* column) {
     column->addWidget(split, 1);
 }
 
-// Keeps the longest word of a monitor's name whole and most names to two lines, also beside a
-// scroll bar.
+// Keeps the longest word of a monitor's name intact and most names to two lines, even with a scroll
+// bar.
 void codes_view::make_room_for_monitors() {
     QTableView* table = readinessCodesTableView_;
     const int monitor =

@@ -1,4 +1,4 @@
-// The widgets of the trouble-codes screen. Owned by readCodes, which tells it what to show.
+// The widgets of the trouble-codes screen. Owned by readCodes.
 #pragma once
 
 #include "readCodes.h"
@@ -36,11 +36,11 @@ class codes_view {
     void set_interface(const std::string& text);
     void set_protocol(const std::string& text);
     void set_extra_info(const std::string& text);
-    // What the last reading told of lamp, count and codes.
+    // Lamp, count and codes of the last reading.
     void forget_status();
-    // As after a clear.
+    // The state after a clear.
     void reset_labels();
-    // The end of a reading: says that there are no codes, or what is missing.
+    // At the end of a reading: says that there are no codes, or what is missing.
     void show_result(const unread_pieces& unread, bool none_counted);
 
     std::string lamp() const { return lamp_; }
@@ -53,7 +53,7 @@ class codes_view {
     void make_room_for_monitors();
 
     Ks_lite_delegate& delegate_;
-    // Read by the tables up to their end.
+    // Used by the tables until they are destroyed.
     std::vector<code_row> codes_;
     std::vector<readiness_flag> readiness_;
     std::unique_ptr<QWidget> bones_root_;

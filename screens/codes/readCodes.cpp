@@ -27,7 +27,7 @@ void readCodes::awakeFromNib() {
     view_->on_diagnose = [this] { obd_sim(); };
     view_->show_codes(codesReadArray);
     view_->show_readiness(readinessFlagsArray);
-    // What an earlier screen's handshake found out still holds.
+    // The results of an earlier screen's handshake are still valid.
     if (!g_cur_interface.empty())
         show_interface("Interface : " + g_cur_interface.str());
     if (!g_cur_protocol.empty())
@@ -36,7 +36,7 @@ void readCodes::awakeFromNib() {
     set_status_msg("");
 }
 
-// A reading that fails must leave none of the one before.
+// A failed reading must leave nothing of the previous one.
 void readCodes::forget_last_reading() {
     codesReadArray.clear();
     readinessFlagsArray.clear();

@@ -4,7 +4,6 @@
 #include "codes_view.h"
 #include "globalVars.h"
 #include "readCodes.h"
-#include "reading.h"
 #include "system_log.h"
 #include "text.h"
 #include "trouble_codes.h"
@@ -33,22 +32,17 @@ void readCodes::work_out_read_codes(int step) {
     try {
         switch (step) {
         case START:
-            start_reading();
-            break;
+            return start_reading();
         case HEADERS_ON_ANSWERED:
-            headers_answered("01 01\r", STATUS_ANSWERED);
-            break;
+            return headers_answered("01 01\r", STATUS_ANSWERED);
         case STATUS_ANSWERED:
-            status_answered();
-            break;
+            return status_answered();
         case HEADERS_OFF_ANSWERED:
-            headers_answered("03\r", CODES_ANSWERED);
-            break;
+            return headers_answered("03\r", CODES_ANSWERED);
         case CODES_ANSWERED:
-            codes_answered();
-            break;
+            return codes_answered();
         default:
-            break;
+            return;
         }
     } catch (const std::exception& failure) {
         show_err_msg("work_out_read::Did not fully complete [ " + std::string(failure.what()) +
@@ -66,23 +60,19 @@ void readCodes::start_reading() {
     send_and_go_to("AT H1\r", HEADERS_ON_ANSWERED);
 }
 
-// After "AT H1" and after "AT H0": go on when confirmed.
+// After "AT H1" and after "AT H0": continue when confirmed.
 void readCodes::headers_answered(std::string_view next_command, int next_step) {
-    if (contains(odb_curReplyMsg, "~")) {
-        end_by_timeout();
-        return;
-    }
-    if (!contains(odb_curReplyMsg, "OK")) {
-        retry_headers();
-        return;
-    }
+    if (contains(odb_curReplyMsg, "~"))
+        return end_by_timeout();
+    if (!contains(odb_curReplyMsg, "OK"))
+        return retry_headers();
     g_retries = 0;
     g_obd_msg_state = S_WAITING;
     send_and_go_to(next_command, next_step);
 }
 
-// A lost confirmation of "AT H0" repeats the whole status exchange as well. Its end counts from
-// zero again, so that an adapter which never confirms would be asked for ever.
+// A lost confirmation of "AT H0" repeats the whole status exchange. That resets the retries, so an
+// adapter that never confirms would be asked forever.
 void readCodes::retry_headers() {
     cur_cmd = std::string_view("AT H1\r");
     next_step_idx = HEADERS_ON_ANSWERED;
@@ -90,7 +80,7 @@ void readCodes::retry_headers() {
     const int before = g_retries;
     g_retries = before + 1;
     if (before <= 3 && ++headers_repeated_ <= MOST_HEADER_REPEATS) {
-        g_retries = before + 2; // by two on purpose
+        g_retries = before + 2; // by two, deliberately
         set_status_msg("Didn't get a confirmation from interface ... Trying again");
         sendOBDcmd(cur_cmd);
         return;
@@ -111,17 +101,14 @@ void readCodes::end_by_timeout() {
 void readCodes::status_answered() {
     connecting_2_car_port = false;
     const std::string reply = handshake_.check_initial_car_reply();
-    if (contains(reply, REPLY_REJECTED)) {
-        end_task();
-        return;
-    }
+    if (contains(reply, REPLY_REJECTED))
+        return end_task();
     if (contains(reply, "NO DATA") && g_retries <= 0 && !longer_timeout_asked_for_) {
         longer_timeout_asked_for_ = true;
         ++g_retries;
         g_obd_msg_state = S_WAITING;
-        send_and_go_to("AT ST FF\r",
-                       START); // the adapter's longest wait; then everything once more
-        return;
+        // Sets the adapter's longest wait, then repeats everything.
+        return send_and_go_to("AT ST FF\r", START);
     }
     g_retries = 0;
     set_status_msg("Initial  reply: [" + reply + "]");
@@ -130,7 +117,7 @@ void readCodes::status_answered() {
 }
 
 void readCodes::decode_status() {
-    const car_status status = read_status(odb_curReplyMsg);
+    const car_status status = read_status(odb_curReplyMsg, g_status_units);
     status_reply_ = without(odb_curReplyMsg, " ");
     status_told_ = status.told;
     count_known_ = status.told && status.all_read;
@@ -145,8 +132,11 @@ void readCodes::decode_status() {
         QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat).toStdString();
     view_->set_read_on(cur_err_msg);
     for (const unread_piece& one : status.unread)
-        if (one.kind != unread_kind::no_answer) // "N/A" says that
+        if (one.kind != unread_kind::no_answer) // shown as "N/A"
             unread_.push_back(one);
+    // Asked anew at the next reading: the unit may be gone, or have been a damaged header.
+    if (std::ranges::count(unread_, unread_kind::silent_unit, &unread_piece::kind) > 0)
+        connected_2_KS_interface = false;
 }
 
 std::vector<std::string> readCodes::work_reply_to_error_codes_pid(std::string_view mode,
@@ -154,12 +144,12 @@ std::vector<std::string> readCodes::work_reply_to_error_codes_pid(std::string_vi
     codes_reading read =
         read_codes(mode, this_reply, bus_known_by(status_bus_, g_bus_form, g_cur_protocol),
                    count_known_ ? std::optional(no_of_codes) : std::nullopt);
-    // Old cars put it so that nothing is stored; not those that have just counted codes.
+    // Old cars say so when nothing is stored; but not those that have just counted codes.
     if (read.no_data && (!status_told_ || no_of_codes > 0))
         read.unread.push_back({unread_kind::no_answer, {}});
     // A unit that tells its status only now was cut off by the adapter, and may have been so again.
-    for (const ecu_answer& late : read_reply("0101", this_reply).answers)
-        if (!contains(status_reply_, late.data))
+    for (const std::string& late : read.others)
+        if (late.starts_with("4101") && !contains(status_reply_, late))
             read.unread.push_back({unread_kind::no_answer, {}});
     std::ranges::move(read.unread, std::back_inserter(unread_));
     return std::move(read.codes);
@@ -171,8 +161,7 @@ void readCodes::codes_answered() {
         unread_.push_back({unread_kind::no_answer, {}});
         refresh_readiness();
         set_status_msg("Failed to receive the error codes");
-        leave_cur_op_gracefully("");
-        return;
+        return leave_cur_op_gracefully("");
     }
     codes_rcvd = work_reply_to_error_codes_pid("03", without(reply, " "));
     load_the_codes();
@@ -195,9 +184,9 @@ void readCodes::codes_answered() {
 }
 
 void readCodes::refresh_readiness() {
-    // Without an answer to "01 01" there is no state to show.
+    // Without an answer to "01 01" there is no status to show.
     readinessFlagsArray.clear();
-    struct shower { // the rows built before a failure are shown as well
+    struct shower { // shows the rows built before a failure, too
         readCodes& screen;
         ~shower() { screen.view_->show_readiness(screen.readinessFlagsArray); }
     } show{*this};

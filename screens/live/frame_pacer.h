@@ -1,7 +1,6 @@
-// Paces drawing: at most 20 frames a second, more than a car sends new values. After a frame that
-// took d the next waits 50 d, so that drawing takes a fiftieth of the time, but no more than a
-// tenth of a second for that; and at least 3 d, so that it never takes more than a quarter. Owned
-// by a screen.
+// Paces drawing: at most 20 frames a second, faster than a car sends new values. After a frame that
+// took d, the next waits 50 d, but at most an eighth of a second, so that drawing takes little of a
+// core; and at least 3 d, so that it never takes more than a quarter. Owned by a screen.
 #pragma once
 
 #include "run_loop.h"
@@ -15,7 +14,7 @@ class frame_pacer {
     frame_pacer(const frame_pacer&) = delete;
     frame_pacer& operator=(const frame_pacer&) = delete;
 
-    // A frame is to be drawn: as soon as the pace allows, from the run loop.
+    // Requests a frame: drawn from the run loop as soon as the pace allows.
     void request();
 
   private:

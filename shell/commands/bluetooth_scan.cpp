@@ -69,7 +69,7 @@ int run_bluetooth_scan(const desk& work) {
 
 int scan_devices(const desk& work, bluez_devices& devices, double seconds) {
     QEventLoop waiting;
-    // A queued look: what ends the wait may be true already.
+    // A queued check: the condition that ends the wait may already be true.
     const auto look = [&] {
         if (!devices.starting() &&
             (!devices.searching() || devices.problem() != bluetooth_problem::none))

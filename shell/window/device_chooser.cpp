@@ -105,7 +105,7 @@ void device_chooser::build_table() {
     fit_column(table_, 4, text("bt_when_connecting"));
     fit_column(table_, 5, text("bt_when_connecting"));
     hint_ = new empty_hint(table_, QString());
-    // What to do may be a command that one wants to copy.
+    // The advice may be a command to copy.
     hint_->setAttribute(Qt::WA_TransparentForMouseEvents, false);
     hint_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     QObject::connect(table_, &QTableView::activated, this, [this] { connect_selected(); });
@@ -201,7 +201,7 @@ void device_chooser::refresh() {
     show_state();
 }
 
-// What happens, or what is in the way, in one or two sentences.
+// The state, or the problem, in one or two sentences.
 QString device_chooser::state_text() const {
     if (connection_) {
         QString told = text("bt_connecting").arg(one_line(connecting_name_));
@@ -226,7 +226,7 @@ void device_chooser::show_state() {
     const QString told = state_text();
     const bool usable = devices_.problem() == bluetooth_problem::none;
     const bool waiting = connection_ || devices_.starting() || devices_.searching();
-    // An empty table says it in the middle, where one looks; what can be read twice is noise.
+    // An empty table says it in the middle; saying it twice is noise.
     hint_->setText(told);
     hint_->setForegroundRole(usable ? QPalette::PlaceholderText : QPalette::Text);
     state_->setText(entries_.empty() ? QString() : told);
@@ -272,7 +272,7 @@ void device_chooser::connection_done() {
     table_->setFocus();
 }
 
-// While it connects, the first step back is to the list.
+// While connecting, cancelling returns to the list.
 void device_chooser::reject() {
     if (!connection_) {
         QDialog::reject();

@@ -104,7 +104,7 @@ TEST(car_file_test, cars_of_the_shelf_answer_their_codes_and_supported_values) {
     EXPECT_GE(names.size(), 12u);
     std::set<int> buses;
     for (const std::string& name : names) {
-        adapter_harness car(name);
+        adapter_harness car({.car_name = name});
         buses.insert(car.the_car.protocol);
         car.say("AT E0");
         car.say("01 00");
@@ -129,7 +129,7 @@ TEST(car_file_test, cars_of_the_shelf_answer_their_codes_and_supported_values) {
 
 TEST(car_file_test, a_car_can_be_moved_to_any_bus) {
     for (const bus_protocol& bus : bus_protocols()) {
-        adapter_harness car("three_units");
+        adapter_harness car({.car_name = "three_units"});
         change_protocol(car.the_car, bus);
         car.say("AT E0");
         EXPECT_NE(

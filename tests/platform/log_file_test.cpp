@@ -70,4 +70,18 @@ TEST_F(log_file_test, a_file_that_is_removed_meanwhile_takes_no_more_lines) {
     EXPECT_FALSE(log.is_open());
 }
 
+TEST_F(log_file_test, an_empty_file_goes_with_its_log_but_not_what_stands_there_instead) {
+    for (const bool replaced : {false, true}) {
+        log_file log;
+        ASSERT_EQ(log.create(path()), std::nullopt);
+        log.leave_no_empty_file();
+        if (replaced) {
+            std::remove(path().c_str());
+            std::ofstream(path()) << "mine";
+        }
+        log.close();
+        EXPECT_EQ(text_of(path()), replaced ? "mine" : "");
+    }
+}
+
 } // namespace

@@ -1,12 +1,8 @@
-// What no single conversation can show, and the bytes of live values.
+// What no single conversation can show.
 #include "adapter_harness.h"
-#include "hex_text.h"
-#include "live_values.h"
-#include "rows.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <map>
 
 namespace {
 
@@ -110,54 +106,6 @@ TEST(adapter_rules, any_mixture_of_commands_gets_one_prompt_each) {
             car.chunks(std::string(3, char(byte)) + "\r");
         car.say("AT Z");
         EXPECT_NE(car.say("AT I").find("ELM327 v1.5"), std::string::npos) << name;
-    }
-}
-
-TEST(live_values, bytes_are_those_of_the_standard) {
-    using e = engine_state;
-    using m = car_moment;
-    static const std::map<std::string, double e::*> OF_ENGINE{
-        {"load", &e::load},
-        {"coolant_celsius", &e::coolant_celsius},
-        {"short_trim", &e::short_trim},
-        {"long_trim", &e::long_trim},
-        {"manifold_kpa", &e::manifold_kpa},
-        {"rpm", &e::rpm},
-        {"speed_kmh", &e::speed_kmh},
-        {"advance_degrees", &e::advance_degrees},
-        {"intake_celsius", &e::intake_celsius},
-        {"air_gram_s", &e::air_gram_s},
-        {"throttle", &e::throttle},
-        {"oxygen_volts", &e::oxygen_volts},
-        {"downstream_oxygen_volts", &e::downstream_oxygen_volts},
-        {"run_seconds", &e::run_seconds},
-        {"equivalence_ratio", &e::equivalence_ratio},
-        {"fuel_level", &e::fuel_level},
-        {"barometer_kpa", &e::barometer_kpa},
-        {"battery_volts", &e::battery_volts},
-        {"absolute_load", &e::absolute_load},
-        {"ambient_celsius", &e::ambient_celsius},
-        {"pedal", &e::pedal},
-        {"oil_celsius", &e::oil_celsius},
-        {"fuel_gram_s", &e::fuel_gram_s},
-        {"catalyst_celsius", &e::catalyst_celsius}};
-    static const std::map<std::string, double m::*> OF_CAR{{"km_since_clear", &m::km_since_clear},
-                                                           {"lamp_km", &m::lamp_km},
-                                                           {"odometer_km", &m::odometer_km}};
-    for (const table_row& row : read_rows(KESTROM_TEST_DATA "/live_values.rows")) {
-        const std::string& sensor = row.fields[1];
-        car_moment now;
-        now.engine.closed_loop = true;
-        const double value = std::stod(row.fields[2]);
-        if (const auto found = OF_ENGINE.find(sensor); found != OF_ENGINE.end())
-            now.engine.*found->second = value;
-        else if (sensor == "warm_ups")
-            now.warm_ups = int(value);
-        else
-            now.*OF_CAR.at(sensor) = value;
-        const std::string bytes = hex_text(live_value(int(hex_number(row.fields[0])), now), false);
-        EXPECT_EQ(bytes.substr(2 * std::stoul(row.fields[3]), row.fields[4].size()), row.fields[4])
-            << row.place;
     }
 }
 

@@ -86,7 +86,10 @@ inline std::vector<double> numbers_in(const std::string& text) {
     std::vector<double> numbers;
     for (std::size_t at = 0, end = 0; end != text.npos; at = end + 1) {
         end = text.find(',', at);
-        numbers.push_back(std::stod(text.substr(at, end - at)));
+        const std::string number = text.substr(at, end - at);
+        const std::size_t over = number.find('/'); // "100/255"
+        numbers.push_back(std::stod(number) /
+                          (over == number.npos ? 1 : std::stod(number.substr(over + 1))));
     }
     return numbers;
 }

@@ -129,7 +129,9 @@ std::string odd_one_of(operations_test& t, const std::string& pids) {
             const std::string first =
                 t.in(metric).translateResponse("41" + pids.substr(0, 2) + data);
             for (const std::string_view pid : split(pids, ","))
-                if (t.in(metric).translateResponse("41" + std::string(pid) + data) != first)
+                if (const translated one =
+                        t.in(metric).translate_once("41" + std::string(pid) + data);
+                    one.text != first || one.value != leading_number(first))
                     return std::string(pid);
         }
     return pids;

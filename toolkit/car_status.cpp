@@ -7,19 +7,43 @@
 
 namespace {
 
-constexpr std::size_t A_AT = 4, BCD_AT = 6, WHOLE = 12; // digits of "4101AABBCCDD"
+constexpr std::size_t A_AT = 4, BCD_AT = 6, WHOLE = 12; // digits of "4101AABBCCDD", "4100.."
 constexpr unsigned LAMP_BIT = 0x80, COUNT_BITS = 0x7F;
+constexpr unsigned STATUS_BIT = 0x80; // of a mask: PID 01
 
 bool is_engine(const ecu_answer& one) {
     return one.unit == "Engine";
 }
 
+void tell_silent_units(reading& read, std::map<std::string, std::string> expected) {
+    for (const ecu_answer& one : read.answers)
+        expected.erase(unit_address(one.form, one.header));
+    for (const unread_piece& one : read.unread)
+        if (one.kind == unread_kind::refused)
+            expected.erase(one.unit);
+        else
+            return; // that may have been theirs, and is told of
+    for (const auto& [address, name] : expected)
+        read.unread.push_back({unread_kind::silent_unit, name, address});
+}
+
 } // namespace
+
+std::map<std::string, std::string> units_with_status(const reading& pids) {
+    std::map<std::string, std::string> units;
+    for (const ecu_answer& one : pids.answers)
+        if (one.form != header_form::none && one.data.size() >= WHOLE &&
+            (hex_value(slice(std::string_view(one.data), A_AT, 2)) & STATUS_BIT) != 0)
+            units[unit_address(one.form, one.header)] = one.unit;
+    return units;
+}
 
 // The engine's answer, or the only one, tells lamp and monitors. When several units answer and none
 // is the engine's, any lamp counts, and the first unit's monitors.
-car_status read_status(std::string_view reply) {
+car_status read_status(std::string_view reply, const std::map<std::string, std::string>& expected) {
     reading read = read_reply("0101", reply);
+    if (read.bus.source == bus_source::headers)
+        tell_silent_units(read, expected);
     read.forget_refusals();
     std::erase_if(read.answers, [](const auto& one) { return one.data.size() < WHOLE; });
     const bool engine_told = std::ranges::any_of(read.answers, is_engine);

@@ -4,6 +4,7 @@
 
 #include "reading.h"
 
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -18,4 +19,10 @@ struct car_status {
     unread_pieces unread;
 };
 
-car_status read_status(std::string_view reply);
+// `expected`: the units that have a status; told only where headers say who answers.
+car_status read_status(std::string_view reply,
+                       const std::map<std::string, std::string>& expected = {});
+
+// The units that told, in an answer to "01 00" with headers on, that they have a status: names by
+// addresses.
+std::map<std::string, std::string> units_with_status(const reading& pids);

@@ -32,6 +32,7 @@ class codes_taker {
         result_.answered = reply.answered();
         result_.no_data = reply.no_data;
         result_.unread = reply.unread;
+        result_.others = reply.others;
     }
 
     codes_reading take() {

@@ -16,6 +16,7 @@ struct codes_reading {
     std::vector<std::string> codes; // in the order of the reply, duplicates kept
     bool answered = false;
     bool no_data = false;
+    std::vector<std::string> others; // as a reading has them
     unread_pieces unread;
 };
 

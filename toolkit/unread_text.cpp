@@ -21,6 +21,7 @@ constexpr kind_row ROWS[] = {
     {"frames_unclear", "unread_frames_unclear"},
     {"refused", "unread_refused"},
     {"no_answer", "unread_no_answer"},
+    {"silent_unit", "unread_silent_unit"},
     {"left_out", "unread_left_out"},
 };
 

@@ -123,6 +123,7 @@ void Ks_lite_delegate::drop_link() {
     g_cur_interface.clear();
     g_cur_protocol.clear();
     g_bus_form = bus_form::unknown;
+    g_status_units.clear();
     for (auto* mask : {&g_Supported_obd_mask_0, &g_Supported_obd_mask_1, &g_Supported_obd_mask_2})
         mask->clear();
     g_Supported_obd_mask_3.clear();

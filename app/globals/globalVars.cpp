@@ -22,6 +22,7 @@ bool KS_did_connect_2_car = false;
 bounded_text<40> g_cur_interface;
 bounded_text<80> g_cur_protocol;
 bus_form g_bus_form = bus_form::unknown;
+std::map<std::string, std::string> g_status_units;
 bounded_text<16> g_Supported_obd_mask_0;
 bounded_text<16> g_Supported_obd_mask_1;
 bounded_text<16> g_Supported_obd_mask_2;
@@ -55,6 +56,7 @@ void reset_global_vars() {
     g_cur_interface.clear();
     g_cur_protocol.clear();
     g_bus_form = bus_form::unknown;
+    g_status_units.clear();
     g_Supported_obd_mask_0.clear();
     g_Supported_obd_mask_1.clear();
     g_Supported_obd_mask_2.clear();

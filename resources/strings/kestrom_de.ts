@@ -769,6 +769,10 @@ Freie Software unter der MIT-Lizenz.
         <source></source>
         <translation>das Auto hat nicht geantwortet</translation>
     </message>
+    <message id="unread_silent_unit">
+        <source></source>
+        <translation>ein Steuergerät hat nicht geantwortet (%1)</translation>
+    </message>
     <message id="unread_left_out">
         <source></source>
         <translation>das Auto hat auch %1 gesendet (nicht in der Liste)</translation>

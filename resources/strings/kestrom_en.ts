@@ -768,6 +768,10 @@ Free software under the MIT licence.
         <source></source>
         <translation>the car did not answer</translation>
     </message>
+    <message id="unread_silent_unit">
+        <source></source>
+        <translation>a control unit did not answer (%1)</translation>
+    </message>
     <message id="unread_left_out">
         <source></source>
         <translation>the car also sent %1, which is not in the list</translation>

@@ -769,6 +769,10 @@ Software libre con licencia MIT.
         <source></source>
         <translation>el coche no ha respondido</translation>
     </message>
+    <message id="unread_silent_unit">
+        <source></source>
+        <translation>una unidad de control no ha respondido (%1)</translation>
+    </message>
     <message id="unread_left_out">
         <source></source>
         <translation>el coche también ha enviado %1, que no figura en la lista</translation>

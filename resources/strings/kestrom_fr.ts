@@ -769,6 +769,10 @@ Logiciel libre sous licence MIT.
         <source></source>
         <translation>la voiture n'a pas répondu</translation>
     </message>
+    <message id="unread_silent_unit">
+        <source></source>
+        <translation>un calculateur n'a pas répondu (%1)</translation>
+    </message>
     <message id="unread_left_out">
         <source></source>
         <translation>la voiture a aussi envoyé %1, que la liste omet</translation>

@@ -4,7 +4,6 @@
 #include "codes_view.h"
 #include "globalVars.h"
 #include "readCodes.h"
-#include "reading.h"
 #include "system_log.h"
 #include "text.h"
 #include "trouble_codes.h"
@@ -33,22 +32,17 @@ void readCodes::work_out_read_codes(int step) {
     try {
         switch (step) {
         case START:
-            start_reading();
-            break;
+            return start_reading();
         case HEADERS_ON_ANSWERED:
-            headers_answered("01 01\r", STATUS_ANSWERED);
-            break;
+            return headers_answered("01 01\r", STATUS_ANSWERED);
         case STATUS_ANSWERED:
-            status_answered();
-            break;
+            return status_answered();
         case HEADERS_OFF_ANSWERED:
-            headers_answered("03\r", CODES_ANSWERED);
-            break;
+            return headers_answered("03\r", CODES_ANSWERED);
         case CODES_ANSWERED:
-            codes_answered();
-            break;
+            return codes_answered();
         default:
-            break;
+            return;
         }
     } catch (const std::exception& failure) {
         show_err_msg("work_out_read::Did not fully complete [ " + std::string(failure.what()) +
@@ -68,14 +62,10 @@ void readCodes::start_reading() {
 
 // After "AT H1" and after "AT H0": go on when confirmed.
 void readCodes::headers_answered(std::string_view next_command, int next_step) {
-    if (contains(odb_curReplyMsg, "~")) {
-        end_by_timeout();
-        return;
-    }
-    if (!contains(odb_curReplyMsg, "OK")) {
-        retry_headers();
-        return;
-    }
+    if (contains(odb_curReplyMsg, "~"))
+        return end_by_timeout();
+    if (!contains(odb_curReplyMsg, "OK"))
+        return retry_headers();
     g_retries = 0;
     g_obd_msg_state = S_WAITING;
     send_and_go_to(next_command, next_step);
@@ -111,17 +101,14 @@ void readCodes::end_by_timeout() {
 void readCodes::status_answered() {
     connecting_2_car_port = false;
     const std::string reply = handshake_.check_initial_car_reply();
-    if (contains(reply, REPLY_REJECTED)) {
-        end_task();
-        return;
-    }
+    if (contains(reply, REPLY_REJECTED))
+        return end_task();
     if (contains(reply, "NO DATA") && g_retries <= 0 && !longer_timeout_asked_for_) {
         longer_timeout_asked_for_ = true;
         ++g_retries;
         g_obd_msg_state = S_WAITING;
-        send_and_go_to("AT ST FF\r",
-                       START); // the adapter's longest wait; then everything once more
-        return;
+        // The adapter's longest wait; then everything once more.
+        return send_and_go_to("AT ST FF\r", START);
     }
     g_retries = 0;
     set_status_msg("Initial  reply: [" + reply + "]");
@@ -130,7 +117,7 @@ void readCodes::status_answered() {
 }
 
 void readCodes::decode_status() {
-    const car_status status = read_status(odb_curReplyMsg);
+    const car_status status = read_status(odb_curReplyMsg, g_status_units);
     status_reply_ = without(odb_curReplyMsg, " ");
     status_told_ = status.told;
     count_known_ = status.told && status.all_read;
@@ -147,6 +134,9 @@ void readCodes::decode_status() {
     for (const unread_piece& one : status.unread)
         if (one.kind != unread_kind::no_answer) // "N/A" says that
             unread_.push_back(one);
+    // Asked anew at the next reading: the unit may be gone, or have been a damaged header.
+    if (std::ranges::count(unread_, unread_kind::silent_unit, &unread_piece::kind) > 0)
+        connected_2_KS_interface = false;
 }
 
 std::vector<std::string> readCodes::work_reply_to_error_codes_pid(std::string_view mode,
@@ -158,8 +148,8 @@ std::vector<std::string> readCodes::work_reply_to_error_codes_pid(std::string_vi
     if (read.no_data && (!status_told_ || no_of_codes > 0))
         read.unread.push_back({unread_kind::no_answer, {}});
     // A unit that tells its status only now was cut off by the adapter, and may have been so again.
-    for (const ecu_answer& late : read_reply("0101", this_reply).answers)
-        if (!contains(status_reply_, late.data))
+    for (const std::string& late : read.others)
+        if (late.starts_with("4101") && !contains(status_reply_, late))
             read.unread.push_back({unread_kind::no_answer, {}});
     std::ranges::move(read.unread, std::back_inserter(unread_));
     return std::move(read.codes);
@@ -171,8 +161,7 @@ void readCodes::codes_answered() {
         unread_.push_back({unread_kind::no_answer, {}});
         refresh_readiness();
         set_status_msg("Failed to receive the error codes");
-        leave_cur_op_gracefully("");
-        return;
+        return leave_cur_op_gracefully("");
     }
     codes_rcvd = work_reply_to_error_codes_pid("03", without(reply, " "));
     load_the_codes();

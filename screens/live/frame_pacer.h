@@ -1,7 +1,6 @@
 // Paces drawing: at most 20 frames a second, more than a car sends new values. After a frame that
-// took d the next waits 50 d, so that drawing takes a fiftieth of the time, but no more than a
-// tenth of a second for that; and at least 3 d, so that it never takes more than a quarter. Owned
-// by a screen.
+// took d the next waits 50 d, but an eighth of a second at most, so that drawing takes little of a
+// core; and at least 3 d, so that it never takes more than a quarter. Owned by a screen.
 #pragma once
 
 #include "run_loop.h"

@@ -1,5 +1,6 @@
 #include "adapter_handshake.h"
 
+#include "car_status.h"
 #include "globalVars.h"
 #include "obd_screen.h"
 #include "reading.h"
@@ -110,6 +111,7 @@ bool adapter_handshake::connect_2_interface(int step) {
 void adapter_handshake::start() {
     fixed_protocols_told_ = 0;
     g_bus_form = bus_form::unknown; // it may be another car
+    g_status_units.clear();
     send_waiting(KS_did_connect_2_car ? "AT E0\r" : "AT Z\r", RESET_ANSWERED);
 }
 
@@ -260,6 +262,7 @@ void adapter_handshake::pids_answered(const pid_group& group) {
             const reading read = read_reply("0100", bare);
             if (read.bus.source == bus_source::headers)
                 g_bus_form = read.bus.form;
+            g_status_units = units_with_status(read);
             const int units = different_answers(read);
             screen_.cur_err_msg = "No of ECUS: " + std::to_string(units);
             screen_.show_control_units(units);

@@ -44,6 +44,7 @@ class answers : public testing::TestWithParam<conversation> {
     void hold_conversation(const conversation& talk) {
         static const std::map<std::string, std::string> BUSES = {
             {"can", "7E8 06 41 00 BE 1F A8 12"},
+            {"two", "7E8 06 41 00 BE 1F A8 12\r7E9 06 41 00 80 00 00 01"},
             {"can29", "18 DA F1 10 06 41 00 BE 1F A8 12"},
             {"iso", "48 6B 10 41 00 BE 1F A8 12 9B"},
             {"kwp", "80 F1 10 06 41 00 BE 1F A8 12 5F"},

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <iterator>
 #include <map>
 #include <span>
 
@@ -76,7 +77,7 @@ class reply_reader {
     static std::size_t size_without_checksum(const found_message& one, bus_form bus);
     void check_what_follows(const found_message& one, std::size_t whole, bus_form bus);
     bool belongs(const found_message& one, std::size_t whole, bus_form bus) const;
-    bool answers_somebody_else(const found_message& one) const;
+    std::size_t size_of_other_answer(const found_message& one) const;
     void settle_pending();
     void unread(unread_kind kind, std::string_view text) {
         result_.unread.push_back({kind, std::string(text)});
@@ -225,7 +226,9 @@ void reply_reader::take_message(const found_message& one) {
             pending_.push_back({one.line, one.header, refusal});
         else
             result_.unread.push_back(refusal);
-    } else if (!answers_somebody_else(one)) {
+    } else if (const std::size_t whole = size_of_other_answer(one)) {
+        result_.others.emplace_back(data.substr(0, whole));
+    } else {
         unread(unread_kind::not_understood, one.header + one.data); // nobody's whole answer
     }
 }
@@ -272,16 +275,18 @@ void reply_reader::check_what_follows(const found_message& one, std::size_t whol
                std::string(slice(std::string_view(one.data), whole)) + one.behind);
 }
 
-// A whole answer, or a whole refusal, that a request before this one was owed.
-bool reply_reader::answers_somebody_else(const found_message& one) const {
+// Digits of a whole answer, or a whole refusal, that a request before this one was owed; otherwise
+// 0.
+std::size_t reply_reader::size_of_other_answer(const found_message& one) const {
     const std::string_view data = one.data;
     if (data.starts_with(NEGATIVE))
-        return data.size() >= NEGATIVE_DIGITS;
+        return data.size() >= NEGATIVE_DIGITS ? NEGATIVE_DIGITS : 0;
     if (std::ranges::find(CODE_SERVICES, data.substr(0, 2)) != std::end(CODE_SERVICES))
-        return false;
+        return 0;
     const bus_form bus = bus_of_message(one);
-    const auto whole = answer_digits(data, bus);
-    return whole && data.size() >= std::max(*whole, one.announced) && belongs(one, *whole, bus);
+    const std::size_t whole = answer_digits(data, bus).value_or(0);
+    const bool told = data.size() >= std::max(whole, one.announced) && belongs(one, whole, bus);
+    return told ? whole : 0;
 }
 
 // An answer that was put off has come when one stands behind, of the same unit where that is known.
@@ -343,6 +348,7 @@ reading read_reply(std::string_view request, std::string_view reply, bus_evidenc
             result.answers = std::move(one.answers);
             result.bus = one.bus;
         }
+        std::ranges::move(one.others, std::back_inserter(result.others));
         result.no_data = (result.no_data || one.no_data) && !result.answered();
         for (unread_piece& piece_unread : one.unread)
             if (std::ranges::find(result.unread, piece_unread) == result.unread.end())

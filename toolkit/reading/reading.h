@@ -38,12 +38,13 @@ struct reading {
     bus_evidence bus;
     bool no_data = false; // the adapter said so, and nobody answered
     unread_pieces unread;
+    std::vector<std::string> others; // whole answers and refusals to other requests, as `data` is
 
     bool answered() const { return !answers.empty(); }
     // Beside answers a unit's refusal disturbs nobody, unless it only put its answer off.
     void forget_refusals();
 };
 
-// `request`: its hex digits, such as "0101" or "03". Answers to other requests are passed over;
-// of several replies in one piece the last one that answers counts.
+// `request`: its hex digits, such as "0101" or "03". Of several replies in one piece the last one
+// that answers counts.
 reading read_reply(std::string_view request, std::string_view reply, bus_evidence known = {});

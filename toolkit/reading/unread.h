@@ -13,13 +13,15 @@ enum class unread_kind {
     frames_unclear, // frames that do not fit together in one way
     refused,        // a negative answer ("7F 03 11")
     no_answer,      // nothing came from the car
+    silent_unit,    // one that has told the handshake of its status told none
     left_out,       // a code that stands where the table passes it over
 };
 
 struct unread_piece {
     unread_kind kind;
-    std::string text;      // as it came, in capitals without blanks; a notice as adapters print it
-    std::string unit = {}; // the address of the one that refused; empty with headers off
+    std::string text; // as it came, in capitals without blanks; a notice as adapters print it
+    std::string unit =
+        {}; // the address of the one that refused or was silent; empty with headers off
     bool operator==(const unread_piece&) const = default;
 };
 

@@ -80,7 +80,7 @@ TEST_F(log_file_test, an_empty_file_goes_with_its_log_but_not_what_stands_there_
             std::ofstream(path()) << "mine";
         }
         log.close();
-        EXPECT_EQ(text_of(path()), replaced ? "mine" : "");
+        EXPECT_EQ(std::ifstream(path()).is_open(), replaced);
     }
 }
 

@@ -21,6 +21,7 @@ TEST_F(settings_file, values_keep_type_and_text_over_a_restart) {
     const std::string odd = "a, b; \"c\" = ä\\n [x] %00";
     {
         user_defaults store(path);
+        store.set_integer("number", 7);
         store.set_integer("number", -42);
         store.set_boolean("yes", true);
         store.set_boolean("no", false);

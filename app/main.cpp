@@ -16,16 +16,19 @@
 #include "message_box_alerts.h"
 #include "progress_line.h"
 #include "qt_run_loop.h"
+#include "qt_serial_line.h"
 #include "quick_style.h"
 #include "quit_signals.h"
 #include "recorded_doors.h"
 #include "report_printer.h"
 #include "screen_factories.h"
 #include "serial_port_profile.h"
+#include "serial_stream_pair.h"
 #include "supported_scan.h"
 #include "system_log.h"
 #include "tcp_adapter_server.h"
 #include "tcp_stream_pair.h"
+#include "transports.h"
 #include "user_defaults.h"
 
 #include <QApplication>
@@ -74,6 +77,13 @@ stream_pair_factory tcp_streams(run_loop& loop) {
     };
 }
 
+stream_pair_factory serial_streams(run_loop& loop, const bundle& texts) {
+    return [&loop, &texts](const std::string& path, long speed) {
+        return std::make_unique<serial_stream_pair>(loop, texts, std::make_unique<qt_serial_line>(),
+                                                    path, speed);
+    };
+}
+
 // The settings as they are kept, for what only reads them.
 user_defaults kept_settings(const cli_request& asked) {
     return user_defaults(asked.settings.value_or(user_defaults::default_path()));
@@ -88,7 +98,8 @@ bundle resources_for(const user_defaults& store) {
 // on a copy in `scratch`, made then, so that nothing of the user's changes.
 std::string settings_path(const cli_request& asked, std::optional<QTemporaryDir>& scratch) {
     const std::string path = asked.settings.value_or(user_defaults::default_path());
-    if (!asked.demo && !asked.adapter_host && !asked.bluetooth && asked.command != "live")
+    if (!asked.demo && !asked.adapter_host && !asked.serial_port && !asked.bluetooth &&
+        asked.command != "live")
         return path;
     const QString copy = scratch.emplace().filePath(QStringLiteral("kestrom.conf"));
     QFile::copy(QString::fromStdString(path), copy); // a file that is not there yet is none here
@@ -96,14 +107,14 @@ std::string settings_path(const cli_request& asked, std::optional<QTemporaryDir>
 }
 
 // A named interface makes it no first start, which would choose the parameters of a run.
-void use_interface(user_defaults& store, int interface) {
-    store.set_integer(KS_INTERFACE_KEY, interface);
+void use_stored(user_defaults& store, const transport& way) {
+    store_transport(way, store);
     if (!store.contains(PIDS_ARRAY_KEY))
         store.set_string_array(PIDS_ARRAY_KEY, default_pids());
 }
 
 void use_adapter(user_defaults& store, const std::string& host, const std::string& port) {
-    use_interface(store, KS_USE_WIFI);
+    use_stored(store, transport_named("wifi"));
     store.set_string(WIFI_IP_KEY, host);
     store.set_string(WIFI_PORT_KEY, port);
 }
@@ -122,9 +133,15 @@ void use_run(user_defaults& store, const cli_request& asked) {
 }
 
 void use_bluetooth(user_defaults& store, const std::string& address) {
-    use_interface(store, KS_USE_BT);
+    use_stored(store, transport_named("bluetooth"));
     store.set_boolean(REUSE_LAST_BT_KEY, true);
     store.set_string(KS_LAST_BT_KEY, address);
+}
+
+void use_serial_port(user_defaults& store, const std::string& path, int speed) {
+    use_stored(store, transport_named("serial"));
+    store.set_string(SERIAL_PORT_KEY, path);
+    store.set_integer(SERIAL_SPEED_KEY, speed);
 }
 
 void open_screen(Ks_lite_delegate& delegate, const std::string& name) {
@@ -175,7 +192,7 @@ int run_at_desk(int argc, char** argv, const cli_request& asked) {
 
 // The doors to adapters as the command line asks for them: with a recorder listening, or bare.
 struct link_doors {
-    stream_pair_factory make_streams;
+    stream_pair_factory make_streams, make_serial_streams;
     std::unique_ptr<serial_port_profile> bluetooth;
     std::unique_ptr<serial_port_profile> recorded_bluetooth;
 
@@ -183,21 +200,22 @@ struct link_doors {
         return *(recorded_bluetooth ? recorded_bluetooth : bluetooth);
     }
     void record(conversation_recorder& recorder) {
-        make_streams = recorded_streams(std::move(make_streams), recorder);
+        make_streams = recorded_streams(std::move(make_streams), recorder, "wifi");
+        make_serial_streams = recorded_streams(std::move(make_serial_streams), recorder, "serial");
         recorded_bluetooth = recorded_serial_port(*bluetooth, recorder);
     }
 };
 
 // No, with the reason told, when the file cannot be made.
-bool start_recording(conversation_recorder& recorder, const cli_request& asked, int interface) {
+bool start_recording(conversation_recorder& recorder, const cli_request& asked,
+                     const transport& way) {
     const std::string& path = *asked.record;
-    const char* adapter = asked.demo ? "demo" : interface == KS_USE_BT ? "bluetooth" : "wifi";
     recorder.stopped = [path](const std::string& why) {
         clear_progress();
         std::fprintf(stderr, "kestrom: the recording %s ends here: %s\n", path.c_str(),
                      why.c_str());
     };
-    const auto failure = recorder.start(path, KESTROM_VERSION, adapter);
+    const auto failure = recorder.start(path, KESTROM_VERSION, asked.demo ? "demo" : way.name);
     if (failure)
         std::fprintf(stderr, "kestrom: cannot record to %s: %s; name another file\n", path.c_str(),
                      failure->c_str());
@@ -213,6 +231,8 @@ std::unique_ptr<tcp_adapter_server> use_what_is_asked(user_defaults& defaults,
         use_adapter(defaults, "127.0.0.1", std::to_string(car->port()));
     } else if (asked.adapter_host) {
         use_adapter(defaults, *asked.adapter_host, asked.adapter_port);
+    } else if (asked.serial_port) {
+        use_serial_port(defaults, *asked.serial_port, asked.serial_speed);
     } else if (asked.bluetooth) {
         use_bluetooth(defaults, *asked.bluetooth);
     }
@@ -224,7 +244,7 @@ std::unique_ptr<tcp_adapter_server> use_what_is_asked(user_defaults& defaults,
 // Until the preferences choose an adapter; nothing of the user's changes.
 std::unique_ptr<tcp_adapter_server> connect_to_virtual_car(Ks_lite_delegate& delegate) {
     auto car = start_demo_car({});
-    g_connect_with = KS_USE_WIFI;
+    use_transport(transport_named("wifi"));
     g_cur_wifi_IP = "127.0.0.1";
     g_cur_wifi_port = std::to_string(car->port());
     delegate.settings_left();
@@ -251,17 +271,24 @@ struct house {
     bool make_doors() {
         mac_toolies::initialize({&resources, &defaults, &message_boxes(), &notifications});
         link.make_streams = tcp_streams(loop);
+        link.make_serial_streams = serial_streams(loop, resources);
         link.bluetooth = make_bluetooth_door(loop, message_boxes(), resources, defaults,
                                              !asked.without_display());
         if (!asked.record)
             return true;
         link.record(recorder);
-        return start_recording(recorder, asked,
-                               static_cast<int>(defaults.integer(KS_INTERFACE_KEY)));
+        return start_recording(recorder, asked, stored_transport(defaults));
     }
     app_doors doors() {
-        return {loop,          message_boxes(),   defaults,          resources,
-                notifications, link.make_streams, link.serial_port()};
+        return {loop,
+                message_boxes(),
+                defaults,
+                resources,
+                notifications,
+                link.make_streams,
+                link.serial_port(),
+                link.make_serial_streams,
+                list_serial_ports};
     }
     alerts& message_boxes() {
         return asked.without_display() ? static_cast<alerts&>(printed_alerts) : shown_alerts;

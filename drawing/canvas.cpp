@@ -43,8 +43,8 @@ void copy_pixels(const QImage& from, QImage& to, const QRect& pixels) {
                     static_cast<std::size_t>(inside.width()) * sizeof(QRgb));
 }
 
-// Processors of the last ten years do twice as much at a time as the oldest that the program runs
-// on. A sanitizer has no part in choosing between them.
+// Processors of the last ten years have vectors twice as wide as the oldest supported ones.
+// Sanitizers cannot instrument the dispatch between them.
 #if defined(__x86_64__) && !defined(__clang__) && !defined(__SANITIZE_ADDRESS__)
 #define ALSO_FOR_NEWER __attribute__((target_clones("avx2", "default")))
 #else
@@ -58,9 +58,9 @@ ALSO_FOR_NEWER void lay_over_many(QRgb* pixels, const QRgb* rest, const QRgb* ad
 
 namespace {
 
-constexpr int ONE = 256; // weights of a line's sources add up to that
+constexpr int ONE = 256; // the sum of the weights of a line's sources
 
-// Many bytes at a time: the sums fit into 16 bits.
+// Vectorises: the sums fit into 16 bits.
 ALSO_FOR_NEWER void add_weighted(std::uint16_t* __restrict sums, const uchar* __restrict source,
                                  std::uint16_t weight, std::size_t bytes) {
     for (std::size_t i = 0; i < bytes; ++i)
@@ -118,7 +118,7 @@ QFont image_font(const QString& family, int pixels, bool bold) {
     QFont font(family);
     font.setPixelSize(pixels);
     font.setBold(bold);
-    // Letters keep their widths at every scale.
+    // Letters have the same relative widths at every scale.
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
@@ -182,7 +182,7 @@ QRect painted_pixels(const QImage& picture) {
 
 canvas::canvas(QImage& image)
     : image_(image), size_(image.deviceIndependentSize()), painter_(&image) {
-    // QPainter leaves out a device pixel ratio below 1.
+    // QPainter ignores a device pixel ratio below 1.
     if (const double scale = image.devicePixelRatio(); scale < 1)
         painter_.scale(scale, scale);
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |

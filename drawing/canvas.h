@@ -15,19 +15,19 @@
 #include <string>
 #include <string_view>
 
-// An empty image of `size` image units at `scale` pixels a unit.
+// An empty image of `size` image units at `scale` pixels per unit.
 QImage empty_image(QSizeF size, double scale);
-// The same all of one colour: an opaque one makes the whole picture opaque, which is shown in half
-// the time.
+// The same filled with one colour. An opaque one makes the whole picture opaque, which halves the
+// time to show it.
 QImage filled_image(QSizeF size, double scale, const QColor& ground);
-// Makes `to` a picture of its own that shows what `from` shows, in the memory it has if that fits.
+// Makes `to` a deep copy of `from`, reusing its memory if it fits.
 void copy_picture(const QImage& from, QImage& to);
 
-// The same within these pixels only; both are of one size.
+// The same for these pixels only; both have the same size.
 void copy_pixels(const QImage& from, QImage& to, const QRect& pixels);
 
-// Puts `added` over as many pixels, of each of which `rest` in 255 stays, byte by byte.
-// In 16 bits, so that many are done at a time.
+// Blends `added` over pixels of which `rest` 255ths remain, byte by byte. In 16 bits, so that it
+// vectorises.
 inline void lay_over(QRgb* pixels, const QRgb* rest, const QRgb* added, std::size_t count) {
     auto* __restrict ground = reinterpret_cast<std::uint8_t*>(pixels);
     const auto* __restrict left = reinterpret_cast<const std::uint8_t*>(rest);
@@ -45,13 +45,13 @@ constexpr QRgb rest_below(int alpha) {
     return static_cast<QRgb>(255 - alpha) * 0x01010101U;
 }
 
-// Makes `to` the picture with fewer lines, each the mean of those it stands for, as
-// QImage::scaled() makes it but for rounding, in a fraction of the time. From 1 to as many lines as
-// it has.
+// Makes `to` the picture with fewer lines, each the mean of those it replaces: like
+// QImage::scaled() apart from rounding, in a fraction of the time. From 1 to as many lines as
+// `from` has.
 void squeeze(const QImage& picture, int lines, QImage& to);
 
-// A detail of a picture that seldom changes, as it was painted upon nothing. Owned by whoever
-// paints the picture.
+// A detail that seldom changes, painted on a transparent ground. Owned by the painter of the
+// picture.
 struct kept_detail {
     std::string what;
     QSize picture_size;
@@ -63,8 +63,7 @@ struct kept_detail {
 QFont image_font(const QString& family, int pixels, bool bold = false);
 double text_width(const QFont& font, const QString& text);
 
-// The widths of texts in one font, of its latest size, measured once: a byte of a reply has 256 of
-// them at most.
+// Caches the widths of texts in one font, for its latest size.
 class kept_widths {
   public:
     double of(const QFont& font, const QString& text);
@@ -76,16 +75,16 @@ class kept_widths {
 
 QString qstring(std::string_view utf8);
 
-// Colour components from 0 to 1; what lies outside is clamped.
+// Colour components from 0 to 1, clamped.
 QColor colour(double red, double green, double blue, double alpha = 1);
 
 class canvas {
   public:
     explicit canvas(QImage& image);
 
-    // For what this class has no word for; y of its points must be flipped.
+    // For anything this class does not offer; y of its points must be flipped.
     QPainter& painter() { return painter_; }
-    // The picture itself, premultiplied, for who sets pixels.
+    // The picture itself, premultiplied, to set pixels directly.
     QImage& pixels() { return image_; }
     double width() const { return size_.width(); }
     double height() const { return size_.height(); }
@@ -94,22 +93,21 @@ class canvas {
 
     // (x, y) is the lower-left corner of the text's line box, descent included.
     void text(double x, double y, const QString& text, const QFont& font, const QColor& ink);
-    // The edge that parts such a text from what stands behind it, `width` units around its letters.
+    // A casing that separates such a text from its background, `width` units around its letters.
     void text_edge(double x, double y, const QString& text, const QFont& font, const QColor& edge,
                    double width);
-    // Like text(), but not wider than `room`: in smaller letters, down to `smallest`, then cut with
-    // an ellipsis, at `cut`. The base line stays where it is for the full size.
+    // Like text(), but at most `room` wide: in smaller letters, down to `smallest`, then with an
+    // ellipsis at `cut`. The baseline is that of the full size.
     void text_within(double room, int smallest, double x, double y, const QString& text, QFont font,
                      const QColor& ink, Qt::TextElideMode cut = Qt::ElideRight);
     void fill(const QRectF& area, const QBrush& brush);
-    // A translucent rectangle to the nearest pixel: QPainter shares so large a one among threads,
-    // which takes longer than the work.
+    // A translucent rectangle, to the nearest pixel: QPainter distributes one this large among
+    // threads, which takes longer than painting it.
     void shade(const QRectF& area, const QColor& shade);
-    // Puts the detail there that `paint` paints, painted anew when `what` it shows is another than
-    // before.
+    // Draws the detail that `paint` paints; calls it again only if `what` it shows has changed.
     void put(kept_detail& detail, const std::string& what,
              const std::function<void(canvas&)>& paint);
-    // All pixels that painting within the area touches.
+    // All pixels touched by painting within the area.
     QRect pixels_of(const QRectF& area) const;
     // From the first colour to the second along `degrees`, counter-clockwise from rightwards; the
     // corners of the area get the pure colours.

@@ -1,10 +1,10 @@
-// What parts a curve or a figure from its ground, whatever the ground: a thin casing, light below
-// dark colours and dark below light ones. Contrast as WCAG 2 defines it.
+// Separates a curve or a figure from any background: a thin casing, light below dark colours and
+// dark below light ones. Contrast as WCAG 2 defines it.
 #pragma once
 
 #include <QColor>
 
-// 0 black to 1 white; of an opaque colour.
+// 0 (black) to 1 (white), for an opaque colour.
 double relative_luminance(const QColor& colour);
 // 1 to 21.
 double contrast(const QColor& a, const QColor& b);

@@ -1,4 +1,4 @@
-// Where things of a chart lie, apart from painting. Image units; y grows upwards.
+// The layout of a chart, without painting. Image units; y grows upwards.
 #pragma once
 
 #include "saturate.h"
@@ -22,11 +22,11 @@ struct chart_point {
     bool operator==(const chart_point&) const = default;
 };
 
-// Where the numbers of one axis lie, truncated to whole units. NaN counts as 0 and what no int
-// holds as the nearest int. The division is done once for all numbers.
+// Positions of numbers on one axis, truncated to whole units. NaN counts as 0; values outside int
+// saturate. The division is done once for all numbers.
 class axis_scale {
   public:
-    // `flat` is the place of every number when the axis has no span.
+    // `flat` is the position of every number if the axis has no span.
     axis_scale(double min, double max, int length, int origin, int flat)
         : min_(min), factor_(max == min ? 0 : length / (max - min)), origin_(origin),
           flat_(max == min), flat_place_(flat) {}
@@ -50,7 +50,7 @@ int scale_x(double x, const chart_area& area, const chart_limits& limits);
 int scale_y(double y, const chart_area& area, const chart_limits& limits);
 chart_point scale_point(int x, double y, const chart_area& area, const chart_limits& limits);
 
-// The plot rectangle beside one value axis, or between two, and where the second axis stands.
+// The plot rectangle beside one value axis, or between two, and the position of the second axis.
 struct chart_layout {
     chart_area plot;
     int second_axis_x = 0;
@@ -58,8 +58,7 @@ struct chart_layout {
 chart_layout layout_of(double image_width, double image_height, double axis_width,
                        std::optional<double> second_axis_width);
 
-// The rows to draw: the last `shown` of `rows`, or all when `shown` is negative or more than there
-// are.
+// The rows to draw: the last `shown` of `rows`, or all if `shown` is negative or too large.
 struct row_window {
     std::size_t first = 0, count = 0;
     bool operator==(const row_window&) const = default;
@@ -73,5 +72,5 @@ struct axis_marks {
 };
 axis_marks marks_of_axis(double lower, double upper, const chart_area& plot);
 
-// How many of the bar's segments a value fills, counted from 0; 0 without a span.
+// The number of the bar's segments that a value fills, from 0; 0 without a span.
 int level_of(double value, double min, double max, int segments);

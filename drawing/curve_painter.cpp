@@ -15,14 +15,14 @@ namespace {
 
 constexpr double AREA_ALPHA = 0.2;
 constexpr double FIRST_PASS_WIDTH = 1;
-// A run of so many points is drawn as the segment it is; more of them lie over each other and make
-// all they touch opaque.
+// A run of this many points is drawn as a segment; more points overlap and make everything they
+// touch opaque.
 constexpr std::size_t ONE_SEGMENT = 2;
 constexpr double HARDLY_ANY = 1e-3;
-// Nothing is painted farther outside, for QPainter's sake.
+// Nothing is painted farther out: QPainter's limit.
 constexpr int FARTHEST = 1 << 14;
 
-// For each pixel column the lines that something covers.
+// For each pixel column, the range of covered lines.
 struct column_spans {
     explicit column_spans(int columns) : top(static_cast<std::size_t>(columns), 0), end(top) {}
     bool free(int column) const { return top[at(column)] >= end[at(column)]; }
@@ -30,7 +30,7 @@ struct column_spans {
         top[at(column)] = from;
         end[at(column)] = to;
     }
-    // False when the column holds lines apart from these.
+    // False if the column already holds lines that do not adjoin these.
     bool join(int column, int from, int to) {
         if (!free(column) && (from > end[at(column)] || to < top[at(column)]))
             return false;
@@ -47,12 +47,11 @@ struct column_spans {
     std::vector<int> top, end;
 };
 
-// What lies over the pixels of one line: nothing, or casing, shade and ink upon each other. From
-// line to line only the columns that change are touched, and stretches that nothing covers are
-// passed over.
+// What covers the pixels of one line: nothing, or casing, shade and ink on top of each other. From
+// line to line only columns that change are updated, and uncovered stretches are skipped.
 class line_cover {
   public:
-    static constexpr int SHADED = 1, INKED = 2, CASED = 8; // ink may lie twice
+    static constexpr int SHADED = 1, INKED = 2, CASED = 8; // ink may occur twice
 
     line_cover(QSize size, QRgb casing, QRgb shade, QRgb ink)
         : state_(static_cast<std::size_t>(size.width()), 0), rest_(state_.size(), rest_below(0)),
@@ -78,7 +77,7 @@ class line_cover {
             }
     }
 
-    // Lines in order.
+    // Lines must come in order.
     void go_to_line(std::size_t line) {
         for (std::size_t i = first_change_[line]; i != NONE; i = changes_[i].next)
             apply(changes_[i]);
@@ -131,8 +130,8 @@ class line_cover {
     std::vector<change> changes_;
 };
 
-// The pixels of the columns' casing, the area and the columns, put together line by line and laid
-// over the chart at once: the same by polygons and rectangles takes QPainter many times longer.
+// The casing of the columns, the area and the columns, composed line by line and drawn over the
+// chart at once: with polygons and rectangles QPainter takes many times longer.
 class pixel_layer {
   public:
     explicit pixel_layer(canvas& target)
@@ -140,7 +139,7 @@ class pixel_layer {
           area_(image_.width()), casing_(image_.width()), left_halves_(image_.width()),
           right_halves_(image_.width()) {}
 
-    // The area between a segment and the base line. A pixel belongs to it when its centre does.
+    // The area between a segment and the baseline. A pixel belongs to it if its centre does.
     void add_area(double from_x, double from_y, double to_x, double to_y, double base_y) {
         const int end = std::min(first_centre_from(to_x), image_.width());
         for (int px = std::max(first_centre_from(from_x), 0); px < end; ++px) {
@@ -151,7 +150,7 @@ class pixel_layer {
         }
     }
 
-    // A unit to either side of the run's points; columns next to each other overlap by half.
+    // One unit to either side of the run's points; adjacent columns overlap by half.
     void add_run(const column_run& run) {
         constexpr int SPREAD = 1 + static_cast<int>(CASING_WIDTH);
         add_part(casing_, more_casing_, run, run.x - SPREAD, run.x + SPREAD, SPREAD);
@@ -159,8 +158,8 @@ class pixel_layer {
         add_part(right_halves_, more_runs_, run, run.x, run.x + 1, 1);
     }
 
-    // Whether all of a wide line (in painter's units) lies within the columns' casing, whose colour
-    // it has.
+    // Whether a wide line (in painter's units) lies entirely within the columns' casing, which has
+    // the same colour.
     bool casing_holds(const QLineF& line, double width) const {
         const double dx = std::abs(line.dx()), dy = std::abs(line.dy());
         const double length = std::hypot(dx, dy), half = width / 2;
@@ -216,7 +215,7 @@ class pixel_layer {
         return std::clamp(saturating_int(pixels), 0, image_.height());
     }
     int line_of(double units) const { return line_at(std::ceil(units * scale_ - 0.5)); }
-    // As std::lround(), which is a call into the library for each corner.
+    // Like std::lround(), without a library call for each corner.
     int nearest(double units) const {
         return static_cast<int>(units * scale_ + (units < 0 ? -0.5 : 0.5));
     }
@@ -251,7 +250,7 @@ pixel_layer layer_of(canvas& target, const std::vector<column_run>& runs, int ba
     return layer;
 }
 
-// The part of a line that is not too far above or below; what is left keeps its slope.
+// Clips a line above and below, keeping its slope.
 std::optional<QLineF> within_reach(const QLineF& line) {
     if (std::max(line.y1(), line.y2()) < -FARTHEST || std::min(line.y1(), line.y2()) > FARTHEST)
         return std::nullopt;
@@ -265,7 +264,7 @@ std::optional<QLineF> within_reach(const QLineF& line) {
 
 using run_iterator = std::vector<column_run>::const_iterator;
 
-// Whether a run between `first` and `end` paints all from one y to the other.
+// Whether a run between `first` and `end` covers everything from one y to the other.
 bool any_covers(run_iterator first, run_iterator end, int y, int other_y, int margin) {
     return std::any_of(first, end, [&](const column_run& run) {
         return run.count > ONE_SEGMENT && std::min(y, other_y) - margin >= run.low &&
@@ -273,9 +272,8 @@ bool any_covers(run_iterator first, run_iterator end, int y, int other_y, int ma
     });
 }
 
-// Whether nothing can be seen of the segment that leads to `to`, since both columns cover it.
-// The ends of a wide line reach farther than the columns do, up and down when it is steep, sideways
-// when it is not.
+// Whether both columns cover the segment to `to` completely. The ends of a wide line reach beyond
+// the columns: vertically if it is steep, otherwise sideways.
 bool is_hidden(const std::vector<column_run>& runs, run_iterator to, bool wide) {
     constexpr int STEEP = 4;
     const auto from = to - 1;
@@ -292,12 +290,12 @@ bool is_hidden(const std::vector<column_run>& runs, run_iterator to, bool wide) 
            any_covers(to, to_end, from->last, to->first, margin);
 }
 
-// The segments across columns, and those that are a column's only one.
+// Segments across columns, and those that are the only one of a column.
 QVector<QLineF> lines_of(const canvas& target, const std::vector<column_run>& runs, bool wide) {
     QVector<QLineF> lines;
     lines.reserve(static_cast<qsizetype>(runs.size()));
     const auto add = [&](int from_x, int from_y, int to_x, int to_y) {
-        // QPainter scales the width of a line without length twice.
+        // QPainter scales the width of a line of zero length twice.
         const double end_x = from_x == to_x && from_y == to_y ? to_x + HARDLY_ANY : to_x;
         if (const auto line =
                 within_reach({target.flipped(from_x, from_y), target.flipped(end_x, to_y)}))
@@ -328,7 +326,8 @@ void paint_lines(canvas& target, const QVector<QLineF>& lines, const QColor& ink
     painter.drawLines(rest);
 }
 
-// Of the segments; that of the columns is in the layer, and comes over it in the same colour.
+// The casing of the segments; that of the columns is in the layer drawn over it, in the same
+// colour.
 void paint_casing(canvas& target, const std::vector<column_run>& runs, const pixel_layer& layer,
                   const curve_style& style) {
     const double width = style.line_width + 2 * CASING_WIDTH;
@@ -349,7 +348,7 @@ void paint_curve(canvas& target, const std::vector<column_run>& runs, const curv
     layer.paint(qPremultiply(style.casing.rgba()), qPremultiply(shade.rgba()),
                 qPremultiply(style.ink.rgba()));
     const QVector<QLineF> lines = lines_of(target, runs, false);
-    // Where it ends a pixel inside the second pass nothing is seen of the first.
+    // Where the first pass ends a pixel inside the second, it is invisible.
     if ((style.line_width - FIRST_PASS_WIDTH) * target.pixels().devicePixelRatio() < 1)
         paint_lines(target, lines, style.ink, FIRST_PASS_WIDTH);
     paint_lines(target, lines, style.ink, style.line_width);

@@ -16,7 +16,6 @@ struct curve_style {
     bool antialiased = true; // off only to compare pictures
 };
 
-// The casing, the area under the curve, what each pixel column holds of it, and its segments across
-// columns.
-// Takes as long as there are runs, however many samples they stand for.
+// Paints the casing, the area under the curve, its pixel columns, and its segments across columns.
+// The time depends on the number of runs, not of samples.
 void paint_curve(canvas& target, const std::vector<column_run>& runs, const curve_style& style);

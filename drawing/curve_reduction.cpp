@@ -5,12 +5,12 @@
 
 namespace {
 
-// Extents this near are painted as one.
+// Extents this close are painted as one.
 constexpr int TOUCHING = 2;
 
-// So many blocks of a column are looked into where their sum bridges what may have to stay open.
-// Enough for 100,000 rows to be exact; beyond, a curve that jumps between many far-off values with
-// gaps at every jump may lack some of its columns' pixels, but never shows one too many.
+// How many blocks of a column are split where their summary bridges a gap that might be visible.
+// Enough to be exact for 100,000 rows; beyond that, a curve that jumps between many distant values
+// with a gap at every jump may lack some pixels, but never shows an extra one.
 constexpr int MOST_TAKEN_APART = 48;
 
 class run_collector {
@@ -35,9 +35,10 @@ class run_collector {
         end_in_gap();
     }
 
-    // False when it is needed in smaller pieces.
+    // False if it is needed in smaller pieces.
     bool block(const value_span& all, const sample_stretch& stretch) {
-        // Of what is shown already only the open end can still matter, and only that of the last.
+        // If everything is shown already, only the open end still matters, and only of the last
+        // block.
         if (!joined_ && !all.empty() && shown_.covers(all) &&
             (ends_as_ != nullptr || shown_.covers(open_.span()))) {
             ends_as_ = &stretch;
@@ -54,7 +55,7 @@ class run_collector {
         end_in_gap();
         for (const value_span& span : stretch.inner)
             add_inner(span, stretch.inner_points);
-        // No segment leads to where it begins.
+        // No segment leads to its start.
         extend(stretch.tail, stretch.last_row, stretch.last_row);
         return true;
     }
@@ -105,8 +106,7 @@ class run_collector {
         open_ = number_run();
     }
 
-    // Where the run began with a gap too, all it adds to the column is its extent: nothing without
-    // a segment of its own.
+    // If the run also began with a gap, it only adds its extent: nothing without a segment.
     void end_in_gap() {
         if (open_.count > 0 && joined_)
             push_open_run();
@@ -116,7 +116,7 @@ class run_collector {
         joined_ = false;
     }
 
-    // Whether a gap that the span bridges would be seen in this column.
+    // Whether a gap that the span bridges would be visible in this column.
     bool is_open(const value_span& span) const {
         if (span.bridged == 0 || shown_.covers(span))
             return false;
@@ -149,13 +149,13 @@ class run_collector {
             shown_ = span;
     }
 
-    // Widens what touches it, so that a column's runs stay fewer than its pixels.
+    // Extends an adjoining run, so that a column has fewer runs than pixels.
     void add_extent(extent added, std::size_t points) {
         for (std::size_t i = column_start_; i < runs_.size(); ++i) {
             column_run& run = runs_[i];
             const double apart = std::max(static_cast<double>(run.low) - added.high,
                                           static_cast<double>(added.low) - run.high);
-            // Segments beside each other are not yet opaque, as those over each other are.
+            // Unlike overlapping segments, adjacent ones are not opaque.
             const bool single = run.count == 2 && points == 2;
             if (run.count > 1 && apart <= (single ? 0 : TOUCHING)) {
                 run.low = std::min(run.low, added.low);
@@ -173,15 +173,16 @@ class run_collector {
     std::vector<column_run> runs_;
     std::size_t column_start_ = 0;
     int taken_apart_ = 0;        // blocks of this column
-    value_span shown_ = NO_SPAN; // by what the column has so far; the widest span of it
+    value_span shown_ = NO_SPAN; // the widest span of the column so far
     int x_ = 0;
-    const sample_stretch* ends_as_ = nullptr; // what the run being collected is yet to be had from
-    number_run open_; // the run being collected; without samples there is none
+    const sample_stretch* ends_as_ =
+        nullptr;      // where the current run's end is still to be read from
+    number_run open_; // the current run; none if it has no samples
     std::size_t first_row_ = 0, last_row_ = 0; // of that run
     bool joined_ = false;                      // a segment leads to it
 };
 
-// The rows that the columns begin with. Columns only ever move one way.
+// The first row of each column. Columns only move forward.
 class column_walk {
   public:
     column_walk(const chart_area& area, const chart_limits& limits)
@@ -190,11 +191,11 @@ class column_walk {
 
     int column_of(std::size_t row) const { return x_of(static_cast<double>(row)); }
 
-    // The first row behind `row` whose column is another one; `end` when there is none.
+    // The first row after `row` that is in another column; `end` if there is none.
     std::size_t next_column(std::size_t row, std::size_t end) const {
         const int x = column_of(row);
         const double guess = min_ + (static_cast<double>(x) - left_ + 1) * rows_a_column_;
-        // Rounding may put the guess a row beside the boundary.
+        // Rounding may put the guess one row off the boundary.
         if (guess > 0 && guess < static_cast<double>(end)) {
             const auto near = static_cast<std::size_t>(guess);
             for (const std::size_t next : {near + 1, near})

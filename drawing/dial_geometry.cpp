@@ -9,7 +9,7 @@
 
 namespace {
 
-// PIDs in decimal, as the standard's tables number them; the asymmetries are meant.
+// PIDs in decimal, as in the standard's tables; the asymmetries are deliberate.
 struct range_row {
     unsigned first_pid, last_pid;
     dial_range imperial, metric;

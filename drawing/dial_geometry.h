@@ -1,4 +1,4 @@
-// Where things of a dial lie, apart from painting. Image units; y grows upwards; angles in radians,
+// The layout of a dial, without painting. Image units; y grows upwards; angles in radians,
 // counter-clockwise from the positive x axis.
 #pragma once
 
@@ -23,7 +23,7 @@ struct dial_range {
     bool operator==(const dial_range&) const = default;
 };
 dial_range dial_range_of(unsigned pid, bool imperial);
-// From 0, or below, to `high` or a little beyond, so that the labels are round numbers.
+// From 0, or below, to `high` or slightly more, so that the labels are round numbers.
 dial_range dial_range_over(double low, double high);
 
 // The texts of the dial's eleven labels.
@@ -31,7 +31,7 @@ std::array<std::string, 11> dial_labels(const dial_range& range);
 
 struct dial_label_place {
     dial_point at;         // lower-left corner of the line box
-    bool shift_half_width; // less half the text's own width
+    bool shift_half_width; // minus half the text's width
 };
 inline constexpr std::array<dial_label_place, 11> DIAL_LABEL_PLACES = {{
     {{100, 24}, false},
@@ -48,11 +48,12 @@ inline constexpr std::array<dial_label_place, 11> DIAL_LABEL_PLACES = {{
 }};
 
 // Not clamped: a value beyond the range turns the needle past the scale's end. Only a negative low
-// shifts the zero. Without a span, or for what is no finite number, the needle stays at the start.
+// shifts the zero. Without a span, or for a number that is not finite, the needle stays at the
+// start.
 double needle_angle(double value, double start, double end, double low, double high);
 
 struct needle_points {
     dial_point centre, tip, left, right;
 };
-// An angle that is no finite number counts as the dial's start.
+// An angle that is not finite counts as the dial's start.
 needle_points needle_shape(dial_point centre, double angle, double width, double length);

@@ -3,7 +3,7 @@
 // image.
 //
 // Coordinates are image units with y upwards. The image has a fixed size in units;
-// set_pixel_scale() says how many pixels a unit has where it is shown, so that it is sharp there.
+// set_pixel_scale() sets the pixels per unit where it is shown, so that it is sharp.
 #pragma once
 
 #include "canvas.h"
@@ -20,7 +20,7 @@
 #include <string_view>
 #include <vector>
 
-// What a chart writes at a parameter's value axis; upper and lower as decimal text.
+// The texts at a parameter's value axis; upper and lower as decimal text.
 struct label_record {
     std::string name, units, upper, lower;
     bool operator==(const label_record&) const = default;
@@ -36,15 +36,15 @@ class drawChartyItem {
     void setDrawingSizes(QSizeF size);
     void resizeImage(QSizeF size) { setDrawingSizes(size); }
     void set_pixel_scale(double pixels_a_unit);
-    // How much wider than high the picture is shown than it is drawn: a thumbnail's letters are
-    // drawn as much narrower.
+    // Horizontal stretch when the picture is shown; a thumbnail's letters are drawn narrower by
+    // that factor.
     void set_stretch(double times);
-    // What the picture lies on; with an opaque colour it has no transparent pixels.
+    // The background; with an opaque colour the picture has no transparent pixels.
     void set_ground(const QColor& colour) { ground_ = colour; }
     void draw_empty_background();
 
     void use_this_pids(std::vector<std::string> pids);
-    // Another run's values say nothing of the width that this one's need.
+    // Another run's values are no guide to the width needed.
     void forget_widths() { widest_value_ = 0; }
     void update_cur_sample(sample_set samples) { cur_sample_set = std::move(samples); }
     // -1: none; the first parameter's axis is shown.
@@ -52,7 +52,7 @@ class drawChartyItem {
     void updateNoOfPlots(std::set<int> indices) { cur_ITEMS_2_PLOT = std::move(indices); }
     // Rows to show, the last ones; -1 for all.
     void setNumberPointsToPlot(int count) { SHOW_THESE_MANY_LAST_POINTS = count; }
-    // When the rows were, written below the plot at the right.
+    // The time of the rows, below the plot at the right.
     void set_time_span(std::string text) { time_span_ = std::move(text); }
     void setThumbnail(bool yes) { is_thumbnail = yes; }
     void set_thumb_selected(bool yes) { is_thumb_selected = yes; }
@@ -61,7 +61,7 @@ class drawChartyItem {
     bool isSelectedThumb() const { return is_thumb_selected; }
     bool isPlottingThisIndex(int index) const;
     double last_value() const { return last_OBD_val; }
-    // Where draw_grid() has put the plot.
+    // The plot rectangle of the last draw_grid().
     const chart_area& plot_area() const { return drawSizes; }
 
     const QImage& image() const { return image_; }
@@ -73,7 +73,7 @@ class drawChartyItem {
     void setImageID(std::string_view identifier) { imageID_ = identifier; }
     void my_set(std::string_view identifier) { imageID_ = identifier; }
 
-    // A reply's number as the labels count it: 0 for an unusable reply.
+    // A reply's number for the labels: 0 for an unusable reply.
     double get_OBDVal(std::string_view reply) const;
     // A curve's colour; black beyond the table.
     static QColor setMyColor(int index);
@@ -82,23 +82,22 @@ class drawChartyItem {
                                    int src_height, double maxX, double minX, double maxY,
                                    double minY);
 
-    // One record a parameter: the span of all samples but the first, or the middle half of the
-    // catalogue's range while there are fewer than two. Where nothing has a span it is the
-    // catalogue's range, or one to either side of the value.
+    // One record per parameter: the span of all samples but the first, or the middle half of the
+    // catalogue's range while there are fewer than two. If there is no span, the catalogue's range,
+    // or one unit to either side of the value.
     label_records work_out_labels(const sample_rows& samples) const;
-    // The same before a run: the lower quarter stands first. Once real-time samples exist, what the
+    // The same before a run: the lower quarter comes first. Once real-time samples exist, as the
     // caller's sample set says.
     label_records work_out_labels_4_realtime() const;
-    // The limits that a record's axis runs between.
+    // The limits of a record's axis.
     static double upper_limit(const label_record& record);
     static double lower_limit(const label_record& record);
-    // The room the axis values need, in units.
+    // The width of the axis values, in units.
     double get_width_of_axis_label(const label_record& record) const;
 
-    // Background, plot frame, grid, axes and title. What did not change since the last call is not
-    // painted anew.
+    // Background, plot frame, grid, axes and title. Unchanged parts are not painted again.
     void draw_grid(const label_records& labels, std::string_view this_title);
-    // The curves over the grid, and the value read-out. False when there is nothing to draw from.
+    // The curves over the grid, and the value read-out. False if there are no samples.
     bool plot_array_list(const sample_rows& points, const label_records& these_labels);
 
     // --- the real-time chart, which grows point by point
@@ -116,7 +115,7 @@ class drawChartyItem {
         double x;
         bool operator==(const value_axis&) const = default;
     };
-    // All that the picture of the grid depends on.
+    // Everything that the picture of the grid depends on.
     struct grid_look {
         QSizeF size;
         double scale = 0;
@@ -163,7 +162,7 @@ class drawChartyItem {
     double stretch_ = 1;
     QColor ground_ = Qt::transparent;
     double widest_value_ = 0; // of the read-out, at its full size
-    int widest_of_ = -1;      // the parameter that this is of
+    int widest_of_ = -1;      // the parameter it belongs to
     double last_OBD_val = 0;
     int r_prev_x = 0, r_prev_y = 0;
     bool r_prev_is_gap = true; // no segment leads on from there
@@ -175,7 +174,7 @@ class drawChartyItem {
     int cur_item_2_PLOT = 0;
     mac_toolies toolies;
     std::vector<std::string> _pid_logitems_list;
-    std::vector<std::string> names_; // of those PIDs: reading them takes a table
+    std::vector<std::string> names_; // of those PIDs, cached: reading them takes a table
     sample_set cur_sample_set;
     std::string time_span_;
     bool some_sampling_done = false;
@@ -183,7 +182,7 @@ class drawChartyItem {
     bool is_thumb_selected = false;
     int SHOW_THESE_MANY_LAST_POINTS = -1;
 
-    // The latest grid: most samples change no axis.
+    // The latest grid: most samples do not change an axis.
     grid_look grid_look_;
     QImage grid_;
 };

@@ -23,7 +23,7 @@ constexpr std::size_t MARKED_BELOW = 30;
 constexpr int REALTIME_SPAN = 20;
 constexpr double NO_NUMBER = std::numeric_limits<double>::quiet_NaN();
 
-// Value texts as plotting takes them: "~" and the like are no numbers.
+// The number of a value text; NaN for "~" and the like.
 translated value_of_text(const std::string& text) {
     const bool number = text.find('~') == text.npos && !text.empty();
     return {text, number ? leading_number(text) : NO_NUMBER};

@@ -11,7 +11,7 @@ const QColor PLOT_LEFT = colour(31 / 255.0, 31 / 255.0, 46 / 255.0, 1.0);
 const QColor PLOT_RIGHT = colour(15 / 255.0, 31 / 255.0, 46 / 255.0, 0.6);
 constexpr double PLOT_GRADIENT_DEGREES = 0.45;
 const QColor GRAY = colour(0.5, 0.5, 0.5);
-const QColor GRID_LINE = colour(0.902, 0.902, 902.0); // the blue is meant: full
+const QColor GRID_LINE = colour(0.902, 0.902, 902.0); // the blue is deliberate: saturated
 constexpr double GRID_LINE_WIDTH = 0.3;
 constexpr int GRID_DIVISIONS = 5;
 const QColor TITLE = colour(1 / 255.0, 223 / 255.0, 215 / 255.0);
@@ -80,7 +80,7 @@ void drawChartyItem::paint_grid(canvas& target, const grid_look& look) {
                               std::to_string(plot.width) + ' ' + std::to_string(plot.height);
     target.put(plot_frame_, place, [&plot](canvas& alone) { paint_plot_frame(alone, plot); });
     paint_grid_lines(target, look.plot);
-    // Above the plot: long values reach into it and are to be read whole.
+    // Painted after the plot: long values reach into it and must stay legible.
     for (const value_axis& axis : look.axes)
         print_axis_values_4_grid(target, axis, look.plot);
     const QFont title_font = image_font(QStringLiteral("Arial"), 10);
@@ -104,8 +104,8 @@ void drawChartyItem::paint_plot_frame(canvas& target, const chart_area& plot) {
     painter.drawRect(target.flipped(frame));
 }
 
-// One dashed path that grows line by line and is stroked after each, so that the earlier lines are
-// the stronger.
+// One dashed path that grows line by line and is stroked each time, so that earlier lines are
+// stronger.
 void drawChartyItem::paint_grid_lines(canvas& target, const chart_area& plot) {
     QPen pen(GRID_LINE, GRID_LINE_WIDTH);
     pen.setCapStyle(Qt::FlatCap);
@@ -139,7 +139,7 @@ void drawChartyItem::print_axis_values_4_grid(canvas& target, const value_axis& 
     const QFont value_font = image_font(QStringLiteral("Helvetica"), 13);
     for (std::size_t i = 0; i < marks.texts.size(); ++i) {
         const QString text = qstring(marks.texts[i]);
-        // Not beyond the right edge, where long values of a second axis would be cut.
+        // Not beyond the right edge, which would cut long values of a second axis.
         const double x = std::min(axis.x + 5, target.width() - text_width(value_font, text));
         target.text_edge(x, marks.y[i], text, value_font, casing_of(AXIS_VALUE), CASING_WIDTH);
         target.text(x, marks.y[i], text, value_font, AXIS_VALUE);

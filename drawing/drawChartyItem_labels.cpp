@@ -18,8 +18,8 @@ struct span {
     double lower, upper;
 };
 
-// What never changed is shown within all that it could be: an axis from a value to the same value
-// would put the curve outside the plot.
+// A value that never changed is shown within its full range: an axis without a span would put the
+// curve outside the plot.
 span with_room(span values, span catalogue) {
     if (values.upper != values.lower)
         return values;
@@ -72,7 +72,8 @@ label_records drawChartyItem::work_out_labels_4_realtime() const {
     return labels;
 }
 
-// A value that has no step is moved to 0, which need not hold it: then it stays the limit itself.
+// Without a step the limit becomes 0, which may exclude the value: then the value itself is the
+// limit.
 double drawChartyItem::upper_limit(const label_record& record) {
     const double value = leading_number(record.upper);
     const double moved = get_ceiling_or_floor(value, true);

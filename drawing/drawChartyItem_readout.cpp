@@ -35,7 +35,7 @@ struct drawChartyItem::readout_look {
 
 namespace {
 
-// Condensed letters, which get their proportions back where the picture is stretched.
+// Condensed letters, which regain their proportions when the picture is stretched.
 void squeezed(canvas& target, double squeeze, const std::function<void()>& write) {
     QPainter& painter = target.painter();
     painter.save();
@@ -75,14 +75,14 @@ void drawChartyItem::paint_readout(canvas& target, double x, double y, const rea
         squeezed(alone, look.squeeze, [&] {
             alone.text_within(room, look.smallest_name_pixels, left, y - NAME_BELOW_VALUE,
                               qstring(names_[k]), system_font(look.name_pixels), white(0.8),
-                              Qt::ElideMiddle); // bank and sensor stay at its end
+                              Qt::ElideMiddle); // bank and sensor are at its end
         });
     });
     paint_level_bar(target, look.segments);
 }
 
-// Of a size that the widest value so far needs: figures that grew and shrank with each value could
-// not be read.
+// As large as the widest value so far allows: figures that change size with each value are
+// illegible.
 void drawChartyItem::write_value(canvas& target, double room, double x, double y,
                                  const QString& value, const readout_look& look) {
     if (widest_of_ != cur_item_2_PLOT) {
@@ -102,7 +102,7 @@ void drawChartyItem::write_value(canvas& target, double room, double x, double y
                            white(look.value_alpha));
 }
 
-// The lowest segment is lit even at the minimum; none is for what is no value.
+// The lowest segment is lit even at the minimum, but none without a value.
 void drawChartyItem::paint_level_bar(canvas& target, int segments) {
     const auto k = static_cast<std::size_t>(cur_item_2_PLOT);
     if (k >= _pid_logitems_list.size())
@@ -110,7 +110,7 @@ void drawChartyItem::paint_level_bar(canvas& target, int segments) {
     const std::string& pid = _pid_logitems_list[k];
     const value_range range = parameter_range(toolies, pid);
     const std::string& text = cur_sample_set[k][1];
-    const bool number = text.find_first_of("0123456789") < 2; // behind a sign
+    const bool number = text.find_first_of("0123456789") < 2; // perhaps after a sign
     const int level = number ? level_of(leading_number(text), range.low, range.high, segments) : -1;
     target.put(level_bar_, std::to_string(level), [&](canvas& alone) {
         const QColor lit = colour(1, 1, 0, 0.4);

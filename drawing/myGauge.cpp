@@ -35,7 +35,7 @@ const QColor GREY_RIGHT = colour(0.55, 0.55, 0.55, 0.9);
 const QColor GREY_LEFT = colour(0.62, 0.62, 0.62, 0.9);
 const QColor DIMMED = colour(0, 0, 0, 0.55);
 const QColor HUB = colour(0.5333333611488342, 0.5333333611488342, 0.5333333611488342, 0.8);
-const QColor GLOW = colour(1, 0, 0, 0.8); // as opaque as what casts it
+const QColor GLOW = colour(1, 0, 0, 0.8); // as opaque as its source
 constexpr double HUB_RADIUS = 22;
 constexpr double GLOW_RADIUS = 10;
 
@@ -43,7 +43,7 @@ QFont label_font(int pixels = LABEL_PIXELS) {
     return image_font(QStringLiteral("Arial"), pixels);
 }
 
-// Where the ink of the dial's labels lies, y upwards.
+// The extent of the dial's labels, y upwards.
 std::vector<QRectF> label_boxes(const std::array<std::string, 11>& labels, const QFont& font) {
     const QFontMetricsF metrics(font);
     std::vector<QRectF> boxes;
@@ -56,7 +56,7 @@ std::vector<QRectF> label_boxes(const std::array<std::string, 11>& labels, const
     return boxes;
 }
 
-// Smaller where long labels would run into each other.
+// Smaller where long labels would overlap.
 QFont fitting_label_font(const std::array<std::string, 11>& labels) {
     for (int pixels = LABEL_PIXELS; pixels > SMALLEST_LABEL_PIXELS; --pixels) {
         const std::vector<QRectF> boxes = label_boxes(labels, label_font(pixels));
@@ -69,7 +69,7 @@ QFont fitting_label_font(const std::array<std::string, 11>& labels) {
     return label_font(SMALLEST_LABEL_PIXELS);
 }
 
-// Centred on `x`; letters are condensed rather than run into what stands beside.
+// Centred on `x`; letters are condensed rather than overlap their neighbours.
 void condensed_text(canvas& target, double room, double x, const QString& text, const QFont& font,
                     const std::function<void(double left)>& paint) {
     const double wide = text_width(font, text);
@@ -110,7 +110,7 @@ std::array<int, 3> myGauge::gauge_range(unsigned pid) const {
     return {range.low, range.high, range.scaling};
 }
 
-// The drawing when there is one, so that it is sharp at any scale; else the picture of the same
+// The vector drawing if there is one, which is sharp at any scale; else the bitmap of the same
 // name.
 void myGauge::load_empty_dial() {
     QSvgRenderer drawing;
@@ -137,8 +137,8 @@ void myGauge::work_out_base_gauge() {
     const unsigned pid = mac_toolies::convertStr2Byte(cur_PID);
     const std::array<int, 3> fixed = gauge_range(pid);
     const value_range shown = parameter_range(toolies, cur_PID);
-    const dial_range range = is_told_by_standard(pid) ? dial_range_over(shown.low, shown.high)
-                                                      : dial_range{fixed[0], fixed[1], fixed[2]};
+    const dial_range range = only_standard_decodes(pid) ? dial_range_over(shown.low, shown.high)
+                                                        : dial_range{fixed[0], fixed[1], fixed[2]};
     range_lo = range.low;
     range_hi = range.high;
     range_scaling = range.scaling;
@@ -152,7 +152,7 @@ void myGauge::work_out_base_gauge() {
     const double left = boxes.front().right() + LABEL_GAP;
     const double right = boxes.back().left() - LABEL_GAP;
     const double middle = gaugeSize.width() / 2;
-    // The name's edge comes before the units, whose feet stand right above it.
+    // The name's casing is painted before the units, which are directly above it.
     const QString name = qstring(parameter_name(toolies, cur_PID));
     const QFont name_font = image_font(QStringLiteral("Helvetica"), NAME_PIXELS, true);
     const double name_room = gaugeSize.width() - 2 * DIAL_EDGE;
@@ -163,7 +163,7 @@ void myGauge::work_out_base_gauge() {
                    [&](double x) { target.text(x, 0, name, name_font, NAME_INK); });
 }
 
-// Between the first and the last label there is `room` for the units.
+// `room`: the space for the units between the first and the last label.
 void myGauge::paint_units(canvas& target, double room) const {
     const double middle = gaugeSize.width() / 2;
     const auto write = [&](double width, double y, const QString& text) {
@@ -196,13 +196,13 @@ void myGauge::draw_cur_needle_value(double value, needle look) {
     needle_pixels_ =
         draw_gauge_needle_raw(target, NEEDLE_X, NEEDLE_Y, value / range_scaling, NEEDLE_START,
                               NEEDLE_END, range_lo, range_hi, NEEDLE_WIDTH, NEEDLE_LENGTH, look);
-    changed_ = restored | needle_pixels_;
+    changed_ |= restored | needle_pixels_;
 }
 
 void myGauge::draw_without_needle(face look) {
     if (image_without_needle.isNull())
         return;
-    changed_ = restore_face();
+    changed_ |= restore_face();
     canvas target(image_);
     if (look == face::dimmed) {
         target.painter().setCompositionMode(QPainter::CompositionMode_SourceAtop);
@@ -248,7 +248,7 @@ const cast_shadow& myGauge::hub_of(needle look, int x, int y, const canvas& targ
         return kept;
     const QRectF hub =
         target.flipped(QRectF(x - HUB_RADIUS, y - HUB_RADIUS, 2 * HUB_RADIUS, 2 * HUB_RADIUS));
-    const double scale = std::max(1.0, pixel_scale_); // QPainter leaves out a smaller one
+    const double scale = std::max(1.0, pixel_scale_); // QPainter ignores a smaller one
     kept = cast_shadow_of(hub, GLOW_RADIUS, scale, look == needle::lit ? GLOW : Qt::transparent,
                           [&hub](QPainter& painter) { painter.drawEllipse(hub); });
     const QImage glow =

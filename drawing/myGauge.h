@@ -15,13 +15,14 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <utility>
 
 class bundle;
 class canvas;
 
 // How a needle is drawn: greyed when the latest reply gave no value.
 enum class needle { lit, greyed };
-// A face without a needle: of a dial whose first value is awaited, or that nothing moves.
+// Only the face, without a needle: no value yet, or nothing moves the dial.
 enum class face { awaiting, dimmed };
 
 class myGauge {
@@ -36,7 +37,7 @@ class myGauge {
 
     // [low, high, scaling] for a PID's number, in the user's units.
     std::array<int, 3> gauge_range(unsigned pid) const;
-    // `value` in display units; NaN puts the needle to the start of the scale.
+    // `value` in display units; NaN puts the needle at the start of the scale.
     void draw_cur_needle_value(double value, needle look = needle::lit);
     void draw_without_needle(face look);
 
@@ -53,8 +54,8 @@ class myGauge {
     void my_set(std::string_view identifier) { imageID_ = identifier; }
     bool isFlipped() const { return false; }
     QSizeF size() const { return gaugeSize; }
-    // The pixels that may differ since the value before was drawn.
-    const QRect& changed_pixels() const { return changed_; }
+    // The pixels that may differ since this was asked last.
+    QRect take_changed_pixels() { return std::exchange(changed_, {}); }
 
     double get_OBDVal(std::string_view reply) const { return toolies.get_OBDVal(reply); }
     static chart_point scale_point(int x, double this_y, int scr_x, int scr_y, int scr_width,
@@ -68,13 +69,13 @@ class myGauge {
     void load_empty_dial();
     void work_out_base_gauge();
     void paint_units(canvas& target, double room) const;
-    // The face as it was before the needle was painted; returns where.
+    // Restores the face below the needle; returns where.
     QRect restore_face();
-    // Returns what it has painted upon.
+    // Returns the area painted.
     QRect draw_gauge_needle_raw(canvas& target, int x, int at_y, double this_val, double alpha_min,
                                 double alpha_max, double min_val, double max_val, double needle_w,
                                 double needle_h, needle look);
-    // Its picture, which stays as it is; the hub of a greyed needle does not glow.
+    // Its picture, which never changes; the hub of a greyed needle does not glow.
     const cast_shadow& hub_of(needle look, int x, int y, const canvas& target);
 
     const bundle& resources_;

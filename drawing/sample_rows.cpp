@@ -74,7 +74,7 @@ void sample_rows::block_level::push(const sample_stretch& sum, unsigned bits) {
     }
     const value_span all = sum.all();
     blocks.push_back({all.lowest, all.highest, static_cast<std::uint32_t>(mixed.size())});
-    if (mixed.size() == mixed.capacity()) // doubled, they would take too much room
+    if (mixed.size() == mixed.capacity()) // doubling would take too much memory
         mixed.reserve(mixed.size() + mixed.size() / 4 + BLOCK);
     mixed.push_back(sum);
 }
@@ -86,7 +86,7 @@ sample_stretch sample_rows::block_level::at(std::size_t place, unsigned bits) co
                            : mixed[b.mixed];
 }
 
-// Adds the block that the last row completes, and the blocks that this block completes.
+// Adds the block that the last row completes, and the larger blocks that this one completes.
 void sample_rows::sum_up(column& c) const {
     adder total;
     visit_rows(c, rows_ - BLOCK, rows_, total);

@@ -1,11 +1,11 @@
-// The samples of a run, one row a sampling cycle, one place a parameter; owned by the screen that
-// samples and read by the charts. A run may last a day: filing costs the same at any length, and a
-// sample takes less than 48 bytes.
+// The samples of a run: a row for each sampling cycle, a place for each parameter. Owned by the
+// screen that samples and read by the charts. A run may last a day: filing costs the same at any
+// length, and a sample takes less than 48 bytes.
 //
 // Replies are translated once, when they are filed. The last row is the one being filled; the rows
-// before it are complete and never change. For each parameter the store keeps complete rows summed
-// up in blocks of 16, blocks of 16 of those and so on, so that what lies in any window is found
-// without visiting its rows.
+// before it are complete and never change. For each parameter the store summarises complete rows in
+// blocks of 16, these again in blocks of 16 and so on, so that any window can be summarised without
+// visiting its rows.
 #pragma once
 
 #include "mac_toolies.h"
@@ -26,7 +26,7 @@
 using sample_entry = std::array<std::string, 4>;
 using sample_set = std::vector<sample_entry>;
 
-// A place that no reply has been filed into reads so.
+// The text of an unfilled place.
 inline constexpr std::string_view UNFILLED = "-1";
 
 class sample_rows {
@@ -39,13 +39,13 @@ class sample_rows {
     std::size_t parameters() const { return columns_.size(); }
     std::size_t rows() const { return rows_; }
     bool empty() const { return rows_ == 0; }
-    // Without rows; the parameters stay.
+    // Removes all rows; the parameters stay.
     void clear();
 
     // Completes the last row and appends one whose places are all unfilled.
     void append_fresh_row();
-    // Files a reply, with what it translates to, into the last row; a second reply replaces the
-    // first. A place or row that does not exist is ignored.
+    // Files a reply and its translation in the last row, replacing an earlier one. Ignored if the
+    // place or row does not exist.
     void file(std::size_t parameter, std::string_view reply, const translated& meaning);
 
     std::string_view text(std::size_t row, std::size_t parameter) const;
@@ -55,18 +55,16 @@ class sample_rows {
         return columns_[parameter].filled(row);
     }
 
-    // The highest and lowest number of all rows but the first; NaN while there are none. Neither an
-    // unfilled place nor an unusable reply is one.
+    // The highest and lowest number of all rows but the first; NaN while there are none. Unfilled
+    // places and unusable replies do not count.
     double highest(std::size_t parameter) const;
     double lowest(std::size_t parameter) const;
 
     // Tells `visitor` what rows [first, end) hold, in order, in as few pieces as there are blocks
-    // for:
-    //   void numbers(const number_run&, std::size_t first_row, std::size_t end_row)
-    //   void gap()
-    //   bool block(const value_span& all, const sample_stretch&)
-    // A block of which it answers false is told in smaller pieces instead. `all` is known without
-    // fetching the stretch and empty where that draws nothing.
+    // for: void numbers(const number_run&, std::size_t first_row, std::size_t end_row) void gap()
+    // bool block(const value_span& all, const sample_stretch&) If block() returns false, its parts
+    // are visited instead. `all` is known without fetching the stretch, and empty if that draws
+    // nothing.
     template <class Visitor>
     void for_each_piece(std::size_t parameter, std::size_t first, std::size_t end,
                         Visitor& visitor) const;
@@ -78,7 +76,7 @@ class sample_rows {
     class short_text {
       public:
         static constexpr std::size_t ROOM = 15;
-        // False when it does not fit.
+        // False if it does not fit.
         bool assign(std::string_view text);
         bool fits() const { return length_ <= ROOM; }
         std::string_view view() const { return {room_, length_}; }
@@ -93,8 +91,8 @@ class sample_rows {
         std::array<short_text, CHUNK> texts;
     };
 
-    // What a block's curve spans, and for one that does not hold numbers alone the place of what it
-    // adds up to among its level's mixed ones.
+    // The span of a block's curve and, unless it holds only numbers, the index of its summary among
+    // its level's mixed ones.
     struct block {
         double lowest, highest;
         std::uint32_t mixed;
@@ -102,7 +100,7 @@ class sample_rows {
     };
     static constexpr std::uint32_t ALL_NUMBERS = 0xFFFFFFFF;
 
-    // A block of level n sums up BLOCK to the power n + 1 rows.
+    // A block of level n covers BLOCK to the power n + 1 rows.
     struct block_level {
         std::vector<block> blocks;
         std::vector<sample_stretch> mixed;
@@ -121,12 +119,12 @@ class sample_rows {
         }
     };
 
-    // A block of this level has 2 to this power rows. Shifts, where divisions would take longer
-    // than all the rest.
+    // The binary logarithm of the rows of a block of this level. Shifts: divisions would take
+    // longer than everything else.
     static unsigned row_bits(std::size_t level) {
         return static_cast<unsigned>(level + 1) * BLOCK_BITS;
     }
-    // Of the largest block that starts at `row` and ends in time, counted from 1; 0 when there is
+    // The level, from 1, of the largest block that starts at `row` and ends by `end`; 0 if there is
     // none.
     static unsigned levels_of_block(std::size_t row, std::size_t end) {
         if (row >= end)
@@ -151,7 +149,7 @@ class sample_rows {
     }
 
     std::vector<column> columns_;
-    // Texts that are longer than a place holds, by place.
+    // Texts too long for a place, by place.
     std::unordered_map<std::size_t, std::string> long_texts_;
     std::size_t rows_ = 0;
 };
@@ -172,7 +170,7 @@ void sample_rows::for_each_piece(std::size_t parameter, std::size_t first, std::
     }
 }
 
-// Blocks of one level, up to where a larger one may start: those of numbers alone as one stretch,
+// Blocks of one level, up to where a larger one may start: those with only numbers as one stretch,
 // or a mixed one.
 template <class Visitor>
 std::size_t sample_rows::visit_blocks(const column& c, std::size_t level, std::size_t first,

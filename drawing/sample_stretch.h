@@ -1,6 +1,5 @@
-// What consecutive samples of one parameter add up to, so that they can be drawn without visiting
-// them one by one. Made of numbers, of gaps (replies that are no numbers) and of unfilled places,
-// which count as if they were not there.
+// A summary of consecutive samples of one parameter, which can be drawn without visiting them. They
+// consist of numbers, gaps (replies without a number) and unfilled places, which are ignored.
 #pragma once
 
 #include <algorithm>
@@ -9,10 +8,10 @@
 #include <cstdint>
 #include <limits>
 
-// What a curve's segments cover of the value axis.
+// The part of the value axis that a curve's segments cover.
 struct value_span {
     double lowest, highest;
-    double bridged; // the widest gap within that is counted in though nothing covers it
+    double bridged; // the widest gap inside that is included although nothing covers it
 
     bool empty() const { return lowest > highest; }
     bool covers(const value_span& other) const {
@@ -52,10 +51,10 @@ struct number_run {
     }
 };
 
-// A few spans that do not meet, in order; where there would be more the nearest ones are bridged.
+// A few disjoint spans, in order; if there are too many, the nearest ones are merged.
 class value_spans {
   public:
-    value_spans() {} // without setting what is not in use
+    value_spans() {} // leaves unused elements uninitialised
     const value_span* begin() const { return spans_.data(); }
     const value_span* end() const { return spans_.data() + count_; }
     double lowest() const { return count_ > 0 ? spans_[0].lowest : NO_SPAN.lowest; }
@@ -69,11 +68,11 @@ class value_spans {
 };
 
 struct sample_stretch {
-    number_run head;             // the numbers before the first gap: all, when there is none
-    number_run tail;             // the numbers behind the last gap
+    number_run head;             // the numbers before the first gap, or all
+    number_run tail;             // the numbers after the last gap
     std::uint32_t first_row = 0; // of the head
-    std::uint32_t last_row = 0;  // of the tail, or of the head when there is no gap
-    // What the runs between gaps cover; a number alone between two gaps shows nothing.
+    std::uint32_t last_row = 0;  // of the tail, or of the head without a gap
+    // What the runs between gaps cover; a single number between two gaps draws nothing.
     value_spans inner;
     std::uint32_t inner_points = 0;
     bool gapped = false;
@@ -91,7 +90,7 @@ struct sample_stretch {
         return gap;
     }
 
-    // From the lowest to the highest of all that is not alone between two gaps.
+    // From the lowest to the highest number, except single ones between two gaps.
     value_span all() const {
         return {std::min({head.lowest, tail.lowest, inner.lowest()}),
                 std::max({head.highest, tail.highest, inner.highest()}), 0};

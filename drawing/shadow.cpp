@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int PASSES = 3; // box blurs in a row come near a Gaussian
+constexpr int PASSES = 3; // repeated box blurs approximate a Gaussian
 
 // Averages each pixel with its neighbours up to `reach` away along one line of `count` pixels
 // `stride` apart.
@@ -46,7 +46,7 @@ void blur(QImage& mask, int reach) {
 
 cast_shadow cast_shadow_of(const QRectF& bounds, double blur_radius, double scale,
                            const QColor& shade, const std::function<void(QPainter&)>& paint_shape) {
-    // Three boxes of this reach spread an edge over about the radius.
+    // Three boxes of this reach blur an edge over about the radius.
     const int reach = std::max(1, static_cast<int>(std::lround(blur_radius * scale / PASSES)));
     const double margin = std::ceil((PASSES * reach + 1) / scale);
     const QRectF whole = bounds.adjusted(-margin, -margin, margin, margin).toAlignedRect();

@@ -1,4 +1,4 @@
-// Soft shadows, which QPainter has none of.
+// Soft shadows, which QPainter lacks.
 #pragma once
 
 #include <QColor>

@@ -9,15 +9,14 @@
 namespace {
 
 constexpr double LONGEST = 24, WIDEST = 40;
-constexpr int TOGETHER = 8;  // pixels, whose cover is worked out at once
-constexpr double UNIT = 256; // of a pixel's side, so that 16 bits hold what is short
+constexpr int TOGETHER = 8;  // pixels whose coverage is computed at once
+constexpr double UNIT = 256; // of a pixel's side, so that short lengths fit in 16 bits
 
 std::int16_t in_units(double pixels) {
     return static_cast<std::int16_t>(std::lrint(pixels * UNIT));
 }
 
-// A rectangle of any direction, and how much of a pixel it covers: that of the exact shape to
-// within a twentieth.
+// A rectangle at any angle, and its coverage of a pixel: exact to within a twentieth.
 class bar {
   public:
     bar(const QLineF& line, double width)
@@ -38,7 +37,7 @@ class bar {
         return QRectF(centre_ - reach, centre_ + reach).toAlignedRect();
     }
 
-    // Of TOGETHER pixels from that one on, in 255ths.
+    // For TOGETHER pixels from that one on, in 255ths.
     void cover(int px, int py, std::int16_t* __restrict covers) const {
         const QPointF from = QPointF(px + 0.5, py + 0.5) - centre_;
         const std::int16_t along = in_units(from.x() * along_.x() + from.y() * along_.y());
@@ -55,7 +54,7 @@ class bar {
     }
 
   private:
-    static constexpr std::uint16_t ROUNDING = 255; // that makes 255 of 255 times 255
+    static constexpr std::uint16_t ROUNDING = 255; // makes 255 out of 255 * 255
 
     static std::uint16_t inside(std::int16_t reach, std::int16_t at) {
         const auto distance = std::max<std::int16_t>(at, static_cast<std::int16_t>(-at));

@@ -1,6 +1,6 @@
-// Lines a few pixels long, of which a curve has hundreds: QPainter takes longer to make each ready
-// than to paint it. Painted as QPainter does, smoothed, with an opaque pen of square ends. Lives
-// while a curve is being painted; lines and widths are in pixels.
+// Lines a few pixels long, of which a curve has hundreds: QPainter takes longer to set each up than
+// to paint it. Painted like QPainter, antialiased, with an opaque pen and square ends. Lives while
+// a curve is being painted; lines and widths are in pixels.
 #pragma once
 
 #include <QImage>
@@ -10,7 +10,7 @@
 
 class short_strokes {
   public:
-    // Of a picture of premultiplied or opaque pixels.
+    // For a picture of premultiplied or opaque pixels.
     short_strokes(QImage& image, double width, QRgb ink);
 
     bool is_short(const QLineF& line) const;
@@ -21,5 +21,5 @@ class short_strokes {
 
     QImage& image_;
     double width_;
-    std::array<QRgb, ALL + 1> added_, rest_; // where a stroke covers so much of a pixel
+    std::array<QRgb, ALL + 1> added_, rest_; // by how much of a pixel a stroke covers
 };

@@ -13,7 +13,7 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
     for (const std::string_view mode : {"03", "07", "0A"})
         for (const bool is_can : {false, true}) {
             const bus_evidence bus{is_can ? bus_form::can : bus_form::older, bus_source::headers};
-            const auto [codes, answered, no_data, unread] = read_codes(mode, reply, bus);
+            const auto [codes, answered, no_data, others, unread] = read_codes(mode, reply, bus);
             REQUIRE(answered || codes.empty());
             REQUIRE(answered || no_data || !unread.empty());
             REQUIRE(codes.size() <= bytes.size() / 4 + 3 * lines);

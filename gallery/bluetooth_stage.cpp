@@ -22,6 +22,11 @@ class chooser_on_show final : public QObject {
                               {QStringLiteral("UUIDs"), QStringList{SERIAL_PORT_UUID_TEXT}}});
             mock_.add_device("AA:BB:CC:11:22:33", "Wireless diagnostic adapter, workshop 2");
             mock_.set_device(
+                mock_.add_device("D0:5F:B8:20:14:7C", "OBDII BLE"),
+                {{QStringLiteral("AddressType"), QStringLiteral("random")},
+                 {QStringLiteral("UUIDs"),
+                  QStringList{QStringLiteral("000018f0-0000-1000-8000-00805f9b34fb")}}});
+            mock_.set_device(
                 mock_.add_device("5C:F3:70:8A:01:02", "Headphones"),
                 {{QStringLiteral("Paired"), true},
                  {QStringLiteral("UUIDs"),

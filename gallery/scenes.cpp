@@ -5,6 +5,7 @@
 #include "stage.h"
 #include "stall_hint.h"
 #include "thumbnail_strip.h"
+#include "transports.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -247,6 +248,12 @@ void with_logging(user_defaults& store) {
     store.set_boolean(KS_METRIC_UNITS_KEY, true);
 }
 
+void with_a_cable(user_defaults& store) {
+    with_logging(store);
+    store_transport(transport_named("serial"), store);
+    store.set_string(SERIAL_PORT_KEY, "/dev/ttyUSB0");
+}
+
 const std::vector<scene> ALL = {
     {"start", "Nothing chosen yet", nothing_chosen},
     {"start-first", "A first start", first_steps, "can11", {}, app_harness::first_start},
@@ -316,6 +323,7 @@ const std::vector<scene> ALL = {
      {{fault_kind::stall_after, 1}}},
     {"expert-blank", "Send without a command", expert_blank},
     {"prefs-wifi", "Preferences, Wi-Fi", prefs, "can11", {}, with_logging},
+    {"prefs-serial", "Preferences, a cable", prefs, "can11", {}, with_a_cable},
     {"prefs-bluetooth",
      "Preferences as they are at the first start",
      prefs,

@@ -49,6 +49,9 @@ stage::stage(const scene& shown, const std::string& language, QSize size)
     app.delegate->doors().make_streams = [this](const std::string&, long) {
         return std::make_unique<virtual_car_pair>(app.loop, adapter);
     };
+    app.delegate->doors().serial_ports = [] {
+        return std::vector<serial_port_entry>{{"/dev/ttyUSB0", "FT232R USB UART", "FTDI"}};
+    };
     app.messages.while_open = [this](const alert_request& request) { show_message(request); };
     window.resize(size);
     window.show();

@@ -1,5 +1,5 @@
 // The door to modal message boxes. The window shows them, the command line prints them, tests
-// script their answers. Owned by the program's start-up code, which hands it down.
+// script their answers. Owned by the start-up code.
 #pragma once
 
 #include "run_loop.h"
@@ -15,7 +15,7 @@ struct alert_request {
     std::string title{};                    // window title; empty: the program's name
     std::vector<std::string> buttons{"OK"}; // the first is the default
     alert_style style = alert_style::warning;
-    bool is_help = false; // drawn as help, whatever its style
+    bool is_help = false; // shown as help, whatever its style
 };
 
 class alerts {

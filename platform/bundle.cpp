@@ -19,7 +19,7 @@ bundle::bundle(std::string root, std::string locale)
       fallback_(std::make_unique<QTranslator>()) {
     const QString folder = qstring(root_) + QStringLiteral("/strings");
     const QLocale wanted = locale.empty() ? QLocale() : QLocale(qstring(locale));
-    // A language without a table of its own is no failure: the fallback serves.
+    // A language without a table is not a failure: the fallback is used.
     (void)strings_->load(wanted, QStringLiteral("kestrom"), QStringLiteral("_"), folder);
     if (!fallback_->load(QStringLiteral("kestrom_en"), folder))
         qCWarning(log_platform, "no strings table below %s", root_.c_str());

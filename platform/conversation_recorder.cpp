@@ -10,7 +10,7 @@ namespace {
 
 constexpr int FORMAT_VERSION = 1;
 
-// Characters that each stand for one byte.
+// Characters that represent one byte each.
 std::string letters_of(std::string_view bytes) {
     return QString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size())).toStdString();
 }

@@ -1,10 +1,9 @@
-// Writes down the conversation with the adapter as it happens, so that somebody else can look at it
-// or answer from it (docs/json/recording.schema.json). Owned by main; outlives the doors it listens
-// at.
+// Records the conversation with the adapter, to be examined or replayed elsewhere
+// (docs/json/recording.schema.json). Owned by main; outlives the doors that it records.
 //
-// A line of JSON each: a header, then what was sent and received and what became of the connection.
-// Bytes stand as the characters U+0000 to U+00FF, so nothing is lost and the file is plain ASCII.
-// A line is whole in the file when the call returns, whatever ends the program.
+// Lines of JSON: a header, then what was sent and received, and the events of the connection. Bytes
+// are the characters U+0000 to U+00FF, so that nothing is lost and the file is plain ASCII. When a
+// call returns, its line is complete in the file, whatever ends the program.
 #pragma once
 
 #include "log_file.h"
@@ -20,23 +19,23 @@ class conversation_recorder {
   public:
     explicit conversation_recorder(const run_loop& loop) : loop_(loop), started_(loop.now()) {}
 
-    // Creates the file, which must not be there yet, with its header; the times count from now.
-    // `adapter` is "demo", "wifi" or "bluetooth". The reason when that fails.
+    // Creates the file, which must not exist yet, with its header; times count from now. `adapter`
+    // is "demo", "wifi", "serial" or "bluetooth". Returns the reason of failure.
     std::optional<std::string> start(const std::string& path, const std::string& version,
                                      std::string_view adapter);
 
     void sent(std::string_view bytes) { note("sent", bytes); }
-    // Meant to be sent, but there was no connection, or it did not take them.
+    // Not sent: there was no connection, or it did not accept them.
     void unsent(std::string_view bytes) { note("unsent", bytes); }
     void received(std::string_view bytes) { note("received", bytes); }
-    // `over` is "wifi" or "bluetooth".
+    // `over` is "wifi", "serial" or "bluetooth".
     void connecting(std::string_view over) { event("connecting", "over", over); }
     void opened() { event("open"); }
     void ended() { event("end"); } // by the far end
     void closed() { event("closed"); }
     void failed(std::string_view why) { event("error", "text", why); }
 
-    // Told once why nothing more is written.
+    // Called once, with the reason, when recording stops.
     std::function<void(const std::string& why)> stopped;
 
   private:

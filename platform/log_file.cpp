@@ -15,7 +15,7 @@ std::string in_words(int error) {
     return std::generic_category().message(error);
 }
 
-// 0, or why not all of it was written.
+// 0, or the error if not everything was written.
 int write_whole(int fd, std::string_view text) {
     while (!text.empty()) {
         const ssize_t written = ::write(fd, text.data(), text.size());
@@ -27,12 +27,12 @@ int write_whole(int fd, std::string_view text) {
     return 0;
 }
 
-// 0, or why the disk failed. What cannot be forced anywhere, such as a device, is no failure.
+// 0, or the error of the disk. A file that cannot be synced, such as a device, is not a failure.
 int force_to_disk(int fd) {
     return ::fdatasync(fd) == 0 || errno == EINVAL || errno == EROFS ? 0 : errno;
 }
 
-// The name of a new file is an entry of its folder, which has to reach the disk as well.
+// The name of a new file is an entry of its folder, which must be synced too.
 void force_folder_to_disk(const std::string& file) {
     const std::size_t slash = file.rfind('/');
     const std::string folder = slash == file.npos ? "." : file.substr(0, slash + 1);
@@ -45,8 +45,8 @@ void force_folder_to_disk(const std::string& file) {
 
 } // namespace
 
-// Forces the file to disk whenever something was appended; what comes during one flush is served
-// by the next.
+// Syncs the file whenever something was appended; what is appended during one flush is covered by
+// the next.
 class log_file::disk_flusher {
   public:
     disk_flusher(int fd, std::string path)
@@ -59,7 +59,7 @@ class log_file::disk_flusher {
         dirty_ = true;
         wake_.notify_one();
     }
-    // Of the first flush that failed; 0 while none did.
+    // The error of the first failed flush; 0 if none failed.
     int error() {
         const std::lock_guard lock(mutex_);
         return error_;
@@ -96,7 +96,7 @@ class log_file::disk_flusher {
     bool dirty_ = false;
     bool over_ = false;
     int error_ = 0;
-    std::thread thread_; // last: it uses the others
+    std::thread thread_; // last, because it uses the others
 };
 
 log_file::log_file() = default;
@@ -130,10 +130,10 @@ std::optional<std::string> log_file::append_line(std::string_view lines) {
         return fail(error);
     struct stat there {};
     if (::fstat(fd_, &there) == 0 && there.st_nlink == 0)
-        return fail(ENOENT); // somebody has removed it: what is written is lost
+        return fail(ENOENT); // the file was removed: what is written to it is lost
     const off_t end = ::lseek(fd_, 0, SEEK_END);
     if (const int error = write_whole(fd_, lines)) {
-        // A device has no length to go back to.
+        // A device has no length to truncate to.
         [[maybe_unused]] const int cut = end >= 0 ? ::ftruncate(fd_, end) : 0;
         return fail(error);
     }

@@ -1,10 +1,9 @@
-// A text file that is written for keeps, line by line: a run's log, an export. Owned by whoever
-// writes it.
+// A text file written durably, line by line: a run's log, an export. Owned by its writer.
 //
-// A line that append_line has taken survives the end of the process, a kill -9 too: it was handed
-// to the operating system whole. It is forced to disk at once as well, against a loss of power,
-// but on a thread of the file's own: that takes 0.1 to 5 ms on the disks at hand and can take
-// seconds on a busy one, which must not hold up the conversation with the car.
+// A line taken by append_line survives the end of the process, even a kill -9: it is handed to the
+// operating system in one piece. Against a power failure it is also synced at once, but on a
+// separate thread: that takes 0.1 to 5 ms on the disks measured and may take seconds on a busy one,
+// which must not stall the conversation with the car.
 #pragma once
 
 #include <memory>
@@ -21,23 +20,23 @@ class log_file {
     log_file(const log_file&) = delete;
     log_file& operator=(const log_file&) = delete;
 
-    // Creates an empty file and opens it, closing any that was open. The reason when that fails;
-    // the file is closed then.
+    // Creates an empty file and opens it, closing any that was open. Returns the reason of failure;
+    // then no file is open.
     std::optional<std::string> create(const std::string& path,
                                       existing file_there = existing::replace);
 
-    // Appends `lines`, whole lines with their ends, all or nothing: when they cannot be written,
-    // the disk failed earlier lines or the file has been removed, the file is cut back to where it
-    // stood and closed, and the reason returned. What is appended to a closed file goes nowhere,
-    // without an error.
+    // Appends `lines`, complete with line ends, all or nothing: if they cannot be written, an
+    // earlier sync failed or the file was removed, the file is truncated to its previous length and
+    // closed, and the reason returned. Appending to a closed file has no effect and is not an
+    // error.
     std::optional<std::string> append_line(std::string_view lines);
 
-    // From now on a file into which no line came is removed when it is closed.
+    // From now on, a file without any line is removed when it is closed.
     void leave_no_empty_file() { removed_when_empty_ = true; }
     // Whether a line was taken since it was created.
     bool has_lines() const { return has_lines_; }
 
-    // Waits until all is on disk. The reason when the disk failed.
+    // Waits until everything is on disk. Returns the reason of failure.
     std::optional<std::string> close();
 
     bool is_open() const { return fd_ >= 0; }
@@ -47,7 +46,7 @@ class log_file {
     class disk_flusher;
 
     std::optional<std::string> fail(int error);
-    bool is_there() const; // under its name
+    bool is_there() const; // still has its name
 
     std::string path_;
     int fd_ = -1;

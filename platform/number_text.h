@@ -1,11 +1,11 @@
-// A number in as few digits as tell it from its neighbours, "." whatever the locale.
+// A number in the fewest digits that distinguish it from its neighbours, "." whatever the locale.
 #pragma once
 
 #include <charconv>
 #include <cmath>
 #include <string>
 
-// "nan" for what is no finite number.
+// "nan" if it is not finite.
 inline std::string number_text(double number) {
     if (!std::isfinite(number))
         return "nan";

@@ -1,10 +1,10 @@
-// A line on standard error that tells how far a command is, rewritten in place; nothing when
-// standard error is no terminal. No escape codes: any terminal can show it. Whoever prints anything
-// else to a terminal clears it first.
+// A progress line on standard error, rewritten in place; nothing if standard error is not a
+// terminal. No escape codes, so any terminal can show it. To be cleared before printing anything
+// else to a terminal.
 #pragma once
 
 #include <string_view>
 
-// The first line of `text`, as much of it as fits.
+// Shows as much of the first line of `text` as fits.
 void show_progress(std::string_view text);
 void clear_progress();

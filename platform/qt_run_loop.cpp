@@ -26,7 +26,7 @@ void qt_run_loop::arm(timer_id id, milliseconds delay) {
             this, [this, id] { fall_due(id); }, Qt::QueuedConnection);
         return;
     }
-    // A delay beyond Qt's range (24 days) is as good as never.
+    // A delay beyond Qt's range (24 days) amounts to never.
     constexpr milliseconds LONGEST{std::numeric_limits<int>::max()};
     // Rounded up: never early.
     const milliseconds deadline =

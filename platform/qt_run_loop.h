@@ -1,7 +1,6 @@
-// The real run loop: Qt's event loop, and one timer of it that is set to the earliest delayed call.
-// Every command arms a time-out that its reply cancels: arming and cancelling are entries in a
-// table, and the timer is set anew only for an earlier call; set to a cancelled one it wakes in
-// vain, once.
+// The real run loop: Qt's event loop, and one timer for the earliest delayed call. Every command
+// arms a time-out that its reply cancels; that only changes entries in a table. The timer is set
+// again only for an earlier call; for a cancelled call it wakes once, in vain.
 #pragma once
 
 #include "run_loop.h"

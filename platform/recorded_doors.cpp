@@ -6,12 +6,13 @@ namespace {
 
 class recorded_stream_pair final : public stream_pair {
   public:
-    recorded_stream_pair(std::unique_ptr<stream_pair> streams, conversation_recorder& recorder)
-        : streams_(std::move(streams)), recorder_(recorder) {}
+    recorded_stream_pair(std::unique_ptr<stream_pair> streams, conversation_recorder& recorder,
+                         const char* over)
+        : streams_(std::move(streams)), recorder_(recorder), over_(over) {}
     ~recorded_stream_pair() override { note_close(); }
 
     void open(event_handler handler) override {
-        recorder_.connecting("wifi");
+        recorder_.connecting(over_);
         begun_ = true;
         streams_->open([this, handler = std::move(handler)](stream_side side, int event_code) {
             if (side == stream_side::input)
@@ -58,6 +59,7 @@ class recorded_stream_pair final : public stream_pair {
 
     std::unique_ptr<stream_pair> streams_;
     conversation_recorder& recorder_;
+    const char* over_;
     bool begun_ = false;
     bool open_ = false;
 };
@@ -185,11 +187,12 @@ class recorded_profile final : public serial_port_profile {
 
 } // namespace
 
-stream_pair_factory recorded_streams(stream_pair_factory make, conversation_recorder& recorder) {
-    return [make = std::move(make), &recorder](const std::string& host,
-                                               long port) -> std::unique_ptr<stream_pair> {
+stream_pair_factory recorded_streams(stream_pair_factory make, conversation_recorder& recorder,
+                                     const char* over) {
+    return [make = std::move(make), &recorder, over](const std::string& host,
+                                                     long port) -> std::unique_ptr<stream_pair> {
         auto streams = make(host, port);
-        return streams ? std::make_unique<recorded_stream_pair>(std::move(streams), recorder)
+        return streams ? std::make_unique<recorded_stream_pair>(std::move(streams), recorder, over)
                        : nullptr;
     };
 }

@@ -10,7 +10,7 @@ run_loop::timer_id run_loop::after(milliseconds delay, std::function<void()> cal
 }
 
 void run_loop::cancel(timer_id id) {
-    // A call that waits in due_ is found missing when its turn comes.
+    // A cancelled call in due_ is found missing when its turn comes.
     if (calls_.erase(id) > 0)
         disarm(id);
 }

@@ -1,9 +1,9 @@
 // The door to time: delayed calls on the one main thread, in order.
 //
 // Deliveries never nest. While a delivery runs, or while a modal dialog is up (modal_hold),
-// whatever falls due waits in its order and is delivered afterwards; a waiting call can still be
-// cancelled, so a held reply that stops the time-out behind it wins. This is the only place that
-// knows the rule: transports, timers and screens simply schedule.
+// whatever falls due is queued in order and delivered afterwards; a queued call can still be
+// cancelled, so a held reply cancels the time-out queued after it. Only this class implements the
+// rule: transports, timers and screens simply schedule.
 #pragma once
 
 #include <chrono>
@@ -22,28 +22,28 @@ class run_loop {
 
     // Runs `call` once, `delay` from now. Never runs it before returning.
     timer_id after(milliseconds delay, std::function<void()> call);
-    // Runs `call` before returning when nothing else is being delivered, held or waiting, else as
-    // after(0) does. Only for the event loop's own slots, which no operation of the program is
-    // below.
+    // Runs `call` before returning if nothing else is being delivered, held or queued; else like
+    // after(0). Only for slots called directly by the event loop, with no operation of the program
+    // on the stack.
     void from_event_loop(std::function<void()> call);
-    // Takes back a call that has not run yet; an unknown or finished id is ignored.
+    // Cancels a call that has not run yet; an unknown or finished id is ignored.
     void cancel(timer_id id);
     // Calls that have neither run nor been cancelled.
     bool idle() const { return calls_.empty(); }
 
     virtual milliseconds now() const = 0;
-    // The same clock, for measuring what takes less than a millisecond.
+    // The same clock, for measuring less than a millisecond.
     virtual microseconds fine_now() const { return now(); }
 
     bool held() const { return holds_ > 0; }
 
-    // Told whenever everything that fell due has been delivered, and no dialog is up.
+    // Called whenever everything due has been delivered and no dialog is open.
     std::function<void()> delivered;
 
   protected:
     virtual void arm(timer_id id, milliseconds delay) = 0;
     virtual void disarm(timer_id id) = 0;
-    // Asks for one call of deliver_due() from the event loop, soon.
+    // Requests one call of deliver_due() from the event loop, soon.
     virtual void wake() = 0;
 
     void fall_due(timer_id id);

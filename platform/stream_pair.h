@@ -10,7 +10,7 @@
 
 enum class stream_side { input, output };
 
-// Event codes as the link's handler expects them.
+// Event codes of the link's handler.
 inline constexpr int STREAM_OPEN_COMPLETED = 1;
 inline constexpr int STREAM_BYTES_AVAILABLE = 2;
 inline constexpr int STREAM_SPACE_AVAILABLE = 4;
@@ -28,7 +28,7 @@ class stream_pair {
     // before the end is read before it. The peer's close is the end event, never an error; our own
     // close raises none.
     virtual void open(event_handler handler) = 0;
-    // At most `most` bytes received so far; empty when there are none.
+    // At most `most` bytes received so far; empty if none.
     virtual std::string read(std::size_t most) = 0;
     // Hands the bytes to the system at once; a pair that is not open drops them.
     virtual void write(std::string_view bytes) = 0;
@@ -37,7 +37,7 @@ class stream_pair {
     virtual std::string error_description() const = 0;
 };
 
-// Makes a pair to host and port; nothing when none can be made. The port may be any number: one
+// Makes a pair to host and port; nothing if none can be made. The port may be any number: one
 // outside 0 to 65535 ends in the error event.
 using stream_pair_factory =
     std::function<std::unique_ptr<stream_pair>(const std::string& host, long port)>;

@@ -15,19 +15,19 @@ namespace {
 QtMessageHandler print = nullptr;
 bool print_all = false;
 
-// What a command tells by itself.
+// Messages that a command prints itself.
 bool told_anyway(QtMsgType type, std::string_view area) {
     return type == QtInfoMsg || area == "kestrom.link" || area == "kestrom.toolkit" ||
            area == "kestrom.screens";
 }
 
 void log_message(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    // Of the place that Qt takes instead: nothing of this program is kept there.
+    // About the folder that Qt uses instead: this program keeps nothing there.
     if (text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
         return;
     const std::string_view area = context.category ? context.category : "";
     const bool logged = area.starts_with("kestrom.") && type != QtDebugMsg;
-    // Standard error goes there already when a service manager has started the program.
+    // Under a service manager, standard error already goes there.
     if (logged && !(print_all && std::getenv("JOURNAL_STREAM")))
         ::syslog(type == QtInfoMsg ? LOG_INFO : LOG_WARNING, "%s", qUtf8Printable(text.trimmed()));
     if (!logged || print_all || !told_anyway(type, area))

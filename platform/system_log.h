@@ -10,6 +10,6 @@ Q_DECLARE_LOGGING_CATEGORY(log_toolkit)  // kestrom.toolkit: decoding
 Q_DECLARE_LOGGING_CATEGORY(log_drawing)  // kestrom.drawing: charts and dials
 Q_DECLARE_LOGGING_CATEGORY(log_platform) // kestrom.platform: settings, files, resources
 
-// From now on the system log gets what the areas tell, debug aside. With `printed` standard error
-// does so too; without, only what a command does not tell in its own words anyway.
+// From now on, messages of all categories above debug level go to the system log. With `printed`
+// also to standard error; without, only those that a command does not print itself.
 void log_to_system(bool printed);

@@ -26,7 +26,7 @@ std::string without(std::string_view text, std::string_view unwanted) {
 }
 
 std::string_view trimmed(std::string_view text, std::string_view unwanted) {
-    // The sets are a handful of characters: comparing beats a search call for each.
+    // The sets are a few characters: comparing is faster than a search call.
     const auto is_unwanted = [unwanted](char c) { return std::ranges::count(unwanted, c) > 0; };
     while (!text.empty() && is_unwanted(text.front()))
         text.remove_prefix(1);

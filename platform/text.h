@@ -1,5 +1,5 @@
-// Small helpers over plain text, for whoever reads or composes replies. Bytes, not letters: UTF-8
-// passes through. Views returned point into the text given, which must therefore outlive them.
+// Small helpers for plain text. Bytes, not characters: UTF-8 passes through. Returned views point
+// into the given text, which must outlive them.
 #pragma once
 
 #include <concepts>
@@ -13,13 +13,13 @@ inline bool contains(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;
 }
 
-// The characters from `first` on, at most `count`; fewer, or none, where the text ends before.
+// The characters from `first` on, at most `count`; fewer, or none, if the text ends earlier.
 inline std::string_view slice(std::string_view text, std::size_t first,
                               std::size_t count = std::string_view::npos) {
     return first < text.size() ? text.substr(first, count) : std::string_view();
 }
 
-// One pass, left to right; what was put in is not looked at again. An empty `from` changes nothing.
+// One pass, left to right; inserted text is not searched again. An empty `from` changes nothing.
 std::string replace_all(std::string_view text, std::string_view from, std::string_view to);
 
 // The text without any of the characters of `unwanted`.
@@ -31,13 +31,13 @@ std::string_view trimmed(std::string_view text, std::string_view unwanted = WHIT
 // The pieces between the occurrences of `separator`, empty ones too: always at least one piece.
 std::vector<std::string_view> split(std::string_view text, std::string_view separator);
 
-// What stands behind the last slash; slashes at the very end count for nothing.
+// The part after the last slash, ignoring trailing slashes.
 std::string_view last_path_component(std::string_view path);
 
-// Whether there is text and all of it is hex digits.
+// Whether the text is not empty and all hex digits.
 bool is_hex(std::string_view text);
 
-// Views into a text that is gone by the next line.
+// Prevents views into a temporary text.
 std::string_view slice(std::same_as<std::string> auto&& text, std::size_t first,
                        std::size_t count = 0) = delete;
 std::string_view trimmed(std::same_as<std::string> auto&& text,

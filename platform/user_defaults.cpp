@@ -23,8 +23,8 @@ QStringList qstrings(const std::vector<std::string>& values) {
     return list;
 }
 
-// What a damaged file makes of its lines: keys that nobody can ask for. Written back, they would
-// stand for the key that is left without its slashes.
+// Keys from damaged lines, which cannot be read by name. Written back, they would become the key
+// without the slashes.
 bool is_damaged(const QString& key) {
     return key.isEmpty() || key.startsWith(u'/') || key.endsWith(u'/') ||
            key.contains(QLatin1String("//"));

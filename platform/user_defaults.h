@@ -15,14 +15,14 @@ class user_defaults {
   public:
     // Reads `path`; a missing file is an empty store.
     explicit user_defaults(std::string path);
-    // The store of the user who runs the program.
+    // The current user's store.
     static std::string default_path();
 
     bool contains(std::string_view key) const;
-    int integer(std::string_view key) const;        // absent or no number: 0
+    int integer(std::string_view key) const;        // absent or not a number: 0
     bool boolean(std::string_view key) const;       // absent: false
     std::string string(std::string_view key) const; // absent: empty
-    // Absent and empty differ.
+    // Absent and empty are different.
     std::optional<std::vector<std::string>> string_array(std::string_view key) const;
 
     void set_integer(std::string_view key, int value);
@@ -30,7 +30,7 @@ class user_defaults {
     void set_string(std::string_view key, std::string_view value);
     void set_string_array(std::string_view key, std::vector<std::string> values);
 
-    // Writes the file, whole or not at all. False, with a warning in the log, when that fails.
+    // Writes the file atomically. False, with a logged warning, if that fails.
     bool synchronize();
     const std::string& path() const { return path_; }
 
@@ -40,6 +40,6 @@ class user_defaults {
 
     std::string path_;
     std::map<std::string, setting, std::less<>> values_;
-    // The one setting that decoding asks for at every reply is kept decoded.
+    // The setting that decoding reads for every reply is cached.
     mutable std::map<std::string, bool, std::less<>> booleans_;
 };

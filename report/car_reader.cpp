@@ -20,11 +20,6 @@ constexpr milliseconds BEFORE_THE_NEXT_TRY{1000}; // of a unit that is busy or n
 constexpr int MOST_SILENT = 3;
 constexpr int MOST_TRIES = 2; // of a question that nobody put off
 
-// "7F0978": the answer is still to come; 21: the unit is busy, ask again.
-bool puts_off(const unit_reply& refusal) {
-    return refusal.data.ends_with("78") || refusal.data.ends_with("21");
-}
-
 std::string plain_words(std::string_view reply) {
     std::string text;
     const std::string lines = without(reply, std::string_view("\n>\0", 3));

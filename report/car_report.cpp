@@ -21,7 +21,7 @@ unit_report unit_of(const conversation& heard, const std::string& address,
                     const mac_toolies& toolies) {
     unit_report unit;
     unit.address = address;
-    unit.name = address.empty()    ? ""
+    unit.name = address.empty()    ? "All units"
                 : address == "7E8" ? "Engine"
                 : address == "7E9" ? "Transmission"
                                    : unit_name_of_address(address, address);
@@ -48,11 +48,15 @@ std::string_view part_name(part one) {
     return NAMES[static_cast<std::size_t>(one)];
 }
 
-std::optional<bool> car_report::lamp() const {
+std::optional<bool> car_report::lamp(bool& whole) const {
     std::optional<bool> told;
+    whole = true;
     for (const unit_report& unit : units)
-        if (unit.of(part::status).told())
+        if (const finding& found = unit.of(part::status); found.told())
             told = told.value_or(false) || unit.lamp_on;
+        else
+            whole = whole && found.why == WHY_NOT_LISTED;
+    whole = whole || told == true;
     return told;
 }
 

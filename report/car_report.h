@@ -36,6 +36,7 @@ inline constexpr char WHY_LISTED[] = "listed";         // which makes its silenc
 inline constexpr char WHY_SILENT[] = "no_answer";
 inline constexpr char WHY_TIME_OUT[] = "time_out";
 inline constexpr char WHY_INCOMPLETE[] = "incomplete"; // messages are missing
+inline constexpr char WHY_PUT_OFF[] = "put_off";       // and never answered
 inline constexpr char WHY_ENDED[] = "ended";           // before it was asked
 
 // Things that every unit is asked for, each with its finding.
@@ -130,8 +131,8 @@ struct car_report {
     std::string vin; // of the first unit that told one
     std::string adapter, adapter_volts, protocol, protocol_number;
 
-    std::optional<bool> lamp() const; // nothing when nobody told; on when any unit says so
     // Of all units; `whole` turns false where a unit's are missing.
+    std::optional<bool> lamp(bool& whole) const; // nothing when nobody told; on when any says so
     std::optional<int> count(part kind, bool& whole) const;
     // Of the engine's unit, or the first that told.
     const unit_report* readiness_unit() const;

@@ -24,6 +24,10 @@ std::string mask_request(std::string_view service, unsigned group) {
 
 } // namespace
 
+bool puts_off(const unit_reply& refusal) {
+    return refusal.data.ends_with("78") || refusal.data.ends_with("21");
+}
+
 bool is_adapter_command(std::string_view request) {
     return request.starts_with("AT");
 }

@@ -16,6 +16,9 @@ struct unit_reply {
     bool operator==(const unit_reply&) const = default;
 };
 
+// "7F0978", the answer is still to come; or 21, the unit is busy: no refusal.
+bool puts_off(const unit_reply& refusal);
+
 struct asked_piece {
     std::string request;              // "0902", or the adapter's own: "ATRV"
     std::vector<unit_reply> answers;  // in the order in which they came

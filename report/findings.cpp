@@ -73,8 +73,8 @@ finding finding_of(const conversation& heard, std::string_view request, std::str
     if (!found.raw.empty()) {
         found.result = outcome::told;
     } else if (refusal != piece->refusals.end()) {
-        found.result = outcome::refused;
-        found.why = parted(refusal->data);
+        found.result = puts_off(*refusal) ? outcome::unread : outcome::refused;
+        found.why = puts_off(*refusal) ? WHY_PUT_OFF : parted(refusal->data);
     } else if (piece->timed_out) {
         found.result = outcome::unread;
         found.why = WHY_TIME_OUT;

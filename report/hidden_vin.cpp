@@ -70,8 +70,8 @@ conversation without_vin(conversation heard) {
                     tails.insert(std::move(tail));
     for (asked_piece& piece : heard.pieces) {
         for (unread_piece& one : piece.unread)
-            if (piece.request == VIN_REQUEST && one.kind != unread_kind::adapter_notice)
-                one.text = STARS; // any part of it may be in there
+            if (one.kind != unread_kind::adapter_notice)
+                one.text = STARS; // any part of it may be in there, be it late
         for (const std::string& tail : tails) {
             for (unit_reply& one : piece.answers)
                 cover(one.data, tail, STARS_IN_HEX);

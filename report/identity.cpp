@@ -141,6 +141,8 @@ class identity_reader {
     }
 
     void read_counters();
+    void read_counters(std::string_view request, std::string_view counted_by,
+                       std::span<const std::string_view> names);
 
     unit_report& unit_;
     const conversation& heard_;
@@ -157,22 +159,27 @@ constexpr std::string_view SPARK[] = {"Catalyst, bank 1",
                                       "Secondary O2 sensor, bank 1",
                                       "Secondary O2 sensor, bank 2"};
 constexpr std::string_view COMPRESSION[] = {
-    "NMHC catalyst",      "NOx catalyst",   "NOx adsorber",   "Particle filter",
+    "NMHC catalyst",      "NOx catalyst",   "NOx adsorber",   "Particulate filter",
     "Exhaust gas sensor", "EGR/VVT system", "Boost pressure", "Fuel system"};
 
+// A unit has the one or the other, as a rule.
 void identity_reader::read_counters() {
-    items told = items_of(part::counters, "0908", "0907");
-    std::span<const std::string_view> names = SPARK;
-    if (!unit_.of(part::counters).told()) {
-        const finding petrol = unit_.of(part::counters);
-        told = items_of(part::counters, "090B");
-        names = COMPRESSION;
-        if (!unit_.of(part::counters).told()) {
-            if (unit_.of(part::counters).why == WHY_NOT_LISTED)
-                unit_.of(part::counters) = petrol;
-            return;
-        }
-    }
+    read_counters("0908", "0907", SPARK);
+    const finding petrol = unit_.of(part::counters);
+    read_counters("090B", {}, COMPRESSION);
+    const finding diesel = unit_.of(part::counters);
+    const bool listed = diesel.why != WHY_NOT_LISTED;
+    if (petrol.told() && !diesel.told() && listed)
+        unit_.gaps.push_back(diesel);
+    if (petrol.told() || !listed)
+        unit_.of(part::counters) = petrol;
+}
+
+void identity_reader::read_counters(std::string_view request, std::string_view counted_by,
+                                    std::span<const std::string_view> names) {
+    const items told = items_of(part::counters, request, counted_by);
+    if (!unit_.of(part::counters).told())
+        return;
     const auto number = [&](std::size_t place) {
         return hex_value(
             slice(std::string_view(told.bytes), place * COUNTER_DIGITS, COUNTER_DIGITS));

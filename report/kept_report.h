@@ -16,5 +16,6 @@ inline kept_report& last_report() {
     return kept;
 }
 
-// The setting that switches off the offer to save it before codes are cleared.
-inline constexpr char NO_OFFER_KEY[] = "no_report_offer";
+// Settings: no offer to save it before codes are cleared; the end of the VIN hidden in what leaves
+// the program.
+inline constexpr char NO_OFFER_KEY[] = "no_report_offer", HIDE_VIN_KEY[] = "report_hides_vin";

@@ -53,10 +53,11 @@ class question_list {
         const asked_piece* piece = so_far_.find(request);
         return piece && piece->answered();
     }
-    // Refused as a whole, so that nothing else of the service is worth asking.
+    // By all units, so that nothing else of the service is worth asking.
     bool refused(const std::string& request) const {
         const asked_piece* piece = so_far_.find(request);
-        return piece && !piece->answered() && !piece->refusals.empty();
+        return piece && std::ranges::none_of(piece->refusals, puts_off) &&
+               piece->refusals.size() == so_far_.units().size();
     }
 
     const std::bitset<256>& listed(std::string_view service) {

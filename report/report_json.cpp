@@ -166,7 +166,8 @@ std::string report_json(const car_report& report) {
         units.push_back(of(one));
     for (const asked_piece& one : heard.pieces)
         pieces.push_back(of(one));
-    const auto lamp = report.lamp();
+    bool lamp_whole = false;
+    const auto lamp = report.lamp(lamp_whole);
     const auto ready = report.readiness();
     const json document{{"format", "kestrom-report"},
                         {"version", REPORT_VERSION},
@@ -182,6 +183,7 @@ std::string report_json(const car_report& report) {
                           {"protocol", or_null(report.protocol)},
                           {"protocol_number", or_null(report.protocol_number)}}},
                         {"lamp", lamp ? json(*lamp ? "on" : "off") : json()},
+                        {"lamp_by_all_units", lamp && lamp_whole},
                         {"codes", counts_of(report)},
                         {"readiness", ready ? json{{"unit", report.readiness_unit()->address},
                                                    {"complete", ready->complete},

@@ -28,13 +28,14 @@ void add_readings(sheet_table& to, const car_report& report, bool (*wanted)(unsi
         for (const told_value& one : unit.readings) {
             if (!wanted(one.pid))
                 continue;
-            const bool alone =
-                std::ranges::count_if(report.units, [&](const unit_report& other) {
-                    return std::ranges::any_of(other.readings, [&](const told_value& same) {
-                        return same.pid == one.pid;
-                    });
-                }) == 1;
-            to.rows.push_back({alone ? one.name : one.name + ", " + unit_label(unit), one.text});
+            const bool alike = std::ranges::none_of(report.units, [&](const unit_report& other) {
+                return std::ranges::any_of(other.readings, [&](const told_value& same) {
+                    return same.pid == one.pid && same.text != one.text;
+                });
+            });
+            const cells row{alike ? one.name : one.name + ", " + unit_label(unit), one.text};
+            if (std::ranges::find(to.rows, row) == to.rows.end())
+                to.rows.push_back(row);
         }
 }
 
@@ -48,7 +49,9 @@ void vehicle_section(sheet_section& to, const car_report& report, const bundle& 
     std::string vin = texts.localized("report_not_told");
     for (const unit_report& unit : report.units)
         if (unit.of(part::vin).told() && different.insert(unit.vin).second && different.size() == 1)
-            vin = unit.vin_is_standard ? unit.vin : say(texts, "report_vin_odd", {unit.vin});
+            vin = unit.vin_is_standard
+                      ? unit.vin
+                      : say(texts, "report_vin_odd", {unit.vin, unit.of(part::vin).raw});
     table.rows.push_back({texts.localized("report_vin"), vin});
     add_readings(table, report, [](unsigned pid) {
         return pid == OBD_STANDARD || pid == FUEL || pid == ODOMETER;
@@ -145,8 +148,12 @@ constexpr section_row SECTIONS[] = {
 };
 
 std::string lamp_text(const car_report& report, const bundle& texts) {
-    const auto lamp = report.lamp();
-    return texts.localized(!lamp ? "report_not_told" : *lamp ? "report_on" : "report_off");
+    bool whole = false;
+    const auto lamp = report.lamp(whole);
+    return texts.localized(!lamp   ? "report_not_told"
+                           : *lamp ? "report_on"
+                           : whole ? "report_off"
+                                   : "report_off_so_far");
 }
 
 std::string count_text(const car_report& report, part kind, const bundle& texts) {
@@ -190,6 +197,11 @@ std::string say(const bundle& texts, std::string_view key,
         }
     }
     return text;
+}
+
+std::string named(const bundle& texts, const std::string& name) {
+    const std::string known = texts.localized("report_name_" + name);
+    return known.empty() ? name : known;
 }
 
 std::string unit_label(const unit_report& unit) {

@@ -69,7 +69,7 @@ class comparer {
                 word(unit.lamp_on ? "report_on" : "report_off"), absence(other, part::status));
         for (const told_monitor& one : unit.monitors)
             if (one.supported)
-                put(unit, one.name, is_after,
+                put(unit, named(texts_, one.name), is_after,
                     word(one.complete ? "report_complete" : "report_not_complete"),
                     absence(other, part::status));
         constexpr const char* VERDICTS[] = {"report_failed", "report_passed", "report_no_result"};
@@ -87,6 +87,14 @@ class comparer {
     std::map<thing, two_states> states_;
 };
 
+// As far as both are told and nothing of them is hidden.
+bool may_be_one(std::string_view before, std::string_view after) {
+    return before.empty() || after.empty() ||
+           std::ranges::equal(before, after, [](char one, char other) {
+               return one == other || one == '*' || other == '*';
+           });
+}
+
 } // namespace
 
 report_sheet comparison_of(const car_report& before, const car_report& after, const bundle& texts) {
@@ -96,11 +104,8 @@ report_sheet comparison_of(const car_report& before, const car_report& after, co
     sheet.to_fill_in.clear();
     sheet.read_at = earlier.read_at + " – " + sheet.read_at;
     sheet.warnings.insert(sheet.warnings.begin(), earlier.warnings.begin(), earlier.warnings.end());
-    if (before.vin != after.vin)
-        sheet.warnings.push_back(
-            say(texts, "report_other_car",
-                {before.vin.empty() ? texts.localized("report_not_told") : before.vin,
-                 after.vin.empty() ? texts.localized("report_not_told") : after.vin}));
+    if (!may_be_one(before.vin, after.vin))
+        sheet.warnings.push_back(say(texts, "report_other_car", {before.vin, after.vin}));
     for (std::size_t i = 0; i < sheet.facts.size(); ++i)
         if (earlier.facts[i].value != sheet.facts[i].value)
             sheet.facts[i].value = earlier.facts[i].value + " → " + sheet.facts[i].value;

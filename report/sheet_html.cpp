@@ -21,6 +21,13 @@ tr { break-inside: avoid }
 .warning { border: 2px solid #000; padding: 2mm }
 )";
 
+// As much of it as Qt's rich text knows; colours are the desktop's.
+constexpr char SCREEN_STYLE[] = R"(
+.facts td { border: 1px solid gray; padding: 8px }
+.facts b { font-size: x-large }
+p.warning { font-weight: bold }
+)";
+
 std::string escaped(std::string_view text) {
     std::string html;
     for (const char c : text)
@@ -120,5 +127,6 @@ std::string sheet_html(const report_sheet& sheet) {
 }
 
 std::string sheet_rich_text(const report_sheet& sheet) {
-    return head_of(sheet) + body_of(sheet, " border=\"0\" cellspacing=\"0\" cellpadding=\"4\"");
+    return "<style>" + std::string(SCREEN_STYLE) + "</style>" + head_of(sheet) +
+           body_of(sheet, " border=\"0\" cellspacing=\"0\" cellpadding=\"4\"");
 }

@@ -10,6 +10,8 @@ class bundle;
 // A text of the strings table, its places filled in.
 std::string say(const bundle& texts, std::string_view key,
                 std::initializer_list<std::string> places = {});
+// A monitor or counter in the user's language; what the strings table does not know as it is.
+std::string named(const bundle& texts, const std::string& name);
 // "Engine (7E8)".
 std::string unit_label(const unit_report& unit);
 

@@ -122,10 +122,10 @@ void readiness_section(sheet_section& to, const car_report& report, const bundle
         std::string missing;
         for (const told_monitor& one : unit.monitors) {
             if (!one.supported) {
-                missing += (missing.empty() ? "" : ", ") + one.name;
+                missing += (missing.empty() ? "" : ", ") + named(texts, one.name);
                 continue;
             }
-            table.rows.push_back({one.name, state_of(one.complete, texts)});
+            table.rows.push_back({named(texts, one.name), state_of(one.complete, texts)});
             if (has_drive)
                 table.rows.back().push_back(
                     one.complete_this_drive ? state_of(*one.complete_this_drive, texts) : "–");
@@ -186,7 +186,7 @@ void counters_section(sheet_section& to, const car_report& report, const bundle&
                 ratio = std::to_string(hundredths / 100) + "." +
                         (hundredths % 100 < 10 ? "0" : "") + std::to_string(hundredths % 100);
             }
-            table.rows.push_back({one.name, std::to_string(one.done),
+            table.rows.push_back({named(texts, one.name), std::to_string(one.done),
                                   one.conditions ? std::to_string(*one.conditions) : "", ratio});
         }
         to.table(std::move(table));

@@ -6,11 +6,24 @@
 #include "text.h"
 #include "user_defaults.h"
 
+#include <utility>
+
 namespace {
 
 constexpr unsigned READINGS[] = {0x1C, 0x51, 0x0C, 0x05, 0x42, 0x21, 0x30, 0x31, 0x4D, 0x4E, 0xA6};
 constexpr unsigned GROUP = 0x20;
 constexpr std::string_view NO_VALUE = "~";
+
+// The same in plain words and usual units.
+std::string plainly(std::string text) {
+    constexpr std::pair<std::string_view, std::string_view> WORDS[] = {
+        {"° ", "°"},        {"'", ""},        {" Kms", " km"},   {" mls", " miles"},
+        {" Km/h", " km/h"}, {" KPa", " kPa"}, {" gm/s", " g/s"},
+    };
+    for (const auto& [fixed, plain] : WORDS)
+        text = replace_all(text, fixed, plain);
+    return text;
+}
 
 // `answer`: as of service 01. Empty when it is no whole answer.
 std::string value_text(const std::string& answer, const mac_toolies& toolies) {
@@ -20,7 +33,7 @@ std::string value_text(const std::string& answer, const mac_toolies& toolies) {
         text = parameter_value(toolies, answer).text;
     if (text == NO_VALUE || text == "N/A")
         return {};
-    return replace_all(std::string(trimmed(std::string_view(text))), "  ", " ");
+    return plainly(replace_all(std::string(trimmed(std::string_view(text))), "  ", " "));
 }
 
 told_value value_of(const conversation& heard, const std::string& request, unsigned pid,
@@ -67,9 +80,14 @@ void fill_values(unit_report& unit, const conversation& heard, const mac_toolies
     }
     if (unit.frame_code.empty())
         return;
+    const bool listed = expected(finding_of(heard, "020000", unit.address));
     for (unsigned pid = 3; pid <= 0xFF; ++pid) {
         const std::string request = request_of("02", pid) + "00";
-        if (pid % GROUP != 0 && heard.find(request))
-            take(unit, unit.frame_values, value_of(heard, request, pid, unit.address, toolies));
+        if (pid % GROUP == 0 || !heard.find(request))
+            continue;
+        told_value value = value_of(heard, request, pid, unit.address, toolies);
+        // Without a list each was a try.
+        if (listed || value.found.told() || value.found.result == outcome::unread)
+            take(unit, unit.frame_values, std::move(value));
     }
 }

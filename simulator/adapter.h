@@ -1,6 +1,5 @@
-// Whatever answers a client as an adapter does: the virtual one, or a recording of a genuine one.
-// It has neither clock, event loop nor sockets: its owner tells it what arrived and when, and asks
-// what is due.
+// What answers a client as an adapter: the virtual one, or a recording of a real one. It has no
+// clock, event loop or sockets: its owner passes in what arrived and when, and asks what is due.
 #pragma once
 
 #include <chrono>
@@ -18,12 +17,12 @@ class adapter {
     virtual void connection_opened(milliseconds now) = 0;
     virtual void receive(std::string_view bytes, milliseconds now) = 0;
 
-    // When something is due; nothing when there is nothing to say.
+    // When the next output is due, if any.
     virtual std::optional<milliseconds> next_output() const = 0;
-    // What is due by now.
+    // The output that is due by now.
     virtual std::string take_output(milliseconds now) = 0;
 
-    // What is asked of the transport.
+    // Requests to the transport.
     virtual bool refuses() const { return false; }
     virtual bool wants_close(milliseconds now) const = 0;
     virtual bool sends_without_delay() const { return true; } // TCP_NODELAY

@@ -1,5 +1,5 @@
-// Everything the adapter remembers: what a reset restores, what survives a reset, and the bus as it
-// stands.
+// Everything the adapter remembers: what a reset restores, what survives a reset, and the state of
+// the bus.
 #pragma once
 
 #include "bus_protocols.h"
@@ -24,7 +24,7 @@ struct adapter_settings {
     bool can_formatting = true;
     bool flow_control = true;
     bool show_length = false;
-    std::optional<byte_string> header;       // AT SH; absent: the protocol's own
+    std::optional<byte_string> header;       // AT SH; absent: the protocol's default
     std::optional<std::uint32_t> can_filter; // AT CF, CRA
     std::optional<std::uint32_t> can_mask;   // AT CM, CRA
 };
@@ -48,16 +48,16 @@ struct adapter_state {
     adapter_settings settings;
     adapter_memory memory;
     int protocol = 0;      // chosen or found
-    bool automatic = true; // another may be searched for
+    bool automatic = true; // a search for another is allowed
     bool bus_open = false;
     byte_string last_message; // as received, for AT BD
     bool clone = false;
 
     void reset();
-    // Defaults, the bus left as it is.
+    // Defaults; the bus stays as it is.
     void defaults();
     void choose_protocol(int number, bool search_others, bool remember);
-    // Kept beyond a reset, unless AT M0 forbids.
+    // Survives a reset, unless AT M0 forbids.
     void remember_protocol();
     void close_bus() { bus_open = false; }
 

@@ -14,7 +14,7 @@ using answer = std::optional<std::string>;
 struct call {
     adapter_state& state;
     const at_surroundings& car;
-    std::string_view args; // what the pattern's "#" (hex digit), "." (any character) stood for
+    std::string_view args; // what matched the pattern's "#" (hex digit) and "." (any character)
 
     adapter_settings& settings() const { return state.settings; }
     std::uint32_t number() const { return hex_number(args); }
@@ -32,7 +32,7 @@ answer unknown(const call&) {
     return std::nullopt;
 }
 
-// A switch with 0 or 1 behind its letters.
+// A switch: its letters, then 0 or 1.
 template <bool adapter_settings::*setting>
 answer toggle(const call& c) {
     if (c.args != "0" && c.args != "1")
@@ -59,7 +59,7 @@ answer volts(const call& c) {
     std::snprintf(text, sizeof text, "%d.%dV", tenths / 10, tenths % 10);
     return text;
 }
-// CV dddd: the voltage is dd.dd now; 0000 goes back to the factory's setting.
+// CV dddd: the voltage is now dd.dd; 0000 restores the factory setting.
 answer calibrate_volts(const call& c) {
     double wanted = 0;
     for (const char digit : c.args) {
@@ -158,7 +158,7 @@ answer key_words(const call& c) {
         return std::nullopt;
     return bus->is_kwp() ? "1:E9 2:8F" : "1:08 2:08";
 }
-// Whether the chosen protocol has that initiation; the dialogue does it.
+// Whether the chosen protocol has that initiation; the dialogue performs it.
 template <bool fast>
 answer initiate(const call& c) {
     const bus_protocol* const chosen = protocol_numbered(c.state.protocol);
@@ -182,7 +182,7 @@ answer device_identifier(const call& c) {
     return c.state.memory.identifier.empty() ? answer() : answer(c.state.memory.identifier);
 }
 answer set_identifier(const call& c) {
-    if (!c.state.memory.identifier.empty()) // once and for all
+    if (!c.state.memory.identifier.empty()) // can be set only once
         return std::nullopt;
     c.state.memory.identifier = c.args;
     return "OK";
@@ -321,13 +321,13 @@ constexpr std::array COMMANDS = {
     command_row{"JHF#", ok, false},
     command_row{"JTM1", ok, false},
     command_row{"JTM5", ok, false},
-    // Watching a bus is refused: a car's gateway shows nothing of it anyway.
+    // Monitoring a bus is refused: a car's gateway hides its traffic anyway.
     command_row{"MA", unknown},
     command_row{"MR##", unknown},
     command_row{"MT##", unknown},
 };
 
-// The characters that the pattern's places stand for; absent when the command does not fit.
+// The characters that match the pattern's placeholders; absent when the command does not match.
 std::optional<std::string> match(std::string_view pattern, std::string_view command) {
     if (pattern.size() != command.size())
         return std::nullopt;

@@ -6,19 +6,19 @@
 #include <string>
 #include <string_view>
 
-// What a command may need to know of the car.
+// What a command may need to know about the car.
 struct at_surroundings {
     double battery_volts = 12.4;
     bool ignition = true;
 };
 
-// `command` without "AT", blanks and control characters, in upper case. The answer's lines, parted
-// by "\r"; absent for a command that there is not: "?".
+// `command`: without "AT", blanks and control characters, in capitals. Returns the answer's lines,
+// separated by "\r"; nothing for an unknown command ("?").
 std::optional<std::string> run_at_command(adapter_state& state, const at_surroundings& car,
                                           std::string_view command);
 
-// Z and WS start the chip anew, which takes a while and blanks two lines first.
+// Z and WS restart the chip, which takes a while and prints two empty lines first.
 bool is_restart(std::string_view command);
 
-// FI and SI waken a K line now, fast or slowly, and say how that went.
+// FI and SI wake a K line immediately, fast or slowly, and report the result.
 bool is_initiation(std::string_view command);

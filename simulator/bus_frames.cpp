@@ -11,11 +11,11 @@ constexpr std::size_t FRAME_BYTES = 8;
 constexpr std::size_t FIRST_FRAME_DATA = 6;
 constexpr std::size_t NEXT_FRAME_DATA = 7;
 constexpr std::uint8_t TESTER = 0xF1;
-constexpr std::uint8_t UNIT_PRIORITY = 0x18; // whatever AT CP gives the requests
+constexpr std::uint8_t UNIT_PRIORITY = 0x18; // whatever AT CP sets for requests
 
 using std::chrono::milliseconds;
 
-constexpr milliseconds PUT_OFF{60}; // from "7F 01 78" to the answer
+constexpr milliseconds DEFERRED_BY{60}; // from "7F 01 78" to the answer
 
 bool puts_off(const byte_string& message) {
     return message.size() == 3 && message[0] == 0x7F && message[2] == 0x78;
@@ -31,8 +31,8 @@ byte_string joined(byte_string first, const byte_string& second) {
     return first;
 }
 
-// A single frame is shown by its length byte; the frames of a long message are as they came, filled
-// up.
+// A single frame is shown as long as its length byte says; the frames of a long message as they
+// came, padding included.
 void add_can_message(std::vector<bus_frame>& frames, const unit_answer& answer,
                      const byte_string& message, milliseconds at, milliseconds per_frame,
                      bool flow_control) {
@@ -46,7 +46,7 @@ void add_can_message(std::vector<bus_frame>& frames, const unit_answer& answer,
     frame.data = joined(length, slice(message, 0, FIRST_FRAME_DATA));
     frame.ends_message = false;
     frames.push_back(frame);
-    frame.at += 3 * per_frame; // the adapter's flow control frame and the unit's reaction
+    frame.at += 3 * per_frame; // the adapter's flow control frame and the unit's response to it
     std::uint8_t number = 1;
     for (std::size_t from = FIRST_FRAME_DATA; flow_control && from < size;
          from += NEXT_FRAME_DATA) {
@@ -99,7 +99,7 @@ std::string shown_can_frame(const bus_frame& frame, const bus_protocol& bus,
         return hex_text(data, settings.spaces);
     if (type == 0)
         return hex_text(slice(frame.data, 1, frame.data.size()), settings.spaces);
-    // A long message: its length in three digits, then its frames by number.
+    // A long message: its length in three digits, then its frames, numbered.
     const std::string number =
         hex_text({std::uint8_t(type == 1 ? 0 : frame.data[0] & 15)}, false).substr(1);
     const std::string length =
@@ -122,9 +122,9 @@ std::vector<bus_frame> frames_on_bus(const std::vector<unit_answer>& answers,
                 add_can_message(frames, answer, message, at, bus.per_frame, flow_control);
             else
                 frames.push_back({at, answer.address, message});
-            at += puts_off(message) ? PUT_OFF : bus.per_frame;
+            at += puts_off(message) ? DEFERRED_BY : bus.per_frame;
         }
-        // One wire: a unit of an older bus waits for the one before.
+        // One wire: on an older bus a unit waits for the one before.
         next_unit = bus.is_can() ? next_unit + unit_gap : at - bus.per_frame + unit_gap;
     }
     for (bus_frame& frame : frames)

@@ -10,10 +10,10 @@ constexpr auto ms(int count) {
     return milliseconds(count);
 }
 
-constexpr milliseconds P3{59}; // ISO 9141-2, ISO 14230-2: at least 55, the chip's own is 59
+constexpr milliseconds P3{59}; // ISO 9141-2, ISO 14230-2: at least 55; the chip uses 59
 constexpr milliseconds J1850_PAUSE{100};
 
-// ISO 9141-2 and ISO 14230-4 waken their bus at 5 baud (about two seconds) or with one fast pulse.
+// ISO 9141-2 and ISO 14230-4 wake their bus at 5 baud (about two seconds) or with one fast pulse.
 constexpr std::array PROTOCOLS = {
     bus_protocol{1, "j1850_pwm", "SAE J1850 PWM", bus_kind::j1850_pwm, false, 0, ms(120), ms(0),
                  ms(35), ms(14), ms(14), J1850_PAUSE},

@@ -1,5 +1,5 @@
-// The diagnostic buses that a car may have and that the adapter can speak: one row per protocol,
-// numbered as the adapter numbers them (1 to 9; 0 is "find it yourself").
+// The diagnostic buses of cars and adapter: one row per protocol, with the adapter's numbers (1 to
+// 9; 0 means automatic).
 #pragma once
 
 #include <chrono>
@@ -11,12 +11,12 @@ enum class bus_kind { j1850_pwm, j1850_vpw, iso_9141, kwp_slow, kwp_fast, can };
 struct bus_protocol {
     int number;
     std::string_view name;        // as car files and --protocol write it
-    std::string_view description; // as the adapter's "AT DP" says it
+    std::string_view description; // the answer to "AT DP"
     bus_kind kind;
     bool extended_ids; // CAN with 29-bit identifiers
     int kilobits;      // CAN only: 250 or 500
-    // Times of a genuine exchange.
-    std::chrono::milliseconds try_time;   // how long a search spends here when nobody answers
+    // Times of a real exchange.
+    std::chrono::milliseconds try_time;   // how long a search waits here when no unit answers
     std::chrono::milliseconds init_time;  // waking the bus
     std::chrono::milliseconds first_byte; // from request to the first unit's answer
     std::chrono::milliseconds per_frame;  // each further frame
@@ -32,9 +32,9 @@ struct bus_protocol {
 };
 
 std::span<const bus_protocol> bus_protocols();
-// Null when there is none of that number or name.
+// Null for an unknown number or name.
 const bus_protocol* protocol_numbered(int number);
 const bus_protocol* protocol_named(std::string_view name);
-// What "AT DP" says of a number from 0 to 12, "AUTO" for 0. The adapter knows three buses more than
-// cars here have.
+// What "AT DP" answers for a number from 0 to 12, "AUTO" for 0. The adapter knows three buses that
+// no car here has.
 std::string_view protocol_description(int number);

@@ -1,5 +1,5 @@
-// One car as its data file tells it: the bus, the control units with what they know, the engine.
-// Plain data; whoever loads a car owns it, and a virtual adapter changes it when a client clears
+// One car as its file describes it: the bus, the control units and their data, the engine. Plain
+// data; the caller that loads a car owns it, and a virtual adapter changes it when a client clears
 // codes.
 #pragma once
 
@@ -15,7 +15,7 @@ using byte_string = std::vector<std::uint8_t>;
 
 enum class fuel_kind { petrol, diesel, hybrid };
 
-// What the drive cycle needs to know. SI units unless the name says otherwise.
+// What the drive cycle needs. SI units unless the name says otherwise.
 struct engine_data {
     fuel_kind fuel = fuel_kind::petrol;
     double displacement_litres = 1.6;
@@ -23,10 +23,10 @@ struct engine_data {
     double drag_area_m2 = 0.65;
     double ambient_celsius = 15;
     double start_coolant_celsius = 15;
-    double fuel_trim_percent = 0; // what the engine's trouble makes the long-term trim settle at
+    double fuel_trim_percent = 0; // where the engine's fault makes the long-term trim settle
 };
 
-// Bytes B, C and D of service 01 PID 01 (SAE J1979): which monitors there are, and which are not
+// Bytes B, C and D of service 01 PID 01 (SAE J1979): the available monitors, and those not
 // complete.
 struct readiness_bytes {
     std::uint8_t continuous =
@@ -55,7 +55,7 @@ struct control_unit {
     // The source address on the bus: 7E8 to 7EF with 11-bit CAN identifiers, else one byte (10 is
     // the engine).
     std::uint32_t address = 0;
-    std::vector<int> pids;            // service 01 PIDs above 01 that it supports, masks excepted
+    std::vector<int> pids; // service 01 PIDs above 01 that it supports, without the masks
     std::map<int, byte_string> fixed; // PIDs whose answer never changes
     bool lamp = false;
     readiness_bytes readiness;
@@ -64,14 +64,13 @@ struct control_unit {
     std::vector<std::string> calibrations;
     std::vector<std::string> verification_numbers; // of the calibrations, eight hex digits each
     std::vector<int> counters;                     // service 09 type 08, or 0B of a diesel
-    std::string short_name; // makes service 09 type 0A of two parts: "ECM", "Engine"
+    std::string short_name; // first part of service 09 type 0A: "ECM", "Engine"
     std::vector<test_result> tests;
-    std::vector<int> silent_services; // services it never answers, as some old units
-    // By the digits of the request: what it says instead of all that the rest of its data makes it
-    // say.
+    std::vector<int> silent_services; // services it never answers, as with some old units
+    // By the digits of the request: answers that replace those derived from the rest of its data.
     std::map<std::string, std::vector<byte_string>> answers;
-    std::map<std::string, int> later; // seconds in which it only says that the answer will come
-    int delay_ms = 0;                 // more than a unit usually takes
+    std::map<std::string, int> later; // seconds during which it only answers "pending"
+    int delay_ms = 0;                 // beyond a unit's usual time
     bool clears_with_engine_off_only = false;
 };
 
@@ -80,7 +79,7 @@ struct car {
     std::string title;
     int protocol = 6;           // a bus_protocols() number
     std::uint8_t fill_byte = 0; // of CAN frames
-    std::string vin;            // 17 characters, or empty for a car that does not tell
+    std::string vin;            // 17 characters, or empty for a car that does not report it
     engine_data engine;
     std::vector<control_unit> units;
 };

@@ -1,4 +1,4 @@
-// How the virtual adapter finds the car's bus, asks the car and shows what comes back.
+// How the virtual adapter finds the car's bus, queries the car and shows the answers.
 #include "bus_frames.h"
 #include "hex_text.h"
 #include "virtual_adapter.h"
@@ -10,7 +10,7 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// The order in which a search goes through the protocols.
+// The order in which a search tries the protocols.
 constexpr std::array SEARCH_ORDER = {6, 8, 1, 7, 9, 2, 3, 5, 4};
 
 constexpr std::size_t MOST_DATA = 7; // bytes of a request
@@ -23,7 +23,7 @@ bool virtual_adapter::car_is_there(milliseconds now) {
            !(off_at && vehicle_.seconds(now) >= double(*off_at));
 }
 
-// "BUS INIT: ...OK" of a slow initiation, its dots a word of the chip each; "BUS INIT: OK" of a
+// "BUS INIT: ...OK" of a slow initiation, each dot sent by the chip separately; "BUS INIT: OK" of a
 // fast one.
 void virtual_adapter::announce_init(const bus_protocol& bus, bool works, adapter_reply& pieces) {
     pieces.push_back({end_of(pieces), "BUS INIT: "});
@@ -33,7 +33,7 @@ void virtual_adapter::announce_init(const bus_protocol& bus, bool works, adapter
     add_line(pieces, slow ? milliseconds(0) : scaled(bus.init_time), works ? "OK" : "ERROR");
 }
 
-// One protocol and no other. What a wrong one leads to depends on the bus.
+// Tries one protocol only. What happens if it is wrong depends on the bus.
 bool virtual_adapter::connect_to_only(const bus_protocol* wanted, bool present,
                                       adapter_reply& pieces) {
     const bus_protocol& real = vehicle_.protocol();
@@ -41,7 +41,7 @@ bool virtual_adapter::connect_to_only(const bus_protocol* wanted, bool present,
     if (wanted && wanted->is_iso()) {
         announce_init(*wanted, right, pieces);
     } else if (!right) {
-        // A CAN controller notices when nobody acknowledges its frame; the other buses only stay
+        // A CAN controller notices when its frame is not acknowledged; the other buses just stay
         // silent.
         const bool wires = present && wanted && wanted->is_can() && real.is_can() &&
                            wanted->kilobits == real.kilobits;
@@ -49,13 +49,12 @@ bool virtual_adapter::connect_to_only(const bus_protocol* wanted, bool present,
         add_line(pieces, longest_wait(), can && !wires ? "CAN ERROR" : "NO DATA");
     }
     state_.bus_open = right;
-    if (right) // one only tried with AT TP has proved valid
+    if (right) // one tried with AT TP has proved valid
         state_.remember_protocol();
     return right;
 }
 
-// Opens the bus if it is not open. Says what the chip says meanwhile; when it fails, the reply is
-// complete.
+// Opens the bus if it is not open, and adds the chip's notices; on failure the reply is complete.
 bool virtual_adapter::connect(adapter_reply& pieces, milliseconds now) {
     if (state_.bus_open)
         return true;
@@ -65,7 +64,7 @@ bool virtual_adapter::connect(adapter_reply& pieces, milliseconds now) {
     pieces.push_back({milliseconds(0), "SEARCHING..."});
     const bus_protocol& real = vehicle_.protocol();
     milliseconds searched{0};
-    // The one named with AT SP A comes first, or the one found last.
+    // First the one given with AT SP A, or the one found last.
     if (const bus_protocol* first = protocol_numbered(state_.protocol);
         first && (first != &real || !present))
         searched += first->try_time;
@@ -87,7 +86,7 @@ bool virtual_adapter::connect(adapter_reply& pieces, milliseconds now) {
     return true;
 }
 
-// Without automatic formatting a CAN request brings its own length byte.
+// Without automatic formatting a CAN request includes its own length byte.
 std::optional<byte_string> virtual_adapter::service_data(const byte_string& request) const {
     if (!state_.bus()->is_can() || state_.settings.can_formatting)
         return request;
@@ -96,7 +95,7 @@ std::optional<byte_string> virtual_adapter::service_data(const byte_string& requ
     return byte_string(request.begin() + 1, request.begin() + 1 + request[0]);
 }
 
-// The unit that the header is for; none when it is for everybody.
+// The unit that the header addresses; none when it addresses all.
 std::optional<std::uint32_t> virtual_adapter::addressed_unit() const {
     if (!state_.settings.header)
         return std::nullopt;
@@ -121,7 +120,7 @@ bool virtual_adapter::passes_filter(std::uint32_t address) const {
     return (id & mask) == (*settings.can_filter & mask);
 }
 
-// "?" or silence for the digit that says how many replies to wait for.
+// Answers "?" or NO DATA to the digit that says how many replies to wait for.
 bool virtual_adapter::refuses_digit(int expected, adapter_reply& pieces) const {
     const bool unknown = options_.faults.has(fault_kind::digit_unknown);
     if (expected == 0 || (!unknown && !options_.faults.has(fault_kind::digit_no_data)))
@@ -130,7 +129,7 @@ bool virtual_adapter::refuses_digit(int expected, adapter_reply& pieces) const {
     return true;
 }
 
-// The units' answers to what adapter and car make of a request.
+// The units' answers to a request, under the faults of adapter and car.
 std::vector<unit_answer> virtual_adapter::ask_car(byte_string request, milliseconds now) {
     const fault_set& faults = options_.faults;
     if (faults.has(fault_kind::two_bytes) && request.size() > 2)
@@ -153,7 +152,7 @@ std::vector<unit_answer> virtual_adapter::ask_car(byte_string request, milliseco
     return answers;
 }
 
-// The faults that answer for another PID than was asked for, and that put an answer off.
+// The faults that answer for a PID that was not requested, and that defer an answer.
 void virtual_adapter::damage(std::vector<unit_answer>& answers) {
     for (unit_answer& answer : answers) {
         byte_string& message = answer.messages.front();
@@ -162,7 +161,7 @@ void virtual_adapter::damage(std::vector<unit_answer>& answers) {
             continue;
         if (every_nth(options_.faults, fault_kind::wrong_pid, ++values_))
             message[1] ^= 0x01;
-        if (every_nth(options_.faults, fault_kind::pending, ++put_off_))
+        if (every_nth(options_.faults, fault_kind::pending, ++deferred_))
             answer.messages.insert(answer.messages.begin(), {0x7F, 0x01, 0x78});
     }
 }
@@ -176,8 +175,8 @@ milliseconds virtual_adapter::longest_wait() const {
     return scaled(milliseconds(state_.settings.timeout * 4));
 }
 
-// How long the chip waits for another message: AT ST at most; with AT AT1 somewhat longer than it
-// ever had to on this bus, with AT AT2 than for its last reply.
+// How long the chip waits for another message: AT ST at most; with AT AT1 somewhat longer than the
+// longest gap on this bus so far, with AT AT2 than the gap in its last reply.
 milliseconds virtual_adapter::wait_for_more() const {
     const milliseconds longest = longest_wait();
     const milliseconds least = scaled(milliseconds(state_.bus()->is_can() ? 24 : 60));
@@ -191,8 +190,8 @@ milliseconds virtual_adapter::wait_for_more() const {
     }
 }
 
-// What a request that leaves now meets of the frames that the last reply ended before. CAN units
-// send theirs when they are ready; those of J1850 send again what nobody acknowledged.
+// The frames that came too late for the last reply and now meet the next request. CAN units send
+// theirs when they are ready; those of J1850 send unacknowledged ones again.
 std::vector<virtual_adapter::timed_frame> virtual_adapter::late_frames(milliseconds since) {
     std::vector<timed_frame> late;
     late.swap(late_);
@@ -203,14 +202,14 @@ std::vector<virtual_adapter::timed_frame> virtual_adapter::late_frames(milliseco
         return late;
     }
     if (state_.bus()->is_iso())
-        late.clear(); // sent while nobody listened
+        late.clear(); // sent while the chip was not listening
     milliseconds at = since;
     for (timed_frame& one : late)
         one.at = at += scaled(state_.bus()->per_frame);
     return late;
 }
 
-// On a K line a request that leaves too early and a late message destroy one another.
+// On a K line a request sent too early and a late message destroy each other.
 bool virtual_adapter::collides(milliseconds since) const {
     return state_.bus()->is_iso() &&
            std::ranges::any_of(late_, [&](const timed_frame& one) { return one.at >= since; });
@@ -226,7 +225,7 @@ void virtual_adapter::show_frame(bus_frame& frame, milliseconds later, adapter_r
             shown_frame(frame, bus, state_.settings, options_.faults.has(fault_kind::padding)));
 }
 
-// Towards the digit behind a request.
+// Whether the digit of a request counts this frame.
 bool virtual_adapter::counts(const bus_frame& frame) const {
     return frame.ends_message || !options_.faults.has(fault_kind::digit_counts_messages);
 }

@@ -1,4 +1,4 @@
-// The shelf of cars: those compiled into the program, by name, and any other from a file.
+// The cars: those compiled into the program, by name, and any other from a file.
 #pragma once
 
 #include "car.h"
@@ -8,8 +8,7 @@
 #include <string_view>
 #include <vector>
 
-// What is wrong with a car's file. what() is "FILE:LINE: REASON", without the line when there is
-// none.
+// An error in a car file. what() is "FILE:LINE: REASON", without the line if there is none.
 class car_file_error : public std::runtime_error {
   public:
     car_file_error(std::string file, int line, std::string reason);
@@ -23,10 +22,10 @@ class car_file_error : public std::runtime_error {
     std::string reason_;
 };
 
-// Names of the cars that come with the program, in alphabetical order.
+// Names of the built-in cars, in alphabetical order.
 std::vector<std::string> car_names();
 
-// A car of that name, else the car in the file of that name. Throws car_file_error.
+// The built-in car of that name, else the car in the file of that name. Throws car_file_error.
 car load_car(const std::string& name_or_file);
 
 // Reads a car from the text of a file; `file` is for messages only. Throws car_file_error.

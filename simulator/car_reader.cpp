@@ -1,5 +1,5 @@
-// From a car's JSON to a car: the schema judges the shape, what is left to check here is what one
-// field means to another.
+// Turns JSON into a car. The schema checks its form; what is checked here is how fields depend on
+// each other.
 #include "car_library.h"
 #include "hex_text.h"
 #include "json_schema.h"
@@ -22,13 +22,13 @@ const json_value& car_schema() {
     return schema;
 }
 
-// Car files may part the bytes by blanks.
+// Car files may separate bytes by blanks.
 byte_string read_bytes(std::string text) {
     std::erase(text, ' ');
     return hex_bytes(text);
 }
 
-// Reads a member only when it is there, so that the structs' own defaults hold otherwise.
+// Reads a member only if present, so that the struct's default holds otherwise.
 void read(const json_value& from, std::string_view name, double& to) {
     if (const json_value* member = from.find(name))
         to = member->number;
@@ -48,7 +48,7 @@ void read(const json_value& from, std::string_view name, std::vector<std::string
 }
 
 struct monitor_name {
-    std::string_view spark, compression; // empty: that kind of engine has no such monitor
+    std::string_view spark, compression; // empty: engines of that kind have no such monitor
     int byte;                            // 0: B, 1: C and D
     int bit;
 };
@@ -99,7 +99,7 @@ readiness_bytes read_readiness(const json_value& from, bool compression) {
     return bytes;
 }
 
-// PID to bytes; the lengths must be the standard's where it is known.
+// PID to bytes; where the length is known, it must be that of the standard.
 std::map<int, byte_string> read_values(const json_value& from) {
     std::map<int, byte_string> values;
     for (const auto& [name, value] : from.object) {
@@ -158,7 +158,6 @@ std::uint32_t read_address(const json_value& from, const bus_protocol& protocol)
     return address;
 }
 
-// Where one field means something to another is checked by whoever reads the car's answers.
 void read_own_answers(const json_value& from, control_unit& to) {
     if (const json_value* answers = from.find("answers"))
         for (const auto& [request, messages] : answers->object)

@@ -16,10 +16,10 @@ constexpr double PETROL_STOICHIOMETRIC = 14.7; // air to fuel, by mass
 constexpr double DIESEL_STOICHIOMETRIC = 14.5;
 constexpr double PETROL_JOULE_GRAM = 43500;
 constexpr double DIESEL_JOULE_GRAM = 42800;
-constexpr double IDLE_THROTTLE = 11.8;  // percent, what the sensor shows with the pedal released
+constexpr double IDLE_THROTTLE = 11.8;  // percent, sensor value with the pedal released
 constexpr double GAS_CONSTANT = 287.05; // J/(kg K), air
 constexpr double VOLUMETRIC_EFFICIENCY = 0.88;
-constexpr double LEANEST = 1.99; // what the commanded ratio's two bytes can say
+constexpr double LEANEST = 1.99; // the most that the commanded ratio's two bytes can express
 constexpr double WARM_IDLE_RPM = 740;
 
 // Engine revolutions a minute for each km/h, by gear.
@@ -95,7 +95,7 @@ void drive_cycle::step() {
         state_.fuel_level = 95;
 }
 
-// An automatic gearbox: up when it turns fast, later under load; down when slow.
+// An automatic gearbox: up at high revs, later under load; down at low revs.
 void drive_cycle::choose_gear() {
     const double rpm = state_.speed_kmh * GEARS[std::size_t(gear_)];
     const double up_at = 2100 + state_.pedal * 18;
@@ -105,7 +105,7 @@ void drive_cycle::choose_gear() {
         --gear_;
 }
 
-// Moves the car for one step; the power that the wheels need, negative when the car brakes.
+// Moves the car by one step. Returns the power that the wheels need, negative when braking.
 double drive_cycle::accelerate() {
     const double metre_s = state_.speed_kmh / 3.6;
     const double drag = 0.5 * AIR_DENSITY * engine_.drag_area_m2 * metre_s * metre_s;
@@ -155,8 +155,8 @@ void drive_cycle::run_engine(double wheel_watts) {
     breathe(power + ACCESSORY_WATTS + (friction + pumping) * 1e5 * swept_m3_s);
 }
 
-// Air, fuel and manifold pressure for the power that the cylinders must give. One balance: the mass
-// of air is the swept volume, filled at the manifold's pressure and temperature (speed-density).
+// Air, fuel and manifold pressure for the power that the cylinders must give. The mass of air is
+// the swept volume at the manifold's pressure and temperature (speed-density).
 void drive_cycle::breathe(double indicated_watts) {
     const bool diesel = engine_.fuel == fuel_kind::diesel;
     const double swept_m3_s = engine_.displacement_litres / 1000 * state_.rpm / 120;
@@ -177,8 +177,8 @@ void drive_cycle::breathe(double indicated_watts) {
     state_.advance_degrees = std::clamp(9 + state_.rpm / 130 - state_.load / 5, 2.0, 42.0);
 }
 
-// Turbocharged and unthrottled: the boost follows the fuel, up to twice the air, and the fuel stops
-// at the smoke limit.
+// Turbocharged and unthrottled: the boost follows the fuel, up to twice the air, and the smoke
+// limit caps the fuel.
 void drive_cycle::burn_diesel(double indicated_watts, double atmospheric_air) {
     const double most_fuel = 2 * atmospheric_air / DIESEL_STOICHIOMETRIC / 1.25;
     const double wanted = indicated_watts / 0.43 / DIESEL_JOULE_GRAM;
@@ -190,9 +190,9 @@ void drive_cycle::burn_diesel(double indicated_watts, double atmospheric_air) {
     state_.equivalence_ratio = std::min(LEANEST, lambda);
 }
 
-// Throttled to the air that the fuel needs; throttled, the cylinders burn less well.
+// Throttled to the air that the fuel needs, which makes combustion less efficient.
 void drive_cycle::burn_petrol(double indicated_watts, double atmospheric_air) {
-    constexpr double CLOSED_THROTTLE = 0.2; // share of the air that gets past it
+    constexpr double CLOSED_THROTTLE = 0.2; // share of the air that leaks past it
     if (state_.fuel_cut) {
         state_.equivalence_ratio = LEANEST;
         state_.air_gram_s = CLOSED_THROTTLE * atmospheric_air;
@@ -208,8 +208,8 @@ void drive_cycle::burn_petrol(double indicated_watts, double atmospheric_air) {
     last_load_ = state_.load;
 }
 
-// The plate opens with the air that must pass, wider as the pressure across it falls. A diesel's
-// stands open.
+// The throttle plate opens with the air flow, wider as the pressure drop across it falls. A
+// diesel's is always open.
 void drive_cycle::open_throttle(double filling) {
     const double full_flow = filling * state_.rpm / 6000;
     const double opening = std::pow(std::min(1.0, full_flow * (1 + filling * filling)), 0.7) * 100;
@@ -251,7 +251,7 @@ void drive_cycle::trim_fuel() {
         follow(state_.downstream_oxygen_volts, state_.fuel_cut || !state_.running ? 0.06 : 0.7, 2);
         return;
     }
-    // The mixture swings about the right one, faster with more exhaust.
+    // The mixture oscillates about the ideal one, faster with more exhaust.
     oxygen_phase_ += STEP * (0.6 + state_.rpm / 3500);
     oxygen_phase_ -= std::floor(oxygen_phase_);
     const bool rich = oxygen_phase_ < 0.5;

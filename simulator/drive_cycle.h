@@ -1,12 +1,12 @@
-// A drive that repeats for ever: cold start, idle, town, motorway, coasting, town again. One seed,
-// one drive. It advances in steps of a tenth of a second, so that values do not depend on when they
-// are asked for.
+// A drive that repeats forever: cold start, idle, town, motorway, coasting, town again. A seed
+// determines the drive. It advances in steps of a tenth of a second, so that values do not depend
+// on when they are read.
 #pragma once
 
 #include "car.h"
 #include "seeded_random.h"
 
-// What a car's sensors see at one moment. Units as the names say; shares in percent.
+// A car's sensor values at one moment. Units as the names say; shares in percent.
 struct engine_state {
     double seconds = 0; // since the ignition was switched on
     bool running = true;
@@ -18,7 +18,7 @@ struct engine_state {
     double air_gram_s = 0;
     double manifold_kpa = 101;
     double barometer_kpa = 101;
-    double load = 0;          // share of the most air at this engine speed
+    double load = 0;          // share of the maximum air at this engine speed
     double absolute_load = 0; // air mass per stroke against displacement at 1.184 g/l
     double throttle = 0;
     double pedal = 0;
@@ -28,7 +28,7 @@ struct engine_state {
            ambient_celsius = 15;
     double short_trim = 0, long_trim = 0;
     double oxygen_volts = 0.45;           // before the catalyst
-    double downstream_oxygen_volts = 0.6; // behind it
+    double downstream_oxygen_volts = 0.6; // after it
     double battery_volts = 12.4;
     double fuel_level = 70;
     double run_seconds = 0;
@@ -39,7 +39,7 @@ class drive_cycle {
   public:
     drive_cycle(const engine_data& engine, std::uint64_t seed);
 
-    // The state at that time; time does not run backwards (an earlier time gives the latest state).
+    // The state at that time. Time does not go back: an earlier time gives the latest state.
     const engine_state& at(double seconds);
 
   private:

@@ -1,5 +1,5 @@
-// What can go wrong between a program and a car, by name. Faults combine; each is off unless asked
-// for.
+// What can go wrong between a program and a car, by name. Faults can be combined; each is off by
+// default.
 #pragma once
 
 #include <optional>
@@ -49,20 +49,20 @@ enum class fault_kind {
 
 struct fault {
     fault_kind kind;
-    long value = 0; // what it means is in the fault's row
+    long value = 0; // its meaning is in the fault's row
 };
 
 struct fault_row {
     fault_kind kind;
     std::string_view name;
     std::string_view value_name; // empty: takes none
-    std::optional<long> value;   // when none is given; absent: one must be given
+    std::optional<long> value;   // the default; absent: a value is required
     std::string_view effect;
 };
 
 std::span<const fault_row> fault_rows();
 
-// "NAME" or "NAME=VALUE". Throws std::invalid_argument that says what is wrong.
+// "NAME" or "NAME=VALUE". Throws std::invalid_argument with the reason.
 fault parse_fault(std::string_view text);
 
 // The faults of one adapter.
@@ -72,7 +72,7 @@ class fault_set {
     explicit fault_set(std::vector<fault> faults) : faults_(std::move(faults)) {}
 
     bool has(fault_kind kind) const { return value(kind).has_value(); }
-    // The last one given of that kind.
+    // The last given value of that kind.
     std::optional<long> value(fault_kind kind) const;
 
   private:

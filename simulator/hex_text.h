@@ -10,7 +10,7 @@ inline bool is_hex_digit(char c) {
     return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F');
 }
 
-// At most eight upper-case digits, and nothing else.
+// At most eight capital digits, and nothing else.
 inline std::uint32_t hex_number(std::string_view digits) {
     std::uint32_t number = 0;
     for (const char c : digits)
@@ -18,7 +18,7 @@ inline std::uint32_t hex_number(std::string_view digits) {
     return number;
 }
 
-// Pairs of digits, parted by blanks when `spaces`.
+// Pairs of digits, separated by blanks if `spaces`.
 inline std::string hex_text(const byte_string& bytes, bool spaces) {
     constexpr char DIGITS[] = "0123456789ABCDEF";
     std::string text;

@@ -12,8 +12,8 @@ struct place {
     char last = 0;
 };
 
-// Hands the parser the text character by character and keeps count of the lines. The parser reads
-// one character past a number, so a line end counts only when something after it has been read.
+// Feeds the parser character by character and counts the lines. The parser reads one character past
+// a number, so a line end counts only once something after it has been read.
 class counting_iterator {
   public:
     using iterator_category = std::input_iterator_tag;
@@ -43,7 +43,7 @@ class counting_iterator {
     place* where_;
 };
 
-// The library's text without its own position and without all that it had read.
+// The library's message without its own position and without the text read so far.
 std::string reason_of(std::string text) {
     if (const std::size_t start = text.find("syntax error"); start != std::string::npos)
         text.erase(0, start);

@@ -1,5 +1,5 @@
-// JSON that remembers where it stood: each value knows its line, so that a mistake in a car file
-// can be named by file and line.
+// JSON whose values know their lines, so that a mistake in a car file can be reported by file and
+// line.
 #pragma once
 
 #include <map>
@@ -32,5 +32,5 @@ class json_error : public std::runtime_error {
     int line_;
 };
 
-// Throws json_error, also for a name that stands twice in one object.
+// Throws json_error, also for a duplicate name in one object.
 json_value parse_json(std::string_view text);

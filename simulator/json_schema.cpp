@@ -35,7 +35,7 @@ class checker {
   public:
     explicit checker(const json_value& root) : root_(root) {}
 
-    // `where` is the value's way from the root, for the reader: units[1].stored[0]
+    // `where`: the value's path, for messages: units[1].stored[0]
     void check(const json_value& value, const json_value& schema, const std::string& where) const {
         if (const json_value* ref = schema.find("$ref"))
             return check(value, definition(ref->text), where);

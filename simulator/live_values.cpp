@@ -6,7 +6,7 @@
 
 namespace {
 
-// Scaled and rounded to an unsigned number of that many bytes, held at the ends of the range.
+// Rounded to an unsigned number of that many bytes, clamped to its range.
 byte_string number(double value, int bytes) {
     const double highest = bytes == 1 ? 255 : bytes == 2 ? 65535 : 4294967295.0;
     const double held = std::isnan(value) ? 0 : std::clamp(std::round(value), 0.0, highest);
@@ -32,7 +32,7 @@ byte_string pair(byte_string first, const byte_string& second) {
     return first;
 }
 
-// The bits that tell which of the values behind are there, and those values.
+// The bits that say which of the following values are present, and these values.
 byte_string present(std::uint8_t bits, std::initializer_list<byte_string> values) {
     byte_string made{bits};
     for (const byte_string& value : values)
@@ -86,7 +86,7 @@ constexpr std::array ROWS = {
               [](moment m) {
                   return pair(number(m.engine.oxygen_volts * 200, 1), trim(m.engine.short_trim));
               }},
-    // The sensor behind the catalyst takes no part in trimming: FF.
+    // The sensor after the catalyst is not used for trimming: FF.
     value_row{
         0x15, 2,
         [](moment m) { return pair(number(m.engine.downstream_oxygen_volts * 200, 1), {0xFF}); }},
@@ -164,7 +164,7 @@ constexpr std::array ROWS = {
                   return present(3, {celsius(m.engine.coolant_celsius),
                                      celsius(m.engine.coolant_celsius * 0.9)});
               }},
-    // The sensor behind the air filter, and the one behind the intercooler.
+    // The sensor after the air filter, and the one after the intercooler.
     value_row{0x68, 7,
               [](moment m) {
                   return present(3, {celsius(m.engine.ambient_celsius),

@@ -1,9 +1,9 @@
-// Service 01 values: from what the sensors see to the bytes that SAE J1979 gives them.
+// Service 01 values: encodes sensor values as SAE J1979 defines.
 #pragma once
 
 #include "drive_cycle.h"
 
-// What the values are made of: the engine, and what counts from the last clearing of codes.
+// What the values are derived from: the engine, and what counts from the last clearing of codes.
 struct car_moment {
     engine_state engine;
     double km_since_clear = 0;
@@ -12,7 +12,7 @@ struct car_moment {
     int warm_ups = 0;
 };
 
-// Data bytes of a PID; 0 for one that is not known here.
+// Data bytes of a PID; 0 for an unknown one.
 int pid_length(int pid);
 bool has_live_value(int pid);
 // Only for a PID with a live value.

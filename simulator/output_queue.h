@@ -1,4 +1,4 @@
-// What the adapter has to say and when: pieces of text with the time from which each may leave.
+// The adapter's pending output: pieces of text, each with the time from which it may leave.
 #pragma once
 
 #include <chrono>
@@ -10,12 +10,12 @@ class output_queue {
   public:
     using milliseconds = std::chrono::milliseconds;
 
-    // Every byte a piece of its own, a millisecond apart.
+    // Makes every byte a separate piece, a millisecond apart.
     void send_single_bytes() { single_bytes_ = true; }
 
-    // A piece never leaves before those pushed earlier.
+    // Pieces leave in the order in which they were pushed.
     void push(milliseconds due, std::string text);
-    // Keeps everything that waits until then.
+    // Delays everything that waits until then.
     void hold_until(milliseconds due);
     std::optional<milliseconds> next() const;
     // When the last piece leaves.

@@ -1,8 +1,8 @@
 // Answers as a recorded adapter did. A command gets the bytes that followed it in the recording, in
-// their pieces and at their times; commands are looked for in recorded order, past the last one
-// found first, then from the start. One that was never recorded is answered with "?".
+// the same pieces and at the same times. It is searched for after the last one found, then from the
+// start; one that was never recorded gets "?".
 //
-// Each client meets the next recorded connection, after the last the first again.
+// Each client gets the next recorded connection; after the last, the first again.
 #pragma once
 
 #include "adapter.h"
@@ -11,7 +11,7 @@
 
 class recorded_adapter final : public adapter {
   public:
-    // Answers come after `latency` each, or when absent `timing` times as late as recorded.
+    // Each answer comes after `latency`, or if absent after `timing` times its recorded delay.
     explicit recorded_adapter(recording recorded, double timing = 1,
                               std::optional<milliseconds> latency = {});
 
@@ -19,7 +19,7 @@ class recorded_adapter final : public adapter {
     void receive(std::string_view bytes, milliseconds now) override;
     std::optional<milliseconds> next_output() const override;
     std::string take_output(milliseconds now) override { return output_.take(now); }
-    // Where the recorded adapter hung up, once all is said.
+    // Where the recorded adapter hung up, once all output is sent.
     bool wants_close(milliseconds now) const override;
 
   private:

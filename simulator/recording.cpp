@@ -14,7 +14,7 @@ using std::chrono::milliseconds;
 constexpr int KNOWN_FORMAT = 1;
 constexpr double LATEST_MS = 1e12;
 
-// The bytes that characters up to U+00FF stand for; nothing when there is one beyond.
+// The bytes that the characters up to U+00FF represent; nothing if there is a higher one.
 std::optional<std::string> bytes_of(const std::string& text) {
     std::string bytes;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -29,7 +29,7 @@ std::optional<std::string> bytes_of(const std::string& text) {
     return bytes;
 }
 
-// Puts the recording together from its lines. Its complaints are json_errors.
+// Assembles the recording from its lines. Throws json_error.
 class recording_builder {
   public:
     void take(const json_value& line) {

@@ -1,5 +1,5 @@
-// A recorded conversation with an adapter, as `kestrom --record` writes it: what was asked and what
-// came back when. docs/json/recording.schema.json describes the file.
+// A recorded conversation with an adapter, as `kestrom --record` writes it: the commands, the
+// replies and their times. docs/json/recording.schema.json describes the file.
 #pragma once
 
 #include <chrono>
@@ -14,23 +14,23 @@ struct recorded_piece {
     std::string bytes;
 };
 
-// A command and all that came before the next one.
+// A command and everything received before the next one.
 struct recorded_exchange {
-    std::optional<std::string> command; // as plain_command() gives it; none: what came unasked for
+    std::optional<std::string> command; // as plain_command() returns it; none: unsolicited bytes
     std::chrono::milliseconds asked{0}; // since the start of the recording
     std::vector<recorded_piece> pieces;
-    std::optional<std::chrono::milliseconds> hung_up; // by the adapter, so long after `asked`
+    std::optional<std::chrono::milliseconds> hung_up; // by the adapter, this long after `asked`
 };
 
 struct recording {
     std::vector<recorded_exchange> exchanges; // of all connections, in order
-    // Which of them is each connection's first, the one without a command; at least one.
+    // The index of each connection's first exchange, the one without a command; at least one.
     std::vector<std::size_t> connections;
 };
 
 class recording_error : public std::runtime_error {
   public:
-    // Line 0 is the file as a whole.
+    // Line 0: the file as a whole.
     recording_error(const std::string& file, int line, const std::string& reason)
         : std::runtime_error(file + (line > 0 ? ":" + std::to_string(line) : "") + ": " + reason),
           line_(line) {}

@@ -16,7 +16,7 @@ void drop_some_bytes(std::string& text, double percent, seeded_random& random) {
     text = kept;
 }
 
-// Bytes as a disturbed line makes them; never the prompt, which would be another fault.
+// Bytes as a noisy line produces them; never the prompt, which would be another fault.
 void strew_rubbish(std::string& text, seeded_random& random) {
     const auto count = int(random.between(1, 6));
     for (int i = 0; i < count; ++i) {

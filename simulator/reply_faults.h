@@ -1,4 +1,4 @@
-// A reply on its way out, and what faults do to it before it leaves.
+// An outgoing reply, and what faults do to it.
 #pragma once
 
 #include "faults.h"
@@ -20,5 +20,5 @@ using adapter_reply = std::vector<reply_piece>;
 void apply_reply_faults(adapter_reply& pieces, const fault_set& faults, long number,
                         const std::string& end_of_line, seeded_random& random);
 
-// Whether the `number`th of something, counted from 1, is hit by a fault that strikes every Nth.
+// Whether a fault that strikes every Nth hits the `number`th, counted from 1.
 bool every_nth(const fault_set& faults, fault_kind kind, long number);

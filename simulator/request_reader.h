@@ -1,4 +1,4 @@
-// Sorts a command line: the adapter's own command, a request to the car, or nonsense.
+// Classifies a command line: a command to the adapter, a request to the car, or invalid.
 #pragma once
 
 #include "car.h"
@@ -12,10 +12,10 @@ struct command_line {
     kind type = kind::nonsense;
     std::string at_command; // without "AT"
     byte_string request;
-    int expected_replies = 0; // an odd digit at a request's end; 0: as many as come
+    int expected_replies = 0; // an odd digit at a request's end; 0: any number
 };
 
-// What counts of a command: without blanks and control characters, in capitals.
+// The significant part of a command: without blanks and control characters, in capitals.
 std::string plain_command(std::string_view text);
 
 // `text` without its carriage return.

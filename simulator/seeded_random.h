@@ -1,4 +1,4 @@
-// Numbers that look random and follow from a seed alone, the same with every library (splitmix64).
+// Pseudo-random numbers that depend only on the seed, the same with every library (splitmix64).
 #pragma once
 
 #include <cstdint>
@@ -18,7 +18,7 @@ class seeded_random {
     double between(double from, double to) {
         return from + (to - from) * double(next() >> 11) / 9007199254740992.0;
     }
-    // True in so many cases out of a hundred.
+    // True in that many cases out of a hundred.
     bool happens(double percent) { return between(0, 100) < percent; }
 
   private:

@@ -40,7 +40,7 @@ byte_string support_mask(int base, const std::vector<int>& supported) {
         if (pid > base && pid <= base + 0x20)
             mask[std::size_t((pid - base - 1) / 8)] |= std::uint8_t(0x80 >> (pid - base - 1) % 8);
         else if (pid > base + 0x20)
-            mask[3] |= 1; // the next mask is worth asking for
+            mask[3] |= 1; // the next mask exists
     }
     return mask;
 }
@@ -66,7 +66,7 @@ std::vector<unit_answer> vehicle::answer(const byte_string& request, std::chrono
                                          std::optional<std::uint32_t> only) {
     second_ = double(now.count()) / 1000;
     moment_.engine = drive_.at(seconds(now));
-    // The car has come some way with its trouble.
+    // The car has driven some distance with its fault.
     constexpr double KM_BEFORE = 312;
     moment_.km_since_clear = cleared_at_km_ > 0 ? moment_.engine.distance_km - cleared_at_km_
                                                 : moment_.engine.distance_km + KM_BEFORE;
@@ -78,8 +78,7 @@ std::vector<unit_answer> vehicle::answer(const byte_string& request, std::chrono
         if (only && *only != unit.address)
             continue;
         messages reply = answer_of(unit, request);
-        // A service that a unit does not know is passed over in silence unless it was meant for
-        // that unit.
+        // A unit ignores a service that it does not know, unless the request was addressed to it.
         if (only && can() && !request.empty() && !known_service(request[0]))
             reply.push_back({0x7F, request[0], SERVICE_NOT_SUPPORTED});
         if (!reply.empty())
@@ -92,13 +91,13 @@ std::vector<unit_answer> vehicle::answer(const byte_string& request, std::chrono
     return answers;
 }
 
-// An answer that is put off is worked out from the first time that it is asked for.
+// How long an answer is deferred counts from its first request.
 vehicle::messages vehicle::answer_of(control_unit& unit, const byte_string& request) {
     const std::string digits = hex_text(request, false);
-    if (const auto put_off = unit.later.find(digits); put_off != unit.later.end()) {
+    if (const auto deferred = unit.later.find(digits); deferred != unit.later.end()) {
         const double first =
             asked_first_.try_emplace({unit.address, digits}, second_).first->second;
-        if (second_ < first + put_off->second)
+        if (second_ < first + deferred->second)
             return {{0x7F, request[0], ANSWER_TO_COME}};
     }
     if (const auto own = unit.answers.find(digits); own != unit.answers.end())
@@ -219,13 +218,13 @@ vehicle::messages vehicle::codes(const control_unit& unit, const byte_string& re
     return lines;
 }
 
-// Permanent codes stay; the monitors that run once a trip start anew.
+// Permanent codes stay; the monitors that run once a trip start again.
 vehicle::messages vehicle::clear(control_unit& unit, const byte_string& request) {
     if (request.size() != 1)
         return {};
     if (unit.clears_with_engine_off_only && moment_.engine.rpm > 0)
         return {{0x7F, 0x04, CONDITIONS_NOT_CORRECT}};
-    unit.answers.erase("0101"); // its status is counted anew
+    unit.answers.erase("0101"); // its status is derived again
     unit.stored.clear();
     unit.pending.clear();
     unit.frozen.reset();

@@ -33,8 +33,8 @@ void append(byte_string& to, const std::string& text, std::size_t length) {
         to.push_back(i < text.size() ? std::uint8_t(text[i]) : 0);
 }
 
-// The bytes of one information type without its header: for the VIN with as many fill bytes in
-// front as the older buses need to fill their messages of four.
+// The bytes of one information type without its header; the VIN is padded in front to fill the
+// older buses' messages of four.
 byte_string payload(const car& the_car, const control_unit& unit, int type, bool can) {
     byte_string bytes;
     if (type == vin) {
@@ -85,7 +85,7 @@ std::vector<int> supported_types(const car& the_car, const control_unit& unit, b
     return types;
 }
 
-// How many items a CAN answer says that it holds.
+// The number of items that a CAN answer declares.
 std::uint8_t item_count(const control_unit& unit, int type) {
     switch (type) {
     case calibration:

@@ -1,10 +1,10 @@
-// Services 06 and 09 of one unit: monitoring test results, and what the unit says about the car and
-// itself.
+// Services 06 and 09 of one unit: monitoring test results, and information about the car and the
+// unit itself.
 #pragma once
 
 #include "car.h"
 
-// No messages: the unit does not answer.
+// No messages if the unit does not answer.
 std::vector<byte_string> monitor_tests(const control_unit& unit, const byte_string& request,
                                        bool can);
 std::vector<byte_string> vehicle_info(const car& the_car, const control_unit& unit,

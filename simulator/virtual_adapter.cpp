@@ -1,4 +1,4 @@
-// The adapter's dialogue: characters in, commands, replies out. How it asks the car is in
+// The adapter's dialogue: characters in, replies out. How it queries the car is in
 // car_dialogue.cpp.
 #include "virtual_adapter.h"
 
@@ -45,8 +45,7 @@ void virtual_adapter::receive(std::string_view bytes, milliseconds sent) {
         if (stall_after && commands_ >= *stall_after)
             return;
         const milliseconds now = heard(sent);
-        // The chip passes over NUL, and over line feeds, which some terminals send with each
-        // return.
+        // The chip ignores NUL, and line feeds, which some terminals send with each return.
         if (c == '\0' || c == '\n')
             continue;
         if (interrupted(now))
@@ -62,7 +61,7 @@ void virtual_adapter::receive(std::string_view bytes, milliseconds sent) {
     }
 }
 
-// A character while the car is being asked stops that; it and what came with it are lost.
+// A character received during a request aborts it; the character and what came with it are lost.
 bool virtual_adapter::interrupted(milliseconds now) {
     if (now >= busy_until_)
         return false;
@@ -127,7 +126,7 @@ adapter_reply virtual_adapter::answer(const command_line& line, milliseconds now
         pieces = answer_request(line, now);
         break;
     }
-    // A line of its own between answer and prompt.
+    // An empty line between answer and prompt.
     pieces.back().text += end_of_line() + ">";
     return pieces;
 }
@@ -170,7 +169,7 @@ bool virtual_adapter::wants_close(milliseconds) const {
     return closing_;
 }
 
-// When a character that is sent now has come over radio and serial line.
+// When a character that is sent now arrives, over radio and serial line.
 milliseconds virtual_adapter::heard(milliseconds now) {
     const milliseconds arrives = now + options_.round_trip / 2;
     if (options_.baud == 0)
@@ -202,7 +201,7 @@ milliseconds virtual_adapter::end_of(const adapter_reply& pieces) {
     return pieces.empty() ? milliseconds(0) : pieces.back().after;
 }
 
-// The lines of `line`, which are parted by "\r", `later` than what has been said before.
+// Adds the lines of `line`, separated by "\r", to leave `later` than the output before them.
 void virtual_adapter::add_line(adapter_reply& pieces, milliseconds later,
                                std::string_view line) const {
     std::string text;

@@ -1,6 +1,5 @@
-// An ELM327-type adapter (v1.5) plugged into a virtual car. Same car, options, bytes and times give
-// the same output. Clearing codes changes the car, which belongs to somebody else
-// and must live longer.
+// An ELM327-type adapter (v1.5) in a virtual car. The same car, options, bytes and times give the
+// same output. Clearing codes changes the car, which it does not own and which must outlive it.
 #pragma once
 
 #include "adapter.h"
@@ -20,30 +19,29 @@
 struct adapter_options {
     fault_set faults;
     std::uint64_t seed = 1;
-    // How long each request takes, 0 at once; absent: as long as on the genuine bus, times
-    // `timing`.
+    // How long each request takes; absent: as long as on a real bus, times `timing`.
     std::optional<std::chrono::milliseconds> latency;
     double timing = 1;
     // The serial line between the chip and the radio; 0: none.
     int baud = 0;
-    // Of the radio: there and back.
+    // Of the radio, there and back.
     std::chrono::milliseconds round_trip{0};
-    double speed = 1; // of the car's drive against the clock
+    double speed = 1; // of the car's drive relative to the clock
 };
 
 class virtual_adapter final : public adapter {
   public:
     virtual_adapter(car& the_car, adapter_options options = {});
 
-    // What the last client left half said is gone; settings stay, as on a genuine one.
+    // Forgets a half-typed command of the last client; settings stay, as on a real adapter.
     void connection_opened(milliseconds now) override;
     void receive(std::string_view bytes, milliseconds now) override;
 
     std::optional<milliseconds> next_output() const override;
-    // Under the fault one_byte_chunks one byte a call.
+    // With the fault one_byte_chunks, one byte per call.
     std::string take_output(milliseconds now) override;
 
-    // What faults ask of the transport.
+    // What faults demand of the transport.
     bool refuses() const override { return options_.faults.has(fault_kind::refuse); }
     bool wants_close(milliseconds now) const override;
     bool sends_without_delay() const override { return !options_.faults.has(fault_kind::nagle); }
@@ -95,16 +93,16 @@ class virtual_adapter final : public adapter {
     output_queue output_;
     std::string typed_;
     std::string last_command_;
-    std::optional<milliseconds> typing_ends_; // a command that is not finished by then is given up
+    std::optional<milliseconds> typing_ends_; // a command not finished by then is dropped
     milliseconds busy_until_{0};
-    // Until when the serial line carries characters, to the chip and from it.
+    // When the serial line is next idle, to the chip and from it.
     std::chrono::microseconds line_in_{0}, line_out_{0};
     milliseconds bus_free_{0}; // for the next request
-    // Behind the end of a reply, not yet or never heard.
+    // Frames after the end of a reply, which the chip has not heard yet or never will.
     std::vector<timed_frame> late_;
-    // Between two messages: what the chip has learnt of this bus, and of the last reply.
+    // Between two messages: the longest on this bus so far, and in the last reply.
     milliseconds longest_gap_{0}, last_gap_{0};
-    // While the car is being searched for: what holds again when that is stopped.
+    // While searching for the bus: the state to restore if the search is aborted.
     struct search {
         adapter_state before;
         milliseconds ends;
@@ -113,5 +111,5 @@ class virtual_adapter final : public adapter {
     bool restarting_ = false;
     bool closing_ = false;
     long commands_ = 0; // of this connection
-    long replies_ = 0, requests_ = 0, values_ = 0, put_off_ = 0, messages_ = 0;
+    long replies_ = 0, requests_ = 0, values_ = 0, deferred_ = 0, messages_ = 0;
 };

@@ -8,7 +8,7 @@ struct canned_answer {
     std::string_view answer;
 };
 
-// A car on ISO 9141-2 with its lamp on, one code announced and two told.
+// A car on ISO 9141-2 with its lamp on, one code announced and two sent.
 constexpr canned_answer CANNED_ANSWERS[] = {
     {"AT Z\r", "OK\r\r>"},
     {"AT E0\r", "OK\r\r>"},

@@ -13,7 +13,7 @@ struct chart_range {
     double high;
 };
 
-// Unit texts as charts print them: those that begin with a blank stand right behind the number.
+// Unit texts as charts print them: those that begin with a blank follow the number directly.
 struct catalogue_row {
     std::string_view imperial_unit = "N/A";
     std::string_view metric_unit = "N/A";
@@ -43,8 +43,8 @@ struct pid_row {
     catalogue_row row;
 };
 
-// Ranges after SAE J1979, in the units shown. The imperial maximum of PID 0A is ten times the
-// metric one in psi, on purpose.
+// Ranges after SAE J1979, in the units shown. The imperial maximum of PID 0A is deliberately ten
+// times the metric one in psi.
 constexpr pid_row ROWS[] = {
     {0x04, PERCENT},
     {0x05, TEMPERATURE},
@@ -131,7 +131,7 @@ catalogue_row row_of(std::string_view pid) {
 
 constexpr std::uint32_t AIR_FLOW_PID = 0x10;
 constexpr std::uint32_t FUEL_ECONOMY_PID = 0xE4;
-constexpr double GRAMS_A_SECOND = 7.5; // in a pound a minute, rounded on purpose
+constexpr double GRAMS_A_SECOND = 7.5; // in a pound a minute, deliberately rounded
 constexpr double KM_A_MILE = 1.609344;
 constexpr double LITRES_A_GALLON = 3.78541178;
 constexpr double HIGHEST_ENCODED = 65534;
@@ -139,7 +139,7 @@ constexpr double HIGHEST_ENCODED = 65534;
 std::string encode_hundredths(double value, std::string_view marker) {
     const double hundredths = value * 100;
     if (hundredths > HIGHEST_ENCODED)
-        return "41E4FFFF"; // with this marker whatever the PID
+        return "41E4FFFF"; // with this marker for every PID
     const auto number = static_cast<std::uint32_t>(saturating_int(hundredths));
     char digits[8];
     const auto written = std::to_chars(digits, digits + sizeof digits, number, 16);

@@ -1,4 +1,4 @@
-// Trouble codes by themselves: what a code means, and which codes speak of something.
+// Looks up trouble codes: what a code means, and which codes mention given words.
 #pragma once
 
 #include "mac_toolies.h"
@@ -11,7 +11,6 @@ struct found_code {
     std::string code, description;
 };
 
-// The code itself when the text is one, in letters of any case; else every code whose description
-// holds all of the text's words, in letters of any case. In the order of the codes; nothing for a
-// text without words.
+// If the text is a code, that code; otherwise every code whose description contains all of the
+// text's words, in the order of the codes. Case is ignored; a text without words finds nothing.
 std::vector<found_code> search_codes(const mac_toolies& toolies, std::string_view text);

@@ -6,14 +6,14 @@
 
 namespace {
 
-// Whether `marker` stands where data begins behind a 29-bit CAN header (eight digits, then a
-// two-digit byte count), and `other` does not where it begins behind a three-byte header.
+// Whether `marker` is where data begins after a 29-bit CAN header (eight digits, then a two-digit
+// byte count), and `other` is not where it begins after a three-byte header.
 bool marker_behind_29_bit_header(std::string_view line, std::string_view marker,
                                  std::string_view other) {
     return slice(line, 10, 4) == marker && slice(line, 6, 4) != other;
 }
 
-// The markers that rule a line out are the ones that stand in the field, two of them not their own.
+// The markers that exclude a line are those used in the field, two of which belong to other forms.
 bool has_29_bit_header(std::string_view line) {
     static constexpr struct {
         std::string_view marker;
@@ -40,7 +40,7 @@ std::optional<std::string> mac_toolies::pull_PID_msg(std::string_view line,
     const std::string marker = "41" + std::string(this_PID);
     std::string_view key = slice(line, 4, 2);
     std::size_t data = 6;
-    std::size_t looked_at = 14; // characters that a line must have
+    std::size_t looked_at = 14; // minimum characters of a line
     if (line.starts_with("7E")) {
         key = line.substr(0, 2);
         data = looked_at = 5;
@@ -78,7 +78,8 @@ std::string mac_toolies::grab_CAN_msg(std::string_view reply) {
             collected += bytes;
             message += frame;
         } else {
-            // A line that completes the message does not count: one that follows is cut alike.
+            // The line that completes the message is not counted, so a following one is cut in the
+            // same way.
             message.append(frame, 0, 2 * (total - collected));
         }
     }

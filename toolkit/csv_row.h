@@ -1,4 +1,4 @@
-// One row of a table as text: fields with commas between them, in quotes where they need them.
+// One row of a table as text: fields separated by commas, quoted where necessary.
 #pragma once
 
 #include <string>
@@ -18,7 +18,7 @@ class csv_row {
             text_.append(c == '"' ? 2 : 1, c);
         text_ += '"';
     }
-    // Without the line's end.
+    // Without line end.
     const std::string& text() const { return text_; }
 
   private:

@@ -14,7 +14,7 @@ bool mac_toolies::export_to_CSV(std::string_view log_file_name, bool as_txt) con
         myMsgBox(outcome.error);
         return false;
     case export_result::unwritable: {
-        // The log counts as read all the same.
+        // The log still counts as read.
         qCWarning(log_toolkit, "export-to_CSV::%s", outcome.error.c_str());
         std::error_code unknown;
         const auto size = std::filesystem::file_size(log, unknown);
@@ -22,7 +22,7 @@ bool mac_toolies::export_to_CSV(std::string_view log_file_name, bool as_txt) con
     }
     case export_result::exported:
         return true;
-    default: // a log without lines has an export without lines
+    default: // a log without lines gives an export without lines
         log_file().create(output, log_file::existing::refuse);
         return false;
     }

@@ -11,7 +11,7 @@ char* write_fixed_decimals(char* out, double value, int decimals) {
     char* const end =
         std::to_chars(out, out + FIXED_DECIMALS_ROOM, value, std::chars_format::fixed, decimals)
             .ptr;
-    // Only what lies this near to zero can read "-0.00".
+    // Only values this close to zero can print as "-0.00".
     if (std::signbit(value) && value > -1 &&
         std::all_of(out + 1, end, [](char c) { return c == '0' || c == '.'; }))
         return std::copy(out + 1, end, out);
@@ -33,7 +33,7 @@ double leading_number(std::string_view text) {
     double number = 0;
     const auto [end, error] = std::from_chars(piece.data(), piece.data() + piece.size(), number,
                                               std::chars_format::fixed);
-    // Without an exponent only a whole part can be too large; what is too small is 0.
+    // Without an exponent, only the integer part can overflow; what is too small is 0.
     const bool too_large = error == std::errc::result_out_of_range &&
                            digits.find_first_not_of("0.") < digits.find('.');
     if (!too_large)

@@ -15,8 +15,7 @@ constexpr double MPG_FACTOR = 7.1073357;
 
 } // namespace
 
-// The orders of operations are fixed, so that results agree to the last bit wherever they are
-// computed.
+// The order of operations is fixed, so that results agree to the last bit everywhere.
 fuel_economy compute_MPG(bool flag, double speed, double maf) {
     const double mpg =
         flag ? (speed * KM_A_MILE) / (GRAMS_A_SECOND * maf) * MPG_FACTOR : MPG_FACTOR * speed / maf;

@@ -1,5 +1,5 @@
-// How far the fuel takes the car, from its speed and the air its engine draws: a petrol engine
-// burns 14.7 parts of air with one part of petrol, by weight, and petrol is taken as 740 g/litre.
+// Fuel economy from the speed and the air flow: a petrol engine burns 14.7 parts of air with one
+// part of petrol, by weight; petrol is taken as 740 g/litre.
 #pragma once
 
 #include <string>
@@ -12,9 +12,9 @@ struct fuel_economy {
 };
 
 // Speed in km/h and air flow in g/s with the flag clear; mph and lb/min with the flag set. Without
-// air flow the result is infinite, and no number at all without speed either.
+// air flow the result is infinite, and NaN if there is no speed either.
 fuel_economy compute_MPG(bool flag, double speed, double maf);
 
-// The economy as reply text of pseudo-PID E4; "~" where there is no economy to show: the engine
-// draws no air, as when it stands, or a reading is missing (NaN).
+// The economy as reply text of pseudo-PID E4; "~" when there is none: no air flow, as with the
+// engine off, or a missing reading (NaN).
 std::string fuel_economy_reply(const mac_toolies& toolies, const fuel_economy& economy);

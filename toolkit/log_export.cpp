@@ -32,21 +32,21 @@ std::string in_words(int error) {
     return std::generic_category().message(error);
 }
 
-// As long as it is not whole. Another export at the same time has another.
+// The name until the export is complete. Simultaneous exports have different ones.
 std::string unfinished(const std::string& output) {
     return output + "." + std::to_string(::getpid()) + ".part";
 }
 
-// 0, or why not. Never over a file that is there.
+// 0 or the error number. Never overwrites a file.
 int rename_to_new(const std::string& from, const std::string& to) {
     if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
         return 0;
-    if (errno != EINVAL && errno != ENOSYS) // what no disk of that kind can do
+    if (errno != EINVAL && errno != ENOSYS) // not supported by that file system
         return errno;
     return ::rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
 }
 
-// A field of a run log that no other file is likely to hold: an answer, if cut, or a notice.
+// A field that only a run log is likely to hold: an answer, perhaps truncated, or a notice.
 bool is_reply(std::string_view field) {
     if (!pid_of_field(field).empty() && is_hex(field))
         return true;
@@ -145,7 +145,7 @@ export_result log_export::publish() {
 }
 
 export_result log_export::refuse(export_result why, std::string error) {
-    if (!written_.path().empty()) { // a file of this export's own
+    if (!written_.path().empty()) { // a file made by this export
         written_.close();
         ::unlink(written_.path().c_str());
     }
@@ -164,7 +164,7 @@ void log_export::take_line(std::string_view line) {
     const std::string spaceless = without(line, " ");
     const std::vector<std::string_view> pieces = split(spaceless, ",");
     const auto blank = static_cast<std::size_t>(std::ranges::count(pieces, ""));
-    // To the letter there are as many fields as pieces with text in them.
+    // To the letter, only pieces with text count as fields.
     const std::span<const std::string_view> fields(
         pieces.data(), pieces.size() - (form_.to_the_letter ? blank : 0));
     if (!names_)
@@ -174,7 +174,7 @@ void log_export::take_line(std::string_view line) {
         return;
     }
     if (rows_++ == 0) {
-        if (form_.to_the_letter) // behind the "41" of a reply, whatever stands there
+        if (form_.to_the_letter) // whatever follows the "41" of a reply
             for (std::size_t i = 0; i < fields.size(); ++i)
                 (*names_)[i] = slice(trimmed(fields[i]), 2, 2);
         add_header();
@@ -216,7 +216,7 @@ void log_export::add_row(std::span<const std::string_view> fields) {
         row.add(time ? fixed_decimals(static_cast<double>(*time) / 1000, TIME_DECIMALS) : "nan");
     }
     for (const std::string_view field : fields) {
-        const std::string_view answer = answer_in(trimmed(field)); // the last has the line's end
+        const std::string_view answer = answer_in(trimmed(field)); // the last includes the line end
         const double value = parameter_value(toolies_, answer.empty() ? "~" : answer).value;
         row.add(std::isnan(value) ? "nan" : fixed_decimals(value, DECIMALS)); // never "-nan"
     }
@@ -232,7 +232,7 @@ export_outcome export_log(const mac_toolies& toolies, const std::string& log,
     while (outcome.result == export_result::working) {
         outcome.result = work.step();
         if (progress && !progress(work.done()) && outcome.result == export_result::working)
-            outcome.result = export_result::given_up; // `work` removes what there is
+            outcome.result = export_result::given_up; // `work` removes the file
     }
     outcome.rows = work.rows();
     outcome.error = outcome.result == export_result::given_up ? "interrupted" : work.error();

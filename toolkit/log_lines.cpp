@@ -10,7 +10,7 @@
 std::optional<std::string> log_lines::open(const std::string& path) {
     close();
     path_ = path;
-    // A pipe must not keep us waiting for somebody to write to it.
+    // Opening a pipe must not wait for a writer.
     file_ = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     struct stat there {};
     if (file_ < 0 || ::fstat(file_, &there) != 0)

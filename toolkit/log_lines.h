@@ -10,27 +10,26 @@
 class log_lines {
   public:
     static constexpr std::size_t PIECE = std::size_t{16} * 1024;
-    static constexpr std::size_t LONGEST_LINE =
-        999; // bytes; what is longer is taken as several lines
+    static constexpr std::size_t LONGEST_LINE = 999; // bytes; a longer line is split
 
     log_lines() = default;
     ~log_lines() { close(); }
     log_lines(const log_lines&) = delete;
     log_lines& operator=(const log_lines&) = delete;
 
-    // Why not, with the name of the file.
+    // The reason of failure, with the file name.
     std::optional<std::string> open(const std::string& path);
-    // Reads another piece; false when the file has ended. Why not in `error`.
+    // Reads another piece; false at the end of the file, or on failure (`error`).
     bool read_piece(std::string& error);
-    // The next line of what was read, with its end if it has one; at the end of the file also a
-    // last line without. The view holds until the next piece.
+    // The next line read, with its line end; at the end of the file also a last line without one.
+    // The view is valid until the next piece.
     std::optional<std::string_view> next();
     void rewind();
     void close();
 
     bool is_open() const { return file_ >= 0; }
     std::uint64_t lines() const { return lines_; }
-    double done() const; // the part that was read, 0 to 1
+    double done() const; // the fraction read, 0 to 1
 
   private:
     std::string path_;

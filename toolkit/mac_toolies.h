@@ -1,7 +1,6 @@
-// The decoding toolkit: turns adapter replies into bytes, values and display text. It keeps no
-// state of its own; one shared instance exists (sharedManager) and some screens create one for
-// themselves. The doors it looks through (resources, settings, message boxes, notifications) are
-// handed to it and outlive it.
+// The decoding toolkit: turns adapter replies into bytes, values and display text. It has no state
+// of its own; there is a shared instance (sharedManager), and some screens create their own. Its
+// doors (resources, settings, message boxes, notifications) are passed in and outlive it.
 //
 // Replies are text. The adapter ends lines with "\r", may add line feeds, may print a search notice
 // ending in "..." before the first line, and ends every reply with ">". Marks in answers: "~"
@@ -31,7 +30,7 @@ struct toolkit_doors {
     const user_defaults* defaults = nullptr;
     alerts* message_boxes = nullptr;
     notification_center* notifications = nullptr;
-    // Holds the log folder; tests give a folder of their own.
+    // Contains the log folder; tests use their own.
     std::string data_folder = user_data_folder();
     std::function<std::time_t()> now = [] { return std::time(nullptr); };
 };
@@ -61,7 +60,7 @@ class mac_toolies {
   public:
     explicit mac_toolies(const toolkit_doors& doors) : doors_(doors) {}
 
-    // Makes the shared instance; called once by the start-up code (and by each test for itself).
+    // Creates the shared instance; called once at start-up (and by each test).
     static void initialize(const toolkit_doors& doors);
     static mac_toolies& sharedManager();
 
@@ -69,14 +68,14 @@ class mac_toolies {
     static std::string clean_a_reply(std::string_view reply);
     // The reply from its first "..." on, the dots included; unchanged without one.
     static std::string fix_3dots(std::string_view reply);
-    // The reply, or "~" when it is no reply to that two-digit PID. The third text plays no part.
+    // The reply, or "~" if it does not answer that two-digit PID. The third argument is ignored.
     static std::string check_bad_reply(std::string_view reply, std::string_view this_pid,
                                        std::string_view this_bad_char = {});
     static int charToNibble(char c); // 0 for anything but a hex digit
     // Nothing for text of odd length.
     static std::optional<std::vector<std::uint8_t>> fromHexString(std::string_view text);
-    // Reads as C's "%x": leading white space, a sign and "0x" are accepted, reading stops at the
-    // first other character, no digits give 0; more than 32 bits saturate.
+    // Like C's "%x": accepts leading white space, a sign and "0x", stops at the first other
+    // character; 0 without digits, saturates at 32 bits.
     static std::uint32_t convertStr2Byte(std::string_view text);
     static std::string convertByte2HexStr(unsigned value);
     // Every piece, empty ones too.
@@ -94,7 +93,7 @@ class mac_toolies {
 
     // --- message_boxes.cpp
     void myMsgBox(std::string_view text) const;
-    // True when the first button was chosen. An empty other_btn_txt: one button.
+    // True if the first button was chosen. An empty other_btn_txt means one button.
     bool myMsgBox(std::string_view title, std::string_view this_msg,
                   std::string_view cancel_btn_txt, std::string_view other_btn_txt) const;
 
@@ -110,9 +109,8 @@ class mac_toolies {
     static bool is_this_code_available(std::string_view mask, std::string_view this_pid,
                                        int this_pid_set);
 
-    // --- trouble_codes.cpp
-    // By the bus that g_cur_protocol names, an older bus's short lines padded. What could not be
-    // read is told by read_codes (trouble_codes.h).
+    // --- trouble_codes.cpp For the bus that g_cur_protocol names, with an older bus's short lines
+    // padded. What could not be read is reported by read_codes (trouble_codes.h).
     static std::vector<std::string> work_reply_to_error_codes_pid(std::string_view mode,
                                                                   std::string_view this_reply);
     static std::string pull_DTC_code(std::string_view four_digits);
@@ -133,9 +131,9 @@ class mac_toolies {
     // --- pid_names.cpp, catalogue.cpp: names, units and ranges of parameters
     // A PID is hex text of any case; text that is not hex is PID 0.
     std::string get_pid_name(std::string_view pid, bool with_pid) const;
-    // In the user's units; "N/A" for a PID without any.
+    // In the user's units; "N/A" for a PID without a unit.
     std::string get_units(std::string_view pid) const;
-    // The chart's maximum or minimum in the user's units; both 0 for a PID without a span.
+    // The chart's maximum or minimum in the user's units; both 0 for a PID without a range.
     double get_PID_min_max(std::string_view pid, bool get_max) const;
     // Spaceless reply text that carries a value in the user's units (PID 10) or miles per US gallon
     // (PID E4); empty for any other PID.
@@ -146,8 +144,8 @@ class mac_toolies {
     // units;
     // "~" when it cannot be read. Only the first line counts.
     std::string translateResponse(std::string_view reply) const;
-    // The number that the display text begins with, so rounded as it is: 0 for a text without one,
-    // NaN for an unusable reply.
+    // The number that the display text begins with, rounded as shown: 0 for a text without one, NaN
+    // for an unusable reply.
     double get_OBDVal(std::string_view reply) const;
     // Both of the above for the cost of one.
     translated translate_once(std::string_view reply) const;
@@ -161,33 +159,31 @@ class mac_toolies {
     std::string grab_CAN_mode6_OBDMID_TESTID_description(std::string_view identifier,
                                                          bool is_OBDMID) const;
     static std::string work_out_vin(std::string_view reply);
-    // Whether what was worked out of that reply is a whole number: 17 characters of ISO 3779, out
-    // of undamaged lines and frames in their order.
+    // Whether that reply holds a complete number: 17 characters of ISO 3779, from undamaged lines
+    // and frames in order.
     static bool is_whole_vin(std::string_view vin, std::string_view reply);
 
-    // --- run_logs.cpp: names of run logs
-    // The local date and time, in the order that goes with the user's units, with the user's month
-    // names and a 12-hour clock without a mark of the half of the day. Flag 0: as file names have
-    // it, "Nov_15_2026-0254_33"; 1: for display, "Nov 15 2026 02:54:33".
+    // --- run_logs.cpp: names of run logs The local date and time, ordered by the user's units,
+    // with localised month names and a 12-hour clock without AM or PM. Flag 0: for file names,
+    // "Nov_15_2026-0254_33"; 1: for display, "Nov 15 2026 02:54:33".
     std::string get_todays_date(int flag) const;
     // "loggies" in the data folder; it may not exist yet.
     std::string log_folder() const;
-    // Makes the log folder where there is nothing yet; why it cannot be made, else empty.
+    // Creates the log folder if it does not exist; the reason of failure, else empty.
     std::string make_log_folder() const;
-    // The path, without extension, of a log that a run of the task would begin now. Creates the log
-    // folder when there is none; a failure is logged and the path returned all the same.
+    // The path, without extension, for the log of a run that starts now. Creates the log folder if
+    // necessary; a failure is logged and the path still returned.
     std::string work_out_log_fname_for_mode(int task) const;
-    // The logs in the log folder, newest first; neither exports nor what else lies there.
+    // The logs in the log folder, newest first; no exports or other files.
     std::vector<logged_run> list_logs() const;
-    // Removes a file of the log folder. False, with a warning in the log, when that fails or the
-    // text is not the plain name of a file.
+    // Removes a file of the log folder. False, with a logged warning, if that fails or the text is
+    // not a plain file name.
     bool delete_a_log(std::string_view file_name) const;
 
-    // --- export.cpp
-    // Writes a log of the log folder, given without folder, as a table of translated values beside
-    // it (log_export.h). True when at least one line of it was read. An export that is there
-    // already is kept and a message box says so; an output that cannot be written is logged; of a
-    // log that is missing or has no line an empty output is left.
+    // --- export.cpp Writes a log of the log folder, given by its name, as a table of translated
+    // values in the same folder (log_export.h). True if at least one line was read. An existing
+    // export is kept and a message box says so; an output that cannot be written is logged; a
+    // missing or empty log leaves an empty output.
     bool export_to_CSV(std::string_view log_file_name, bool as_txt) const;
 
     // --- canned_adapter.cpp
@@ -197,13 +193,12 @@ class mac_toolies {
     const toolkit_doors& doors() const { return doors_; }
 
   private:
-    // A view of constant text, of a line table or of `room`, where numbers are written.
+    // A view of constant text, of a line table or of `room`, which holds numbers as text.
     std::string_view display_text(std::string_view reply, std::span<char> room) const;
     // The text of a code, 1 being the first line; "N/A" outside the table.
     std::string_view table_text(std::string_view table, std::uint32_t code) const;
 
     toolkit_doors doors_;
-    // Line tables that translation has asked for; what the program ships with does not change under
-    // it.
+    // Line tables used by translation; shipped tables never change.
     mutable std::map<std::string, std::vector<std::string>, std::less<>> line_tables_;
 };

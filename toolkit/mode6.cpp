@@ -14,7 +14,7 @@ struct scaling {
     std::string_view unit;
     double offset = 0;
     double last_factor = 1;
-    std::string_view unit_of_zero = {}; // where it differs from `unit`
+    std::string_view unit_of_zero = {}; // if it differs from `unit`
 };
 
 constexpr scaling SCALINGS[] = {
@@ -106,7 +106,7 @@ const scaling& scaling_of(std::uint32_t identifier) {
     return found != std::end(SCALINGS) && found->identifier == identifier ? *found : UNSCALED;
 }
 
-// Signed identifiers: 80 to FF. Only values of more than 19 bits are taken as negative, on purpose:
+// Signed identifiers: 80 to FF. Deliberately, only values of more than 19 bits are negative:
 // two-byte values stay large and positive.
 double raw_value(std::uint32_t identifier, std::uint32_t value) {
     const bool is_signed = identifier >= 0x80 && identifier <= 0xFF;
@@ -141,7 +141,7 @@ std::string mac_toolies::grab_CAN_mode6_OBDMID_TESTID_description(std::string_vi
     if (!lines)
         return "N/A";
     const std::uint32_t wanted = convertStr2Byte(identifier);
-    // Each line covers the identifiers up to the next line's; so the last one is never chosen.
+    // Each line covers the identifiers up to the next line's, so the last one is never used.
     const auto beyond = std::ranges::find_if(*lines, [wanted](const std::string& line) {
         return convertStr2Byte(slice(std::string_view(line), 0, 2)) > wanted;
     });

@@ -17,7 +17,7 @@ bool is_decoded(unsigned pid) {
     return translation_row_of(pid) != nullptr || has_standard_value(pid);
 }
 
-bool is_told_by_standard(unsigned pid) {
+bool only_standard_decodes(unsigned pid) {
     return translation_row_of(pid) == nullptr && has_standard_value(pid);
 }
 
@@ -28,7 +28,7 @@ std::string parameter_name(const mac_toolies& toolies, std::string_view pid) {
 
 std::string parameter_units(const mac_toolies& toolies, std::string_view pid) {
     const unsigned number = mac_toolies::convertStr2Byte(pid);
-    if (!is_told_by_standard(number))
+    if (!only_standard_decodes(number))
         return toolies.get_units(pid);
     const std::string_view units = standard_units(number, metric(toolies));
     return units.empty() ? "N/A" : std::string(units);
@@ -36,18 +36,18 @@ std::string parameter_units(const mac_toolies& toolies, std::string_view pid) {
 
 value_range parameter_range(const mac_toolies& toolies, std::string_view pid) {
     const unsigned number = mac_toolies::convertStr2Byte(pid);
-    if (is_told_by_standard(number))
+    if (only_standard_decodes(number))
         return standard_range(number, metric(toolies));
     return {toolies.get_PID_min_max(pid, false), toolies.get_PID_min_max(pid, true)};
 }
 
 translated parameter_value(const mac_toolies& toolies, std::string_view reply) {
-    translated told = toolies.translate_once(reply);
-    if (told.text != "~")
-        return told;
+    translated value = toolies.translate_once(reply);
+    if (value.text != "~")
+        return value;
     const std::string digits = whole_answer(without(reply, ">"));
     if (digits.size() < 4 ||
-        !is_told_by_standard(mac_toolies::convertStr2Byte(digits.substr(2, 2))))
-        return told;
+        !only_standard_decodes(mac_toolies::convertStr2Byte(digits.substr(2, 2))))
+        return value;
     return standard_value(digits, metric(toolies));
 }

@@ -1,14 +1,14 @@
-// What this program knows of a service 01 parameter. The named operations of mac_toolies come
-// first; where they have no row it is the standard's table. Everybody who shows a parameter asks
-// here, by two hex digits of any case.
+// What this program knows about a service 01 parameter: from the named operations of mac_toolies,
+// or where they have no row from the standard's table. Everything that shows a parameter uses this,
+// by two hex digits of any case.
 #pragma once
 
 #include "standard_values.h"
 
-// Whether replies to it can be told in words or numbers.
+// Whether replies to it can be decoded.
 bool is_decoded(unsigned pid);
-// Whether it is the standard's table alone that tells of it.
-bool is_told_by_standard(unsigned pid);
+// Whether only the standard's table has it.
+bool only_standard_decodes(unsigned pid);
 
 std::string parameter_name(const mac_toolies& toolies, std::string_view pid);
 std::string parameter_units(const mac_toolies& toolies, std::string_view pid);

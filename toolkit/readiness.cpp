@@ -8,7 +8,7 @@ namespace {
 constexpr int CONTINUOUS_MONITORS = 3;
 constexpr int MONITORS = 11;
 
-// The byte of the two hex digits at `position`; digits that are missing read as 0.
+// The byte of the two hex digits at `position`; missing digits read as 0.
 int byte_at(std::string_view text, std::size_t position) {
     const std::string digits = mac_toolies::padRight(slice(text, position, 2), 2, "0");
     return mac_toolies::charToNibble(digits[0]) * 16 + mac_toolies::charToNibble(digits[1]);

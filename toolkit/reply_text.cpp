@@ -10,8 +10,8 @@ namespace {
 
 constexpr std::size_t COUNT_BUFFER = 300; // bytes, terminator included
 
-// The next non-empty piece between any of the separator characters, taken off the front of `rest`;
-// empty at the end.
+// The next non-empty piece between any of the separator characters, removed from the front of
+// `rest`; empty at the end.
 std::string_view next_token(std::string_view& rest, std::string_view separators) {
     rest.remove_prefix(std::min(rest.find_first_not_of(separators), rest.size()));
     const std::string_view token = rest.substr(0, rest.find_first_of(separators));
@@ -29,7 +29,7 @@ int hex_digit(char c) {
     return -1;
 }
 
-// Whether the text, read as a decimal integer up to its first foreign character, is 0.
+// Whether the text, as a decimal integer up to the first other character, is 0.
 bool reads_as_zero(std::string_view text) {
     const std::string_view digits = text.substr(0, text.find_first_not_of("0123456789"));
     return digits.find_first_not_of('0') == digits.npos;
@@ -58,8 +58,8 @@ std::string mac_toolies::clean_a_reply(std::string_view reply) {
     const std::size_t dots = text.find("...");
     if (dots == text.npos)
         return text;
-    // The notice's own line break is among the first characters behind it; later breaks are the
-    // reply's.
+    // The notice's own line break is among the first characters after it; later ones belong to the
+    // reply.
     const std::string_view rest = std::string_view(text).substr(dots + 3);
     return without(rest.substr(0, 4), "\r").append(slice(rest, 4));
 }
@@ -166,7 +166,7 @@ std::string mac_toolies::formatStringWithDouble(std::string_view text, int no_of
     std::string_view digits = trimmed(text);
     if (digits.starts_with('+'))
         digits.remove_prefix(1);
-    float number = 0; // single precision first: the last digits show it
+    float number = 0; // single precision first, as the last digits show
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     if (error == std::errc::result_out_of_range)
         return std::string(text);

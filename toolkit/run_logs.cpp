@@ -49,13 +49,13 @@ std::string two_digits(int number) {
     return {static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10)};
 }
 
-// Whether a run writes a log under such a name; a text beside a ".gol" is that one's export.
+// Whether a run would use that name for a log; a text with a ".gol" of that name is its export.
 bool is_log(std::string_view name) {
     return name.ends_with(".gol") || (name.ends_with(".txt") && !name.ends_with(".export.txt") &&
                                       !name.starts_with(prefix_of(TASK_RUN_LOG)));
 }
 
-// A file of the log folder itself.
+// A file directly in the log folder.
 bool plain_name(std::string_view name) {
     return !name.empty() && name != "." && name != ".." && !contains(name, "/") &&
            !contains(name, std::string_view("\0", 1));
@@ -124,7 +124,7 @@ bool mac_toolies::delete_a_log(std::string_view file_name) const {
     }
     const std::string path = log_folder() + "/" + std::string(file_name);
     if (std::remove(path.c_str()) == 0) {
-        std::remove(times_of_log(path).c_str()); // there need not be any
+        std::remove(times_of_log(path).c_str()); // may not exist
         return true;
     }
     qCWarning(log_toolkit, "oops: %s", std::generic_category().message(errno).c_str());

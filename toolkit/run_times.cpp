@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr std::size_t LONGEST_LINE = 24; // what is longer is no time
+constexpr std::size_t LONGEST_LINE = 24; // anything longer is not a time
 
 std::string two_digits(std::uint64_t number) {
     return (number < 10 ? "0" : "") + std::to_string(number);
@@ -19,7 +19,7 @@ run_times::run_times(const std::string& log)
 std::optional<std::uint64_t> run_times::next() {
     ++lines_;
     char line[LONGEST_LINE];
-    if (!file_.getline(line, sizeof line) || file_.eof()) // a line without its end is cut
+    if (!file_.getline(line, sizeof line) || file_.eof()) // a line without line end is truncated
         return std::nullopt;
     const std::string_view text(line);
     std::uint64_t time = 0;

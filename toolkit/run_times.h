@@ -1,6 +1,6 @@
-// When each round of a run was: the companion of a run log, named like it with ".times" behind. For
-// each line of the log it has one with the milliseconds from the run's first request to the filing
-// of the round's last reply. The log itself is the same with and without it.
+// The times of a run's rounds: the companion of a run log, named like it with ".times" appended.
+// For each line of the log it holds the milliseconds from the run's first request to the filing of
+// the round's last reply. The log itself does not depend on it.
 #pragma once
 
 #include <cstdint>
@@ -12,15 +12,15 @@ inline std::string times_of_log(const std::string& log) {
     return log + ".times";
 }
 
-// Reads a companion beside its log, line for line. One that is missing, short or damaged leaves
-// rounds without a time.
+// Reads a companion along with its log, line by line. If it is missing, short or damaged, rounds
+// have no time.
 class run_times {
   public:
     explicit run_times(const std::string& log);
 
     // The time of the log's next line.
     std::optional<std::uint64_t> next();
-    // Which rounds have had no time, with the companion's name; empty when all have had theirs.
+    // The rounds without a time so far, with the companion's name; empty if none.
     std::string complaint() const;
 
   private:

@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view ANSWER = "41";
 constexpr std::size_t HEAD = 4; // "41" and the parameter
 
-// What stands behind the header, of a single frame; empty for anything else.
+// The data after the header of a single frame; empty for anything else.
 std::string_view data_of(std::string_view reply) {
     if (reply.starts_with(ANSWER) || !is_hex(reply))
         return reply.starts_with(ANSWER) ? reply : std::string_view();
@@ -23,7 +23,7 @@ std::string_view data_of(std::string_view reply) {
     if (!line || line->form == header_form::none)
         return {};
     std::string_view data = line->data;
-    if (is_can(line->form)) { // its length, and fill up to a whole frame at most
+    if (is_can(line->form)) { // its length, and at most a full frame of padding
         const std::size_t digits = 2 * hex_value(data.substr(1, 1));
         const std::string_view behind = slice(data, 2 + digits);
         const bool whole =
@@ -36,7 +36,7 @@ std::string_view data_of(std::string_view reply) {
     return data.starts_with(ANSWER) ? data : std::string_view();
 }
 
-// Fuel trims: with four banks of cylinders a car tells of two at a time, and the first counts.
+// Fuel trims: with four banks of cylinders a car reports two at a time; the first counts.
 bool may_tell_of_two_banks(unsigned number) {
     return number >= 0x06 && number <= 0x09;
 }

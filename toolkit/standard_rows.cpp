@@ -54,7 +54,7 @@ constexpr value_range SHARES{0, 100}, TRIMS{-100, 100}, WARMTH{-40, 160}, EXHAUS
 constexpr std::string_view SENSORS = "B1S1|B1S2|B2S1|B2S2";
 constexpr std::string_view TIMERS = "1a|1b|2a|2b|3a|3b|4a|4b|5a|5b";
 
-// In brackets below 60: true values of rows that the named operations have as well.
+// Comments in brackets: true values of rows that the named operations also have.
 constexpr parameter_row PARAMETERS[] = {
     {0x01, 4, {0, 20}},
     {0x03, 2, NO_SPAN}, // (both systems)
@@ -230,7 +230,7 @@ constexpr number_row NUMBERS[] = {
     {0x77, 1, 1, &CELSIUS, 0, SENSORS},
     {0x78, 1, 2, &CELSIUS_TENTHS, 0, "sensor 1|sensor 2|sensor 3|sensor 4"},
     {0x79, 1, 2, &CELSIUS_TENTHS, 0, "sensor 1|sensor 2|sensor 3|sensor 4"},
-    {0x7A, 3, 2, &KPA_HUNDREDTHS, 1, "inlet|outlet"}, // lists differ on the pressure difference
+    {0x7A, 3, 2, &KPA_HUNDREDTHS, 1, "inlet|outlet"}, // sources differ on the pressure difference
     {0x7B, 3, 2, &KPA_HUNDREDTHS, 1, "inlet|outlet"},
     {0x7C, 1, 2, &CELSIUS_TENTHS, 0, "bank 1 inlet|bank 1 outlet|bank 2 inlet|bank 2 outlet"},
     {0x7F, 1, 4, &RUN_SECONDS, 0, "total|idling|with power take-off"},
@@ -248,7 +248,7 @@ constexpr number_row NUMBERS[] = {
     {0x8A, 1, 4, &RUN_SECONDS, 0, "16a|16b|17a|17b|18a|18b|19a|19b|20a|20b", 2},
     {0x8B, 2, 1, &PERCENT, 4, "trigger"},
     {0x8B, 5, 2, &KM, 6, "between regenerations"},
-    {0x8C, 9, 2, &WIDE_LAMBDA, 4, SENSORS}, // lists differ on the concentration
+    {0x8C, 9, 2, &WIDE_LAMBDA, 4, SENSORS}, // sources differ on the concentration
     {0x8D, 0, 1, &PERCENT},
     {0x8E, 0, 1, &TORQUE_SHARE},
     {0x8F, 2, 2, &HUNDREDTH_PERCENT, 1, "bank 1"},

@@ -25,30 +25,30 @@ struct parameter_row {
     value_range usual; // metric
     std::string_view name = {};
     std::uint8_t or_bytes = 0;
-    std::string_view nothing = "-"; // the text when none of its values is there
+    std::string_view nothing = "-"; // the text if none of its values is present
 };
 
 constexpr int ALWAYS = -1;
 
-// Numbers of the same scaling one after the other, as many as there are labels between bars.
+// Consecutive numbers of the same scaling, one per label; labels are separated by bars.
 struct number_row {
     std::uint8_t pid;
     std::uint8_t at, width;
     const scaling_rule* scaling;
-    // Bit of byte A that says whether the first one is there; the next bit is for the next.
+    // Bit of byte A that says whether the first number is present; the next bit is for the next.
     int support_bit = ALWAYS;
     std::string_view labels = {};
     int numbers_a_bit = 1;
-    int not_there = -1; // the value that stands for "none"
+    int not_there = -1; // the value that means "none"
 };
 
-// Bits of one byte, the lowest first, with what is said of a set one and of a clear one, between
-// bars; nothing is said where there is no text.
+// Bits of one byte, the lowest first, with texts for a set and a clear bit, separated by bars; an
+// empty text says nothing.
 struct flag_row {
     std::uint8_t pid;
     std::uint8_t at, first_bit;
     std::string_view set, clear = {};
-    int support_at = ALWAYS; // the byte whose bits, from `first_support` on, say which are there
+    int support_at = ALWAYS; // the byte whose bits, from `first_support` on, say which are present
     std::uint8_t first_support = 0;
 };
 
@@ -57,7 +57,7 @@ struct word {
     std::string_view text;
 };
 
-// What some bits of a byte mean together.
+// The meaning of several bits of a byte together.
 struct word_row {
     std::uint8_t pid;
     std::uint8_t at, mask;
@@ -65,7 +65,7 @@ struct word_row {
     int support_bit = ALWAYS; // of byte A
 };
 
-// In the order of their PIDs each.
+// Each in the order of PIDs.
 std::span<const parameter_row> standard_parameters();
 std::span<const number_row> standard_numbers();
 std::span<const flag_row> standard_flags();

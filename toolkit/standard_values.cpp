@@ -33,7 +33,7 @@ double shown(double metric_value, const quantity& unit, bool metric) {
     return metric ? metric_value : metric_value * unit.factor + unit.offset;
 }
 
-// The data bytes of one answer and what has been said of them so far.
+// The data bytes of one answer and the text built from them so far.
 class answer_reader {
   public:
     answer_reader(const parameter_row& row, std::string_view digits, bool metric)
@@ -58,7 +58,7 @@ class answer_reader {
     bool set(std::size_t at, int bit) const {
         return bit == ALWAYS || (bytes_.at(at) >> bit & 1) != 0;
     }
-    // What charts take of a parameter that is words only: its bytes as a number.
+    // The number for charts of a parameter in words: its bytes.
     double raw() const {
         double number = 0;
         for (const std::uint32_t byte : bytes_)
@@ -96,7 +96,7 @@ class answer_reader {
             number -= range;
         const quantity& unit = *rule.unit;
         const bool converted = !metric_ && unit.metric != unit.imperial;
-        // A finer unit for what was whole would make digits up; a coarser one needs them.
+        // A finer unit for a whole number would invent digits; a coarser one needs them.
         const int decimals = rule.decimals + (converted && unit.factor < 0.2 ? 2 : 0);
         std::string text =
             fixed_decimals(shown(number * rule.factor + rule.offset, unit, metric_), decimals);
@@ -154,8 +154,8 @@ std::string upper_case(std::string text) {
     return text;
 }
 
-// The digits of a long answer that the adapter has numbered the frames of; empty when they are not
-// those of one unit, in order and whole.
+// The digits of a long answer in numbered frames; empty unless the frames are of one unit, in order
+// and complete.
 std::string frames_joined(std::span<const std::string_view> lines) {
     frame_gatherer frames;
     if (lines.size() < 2 || !is_length_line(lines[0], "41"))

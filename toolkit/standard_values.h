@@ -1,6 +1,6 @@
-// Values of service 01 parameters and service 06 tests as the standard gives them (SAE J1979, ISO
-// 15031-5): of parameters that the named operations of mac_toolies have no row for, and of those
-// whose text there is known to mislead. Rows are data; standard_rows.cpp holds them.
+// Values of service 01 parameters and service 06 tests as the standard defines them (SAE J1979, ISO
+// 15031-5): for parameters without a row in the named operations of mac_toolies, and for those
+// whose text there misleads. The rows are in standard_rows.cpp.
 #pragma once
 
 #include "mac_toolies.h"
@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-// Data bytes of an answer: `bytes`, or in some cars `or_bytes`; 0 where the table has no row.
+// Data bytes of an answer: `bytes`, or in some cars `or_bytes`; 0 without a row.
 struct answer_length {
     unsigned bytes, or_bytes;
 };
@@ -19,24 +19,24 @@ bool has_standard_value(unsigned pid);
 std::string_view standard_name(unsigned pid);
 std::string_view standard_units(unsigned pid, bool metric);
 
-// From what cars show to what they show, in the units asked for: not all that the bytes can say.
+// The range that cars show, in these units; the bytes can express more.
 struct value_range {
     double low, high;
 };
 value_range standard_range(unsigned pid, bool metric);
 
-// The text and the number that charts take, the first of several; "-" and NaN when the answer says
-// that it holds none of its values, "~" and NaN when it is no whole answer to a parameter with a
+// The text and the number for charts (the first of several). "-" and NaN if the answer says that
+// none of its values is present, "~" and NaN if it is not a complete answer to a parameter with a
 // row. Only the first answer of the reply counts.
 translated standard_value(std::string_view reply, bool metric);
 
-// What a reply to a service 01 request says as digits: its first line that holds anything, without
-// blanks; of a parameter whose answers take more than one CAN frame those frames put together.
+// The digits of a reply to a service 01 request: its first non-empty line, without blanks; for a
+// parameter whose answers take several CAN frames, these frames assembled.
 std::string whole_answer(std::string_view reply);
 
-// A test value (two bytes in hex digits) by its unit-and-scaling identifier, the signed ones and
-// those that CAN_scale_and_units reads otherwise among them; empty for an identifier without a row.
+// A test value (two bytes in hex digits) by its unit-and-scaling identifier, including signed ones
+// and those that CAN_scale_and_units reads differently; empty for an identifier without a row.
 std::string standard_test_value(std::string_view identifier, std::string_view value);
 
-// Whether a test value can be scaled by that identifier, here or by CAN_scale_and_units.
+// Whether that identifier can be scaled, here or by CAN_scale_and_units.
 bool has_test_scaling(std::string_view identifier);

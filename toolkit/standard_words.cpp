@@ -21,7 +21,7 @@ constexpr word EMISSION[] = {{0x0E, "heavy duty Euro IV B1"},
                              {0x10, "heavy duty Euro EEV C"}};
 constexpr std::string_view NOT_TO_EXCEED =
     "inside the control area|outside the control area|inside a carve-out|deficiency active";
-// Of both boost and turbocharger control, which keep two turbochargers in one byte.
+// For boost and turbocharger control, which have two turbochargers in one byte.
 constexpr word CONTROL_A[] = {{1, "A open loop"}, {2, "A closed loop"}, {3, "A fault"}};
 constexpr word CONTROL_B[] = {{4, "B open loop"}, {8, "B closed loop"}, {12, "B fault"}};
 

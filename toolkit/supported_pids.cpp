@@ -5,11 +5,11 @@
 
 namespace {
 
-constexpr std::size_t MASK_AT = 4, MASK_DIGITS = 8; // behind "41" and the PID
+constexpr std::size_t MASK_AT = 4, MASK_DIGITS = 8; // after "41" and the PID
 constexpr unsigned PIDS_OF_A_GROUP = 0x20;
 
 void store_mask(int group, std::string_view mask) {
-    // What lies beyond PID 60 is never kept.
+    // Beyond PID 60 nothing is stored.
     bounded_text<16>* const masks[] = {&g_Supported_obd_mask_0, &g_Supported_obd_mask_1,
                                        &g_Supported_obd_mask_2};
     if (group >= 0 && group < 3)
@@ -18,8 +18,8 @@ void store_mask(int group, std::string_view mask) {
 
 } // namespace
 
-// The last engine line wins. Without one it is the first line that holds a mask, whoever sent it;
-// masks of several units are never combined.
+// The last engine line wins. Without one, the first line with a mask counts, from any unit; masks
+// of several units are never combined.
 void mac_toolies::handle_00_replies(std::string_view reply, int this_pid_group) {
     if (this_pid_group < 0 || this_pid_group > 7)
         return;
@@ -36,7 +36,7 @@ void mac_toolies::handle_00_replies(std::string_view reply, int this_pid_group) 
         mask = slice(std::string_view(one.data), MASK_AT, MASK_DIGITS);
         of_engine = of_engine || engine;
     }
-    // Another unit's counts only when the engine's is not among what could not be read.
+    // Another unit's mask counts only if the unread pieces do not include the engine's.
     if (!mask.empty() && (of_engine || read.unread.empty()))
         store_mask(this_pid_group, mask);
 }

@@ -26,10 +26,10 @@ text_dictionary::text_dictionary(std::string lines, std::string_view delimiter)
     if (delimiter.empty())
         return;
     entries_.reserve(static_cast<std::size_t>(std::ranges::count(*lines_, '\n')) + 1);
-    bool in_order = true; // as shipped tables are
+    bool in_order = true; // true for shipped tables
     std::string_view rest = *lines_;
     while (!rest.empty()) {
-        // Keys are short: walking them costs less than two searches of the line.
+        // Keys are short: a loop costs less than two searches of the line.
         std::size_t found = 0;
         while (found < rest.size() && rest[found] != '\n' &&
                (rest[found] != delimiter.front() ||
@@ -54,7 +54,7 @@ text_dictionary::const_iterator text_dictionary::find(std::string_view key) cons
 
 void text_dictionary::put_in_order() {
     std::stable_sort(entries_.begin(), entries_.end(), has_lower_key);
-    // Of several lines with one key, the last stays: seen from behind, the first.
+    // Of several lines with the same key the last counts: the first in reverse.
     const auto kept = std::unique(entries_.rbegin(), entries_.rend(), has_same_key);
     entries_.erase(entries_.begin(), kept.base());
 }

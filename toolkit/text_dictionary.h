@@ -1,6 +1,5 @@
-// A table of texts by key, read once from a text of lines and then only looked at. It owns that
-// text and points into it, so a line costs no allocation; copies share it. Owned by whoever asked
-// the toolkit for the table.
+// A table of texts by key, parsed once from lines of text, then read only. It owns that text and
+// points into it, so that a line costs no allocation; copies share it.
 #pragma once
 
 #include <memory>
@@ -16,12 +15,12 @@ class text_dictionary {
     using const_iterator = std::vector<entry>::const_iterator;
 
     text_dictionary() = default;
-    // A key is what stands before a line's first `delimiter`, without white space at its ends; its
-    // text is the rest of the line, delimiter included. The first line without a delimiter ends the
-    // table; a later line with the same key replaces the earlier one.
+    // A key is the part of a line before its first `delimiter`, trimmed; its text is the rest of
+    // the line, delimiter included. The first line without delimiter ends the table; a later line
+    // with the same key replaces the earlier one.
     text_dictionary(std::string lines, std::string_view delimiter);
 
-    const_iterator find(std::string_view key) const;          // end() when there is no such key
+    const_iterator find(std::string_view key) const;          // end() if absent
     const_iterator begin() const { return entries_.begin(); } // in the byte order of the keys
     const_iterator end() const { return entries_.end(); }
     bool empty() const { return entries_.empty(); }

@@ -14,13 +14,13 @@ constexpr std::string_view UNREADABLE = "~";
 constexpr std::string_view NO_ENTRY = "N/A";
 constexpr std::string_view LINE_ENDS = " \t\n\v\f\r>";
 constexpr std::size_t SHORTEST_REPLY = 5;
-constexpr std::size_t DATA_START = 4; // behind the service and the PID
+constexpr std::size_t DATA_START = 4; // after the service and the PID
 constexpr std::size_t MOST_NUMBERS = 3;
 constexpr std::size_t LONGEST_UNIT = 16;
 
 using text_room = char[MOST_NUMBERS * (FIXED_DECIMALS_ROOM + LONGEST_UNIT)];
 
-// The first line without blanks and prompt. The prompt of the command before may stand in front.
+// The first line without blanks and prompt. The prompt of the previous command may precede it.
 std::string spaceless_first_line(std::string_view reply) {
     std::string line;
     for (const char c : trimmed(reply, LINE_ENDS)) {
@@ -33,7 +33,7 @@ std::string spaceless_first_line(std::string_view reply) {
 }
 
 reply_data read_data(std::string_view line) {
-    // A lone digit is no data.
+    // A single digit is not data.
     const std::string_view digits =
         line.size() > DATA_START + 1 ? line.substr(DATA_START) : std::string_view();
     reply_data data;

@@ -2,10 +2,11 @@
 
 #include "globalVars.h"
 
-// Scalings after SAE J1979, service 01. Each is computed in the order written, since the last digit
-// shown depends on it. Some constants differ on purpose from the usual conversions (1.6 km a mile,
-// 7.5 g/s a lb/min, 0.145 and 6.895 for psi, 145 for evaporative pressure), and so does the reading
-// of a few rows (sign and magnitude for evaporative pressure, catalyst temperature from one byte).
+// Scalings after SAE J1979, service 01. Each is computed in the order written, because the last
+// digit shown depends on it. Some constants deliberately differ from the usual conversions (1.6 km
+// per mile, 7.5 g/s per lb/min, 0.145 and 6.895 for psi, 145 for evaporative pressure), as does the
+// interpretation of a few rows (sign and magnitude for evaporative pressure, catalyst temperature
+// from one byte).
 
 namespace {
 

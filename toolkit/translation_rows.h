@@ -7,7 +7,7 @@
 #include <span>
 #include <string_view>
 
-// The data bytes of one reply as the formulas read them.
+// The data bytes of one reply, as used by the formulas.
 struct reply_data {
     std::uint32_t whole = 0;  // all digits as one number
     std::uint32_t a = 0;      // first byte
@@ -22,10 +22,10 @@ struct number_part {
     int decimals;
     std::string_view after;
     std::string_view before = {};
-    bool (*stands)(const reply_data&) = nullptr; // left out where it says no
+    bool (*stands)(const reply_data&) = nullptr; // omitted if it returns false
 };
 
-// The text that stands for one code.
+// The text of one code.
 struct status_text {
     std::uint32_t code;
     std::string_view text;
@@ -35,7 +35,7 @@ struct translation_row {
     // Numbers, in the order of the text. Both empty: not a numeric row.
     std::span<const number_part> imperial = {};
     std::span<const number_part> metric = {};
-    // The status that byte A names, and the text of any other code.
+    // Texts for the codes of byte A, and the text for any other code.
     std::span<const status_text> statuses = {};
     std::string_view other_status = {};
     // A shipped table whose line n - 1 is the text of code n.

@@ -9,17 +9,17 @@
 
 namespace {
 
-// Where codes stand in an older bus's line, behind the service.
+// The positions of codes in an older bus's line, after the service.
 constexpr std::size_t CODE_PLACES[] = {2, 6, 10};
 
-// Whether the leading decimal digits are a number above 0.
+// Whether the leading decimal digits form a number above 0.
 bool has_decimal_value(std::string_view digits) {
     const std::string_view decimals = digits.substr(0, digits.find_first_not_of("0123456789"));
     return decimals.find_first_not_of('0') != decimals.npos;
 }
 
-// A line that broke off might as well be a whole one of CAN, which counts its codes first; only
-// headers are sure enough of the bus then.
+// A truncated line might also be a complete CAN line, which begins with a count; then only headers
+// are sufficient evidence of the bus.
 bool may_be_can(std::string_view line, bus_evidence bus) {
     return bus.source != bus_source::headers && bus.source != bus_source::handshake &&
            line.size() < LONGEST_FRAME_DIGITS &&
@@ -36,17 +36,25 @@ class codes_taker {
     }
 
     codes_reading take() {
-        for (const ecu_answer& one : reply_.answers)
+        for (const ecu_answer& one : reply_.answers) {
             if (halves_ == half_codes::left_unread && one.data.size() % 2 != 0)
-                continue; // all digits behind the one that is lost are at wrong places
-            else if (one.bus == bus_form::can)
+                continue; // all digits after the lost one are misplaced
+            if (one.bus == bus_form::can)
                 take_message(one);
             else
                 take_line(one);
+            result_.units.resize(result_.codes.size(), label_of(one));
+        }
         return std::move(result_);
     }
 
   private:
+    static std::string label_of(const ecu_answer& one) {
+        const std::string address = unit_address(one.form, one.header);
+        return one.unit.empty() || one.unit.starts_with("ECU") ? address
+                                                               : one.unit + " (" + address + ")";
+    }
+
     void add(std::string_view digits) {
         result_.codes.push_back(mac_toolies::pull_DTC_code(digits));
     }
@@ -58,8 +66,8 @@ class codes_taker {
             add(std::string_view(one.data).substr(at, CODE_DIGITS));
     }
 
-    // On the older buses three codes a line. The first place is always read, the others only with a
-    // decimal value: another code in them is told of, but stands in no table.
+    // On the older buses three codes per line. The first place is always read, the others only if
+    // their value is decimal: any other code there is reported as left out.
     void take_line(const ecu_answer& one) {
         std::string line = one.data;
         if (halves_ == half_codes::padded)
@@ -100,8 +108,9 @@ codes_reading read_codes(std::string_view service, std::string_view reply, bus_e
         return by_form;
     if (fits(by_other))
         return by_other;
-    if (!by_form.unread.empty()) { // either may be what a damaged line looks like
+    if (!by_form.unread.empty()) { // a damaged line may look like either
         by_form.codes.clear();
+        by_form.units.clear();
         by_form.unread.push_back({unread_kind::not_understood, {}});
     }
     return by_form;

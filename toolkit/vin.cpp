@@ -12,7 +12,7 @@ constexpr std::size_t LINE_SIZE = 14;   // "4902", message number, four bytes
 constexpr std::string_view NO_VIN = "N/A";
 constexpr std::string_view ANSWER = "4902";
 
-// Fill bytes of value 0 add nothing, nor does a place behind the text's end.
+// Padding bytes of value 0 add nothing, nor does a position after the end of the text.
 void append_character(std::string_view text, std::size_t position, std::string& vin) {
     const std::string_view digits = slice(text, position, 2);
     if (digits.size() < 2)
@@ -21,7 +21,7 @@ void append_character(std::string_view text, std::size_t position, std::string& 
         vin += static_cast<char>(value & 0xFF);
 }
 
-// A line each of four bytes; the first line's only last byte is a character.
+// Lines of four bytes; of the first line, only the last byte is a character.
 std::string vin_of_lines(const std::vector<std::string>& lines) {
     std::string vin;
     for (std::size_t i = 0; i < lines.size(); ++i) {
@@ -65,7 +65,7 @@ std::string mac_toolies::work_out_vin(std::string_view reply) {
 
 bool mac_toolies::is_whole_vin(std::string_view vin, std::string_view reply) {
     constexpr std::size_t VIN_LENGTH = 17;
-    // Frames are numbered from 0 on, the lines of the older buses from 1 on.
+    // Frames are numbered from 0, the lines of the older buses from 1.
     unsigned frames = 0, messages = 0;
     for (const std::string& line : reply_lines(reply)) {
         const std::string_view text = line;

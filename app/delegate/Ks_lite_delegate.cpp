@@ -5,6 +5,7 @@
 #include "default_settings.h"
 #include "globalVars.h"
 #include "system_log.h"
+#include "transports.h"
 #include "user_defaults.h"
 
 #include <QLayout>
@@ -28,20 +29,14 @@ Ks_lite_delegate::~Ks_lite_delegate() {
 
 void Ks_lite_delegate::load_settings() {
     user_defaults& store = doors_.defaults;
-    const int stored = store.integer(KS_INTERFACE_KEY);
-    if (stored == 0) { // first run
+    if (store.integer(KS_INTERFACE_KEY) == 0) { // first run
         use_default_settings(store);
         store.set_boolean(LOG_RUNS_KEY, false);
         store.synchronize();
         return;
     }
-    if (stored == KS_USE_BT) {
-        g_connect_with = KS_USE_BT;
-    } else { // any other value counts as Wi-Fi
-        g_connect_with = KS_USE_WIFI;
-        g_cur_wifi_IP = store.string(WIFI_IP_KEY);
-        g_cur_wifi_port = store.string(WIFI_PORT_KEY);
-    }
+    use_transport(stored_transport(store));
+    chosen_transport().load(store);
     g_metric_units = store.boolean(KS_METRIC_UNITS_KEY);
     g_log_runs = store.boolean(LOG_RUNS_KEY);
 }

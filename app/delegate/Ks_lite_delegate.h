@@ -12,6 +12,7 @@
 #include "reply_ledger.h"
 #include "run_loop.h"
 #include "screen_controller.h"
+#include "serial_port_list.h"
 #include "serial_port_profile.h"
 #include "stream_pair.h"
 
@@ -25,6 +26,7 @@
 class alerts;
 class bundle;
 class user_defaults;
+struct transport;
 class QWidget;
 class Ks_lite_delegate;
 
@@ -35,8 +37,10 @@ struct app_doors {
     user_defaults& defaults;
     const bundle& resources;
     notification_center& notifications;
-    stream_pair_factory make_streams;
+    stream_pair_factory make_streams; // over TCP
     serial_port_profile& bluetooth;
+    stream_pair_factory make_serial_streams = {};
+    serial_port_lister serial_ports = {};
 };
 
 // Makes the controller of an interface file; nothing when it cannot be loaded.
@@ -108,6 +112,14 @@ class Ks_lite_delegate {
     // long although a reply is awaited.
     bool link_in_doubt() const;
     reply_ledger& replies() { return ledger_; }
+    // What is told where the link could not begin to open and no event will say why; else empty.
+    std::string advice() const;
+
+    // Operations of the table of transports.
+    bool openTCP_socky();
+    void sendOBDcmd_TCP(std::string_view command);
+    bool openSerialPortProfile();
+    void sendOBDcmd_BT(std::string_view command);
 
   private:
     // shell
@@ -124,20 +136,16 @@ class Ks_lite_delegate {
     void work_over_new_link(const std::string& message);
     void drop_link();
 
-    // TCP
-    bool openTCP_socky();
+    // streams
     void connectToServerUsingCFStream(const std::string& host, long portNo);
     void stream(stream_side side, int handleEvent);
     void stream_opened();
     void bytes_available();
-    void sendOBDcmd_TCP(std::string_view command);
     void tcpTimeOutHandler(std::uint64_t attempt);
 
     // Bluetooth
-    bool openSerialPortProfile();
     std::shared_ptr<bluetooth_device> choose_bluetooth_device();
     std::shared_ptr<bluetooth_device> last_bluetooth_device() const;
-    void sendOBDcmd_BT(std::string_view command);
     rfcomm_channel_delegate channel_callbacks();
     void drop_channel();
     void rfcommChannelOpenComplete(int status);
@@ -162,14 +170,15 @@ class Ks_lite_delegate {
 
     // What the settings named when the link was opened last.
     struct adapter_choice {
-        int transport = 0; // none
-        std::string host, port;
+        const transport* way = nullptr; // none
+        std::string address;
         bool operator==(const adapter_choice&) const = default;
     };
     static adapter_choice chosen_adapter();
     adapter_choice opened_to_;
-    std::uint64_t attempt_ = 0;    // counts them: the events of an abandoned one are nobody's
-    bool only_connecting_ = false; // no task waits for the link that is coming up
+    std::uint64_t attempt_ = 0;      // counts them: the events of an abandoned one are nobody's
+    bool only_connecting_ = false;   // no task waits for the link that is coming up
+    const transport* way_ = nullptr; // of the streams
     std::unique_ptr<stream_pair> streams_;
     enum class attempt_state {
         none,

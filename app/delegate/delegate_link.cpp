@@ -3,6 +3,7 @@
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
 #include "system_log.h"
+#include "transports.h"
 
 void Ks_lite_delegate::sendOBDcmd(std::string_view command) {
     // The timer armed before is left running on purpose: if it belongs to a command that is still
@@ -14,10 +15,7 @@ void Ks_lite_delegate::sendOBDcmd(std::string_view command) {
                                         });
     qCDebug(log_link, "sent %.*s", static_cast<int>(command.size()), command.data());
     only_connecting_ = false;
-    if (g_connect_with == KS_USE_BT)
-        sendOBDcmd_BT(command);
-    else
-        sendOBDcmd_TCP(command);
+    (this->*chosen_transport().send)(command);
 }
 
 void Ks_lite_delegate::obdTimedOutHandler() {
@@ -46,7 +44,7 @@ void Ks_lite_delegate::post_received(const std::string& text) {
 
 bool Ks_lite_delegate::openInterfaceConnection() {
     only_connecting_ = false;
-    return g_connect_with == KS_USE_BT ? openSerialPortProfile() : openTCP_socky();
+    return (this->*chosen_transport().open)();
 }
 
 void Ks_lite_delegate::l_work_current_task(const std::string* message) {
@@ -87,13 +85,12 @@ bool Ks_lite_delegate::link_in_doubt() const {
 }
 
 Ks_lite_delegate::adapter_choice Ks_lite_delegate::chosen_adapter() {
-    if (g_connect_with == KS_USE_BT)
-        return {KS_USE_BT, {}, {}};
-    return {KS_USE_WIFI, g_cur_wifi_IP, g_cur_wifi_port};
+    const transport& way = chosen_transport();
+    return {&way, way.address().typed};
 }
 
 void Ks_lite_delegate::settings_left() {
-    if (opened_to_.transport == 0 || opened_to_ == chosen_adapter())
+    if (!opened_to_.way || opened_to_ == chosen_adapter())
         return;
     drop_link();
 }
@@ -106,9 +103,14 @@ void Ks_lite_delegate::reconnect() {
         only_connecting_ = true;
         return;
     }
-    if (g_connect_with == KS_USE_BT)
-        l_set_status_msg(doors_.bluetooth.advice());
+    if (const std::string told = advice(); !told.empty())
+        l_set_status_msg(told);
     set_doubt(true);
+}
+
+std::string Ks_lite_delegate::advice() const {
+    const auto told = chosen_transport().advice;
+    return told ? told(doors_) : std::string();
 }
 
 // Closes the link and forgets what a new start of the program would not know.

@@ -1,11 +1,12 @@
-// The Wi-Fi transport: a TCP connection to the adapter. A lost connection still counts as open;
-// only another adapter in the preferences, or the user who wants it back, connects again.
+// The transports that are streams: a TCP connection to the adapter, or a serial port. A lost
+// connection still counts as open; only another adapter in the preferences, or the user who wants
+// it back, connects again.
 #include "bundle.h"
 #include "globalVars.h"
 #include "Ks_lite_delegate.h"
 #include "system_log.h"
+#include "transports.h"
 
-#include <charconv>
 #include <exception>
 
 namespace {
@@ -13,26 +14,17 @@ namespace {
 constexpr std::size_t READ_SIZE = 1024;
 constexpr std::chrono::seconds FIRST_COMMAND_DELAY{1};
 
-// Decimal value of the leading digits; no number: 0. A number beyond long is beyond every port too.
-long decimal_value(const std::string& text) {
-    const std::size_t start = text.find_first_not_of(" \t");
-    if (start == std::string::npos)
-        return 0;
-    long number = 0;
-    const auto read = std::from_chars(text.data() + start, text.data() + text.size(), number);
-    return read.ec == std::errc::result_out_of_range ? 65536 : number;
-}
-
 } // namespace
 
 bool Ks_lite_delegate::openTCP_socky() {
     if (connected_2_WIFI_interface)
         return true;
-    const long port = decimal_value(g_cur_wifi_port);
-    connectToServerUsingCFStream(g_cur_wifi_IP, port);
+    way_ = &chosen_transport();
+    const stream_address address = way_->address();
+    connectToServerUsingCFStream(address.name, address.number);
     doors_.loop.after(TCP_TIME_OUT, [this, attempt = attempt_] { tcpTimeOutHandler(attempt); });
     sent_1st_cmd = false;
-    l_set_status_msg("Trying: " + g_cur_wifi_IP + ":" + std::to_string(port) + " ");
+    l_set_status_msg("Trying: " + address.shown + " ");
     return false;
 }
 
@@ -40,7 +32,8 @@ void Ks_lite_delegate::connectToServerUsingCFStream(const std::string& host, lon
     const std::uint64_t attempt = ++attempt_;
     attempt_state_ = attempt_state::none;
     opened_to_ = chosen_adapter();
-    streams_ = doors_.make_streams(host, portNo); // a pair before this one is closed with it
+    const stream_pair_factory& make = doors_.*(way_->make_streams);
+    streams_ = make ? make(host, portNo) : nullptr; // a pair before this one is closed with it
     if (!streams_)
         return;
     attempt_state_ = attempt_state::connecting;
@@ -85,7 +78,7 @@ void Ks_lite_delegate::stream_opened() {
     qCDebug(log_link, "Connected\n");
     connected_2_WIFI_interface = true;
     attempt_state_ = attempt_state::opened;
-    l_set_status_msg("TCP Connected!! ... Sending intial request");
+    l_set_status_msg(way_->connected_text);
     if (sent_1st_cmd)
         return;
     sent_1st_cmd = true;
@@ -120,7 +113,7 @@ void Ks_lite_delegate::sendOBDcmd_TCP(std::string_view command) {
 
 void Ks_lite_delegate::tcpTimeOutHandler(std::uint64_t attempt) {
     if (attempt == attempt_ && attempt_state_ == attempt_state::connecting)
-        l_set_status_msg(doors_.resources.localized("tcp_no_answer_yet_MSG"));
+        l_set_status_msg(doors_.resources.localized(way_->slow_key));
 }
 
 void Ks_lite_delegate::disconnect() {

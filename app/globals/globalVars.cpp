@@ -1,8 +1,11 @@
 #include "globalVars.h"
 
 int g_connect_with = 0;
+bool g_stream_is_serial = false;
 std::string g_cur_wifi_IP;
 std::string g_cur_wifi_port;
+std::string g_cur_serial_port;
+int g_cur_serial_speed = 0;
 bool g_metric_units = false;
 bool g_log_runs = false;
 int g_this_delta = 0;
@@ -35,8 +38,11 @@ bool connecting_2_car_port = false;
 
 void reset_global_vars() {
     g_connect_with = 0;
+    g_stream_is_serial = false;
     g_cur_wifi_IP.clear();
     g_cur_wifi_port.clear();
+    g_cur_serial_port.clear();
+    g_cur_serial_speed = 0;
     g_metric_units = false;
     g_log_runs = false;
     g_this_delta = 0;

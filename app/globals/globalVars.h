@@ -27,8 +27,11 @@ class bounded_text {
 };
 
 extern int g_connect_with;        // transport: KS_USE_BT or KS_USE_WIFI
+extern bool g_stream_is_serial;   // of KS_USE_WIFI: a serial port
 extern std::string g_cur_wifi_IP; // adapter address and port, as typed
 extern std::string g_cur_wifi_port;
+extern std::string g_cur_serial_port;
+extern int g_cur_serial_speed; // 0: the usual ones are tried
 extern bool g_metric_units;
 extern bool g_log_runs;
 extern int g_this_delta;    // reply time-out in seconds

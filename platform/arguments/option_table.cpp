@@ -15,7 +15,7 @@ bool optional_value(const option_text& option) {
     return option.value.starts_with("[");
 }
 
-// What a value is one of; empty when it is anything.
+// The allowed values; empty if any is allowed.
 std::vector<std::string_view> choices(const option_text& option) {
     const bool listed =
         contains(option.value, "|") &&
@@ -28,8 +28,8 @@ QString plain_name(const option_text& option) {
     return QLatin1String(name.data(), static_cast<qsizetype>(name.size()));
 }
 
-// Qt knows no option whose value may be left out: without one it gets an empty one. A character
-// stands for a byte, so that a name of a file passes whatever its bytes are.
+// Qt has no options with an optional value: here a missing value is passed as an empty one. Each
+// character is one byte, so that file names of any bytes pass.
 QStringList words_for_qt(std::span<const option_text> table,
                          std::span<const std::string> arguments) {
     QStringList words{QString()}; // the program

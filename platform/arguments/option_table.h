@@ -1,5 +1,5 @@
-// The options of a program as rows of one table: the words of its command line are read by it, and
-// its help is written from it. Qt's QCommandLineParser takes the words apart.
+// A program's options as rows of one table, used to read its command line and to write its help.
+// Qt's QCommandLineParser does the parsing.
 #pragma once
 
 #include <charconv>
@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-// Why a command line makes no sense, in a sentence without its end.
+// Why a command line is invalid, as a sentence without its end.
 struct usage_error : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
@@ -21,14 +21,14 @@ struct option_text {
     std::string_view name; // "--pids", "-o"
     std::string_view
         value{}; // empty: a switch; "[=CAR]": may be left out; "log|fuel": one of these
-    std::string_view effect{}; // for the help; its further lines are indented there
-    // Words with blanks between them: what it goes with (empty: everything), and the options that
-    // it excludes.
+    std::string_view effect{}; // for the help, which indents its further lines
+    // Words separated by blanks: what it belongs to (empty: everything), and the options that it
+    // excludes.
     std::string_view belongs{};
     std::string_view excludes{};
 };
 
-// A row of the table, and what is done with the option.
+// A row of the table, and its effect on the request.
 template <typename REQUEST>
 struct option_row {
     option_text text;
@@ -37,14 +37,13 @@ struct option_row {
 
 struct words_read {
     std::vector<std::pair<std::size_t, std::string>> options; // rows and values, in the order given
-    std::vector<std::string> others;                          // what is no option
+    std::vector<std::string> others;                          // what is not an option
 };
 
 // Throws usage_error.
 words_read read_words(std::span<const option_text> table, std::span<const std::string> arguments);
 
-// Throws usage_error when an option that was given does not go with any of `subjects`; `what` names
-// them.
+// Throws usage_error if a given option does not belong to any of `subjects`; `what` names them.
 void check_belonging(std::span<const option_text> table, const words_read& words,
                      std::span<const std::string_view> subjects, std::string_view what);
 
@@ -65,7 +64,7 @@ std::vector<option_text> texts_of(std::span<const option_row<REQUEST>> table) {
     return texts;
 }
 
-// All of the text a number in [lowest, highest]; throws usage_error.
+// The whole text as a number in [lowest, highest]; throws usage_error.
 template <typename NUMBER>
 NUMBER read_number(const std::string& option, std::string_view text, NUMBER lowest,
                    NUMBER highest) {

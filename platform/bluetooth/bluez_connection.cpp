@@ -1,10 +1,9 @@
 #include "bluez_connection.h"
 
+#include "bluez_call.h"
+#include "low_energy_port.h"
 #include "system_log.h"
 
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
 #include <QDBusVirtualObject>
 
@@ -16,19 +15,8 @@ namespace {
 
 constexpr int HAND_OVER_MS = 3'000; // between BlueZ's "connected" and its descriptor
 
-template <class handler>
-void when_answered(QObject* owner, const QDBusPendingCall& call, handler handle) {
-    auto* answer = new QDBusPendingCallWatcher(call, owner);
-    QObject::connect(answer, &QDBusPendingCallWatcher::finished, owner,
-                     [handle](QDBusPendingCallWatcher* done) {
-                         done->deleteLater();
-                         handle(done->reply());
-                     });
-}
-
 QDBusMessage manager_call(const char* method, const QString& path) {
-    QDBusMessage message = QDBusMessage::createMethodCall(
-        BLUEZ, BLUEZ_ROOT, PROFILE_MANAGER_INTERFACE, QLatin1String(method));
+    QDBusMessage message = bluez_call(BLUEZ_ROOT, PROFILE_MANAGER_INTERFACE, method);
     message << QVariant::fromValue(QDBusObjectPath(path));
     return message;
 }
@@ -106,7 +94,7 @@ void bluez_connection::follow_devices() {
     if (!device_path_.isEmpty()) {
         if (!device)
             finish(bluetooth_problem::out_of_reach); // BlueZ has forgotten it meanwhile
-        else if (device->connected)
+        else if (low_energy_ ? low_energy_->asked() : device->connected)
             reach_limit_.stop();
         return;
     }
@@ -126,9 +114,17 @@ void bluez_connection::connect_device(const bluetooth_entry& device) {
     device_path_ = device.path;
     connected_before_ = device.connected;
     devices_.stop_search(); // a search slows connecting down
-    if (!device.connected)
+    low_energy_too_ = device.low_energy;
+    over_classic_ = fallen_back_
+                        ? !over_classic_
+                        : device.classic &&
+                              (device.classic_port != serial_port_offer::no || !device.low_energy);
+    if (!device.connected || !over_classic_)
         reach_limit_.start(REACH_MS);
-    register_profile();
+    if (over_classic_)
+        register_profile();
+    else
+        open_low_energy();
 }
 
 void bluez_connection::register_profile() {
@@ -137,31 +133,71 @@ void bluez_connection::register_profile() {
     message << SERIAL_PORT_UUID_TEXT
             << QVariantMap{{QStringLiteral("Role"), QStringLiteral("client")},
                            {QStringLiteral("Name"), QStringLiteral("Kestrom")}};
-    when_answered(this, devices_.bus().asyncCall(message), [this](const QDBusMessage& reply) {
-        if (finished_)
-            return;
-        if (reply.type() == QDBusMessage::ErrorMessage)
-            call_failed(reply);
-        else
-            connect_profile();
-    });
+    when_answered(profile_.get(), devices_.bus().asyncCall(message),
+                  [this](const QDBusMessage& reply) {
+                      if (finished_)
+                          return;
+                      if (is_error(reply))
+                          call_failed(reply);
+                      else
+                          connect_profile();
+                  });
 }
 
 void bluez_connection::connect_profile() {
     connecting_ = true;
-    QDBusMessage message = QDBusMessage::createMethodCall(BLUEZ, device_path_, DEVICE_INTERFACE,
-                                                          QStringLiteral("ConnectProfile"));
+    QDBusMessage message = bluez_call(device_path_, DEVICE_INTERFACE, "ConnectProfile");
     message << SERIAL_PORT_UUID_TEXT;
-    when_answered(this, devices_.bus().asyncCall(message, 2 * TOTAL_MS),
+    when_answered(profile_.get(), devices_.bus().asyncCall(message, 2 * TOTAL_MS),
                   [this](const QDBusMessage& reply) {
                       if (finished_)
                           return;
-                      if (reply.type() == QDBusMessage::ErrorMessage)
+                      if (is_error(reply))
                           call_failed(reply);
                       else // connected already, for somebody else, if nothing is handed over
                           QTimer::singleShot(HAND_OVER_MS, this,
                                              [this] { finish(bluetooth_problem::in_use); });
                   });
+}
+
+// A dual adapter may have its serial port on the other side only, and BlueZ finds out about a
+// device that has not shown its kind.
+bool bluez_connection::falls_back(bluetooth_problem problem) const {
+    if (fallen_back_ || device_path_.isEmpty())
+        return false;
+    const auto device = devices_.find(address_);
+    const bool other_kind =
+        over_classic_ ? low_energy_too_ : device && device->classic_port == serial_port_offer::yes;
+    return other_kind &&
+           (problem == bluetooth_problem::no_serial_port || problem == bluetooth_problem::refused ||
+            problem == bluetooth_problem::out_of_reach);
+}
+
+// From the start: BlueZ may have forgotten the device that it did not reach.
+void bluez_connection::fall_back(bluetooth_problem problem) {
+    fallen_back_ = true;
+    first_problem_ = problem;
+    if (made_link())
+        devices_.disconnect_device(device_path_); // or BlueZ would go on over the same link
+    device_path_.clear();
+    searched_ = false;
+    if (profile_) // this may be an answer to it
+        profile_.release()->deleteLater();
+    if (low_energy_)
+        low_energy_.release()->deleteLater();
+    total_limit_.start(TOTAL_MS);
+    QMetaObject::invokeMethod(this, &bluez_connection::follow_devices, Qt::QueuedConnection);
+}
+
+void bluez_connection::open_low_energy() {
+    connecting_ = true;
+    low_energy_ = std::make_unique<low_energy_port>(devices_, device_path_);
+    connect(low_energy_.get(), &low_energy_port::opened, this,
+            [this] { new_connection(low_energy_->take_descriptor()); });
+    connect(low_energy_.get(), &low_energy_port::failed, this, [this](const QDBusMessage& reply) {
+        if (!finished_)
+            call_failed(reply);
+    });
 }
 
 void bluez_connection::call_failed(const QDBusMessage& reply) {
@@ -195,8 +231,13 @@ void bluez_connection::take_back() {
 void bluez_connection::finish(bluetooth_problem problem) {
     if (finished_)
         return;
+    if (falls_back(problem)) {
+        fall_back(problem);
+        return;
+    }
     finished_ = true;
-    problem_ = problem;
+    problem_ =
+        fallen_back_ && problem == bluetooth_problem::no_serial_port ? first_problem_ : problem;
     reach_limit_.stop();
     total_limit_.stop();
     if (problem != bluetooth_problem::none)

@@ -1,7 +1,8 @@
 // One attempt to get the serial port of one Bluetooth device from BlueZ: find the device, register
 // as a client of the Serial Port profile, let BlueZ look up the service, pair if need be and
-// connect, and take the descriptor it hands over. Lives as long as the channel: without the
-// registration BlueZ would close it.
+// connect, and take the descriptor it hands over. A Low Energy device, a dual one without the
+// classic serial port, and one that has not shown its kind are left to low_energy_port. Lives as
+// long as the channel: without the registration BlueZ would close it.
 #pragma once
 
 #include "bluez_devices.h"
@@ -13,6 +14,7 @@
 #include <optional>
 #include <string>
 
+class low_energy_port;
 class profile_object;
 class QDBusMessage;
 
@@ -47,6 +49,9 @@ class bluez_connection final : public QObject {
     void connect_device(const bluetooth_entry& device);
     void register_profile();
     void connect_profile();
+    bool falls_back(bluetooth_problem problem) const;
+    void fall_back(bluetooth_problem problem);
+    void open_low_energy();
     void call_failed(const QDBusMessage& reply);
     void new_connection(int descriptor);
     void finish(bluetooth_problem problem);
@@ -56,6 +61,11 @@ class bluez_connection final : public QObject {
     std::string address_;
     QString device_path_; // empty until BlueZ knows the device
     std::unique_ptr<profile_object> profile_;
+    std::unique_ptr<low_energy_port> low_energy_;
+    bool over_classic_ = false; // else over Low Energy
+    bool low_energy_too_ = false;
+    bool fallen_back_ = false; // from the other of the two, for the first problem
+    bluetooth_problem first_problem_ = bluetooth_problem::none;
     QTimer reach_limit_, total_limit_;
     bool searched_ = false;
     bool connecting_ = false;

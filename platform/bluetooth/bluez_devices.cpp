@@ -1,23 +1,64 @@
 #include "bluez_devices.h"
 
+#include "bluez_call.h"
 #include "system_log.h"
 
 #include <QDBusArgument>
 #include <QDBusError>
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 
 #include <algorithm>
 
 namespace {
 
-QDBusMessage call(const QString& path, const QString& interface, const char* method) {
-    return QDBusMessage::createMethodCall(BLUEZ, path, interface, QLatin1String(method));
-}
-
 bool switched_on(const interface_properties& interfaces) {
     return interfaces.value(ADAPTER_INTERFACE).value(QStringLiteral("Powered")).toBool();
+}
+
+constexpr int NOT_MEASURED = 127; // by the controller
+constexpr char NO_CLASSIC = 0x04; // in a Low Energy device's advertisement
+
+// What a device's kind shows in: a classic one tells its class when it is found, a Low Energy one
+// has a random address, a serial service, or flags in its advertisement, which not every BlueZ
+// tells.
+void tell_kind(bluetooth_entry& device, const QVariantMap& properties, bool serial_service) {
+    const QByteArray flags = properties.value(QStringLiteral("AdvertisingFlags")).toByteArray();
+    const bool random =
+        properties.value(QStringLiteral("AddressType")).toString() == QLatin1String("random");
+    device.low_energy = random || serial_service || !flags.isEmpty();
+    device.classic = !random && (device.classic_port == serial_port_offer::yes ||
+                                 properties.value(QStringLiteral("Class")).toUInt() != 0 ||
+                                 (!flags.isEmpty() && !(flags.front() & NO_CLASSIC)));
+}
+
+bluetooth_entry entry(const QString& path, const QVariantMap& properties) {
+    const auto text = [&](const char* key) {
+        return properties.value(QLatin1String(key)).toString();
+    };
+    const auto flag = [&](const char* key) {
+        return properties.value(QLatin1String(key)).toBool();
+    };
+    bluetooth_entry found;
+    found.path = path;
+    found.address = text("Address").toStdString();
+    found.name = text("Name").toStdString();
+    if (found.name.empty())
+        found.name = found.address;
+    if (const QVariant signal = properties.value(QStringLiteral("RSSI"));
+        signal.isValid() && signal.toInt() != NOT_MEASURED)
+        found.signal = signal.toInt();
+    found.paired = flag("Paired");
+    found.connected = flag("Connected");
+    found.resolved = flag("ServicesResolved");
+    const QStringList services = properties.value(QStringLiteral("UUIDs")).toStringList();
+    const bool all_known = found.resolved || (found.paired && !services.isEmpty());
+    const bool serial_service = std::ranges::any_of(services, is_serial_service);
+    if (services.contains(SERIAL_PORT_UUID_TEXT, Qt::CaseInsensitive))
+        found.classic_port = serial_port_offer::yes;
+    else if (all_known)
+        found.classic_port = serial_port_offer::no;
+    found.serial_port = serial_service ? serial_port_offer::yes : found.classic_port;
+    tell_kind(found, properties, serial_service);
+    return found;
 }
 
 bool is_hex(char c) {
@@ -69,15 +110,16 @@ bluez_devices::~bluez_devices() {
 void bluez_devices::load() {
     // Not by a pending-call watcher: one that finds its answer there already reports it behind
     // signals that came later, and the list would lose what they brought.
-    bus_.callWithCallback(call(QStringLiteral("/"), OBJECT_MANAGER_INTERFACE, "GetManagedObjects"),
-                          this, SLOT(take(QDBusMessage)), SLOT(load_failed(QDBusError)));
+    bus_.callWithCallback(
+        bluez_call(QStringLiteral("/"), OBJECT_MANAGER_INTERFACE, "GetManagedObjects"), this,
+        SLOT(take(QDBusMessage)), SLOT(load_failed(QDBusError)));
 }
 
 void bluez_devices::load_now(int limit_ms) {
     if (!starting_)
         return;
     QDBusMessage question =
-        call(QStringLiteral("/"), OBJECT_MANAGER_INTERFACE, "GetManagedObjects");
+        bluez_call(QStringLiteral("/"), OBJECT_MANAGER_INTERFACE, "GetManagedObjects");
     question.setAutoStartService(false); // starting it takes longer than anybody may block
     const QDBusMessage reply = bus_.call(question, QDBus::Block, limit_ms);
     if (reply.type() == QDBusMessage::ReplyMessage) // else load()'s answer is still to come
@@ -201,18 +243,14 @@ void bluez_devices::search() {
 void bluez_devices::start_search() {
     searching_ = true;
     search_limit_.start(SEARCH_MS);
-    // Adapters with a serial port are classic Bluetooth. Without the filter it is found as well.
-    QDBusMessage filter = call(adapter_, ADAPTER_INTERFACE, "SetDiscoveryFilter");
-    filter << QVariantMap{{QStringLiteral("Transport"), QStringLiteral("bredr")}};
+    QDBusMessage filter = bluez_call(adapter_, ADAPTER_INTERFACE, "SetDiscoveryFilter");
+    filter << QVariantMap{{QStringLiteral("Transport"), QStringLiteral("auto")}}; // both kinds
     bus_.asyncCall(filter);
-    auto* answer = new QDBusPendingCallWatcher(
-        bus_.asyncCall(call(adapter_, ADAPTER_INTERFACE, "StartDiscovery")), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this,
-            [this](QDBusPendingCallWatcher* done) {
-                done->deleteLater();
-                if (done->isError())
-                    search_failed(done->reply());
-            });
+    when_answered(this, bus_.asyncCall(bluez_call(adapter_, ADAPTER_INTERFACE, "StartDiscovery")),
+                  [this](const QDBusMessage& reply) {
+                      if (is_error(reply))
+                          search_failed(reply);
+                  });
 }
 
 void bluez_devices::search_failed(const QDBusMessage& reply) {
@@ -231,62 +269,38 @@ void bluez_devices::stop_search() {
     if (!searching_)
         return;
     searching_ = false;
-    bus_.asyncCall(call(adapter_, ADAPTER_INTERFACE, "StopDiscovery"));
+    bus_.asyncCall(bluez_call(adapter_, ADAPTER_INTERFACE, "StopDiscovery"));
     Q_EMIT changed();
 }
 
 void bluez_devices::disconnect_device(const QString& path) {
     disconnecting_.insert(path);
-    auto* answer = new QDBusPendingCallWatcher(
-        bus_.asyncCall(call(path, DEVICE_INTERFACE, "Disconnect")), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this,
-            [this, path](QDBusPendingCallWatcher* done) {
-                done->deleteLater();
-                disconnecting_.remove(path);
-                const bool gone = !done->isError() ||
-                                  done->reply().errorName().endsWith(QLatin1String("NotConnected"));
-                // The signal comes after the answer.
-                if (const auto object = objects_.find(path); gone && object != objects_.end())
-                    object->interfaces[DEVICE_INTERFACE][QStringLiteral("Connected")] = false;
-                Q_EMIT changed();
-            });
+    when_answered(this, bus_.asyncCall(bluez_call(path, DEVICE_INTERFACE, "Disconnect")),
+                  [this, path](const QDBusMessage& reply) {
+                      disconnecting_.remove(path);
+                      const bool gone = !is_error(reply) ||
+                                        reply.errorName().endsWith(QLatin1String("NotConnected"));
+                      // The signal comes after the answer.
+                      if (const auto object = objects_.find(path); gone && object != objects_.end())
+                          for (const char* state : {"Connected", "ServicesResolved"})
+                              object->interfaces[DEVICE_INTERFACE][QLatin1String(state)] = false;
+                      Q_EMIT changed();
+                  });
 }
 
-bluetooth_entry bluez_devices::entry(const QString& path, const QVariantMap& properties) const {
-    const auto text = [&](const char* key) {
-        return properties.value(QLatin1String(key)).toString();
-    };
-    const auto flag = [&](const char* key) {
-        return properties.value(QLatin1String(key)).toBool();
-    };
-    bluetooth_entry found;
-    found.path = path;
-    found.address = text("Address").toStdString();
-    found.name = text("Name").toStdString();
-    if (found.name.empty())
-        found.name = found.address;
-    if (const QVariant signal = properties.value(QStringLiteral("RSSI")); signal.isValid())
-        found.signal = signal.toInt();
-    found.paired = flag("Paired");
-    found.connected = flag("Connected");
-    const QStringList services = properties.value(QStringLiteral("UUIDs")).toStringList();
-    if (services.contains(SERIAL_PORT_UUID_TEXT, Qt::CaseInsensitive))
-        found.serial_port = serial_port_offer::yes;
-    else if (flag("ServicesResolved") || (found.paired && !services.isEmpty()))
-        found.serial_port = serial_port_offer::no;
-    return found;
+bool bluez_devices::is_device(const QString& path, const known_object& object) const {
+    return object.interfaces.contains(DEVICE_INTERFACE) && path.startsWith(adapter_ + u'/');
 }
 
 std::vector<bluetooth_entry> bluez_devices::devices() const {
     std::vector<std::pair<quint64, bluetooth_entry>> found;
     for (auto object = objects_.begin(); object != objects_.end(); ++object) {
-        const QVariantMap properties = object->interfaces.value(DEVICE_INTERFACE);
-        if (properties.isEmpty() || !object.key().startsWith(adapter_ + u'/'))
+        if (!is_device(object.key(), *object))
             continue;
-        // A random address belongs to a Low Energy device, which has no serial port.
-        if (properties.value(QStringLiteral("AddressType")).toString() == QLatin1String("random"))
-            continue;
-        found.emplace_back(object->order, entry(object.key(), properties));
+        bluetooth_entry device = entry(object.key(), object->interfaces.value(DEVICE_INTERFACE));
+        if (device.classic || !device.low_energy || device.paired ||
+            device.name != device.address || device.serial_port == serial_port_offer::yes)
+            found.emplace_back(object->order, std::move(device));
     }
     std::ranges::sort(found, [](const auto& a, const auto& b) {
         if (a.second.paired != b.second.paired)
@@ -302,8 +316,35 @@ std::vector<bluetooth_entry> bluez_devices::devices() const {
 }
 
 std::optional<bluetooth_entry> bluez_devices::find(std::string_view address) const {
-    for (bluetooth_entry& device : devices())
-        if (device.address == address)
-            return std::move(device);
+    for (auto object = objects_.begin(); object != objects_.end(); ++object)
+        if (is_device(object.key(), *object) &&
+            object->interfaces.value(DEVICE_INTERFACE).value(QStringLiteral("Address")) ==
+                QString::fromUtf8(address.data(), static_cast<qsizetype>(address.size())))
+            return find_path(object.key());
     return std::nullopt;
+}
+
+std::optional<bluetooth_entry> bluez_devices::find_path(const QString& path) const {
+    const auto object = objects_.find(path);
+    if (object == objects_.end() || !is_device(path, *object))
+        return std::nullopt;
+    return entry(path, object->interfaces.value(DEVICE_INTERFACE));
+}
+
+std::vector<gatt_characteristic> bluez_devices::characteristics(const QString& device) const {
+    std::vector<gatt_characteristic> found;
+    for (auto object = objects_.begin(); object != objects_.end(); ++object) {
+        const QVariantMap properties = object->interfaces.value(CHARACTERISTIC_INTERFACE);
+        if (properties.isEmpty() || !object.key().startsWith(device + u'/'))
+            continue;
+        const QString service =
+            qvariant_cast<QDBusObjectPath>(properties.value(QStringLiteral("Service"))).path();
+        found.push_back({object.key(), properties.value(QStringLiteral("UUID")).toString(),
+                         objects_.value(service)
+                             .interfaces.value(SERVICE_INTERFACE)
+                             .value(QStringLiteral("UUID"))
+                             .toString(),
+                         properties.value(QStringLiteral("Flags")).toStringList()});
+    }
+    return found;
 }

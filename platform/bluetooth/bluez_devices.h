@@ -5,6 +5,7 @@
 
 #include "bluetooth_problem.h"
 #include "bluez_names.h"
+#include "gatt_serial.h"
 
 #include <QDBusConnection>
 #include <QDBusServiceWatcher>
@@ -29,7 +30,12 @@ struct bluetooth_entry {
     std::optional<int> signal; // dBm, of the running or last search
     bool paired = false;
     bool connected = false;
-    serial_port_offer serial_port = serial_port_offer::unknown;
+    bool resolved = false; // connected, and asked for its services
+    // Its kind; a dual device is both, and neither is one that has not shown it.
+    bool classic = false;
+    bool low_energy = false;
+    serial_port_offer classic_port = serial_port_offer::unknown;
+    serial_port_offer serial_port = serial_port_offer::unknown; // of either kind
 };
 
 // "00:1A:7D:DA:71:13" from any case, with colons or dashes; nothing when the text is no address.
@@ -50,8 +56,13 @@ class bluez_devices final : public QObject {
     bluetooth_problem problem() const;
     bool searching() const { return searching_; }
     // Those of the adapter in use: paired ones first by name, then the others as they were found.
+    // Not those that only advertise and tell neither a name nor a serial port: beacons and the
+    // like.
     std::vector<bluetooth_entry> devices() const;
-    std::optional<bluetooth_entry> find(std::string_view address) const;
+    std::optional<bluetooth_entry> find(std::string_view address) const; // any
+    std::optional<bluetooth_entry> find_path(const QString& path) const;
+    // Of a Low Energy device that has told its services.
+    std::vector<gatt_characteristic> characteristics(const QString& device) const;
 
     // Searches for SEARCH_MS, as soon as BlueZ is ready; a running search begins anew.
     void search();
@@ -85,7 +96,7 @@ class bluez_devices final : public QObject {
     void search_failed(const QDBusMessage& reply);
     void choose_adapter();
     void service_went();
-    bluetooth_entry entry(const QString& path, const QVariantMap& properties) const;
+    bool is_device(const QString& path, const known_object& object) const;
 
     QDBusConnection bus_;
     QDBusServiceWatcher watcher_;

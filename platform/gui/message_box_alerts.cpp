@@ -12,7 +12,7 @@
 
 namespace {
 
-// A message may quote a reply of any length; the buttons must stay on the screen.
+// A message may quote a reply of any length; the buttons must stay on screen.
 QString shortened(QString text) {
     constexpr qsizetype MOST_CHARACTERS = 1500, MOST_LINES = 20;
     const qsizetype end = text.size();
@@ -20,7 +20,8 @@ QString shortened(QString text) {
     return text.size() < end ? text + QChar(0x2026) : text;
 }
 
-// A long text in lines of a readable length: by itself the box makes it a narrow, high column.
+// Breaks a long text into lines of a readable length: by default the box makes it a narrow, tall
+// column.
 void widen_for(QMessageBox& box, qsizetype characters) {
     constexpr qsizetype LONG = 600;
     constexpr int WIDTH = 720, EDGES = 64;

@@ -30,7 +30,7 @@ void tcp_stream_pair::open(event_handler handler) {
     connect(&socket_, &QTcpSocket::readyRead, this, &tcp_stream_pair::received);
     connect(&socket_, &QTcpSocket::errorOccurred, this, &tcp_stream_pair::failed);
     connect(&socket_, &QTcpSocket::disconnected, this, &tcp_stream_pair::disconnected);
-    // A proxy of the desktop's has no business between the program and the adapter.
+    // The desktop's proxy settings do not apply to an adapter.
     socket_.setProxy(QNetworkProxy::NoProxy);
     socket_.setReadBufferSize(READ_BUFFER); // a flood waits in the kernel, not in our memory
     socket_.connectToHost(QString::fromStdString(host_), static_cast<quint16>(port_));
@@ -44,9 +44,9 @@ void tcp_stream_pair::connected() {
     raise(stream_side::output, STREAM_SPACE_AVAILABLE);
 }
 
-// Some adapters write a reply in pieces with Nagle's algorithm on; a delayed acknowledgement would
-// then cost 40 ms a request. The kernel drops the option now and then, so it is set again after
-// each read that no command follows; a command takes the acknowledgement with it.
+// Some adapters write a reply in pieces with Nagle's algorithm on; a delayed acknowledgement then
+// costs 40 ms per request. The kernel resets the option now and then, so it is set again after each
+// read that no command follows; a command carries the acknowledgement with it.
 void tcp_stream_pair::acknowledge_at_once() {
     const int on = 1;
     ::setsockopt(static_cast<int>(socket_.socketDescriptor()), IPPROTO_TCP, TCP_QUICKACK, &on,
@@ -57,7 +57,8 @@ void tcp_stream_pair::received() {
     if (bytes_announced_ || ended_)
         return;
     bytes_announced_ = true;
-    // At once: a turn of the event loop for every reply would cost a third of the sampling rate.
+    // Immediately: waiting a turn of the event loop for every reply would cost a third of the
+    // sampling rate.
     loop_.from_event_loop(event(stream_side::input, STREAM_BYTES_AVAILABLE));
 }
 
@@ -65,7 +66,7 @@ std::string tcp_stream_pair::read(std::size_t most) {
     bytes_announced_ = false;
     const QByteArray bytes = socket_.read(static_cast<qint64>(most));
     written_since_read_ = false;
-    // What is left raises no signal of the socket's: announce it here.
+    // The socket does not signal again for the remaining bytes: announce them here.
     if (socket_.bytesAvailable() > 0) {
         bytes_announced_ = true;
         raise(stream_side::input, STREAM_BYTES_AVAILABLE);
@@ -79,8 +80,8 @@ void tcp_stream_pair::write(std::string_view bytes) {
     if (socket_.state() != QAbstractSocket::ConnectedState)
         return;
     written_since_read_ = true;
-    // Straight to the system when nothing waits in front: through the socket's buffer every command
-    // would switch its write notifier on and off, which is three more calls into the system.
+    // Directly to the system if nothing is queued: through the socket's buffer, every command would
+    // switch its write notifier on and off, which costs three more system calls.
     ssize_t sent = 0;
     if (socket_.bytesToWrite() == 0)
         sent = std::max<ssize_t>(::send(static_cast<int>(socket_.socketDescriptor()), bytes.data(),
@@ -89,14 +90,14 @@ void tcp_stream_pair::write(std::string_view bytes) {
     bytes.remove_prefix(static_cast<std::size_t>(sent));
     if (bytes.empty())
         return;
-    // What did not fit, or met an error, which the socket then reports.
+    // What did not fit, or failed; the socket then reports the error.
     socket_.write(bytes.data(), static_cast<qint64>(bytes.size()));
     socket_.flush();
 }
 
 void tcp_stream_pair::failed(QAbstractSocket::SocketError error) {
     if (error == QAbstractSocket::RemoteHostClosedError)
-        return; // disconnected() tells it as the end
+        return; // disconnected() reports it as the end
     error_ = socket_.errorString().toStdString();
     raise(stream_side::input, STREAM_ERROR);
 }
@@ -132,7 +133,8 @@ std::function<void()> tcp_stream_pair::event(stream_side side, int event_code) {
             return;
         if (!written_since_read_ && socket_.socketDescriptor() != -1)
             acknowledge_at_once();
-        // What came under a dialog of the handler's raised no signal: this one was still out.
+        // Bytes that arrived during a dialog of the handler raised no signal, since this one had
+        // not returned.
         if (socket_.bytesAvailable() > 0 && !bytes_announced_) {
             bytes_announced_ = true;
             raise(stream_side::input, STREAM_BYTES_AVAILABLE);

@@ -36,7 +36,7 @@ class tcp_stream_pair final : public QObject, public stream_pair {
     QTcpSocket socket_;
     event_handler handler_;
     std::string error_;
-    // Scheduled events hold this weakly, so that a pair that is gone raises nothing.
+    // Scheduled events hold a weak pointer to this, so that a destroyed pair raises none.
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
     bool bytes_announced_ = false;
     bool written_since_read_ = false;

@@ -49,9 +49,15 @@ QByteArray rendered(const car_report& report, const report_sheet& sheet, renderi
 
 std::optional<std::string> write_whole(const std::string& path, const QByteArray& bytes) {
     QSaveFile file(QString::fromStdString(path));
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+    if (!file.open(QIODevice::WriteOnly))
+        return file.errorString().toStdString();
+    // On a full disk a large write is cut off without an error.
+    const bool whole =
+        file.write(bytes) == bytes.size() && file.flush() && file.size() == bytes.size();
+    if (whole && file.commit())
         return std::nullopt;
-    return file.errorString().toStdString();
+    return file.error() == QFileDevice::NoError ? "the disk is full"
+                                                : file.errorString().toStdString();
 }
 
 std::optional<std::string> read_whole(const std::string& path, std::string& why) {

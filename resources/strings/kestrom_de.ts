@@ -7,7 +7,7 @@
         <source></source>
         <translation>Kestrom liest die On-Board-Diagnose (OBD-II) Ihres Autos über einen Adapter vom Typ ELM327.
 
-Verbinden: Stecken Sie den Adapter in die Diagnosebuchse des Autos, meist unter dem Lenkrad, und schalten Sie die Zündung ein. Bei einem WLAN-Adapter verbinden Sie diesen Rechner zuerst mit dem Funknetz des Adapters, wählen dann in den Einstellungen WLAN und tragen Adresse und Port ein (meist 192.168.0.10 und 35000). Bei einem Bluetooth-Adapter wählen Sie Bluetooth; beim ersten Lesen oder Messen wählen Sie das Gerät.
+Verbinden: Stecken Sie den Adapter in die Diagnosebuchse des Autos, meist unter dem Lenkrad, und schalten Sie die Zündung ein. Bei einem WLAN-Adapter verbinden Sie diesen Rechner zuerst mit dem Funknetz des Adapters, wählen dann in den Einstellungen WLAN und tragen Adresse und Port ein (meist 192.168.0.10 und 35000). Bei einem Bluetooth-Adapter wählen Sie Bluetooth; beim ersten Lesen oder Messen wählen Sie das Gerät. Bei einem Kabel wählen Sie den Anschluss. Mehr sagen die Kurzhinweise dort.
 
 Fehlercodes: „Codes lesen“ zeigt die gespeicherten Codes mit ihrer Bedeutung, die Motorkontrollleuchte und die Prüfbereitschaft (Readiness). „Codes löschen“ löscht die Codes, schaltet die Leuchte aus und setzt die Prüfbereitschaft zurück; tun Sie das bei stehendem Motor und erst, wenn Sie die Codes notiert haben.
 
@@ -47,6 +47,16 @@ Bitte prüfen Sie:
 • Kein Telefon und kein anderes Programm benutzt den Adapter gleichzeitig.
 • Das Auto unterstützt OBD-II.</translation>
     </message>
+    <message id="no_reply_from_car_MSG_serial">
+        <source></source>
+        <translation>Der Adapter funktioniert, aber das Auto hat nicht geantwortet.
+
+Bitte prüfen Sie:
+• Die Zündung ist eingeschaltet oder der Motor läuft.
+• Der Adapter sitzt fest in der Diagnosebuchse.
+• Kein anderes Programm benutzt den Adapter gleichzeitig.
+• Das Auto unterstützt OBD-II.</translation>
+    </message>
     <message id="init_OBD_error_MSG">
         <source></source>
         <translation>Der Adapter konnte den Diagnosebus des Autos nicht starten. Schalten Sie die Zündung aus und wieder ein, prüfen Sie, dass der Adapter fest in der Diagnosebuchse sitzt, und versuchen Sie es noch einmal.</translation>
@@ -66,6 +76,34 @@ Bitte prüfen Sie:
     <message id="tcp_no_answer_yet_MSG">
         <source></source>
         <translation>Der Adapter hat noch nicht geantwortet. Prüfen Sie, ob dieser Rechner im Funknetz des Adapters ist und ob Adresse und Port stimmen.</translation>
+    </message>
+    <message id="serial_no_answer_yet_MSG">
+        <source></source>
+        <translation>Der Adapter hat noch nicht geantwortet. Prüfen Sie das Kabel und den Anschluss in den Einstellungen.</translation>
+    </message>
+    <message id="serial_not_there">
+        <source></source>
+        <translation>%1 ist nicht da. Stecken Sie den Adapter ein, oder wählen Sie in den Einstellungen einen anderen Anschluss.</translation>
+    </message>
+    <message id="serial_taken">
+        <source></source>
+        <translation>%1 ist verschwunden: Ein anderer Dienst hat sich das Kabel des Adapters genommen. Meist ist es brltty, für Braillezeilen. Wenn es niemand braucht, geben Sie in einem Terminal „sudo apt remove brltty“ ein und stecken den Adapter neu ein.</translation>
+    </message>
+    <message id="serial_not_permitted">
+        <source></source>
+        <translation>Sie dürfen %1 nicht benutzen: Der Anschluss gehört der Gruppe %2. Geben Sie in einem Terminal „sudo usermod -a -G %2 $USER“ ein, melden Sie sich ab und wieder an.</translation>
+    </message>
+    <message id="serial_busy">
+        <source></source>
+        <translation>Ein anderes Programm hat %1 geöffnet. Schließen Sie es und versuchen Sie es noch einmal. ModemManager gibt den Anschluss binnen einer halben Minute selbst frei.</translation>
+    </message>
+    <message id="serial_silent">
+        <source></source>
+        <translation>An %1 antwortet kein Adapter (versucht: %2 Baud). Prüfen Sie, ob es der Anschluss des Adapters ist, ob der Adapter in der Diagnosebuchse steckt, und die Geschwindigkeit in den Einstellungen.</translation>
+    </message>
+    <message id="serial_other">
+        <source></source>
+        <translation>%1 lässt sich nicht benutzen: %2</translation>
     </message>
     <message id="bt_no_adapter_MSG">
         <source></source>
@@ -90,6 +128,10 @@ Bitte prüfen Sie:
     <message id="ui_start_bluetooth">
         <source></source>
         <translation>&amp;Bluetooth-Adapter</translation>
+    </message>
+    <message id="ui_start_serial">
+        <source></source>
+        <translation>USB- oder serielles &amp;Kabel</translation>
     </message>
     <message id="ui_start_demo">
         <source></source>
@@ -434,6 +476,38 @@ Die Namen der Prüfungen sind englisch.</translation>
         <source></source>
         <translation>&amp;WLAN</translation>
     </message>
+    <message id="ui_serial">
+        <source></source>
+        <translation>USB- oder serielles &amp;Kabel</translation>
+    </message>
+    <message id="ui_serial_speed">
+        <source></source>
+        <translation>Tempo:</translation>
+    </message>
+    <message id="ui_serial_auto">
+        <source></source>
+        <translation>durch Probieren</translation>
+    </message>
+    <message id="ui_serial_absent">
+        <source></source>
+        <translation>%1 (nicht eingesteckt)</translation>
+    </message>
+    <message id="ui_serial_none">
+        <source></source>
+        <translation>keiner eingesteckt</translation>
+    </message>
+    <message id="ui_kind_bluetooth">
+        <source></source>
+        <translation>Braucht nur den Adapter; koppeln Sie ihn hier oder in den Einstellungen des Desktops. Tempo: mittel. Wenn es nicht geht: aus- und einstecken, und kein Telefon darf ihn haben.</translation>
+    </message>
+    <message id="ui_kind_wifi">
+        <source></source>
+        <translation>Braucht diesen Rechner im eigenen Funknetz des Adapters, oft ohne Internet. Tempo: gut. Wenn es nicht geht: dem Netz neu beitreten, Adresse und Port prüfen.</translation>
+    </message>
+    <message id="ui_kind_serial">
+        <source></source>
+        <translation>Braucht einen freien Anschluss und das Recht daran. Tempo: gut, höchstens das des Kabels. Wenn es nicht geht: Kabel neu einstecken; die Meldung sagt, wer den Anschluss hat oder welche Gruppe ihn benutzen darf.</translation>
+    </message>
     <message id="ui_address">
         <source></source>
         <translation>&amp;Adresse:</translation>
@@ -605,6 +679,22 @@ Die Namen der Prüfungen sind englisch.</translation>
     <message id="bt_col_serial">
         <source></source>
         <translation>Serielle Schnittstelle</translation>
+    </message>
+    <message id="bt_col_kind">
+        <source></source>
+        <translation>Art</translation>
+    </message>
+    <message id="bt_classic">
+        <source></source>
+        <translation>Klassisch</translation>
+    </message>
+    <message id="bt_low_energy">
+        <source></source>
+        <translation>Low Energy</translation>
+    </message>
+    <message id="bt_both_kinds">
+        <source></source>
+        <translation>beide</translation>
     </message>
     <message id="bt_yes">
         <source></source>
@@ -1011,7 +1101,7 @@ Freie Software unter der MIT-Lizenz.
     </message>
     <message id="report_vin_odd">
         <source></source>
-        <translation>%1 (keine Nummer nach Norm)</translation>
+        <translation>%1 (keine Nummer nach Norm: %2)</translation>
     </message>
     <message id="report_vins_differ">
         <source></source>
@@ -1240,14 +1330,6 @@ Freie Software unter der MIT-Lizenz.
     <message id="report_partly">
         <source></source>
         <translation>ein Teil davon war nicht lesbar</translation>
-    </message>
-    <message id="report_all_units">
-        <source></source>
-        <translation>alle Steuergeräte</translation>
-    </message>
-    <message id="report_unit">
-        <source></source>
-        <translation>Steuergerät %1</translation>
     </message>
     <message id="report_request">
         <source></source>
@@ -1485,10 +1567,6 @@ Freie Software unter der MIT-Lizenz.
         <source></source>
         <translation>Das Löschen entfernt auch Umgebungsdaten und Testergebnisse. Der gelesene Bericht enthält sie.</translation>
     </message>
-    <message id="ui_report_show">
-        <source></source>
-        <translation>Bericht zeigen</translation>
-    </message>
     <message id="ui_report_go_on">
         <source></source>
         <translation>Ohne Speichern weiter</translation>
@@ -1496,6 +1574,134 @@ Freie Software unter der MIT-Lizenz.
     <message id="report_none_so_far">
         <source></source>
         <translation>keine, soweit mitgeteilt</translation>
+    </message>
+    <message id="ui_report_save_first">
+        <source></source>
+        <translation>Speichern unter…</translation>
+    </message>
+    <message id="ui_report_text_file">
+        <source></source>
+        <translation>Text</translation>
+    </message>
+    <message id="report_off_so_far">
+        <source></source>
+        <translation>aus, soweit mitgeteilt</translation>
+    </message>
+    <message id="report_why_put_off">
+        <source></source>
+        <translation>das Steuergerät bat um Geduld und antwortete nicht innerhalb der Frist</translation>
+    </message>
+    <message id="ui_report_opened">
+        <source></source>
+        <translation>Geöffnet: %1</translation>
+    </message>
+    <message id="ui_code_from">
+        <source></source>
+        <translation>Vom Steuergerät: %1</translation>
+    </message>
+    <message id="report_name_Misfire">
+        <source></source>
+        <translation>Zündaussetzer</translation>
+    </message>
+    <message id="report_name_Fuel system">
+        <source></source>
+        <translation>Kraftstoffsystem</translation>
+    </message>
+    <message id="report_name_Comprehensive components">
+        <source></source>
+        <translation>Bauteile insgesamt</translation>
+    </message>
+    <message id="report_name_Catalyst">
+        <source></source>
+        <translation>Katalysator</translation>
+    </message>
+    <message id="report_name_Heated catalyst">
+        <source></source>
+        <translation>Beheizter Katalysator</translation>
+    </message>
+    <message id="report_name_Evaporative system">
+        <source></source>
+        <translation>Tankentlüftung</translation>
+    </message>
+    <message id="report_name_Secondary air system">
+        <source></source>
+        <translation>Sekundärluft</translation>
+    </message>
+    <message id="report_name_A/C refrigerant / petrol particulate filter">
+        <source></source>
+        <translation>Kältemittel / Otto-Partikelfilter</translation>
+    </message>
+    <message id="report_name_O2 sensor">
+        <source></source>
+        <translation>Lambdasonde</translation>
+    </message>
+    <message id="report_name_O2 sensor heater">
+        <source></source>
+        <translation>Heizung der Lambdasonde</translation>
+    </message>
+    <message id="report_name_EGR/VVT system">
+        <source></source>
+        <translation>AGR/VVT-System</translation>
+    </message>
+    <message id="report_name_NMHC catalyst">
+        <source></source>
+        <translation>NMHC-Katalysator</translation>
+    </message>
+    <message id="report_name_NOx/SCR aftertreatment">
+        <source></source>
+        <translation>NOx/SCR-Nachbehandlung</translation>
+    </message>
+    <message id="report_name_Boost pressure">
+        <source></source>
+        <translation>Ladedruck</translation>
+    </message>
+    <message id="report_name_Exhaust gas sensor">
+        <source></source>
+        <translation>Abgassensor</translation>
+    </message>
+    <message id="report_name_Particulate filter">
+        <source></source>
+        <translation>Partikelfilter</translation>
+    </message>
+    <message id="report_name_OBD monitoring conditions met">
+        <source></source>
+        <translation>Bedingungen für OBD-Prüfungen erfüllt</translation>
+    </message>
+    <message id="report_name_Ignition cycles">
+        <source></source>
+        <translation>Zündzyklen</translation>
+    </message>
+    <message id="report_name_Catalyst, bank 1">
+        <source></source>
+        <translation>Katalysator, Bank 1</translation>
+    </message>
+    <message id="report_name_Catalyst, bank 2">
+        <source></source>
+        <translation>Katalysator, Bank 2</translation>
+    </message>
+    <message id="report_name_O2 sensor, bank 1">
+        <source></source>
+        <translation>Lambdasonde, Bank 1</translation>
+    </message>
+    <message id="report_name_O2 sensor, bank 2">
+        <source></source>
+        <translation>Lambdasonde, Bank 2</translation>
+    </message>
+    <message id="report_name_Secondary O2 sensor, bank 1">
+        <source></source>
+        <translation>Zweite Lambdasonde, Bank 1</translation>
+    </message>
+    <message id="report_name_Secondary O2 sensor, bank 2">
+        <source></source>
+        <translation>Zweite Lambdasonde, Bank 2</translation>
+    </message>
+    <message id="report_name_NOx catalyst">
+        <source></source>
+        <translation>NOx-Katalysator</translation>
+    </message>
+    <message id="report_name_NOx adsorber">
+        <source></source>
+        <translation>NOx-Speicher</translation>
     </message>
 </context>
 </TS>

@@ -7,7 +7,7 @@
         <source></source>
         <translation>Kestrom reads your car's on-board diagnostics (OBD-II) through an ELM327-type adapter.
 
-Connect: plug the adapter into the car's diagnostic port, usually below the steering wheel, and switch the ignition on. For a Wi-Fi adapter, join the adapter's own wireless network first, then choose Wi-Fi in Preferences and enter its address and port (most use 192.168.0.10 and 35000). For a Bluetooth adapter, choose Bluetooth; the first task you start asks which device to use.
+Connect: plug the adapter into the car's diagnostic port, usually below the steering wheel, and switch the ignition on. For a Wi-Fi adapter, join the adapter's own wireless network first, then choose Wi-Fi in Preferences and enter its address and port (most use 192.168.0.10 and 35000). For a Bluetooth adapter, choose Bluetooth; the first task you start asks which device to use. For a cable, choose its port. The tooltips there tell more.
 
 Trouble codes: “Read codes” shows the stored codes with their meaning, the malfunction lamp and the readiness monitors. “Clear codes” erases the codes, switches the lamp off and resets the monitors; do it with the engine off, and only after writing the codes down.
 
@@ -47,6 +47,16 @@ Please check:
 • No phone or other program uses the adapter at the same time.
 • The car supports OBD-II.</translation>
     </message>
+    <message id="no_reply_from_car_MSG_serial">
+        <source></source>
+        <translation>The adapter works, but the car did not answer.
+
+Please check:
+• The ignition is on, or the engine is running.
+• The adapter sits firmly in the diagnostic port.
+• No other program uses the adapter at the same time.
+• The car supports OBD-II.</translation>
+    </message>
     <message id="init_OBD_error_MSG">
         <source></source>
         <translation>The adapter could not start the car's diagnostic bus. Switch the ignition off and on again, make sure that the adapter sits firmly in the diagnostic port, and try once more.</translation>
@@ -66,6 +76,34 @@ Please check:
     <message id="tcp_no_answer_yet_MSG">
         <source></source>
         <translation>The adapter has not answered yet. Check that this computer is in the adapter's wireless network and that address and port are right.</translation>
+    </message>
+    <message id="serial_no_answer_yet_MSG">
+        <source></source>
+        <translation>The adapter has not answered yet. Check the cable and the port in the preferences.</translation>
+    </message>
+    <message id="serial_not_there">
+        <source></source>
+        <translation>%1 is not there. Plug the adapter in, or choose another port in the preferences.</translation>
+    </message>
+    <message id="serial_taken">
+        <source></source>
+        <translation>%1 has gone: another service has taken the adapter's cable. Mostly it is brltty, for Braille displays. If nobody needs it, type “sudo apt remove brltty” in a terminal and plug the adapter in again.</translation>
+    </message>
+    <message id="serial_not_permitted">
+        <source></source>
+        <translation>You may not use %1: it belongs to the group %2. Type “sudo usermod -a -G %2 $USER” in a terminal, then log out and in again.</translation>
+    </message>
+    <message id="serial_busy">
+        <source></source>
+        <translation>Another program has %1 open. Close it, and try again. ModemManager lets go by itself within half a minute.</translation>
+    </message>
+    <message id="serial_silent">
+        <source></source>
+        <translation>No adapter answers at %1 (tried: %2 baud). Check that it is the adapter's port, that the adapter is in the diagnostic port, and the speed in the preferences.</translation>
+    </message>
+    <message id="serial_other">
+        <source></source>
+        <translation>%1 cannot be used: %2</translation>
     </message>
     <message id="bt_no_adapter_MSG">
         <source></source>
@@ -90,6 +128,10 @@ Please check:
     <message id="ui_start_bluetooth">
         <source></source>
         <translation>&amp;Bluetooth adapter</translation>
+    </message>
+    <message id="ui_start_serial">
+        <source></source>
+        <translation>&amp;USB or serial cable</translation>
     </message>
     <message id="ui_start_demo">
         <source></source>
@@ -433,6 +475,38 @@ N/A: this car does not have this monitor</translation>
         <source></source>
         <translation>&amp;Wi-Fi</translation>
     </message>
+    <message id="ui_serial">
+        <source></source>
+        <translation>U&amp;SB or serial cable</translation>
+    </message>
+    <message id="ui_serial_speed">
+        <source></source>
+        <translation>Speed:</translation>
+    </message>
+    <message id="ui_serial_auto">
+        <source></source>
+        <translation>found by trying</translation>
+    </message>
+    <message id="ui_serial_absent">
+        <source></source>
+        <translation>%1 (not plugged in)</translation>
+    </message>
+    <message id="ui_serial_none">
+        <source></source>
+        <translation>none is plugged in</translation>
+    </message>
+    <message id="ui_kind_bluetooth">
+        <source></source>
+        <translation>Needs nothing but the adapter; pair it here or in the desktop's settings. Speed: middling. When it fails: unplug it, plug it in, and see that no phone has it.</translation>
+    </message>
+    <message id="ui_kind_wifi">
+        <source></source>
+        <translation>Needs this computer in the adapter's own wireless network, often without internet. Speed: good. When it fails: join that network again, check address and port.</translation>
+    </message>
+    <message id="ui_kind_serial">
+        <source></source>
+        <translation>Needs a free port and the right to use it. Speed: good, at most that of the cable. When it fails: plug the cable in again; the message tells who has the port or which group may use it.</translation>
+    </message>
     <message id="ui_address">
         <source></source>
         <translation>Add&amp;ress:</translation>
@@ -604,6 +678,22 @@ N/A: this car does not have this monitor</translation>
     <message id="bt_col_serial">
         <source></source>
         <translation>Serial port</translation>
+    </message>
+    <message id="bt_col_kind">
+        <source></source>
+        <translation>Kind</translation>
+    </message>
+    <message id="bt_classic">
+        <source></source>
+        <translation>Classic</translation>
+    </message>
+    <message id="bt_low_energy">
+        <source></source>
+        <translation>Low Energy</translation>
+    </message>
+    <message id="bt_both_kinds">
+        <source></source>
+        <translation>both</translation>
     </message>
     <message id="bt_yes">
         <source></source>
@@ -1010,7 +1100,7 @@ Free software under the MIT licence.
     </message>
     <message id="report_vin_odd">
         <source></source>
-        <translation>%1 (not a standard number)</translation>
+        <translation>%1 (not a standard number: %2)</translation>
     </message>
     <message id="report_vins_differ">
         <source></source>
@@ -1239,14 +1329,6 @@ Free software under the MIT licence.
     <message id="report_partly">
         <source></source>
         <translation>a part of it could not be read</translation>
-    </message>
-    <message id="report_all_units">
-        <source></source>
-        <translation>all units</translation>
-    </message>
-    <message id="report_unit">
-        <source></source>
-        <translation>unit %1</translation>
     </message>
     <message id="report_request">
         <source></source>
@@ -1484,10 +1566,6 @@ Free software under the MIT licence.
         <source></source>
         <translation>Clearing also erases freeze frames and test results. The report that was read holds them.</translation>
     </message>
-    <message id="ui_report_show">
-        <source></source>
-        <translation>Show the report</translation>
-    </message>
     <message id="ui_report_go_on">
         <source></source>
         <translation>Go on without saving</translation>
@@ -1495,6 +1573,134 @@ Free software under the MIT licence.
     <message id="report_none_so_far">
         <source></source>
         <translation>none, as far as told</translation>
+    </message>
+    <message id="ui_report_save_first">
+        <source></source>
+        <translation>Save as…</translation>
+    </message>
+    <message id="ui_report_text_file">
+        <source></source>
+        <translation>Text</translation>
+    </message>
+    <message id="report_off_so_far">
+        <source></source>
+        <translation>off, as far as told</translation>
+    </message>
+    <message id="report_why_put_off">
+        <source></source>
+        <translation>the unit asked to wait and did not answer in time</translation>
+    </message>
+    <message id="ui_report_opened">
+        <source></source>
+        <translation>Opened: %1</translation>
+    </message>
+    <message id="ui_code_from">
+        <source></source>
+        <translation>From control unit: %1</translation>
+    </message>
+    <message id="report_name_Misfire">
+        <source></source>
+        <translation>Misfire</translation>
+    </message>
+    <message id="report_name_Fuel system">
+        <source></source>
+        <translation>Fuel system</translation>
+    </message>
+    <message id="report_name_Comprehensive components">
+        <source></source>
+        <translation>Comprehensive components</translation>
+    </message>
+    <message id="report_name_Catalyst">
+        <source></source>
+        <translation>Catalyst</translation>
+    </message>
+    <message id="report_name_Heated catalyst">
+        <source></source>
+        <translation>Heated catalyst</translation>
+    </message>
+    <message id="report_name_Evaporative system">
+        <source></source>
+        <translation>Evaporative system</translation>
+    </message>
+    <message id="report_name_Secondary air system">
+        <source></source>
+        <translation>Secondary air system</translation>
+    </message>
+    <message id="report_name_A/C refrigerant / petrol particulate filter">
+        <source></source>
+        <translation>A/C refrigerant / petrol particulate filter</translation>
+    </message>
+    <message id="report_name_O2 sensor">
+        <source></source>
+        <translation>O2 sensor</translation>
+    </message>
+    <message id="report_name_O2 sensor heater">
+        <source></source>
+        <translation>O2 sensor heater</translation>
+    </message>
+    <message id="report_name_EGR/VVT system">
+        <source></source>
+        <translation>EGR/VVT system</translation>
+    </message>
+    <message id="report_name_NMHC catalyst">
+        <source></source>
+        <translation>NMHC catalyst</translation>
+    </message>
+    <message id="report_name_NOx/SCR aftertreatment">
+        <source></source>
+        <translation>NOx/SCR aftertreatment</translation>
+    </message>
+    <message id="report_name_Boost pressure">
+        <source></source>
+        <translation>Boost pressure</translation>
+    </message>
+    <message id="report_name_Exhaust gas sensor">
+        <source></source>
+        <translation>Exhaust gas sensor</translation>
+    </message>
+    <message id="report_name_Particulate filter">
+        <source></source>
+        <translation>Particulate filter</translation>
+    </message>
+    <message id="report_name_OBD monitoring conditions met">
+        <source></source>
+        <translation>OBD monitoring conditions met</translation>
+    </message>
+    <message id="report_name_Ignition cycles">
+        <source></source>
+        <translation>Ignition cycles</translation>
+    </message>
+    <message id="report_name_Catalyst, bank 1">
+        <source></source>
+        <translation>Catalyst, bank 1</translation>
+    </message>
+    <message id="report_name_Catalyst, bank 2">
+        <source></source>
+        <translation>Catalyst, bank 2</translation>
+    </message>
+    <message id="report_name_O2 sensor, bank 1">
+        <source></source>
+        <translation>O2 sensor, bank 1</translation>
+    </message>
+    <message id="report_name_O2 sensor, bank 2">
+        <source></source>
+        <translation>O2 sensor, bank 2</translation>
+    </message>
+    <message id="report_name_Secondary O2 sensor, bank 1">
+        <source></source>
+        <translation>Secondary O2 sensor, bank 1</translation>
+    </message>
+    <message id="report_name_Secondary O2 sensor, bank 2">
+        <source></source>
+        <translation>Secondary O2 sensor, bank 2</translation>
+    </message>
+    <message id="report_name_NOx catalyst">
+        <source></source>
+        <translation>NOx catalyst</translation>
+    </message>
+    <message id="report_name_NOx adsorber">
+        <source></source>
+        <translation>NOx adsorber</translation>
     </message>
 </context>
 </TS>

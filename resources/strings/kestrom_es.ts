@@ -7,7 +7,7 @@
         <source></source>
         <translation>Kestrom lee el diagnóstico de a bordo (OBD-II) de su coche mediante un adaptador de tipo ELM327.
 
-Conexión: enchufe el adaptador en la toma de diagnóstico del coche, normalmente bajo el volante, y dé el contacto. Con un adaptador Wi-Fi, conecte primero este equipo a la red inalámbrica del adaptador, elija después Wi-Fi en las preferencias y escriba su dirección y su puerto (casi siempre 192.168.0.10 y 35000). Con un adaptador Bluetooth, elija Bluetooth; la primera tarea que inicie preguntará qué dispositivo usar.
+Conexión: enchufe el adaptador en la toma de diagnóstico del coche, normalmente bajo el volante, y dé el contacto. Con un adaptador Wi-Fi, conecte primero este equipo a la red inalámbrica del adaptador, elija después Wi-Fi en las preferencias y escriba su dirección y su puerto (casi siempre 192.168.0.10 y 35000). Con un adaptador Bluetooth, elija Bluetooth; la primera tarea que inicie preguntará qué dispositivo usar. Con un cable, elija su puerto. Las ayudas emergentes cuentan más.
 
 Códigos de avería: «Leer códigos» muestra los códigos guardados con su significado, el testigo de avería y el estado de los monitores. «Borrar códigos» borra los códigos, apaga el testigo y pone a cero los monitores; hágalo con el motor parado y solo después de anotar los códigos.
 
@@ -47,6 +47,16 @@ Compruebe que:
 • Ningún teléfono ni otro programa usa el adaptador al mismo tiempo.
 • El coche admite OBD-II.</translation>
     </message>
+    <message id="no_reply_from_car_MSG_serial">
+        <source></source>
+        <translation>El adaptador funciona, pero el coche no ha respondido.
+
+Compruebe que:
+• El contacto está dado o el motor está en marcha.
+• El adaptador está bien enchufado en la toma de diagnóstico.
+• Ningún otro programa usa el adaptador al mismo tiempo.
+• El coche admite OBD-II.</translation>
+    </message>
     <message id="init_OBD_error_MSG">
         <source></source>
         <translation>El adaptador no ha podido iniciar el bus de diagnóstico del coche. Quite el contacto y vuelva a darlo, compruebe que el adaptador está bien enchufado en la toma de diagnóstico e inténtelo otra vez.</translation>
@@ -66,6 +76,34 @@ Compruebe que:
     <message id="tcp_no_answer_yet_MSG">
         <source></source>
         <translation>El adaptador aún no ha respondido. Compruebe que este equipo está en la red inalámbrica del adaptador y que la dirección y el puerto son correctos.</translation>
+    </message>
+    <message id="serial_no_answer_yet_MSG">
+        <source></source>
+        <translation>El adaptador aún no ha respondido. Compruebe el cable y el puerto en las preferencias.</translation>
+    </message>
+    <message id="serial_not_there">
+        <source></source>
+        <translation>%1 no existe. Conecte el adaptador o elija otro puerto en las preferencias.</translation>
+    </message>
+    <message id="serial_taken">
+        <source></source>
+        <translation>%1 ha desaparecido: otro servicio se ha quedado con el cable del adaptador. Casi siempre es brltty, para líneas braille. Si nadie lo necesita, escriba «sudo apt remove brltty» en un terminal y vuelva a conectar el adaptador.</translation>
+    </message>
+    <message id="serial_not_permitted">
+        <source></source>
+        <translation>No tiene permiso para usar %1: pertenece al grupo %2. Escriba «sudo usermod -a -G %2 $USER» en un terminal, cierre la sesión y vuelva a entrar.</translation>
+    </message>
+    <message id="serial_busy">
+        <source></source>
+        <translation>Otro programa tiene abierto %1. Ciérrelo y vuelva a intentarlo. ModemManager lo suelta por sí solo en menos de medio minuto.</translation>
+    </message>
+    <message id="serial_silent">
+        <source></source>
+        <translation>Ningún adaptador responde en %1 (probado: %2 baudios). Compruebe que es el puerto del adaptador, que el adaptador está en la toma de diagnóstico y la velocidad en las preferencias.</translation>
+    </message>
+    <message id="serial_other">
+        <source></source>
+        <translation>%1 no se puede usar: %2</translation>
     </message>
     <message id="bt_no_adapter_MSG">
         <source></source>
@@ -90,6 +128,10 @@ Compruebe que:
     <message id="ui_start_bluetooth">
         <source></source>
         <translation>Adaptador &amp;Bluetooth</translation>
+    </message>
+    <message id="ui_start_serial">
+        <source></source>
+        <translation>Cable &amp;USB o serie</translation>
     </message>
     <message id="ui_start_demo">
         <source></source>
@@ -434,6 +476,38 @@ Los nombres de los monitores están en inglés.</translation>
         <source></source>
         <translation>&amp;Wi-Fi</translation>
     </message>
+    <message id="ui_serial">
+        <source></source>
+        <translation>Cable &amp;USB o serie</translation>
+    </message>
+    <message id="ui_serial_speed">
+        <source></source>
+        <translation>Velocidad:</translation>
+    </message>
+    <message id="ui_serial_auto">
+        <source></source>
+        <translation>hallada probando</translation>
+    </message>
+    <message id="ui_serial_absent">
+        <source></source>
+        <translation>%1 (no conectado)</translation>
+    </message>
+    <message id="ui_serial_none">
+        <source></source>
+        <translation>ninguno conectado</translation>
+    </message>
+    <message id="ui_kind_bluetooth">
+        <source></source>
+        <translation>Solo necesita el adaptador; emparéjelo aquí o en los ajustes del escritorio. Velocidad: media. Si falla: desenchúfelo, vuelva a enchufarlo y compruebe que ningún teléfono lo ocupa.</translation>
+    </message>
+    <message id="ui_kind_wifi">
+        <source></source>
+        <translation>Necesita que este equipo esté en la red inalámbrica del adaptador, a menudo sin internet. Velocidad: buena. Si falla: vuelva a unirse a esa red y compruebe la dirección y el puerto.</translation>
+    </message>
+    <message id="ui_kind_serial">
+        <source></source>
+        <translation>Necesita un puerto libre y permiso para usarlo. Velocidad: buena, como mucho la del cable. Si falla: vuelva a conectar el cable; el mensaje dice quién ocupa el puerto o qué grupo puede usarlo.</translation>
+    </message>
     <message id="ui_address">
         <source></source>
         <translation>Di&amp;rección:</translation>
@@ -605,6 +679,22 @@ Los nombres de los monitores están en inglés.</translation>
     <message id="bt_col_serial">
         <source></source>
         <translation>Puerto serie</translation>
+    </message>
+    <message id="bt_col_kind">
+        <source></source>
+        <translation>Tipo</translation>
+    </message>
+    <message id="bt_classic">
+        <source></source>
+        <translation>Clásico</translation>
+    </message>
+    <message id="bt_low_energy">
+        <source></source>
+        <translation>Low Energy</translation>
+    </message>
+    <message id="bt_both_kinds">
+        <source></source>
+        <translation>ambos</translation>
     </message>
     <message id="bt_yes">
         <source></source>
@@ -1011,7 +1101,7 @@ Software libre con licencia MIT.
     </message>
     <message id="report_vin_odd">
         <source></source>
-        <translation>%1 (número no conforme a la norma)</translation>
+        <translation>%1 (número no conforme a la norma: %2)</translation>
     </message>
     <message id="report_vins_differ">
         <source></source>
@@ -1240,14 +1330,6 @@ Software libre con licencia MIT.
     <message id="report_partly">
         <source></source>
         <translation>una parte no se pudo leer</translation>
-    </message>
-    <message id="report_all_units">
-        <source></source>
-        <translation>todas las unidades</translation>
-    </message>
-    <message id="report_unit">
-        <source></source>
-        <translation>unidad %1</translation>
     </message>
     <message id="report_request">
         <source></source>
@@ -1485,10 +1567,6 @@ Software libre con licencia MIT.
         <source></source>
         <translation>El borrado elimina también los datos congelados y los resultados de las pruebas. El informe leído los contiene.</translation>
     </message>
-    <message id="ui_report_show">
-        <source></source>
-        <translation>Mostrar el informe</translation>
-    </message>
     <message id="ui_report_go_on">
         <source></source>
         <translation>Continuar sin guardar</translation>
@@ -1496,6 +1574,134 @@ Software libre con licencia MIT.
     <message id="report_none_so_far">
         <source></source>
         <translation>ninguno, según lo comunicado</translation>
+    </message>
+    <message id="ui_report_save_first">
+        <source></source>
+        <translation>Guardar como…</translation>
+    </message>
+    <message id="ui_report_text_file">
+        <source></source>
+        <translation>Texto</translation>
+    </message>
+    <message id="report_off_so_far">
+        <source></source>
+        <translation>apagado, según lo comunicado</translation>
+    </message>
+    <message id="report_why_put_off">
+        <source></source>
+        <translation>la unidad pidió esperar y no respondió a tiempo</translation>
+    </message>
+    <message id="ui_report_opened">
+        <source></source>
+        <translation>Abierto: %1</translation>
+    </message>
+    <message id="ui_code_from">
+        <source></source>
+        <translation>De la unidad de control: %1</translation>
+    </message>
+    <message id="report_name_Misfire">
+        <source></source>
+        <translation>Fallos de encendido</translation>
+    </message>
+    <message id="report_name_Fuel system">
+        <source></source>
+        <translation>Sistema de combustible</translation>
+    </message>
+    <message id="report_name_Comprehensive components">
+        <source></source>
+        <translation>Componentes en general</translation>
+    </message>
+    <message id="report_name_Catalyst">
+        <source></source>
+        <translation>Catalizador</translation>
+    </message>
+    <message id="report_name_Heated catalyst">
+        <source></source>
+        <translation>Catalizador calentado</translation>
+    </message>
+    <message id="report_name_Evaporative system">
+        <source></source>
+        <translation>Sistema evaporativo</translation>
+    </message>
+    <message id="report_name_Secondary air system">
+        <source></source>
+        <translation>Aire secundario</translation>
+    </message>
+    <message id="report_name_A/C refrigerant / petrol particulate filter">
+        <source></source>
+        <translation>Refrigerante / filtro de partículas de gasolina</translation>
+    </message>
+    <message id="report_name_O2 sensor">
+        <source></source>
+        <translation>Sonda de oxígeno</translation>
+    </message>
+    <message id="report_name_O2 sensor heater">
+        <source></source>
+        <translation>Calefactor de la sonda de oxígeno</translation>
+    </message>
+    <message id="report_name_EGR/VVT system">
+        <source></source>
+        <translation>Sistema EGR/VVT</translation>
+    </message>
+    <message id="report_name_NMHC catalyst">
+        <source></source>
+        <translation>Catalizador NMHC</translation>
+    </message>
+    <message id="report_name_NOx/SCR aftertreatment">
+        <source></source>
+        <translation>Postratamiento NOx/SCR</translation>
+    </message>
+    <message id="report_name_Boost pressure">
+        <source></source>
+        <translation>Presión de sobrealimentación</translation>
+    </message>
+    <message id="report_name_Exhaust gas sensor">
+        <source></source>
+        <translation>Sensor de gases de escape</translation>
+    </message>
+    <message id="report_name_Particulate filter">
+        <source></source>
+        <translation>Filtro de partículas</translation>
+    </message>
+    <message id="report_name_OBD monitoring conditions met">
+        <source></source>
+        <translation>Condiciones de supervisión OBD cumplidas</translation>
+    </message>
+    <message id="report_name_Ignition cycles">
+        <source></source>
+        <translation>Ciclos de encendido</translation>
+    </message>
+    <message id="report_name_Catalyst, bank 1">
+        <source></source>
+        <translation>Catalizador, banco 1</translation>
+    </message>
+    <message id="report_name_Catalyst, bank 2">
+        <source></source>
+        <translation>Catalizador, banco 2</translation>
+    </message>
+    <message id="report_name_O2 sensor, bank 1">
+        <source></source>
+        <translation>Sonda de oxígeno, banco 1</translation>
+    </message>
+    <message id="report_name_O2 sensor, bank 2">
+        <source></source>
+        <translation>Sonda de oxígeno, banco 2</translation>
+    </message>
+    <message id="report_name_Secondary O2 sensor, bank 1">
+        <source></source>
+        <translation>Segunda sonda de oxígeno, banco 1</translation>
+    </message>
+    <message id="report_name_Secondary O2 sensor, bank 2">
+        <source></source>
+        <translation>Segunda sonda de oxígeno, banco 2</translation>
+    </message>
+    <message id="report_name_NOx catalyst">
+        <source></source>
+        <translation>Catalizador NOx</translation>
+    </message>
+    <message id="report_name_NOx adsorber">
+        <source></source>
+        <translation>Adsorbedor de NOx</translation>
     </message>
 </context>
 </TS>

@@ -7,7 +7,7 @@
         <source></source>
         <translation>Kestrom lit le diagnostic embarqué (OBD-II) de votre voiture au moyen d'un adaptateur de type ELM327.
 
-Connexion : branchez l'adaptateur sur la prise de diagnostic de la voiture, en général sous le volant, et mettez le contact. Avec un adaptateur Wi-Fi, connectez d'abord cet ordinateur au réseau sans fil de l'adaptateur, puis choisissez Wi-Fi dans les préférences et saisissez l'adresse et le port (le plus souvent 192.168.0.10 et 35000). Avec un adaptateur Bluetooth, choisissez Bluetooth ; la première tâche que vous lancez demande quel appareil utiliser.
+Connexion : branchez l'adaptateur sur la prise de diagnostic de la voiture, en général sous le volant, et mettez le contact. Avec un adaptateur Wi-Fi, connectez d'abord cet ordinateur au réseau sans fil de l'adaptateur, puis choisissez Wi-Fi dans les préférences et saisissez l'adresse et le port (le plus souvent 192.168.0.10 et 35000). Avec un adaptateur Bluetooth, choisissez Bluetooth ; la première tâche que vous lancez demande quel appareil utiliser. Avec un câble, choisissez son port. Les infobulles y disent le reste.
 
 Codes défaut : « Lire les codes » affiche les codes enregistrés avec leur signification, le témoin d'anomalie et l'état des moniteurs. « Effacer les codes » efface les codes, éteint le témoin et remet les moniteurs à zéro ; faites-le moteur arrêté, et seulement après avoir noté les codes.
 
@@ -47,6 +47,16 @@ Veuillez vérifier que :
 • aucun téléphone ni autre programme n'utilise l'adaptateur en même temps ;
 • la voiture prend en charge OBD-II.</translation>
     </message>
+    <message id="no_reply_from_car_MSG_serial">
+        <source></source>
+        <translation>L'adaptateur fonctionne, mais la voiture n'a pas répondu.
+
+Veuillez vérifier que :
+• le contact est mis ou le moteur tourne ;
+• l'adaptateur est bien enfoncé dans la prise de diagnostic ;
+• aucun autre programme n'utilise l'adaptateur en même temps ;
+• la voiture prend en charge OBD-II.</translation>
+    </message>
     <message id="init_OBD_error_MSG">
         <source></source>
         <translation>L'adaptateur n'a pas pu initialiser le bus de diagnostic de la voiture. Coupez puis remettez le contact, vérifiez que l'adaptateur est bien enfoncé dans la prise de diagnostic, et réessayez.</translation>
@@ -66,6 +76,34 @@ Veuillez vérifier que :
     <message id="tcp_no_answer_yet_MSG">
         <source></source>
         <translation>L'adaptateur n'a pas encore répondu. Vérifiez que cet ordinateur est connecté au réseau sans fil de l'adaptateur et que l'adresse et le port sont corrects.</translation>
+    </message>
+    <message id="serial_no_answer_yet_MSG">
+        <source></source>
+        <translation>L'adaptateur n'a pas encore répondu. Vérifiez le câble et le port dans les préférences.</translation>
+    </message>
+    <message id="serial_not_there">
+        <source></source>
+        <translation>%1 n'existe pas. Branchez l'adaptateur ou choisissez un autre port dans les préférences.</translation>
+    </message>
+    <message id="serial_taken">
+        <source></source>
+        <translation>%1 a disparu : un autre service s'est emparé du câble de l'adaptateur. Le plus souvent, c'est brltty, pour les afficheurs braille. Si personne n'en a besoin, tapez « sudo apt remove brltty » dans un terminal et rebranchez l'adaptateur.</translation>
+    </message>
+    <message id="serial_not_permitted">
+        <source></source>
+        <translation>Vous n'avez pas le droit d'utiliser %1 : ce port appartient au groupe %2. Tapez « sudo usermod -a -G %2 $USER » dans un terminal, puis déconnectez-vous et reconnectez-vous.</translation>
+    </message>
+    <message id="serial_busy">
+        <source></source>
+        <translation>Un autre programme a ouvert %1. Fermez-le et réessayez. ModemManager libère le port de lui-même en moins de trente secondes.</translation>
+    </message>
+    <message id="serial_silent">
+        <source></source>
+        <translation>Aucun adaptateur ne répond sur %1 (essayé : %2 bauds). Vérifiez que c'est le port de l'adaptateur, que l'adaptateur est dans la prise de diagnostic, et la vitesse dans les préférences.</translation>
+    </message>
+    <message id="serial_other">
+        <source></source>
+        <translation>%1 ne peut pas être utilisé : %2</translation>
     </message>
     <message id="bt_no_adapter_MSG">
         <source></source>
@@ -90,6 +128,10 @@ Veuillez vérifier que :
     <message id="ui_start_bluetooth">
         <source></source>
         <translation>Adaptateur &amp;Bluetooth</translation>
+    </message>
+    <message id="ui_start_serial">
+        <source></source>
+        <translation>Câble &amp;USB ou série</translation>
     </message>
     <message id="ui_start_demo">
         <source></source>
@@ -434,6 +476,38 @@ Les noms des moniteurs sont en anglais.</translation>
         <source></source>
         <translation>&amp;Wi-Fi</translation>
     </message>
+    <message id="ui_serial">
+        <source></source>
+        <translation>Câble USB &amp;ou série</translation>
+    </message>
+    <message id="ui_serial_speed">
+        <source></source>
+        <translation>Vitesse :</translation>
+    </message>
+    <message id="ui_serial_auto">
+        <source></source>
+        <translation>trouvée par essais</translation>
+    </message>
+    <message id="ui_serial_absent">
+        <source></source>
+        <translation>%1 (non branché)</translation>
+    </message>
+    <message id="ui_serial_none">
+        <source></source>
+        <translation>aucun branché</translation>
+    </message>
+    <message id="ui_kind_bluetooth">
+        <source></source>
+        <translation>Ne demande que l'adaptateur ; appairez-le ici ou dans les réglages du bureau. Vitesse : moyenne. En cas d'échec : débranchez-le, rebranchez-le et vérifiez qu'aucun téléphone ne l'occupe.</translation>
+    </message>
+    <message id="ui_kind_wifi">
+        <source></source>
+        <translation>Demande que cet ordinateur soit dans le réseau sans fil de l'adaptateur, souvent sans internet. Vitesse : bonne. En cas d'échec : rejoignez ce réseau, vérifiez l'adresse et le port.</translation>
+    </message>
+    <message id="ui_kind_serial">
+        <source></source>
+        <translation>Demande un port libre et le droit de l'utiliser. Vitesse : bonne, au plus celle du câble. En cas d'échec : rebranchez le câble ; le message dit qui occupe le port ou quel groupe peut l'utiliser.</translation>
+    </message>
     <message id="ui_address">
         <source></source>
         <translation>Ad&amp;resse :</translation>
@@ -605,6 +679,22 @@ Les noms des moniteurs sont en anglais.</translation>
     <message id="bt_col_serial">
         <source></source>
         <translation>Port série</translation>
+    </message>
+    <message id="bt_col_kind">
+        <source></source>
+        <translation>Type</translation>
+    </message>
+    <message id="bt_classic">
+        <source></source>
+        <translation>Classique</translation>
+    </message>
+    <message id="bt_low_energy">
+        <source></source>
+        <translation>Low Energy</translation>
+    </message>
+    <message id="bt_both_kinds">
+        <source></source>
+        <translation>les deux</translation>
     </message>
     <message id="bt_yes">
         <source></source>
@@ -1011,7 +1101,7 @@ Logiciel libre sous licence MIT.
     </message>
     <message id="report_vin_odd">
         <source></source>
-        <translation>%1 (numéro non conforme à la norme)</translation>
+        <translation>%1 (numéro non conforme à la norme : %2)</translation>
     </message>
     <message id="report_vins_differ">
         <source></source>
@@ -1240,14 +1330,6 @@ Logiciel libre sous licence MIT.
     <message id="report_partly">
         <source></source>
         <translation>une partie n'a pas pu être lue</translation>
-    </message>
-    <message id="report_all_units">
-        <source></source>
-        <translation>tous les calculateurs</translation>
-    </message>
-    <message id="report_unit">
-        <source></source>
-        <translation>calculateur %1</translation>
     </message>
     <message id="report_request">
         <source></source>
@@ -1485,10 +1567,6 @@ Logiciel libre sous licence MIT.
         <source></source>
         <translation>L'effacement supprime aussi les données figées et les résultats des tests. Le rapport lu les contient.</translation>
     </message>
-    <message id="ui_report_show">
-        <source></source>
-        <translation>Afficher le rapport</translation>
-    </message>
     <message id="ui_report_go_on">
         <source></source>
         <translation>Continuer sans enregistrer</translation>
@@ -1496,6 +1574,134 @@ Logiciel libre sous licence MIT.
     <message id="report_none_so_far">
         <source></source>
         <translation>aucun, pour autant que communiqué</translation>
+    </message>
+    <message id="ui_report_save_first">
+        <source></source>
+        <translation>Enregistrer sous…</translation>
+    </message>
+    <message id="ui_report_text_file">
+        <source></source>
+        <translation>Texte</translation>
+    </message>
+    <message id="report_off_so_far">
+        <source></source>
+        <translation>éteint, pour autant que communiqué</translation>
+    </message>
+    <message id="report_why_put_off">
+        <source></source>
+        <translation>le calculateur a demandé d’attendre et n’a pas répondu à temps</translation>
+    </message>
+    <message id="ui_report_opened">
+        <source></source>
+        <translation>Ouvert : %1</translation>
+    </message>
+    <message id="ui_code_from">
+        <source></source>
+        <translation>Du calculateur : %1</translation>
+    </message>
+    <message id="report_name_Misfire">
+        <source></source>
+        <translation>Ratés d’allumage</translation>
+    </message>
+    <message id="report_name_Fuel system">
+        <source></source>
+        <translation>Système d’alimentation</translation>
+    </message>
+    <message id="report_name_Comprehensive components">
+        <source></source>
+        <translation>Composants divers</translation>
+    </message>
+    <message id="report_name_Catalyst">
+        <source></source>
+        <translation>Catalyseur</translation>
+    </message>
+    <message id="report_name_Heated catalyst">
+        <source></source>
+        <translation>Catalyseur chauffé</translation>
+    </message>
+    <message id="report_name_Evaporative system">
+        <source></source>
+        <translation>Système d’évaporation</translation>
+    </message>
+    <message id="report_name_Secondary air system">
+        <source></source>
+        <translation>Air secondaire</translation>
+    </message>
+    <message id="report_name_A/C refrigerant / petrol particulate filter">
+        <source></source>
+        <translation>Réfrigérant / filtre à particules essence</translation>
+    </message>
+    <message id="report_name_O2 sensor">
+        <source></source>
+        <translation>Sonde à oxygène</translation>
+    </message>
+    <message id="report_name_O2 sensor heater">
+        <source></source>
+        <translation>Chauffage de la sonde à oxygène</translation>
+    </message>
+    <message id="report_name_EGR/VVT system">
+        <source></source>
+        <translation>Système EGR/VVT</translation>
+    </message>
+    <message id="report_name_NMHC catalyst">
+        <source></source>
+        <translation>Catalyseur NMHC</translation>
+    </message>
+    <message id="report_name_NOx/SCR aftertreatment">
+        <source></source>
+        <translation>Post-traitement NOx/SCR</translation>
+    </message>
+    <message id="report_name_Boost pressure">
+        <source></source>
+        <translation>Pression de suralimentation</translation>
+    </message>
+    <message id="report_name_Exhaust gas sensor">
+        <source></source>
+        <translation>Capteur de gaz d’échappement</translation>
+    </message>
+    <message id="report_name_Particulate filter">
+        <source></source>
+        <translation>Filtre à particules</translation>
+    </message>
+    <message id="report_name_OBD monitoring conditions met">
+        <source></source>
+        <translation>Conditions de surveillance OBD réunies</translation>
+    </message>
+    <message id="report_name_Ignition cycles">
+        <source></source>
+        <translation>Cycles d’allumage</translation>
+    </message>
+    <message id="report_name_Catalyst, bank 1">
+        <source></source>
+        <translation>Catalyseur, rangée 1</translation>
+    </message>
+    <message id="report_name_Catalyst, bank 2">
+        <source></source>
+        <translation>Catalyseur, rangée 2</translation>
+    </message>
+    <message id="report_name_O2 sensor, bank 1">
+        <source></source>
+        <translation>Sonde à oxygène, rangée 1</translation>
+    </message>
+    <message id="report_name_O2 sensor, bank 2">
+        <source></source>
+        <translation>Sonde à oxygène, rangée 2</translation>
+    </message>
+    <message id="report_name_Secondary O2 sensor, bank 1">
+        <source></source>
+        <translation>Seconde sonde à oxygène, rangée 1</translation>
+    </message>
+    <message id="report_name_Secondary O2 sensor, bank 2">
+        <source></source>
+        <translation>Seconde sonde à oxygène, rangée 2</translation>
+    </message>
+    <message id="report_name_NOx catalyst">
+        <source></source>
+        <translation>Catalyseur NOx</translation>
+    </message>
+    <message id="report_name_NOx adsorber">
+        <source></source>
+        <translation>Adsorbeur NOx</translation>
     </message>
 </context>
 </TS>

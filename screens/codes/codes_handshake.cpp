@@ -3,6 +3,7 @@
 #include "globalVars.h"
 #include "obd_screen.h"
 #include "text.h"
+#include "transports.h"
 
 namespace {
 
@@ -35,9 +36,7 @@ std::string codes_handshake::check_initial_car_reply() {
     if (contains(reply, "UNABLE TO CONNECT")) {
         screen_.beep();
         screen_.set_status_msg(screen_.localized("no_reply_from_car_MSG"));
-        screen_.toolies.myMsgBox(screen_.localized(g_connect_with == KS_USE_BT
-                                                       ? "no_reply_from_car_MSG_BT"
-                                                       : "no_reply_from_car_MSG_TCP"));
+        screen_.toolies.myMsgBox(screen_.localized(chosen_transport().car_silent_key));
         return REPLY_REJECTED;
     }
     if (contains(reply, "?")) {

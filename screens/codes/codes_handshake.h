@@ -1,4 +1,4 @@
-// The handshake as the trouble-codes screen runs it.
+// The handshake of the trouble-codes screen.
 #pragma once
 
 #include "adapter_handshake.h"

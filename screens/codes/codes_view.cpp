@@ -38,7 +38,7 @@ QTableView* make_table(const char* name, QWidget* parent) {
     return table;
 }
 
-// A mark before the word, so that nobody needs colour to tell the states apart.
+// A mark before the word, so that states differ without colour.
 QString readiness_mark(const std::string& state) {
     if (state == "OK")
         return QStringLiteral("\u2713  OK");
@@ -125,12 +125,8 @@ void codes_view::build_tables(QVBoxLayout* column) {
                 .trimmed();
         },
         codesReadTableView_);
-    codes_model_->decorate = [](int, const QString& identifier, int role) -> QVariant {
-        if (role == Qt::FontRole && identifier == QLatin1String("Codes"))
-            return QFontDatabase::systemFont(QFontDatabase::FixedFont);
-        if (role == Qt::TextAlignmentRole)
-            return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
-        return {};
+    codes_model_->decorate = [this](int row, const QString& identifier, int role) {
+        return decorate_code(static_cast<std::size_t>(row), identifier, role);
     };
     codesReadTableView_->setModel(codes_model_);
     codesReadTableView_->setAccessibleName(ui_text(delegate_, "ui_codes_table"));
@@ -171,8 +167,18 @@ void codes_view::build_tables(QVBoxLayout* column) {
     column->addWidget(split, 1);
 }
 
-// Keeps the longest word of a monitor's name whole and most names to two lines, also beside a
-// scroll bar.
+QVariant codes_view::decorate_code(std::size_t row, const QString& identifier, int role) const {
+    if (role == Qt::ToolTipRole && !code_units_[row].empty())
+        return ui_text(delegate_, "ui_code_from").arg(display_text(code_units_[row]));
+    if (role == Qt::FontRole && identifier == QLatin1String("Codes"))
+        return QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+    return {};
+}
+
+// Keeps the longest word of a monitor's name intact and most names to two lines, even with a scroll
+// bar.
 void codes_view::make_room_for_monitors() {
     QTableView* table = readinessCodesTableView_;
     const int monitor =
@@ -183,8 +189,10 @@ void codes_view::make_room_for_monitors() {
                            2 * table->frameWidth());
 }
 
-void codes_view::show_codes(const std::vector<code_row>& rows) {
+void codes_view::show_codes(const std::vector<code_row>& rows, std::vector<std::string> units) {
     codes_ = rows;
+    code_units_ = std::move(units);
+    code_units_.resize(rows.size());
     codes_model_->reload(static_cast<int>(rows.size()));
 }
 

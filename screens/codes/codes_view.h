@@ -1,9 +1,9 @@
-// The widgets of the trouble-codes screen. Owned by readCodes, which tells it what to show.
+// The widgets of the trouble-codes screen. Owned by readCodes.
 #pragma once
 
 #include "readCodes.h"
 
-#include <QPointer>
+#include <QVariant>
 
 #include <functional>
 #include <memory>
@@ -26,7 +26,8 @@ class codes_view {
 
     std::function<void()> on_read, on_clear, on_diagnose;
 
-    void show_codes(const std::vector<code_row>& rows);
+    // `units`: that sent each code; empty where that is not known.
+    void show_codes(const std::vector<code_row>& rows, std::vector<std::string> units = {});
     void show_readiness(const std::vector<readiness_flag>& rows);
     void show_waity(bool visible);
 
@@ -36,11 +37,11 @@ class codes_view {
     void set_interface(const std::string& text);
     void set_protocol(const std::string& text);
     void set_extra_info(const std::string& text);
-    // What the last reading told of lamp, count and codes.
+    // Lamp, count and codes of the last reading.
     void forget_status();
-    // As after a clear.
+    // The state after a clear.
     void reset_labels();
-    // The end of a reading: says that there are no codes, or what is missing.
+    // At the end of a reading: says that there are no codes, or what is missing.
     void show_result(const unread_pieces& unread, bool none_counted);
 
     std::string lamp() const { return lamp_; }
@@ -50,11 +51,13 @@ class codes_view {
     void build_buttons(class QHBoxLayout* row);
     void build_cards(class QVBoxLayout* column);
     void build_tables(class QVBoxLayout* column);
+    QVariant decorate_code(std::size_t row, const QString& identifier, int role) const;
     void make_room_for_monitors();
 
     Ks_lite_delegate& delegate_;
-    // Read by the tables up to their end.
+    // Used by the tables until they are destroyed.
     std::vector<code_row> codes_;
+    std::vector<std::string> code_units_;
     std::vector<readiness_flag> readiness_;
     std::unique_ptr<QWidget> bones_root_;
     status_line* statusLbl_ = nullptr;

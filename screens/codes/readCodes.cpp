@@ -4,6 +4,8 @@
 #include "codes_view.h"
 #include "globalVars.h"
 #include "kept_report.h"
+#include "report_saving.h"
+#include "sheet.h"
 #include "system_log.h"
 #include "text.h"
 #include "user_defaults.h"
@@ -27,7 +29,7 @@ void readCodes::awakeFromNib() {
     view_->on_diagnose = [this] { obd_sim(); };
     view_->show_codes(codesReadArray);
     view_->show_readiness(readinessFlagsArray);
-    // What an earlier screen's handshake found out still holds.
+    // The results of an earlier screen's handshake are still valid.
     if (!g_cur_interface.empty())
         show_interface("Interface : " + g_cur_interface.str());
     if (!g_cur_protocol.empty())
@@ -36,7 +38,7 @@ void readCodes::awakeFromNib() {
     set_status_msg("");
 }
 
-// A reading that fails must leave none of the one before.
+// A failed reading must leave nothing of the previous one.
 void readCodes::forget_last_reading() {
     codesReadArray.clear();
     readinessFlagsArray.clear();
@@ -55,24 +57,27 @@ void readCodes::readCodes_clicked() {
 }
 
 // Clearing takes with it most of what a report holds. Only one that was read over this link is
-// offered, and none is read for it.
-bool readCodes::report_wanted_first() {
+// offered, and none is read for it. False when it was to be saved and was not.
+bool readCodes::report_is_safe() {
     const kept_report& kept = last_report();
     if (!kept.report || kept.saved || kept.link != KS_delegate.link_number() ||
         KS_delegate.doors().defaults.boolean(NO_OFFER_KEY))
-        return false;
+        return true;
     alert_request offer;
     offer.message = localized("ui_report_before_clear");
     offer.informative = localized("ui_report_before_clear_hint");
-    offer.buttons = {localized("ui_report_show"), localized("ui_report_go_on")};
-    return KS_delegate.doors().message_boxes.show(offer) == 0;
+    offer.buttons = {localized("ui_report_save_first"), localized("ui_report_go_on")};
+    if (KS_delegate.doors().message_boxes.show(offer) != 0)
+        return true;
+    const car_report report = report_to_give(KS_delegate, toolies);
+    last_report().saved = save_sheet(KS_delegate, view(), report,
+                                     sheet_of(report, KS_delegate.doors().resources), false);
+    return last_report().saved;
 }
 
 void readCodes::clearCodes_clicked() {
-    if (report_wanted_first()) {
-        KS_delegate.do_report();
+    if (!report_is_safe())
         return;
-    }
     alert_request question;
     question.message = "Are you sure you want clear DTC Codes ";
     question.informative =

@@ -19,15 +19,15 @@ class codes_view;
 
 using code_row = std::array<std::string, 2>; // code, description
 
-// What the last read found, for those who want it without widgets.
+// The result of the last reading, without widgets.
 struct codes_report {
-    std::string lamp; // "ON", "OFF", or "N/A" when no unit told
+    std::string lamp; // "ON", "OFF", or "N/A" if no unit reported it
     std::optional<int> count;
     std::string read_on;
     std::string interface;
     std::string protocol;
     int ecus = 0;
-    bool codes_told = false; // the list is what the car told, as far as nothing is unread
+    bool codes_told = false; // the car reported the list; complete if nothing is unread
     unread_pieces unread;
     std::vector<code_row> codes;
     std::vector<readiness_flag> readiness;
@@ -52,7 +52,7 @@ class readCodes final : public obd_screen {
     void load_the_codes();
     static std::string look_upCode(std::string_view code, const text_dictionary& this_dict);
 
-    // The task that the last button started reached its good end.
+    // The task that the last button started succeeded.
     bool succeeded() const { return succeeded_; }
     codes_report report() const;
 
@@ -62,7 +62,7 @@ class readCodes final : public obd_screen {
     void awakeFromNib();
     void start_task(int task, const std::string& status);
     void forget_last_reading();
-    bool report_wanted_first();
+    bool report_is_safe();
 
     // read_codes_task.cpp
     void work_out_read_codes(int step);
@@ -87,17 +87,17 @@ class readCodes final : public obd_screen {
     std::vector<code_row> codesReadArray;
     std::vector<readiness_flag> readinessFlagsArray;
     text_dictionary P0_Codes;
-    std::vector<std::string> codes_rcvd;
+    std::vector<std::string> codes_rcvd, units_rcvd; // a unit for each code
     int no_of_codes = 0;
 
     int units_answered_ = 0;
     std::string status_reply_;                // without blanks
     bool status_told_ = false;                // a unit answered "01 01" in this task
-    bool count_known_ = false;                // and so did all others, as far as one can tell
+    bool count_known_ = false;                // and so did all others, as far as known
     bus_form status_bus_ = bus_form::unknown; // by its headers
     unread_pieces unread_;                    // of this task's replies
     bool codes_told_ = false;
-    bool longer_timeout_asked_for_ = false; // "AT ST FF" is tried once a task
+    bool longer_timeout_asked_for_ = false; // "AT ST FF" is tried once per task
     int headers_repeated_ = 0;
     bool succeeded_ = false;
 };

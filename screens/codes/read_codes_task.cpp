@@ -60,7 +60,7 @@ void readCodes::start_reading() {
     send_and_go_to("AT H1\r", HEADERS_ON_ANSWERED);
 }
 
-// After "AT H1" and after "AT H0": go on when confirmed.
+// After "AT H1" and after "AT H0": continue when confirmed.
 void readCodes::headers_answered(std::string_view next_command, int next_step) {
     if (contains(odb_curReplyMsg, "~"))
         return end_by_timeout();
@@ -71,8 +71,8 @@ void readCodes::headers_answered(std::string_view next_command, int next_step) {
     send_and_go_to(next_command, next_step);
 }
 
-// A lost confirmation of "AT H0" repeats the whole status exchange as well. Its end counts from
-// zero again, so that an adapter which never confirms would be asked for ever.
+// A lost confirmation of "AT H0" repeats the whole status exchange. That resets the retries, so an
+// adapter that never confirms would be asked forever.
 void readCodes::retry_headers() {
     cur_cmd = std::string_view("AT H1\r");
     next_step_idx = HEADERS_ON_ANSWERED;
@@ -80,7 +80,7 @@ void readCodes::retry_headers() {
     const int before = g_retries;
     g_retries = before + 1;
     if (before <= 3 && ++headers_repeated_ <= MOST_HEADER_REPEATS) {
-        g_retries = before + 2; // by two on purpose
+        g_retries = before + 2; // by two, deliberately
         set_status_msg("Didn't get a confirmation from interface ... Trying again");
         sendOBDcmd(cur_cmd);
         return;
@@ -107,7 +107,7 @@ void readCodes::status_answered() {
         longer_timeout_asked_for_ = true;
         ++g_retries;
         g_obd_msg_state = S_WAITING;
-        // The adapter's longest wait; then everything once more.
+        // Sets the adapter's longest wait, then repeats everything.
         return send_and_go_to("AT ST FF\r", START);
     }
     g_retries = 0;
@@ -132,7 +132,7 @@ void readCodes::decode_status() {
         QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat).toStdString();
     view_->set_read_on(cur_err_msg);
     for (const unread_piece& one : status.unread)
-        if (one.kind != unread_kind::no_answer) // "N/A" says that
+        if (one.kind != unread_kind::no_answer) // shown as "N/A"
             unread_.push_back(one);
     // Asked anew at the next reading: the unit may be gone, or have been a damaged header.
     if (std::ranges::count(unread_, unread_kind::silent_unit, &unread_piece::kind) > 0)
@@ -144,7 +144,7 @@ std::vector<std::string> readCodes::work_reply_to_error_codes_pid(std::string_vi
     codes_reading read =
         read_codes(mode, this_reply, bus_known_by(status_bus_, g_bus_form, g_cur_protocol),
                    count_known_ ? std::optional(no_of_codes) : std::nullopt);
-    // Old cars put it so that nothing is stored; not those that have just counted codes.
+    // Old cars say so when nothing is stored; but not those that have just counted codes.
     if (read.no_data && (!status_told_ || no_of_codes > 0))
         read.unread.push_back({unread_kind::no_answer, {}});
     // A unit that tells its status only now was cut off by the adapter, and may have been so again.
@@ -152,6 +152,7 @@ std::vector<std::string> readCodes::work_reply_to_error_codes_pid(std::string_vi
         if (late.starts_with("4101") && !contains(status_reply_, late))
             read.unread.push_back({unread_kind::no_answer, {}});
     std::ranges::move(read.unread, std::back_inserter(unread_));
+    units_rcvd = std::move(read.units);
     return std::move(read.codes);
 }
 
@@ -171,7 +172,7 @@ void readCodes::codes_answered() {
         qCDebug(log_screens, "%s - %s", code.c_str(), codesReadArray.back()[1].c_str());
     }
     codes_told_ = true;
-    view_->show_codes(codesReadArray);
+    view_->show_codes(codesReadArray, units_rcvd);
     set_status_msg("Rerieve codes successfully");
     refresh_readiness();
     succeeded_ = unread_.empty();
@@ -184,9 +185,9 @@ void readCodes::codes_answered() {
 }
 
 void readCodes::refresh_readiness() {
-    // Without an answer to "01 01" there is no state to show.
+    // Without an answer to "01 01" there is no status to show.
     readinessFlagsArray.clear();
-    struct shower { // the rows built before a failure are shown as well
+    struct shower { // shows the rows built before a failure, too
         readCodes& screen;
         ~shower() { screen.view_->show_readiness(screen.readinessFlagsArray); }
     } show{*this};

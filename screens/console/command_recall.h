@@ -1,4 +1,4 @@
-// Up and Down in a line edit bring back the commands sent before. Owned by the screen of the field.
+// Up and Down in a line edit recall earlier commands. Owned by the screen of the field.
 #pragma once
 
 #include <QKeyEvent>

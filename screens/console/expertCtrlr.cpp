@@ -26,12 +26,12 @@ namespace {
 
 constexpr int ECHO_POINT_SIZE = 14;
 constexpr int TRANSCRIPT_CHARACTERS = 4'000'000;
-constexpr int TRANSCRIPT_LINES = 20'000; // a monitored bus must not eat the memory
-// Qt lays out a line anew for each piece that it gets: a flood without line ends is broken into
-// such.
+constexpr int TRANSCRIPT_LINES = 20'000; // a monitored bus must not exhaust the memory
+// Qt lays out the whole line again for every piece appended: a flood without line ends is broken
+// into lines.
 constexpr int LONGEST_LINE = 4'000;
 
-// Blue that can be read on the ground it stands on.
+// A blue that is legible on this background.
 QColor echo_blue(const QPalette& palette) {
     return palette.color(QPalette::Base).lightness() < 128 ? QColor(110, 160, 255)
                                                            : QColor(Qt::blue);
@@ -108,7 +108,7 @@ void expertCtrlr::handle_a_send() {
         return;
     }
     if (command.size() >
-        LONGEST_CONSOLE_COMMAND) { // refused whole: half a command may mean another one
+        LONGEST_CONSOLE_COMMAND) { // refused: part of a command may mean something else
         set_status_msg(localized("ui_command_too_long"));
         return;
     }
@@ -118,7 +118,7 @@ void expertCtrlr::handle_a_send() {
     cmdTxt->selectAll();
     cmdTxt->setFocus();
     if (!KS_delegate.openInterfaceConnection()) {
-        // The transport calls work_current_task once the link is up, if it will be.
+        // The transport calls work_current_task if the link comes up.
         asked_to_send_ = KS_delegate.link_coming_up();
         return;
     }
@@ -146,7 +146,7 @@ void expertCtrlr::handleOBDRcvdMsg(const std::string& text) {
         received(text);
 }
 
-// What was asked for is not sent over another link.
+// A request is not sent over another link.
 void expertCtrlr::leave_cur_op_gracefully(const std::string&) {
     asked_to_send_ = false;
     waity->hide();
@@ -158,7 +158,7 @@ void expertCtrlr::append_echo(const std::string& command) {
     font.setPointSize(ECHO_POINT_SIZE);
     format.setFont(font);
     format.setForeground(echo_blue(replyTxt->palette()));
-    // Of a reply that stopped within a letter that is all there will be.
+    // If a reply stopped within a character, nothing more will come.
     append(replyTxt, display_text(std::exchange(half_letter_, {})) + display_text(command) + u'\n',
            format);
 }
@@ -168,7 +168,7 @@ void expertCtrlr::append_reply(const std::string& chunk) {
     format.setFont(replyTxt->font());
     const std::string whole = half_letter_ + chunk;
     std::string_view text = whole;
-    if (ended_in_return_ && text.starts_with('\n')) // a line end that came in two pieces
+    if (ended_in_return_ && text.starts_with('\n')) // a line end split between chunks
         text.remove_prefix(1);
     ended_in_return_ = whole.ends_with('\r');
     half_letter_ = text.substr(text.size() - unfinished_letter(text));

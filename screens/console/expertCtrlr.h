@@ -1,5 +1,5 @@
-// The expert console: any adapter command out, its raw answer into a transcript. No decoding, no
-// task state: every send is one command, and every chunk is shown as it arrives.
+// The expert console: sends any adapter command and shows its raw answer in a transcript. No
+// decoding and no task state: every send is one command, and every chunk is shown as it arrives.
 #pragma once
 
 #include "obd_screen.h"
@@ -30,7 +30,7 @@ class expertCtrlr final : public obd_screen {
     void enterKey() { handle_a_send(); }
     void set_command(const std::string& text);
 
-    // Told every received chunk that is not a time-out.
+    // Called with every received chunk except time-outs.
     std::function<void(const std::string&)> received;
 
   private:
@@ -46,5 +46,5 @@ class expertCtrlr final : public obd_screen {
     std::unique_ptr<command_recall> recall_;
     bool asked_to_send_ = false;
     bool ended_in_return_ = false;
-    std::string half_letter_; // of the last chunk's end
+    std::string half_letter_; // from the end of the last chunk
 };

@@ -21,7 +21,7 @@ constexpr char ALL_POINTS[] = "All sampling points";
 constexpr int FEWEST_POINTS = 20; // in the large chart when zoomed in fully
 constexpr QSizeF DIAL_SIZE(364, 286);
 constexpr char FOLLOW_CHART_KEY[] = "follow_the_chart";
-// Requests on CAN, unless the settings say otherwise; below 0 as many as it takes.
+// Requests on CAN, unless the settings say otherwise; negative: no limit.
 constexpr char MOST_A_SECOND_KEY[] = "fast_requests_a_second";
 constexpr int MOST_A_SECOND = 100;
 constexpr std::size_t SENSORS_A_PAGE = 4;
@@ -98,7 +98,7 @@ void actions::comboBoxSelectionDidChange(int index) {
     g_cur_task = run_choices()[static_cast<std::size_t>(index)].task;
     g_cur_mode = g_cur_task;
     rework_gui_objects(g_cur_task);
-    draw_frame(); // at once: what stands there belongs to another run
+    draw_frame(); // at once: the pictures shown belong to another run
 }
 
 void actions::rework_gui_objects(int mode) {
@@ -208,7 +208,7 @@ bool actions::takes_time_out(const std::string& text) {
     if (text != "Timeout" || g_obd_msg_state != S_FAIL)
         return false;
     if (task_running() && !awaits_owed_reply()) {
-        odb_curReplyBuffyMsg += text; // stands in front of the next reply
+        odb_curReplyBuffyMsg += text; // precedes the next reply
         work_current_task();
     }
     return true;
@@ -240,7 +240,7 @@ void actions::cycles_begin() {
         sampling_begins();
 }
 
-// Replies come faster than they can be read: the status line follows with the frames.
+// Replies come faster than they can be read: the status line is updated with the frames.
 void actions::reply_came(const std::string& reply) {
     cur_err_msg = "Got proper reply: ( " + reply + ")";
     note_status(cur_err_msg);
@@ -274,8 +274,8 @@ void actions::log_failed(const std::string& why) {
     view_->show_log_mark(log_failure_);
 }
 
-// What fast sampling changed of the adapter is put back beside whatever the user does next; a task
-// that begins meanwhile starts with a reset instead.
+// The adapter settings changed by fast sampling are restored while the user continues; a task that
+// begins meanwhile starts with a reset instead.
 void actions::leave_cur_op_gracefully(const std::string&) {
     view_->show_waity(false);
     sampling_.end();
@@ -326,7 +326,7 @@ void actions::show_fast() {
         view_->show_rate({});
 }
 
-// Values a second, over a second each, and how they are asked for.
+// Values per second, averaged over each second, and how they are requested.
 void actions::show_rate() {
     constexpr run_loop::milliseconds SPAN{1000};
     const run_loop::milliseconds now = KS_delegate.doors().loop.now();
@@ -355,7 +355,7 @@ void actions::cellCicked() {
     if (selected.empty())
         return;
     const int shown_before = cur_pid_showing;
-    // At the start the first thumbnail is selected without having been clicked.
+    // At the start the first thumbnail is selected without a click.
     const std::size_t selected_before = std::max<std::size_t>(cur_thumbs_selected.size(), 1);
     if (selected.size() == 1)
         cur_pid_showing = *selected.begin();
@@ -364,7 +364,7 @@ void actions::cellCicked() {
         pictures_.select_thumbnail(i, selected.contains(i));
     for (const int tag : selected)
         if (gauge_1_idx == -1)
-            gauge_1_idx = -tag; // negated on purpose: only the first parameter moves the first dial
+            gauge_1_idx = -tag; // deliberately: only the first parameter moves the first dial
     cur_thumbs_selected = selected;
     choose_second_dial(selected, selected_before, shown_before);
     pictures_.set_large_chart(cur_pid_showing, cur_thumbs_selected);
@@ -373,8 +373,8 @@ void actions::cellCicked() {
     frames_.request();
 }
 
-// Shows the large chart's parameter. What moves it is that parameter, in a fuel run and when it is
-// to follow the chart, or else the one of `gauge_1_idx`.
+// Shows the large chart's parameter. In a fuel run, and when it follows the chart, that parameter
+// moves it; otherwise the one of `gauge_1_idx`.
 bool actions::moves_first_dial() const {
     const bool follows = g_cur_task == TASK_FUEL_ECONOMY
                              ? pictures_.is_plotting(cur_pid_showing)
@@ -462,7 +462,7 @@ void actions::clickIt() {
     view_->thumbiesMtrx().choose({0});
 }
 
-// Four sensors fit above the chart: brings the next four there and shows the first of them.
+// Four sensors fit above the chart: scrolls to the next four and shows the first of them.
 void actions::show_next_sensors() {
     const auto sensors = static_cast<int>(pids().size());
     const int page = static_cast<int>(SENSORS_A_PAGE);
@@ -472,7 +472,7 @@ void actions::show_next_sensors() {
     view_->scroll_to_thumbnail(first);
 }
 
-// While a run lasts, not more often than it can be read.
+// During a run, no more often than it can be read.
 void actions::show_status_now_and_then() {
     constexpr run_loop::milliseconds READING_TIME{100};
     const run_loop::milliseconds now = KS_delegate.doors().loop.now();
@@ -491,7 +491,7 @@ void actions::draw_frame() {
     show_status_now_and_then();
     show_rate();
     if (!view_->root()->isVisible())
-        return; // becoming visible resizes the panel, which asks for a frame
+        return; // becoming visible resizes the panel, which requests a frame
     view_->show_zoom(samples().rows() > FEWEST_POINTS);
     const auto length = sampling_.length();
     view_->show_length(display_text(

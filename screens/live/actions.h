@@ -1,11 +1,11 @@
 // The live-data screen: the user picks a kind of run, starts and stops it with one button, and
 // watches the run's parameters as thumbnails, one large chart and up to two dials, while the
-// sampling loop asks the car for one after the other without pause.
+// sampling loop requests one after the other continuously.
 //
-// Files: actions the screen: set-up, selection, start and stop; sampling_loop what is asked and
-// filed; run_logger the log; live_runs what the kinds of run differ in; live_handshake the way to
-// the car; live_view the widgets; live_pictures what they show. Pictures and status line follow
-// with the next paced frame.
+// Files: actions: set-up, selection, start and stop; sampling_loop: requests and filing;
+// run_logger: the log; live_runs: the differences between kinds of run; live_handshake: the
+// handshake; live_view: the widgets; live_pictures: their contents. Pictures and status line are
+// updated with the next paced frame.
 #pragma once
 
 #include "frame_pacer.h"
@@ -37,7 +37,7 @@ class actions final : public obd_screen, private sampling_listener {
     void leave_cur_op_gracefully(const std::string& message) override;
     void link_lost() override;
 
-    // Builds the same views from the user's parameters once more.
+    // Builds the same views again from the user's parameters.
     void initial_setup();
     // The start/stop button.
     void runLogs();
@@ -53,12 +53,11 @@ class actions final : public obd_screen, private sampling_listener {
     void show_next_sensors();
     bool isFlipped() const { return true; }
 
-    // Asks the car, over the handshake when it is not up, and tells `ended` however that ends; not
-    // while a run goes on.
+    // Asks the car, after the handshake if necessary, and always calls `ended`; not during a run.
     void ask_what_car_supports(std::function<void()> ended);
-    // What the car told last; nothing when it was not asked since the handshake, or did not tell.
+    // The car's last answer; nothing if it was not asked since the handshake, or did not answer.
     const std::optional<parameter_set>& car_parameters() const { return car_parameters_; }
-    // Every question of the last asking was answered, if with nothing.
+    // Every request of the last scan was answered, even if with nothing.
     bool scan_completed() const { return scan_completed_; }
 
     bool running() const { return sampling_.running(); }
@@ -68,12 +67,12 @@ class actions final : public obd_screen, private sampling_listener {
                (awaits_owed_reply() || sampling_.pausing() || KS_delegate.anything_outstanding());
     }
     const std::vector<std::string>& pids() const { return sampling_.pids(); }
-    // Of the run: what was answered since its first cycle began.
+    // Of the run: the answers since its first cycle began.
     std::uint64_t requests_answered() const { return sampling_.requests_answered(); }
     std::uint64_t cycles() const { return sampling_.cycles(); }
-    // As fast_sampler::level(), kept beyond the end of the run; nothing in a plain one.
+    // See fast_sampler::level(); kept after the end of the run; nothing for a plain one.
     std::optional<int> fast_level() const { return fast_level_; }
-    // A fast run is over, and the adapter is being put back.
+    // A fast run is over, and the adapter is being restored.
     bool puts_adapter_back() const {
         return !running() && task_running() && sampling_.adapter_changed();
     }
@@ -83,9 +82,9 @@ class actions final : public obd_screen, private sampling_listener {
     const std::string& log_path() const { return log_.path(); }
     // Why this run is not, or no longer, logged.
     const std::string& log_failure() const { return log_failure_; }
-    // Told as the first cycle of a run begins, before its first request.
+    // Called when the first cycle of a run begins, before its first request.
     std::function<void()> sampling_begins;
-    // Told the values of a cycle, in the order of pids(), after its line is in the log.
+    // Called with the values of a cycle, in the order of pids(), after its line is in the log.
     std::function<void(const std::vector<translated>&)> cycle_completed;
 
   private:
@@ -118,7 +117,7 @@ class actions final : public obd_screen, private sampling_listener {
     void work_out_log_file();
     void log_failed(const std::string& why);
 
-    // What the sampling loop tells.
+    // Called by the sampling loop.
     void another_car() override;
     void show_parameters(const std::vector<std::string>& pids) override;
     void nothing_to_sample() override;
@@ -146,9 +145,9 @@ class actions final : public obd_screen, private sampling_listener {
     int gauge_1_idx = 0, gauge_2_idx = -1;
     int l_prev_mode_idx = 0;
 
-    bool fast_helps_ = true; // as far as is known of this car
+    bool fast_helps_ = true; // as far as known for this car
     std::optional<int> fast_level_;
-    std::uint64_t values_counted_ = 0; // for the rate that is shown
+    std::uint64_t values_counted_ = 0; // for the rate shown
     run_loop::milliseconds counted_at_{0};
 
     bool status_changed_ = false;

@@ -1,5 +1,5 @@
 // Sampling as fast as the car answers (toolkit/sampling): the same run with fewer, larger and
-// shorter requests. The adapter is set up for it, and left as it was found.
+// faster requests. The adapter is set up for it and restored afterwards.
 #include "adapter_handshake.h"
 #include "fast_sampler.h"
 #include "globalVars.h"
@@ -12,11 +12,11 @@
 
 namespace {
 
-// Longer than any adapter waits for the car, so that a late reply still comes to its request.
+// Longer than any adapter waits for the car, so that a late reply still meets its request.
 constexpr run_loop::milliseconds PATIENCE{6000};
 constexpr run_loop::milliseconds STRAGGLER_BOUND{1000};
 constexpr run_loop::milliseconds OWED_BOUND{3000};
-constexpr std::string_view WAKE_UP = "\r"; // ends whatever the adapter is at
+constexpr std::string_view WAKE_UP = "\r"; // ends whatever the adapter is doing
 
 std::string capitals(std::string text) {
     std::ranges::transform(text, text.begin(), [](unsigned char c) { return std::toupper(c); });
@@ -38,8 +38,8 @@ void sampling_loop::begin_fast() {
     for (const sample_request& one : requests_)
         pids.push_back(capitals(one.pid));
     fast_ = std::make_unique<fast_sampler>(pids, g_bus_form == bus_form::can, *most_a_second_);
-    // A change of screen stops nothing: whatever comes next begins with the handshake, and that
-    // with a reset.
+    // A change of screen stops nothing: the next task begins with the handshake, and that with a
+    // reset.
     adapter_changed_ = true;
     fast_given_up_ = false;
     connected_2_KS_interface = KS_did_connect_2_car = false;
@@ -109,20 +109,20 @@ void sampling_loop::take_fast_reply() {
                 file_reply(asked, one.reply, one.reply);
     if (out.ends_cycle)
         end_cycle();
-    fast_given_up_ = fast_given_up_ || out.told == fast_sampler::news::given_up;
-    if (out.told != fast_sampler::news::none)
-        listener_.fast_sampling_told(out.told == fast_sampler::news::given_up);
+    fast_given_up_ = fast_given_up_ || out.change == fast_sampler::news::given_up;
+    if (out.change != fast_sampler::news::none)
+        listener_.fast_sampling_told(out.change == fast_sampler::news::given_up);
     if (out.answer_is_missing) {
         screen_.KS_delegate.replies().answer_is_missing();
         screen_.when_adapter_is_free(STRAGGLER_BOUND, [this](bool) { ask_fast(); });
     } else {
-        ask_fast(); // before the disk and the listener take their time
+        ask_fast(); // before writing and notifying, which take time
     }
     if (out.ends_cycle)
         complete_cycle();
 }
 
-// The last step goes on with plain sampling, or ends the screen's task when the run is over.
+// The last step continues with plain sampling, or ends the screen's task if the run is over.
 void sampling_loop::put_adapter_back() {
     stop_timer();
     fast_.reset();

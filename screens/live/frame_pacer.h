@@ -1,5 +1,5 @@
-// Paces drawing: at most 20 frames a second, more than a car sends new values. After a frame that
-// took d the next waits 50 d, but an eighth of a second at most, so that drawing takes little of a
+// Paces drawing: at most 20 frames a second, faster than a car sends new values. After a frame that
+// took d, the next waits 50 d, but at most an eighth of a second, so that drawing takes little of a
 // core; and at least 3 d, so that it never takes more than a quarter. Owned by a screen.
 #pragma once
 
@@ -14,7 +14,7 @@ class frame_pacer {
     frame_pacer(const frame_pacer&) = delete;
     frame_pacer& operator=(const frame_pacer&) = delete;
 
-    // A frame is to be drawn: as soon as the pace allows, from the run loop.
+    // Requests a frame: drawn from the run loop as soon as the pace allows.
     void request();
 
   private:

@@ -21,7 +21,7 @@ double area(QSizeF size) {
     return size.width() * size.height();
 }
 
-// The largest of that arrangement: strip and chart fill the height, or the width.
+// The largest size of that arrangement: strip and chart fill the height, or the width.
 solution solve(arrangement how, QSizeF room, const block_units& units, double gap, double foot) {
     const QSizeF chart = units.chart;
     const double aspect = units.dial.width() / units.dial.height();
@@ -84,7 +84,7 @@ block_layout lay_out_block(QSize room, const block_units& units, int gap, int sw
         for (int i = 0; i < DIAL_PLACES; ++i)
             layout.dials[static_cast<std::size_t>(i)] = {
                 QPoint(row + i * (dial.width() + gap), top), dial};
-    } else { // from the top of their column to the switch at its foot
+    } else { // from the top of their column to the switch at the bottom
         const int column = left + chart.width() + gap;
         const int top = best.how == arrangement::beside_all ? 0 : layout.chart.top();
         layout.dials = {QRect(QPoint(column, top), dial),
@@ -107,7 +107,7 @@ void instrument_panel::set_parts(const parts& all) {
 void instrument_panel::rearrange() {
     constexpr int GAP = 2 * GRID;
     now_ = lay_out_block(size(), units_, GAP, parts_.under_dials->sizeHint().height());
-    // The strip's scroll bar, when there is one, stands in the gap below it.
+    // The strip's scroll bar, if any, is in the gap below it.
     parts_.strip->setGeometry(now_.strip.adjusted(0, 0, 0, GAP));
     parts_.chart->setGeometry(now_.chart);
     for (std::size_t i = 0; i < parts_.dials.size(); ++i)
@@ -118,7 +118,7 @@ void instrument_panel::rearrange() {
         rearranged();
 }
 
-// The pictures have the palette's ground in them.
+// The pictures include the palette's background.
 void instrument_panel::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && rearranged)

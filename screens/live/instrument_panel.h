@@ -1,8 +1,7 @@
-// Lays the live-data instruments out as one block that fills its room: the strip of thumbnails, the
-// large chart and two dials, whose logical sizes are scaled together. The dials stand beside the
-// chart, in a wide room beside strip and chart, in a narrow one below. There is always room for two
-// dials: the chart keeps its size when the second one is chosen; until then a hint may stand in
-// that place.
+// Lays out the live-data instruments as one block that fills the panel: the strip of thumbnails,
+// the large chart and two dials, scaled together. The dials are beside the chart, in a wide panel
+// beside strip and chart, in a narrow one below. There is always room for two dials, so that the
+// chart keeps its size when the second one is chosen; until then a hint may take its place.
 #pragma once
 
 #include <QSizeF>
@@ -13,20 +12,20 @@
 
 inline constexpr int DIAL_PLACES = 2;
 
-// The block in units: the chart and a dial; the strip as high as a cell of it.
+// The block in units: the chart and a dial; the strip is as high as one of its cells.
 struct block_units {
     QSizeF chart, dial;
     int strip_height;
 };
 
-// In pixels, at `scale` pixels a unit for strip and chart. Each rectangle but the switch's and the
-// strip's width has the aspect of its picture.
+// In pixels, at `scale` pixels per unit for strip and chart. Each rectangle, except the switch and
+// the width of the strip, has the aspect ratio of its picture.
 struct block_layout {
     double scale = 0;
     QRect strip, chart, under_dials;
     std::array<QRect, DIAL_PLACES> dials;
 };
-// `gap` pixels lie between the parts; the switch below the dials is `switch_height` high.
+// `gap` pixels between the parts; the switch below the dials is `switch_height` high.
 block_layout lay_out_block(QSize room, const block_units& units, int gap, int switch_height);
 
 class instrument_panel final : public QWidget {
@@ -36,7 +35,7 @@ class instrument_panel final : public QWidget {
     struct parts {
         QWidget *strip, *chart;
         std::array<QWidget*, DIAL_PLACES> dials;
-        QWidget *hint, *under_dials; // the hint has the last dial's place
+        QWidget *hint, *under_dials; // the hint is in place of the last dial
     };
     // Children of this panel.
     void set_parts(const parts& all);

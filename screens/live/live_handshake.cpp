@@ -3,6 +3,7 @@
 #include "globalVars.h"
 #include "obd_screen.h"
 #include "text.h"
+#include "transports.h"
 
 #include <algorithm>
 
@@ -22,7 +23,7 @@ constexpr handshake_texts LIVE_TEXTS{
     .rejection_leaves = true,
 };
 
-// How far behind a search notice carriage returns are removed.
+// How far after a search notice carriage returns are removed.
 constexpr std::size_t RETURNS_REMOVED_WITHIN = 4;
 
 } // namespace
@@ -36,9 +37,7 @@ std::string live_handshake::check_initial_car_reply() {
         connected_2_KS_interface = false;
         next_step_idx = 0;
         screen_.set_status_msg("Timed out .. Try again");
-        screen_.toolies.myMsgBox(screen_.localized(g_connect_with == KS_USE_BT
-                                                       ? "no_reply_from_car_MSG_BT"
-                                                       : "no_reply_from_car_MSG_TCP"));
+        screen_.toolies.myMsgBox(screen_.localized(chosen_transport().car_silent_key));
         return REPLY_REJECTED;
     }
     if (contains(reply, "UNABLE TO CONNECT")) {
@@ -47,7 +46,7 @@ std::string live_handshake::check_initial_car_reply() {
         screen_.toolies.myMsgBox(told);
         return REPLY_REJECTED;
     }
-    // No test for "?" here: such a reply goes on, and the step that reads it decides.
+    // No test for "?" here: such a reply passes, and the step that reads it decides.
     if (contains(reply, "BUS INIT:") && contains(reply, "ERROR")) {
         screen_.toolies.myMsgBox(screen_.localized("init_OBD_error_MSG"));
         return REPLY_REJECTED;

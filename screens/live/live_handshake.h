@@ -1,4 +1,4 @@
-// The handshake as the live-data screen runs it.
+// The handshake of the live-data screen.
 #pragma once
 
 #include "adapter_handshake.h"

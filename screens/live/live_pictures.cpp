@@ -134,11 +134,11 @@ void live_pictures::draw_dial(dial& shown, picture_view& view) {
                                           latest.stale ? needle::greyed : needle::lit);
     else
         shown.gauge.draw_without_needle(face::awaiting);
-    view.set_image(shown.gauge.imageRepresentation(), shown.gauge.changed_pixels());
+    view.set_image(shown.gauge.imageRepresentation(), shown.gauge.take_changed_pixels());
     shown.put_back = shown.changed = false;
 }
 
-// Nothing was read of what has had no reply.
+// A parameter without a reply has no value.
 sample_set live_pictures::texts_of(sample_set samples) const {
     for (std::size_t i = 0; i < std::min(samples.size(), readings_.size()); ++i)
         if (!readings_[i].replied)
@@ -150,7 +150,7 @@ void live_pictures::draw(live_view& view, const sample_rows& rows, const sample_
     if (pids_.empty())
         return;
     const sample_set texts = texts_of(samples);
-    std::optional<label_records> kinds[2]; // worked out when the first picture needs them
+    std::optional<label_records> kinds[2]; // computed when the first picture needs them
     const auto labels_of = [&](bool realtime) -> const label_records& {
         std::optional<label_records>& kind = kinds[realtime ? 1 : 0];
         if (!kind)
@@ -168,7 +168,7 @@ void live_pictures::draw(live_view& view, const sample_rows& rows, const sample_
     };
 
     thumbnail_strip& strip = view.thumbiesMtrx();
-    // As the longer side of a cell needs it; the other is shrunk to fit.
+    // As the longer side of a cell needs; the other is shrunk.
     const QSizeF cell = strip.cell_size() * strip.devicePixelRatioF();
     const double thumbnail_scale =
         std::max(cell.width() / THUMBNAIL_SIZE.width(), cell.height() / THUMBNAIL_SIZE.height());
@@ -180,7 +180,7 @@ void live_pictures::draw(live_view& view, const sample_rows& rows, const sample_
             continue;
         at.changed = !strip.in_sight(static_cast<int>(i));
         if (at.changed)
-            continue; // once it comes into sight
+            continue; // drawn once visible
         at.chart.set_ground(cell_ground);
         at.chart.set_stretch(cell.width() / cell.height());
         paint(at.chart, thumbnail_scale, "", at.realtime_labels);

@@ -1,7 +1,6 @@
 // The pictures of the live-data screen: a thumbnail for each parameter, the large chart, two dials.
-// The screen says what changed; draw() paints what has changed and can be seen, which is all that a
-// frame costs. Before a parameter's first sample its pictures show their faces and "-". Owned by
-// actions.
+// The screen reports changes; draw() paints only what has changed and is visible. Before a
+// parameter's first sample its pictures show their empty faces and "-". Owned by actions.
 #pragma once
 
 #include "drawChartyItem.h"
@@ -31,15 +30,15 @@ class live_pictures {
     // Rows in the large chart, the last ones; -1 for all.
     void set_points_shown(int count);
     void select_thumbnail(int index, bool selected);
-    // Whether axis limits are the middle of a parameter's range, before there are samples.
+    // Whether axis limits before the first samples are the middle of a parameter's range.
     void use_realtime_labels(bool yes) { realtime_labels_ = yes; }
-    // The face on a dial, and whether that parameter's samples move its needle: a dial that nothing
-    // moves is dimmed.
+    // The face of a dial, and whether that parameter's samples move its needle: otherwise the dial
+    // is dimmed.
     void put_dial_back(int dial, int index, bool moves);
 
-    // A reply has been filed. NaN when it was unusable: the needle stays where it is and is greyed.
+    // A reply has been filed. NaN if it was unusable: the needle keeps its place and is greyed.
     void sample(int index, double value);
-    // A run begins: what was sampled before is another run's.
+    // A run begins: earlier samples belong to another run.
     void forget_samples();
 
     bool is_plotting(int index) const { return cur_zoom_chart.isPlottingThisIndex(index); }
@@ -58,11 +57,11 @@ class live_pictures {
         myGauge gauge;
         int index = 0;
         bool moves = false;
-        bool put_back = false; // and not drawn yet
+        bool put_back = false; // not drawn yet
         bool changed = false;  // the needle, or that there is one
         double scale = 0;
     };
-    // The latest of one parameter in this run.
+    // One parameter's latest sample in this run.
     struct reading {
         std::optional<double> value{}; // the last usable one
         bool replied = false, stale = false;

@@ -18,7 +18,7 @@ namespace {
 
 constexpr double NO_READING = std::numeric_limits<double>::quiet_NaN();
 
-// The data bytes of an answer to that parameter, at most two, as one number; NaN when it is none.
+// The data bytes of an answer to that parameter, at most two, as one number; NaN if it is not one.
 double raw_value(std::string_view reply, std::string_view pid) {
     const std::string_view answer = answer_in(reply);
     if (answer.empty() || !answers_parameter(answer, pid))
@@ -41,14 +41,14 @@ class log_run final : public live_run {
              store.string_array(MORE_PIDS_KEY).value_or(std::vector<std::string>{}))
             if (std::ranges::find(chosen, pid) == chosen.end())
                 chosen.push_back(pid);
-        // What a hand wrote into the settings file need not be parameters.
+        // A settings file edited by hand may hold anything.
         std::erase_if(chosen,
                       [](const std::string& pid) { return pid.size() != 2 || !is_hex(pid); });
         return chosen;
     }
 };
 
-// Fuel consumption: speed and air flow are asked for, the economy follows from them.
+// Fuel consumption: speed and air flow are requested, the economy computed from them.
 class fuel_run final : public live_run {
   public:
     explicit fuel_run(const mac_toolies& toolies) : toolies_(toolies) {}
@@ -67,8 +67,8 @@ class fuel_run final : public live_run {
         return reply;
     }
     std::optional<computed_sample> cycle_answered() override {
-        // The bytes of the replies are km/h and g/s whatever units the display is in, so the flag
-        // stays clear: the displayed values are rounded, in mph and lb/min by several percent.
+        // The bytes of the replies are km/h and g/s whatever the display units, so the flag stays
+        // clear: the displayed values are rounded, in mph and lb/min by several percent.
         const fuel_economy economy = compute_MPG(false, cur_Speed, cur_MAF);
         return computed_sample{0, fuel_economy_reply(toolies_, economy)};
     }
@@ -79,9 +79,9 @@ class fuel_run final : public live_run {
     double cur_MAF = NO_READING;   // g/s
 };
 
-// Boost: manifold pressure above the air around. The computed parameter counts from the 101 kPa
-// that decoding takes off, so that a log reads the same wherever it is opened; where the car
-// measures the air around, the difference goes into the word.
+// Boost: manifold pressure above ambient. The computed parameter counts from the 101 kPa that
+// decoding subtracts, so that a log reads the same wherever it is opened; if the car measures the
+// ambient pressure, the difference is part of the word.
 class boost_run final : public live_run {
   public:
     std::optional<std::vector<std::string>> parameters(const user_defaults&) const override {
@@ -115,8 +115,8 @@ class boost_run final : public live_run {
     int barometric_kpa_ = STANDARD_BAROMETER;
 };
 
-// Oxygen sensors: the car is asked once which it has. A car names them by 01 13 (two banks of
-// four) or by 01 1D (four banks of two); each bit stands for one of the parameters 14 to 1B.
+// Oxygen sensors: the car is asked once which it has. It reports them by 01 13 (two banks of four)
+// or 01 1D (four banks of two); each bit means one of the parameters 14 to 1B.
 class oxygen_run final : public live_run {
   public:
     std::optional<std::vector<std::string>> parameters(const user_defaults&) const override {

@@ -1,6 +1,5 @@
-// The kinds of run that the live-data screen offers, as far as they differ: which parameters they
-// show, what they ask the car, and what they compute from it. The request cycle around them is the
-// screen's. No widgets.
+// How the kinds of run of the live-data screen differ: the parameters they show, what they request
+// from the car, and what they compute from it. The request cycle belongs to the screen. No widgets.
 #pragma once
 
 #include "mac_toolies.h"
@@ -12,8 +11,8 @@
 #include <string_view>
 #include <vector>
 
-// One request of a cycle: the parameter asked for, and the place in the run's list of parameters
-// that the answer, or what is made of it, is filed under.
+// One request of a cycle: the parameter requested, and the place in the run's list of parameters
+// where the answer, or what is computed from it, is filed.
 struct sample_request {
     std::string pid;
     int place;
@@ -21,7 +20,7 @@ struct sample_request {
 
 struct computed_sample {
     int place;
-    std::string reply; // as an adapter would have answered, without blanks
+    std::string reply; // as an adapter would answer, without blanks
 };
 
 class live_run {
@@ -33,13 +32,13 @@ class live_run {
     virtual std::optional<std::vector<std::string>>
     parameters(const user_defaults& store) const = 0;
 
-    // No: it ends with its questions.
+    // False: it ends with its questions.
     virtual bool samples() const { return true; }
-    // Asked once before the first cycle; nothing when there is (no longer) anything to ask.
+    // Asked once before the first cycle; nothing if there is no (further) question.
     virtual std::optional<std::string> first_question() { return std::nullopt; }
-    // All that came in answer, as it came; its first line follows.
+    // The raw reply; its first line follows.
     virtual void whole_reply_came(std::string_view reply) { (void)reply; }
-    // The answer, without blanks. May bring another question, or the parameters to show.
+    // The answer, without blanks. May lead to another question, or to the parameters to show.
     virtual void first_question_answered(std::string_view reply) { (void)reply; }
     virtual std::optional<std::vector<std::string>> parameters_found() const {
         return std::nullopt;
@@ -52,7 +51,7 @@ class live_run {
         (void)asked;
         return reply;
     }
-    // After the last request of a cycle: what follows from its answers.
+    // After the last request of a cycle: what is computed from its answers.
     virtual std::optional<computed_sample> cycle_answered() { return std::nullopt; }
 };
 

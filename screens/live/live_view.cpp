@@ -23,13 +23,13 @@
 
 namespace {
 
-constexpr int ROOM_FOR_RATE = 1100; // below, the words of the row need it
+constexpr int ROOM_FOR_RATE = 1100; // in a narrower window the words of the row need it
 constexpr int ZOOM_STEPS = 1000;
 constexpr int BUTTON_SIZE = 6 * GRID;
 constexpr double CELL_SHARE = 0.25; // of the large chart's width
 constexpr int CELL_GAP = 2;
 
-// As large as its round picture, which ends where the other rows do.
+// As large as its round picture, which is aligned with the other rows.
 class round_button final : public QToolButton {
   public:
     using QToolButton::QToolButton;
@@ -211,7 +211,7 @@ void live_view::build_strip() {
     xtopActionCharts_->setWidget(thumbiesMtrx_);
 }
 
-// What a place that is empty would hold.
+// What would fill an empty place.
 QLabel* live_view::make_hint(const char* name, std::string_view key, QWidget* parent) const {
     auto* hint = new QLabel(ui_text(delegate_, key), parent);
     hint->setObjectName(QLatin1String(name));
@@ -223,7 +223,7 @@ QLabel* live_view::make_hint(const char* name, std::string_view key, QWidget* pa
     return hint;
 }
 
-// A quarter of the large chart's width each, so that the first four stand above it.
+// Each a quarter of the large chart's width, so that the first four are above it.
 void live_view::fit_thumbnails() {
     const int width = static_cast<int>(chartFull_->width() * CELL_SHARE - CELL_GAP);
     thumbiesMtrx_->set_cell_size({std::max(width, 1), panel_->layout_now().strip.height()});
@@ -294,7 +294,7 @@ void live_view::select_run(int index) {
 
 void live_view::set_thumbnails(const std::vector<QString>& names) {
     thumbiesMtrx_->renew(names);
-    if (names.empty()) // what was shown before belongs to another run
+    if (names.empty()) // what is shown belongs to another run
         for (picture_view* view : {chartFull_, gauge_uno_})
             view->set_image({});
     empty_strip_->setVisible(names.empty());

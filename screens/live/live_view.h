@@ -1,4 +1,4 @@
-// The widgets of the live-data screen. Owned by actions, which tells it what to show.
+// The widgets of the live-data screen. Owned by actions.
 #pragma once
 
 #include "instrument_panel.h"
@@ -43,7 +43,7 @@ class live_view {
     std::function<void(double)> on_zoom; // 0 to 1
     std::function<void(bool)> on_follow_chart;
     std::function<void(bool)> on_fast;
-    std::function<void()> on_resized; // pictures are shown at another size
+    std::function<void()> on_resized; // pictures are shown at a different size
 
     void show_running(bool running);
     void show_waity(bool visible);
@@ -51,9 +51,9 @@ class live_view {
     void show_follow_chart(bool on);
     // Since the run's first request; empty for none.
     void show_length(const QString& length);
-    // The switch for fast sampling, with what its tooltip says.
+    // The switch for fast sampling, and its tooltip.
     void show_fast(bool on, bool enabled, std::string_view hint_key);
-    // What comes of it; empty: nothing yet.
+    // Its result; empty: none yet.
     void show_rate(const QString& rate);
     // Back to all rows, without a call of on_zoom.
     void reset_zoom();
@@ -63,7 +63,7 @@ class live_view {
     void set_thumbnails(const std::vector<QString>& names);
     // Brings the thumbnail to the left edge of the strip.
     void scroll_to_thumbnail(int index);
-    // A lasting mark that this run is not being logged, and why; empty: none.
+    // A permanent mark that this run is not being logged, and why; empty: none.
     void show_log_mark(const std::string& text);
 
   private:

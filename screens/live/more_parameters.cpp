@@ -24,7 +24,7 @@
 namespace {
 
 constexpr QSize DEFAULT_SIZE{640, 520};
-constexpr unsigned FIRST_COMPUTED = 0xE1, LAST_COMPUTED = 0xE8; // no parameters of the car
+constexpr unsigned FIRST_COMPUTED = 0xE1, LAST_COMPUTED = 0xE8; // not parameters of the car
 enum column { NAME, UNIT, PID, SUPPORT, COLUMNS };
 
 bool contains_pid(const std::vector<std::string>& pids, const std::string& pid) {

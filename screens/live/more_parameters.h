@@ -1,6 +1,6 @@
 // Chooses parameters beyond those of the preferences for log runs: all that can be decoded, with
-// what this car supports marked once it has told. Not modal for the run loop: replies come through
-// underneath. Destroys itself when it is closed.
+// those that this car supports marked once it has reported them. Not modal for the run loop:
+// replies still arrive. Destroys itself when it is closed.
 #pragma once
 
 #include <QDialog>
@@ -19,7 +19,7 @@ class more_parameters final : public QDialog {
   public:
     more_parameters(Ks_lite_delegate& delegate, class actions& screen, QWidget* parent);
 
-    // The choice is in the settings.
+    // Called when the choice is in the settings.
     std::function<void()> chosen;
 
     void accept() override;

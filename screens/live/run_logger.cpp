@@ -8,8 +8,8 @@
 
 namespace {
 
-// A reply as it goes into the log, where "," and line ends have a meaning of their own. What line
-// noise has made of it must not read as an answer there, so that nothing is left out.
+// A reply for the log, where "," and line ends are separators. Nothing is left out, so that a reply
+// damaged by line noise cannot read as an answer there.
 std::string log_field(std::string_view reply) {
     constexpr char NO_TEXT = '.';
     std::string field(reply);

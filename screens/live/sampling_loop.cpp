@@ -20,22 +20,22 @@ constexpr int SUPPORTED_PIDS_TIME_OUT = 12000;
 constexpr int REPLY_TIME_OUT = 3000;
 constexpr std::size_t LONGEST_SAMPLE = 331;
 
-// How long the answer that is still owed is awaited after one to another request: as long as an
-// adapter at most waits for the car, and longer when that was not enough.
+// How long an owed answer is awaited after an answer to another request: as long as an adapter
+// waits for the car at most, and longer if that was not enough.
 constexpr run_loop::milliseconds STRAGGLER_BOUND{1000};
 constexpr run_loop::milliseconds LONG_STRAGGLER_BOUND{4000};
 constexpr int MOST_WAITS_IN_VAIN = 3;
 constexpr int ANSWERS_TO_TRUST_AGAIN = 50; // in a row
 
-// The toolkit's operation has another name: asking for this one fails.
+// The toolkit's operation has another name, so looking this one up fails.
 std::string fix_3dos(std::string_view reply) {
     if (reply.empty())
         return {};
     throw std::runtime_error("the toolkit has no operation fix_3dos:");
 }
 
-// Of several replies that came in one piece the one that answers the request, if any does: what
-// stands before it was left over.
+// Of several replies in one piece, the one that answers the request, if any: those before it are
+// leftovers.
 std::string reply_to(std::string_view pid, const std::string& replies) {
     for (const std::string_view each : split(replies, ">"))
         if (answers_parameter(whole_answer(each), pid))
@@ -137,7 +137,7 @@ void sampling_loop::ask_supported_pids() {
     prep_and_send_cmd(cur_cmd, SUPPORTED_PIDS_TIME_OUT);
 }
 
-// False when the run has ended or the request was repeated.
+// False if the run has ended or the request was repeated.
 bool sampling_loop::take_supported_pids(const std::string& reply) {
     std::string text = without(reply, " ");
     if (contains(text, "...")) {
@@ -201,7 +201,7 @@ void sampling_loop::first_question_answered() {
         return;
     if (answers_another(*reply, requests_.front().pid) &&
         await_straggler(order_of_answer::one_behind))
-        return; // and ask once more
+        return; // and ask again
     run_->whole_reply_came(odb_curReplyMsg);
     run_->first_question_answered(*reply);
     begin_cycle();
@@ -214,7 +214,7 @@ void sampling_loop::ask(const sample_request& request) {
     });
 }
 
-// Neither argument counts, on purpose: what is sent is cur_cmd, and the time-out is g_this_delta.
+// Deliberately ignores both arguments: cur_cmd is sent, and the time-out is g_this_delta.
 void sampling_loop::prep_and_send_cmd(std::string_view, int) {
     g_replies_expected = 1;
     g_obd_msg_state = S_WAITING;
@@ -227,7 +227,7 @@ void sampling_loop::add_item_to_log_vector(std::string_view this_item_val, int t
         return;
     }
     const auto place = static_cast<std::size_t>(this_idx);
-    // What is no whole answer stays as it came, but is no value.
+    // An incomplete answer is kept as it came, but is not a value.
     const std::string_view answer = answer_in(this_item_val);
     cycle_values_[place] = parameter_value(screen_.toolies, answer.empty() ? "~" : answer);
     these_samples[place][1] = cycle_values_[place].text;
@@ -247,7 +247,7 @@ void sampling_loop::fail_with_alert(const std::string& message) {
     screen_.leave_cur_op_gracefully("");
 }
 
-// Whether the run ends with that reply, and has.
+// Whether that reply ended the run.
 bool sampling_loop::ended_by(const std::string& reply) {
     if (g_obd_msg_state == S_FAIL) {
         end_by_timeout("Timed out .. Try again");
@@ -260,8 +260,8 @@ bool sampling_loop::ended_by(const std::string& reply) {
     return true;
 }
 
-// The first line of the reply without blanks, "~" for one that the adapter did not understand;
-// nothing when the run has ended.
+// The first line of the reply without blanks, "~" if the adapter did not understand the request;
+// nothing if the run has ended.
 std::optional<std::string> sampling_loop::screened_reply() {
     if (g_obd_msg_state == S_FAIL) {
         ended_by({});
@@ -305,14 +305,14 @@ void sampling_loop::take_reply() {
     const sample_request asked = requests_[cur_request_];
     const order_of_answer order = order_of(*screened);
     const bool out_of_step = order != order_of_answer::in_step;
-    // What answers another request is not filed under this one's name.
+    // An answer to another request is not filed under this one.
     file_reply(asked, out_of_step ? "~" : *screened, *screened);
     if (++cur_request_ < requests_.size()) {
         ask_next(order);
         return;
     }
     end_cycle();
-    ask_next(order); // before the disk and the listener take their time
+    ask_next(order); // before writing and notifying, which take time
     complete_cycle();
 }
 
@@ -329,7 +329,7 @@ void sampling_loop::file_reply(const sample_request& asked, const std::string& t
         file_sample(reply, cur_log_idx);
 }
 
-// What follows from its answers is computed.
+// Computes the values derived from its answers.
 void sampling_loop::end_cycle() {
     cur_request_ = 0;
     cycle_filed_ = screen_.KS_delegate.doors().loop.now();
@@ -344,13 +344,13 @@ void sampling_loop::file_sample(const std::string& reply, int index) {
     listener_.sample_filed(index, cycle_values_[static_cast<std::size_t>(index)].value);
 }
 
-// An item of the fuel run, asked for or computed.
+// An item of the fuel run, requested or computed.
 void sampling_loop::output_MPG_item(int index, const std::string& this_reply_cp) {
     file_sample(this_reply_cp, index);
 }
 
-// An answer to another request than the last means that the adapter owes one: it is awaited and
-// dropped, or every answer from now on would be one behind.
+// An answer to another request than the last means that the adapter still owes one: it is awaited
+// and dropped, or every later answer would lag by one.
 void sampling_loop::ask_next(order_of_answer order) {
     if (order == order_of_answer::in_step) {
         if (++answers_in_step_ >= ANSWERS_TO_TRUST_AGAIN)
@@ -363,7 +363,7 @@ void sampling_loop::ask_next(order_of_answer order) {
     ask(requests_[cur_request_]);
 }
 
-// False for an adapter that has been waited for in vain before: it owes nothing, it answers wrong.
+// False if the wait was in vain before: then the adapter owes nothing, it just answers wrongly.
 bool sampling_loop::await_straggler(order_of_answer order) {
     if (waits_in_vain_ >= (order == order_of_answer::one_behind ? MOST_WAITS_IN_VAIN : 1))
         return false;

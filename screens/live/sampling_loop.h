@@ -1,7 +1,7 @@
 // The sampling loop: one request after the other, each as soon as the reply before it has been
-// handled. It screens and files the replies; whoever owns it is told. A request leaves before the
-// owner is told of a sample, so before anything is drawn or written. No widgets. fast_sampling.cpp:
-// the same with a fast_sampler, when that is asked for.
+// handled. It screens and files the replies and notifies its owner. The next request leaves before
+// the owner is notified of a sample, hence before anything is drawn or written. No widgets.
+// fast_sampling.cpp: the same with a fast_sampler.
 #pragma once
 
 #include "live_runs.h"
@@ -21,13 +21,13 @@ class fast_sampler;
 
 class sampling_listener {
   public:
-    // The handshake begins: what was known of the car is void.
+    // The handshake begins: what was known about the car is invalid.
     virtual void another_car() = 0;
-    // The first question told which parameters to show; they have no rows yet.
+    // The first question determined the parameters to show; they have no rows yet.
     virtual void show_parameters(const std::vector<std::string>& pids) = 0;
-    // The car was asked, and names none of what the run is about.
+    // The car was asked, and has none of the parameters of this run.
     virtual void nothing_to_sample() = 0;
-    // A run that only asks has its answers.
+    // A run without samples has its answers.
     virtual void questions_answered() = 0;
     // The first cycle begins, before its first request.
     virtual void cycles_begin() = 0;
@@ -36,9 +36,9 @@ class sampling_listener {
     virtual void sample_filed(int index, double value) = 0;
     // The cycle is row `row` of samples().
     virtual void cycle_filed(std::size_t row) = 0;
-    // Replies did not fit: fast sampling goes on a level lower, or was given up.
+    // Replies did not match: fast sampling continues one level lower, or was given up.
     virtual void fast_sampling_told(bool given_up) = 0;
-    // Nothing was to be gained: the rest of the run is plain.
+    // Nothing could be gained: the rest of the run is plain.
     virtual void fast_sampling_is_no_use() = 0;
 
   protected:
@@ -52,24 +52,24 @@ class sampling_loop {
 
     // Empty samples of these parameters, two-digit hex text each.
     void set_parameters(const std::vector<std::string>& pids);
-    // A run begins: its first step follows when the link is up.
+    // Begins a run; its first step follows when the link is up.
     void begin(std::unique_ptr<live_run> run);
     void end();
     bool running() const { return keep_logging; }
 
-    // From the next run on: as fast as the car answers, with at most so many requests a second on
-    // CAN (0: as many as it takes); nothing: plainly.
+    // From the next run on: as fast as the car answers, with at most this many requests a second on
+    // CAN (0: no limit); nothing: plain sampling.
     void sample_fast(std::optional<int> most_a_second) { most_a_second_ = most_a_second; }
     std::optional<int> fast_most() const { return most_a_second_; }
-    // As fast_sampler::level(); nothing while the run is plain.
+    // See fast_sampler::level(); nothing while the run is plain.
     std::optional<int> fast_level() const;
-    // Between two requests, on purpose.
+    // In a deliberate pause between two requests.
     bool pausing() const { return pausing_; }
-    // The adapter is not as others expect it. Putting it back takes a few replies, the last of
-    // which ends the screen's task.
+    // The adapter's settings are changed. Restoring them takes a few replies, the last of which
+    // ends the screen's task.
     bool adapter_changed() const { return adapter_changed_; }
     void put_adapter_back();
-    // It cannot be reached; the handshake will see to it.
+    // It cannot be reached; the handshake will restore it.
     void leave_adapter() { adapter_changed_ = false; }
 
     void work_out_log(int step);
@@ -83,8 +83,7 @@ class sampling_loop {
     const sample_set& latest() const { return these_samples; }
     // Of the last complete row, in the order of pids().
     const std::vector<translated>& cycle_values() const { return cycle_values_; }
-    // Of the run: what was answered since its first cycle began, and how long its complete cycles
-    // took.
+    // Of the run: the answers since its first cycle began, and the duration of its complete cycles.
     std::uint64_t requests_answered() const { return requests_answered_; }
     std::uint64_t cycles() const { return cycles_; }
     run_loop::milliseconds length() const { return cycle_filed_ - first_request_; }
@@ -135,9 +134,9 @@ class sampling_loop {
     std::unique_ptr<live_run> run_;
 
     bool keep_logging = false;
-    int cur_log_idx = 0; // place, in the list of parameters, of what is being asked for
+    int cur_log_idx = 0; // index of the requested parameter
     std::vector<std::string> _pid_logitems_list;
-    std::optional<std::string> p_cur_avail_pids; // absent and empty differ
+    std::optional<std::string> p_cur_avail_pids; // absent and empty are different
     int p_obdTimeOutCnt = 0;
     sample_set these_samples;
     sample_rows cur_log_points;
@@ -147,7 +146,7 @@ class sampling_loop {
     std::size_t cur_request_ = 0;
     bool asks_first_question_ = false;
     int waits_in_vain_ = 0;   // for an answer that the adapter still owed
-    int answers_in_step_ = 0; // since the last that was not
+    int answers_in_step_ = 0; // since the last answer out of step
     std::uint64_t requests_answered_ = 0, cycles_ = 0;
     run_loop::milliseconds first_request_{0}, cycle_filed_{0};
 
@@ -156,7 +155,7 @@ class sampling_loop {
     bool fast_silent_ = false; // no prompt has come
     bool fast_given_up_ = false;
     bool adapter_changed_ = false;
-    std::size_t put_back_ = 0;     // of the commands that do it
+    std::size_t put_back_ = 0;     // index of the restoring command
     run_loop::timer_id timer_ = 0; // of a pause, or of patience
     bool pausing_ = false;
     run_loop::milliseconds plain_pause_{0}; // of a car that complained

@@ -1,6 +1,6 @@
-// Asks the car what parameters it supports, group by group as far as some unit announces the next:
-// a run without samples. What the handshake keeps is the engine's word up to 60; this is every
-// unit's, to the end.
+// Asks the car which parameters it supports, group by group as long as a unit announces the next: a
+// run without samples. The handshake stores only the engine's bitmaps, up to 60; this collects
+// every unit's, to the end.
 #pragma once
 
 #include "live_runs.h"
@@ -14,7 +14,7 @@ inline constexpr char MORE_PIDS_KEY[] = "more_pids";
 
 class supported_scan final : public live_run {
   public:
-    // Puts what was told into `found`, which must outlive it; untouched when no unit told anything.
+    // Stores the result in `found`, which must outlive it; unchanged if no unit answered.
     explicit supported_scan(std::optional<parameter_set>& found) : found_(found) {}
 
     bool samples() const override { return false; }
@@ -28,9 +28,9 @@ class supported_scan final : public live_run {
   private:
     std::optional<parameter_set>& found_;
     unsigned group_ = 0;
-    bool announced_ = true; // the group, by the one before
+    bool announced_ = true; // the group, by the previous one
     bool next_announced_ = false;
 };
 
-// Two upper-case hex digits.
+// Two capital hex digits.
 std::string pid_text(unsigned pid);

@@ -186,7 +186,7 @@ QScrollArea* thumbnail_strip::area() const {
     return nullptr;
 }
 
-// A notch, whichever way the wheel turns, is a cell.
+// One notch of the wheel, in either axis, is one cell.
 void thumbnail_strip::wheelEvent(QWheelEvent* event) {
     constexpr int NOTCH = 120;
     QScrollArea* const around = area();
@@ -218,7 +218,7 @@ void thumbnail_strip::paintEvent(QPaintEvent* event) {
         if (picture.isNull())
             painter.fillRect(place, ground());
         else
-            painter.drawImage(place, picture); // has its ground
+            painter.drawImage(place, picture); // includes its background
         if (selected_.contains(cell)) {
             painter.setPen(QPen(palette().color(QPalette::Highlight), FRAME));
             painter.drawRect(

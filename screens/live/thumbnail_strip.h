@@ -1,7 +1,7 @@
 // One row of thumbnails, a cell each, of which one or more are selected: a click selects one, Shift
 // extends to it, Ctrl toggles it; arrow keys, Home and End move, with Shift they extend, and the
 // space bar toggles; the mouse wheel scrolls. The selection is never empty while there are cells.
-// Pictures are stretched to their cell both ways. Lives in a scroll area, which it tells to follow
+// Pictures are stretched to their cell in both directions. Placed in a scroll area, which follows
 // the current cell.
 #pragma once
 
@@ -21,9 +21,9 @@ class thumbnail_strip final : public QWidget, public spoken {
   public:
     explicit thumbnail_strip(QWidget* parent);
 
-    // The user chose; selected() is what the choice came to.
+    // The user changed selected().
     std::function<void()> chosen;
-    // Another part of the strip came into sight.
+    // Another part of the strip became visible.
     std::function<void()> exposed;
 
     // A cell in words, for its tooltip.
@@ -34,14 +34,14 @@ class thumbnail_strip final : public QWidget, public spoken {
     int cells() const { return static_cast<int>(cells_.size()); }
     void set_cell_size(QSize size);
     QSize cell_size() const { return cell_size_; }
-    // Of 32 bits a pixel, upon ground().
+    // 32 bits per pixel, painted on ground().
     void set_picture(int cell, const QImage& picture);
     QColor ground() const;
     const std::set<int>& selected() const { return selected_; }
-    // As a click on the first of the cells, and on the others with Ctrl; cells that are not there
-    // are ignored.
+    // Like a click on the first of the cells, and Ctrl-clicks on the others; cells that do not
+    // exist are ignored.
     void choose(const std::set<int>& these);
-    // Whether any of the cell would be seen.
+    // Whether any part of the cell is visible.
     bool in_sight(int cell) const;
 
   protected:

@@ -25,14 +25,14 @@ enum step : int {
 };
 
 constexpr std::string_view NOT_UNDERSTOOD = "Did not understand cmd  ... Try again ";
-// So often "AT SP A3" is tried; an adapter that has not changed its mind by then, or whose answers
-// are one behind, never will.
+// How often "AT SP A3" is tried; an adapter that still reports a fixed protocol, or whose answers
+// lag by one, will not change.
 constexpr int MOST_FIXED_PROTOCOLS = 10;
 
 constexpr std::string_view NO_INTERFACE =
     "Unable to connect to interface ... Timed out .. Try again";
 
-// An adapter that says everything twice has not more units.
+// Duplicated lines do not mean more units.
 int different_answers(const reading& read) {
     int count = 0;
     for (auto one = read.answers.begin(); one != read.answers.end(); ++one)
@@ -42,7 +42,7 @@ int different_answers(const reading& read) {
 
 } // namespace
 
-// One request for supported PIDs, and the next group's that its own bitmap may announce.
+// One request for supported PIDs, and that of the next group, which its bitmap may announce.
 struct adapter_handshake::pid_group {
     int number;
     std::string_view request;
@@ -188,8 +188,8 @@ void adapter_handshake::identity_answered() {
     send("AT DP\r", PROTOCOL_ANSWERED);
 }
 
-// An adapter that answers every "AT DP" with "?" keeps this exchange going until the user leaves:
-// the screener says what is wrong each time.
+// An adapter that answers every "AT DP" with "?" keeps this exchange going until the user leaves;
+// the screener reports it each time.
 void adapter_handshake::protocol_answered() {
     const std::string reply = check_initial_car_reply();
     if (contains(reply, "?")) {
@@ -227,7 +227,7 @@ void adapter_handshake::headers_on_not_confirmed() {
     send("AT H1\r", HEADERS_ON_ANSWERED);
     const int before = g_retries;
     if (before <= 3) {
-        g_retries = before + 2; // by two on purpose: two repeats, then the end
+        g_retries = before + 2; // by two, deliberately: two repeats, then the end
         screen_.set_status_msg("Didn't get a confirmation from interface ... Trying again");
     } else {
         g_retries = before + 1;
@@ -238,7 +238,7 @@ void adapter_handshake::headers_on_not_confirmed() {
 void adapter_handshake::pids_answered(const pid_group& group) {
     const bool first = group.number == 0;
     std::string reply = odb_curReplyMsg;
-    // Without a test of their own the later groups would take silence for an answer.
+    // Without this check the later groups would take silence for an answer.
     if (texts_.first_pids_screened && (first || g_obd_msg_state == S_FAIL)) {
         reply = check_initial_car_reply();
         if (contains(reply, REPLY_REJECTED)) {

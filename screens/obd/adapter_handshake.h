@@ -1,7 +1,8 @@
-// Brings adapter and car's bus up before a task: reset, echo off, identity, protocol, headers on,
-// supported PIDs, headers off. One step per complete reply; the step numbers below are the values
-// of next_step_idx while g_cur_mode is MODE_HANDSHAKE. Two screens run it; they differ in texts and
-// in how a reply is screened, which the subclass of each screen provides. A member of its screen.
+// Initialises the adapter and the car's bus before a task: reset, echo off, identity, protocol,
+// headers on, supported PIDs, headers off. One step per complete reply; the step numbers below are
+// the values of next_step_idx while g_cur_mode is MODE_HANDSHAKE. Two screens run it; they differ
+// in texts and in how a reply is screened, which the subclass of each screen provides. A member of
+// its screen.
 #pragma once
 
 #include <string>
@@ -9,7 +10,7 @@
 
 class obd_screen;
 
-// What the screener writes for a reply that was rejected and of which the user has been told.
+// What the screener returns for a rejected reply, after informing the user.
 inline constexpr char REPLY_REJECTED[] = "-666";
 
 struct handshake_texts {
@@ -32,9 +33,9 @@ class adapter_handshake {
         : screen_(screen), texts_(texts) {}
     virtual ~adapter_handshake() = default;
 
-    // Whether the adapter has to be brought up before a task; then the handshake has been started.
+    // Whether the adapter must be initialised before a task; if so, starts the handshake.
     bool comes_first();
-    // Runs one step. True when the handshake has just completed and the task has been started.
+    // Runs one step. True if that completed the handshake and started the task.
     bool connect_2_interface(int step);
     // The last complete reply cleaned, or REPLY_REJECTED.
     virtual std::string check_initial_car_reply() = 0;

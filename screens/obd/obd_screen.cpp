@@ -8,6 +8,7 @@
 #include "status_line.h"
 #include "system_log.h"
 #include "text.h"
+#include "transports.h"
 
 namespace {
 
@@ -15,7 +16,7 @@ toolkit_doors doors_for_toolkit(app_doors& doors) {
     return {&doors.resources, &doors.defaults, &doors.message_boxes, &doors.notifications};
 }
 
-// How long another command's reply is awaited, whatever a run has made of the reply time-out.
+// How long another command's reply is awaited, even if a run has changed the reply time-out.
 constexpr std::chrono::seconds OLD_REPLY_BOUND{REPLY_TIME_OUT_AT_START};
 
 } // namespace
@@ -50,12 +51,12 @@ void obd_screen::end_task() {
 bool obd_screen::work_over_link(const std::function<void()>& link_usable) {
     if (!KS_delegate.openInterfaceConnection()) {
         const bool coming_up = KS_delegate.link_coming_up();
-        if (!coming_up && g_connect_with == KS_USE_BT)
-            set_status_msg(KS_delegate.doors().bluetooth.advice());
+        if (const std::string told = KS_delegate.advice(); !coming_up && !told.empty())
+            set_status_msg(told);
         return coming_up;
     }
     link_usable();
-    if (g_connect_with != KS_USE_BT || connected_2_BT_interface) {
+    if (*chosen_transport().connected) {
         begin_first_step();
     } else if (!KS_delegate.link_coming_up()) { // a channel that has closed is never opened again
         set_status_msg(localized("bt_closed_MSG"));

@@ -1,5 +1,5 @@
-// What the screens that talk to the adapter share: the delegate, the toolkit, the status line and
-// the small verbs of a step ("put the command in cur_cmd, note the next step, send").
+// What the screens that talk to the adapter share: the delegate, the toolkit, the status line, and
+// the helpers of a step (put the command in cur_cmd, note the next step, send).
 #pragma once
 
 #include "Ks_lite_delegate.h"
@@ -34,7 +34,7 @@ class obd_screen : public screen_controller {
     void beep();
     std::string localized(std::string_view key) const;
 
-    // What the handshake finds out; a screen shows what it has labels for.
+    // Results of the handshake; a screen shows those that it has labels for.
     virtual void show_interface(const std::string& text) { (void)text; }
     virtual void show_protocol(const std::string& text) { (void)text; }
     virtual void show_control_units(int count) { (void)count; }
@@ -43,37 +43,37 @@ class obd_screen : public screen_controller {
     mac_toolies toolies;
     std::string cur_err_msg;
 
-    // Goes on when the adapter owes no reply any more, at the latest after the bound, and then
-    // `in_vain`: what comes until then is dropped. That reply must not be taken for the answer to
-    // what is sent next, and a character sent meanwhile would interrupt it.
+    // Continues when the adapter owes no reply any more, or after the bound, then with `in_vain`.
+    // What arrives until then is dropped: it must not be taken for the answer to the next command,
+    // and a character sent meanwhile would interrupt it.
     void when_adapter_is_free(run_loop::milliseconds bound,
                               std::function<void(bool in_vain)> go_on);
-    // For the ends that say nothing and reset nothing.
+    // Ends a task without message or reset.
     void end_task();
-    // A task of this screen runs. Replies and deferred calls that meet a screen without one belong
-    // to somebody else and are dropped.
+    // A task of this screen is running. Otherwise replies and deferred calls belong to another task
+    // and are dropped.
     bool task_running() const { return task_running_; }
 
   protected:
     void use_status_line(status_line& line) { statusLbl = &line; }
-    // The two halves of set_status_msg(), for a screen whose texts come faster than they can be
-    // read: the first takes note, the second shows the last one noted.
+    // The two halves of set_status_msg(), for a screen whose texts change faster than they can be
+    // read: the first stores the text, the second shows the latest.
     void note_status(const std::string& message);
     void show_status();
-    // Forgets what an earlier screen was about: replies, retries, the step.
+    // Resets an earlier screen's state: replies, retries, the step.
     void begin_afresh();
-    // A task begins; what an earlier one waited for is forgotten.
+    // Begins a task; what an earlier one waited for is forgotten.
     void begin_task();
-    // Opens the link and starts the task over it; the transport starts a task whose link is still
-    // coming up. `link_usable` is called when it is up already. False: no link will come up.
+    // Opens the link and starts the task over it; if the link is still coming up, the transport
+    // starts the task. `link_usable` is called if it is up already. False: no link will come up.
     bool work_over_link(const std::function<void()>& link_usable);
     bool awaits_owed_reply() const { return owed_bound_ != 0; }
-    // A step of the running task, when it is not the handshake's turn.
+    // A step of the running task, outside the handshake.
     virtual void work_task(int task, int step) { (void)task, (void)step; }
     virtual adapter_handshake* handshake() { return nullptr; }
-    // False for what is no time-out. Nothing is cleaned up: the user retries with a button.
+    // False if it is not a time-out. Nothing is cleaned up: the user retries with a button.
     virtual bool takes_time_out(const std::string& text);
-    // The running task's next complete reply has come with this chunk; what was owed is seen to.
+    // Whether this chunk completes the running task's next reply; replies owed are handled first.
     bool completes_reply(const std::string& chunk);
 
   private:

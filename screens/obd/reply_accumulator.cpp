@@ -9,7 +9,7 @@
 
 bool accumulate_reply(std::string_view chunk) {
     std::string& gathered = odb_curReplyBuffyMsg;
-    // Adapters now and then put zero bytes into a reply; they mean nothing, and would shift
+    // Adapters sometimes insert zero bytes into a reply; they are meaningless and would shift
     // positions.
     std::ranges::copy_if(chunk, std::back_inserter(gathered), [](char c) { return c != '\0'; });
     const auto reply = find_reply(gathered);

@@ -8,6 +8,6 @@
 // More than any adapter sends in one reply; past it the accumulator is emptied.
 inline constexpr std::size_t LONGEST_REPLY = 64 * 1024;
 
-// Appends the chunk. True when a complete reply, prompt included, now stands in odb_curReplyMsg;
-// what followed the prompt stays in the accumulator for the next reply.
+// Appends the chunk. True if odb_curReplyMsg now holds a complete reply with its prompt; what
+// followed the prompt stays in the accumulator for the next reply.
 bool accumulate_reply(std::string_view chunk);

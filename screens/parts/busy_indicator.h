@@ -1,5 +1,5 @@
 // The indeterminate busy indicator ("waity"): a ring of dots. Its screen decides when it is
-// visible; it turns only while something is awaited, else it is a ring of equal dots.
+// visible; it turns only while something is awaited; otherwise the dots are equal.
 #pragma once
 
 #include <QTimer>

@@ -28,10 +28,10 @@
 
 namespace {
 
-constexpr int TITLE_ROW_HEIGHT = 6 * GRID; // the highest control of any screen
+constexpr int TITLE_ROW_HEIGHT = 6 * GRID; // the tallest control of any screen
 
-// Renders the drawing at whatever size is asked for, in its own colours or in the desktop's text
-// colour. It reads the drawing when it is first shown, and needs no plugin for that.
+// Renders a drawing at any size, in its own colours or in the desktop's text colour. It reads the
+// file when first shown, and needs no plugin.
 class drawn_icon_engine final : public QIconEngine {
   public:
     drawn_icon_engine(QString path, bool tinted) : path_(std::move(path)), tinted_(tinted) {}
@@ -74,8 +74,8 @@ class drawn_icon_engine final : public QIconEngine {
     std::unique_ptr<QSvgRenderer> drawing_;
 };
 
-// Cells with air around their text. Not by a style sheet: that would forget the air when it wraps
-// lines, and keep its colours when the desktop's scheme changes.
+// Cells with padding. Not by a style sheet, which ignores padding when wrapping lines, and keeps
+// its colours when the desktop's scheme changes.
 class padded_cells final : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;

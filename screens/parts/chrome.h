@@ -1,5 +1,5 @@
-// The bones that every screen shares: a title row with the main buttons at its right, the content,
-// and at the foot the status line with the busy indicator beside it.
+// The frame that all screens share: a title row with the main buttons at the right, the content,
+// and at the bottom the status line with the busy indicator.
 #pragma once
 
 #include <QIcon>
@@ -16,24 +16,24 @@ class QTableView;
 class QVBoxLayout;
 class status_line;
 
-// Spacing goes in steps of this many pixels.
+// The unit of spacing, in pixels.
 inline constexpr int GRID = 8;
 
-// The drawing icons/NAME.svg in the colour of the desktop's text, also after a change of its
-// scheme; sharp at every scale.
+// The drawing icons/NAME.svg in the colour of the desktop's text, even after a change of scheme;
+// sharp at every scale.
 QIcon drawn_icon(std::string_view name);
-// The colour of a text that is not available, still legible.
+// The colour of an unavailable text, still legible.
 QColor unavailable_text(const QPalette& palette);
 // The drawing of this path in its own colours.
 QIcon picture_icon(const QString& path);
 
-// A text of the strings table as a widget shows it.
+// A text of the strings table, for a widget.
 QString ui_text(Ks_lite_delegate& delegate, std::string_view key);
 
-// Cells and headings with air around their text; no row numbers.
+// Cells and headings with padding; no row numbers.
 void give_room(QTableView* table);
 
-// Makes the column just wide enough for `widest` in the table's font, with that air.
+// Makes the column just wide enough for `widest` in the table's font, with that padding.
 void fit_column(QTableView* table, int column, const QString& widest);
 
 struct screen_bones {

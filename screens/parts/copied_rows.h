@@ -1,10 +1,9 @@
-// Rows of a table in the clipboard: what its reader sees of them, a line each, cells parted by
-// tabs.
+// Rows of a table in the clipboard, as shown: a line each, cells separated by tabs.
 #pragma once
 
 class QAction;
 class QString;
 class QTableView;
 
-// Ctrl+C and an entry of the table's menu copy the selected rows whole; without a selection all.
+// Ctrl+C and an entry of the table's menu copy the selected rows; without a selection, all.
 QAction* let_rows_be_copied(QTableView* table, const QString& name);

@@ -1,5 +1,4 @@
-// A quiet line in the middle of a table that has no rows: it says what would fill it. Owned by the
-// table.
+// A subdued line in the middle of an empty table that says what would fill it. Owned by the table.
 #pragma once
 
 #include <QAbstractItemView>

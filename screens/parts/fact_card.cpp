@@ -69,7 +69,7 @@ fact_card::fact_card(const QString& value_name, const QString& caption, QWidget*
     column->addLayout(value_row);
     column->addStretch(1);
     lamp_->hide();
-    // Whatever an adapter says of itself, the cards keep their size.
+    // The cards keep their size, whatever an adapter reports.
     setFixedHeight(2 * (GRID + frameWidth()) + 3 * fontMetrics().lineSpacing());
     value_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }

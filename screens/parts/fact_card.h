@@ -1,5 +1,5 @@
-// A small card with one fact: a quiet caption over its value. While there is no value the card
-// shows only its resting text, as quiet as a caption.
+// A small card with one fact: a subdued caption over its value. Without a value the card shows only
+// its resting text, subdued like a caption.
 #pragma once
 
 #include <QFrame>
@@ -12,7 +12,7 @@ class fact_card final : public QFrame {
     fact_card(const QString& value_name, const QString& caption, QWidget* parent);
 
     void set_value(const std::string& text);
-    // "LABEL: VALUE", whose label stands for the card's own caption.
+    // "LABEL: VALUE"; the label replaces the card's own caption.
     void set_labelled_value(const std::string& text);
     void set_resting(const std::string& text);
     // A lamp beside the value: dark or amber.

@@ -12,7 +12,7 @@ picture_view::picture_view(const QString& name, QSizeF units, QWidget* parent)
     setObjectName(name);
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setSizePolicy(policy);
-    setAttribute(Qt::WA_OpaquePaintEvent); // its ground is painted where the picture needs one
+    setAttribute(Qt::WA_OpaquePaintEvent); // its background is painted where needed
 }
 
 bool picture_view::event(QEvent* event) {
@@ -42,7 +42,7 @@ void picture_view::set_image(const QImage& image, const QRect& changed) {
             .toAlignedRect());
 }
 
-// Whether the picture is drawn for this place and is copied, not resampled.
+// Whether the picture has this exact size and is copied, not resampled.
 bool picture_view::fits(const QRectF& place) const {
     const double ratio = devicePixelRatioF();
     return std::abs(image_.width() - place.width() * ratio) < 1.5 &&

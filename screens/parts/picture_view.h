@@ -1,6 +1,6 @@
-// Shows one drawn instrument: centred at the top, as large as it fits with its aspect kept. Tells
-// at which scale the picture must be drawn to be shown pixel for pixel; a picture of another scale
-// is stretched until the next one comes.
+// Shows one drawn instrument: centred at the top, as large as it fits with its aspect kept.
+// Provides the scale at which the picture must be drawn to be shown pixel for pixel; a picture of
+// another scale is stretched until the next one.
 #pragma once
 
 #include "spoken.h"
@@ -12,15 +12,15 @@
 
 class picture_view final : public QWidget, public spoken {
   public:
-    // `units`: the picture's size as its drawing counts.
+    // `units`: the picture's size in its own units.
     picture_view(const QString& name, QSizeF units, QWidget* parent);
 
-    // Nothing but these of the picture's pixels differs from the one shown before.
+    // Only these pixels differ from the picture shown before.
     void set_image(const QImage& image, const QRect& changed);
     void set_image(const QImage& image) { set_image(image, image.rect()); }
-    // Forgets the picture, so that whoever drew it can draw the next one in the same memory.
+    // Releases the picture, so that the next one can be drawn in the same memory.
     void let_go() { image_ = QImage(); }
-    // Pixels a unit; 0 while nothing would be seen.
+    // Pixels per unit; 0 while nothing is visible.
     double pixel_scale() const;
 
     QSize sizeHint() const override { return units_.toSize(); }

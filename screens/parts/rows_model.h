@@ -46,7 +46,7 @@ class rows_model final : public QAbstractTableModel {
         return {};
     }
 
-    // Font, colour, alignment and tooltip of a cell, when wanted.
+    // Font, colour, alignment and tooltip of a cell, if any.
     std::function<QVariant(int row, const QString& identifier, int role)> decorate;
 
   private:

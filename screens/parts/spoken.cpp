@@ -17,7 +17,7 @@ class spoken_picture final : public QAccessibleWidget {
     }
 
   private:
-    const spoken& picture_; // which this does not outlive
+    const spoken& picture_; // which outlives this
 };
 
 QAccessibleInterface* interface_of(const QString&, QObject* object) {
@@ -28,5 +28,5 @@ QAccessibleInterface* interface_of(const QString&, QObject* object) {
 } // namespace
 
 spoken::spoken(QAccessible::Role r) : role(r) {
-    QAccessible::installFactory(interface_of); // one that is there already is not added
+    QAccessible::installFactory(interface_of); // not added twice
 }

@@ -1,4 +1,4 @@
-// What a screen reader gets to know of a picture: its words are put together when it asks.
+// The description of a picture for a screen reader, composed on request.
 #pragma once
 
 #include <QAccessible>
@@ -6,12 +6,12 @@
 
 #include <functional>
 
-// A base of the widgets that are pictures.
+// Base of the widgets that show pictures.
 class spoken {
   public:
     explicit spoken(QAccessible::Role role);
     const QAccessible::Role role;
-    // What the picture shows. It is not announced by itself, as values change all the time.
+    // What the picture shows. Not announced, because values change all the time.
     std::function<QString()> describe;
 
   protected:

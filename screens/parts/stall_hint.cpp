@@ -8,7 +8,7 @@
 
 namespace {
 
-// The foot of a screen is built before its content: Tab comes to it last all the same.
+// The status row is built before the content, but is last in the tab order.
 void put_last_in_tab_order(QWidget* widget, const QWidget* screen) {
     QWidget* last = widget;
     for (QWidget* next = screen->nextInFocusChain(); next != screen;

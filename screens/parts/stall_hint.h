@@ -1,5 +1,5 @@
-// Beside the busy indicator: since when the adapter owes a reply, once that is longer than five
-// seconds, and the button that brings a lost link back, while nothing comes from the adapter.
+// Beside the busy indicator: how long the adapter has owed a reply, after five seconds, and the
+// button that restores a lost link, as long as nothing comes from the adapter.
 #pragma once
 
 #include "notification_center.h"
@@ -15,9 +15,9 @@ class stall_hint final : public QLabel {
     stall_hint(Ks_lite_delegate& delegate, QWidget* parent);
     ~stall_hint() override;
 
-    // Stands beside this label.
+    // Placed beside this label.
     QPushButton* reconnect() const { return reconnect_; }
-    // Looks at the link and the clock; the timer does so each second.
+    // Checks the link and the clock; the timer calls it every second.
     void refresh();
 
   private:

@@ -12,13 +12,13 @@ status_line::status_line(QWidget* parent) : QLabel(parent) {
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setMargin(0);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    // Room for exactly two lines; what is longer is whole in the tooltip.
+    // Room for exactly two lines; the tooltip has the whole text.
     setFixedHeight(2 * fontMetrics().lineSpacing());
 }
 
 void status_line::set_text(const std::string& message) {
     const QString text = display_text(message);
-    // Empty lines would push the reason out of sight.
+    // Empty lines would hide the reason.
     static const QRegularExpression EMPTY_LINES(QStringLiteral("\n\\s*\n"));
     setText(QString(text).replace(EMPTY_LINES, QStringLiteral("\n")).trimmed());
     setAccessibleName(text); // a screen reader must hear the message, not what kind of label it is
@@ -31,7 +31,7 @@ void status_line::set_text(const std::string& message) {
 void status_line::set_selectable(bool selectable) {
     setTextInteractionFlags(selectable ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
                                        : Qt::NoTextInteraction);
-    setFocusPolicy(selectable ? Qt::ClickFocus : Qt::NoFocus); // the flags have set others
+    setFocusPolicy(selectable ? Qt::ClickFocus : Qt::NoFocus); // the flags change it
 }
 
 status_place::status_place(QWidget* parent) : QWidget(parent), line_(new status_line(this)) {

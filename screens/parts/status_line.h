@@ -1,6 +1,6 @@
-// The status line at the foot of every screen: plain text, elided to two lines' height with the
-// whole text in the tooltip; selectable unless it changes too fast for that. The label's text is
-// the message itself, whatever is visible of it.
+// The status line at the foot of every screen: plain text, elided to the height of two lines, with
+// the whole text in the tooltip; selectable unless it changes too fast. The label's text is always
+// the whole message.
 #pragma once
 
 #include <QLabel>
@@ -14,8 +14,8 @@ class status_line final : public QLabel {
     void set_selectable(bool selectable);
 };
 
-// The line's place in a layout. A label asks for a new layout of the whole screen with every text;
-// this one always takes the same room, and so stops it. Owned like any widget.
+// The line's place in a layout. A label requests a new layout of the whole screen for every text;
+// this one has a fixed size and prevents that.
 class status_place final : public QWidget {
   public:
     explicit status_place(QWidget* parent);

@@ -1,4 +1,4 @@
-// A text that stays in sight: heavy, with an amber bar before it.
+// A permanent warning: bold, with an amber bar before it.
 #pragma once
 
 #include <QLabel>

@@ -7,9 +7,18 @@
 #include "languages.h"
 #include "prefs_view.h"
 #include "system_log.h"
+#include "transports.h"
 #include "user_defaults.h"
 
 #include <algorithm>
+
+namespace {
+
+// In the table of transports as on the screen.
+constexpr std::size_t BLUETOOTH_ROW = 0, WIFI_ROW = 1, SERIAL_ROW = 2;
+constexpr std::chrono::seconds BETWEEN_LOOKS{1};
+
+} // namespace
 
 prefs::prefs(Ks_lite_delegate& delegate)
     : KS_delegate(delegate),
@@ -19,7 +28,9 @@ prefs::prefs(Ks_lite_delegate& delegate)
     awakeFromNib();
 }
 
-prefs::~prefs() = default;
+prefs::~prefs() {
+    KS_delegate.doors().loop.cancel(next_look_);
+}
 
 QWidget* prefs::view() {
     return view_->root();
@@ -28,6 +39,7 @@ QWidget* prefs::view() {
 void prefs::awakeFromNib() {
     view_->on_wifi = [this] { interfaceWifiClicked(); };
     view_->on_bluetooth = [this] { interfaceBTClicked(); };
+    view_->on_serial = [this] { interfaceSerialClicked(); };
     view_->on_metric = [this] { metricCheckBoxStatus(); };
     view_->on_row = [this](int row) { tableViewSelectionDidChange(row); };
     view_->on_defaults = [this] { setDefaultsClicked(); };
@@ -37,7 +49,11 @@ void prefs::awakeFromNib() {
 
 void prefs::setPrefsScreen() {
     const user_defaults& store = KS_delegate.doors().defaults;
-    view_->select_wifi(store.integer(KS_INTERFACE_KEY) == KS_USE_WIFI);
+    const bool stream = store.integer(KS_INTERFACE_KEY) == KS_USE_WIFI;
+    view_->select_interface(!stream                          ? BLUETOOTH_ROW
+                            : stored_transport(store).serial ? SERIAL_ROW
+                                                             : WIFI_ROW);
+    view_->set_serial(store.string(SERIAL_PORT_KEY), store.integer(SERIAL_SPEED_KEY));
     handle_interface(0);
     view_->set_log_runs(g_log_runs);
     view_->set_metric_units(g_metric_units);
@@ -57,19 +73,7 @@ void prefs::setPrefsScreen() {
 
 void prefs::savePrefs() {
     user_defaults& store = KS_delegate.doors().defaults;
-    if (!view_->wifi_selected()) {
-        g_connect_with = KS_USE_BT;
-        store.set_integer(KS_INTERFACE_KEY, KS_USE_BT);
-    } else {
-        g_connect_with = KS_USE_WIFI;
-        const std::string address = view_->address();
-        const std::string port = view_->port();
-        g_cur_wifi_IP = address;
-        g_cur_wifi_port = port;
-        store.set_integer(KS_INTERFACE_KEY, KS_USE_WIFI);
-        store.set_string(WIFI_IP_KEY, address);
-        store.set_string(WIFI_PORT_KEY, port);
-    }
+    save_adapter(store);
     KS_delegate.settings_left();
     g_metric_units = view_->metric_units();
     store.set_boolean(KS_METRIC_UNITS_KEY, g_metric_units);
@@ -87,11 +91,29 @@ void prefs::savePrefs() {
                          store.path());
 }
 
+void prefs::save_adapter(user_defaults& store) {
+    const transport& chosen = transports()[view_->interface_row()];
+    use_transport(chosen);
+    store_transport(chosen, store);
+    if (chosen.serial)
+        save_serial(store);
+    else if (chosen.interface == KS_USE_WIFI) {
+        const std::string address = view_->address();
+        const std::string port = view_->port();
+        g_cur_wifi_IP = address;
+        g_cur_wifi_port = port;
+        store.set_string(WIFI_IP_KEY, address);
+        store.set_string(WIFI_PORT_KEY, port);
+    }
+}
+
 void prefs::setDefaults() {
     user_defaults& store = KS_delegate.doors().defaults;
     use_default_settings(store);
     store.set_boolean(REUSE_LAST_BT_KEY, false);
     store.set_string(LANGUAGE_KEY, "");
+    store.set_string(SERIAL_PORT_KEY, "");
+    store.set_integer(SERIAL_SPEED_KEY, 0);
     store.synchronize();
 }
 
@@ -102,7 +124,26 @@ void prefs::setDefaultsClicked() {
 }
 
 void prefs::handle_interface(int) {
-    view_->show_wifi_panel(view_->wifi_selected());
+    view_->show_panel();
+    follow_serial_ports();
+}
+
+void prefs::save_serial(user_defaults& store) {
+    g_cur_serial_port = view_->serial_port();
+    g_cur_serial_speed = view_->serial_speed();
+    store.set_string(SERIAL_PORT_KEY, g_cur_serial_port);
+    store.set_integer(SERIAL_SPEED_KEY, g_cur_serial_speed);
+}
+
+void prefs::follow_serial_ports() {
+    app_doors& doors = KS_delegate.doors();
+    doors.loop.cancel(next_look_);
+    next_look_ = 0;
+    if (view_->interface_row() != SERIAL_ROW)
+        return;
+    if (doors.serial_ports)
+        view_->show_serial_ports(doors.serial_ports());
+    next_look_ = doors.loop.after(BETWEEN_LOOKS, [this] { follow_serial_ports(); });
 }
 
 void prefs::metricCheckBoxStatus() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "mac_toolies.h"
+#include "run_loop.h"
 #include "screen_controller.h"
 
 #include <memory>
@@ -26,6 +27,7 @@ class prefs final : public screen_controller {
     void setDefaultsClicked();
     void interfaceWifiClicked() { handle_interface(1); }
     void interfaceBTClicked() { handle_interface(0); }
+    void interfaceSerialClicked() { handle_interface(2); }
     void metricCheckBoxStatus();
     void tableViewSelectionDidChange(int row);
 
@@ -38,6 +40,10 @@ class prefs final : public screen_controller {
     void awakeFromNib();
     // Reads the row from the radio buttons themselves.
     void handle_interface(int row);
+    void save_adapter(user_defaults& store);
+    void save_serial(user_defaults& store);
+    // Shows the ports that are there now, and looks again a second later while they matter.
+    void follow_serial_ports();
     void load_pids_list();
     void add_item_to_pref_vector(const std::string& pid);
     void set_item_to_pref_vector(std::size_t index);
@@ -48,4 +54,5 @@ class prefs final : public screen_controller {
     mac_toolies toolies;
     std::unique_ptr<prefs_view> view_;
     std::vector<pid_entry> _pid_available_list;
+    run_loop::timer_id next_look_ = 0;
 };

@@ -6,6 +6,7 @@
 #include "Ks_lite_delegate.h"
 #include "languages.h"
 #include "rows_model.h"
+#include "transports.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -90,38 +91,80 @@ QWidget* prefs_view::build_adapter() {
     auto* group = new QGroupBox(ui_text(delegate_, "ui_adapter_group"), root());
     auto* column = new QVBoxLayout(group);
     column->setSpacing(GRID);
-    bluetooth_ = new QRadioButton(ui_text(delegate_, "ui_bluetooth"), group);
-    bluetooth_->setObjectName(QStringLiteral("interfaceBluetooth"));
-    lastBTCheck_ = new QCheckBox(ui_text(delegate_, "ui_last_bt"), group);
+    const struct {
+        const char *name, *key;
+        std::function<void()>& clicked;
+        QWidget* (prefs_view::*panel)(QWidget* group);
+    } rows[] = {
+        {"interfaceBluetooth", "ui_bluetooth", on_bluetooth, &prefs_view::build_bluetooth_panel},
+        {"interfaceWifi", "ui_wifi", on_wifi, &prefs_view::build_wifi_panel},
+        {"interfaceSerial", "ui_serial", on_serial, &prefs_view::build_serial_panel},
+    };
+    for (std::size_t row = 0; row < interfaces_.size(); ++row) {
+        auto* choice = new QRadioButton(ui_text(delegate_, rows[row].key), group);
+        choice->setObjectName(QLatin1String(rows[row].name));
+        choice->setToolTip(ui_text(delegate_, transports()[row].kind_key));
+        QObject::connect(choice, &QRadioButton::clicked, root(),
+                         [&clicked = rows[row].clicked] { clicked(); });
+        interfaces_[row] = choice;
+        panels_[row] = (this->*rows[row].panel)(group);
+        column->addWidget(choice);
+        column->addWidget(panels_[row]);
+    }
+    return group;
+}
+
+QWidget* prefs_view::build_bluetooth_panel(QWidget* group) {
+    auto* panel = new QWidget(group);
+    auto* indented = new QHBoxLayout(panel);
+    indented->setContentsMargins(3 * GRID, 0, 0, 0);
+    lastBTCheck_ = new QCheckBox(ui_text(delegate_, "ui_last_bt"), panel);
     lastBTCheck_->setObjectName(QStringLiteral("lastBTCheck"));
     lastBTCheck_->setToolTip(ui_text(delegate_, "ui_last_bt_hint"));
-    wifi_ = new QRadioButton(ui_text(delegate_, "ui_wifi"), group);
-    wifi_->setObjectName(QStringLiteral("interfaceWifi"));
-    QObject::connect(bluetooth_, &QRadioButton::clicked, root(), [this] { on_bluetooth(); });
-    QObject::connect(wifi_, &QRadioButton::clicked, root(), [this] { on_wifi(); });
+    indented->addWidget(lastBTCheck_);
+    return panel;
+}
 
-    wifiTabView_ = new QWidget(group);
-    wifiTabView_->setObjectName(QStringLiteral("wifiTabView"));
-    auto* form = new QFormLayout(wifiTabView_);
+QWidget* prefs_view::build_wifi_panel(QWidget* group) {
+    auto* panel = new QWidget(group);
+    panel->setObjectName(QStringLiteral("wifiTabView"));
+    auto* form = new QFormLayout(panel);
     form->setContentsMargins(3 * GRID, 0, 0, 0);
     form->setSpacing(GRID);
-    ipLbl_ = new QLineEdit(wifiTabView_);
+    ipLbl_ = new QLineEdit(panel);
     ipLbl_->setObjectName(QStringLiteral("ipLbl"));
-    portsLbl_ = new QLineEdit(wifiTabView_);
+    portsLbl_ = new QLineEdit(panel);
     portsLbl_->setObjectName(QStringLiteral("portsLbl"));
     for (QLineEdit* field : {ipLbl_, portsLbl_})
         field->setMaximumWidth(40 * GRID);
     form->addRow(ui_text(delegate_, "ui_address"), ipLbl_);
     form->addRow(ui_text(delegate_, "ui_port"), portsLbl_);
+    return panel;
+}
 
-    column->addWidget(bluetooth_);
-    auto* indented = new QHBoxLayout;
-    indented->addSpacing(3 * GRID);
-    indented->addWidget(lastBTCheck_);
-    column->addLayout(indented);
-    column->addWidget(wifi_);
-    column->addWidget(wifiTabView_);
-    return group;
+QWidget* prefs_view::build_serial_panel(QWidget* group) {
+    auto* panel = new QWidget(group);
+    panel->setObjectName(QStringLiteral("serialPanel"));
+    auto* form = new QFormLayout(panel);
+    form->setContentsMargins(3 * GRID, 0, 0, 0);
+    form->setSpacing(GRID);
+    serial_port_ = new QComboBox(panel);
+    serial_port_->setObjectName(QStringLiteral("serialPort"));
+    serial_speed_ = new QComboBox(panel);
+    serial_speed_->setObjectName(QStringLiteral("serialSpeed"));
+    serial_speed_->addItem(ui_text(delegate_, "ui_serial_auto"), 0);
+    for (const long speed : USUAL_SPEEDS)
+        serial_speed_->addItem(QString::number(speed), static_cast<int>(speed));
+    // A cable's own words may be long.
+    serial_port_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    serial_port_->setMinimumContentsLength(12);
+    serial_port_->setMaximumWidth(40 * GRID);
+    form->addRow(ui_text(delegate_, "ui_port"), serial_port_);
+    form->addRow(ui_text(delegate_, "ui_serial_speed"), serial_speed_);
+    QObject::connect(serial_port_, &QComboBox::activated, root(), [this] {
+        chosen_port_ = serial_port_->currentData().toString().toStdString();
+    });
+    return panel;
 }
 
 QWidget* prefs_view::build_display() {
@@ -204,18 +247,63 @@ QWidget* prefs_view::build_parameters() {
     return group;
 }
 
-void prefs_view::select_wifi(bool wifi) {
-    QRadioButton* chosen = wifi ? wifi_ : bluetooth_;
-    chosen->setChecked(true);
-    root()->setFocusProxy(chosen);
-}
-bool prefs_view::wifi_selected() const {
-    return wifi_->isChecked();
+void prefs_view::select_interface(std::size_t row) {
+    interfaces_[row]->setChecked(true);
+    root()->setFocusProxy(interfaces_[row]);
 }
 
-void prefs_view::show_wifi_panel(bool visible) {
-    wifiTabView_->setVisible(visible);
-    lastBTCheck_->setEnabled(!visible);
+std::size_t prefs_view::interface_row() const {
+    std::size_t row = 0;
+    while (!interfaces_[row]->isChecked())
+        ++row;
+    return row;
+}
+
+void prefs_view::show_panel() {
+    for (std::size_t row = 0; row < panels_.size(); ++row) {
+        panels_[row]->setVisible(interfaces_[row]->isChecked());
+        panels_[row]->setEnabled(interfaces_[row]->isChecked());
+    }
+}
+
+void prefs_view::set_serial(const std::string& path, int speed) {
+    chosen_port_ = path;
+    if (serial_speed_->findData(speed) < 0)
+        serial_speed_->addItem(QString::number(speed), speed);
+    serial_speed_->setCurrentIndex(serial_speed_->findData(speed));
+    show_serial_ports(ports_);
+}
+
+// The chosen one stays chosen while it is unplugged; where none was, the first is.
+void prefs_view::show_serial_ports(const std::vector<serial_port_entry>& ports) {
+    if (chosen_port_.empty() && !ports.empty())
+        chosen_port_ = ports.front().path;
+    const QString chosen = display_text(chosen_port_);
+    if (ports == ports_ && serial_port_->currentData() == chosen && serial_port_->count() > 0)
+        return;
+    ports_ = ports;
+    serial_port_->clear();
+    for (const serial_port_entry& port : ports) {
+        std::string words = port.path;
+        for (const std::string& word : {port.name, port.maker})
+            if (!word.empty())
+                words += (words == port.path ? ": " : ", ") + printable_line(word);
+        serial_port_->addItem(display_text(words), display_text(port.path));
+        serial_port_->setItemData(serial_port_->count() - 1, display_text(words), Qt::ToolTipRole);
+    }
+    if (serial_port_->findData(chosen) < 0)
+        serial_port_->addItem(chosen.isEmpty() ? ui_text(delegate_, "ui_serial_none")
+                                               : ui_text(delegate_, "ui_serial_absent").arg(chosen),
+                              chosen);
+    serial_port_->setCurrentIndex(serial_port_->findData(chosen));
+    serial_port_->setToolTip(serial_port_->currentText()); // which the box may cut
+}
+
+std::string prefs_view::serial_port() const {
+    return chosen_port_;
+}
+int prefs_view::serial_speed() const {
+    return serial_speed_->currentData().toInt();
 }
 
 void prefs_view::set_address(const std::string& address, const std::string& port) {

@@ -6,6 +6,7 @@
 #include "chrome.h"
 #include "Ks_lite_delegate.h"
 #include "report_json.h"
+#include "report_saving.h"
 #include "report_screen.h"
 #include "saved_report.h"
 #include "status_line.h"
@@ -25,7 +26,6 @@
 
 namespace {
 
-constexpr char FILE_KINDS[] = "HTML (*.html);;PDF (*.pdf);;JSON (*.json);;Text (*.txt)";
 constexpr char SAVED_KINDS[] = "JSON (*.json)";
 
 } // namespace
@@ -54,19 +54,8 @@ report_view::report_view(Ks_lite_delegate& delegate, const mac_toolies& toolies)
           static_cast<QWidget*>(open_saved), static_cast<QWidget*>(compare_)})
         row->addWidget(one);
     row->addStretch(1);
-    hide_vin_ = new QCheckBox(ui_text(delegate, "ui_report_hide_vin"), root_.get());
-    hide_vin_->setObjectName(QStringLiteral("hideVin"));
-    hide_vin_->setToolTip(ui_text(delegate, "ui_report_hide_vin_hint"));
-    row->addWidget(hide_vin_);
-    auto* offer = new QCheckBox(ui_text(delegate, "ui_report_offer"), root_.get());
-    offer->setObjectName(QStringLiteral("offerReport"));
-    offer->setToolTip(ui_text(delegate, "ui_report_offer_hint"));
-    offer->setChecked(!delegate.doors().defaults.boolean(NO_OFFER_KEY));
-    QObject::connect(offer, &QCheckBox::toggled, root_.get(), [this](bool on) {
-        delegate_.doors().defaults.set_boolean(NO_OFFER_KEY, !on);
-        delegate_.doors().defaults.synchronize();
-    });
-    row->addWidget(offer);
+    row->addWidget(add_switch("hideVin", "ui_report_hide_vin", HIDE_VIN_KEY, true));
+    row->addWidget(add_switch("offerReport", "ui_report_offer", NO_OFFER_KEY, false));
     bones.content->addLayout(row);
 
     sheet_ = new QTextBrowser(root_.get());
@@ -90,6 +79,20 @@ QPushButton* report_view::add_button(const char* name, std::string_view key,
     return button;
 }
 
+// On while the setting is `on_when`.
+QCheckBox* report_view::add_switch(const char* name, std::string_view key, const char* setting,
+                                   bool on_when) {
+    auto* box = new QCheckBox(ui_text(delegate_, key), root_.get());
+    box->setObjectName(QLatin1String(name));
+    box->setToolTip(ui_text(delegate_, std::string(key) + "_hint"));
+    box->setChecked(delegate_.doors().defaults.boolean(setting) == on_when);
+    QObject::connect(box, &QCheckBox::toggled, root_.get(), [this, setting, on_when](bool on) {
+        delegate_.doors().defaults.set_boolean(setting, on == on_when);
+        delegate_.doors().defaults.synchronize();
+    });
+    return box;
+}
+
 void report_view::show_running(bool running) {
     running_ = running;
     waity_->setVisible(running);
@@ -97,6 +100,7 @@ void report_view::show_running(bool running) {
 }
 
 void report_view::show_report() {
+    before_.reset();
     const auto& kept = last_report().report;
     for (QPushButton* one : {save_, print_, copy_, compare_})
         one->setEnabled(kept.has_value());
@@ -110,13 +114,14 @@ void report_view::show_sheet(const report_sheet& sheet) {
     sheet_->setHtml(QString::fromStdString(sheet_rich_text(sheet)));
 }
 
-car_report report_view::report_to_give() const {
-    const car_report& kept = *last_report().report;
-    return hide_vin_->isChecked() ? report_of(without_vin(kept.heard), toolies_) : kept;
-}
-
 report_sheet report_view::sheet_to_give() const {
-    return sheet_of(report_to_give(), delegate_.doors().resources);
+    const car_report report = report_to_give(delegate_, toolies_);
+    const bundle& texts = delegate_.doors().resources;
+    if (!before_)
+        return sheet_of(report, texts);
+    const bool hidden = delegate_.doors().defaults.boolean(HIDE_VIN_KEY);
+    return comparison_of(hidden ? report_of(without_vin(before_->heard), toolies_) : *before_,
+                         report, texts);
 }
 
 void report_view::tell(const std::string& message) {
@@ -124,35 +129,19 @@ void report_view::tell(const std::string& message) {
 }
 
 void report_view::save() {
-    const car_report report = report_to_give();
-    QString kind;
-    QString path;
-    {
-        const modal_hold hold(delegate_.doors().loop);
-        path = QFileDialog::getSaveFileName(root_.get(), ui_text(delegate_, "ui_report_save_title"),
-                                            QString::fromStdString(usual_name(report) + ".html"),
-                                            QLatin1String(FILE_KINDS), &kind);
-    }
-    if (path.isEmpty())
-        return;
-    if (!rendering_named(path.toStdString())) // the kind chosen says what it is
-        path += kind.mid(kind.indexOf(u'.')).chopped(1);
-    const auto why = write_whole(
-        path.toStdString(),
-        rendered(report, sheet_of(report, delegate_.doors().resources),
-                 rendering_named(path.toStdString()).value_or(rendering::html), usual_paper()));
-    if (why)
-        tell(delegate_.doors().resources.localized("ui_report_not_saved") + " " + *why);
-    last_report().saved = last_report().saved || !why;
-    if (!why)
-        status_->set_text(ui_text(delegate_, "ui_report_saved").arg(path).toStdString());
+    const bool compared = before_.has_value();
+    if (save_sheet(delegate_, root_.get(), report_to_give(delegate_, toolies_), sheet_to_give(),
+                   compared) &&
+        !compared)
+        last_report().saved = true;
 }
 
 void report_view::print() {
     const report_sheet sheet = sheet_to_give();
     const modal_hold hold(delegate_.doors().loop);
     QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(QString::fromStdString(sheet.title + " " + sheet.vin));
+    // Also the name of the file when it is printed into one.
+    printer.setDocName(QString::fromStdString(usual_name(report_to_give(delegate_, toolies_))));
     printer.setPageSize(
         QPageSize(usual_paper() == paper_size::a4 ? QPageSize::A4 : QPageSize::Letter));
     printer.setPageMargins(
@@ -171,11 +160,11 @@ void report_view::copy() {
     status_->set_text(ui_text(delegate_, "ui_report_copied").toStdString());
 }
 
-bool report_view::read_report(const std::string& title, car_report& to) {
+bool report_view::read_report(std::string_view title, car_report& to) {
     QString path;
     {
         const modal_hold hold(delegate_.doors().loop);
-        path = QFileDialog::getOpenFileName(root_.get(), QString::fromStdString(title), {},
+        path = QFileDialog::getOpenFileName(root_.get(), ui_text(delegate_, title), {},
                                             QLatin1String(SAVED_KINDS));
     }
     if (path.isEmpty())
@@ -188,12 +177,13 @@ bool report_view::read_report(const std::string& title, car_report& to) {
         return false;
     }
     to = report_of(*heard, toolies_);
+    status_->set_text(ui_text(delegate_, "ui_report_opened").arg(path).toStdString());
     return true;
 }
 
 void report_view::open() {
     car_report opened;
-    if (!read_report(ui_text(delegate_, "ui_report_open_title").toStdString(), opened))
+    if (!read_report("ui_report_open_title", opened))
         return;
     last_report() = {std::move(opened), std::nullopt, true};
     show_report();
@@ -202,6 +192,8 @@ void report_view::open() {
 // The one that shows is the later one.
 void report_view::compare() {
     car_report before;
-    if (read_report(ui_text(delegate_, "ui_report_compare_title").toStdString(), before))
-        show_sheet(comparison_of(before, *last_report().report, delegate_.doors().resources));
+    if (!read_report("ui_report_compare_title", before))
+        return;
+    show_sheet(comparison_of(before, *last_report().report, delegate_.doors().resources));
+    before_ = std::move(before);
 }

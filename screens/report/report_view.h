@@ -1,8 +1,11 @@
 // The widgets of the report screen: the sheet itself, and what can be done with it.
 #pragma once
 
+#include "car_report.h"
+
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 class busy_indicator;
@@ -13,7 +16,6 @@ class QPushButton;
 class QTextBrowser;
 class QWidget;
 class status_line;
-struct car_report;
 struct report_sheet;
 
 class report_view {
@@ -32,16 +34,17 @@ class report_view {
 
   private:
     QPushButton* add_button(const char* name, std::string_view key, std::function<void()> press);
+    QCheckBox* add_switch(const char* name, std::string_view key, const char* setting,
+                          bool on_when);
     void show_sheet(const report_sheet& sheet);
-    // As it leaves the program.
-    car_report report_to_give() const;
+    // What is shown, as it leaves the program.
     report_sheet sheet_to_give() const;
     void save();
     void print();
     void copy();
     void open();
     void compare();
-    bool read_report(const std::string& title, car_report& to);
+    bool read_report(std::string_view title, car_report& to);
     void tell(const std::string& message);
 
     Ks_lite_delegate& delegate_;
@@ -54,7 +57,7 @@ class report_view {
     QPushButton* print_ = nullptr;
     QPushButton* copy_ = nullptr;
     QPushButton* compare_ = nullptr;
-    QCheckBox* hide_vin_ = nullptr;
     QTextBrowser* sheet_ = nullptr;
+    std::optional<car_report> before_; // that the last one is compared with
     bool running_ = false;
 };

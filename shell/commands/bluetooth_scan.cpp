@@ -18,11 +18,19 @@ namespace {
 
 constexpr int PROGRESS_EVERY_MS = 250;
 
+// Empty: not known yet.
+std::string kind(const bluetooth_entry& device) {
+    return !device.low_energy ? device.classic ? "classic" : ""
+           : device.classic   ? "both"
+                              : "low_energy";
+}
+
 ordered_json as_json(const bluetooth_entry& device) {
     return {{"address", device.address},
             {"name", device.name},
             {"paired", device.paired},
             {"signal_dbm", device.signal ? ordered_json(*device.signal) : ordered_json()},
+            {"kind", kind(device).empty() ? ordered_json() : ordered_json(kind(device))},
             {"serial_port", device.serial_port == serial_port_offer::unknown
                                 ? ordered_json()
                                 : ordered_json(device.serial_port == serial_port_offer::yes)}};
@@ -38,12 +46,13 @@ std::string as_json(const std::vector<bluetooth_entry>& devices, const std::stri
 
 void print_text(const std::vector<bluetooth_entry>& devices, std::ostream& out) {
     constexpr const char* OFFERS[] = {"not known yet", "yes", "no"};
-    out << "Address            Paired  Signal    Serial port    Name\n";
+    out << "Address            Paired  Signal    Kind        Serial port    Name\n";
     for (const bluetooth_entry& device : devices) {
         const std::string signal =
             device.signal ? std::to_string(*device.signal) + " dBm" : std::string("-");
         out << device.address << "  " << std::left << std::setw(8) << (device.paired ? "yes" : "no")
-            << std::setw(10) << signal << std::setw(15)
+            << std::setw(10) << signal << std::setw(12)
+            << (kind(device).empty() ? "-" : kind(device)) << std::setw(15)
             << OFFERS[static_cast<int>(device.serial_port)] << printable_line(device.name) << '\n';
     }
     if (devices.empty())
@@ -60,7 +69,7 @@ int run_bluetooth_scan(const desk& work) {
 
 int scan_devices(const desk& work, bluez_devices& devices, double seconds) {
     QEventLoop waiting;
-    // A queued look: what ends the wait may be true already.
+    // A queued check: the condition that ends the wait may already be true.
     const auto look = [&] {
         if (!devices.starting() &&
             (!devices.searching() || devices.problem() != bluetooth_problem::none))

@@ -1,4 +1,4 @@
-// What a command does with a car: a task that runs on a screen, unseen. Owned by command_runner.
+// What a command does with a car: a task that runs on an invisible screen. Owned by command_runner.
 #pragma once
 
 #include "command_line.h"
@@ -14,7 +14,7 @@ struct car_task_doors {
     const cli_request& asked;
     Ks_lite_delegate& delegate;
     const console_alerts& messages;
-    std::function<void()> finish; // ends the command at once; otherwise over() is asked
+    std::function<void()> finish; // ends the command at once; otherwise over() is polled
 };
 
 class car_task {
@@ -25,22 +25,23 @@ class car_task {
     virtual ~car_task() = default;
 
     virtual void start() = 0;
-    // Asked whenever something has happened. May begin what comes next.
+    // Called whenever something has happened. May begin the next part.
     virtual bool over() = 0;
     virtual bool succeeded() const = 0;
-    // What only the task knows of its failure.
+    // The reason of failure, if only the task knows it.
     virtual std::string what_went_wrong() const { return {}; }
-    // An interruption is the end that it was meant to have.
+    // Whether an interruption is its normal end.
     virtual bool may_be_interrupted() const { return false; }
-    // It may last a day: without --timeout nothing ends it, and only the last status is kept.
+    // Whether it may last a day: without --timeout nothing ends it, and only the last status is
+    // kept.
     virtual bool has_no_bound() const { return false; }
-    // It tells its progress itself.
+    // Whether it shows its progress itself.
     virtual bool tells_progress() const { return false; }
-    // The message is what print() will print: nobody should read it twice.
+    // Whether print() will print this message, which must not appear twice.
     virtual bool is_result(const std::string& message) const { return message.empty(); }
-    // Asked once it has ended: the adapter is not yet as it was found.
+    // Called once it has ended: whether the adapter is still to be restored.
     virtual bool puts_adapter_back() const { return false; }
-    // What was found, or as much as there is of it. Also stops a task that still goes on.
+    // Prints the result, or what there is of it. Also stops a task that is still running.
     virtual void print(bool succeeded, const conversation_log& log) = 0;
 
   protected:

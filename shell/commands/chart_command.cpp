@@ -21,7 +21,7 @@ constexpr int FAILED_STATUS = 1;
 constexpr std::size_t MOST_PIDS = 2;
 constexpr QSizeF CHART_SIZE(420, 230);
 
-// The log's columns that hold the asked parameters, in the order asked.
+// The log's columns with the requested parameters, in the order requested.
 std::vector<int> columns_of(const run_log& log, const std::string& path,
                             const std::vector<std::string>& pids, std::string& error) {
     std::vector<int> columns;

@@ -15,11 +15,24 @@
 
 namespace {
 
-// HOST:PORT; an IPv6 address stands in brackets.
+// A path holds colons of its own; only digits behind the last one are a speed.
+void take_serial_port(cli_request& asked, const std::string& name, const std::string& text) {
+    const std::size_t colon = text.rfind(':');
+    const bool with_speed = colon != std::string::npos && colon + 1 < text.size() &&
+                            text.find_first_not_of("0123456789", colon + 1) == std::string::npos;
+    asked.serial_port = text.substr(0, with_speed ? colon : std::string::npos);
+    if (with_speed)
+        asked.serial_speed =
+            read_number("the speed of " + name, text.substr(colon + 1), 300, 4'000'000);
+}
+
+// HOST:PORT; an IPv6 address stands in brackets. What begins as a path does is a serial port.
 void take_adapter(cli_request& asked, const std::string& name, const std::string& text) {
+    if (text.starts_with('/'))
+        return take_serial_port(asked, name, text);
     const std::size_t colon = text.rfind(':');
     if (colon == std::string::npos || colon == 0)
-        throw usage_error(name + " needs HOST:PORT, such as 192.168.0.10:35000");
+        throw usage_error(name + " needs HOST:PORT, such as 192.168.0.10:35000, or /dev/ttyUSB0");
     std::string host = text.substr(0, colon);
     if (host.size() > 2 && host.front() == '[' && host.back() == ']')
         host = host.substr(1, host.size() - 2);
@@ -82,7 +95,7 @@ void take_chart_pid(cli_request& asked, const std::string& name, const std::stri
 using row = option_row<cli_request>;
 using text = const std::string&;
 
-// What a command has of its own comes first. "car" stands for every command that talks to one.
+// Options of single commands come first. "car" means every command that talks to a car.
 constexpr std::array OPTIONS = {
     row{{"--yes", "", "clear them indeed", "clear"},
         [](cli_request& asked, text, text) { asked.yes = true; }},
@@ -165,7 +178,9 @@ constexpr std::array OPTIONS = {
             asked.demo = true;
             asked.demo_car = value;
         }},
-    row{{"--adapter", "HOST:PORT", "talk to this Wi-Fi adapter instead of the one in the settings",
+    row{{"--adapter", "HOST:PORT|PATH[:SPEED]",
+         "talk to this Wi-Fi adapter, or to the one at this serial port, such as\n"
+         "/dev/ttyUSB0; its speed is found by trying when not given",
          "window car", "--bluetooth"},
         take_adapter},
     row{{"--bluetooth", "ADDRESS", "talk to this Bluetooth adapter, without asking", "window car"},
@@ -185,7 +200,7 @@ constexpr std::array OPTIONS = {
          "leave once the window has been painted (for measuring the start)", "window"},
         [](cli_request& asked, text, text) { asked.quit_when_shown = true; }},
     row{{"--json", "", "print JSON; docs/json holds the schemas",
-         "car decode vin mode6 export lookup bluetooth-scan"},
+         "car decode vin mode6 export lookup bluetooth-scan serial-ports"},
         [](cli_request& asked, text, text) { asked.json = true; }},
     row{{"--timeout", "SECONDS", "bound for the whole command (default 60; none for live)",
          "car bluetooth-scan"},
@@ -201,7 +216,7 @@ constexpr std::array OPTIONS = {
         [](cli_request& asked, text, text) { asked.version = true; }},
 };
 
-// "kestrom help COMMAND" asks what "kestrom COMMAND --help" does.
+// "kestrom help COMMAND" is the same as "kestrom COMMAND --help".
 void take_words(cli_request& asked, std::vector<std::string> words) {
     if (!asked.help && !words.empty() && words[0] == HELP) {
         if (words.size() > 2)
@@ -251,7 +266,7 @@ parsed_command_line parse_command_line(std::span<const std::string> arguments) {
             check_command(read.asked, words);
     } catch (const usage_error& why) {
         read.error = why.what();
-        for (const std::string& word : arguments) // whose help tells more
+        for (const std::string& word : arguments) // whose help is more specific
             if (read.asked.command.empty() && find_command(word))
                 read.asked.command = word;
     }

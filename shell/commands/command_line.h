@@ -1,4 +1,4 @@
-// The command line: what was asked for, read from the arguments without side effects.
+// The command line: the request, parsed from the arguments without side effects.
 #pragma once
 
 #include "option_table.h"
@@ -15,13 +15,15 @@ struct cli_request {
     bool help = false;
     bool version = false;
 
-    // Which adapter, and what is kept of it.
+    // The adapter, and files.
     bool demo = false;
     std::string demo_car;                    // empty: the default car
     std::optional<std::string> adapter_host; // with adapter_port, as typed
     std::string adapter_port;
-    std::optional<std::string> bluetooth; // an adapter's address, as typed
-    std::optional<std::string> record;    // the conversation, to this file
+    std::optional<std::string> serial_port; // path of an adapter's device file
+    int serial_speed = 0;                   // 0: found by trying
+    std::optional<std::string> bluetooth;   // an adapter's address, as typed
+    std::optional<std::string> record;      // the conversation, to this file
     std::optional<std::string> settings;
 
     // Window
@@ -32,7 +34,7 @@ struct cli_request {
     // Commands
     bool json = false;
     bool yes = false;
-    std::optional<double> timeout_seconds; // absent: the command's own bound
+    std::optional<double> timeout_seconds; // absent: the command's own limit
     std::vector<std::string> pids;         // of a live run; empty: the user's
     bool all_pids = false;                 // all that the car supports
     std::string run = "log";               // "log", "fuel", "o2" or "boost"
@@ -46,7 +48,7 @@ struct cli_request {
     std::string picture;
     double scale = 1;
     bool dial = false;
-    std::string report_html, report_pdf, report_opened; // files; empty: not asked for
+    std::string report_html, report_pdf, report_opened; // files; empty: not requested
     bool report_text = false, hide_vin = false, compare = false;
     std::string paper;                        // "a4", "letter"; empty: the country's
     std::vector<std::string> report_sections; // empty: all
@@ -56,7 +58,7 @@ struct cli_request {
     bool without_display() const { return !command.empty() || screenshot; }
 };
 
-// Either what was asked for or, with `error` filled, why it makes no sense.
+// Either the request or, in `error`, why the arguments are invalid.
 struct parsed_command_line {
     cli_request asked;
     std::string error;
@@ -64,7 +66,7 @@ struct parsed_command_line {
 
 parsed_command_line parse_command_line(std::span<const std::string> arguments);
 
-// What is told of arguments that make no sense, whole lines.
+// The message about invalid arguments, complete lines.
 std::string complaint_about(const parsed_command_line& senseless);
 
 // The table of options.

@@ -12,7 +12,7 @@
 namespace {
 constexpr double DEFAULT_BOUND_SECONDS = 60;
 constexpr double LONGEST_BOUND_MS = 2e9;
-constexpr int LONGEST_FAREWELL_MS = 1000; // to an adapter that does not do as it is told
+constexpr int LONGEST_FAREWELL_MS = 1000; // to an adapter that does not respond
 } // namespace
 
 command_runner::command_runner(const cli_request& asked, Ks_lite_delegate& delegate,
@@ -61,7 +61,7 @@ void command_runner::look() {
 
 void command_runner::finish() {
     std::string why = task_->what_went_wrong();
-    // A failure that was only told in a message box leaves an older text on the status line.
+    // A failure reported only in a message box leaves an older text on the status line.
     if (why.empty())
         why = messages_.last_printed();
     if (why.empty() && !told_.statuses.empty())

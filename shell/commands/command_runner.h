@@ -1,6 +1,5 @@
 // Runs one command of the command line on the screens themselves, without a display: presses the
-// button, is told of all that happens, and prints what was found once the task is over. Owned by
-// main.
+// button, observes what happens, and prints the result when the task is over. Owned by main.
 #pragma once
 
 #include "car_task.h"
@@ -22,9 +21,9 @@ class command_runner final : public QObject {
     command_runner(const cli_request& asked, Ks_lite_delegate& delegate, console_alerts& messages);
     ~command_runner() override;
 
-    // Begins; `done` is told the exit status from the event loop.
+    // Begins; `done` is called with the exit status from the event loop.
     void start(std::function<void(int exit_status)> done);
-    // The user wants out.
+    // The user interrupts.
     void interrupt();
 
   private:

@@ -19,6 +19,7 @@ Examples
   kestrom codes                                       the adapter of the settings
   kestrom --adapter 192.168.0.10:35000 codes --json
   kestrom --bluetooth 00:1D:A5:68:98:8B codes
+  kestrom --adapter /dev/ttyUSB0:115200 codes
   kestrom --demo=diesel codes                         a car of kestrom-virtual-car --list
   kestrom --demo --screenshot codes.png codes
 )",
@@ -152,6 +153,15 @@ Examples
   kestrom bluetooth-scan --timeout 5 --json
 )",
      nullptr, run_bluetooth_scan},
+    {"serial-ports", 0, 0, "", "list the serial ports that are there, USB cables first",
+     R"(With --json: docs/json/serial-ports.schema.json.
+Exit status: 0, also when there is none.
+
+Examples
+  kestrom serial-ports
+  kestrom --adapter /dev/ttyUSB0 codes
+)",
+     nullptr, run_serial_ports},
     {HELP, 0, 1, "[COMMAND]", "tell what a command does, and its options",
      R"(The same as "kestrom COMMAND --help", or "kestrom --help" without a command.
 Exit status: 0, or 2 when there is no such command.
@@ -161,7 +171,7 @@ Example
 )"},
 };
 
-// In the help of the program: what goes with more than some commands.
+// In the help of the program: options of more than a few commands.
 bool is_general(const option_text& option) {
     return goes_with(option, "window") || goes_with(option, "car");
 }

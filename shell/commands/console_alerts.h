@@ -1,5 +1,5 @@
 // Alerts for the command line: printed to standard error, remembered, answered with the first
-// button. A question is not printed: --yes has answered it.
+// button. Questions are not printed: --yes has answered them.
 #pragma once
 
 #include "alerts.h"
@@ -17,9 +17,9 @@ class console_alerts final : public alerts {
 
     void beep() override {}
     const std::vector<std::string>& messages() const { return messages_; }
-    // The message printed last; empty while there was none.
+    // The last message printed; empty if none.
     const std::string& last_printed() const { return last_printed_; }
-    // The same alert over and over: nobody is there to leave the screen.
+    // The same alert again and again: there is no user to leave the screen.
     bool endless() const { return repeated_ >= MOST_REPEATED; }
     // Whether the command itself will print that message.
     std::function<bool(const std::string&)> is_result;

@@ -21,7 +21,7 @@
 namespace {
 
 constexpr int FAILED_STATUS = 1;
-constexpr std::string_view NO_ANSWER = "~"; // of the toolkit's, to what it cannot translate
+constexpr std::string_view NO_ANSWER = "~"; // from the toolkit, if it cannot translate
 constexpr std::size_t LONGEST_TEST_VALUE = 8, LONGEST_STANDARD_TEST_VALUE = 4;
 
 // Without blanks and line ends, in capitals.
@@ -31,7 +31,7 @@ std::string plain(const std::string& reply) {
     return text;
 }
 
-// Whether an adapter may have sent that for a request of service 01: its answer, a refusal, or a
+// Whether an adapter may send that in reply to a service 01 request: an answer, a refusal, or a
 // notice.
 bool may_be_reply(const std::string& reply) {
     const std::string text = plain(reply);
@@ -42,7 +42,7 @@ std::string reply_of(const std::string& argument) {
     return replace_all(replace_all(argument, "\\r", "\r"), "\\n", "\n");
 }
 
-// As a run shows it, or as the standard means it.
+// As a run shows it, or as the standard defines it.
 translated decoded(const mac_toolies& toolies, const std::string& reply, bool standard) {
     if (standard) {
         const bool metric = toolies.doors().defaults->boolean(KS_METRIC_UNITS_KEY);

@@ -18,7 +18,7 @@ constexpr int FAILED_STATUS = 1;
 
 volatile std::sig_atomic_t interrupted = 0;
 
-// Ends an export that leaves nothing behind.
+// Ends an export without leaving a file.
 struct interruptible {
     interruptible() {
         handle([](int) { interrupted = 1; });

@@ -107,7 +107,7 @@ void live_command::start() {
         return;
     }
     screen_->ask_what_car_supports([this] {
-        // Not from under the end of the asking.
+        // Not from within the callback that ends the scan.
         if (!finished_ && screen_->scan_completed())
             begin_ = delegate_.doors().loop.after(run_loop::milliseconds(0), [this] {
                 begin_ = 0;
@@ -126,7 +126,7 @@ void live_command::begin_run() {
     tell_of_waiting();
 }
 
-// Once for each wait that takes long, with the time of day at which it began.
+// Once for each long wait, with the time of day at which it began.
 void live_command::tell_of_waiting() {
     const auto now = delegate_.doors().loop.now();
     const auto since = delegate_.replies().stalled_since(now);
@@ -143,12 +143,12 @@ void live_command::tell_of_waiting() {
     next_look_ = delegate_.doors().loop.after(LOOK_EVERY, [this] { tell_of_waiting(); });
 }
 
-// Puts into the settings what the run asks for; tells what of the request is left out.
+// Stores the parameters of the run in the settings; reports those left out.
 bool live_command::choose_parameters() {
     const auto& known = screen_->car_parameters();
     if (!known) {
         refused_ = asked_.all_pids ? "the car did not tell what it supports" : "";
-        return refused_.empty(); // what was asked for may be there all the same
+        return refused_.empty(); // the requested parameters may be supported anyway
     }
     std::vector<std::string> wanted;
     std::string left_out;
@@ -251,12 +251,12 @@ void live_command::print_cycle(const std::vector<translated>& values) {
     }
     show_cycles();
     std::fputs(line.c_str(), stdout);
-    // Whoever reads along sees each cycle as it completes.
+    // A reader of the output sees each cycle as it completes.
     if (output_lost())
-        finish_(); // nobody does, or nobody can
+        finish_(); // the reader has gone, or output failed
 }
 
-// Of a run whose lines go elsewhere: on a terminal they tell it themselves.
+// For a run whose lines go elsewhere: on a terminal they are progress enough.
 void live_command::show_cycles() {
     static const bool lines_seen = isatty(STDOUT_FILENO) == 1;
     const auto now = delegate_.doors().loop.now();

@@ -12,7 +12,7 @@
 
 namespace {
 
-// Where the rendering goes: a file, or standard output.
+// The target of the rendering: a file, or standard output.
 struct wanted_rendering {
     rendering as = rendering::text;
     std::string file;
@@ -32,7 +32,7 @@ paper_size paper_of(const cli_request& asked) {
                                  : paper_size::letter;
 }
 
-// What is printed, or written to the file: then `why` is filled when that failed.
+// Prints, or writes to the file; `why` is set if that failed.
 QByteArray give(const car_report& report, report_sheet sheet, const cli_request& asked,
                 std::string& why) {
     if (!asked.report_sections.empty())
@@ -67,10 +67,10 @@ class report_command final : public car_task {
     }
     bool succeeded() const override { return told_ && why_.empty(); }
     std::string what_went_wrong() const override { return why_; }
-    // The reader has bounds of its own, for each question and for all.
+    // The reader has its own time limits, for each question and overall.
     bool has_no_bound() const override { return true; }
     void print(bool, const conversation_log&) override {
-        if (screen_->reading()) // of which so much was read
+        if (screen_->reading()) // prints what was read so far
             screen_->cancel_clicked();
         take_report();
         print_bytes(printed_);

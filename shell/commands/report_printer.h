@@ -1,4 +1,4 @@
-// How the command line prints what the screens found.
+// Prints the results of the screens for the command line.
 #pragma once
 
 #include <nlohmann/json_fwd.hpp>
@@ -13,15 +13,15 @@ struct conversation_log {
     std::vector<std::string> statuses; // every status text, in order
 };
 
-// The object with what was told on the way: the status that the task ended with, and the log.
+// The messages along the way as an object: the final status of the task, and the log.
 void print_conversation(ordered_json object, const std::string& status,
                         const conversation_log& log);
 
-// Lines of JSON for people, or one line. Bytes that are not UTF-8 become replacement characters.
+// JSON, indented or on one line. Bytes that are not UTF-8 become replacement characters.
 std::string json_lines(const ordered_json& value);
 std::string json_line(const ordered_json& value);
-// A whole number without decimals, and null for what is no number.
+// A whole number without decimals, and null if not finite.
 ordered_json json_number(double value);
 
-// Some of standard output could not be written; main tells it once the command is over.
+// Part of standard output could not be written; main reports it when the command is over.
 bool output_lost();

@@ -3,10 +3,10 @@
 #include "console_alerts.h"
 #include "display_text.h"
 #include "expertCtrlr.h"
-#include "globalVars.h"
 #include "Ks_lite_delegate.h"
 #include "progress_line.h"
 #include "reply_accumulator.h"
+#include "transports.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -25,7 +25,7 @@ class send_command final : public car_task {
         screen_->received = [this](const std::string& chunk) { take_reply(chunk); };
         // The console sends once before a Bluetooth channel is open and again after: that first
         // command's time-out would end a later one.
-        channel_awaited_ = g_connect_with == KS_USE_BT;
+        channel_awaited_ = chosen_transport().sends_while_opening;
         if (channel_awaited_)
             delegate_.openInterfaceConnection();
         else
@@ -33,7 +33,7 @@ class send_command final : public car_task {
     }
 
     bool over() override {
-        if (channel_awaited_ && connected_2_BT_interface) {
+        if (channel_awaited_ && *chosen_transport().connected) {
             channel_awaited_ = false;
             next_send();
         }
@@ -50,8 +50,7 @@ class send_command final : public car_task {
 
     std::string what_went_wrong() const override {
         if (channel_awaited_)
-            return messages_.last_printed().empty() ? "no Bluetooth connection"
-                                                    : messages_.last_printed();
+            return messages_.last_printed().empty() ? "no connection" : messages_.last_printed();
         return "no reply to '" + asked_.arguments[sent_ - 1] + "'" +
                (too_long_                   ? ": no prompt within 64 KiB"
                 : screen_->status().empty() ? ""
@@ -60,7 +59,7 @@ class send_command final : public car_task {
 
     void print(bool, const conversation_log& log) override {
         if (!asked_.json)
-            return; // each was printed as it came
+            return; // each was printed on arrival
         ordered_json list = ordered_json::array();
         for (std::size_t i = 0; i < replies_.size(); ++i)
             list.push_back({{"command", asked_.arguments[i]}, {"reply", replies_[i]}});
@@ -92,7 +91,7 @@ class send_command final : public car_task {
         if (asked_.json)
             return;
         clear_progress();
-        // A person reads lines; a program gets every byte.
+        // Lines for a person; every byte for a program.
         std::string text = isatty(STDOUT_FILENO) ? printable(reply_) : reply_;
         text += '\n';
         std::fwrite(text.data(), 1, text.size(), stdout);

@@ -1,5 +1,6 @@
 #include "background_picture.h"
 
+#include <QGridLayout>
 #include <QPainter>
 #include <QPushButton>
 #include <QSvgRenderer>
@@ -14,7 +15,7 @@ const QColor GROUND(31, 36, 44);
 // The window comes first, then its picture: a quarter of the start, 8 ms.
 constexpr std::chrono::milliseconds ONE_FRAME{16};
 
-// The drawing on its ground. It covers the whole picture; what does not fit is cut evenly.
+// The drawing on its background. It covers the whole picture; what does not fit is cropped evenly.
 QImage painted_scene(QSize pixels) {
     QSvgRenderer drawing(QStringLiteral(":/kestrom/images/background.svg"));
     QImage scene(pixels, QImage::Format_RGB32);
@@ -33,7 +34,7 @@ QImage painted_scene(QSize pixels) {
 
 background_picture::background_picture(const QString& hint, QWidget* parent)
     : QWidget(parent), hint_(new QLabel(hint, this)) {
-    setAttribute(Qt::WA_OpaquePaintEvent); // nothing beneath shines through
+    setAttribute(Qt::WA_OpaquePaintEvent); // nothing beneath is visible
     later_.setSingleShot(true);
     later_.setInterval(ONE_FRAME);
     later_.callOnTimeout(this, &background_picture::paint_scene);
@@ -50,13 +51,17 @@ background_picture::background_picture(const QString& hint, QWidget* parent)
 
 void background_picture::offer(const std::vector<QPushButton*>& buttons) {
     hint_->hide();
-    auto* row = new QHBoxLayout;
-    row->setSpacing(16);
-    row->addStretch(1);
-    for (QPushButton* button : buttons)
-        row->addWidget(button);
-    row->addStretch(1);
-    static_cast<QVBoxLayout*>(layout())->insertLayout(1, row);
+    auto* block = new QGridLayout; // side by side they would be wider than a small window
+    block->setSpacing(16);
+    constexpr int ABREAST = 2;
+    block->setColumnStretch(0, 1);
+    block->setColumnStretch(ABREAST + 1, 1);
+    int place = 0;
+    for (QPushButton* button : buttons) {
+        block->addWidget(button, place / ABREAST, 1 + place % ABREAST);
+        ++place;
+    }
+    static_cast<QVBoxLayout*>(layout())->insertLayout(1, block);
 }
 
 void background_picture::paint_scene() {
@@ -69,7 +74,8 @@ void background_picture::paintEvent(QPaintEvent*) {
     if (scene_.isNull())
         painter.fillRect(rect(), GROUND);
     else
-        painter.drawImage(rect(), scene_); // one of another size is stretched till the next comes
+        painter.drawImage(rect(),
+                          scene_); // a picture of another size is stretched until the next one
     if (scene_.size() != size() * devicePixelRatioF())
         later_.start();
 }

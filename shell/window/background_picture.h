@@ -1,5 +1,5 @@
 // What the main view shows until a screen is chosen: the picture, and one line that says where to
-// begin. The picture is painted when the window is there.
+// begin. The picture is painted once the window is shown.
 #pragma once
 
 #include <QImage>
@@ -15,7 +15,7 @@ class background_picture final : public QWidget {
   public:
     background_picture(const QString& hint, QWidget* parent);
 
-    // Shown in place of the line, in a row.
+    // Shown in a row instead of the line.
     void offer(const std::vector<QPushButton*>& buttons);
 
   protected:

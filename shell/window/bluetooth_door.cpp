@@ -40,7 +40,7 @@ bluetooth_user user_at_window(alerts& message_boxes, const bundle& texts,
     return user;
 }
 
-// A command has nobody to ask and nothing to press again: the reason is all it tells.
+// For a command there is no user to press again: it prints only the reason.
 bluetooth_user user_of_command(alerts& message_boxes, const bundle& texts) {
     const auto reason = std::make_shared<std::string>();
     bluetooth_user user;

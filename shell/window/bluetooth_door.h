@@ -1,5 +1,5 @@
-// The Bluetooth door as this program opens it: with the dialog to choose an adapter in, or for
-// commands, where nobody can be asked. Failures that the link only logs are told in a message box.
+// The Bluetooth door of this program: with the dialog to choose an adapter, or for commands, which
+// cannot ask. Failures that the link only logs are shown in a message box.
 #pragma once
 
 #include <memory>

@@ -1,5 +1,5 @@
 // Shown while a Bluetooth adapter is connected without the chooser. Closes when the attempt has
-// finished, whatever came of it, or when the user has enough of waiting.
+// succeeded or failed, or when the user cancels.
 #pragma once
 
 #include <QDialog>
@@ -11,7 +11,7 @@ class bundle;
 
 class connecting_dialog final : public QDialog {
   public:
-    // `device`: its name as it calls itself.
+    // `device`: the device's own name.
     connecting_dialog(QWidget* parent, const bluez_connection& connection, const bundle& texts,
                       const std::string& device);
 

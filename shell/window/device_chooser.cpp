@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr QSize DEFAULT_SIZE{720, 440};
+constexpr QSize DEFAULT_SIZE{840, 440};
 constexpr int REFRESH_MS = 100; // hundreds of devices report many times a second
 constexpr int TICK_MS = 1000;
 constexpr int PATIENCE_MS = 5000; // afterwards the seconds are counted
@@ -78,6 +78,7 @@ void device_chooser::build_table() {
          {QStringLiteral("Address"), text("bt_col_address")},
          {QStringLiteral("Paired"), text("bt_col_paired")},
          {QStringLiteral("Signal"), text("bt_col_signal")},
+         {QStringLiteral("Kind"), text("bt_col_kind")},
          {QStringLiteral("Serial"), text("bt_col_serial")}},
         [this](int row, const QString& column) { return cell(row, column); }, table_);
     model_->decorate = [this](int row, const QString& column, int role) -> QVariant {
@@ -102,8 +103,9 @@ void device_chooser::build_table() {
     fit_column(table_, 2, text("bt_yes"));
     fit_column(table_, 3, QStringLiteral("-100 dBm"));
     fit_column(table_, 4, text("bt_when_connecting"));
+    fit_column(table_, 5, text("bt_when_connecting"));
     hint_ = new empty_hint(table_, QString());
-    // What to do may be a command that one wants to copy.
+    // The advice may be a command to copy.
     hint_->setAttribute(Qt::WA_TransparentForMouseEvents, false);
     hint_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     QObject::connect(table_, &QTableView::activated, this, [this] { connect_selected(); });
@@ -163,6 +165,10 @@ QString device_chooser::cell(int row, const QString& column) const {
         return device.paired ? text("bt_yes") : QString();
     if (column == QLatin1String("Signal"))
         return device.signal ? QStringLiteral("%1 dBm").arg(*device.signal) : QString();
+    if (column == QLatin1String("Kind"))
+        return text(!device.low_energy ? device.classic ? "bt_classic" : "bt_when_connecting"
+                    : device.classic   ? "bt_both_kinds"
+                                       : "bt_low_energy");
     constexpr const char* OFFERS[] = {"bt_when_connecting", "bt_yes", "bt_no"};
     return text(OFFERS[static_cast<int>(device.serial_port)]);
 }
@@ -195,7 +201,7 @@ void device_chooser::refresh() {
     show_state();
 }
 
-// What happens, or what is in the way, in one or two sentences.
+// The state, or the problem, in one or two sentences.
 QString device_chooser::state_text() const {
     if (connection_) {
         QString told = text("bt_connecting").arg(one_line(connecting_name_));
@@ -220,7 +226,7 @@ void device_chooser::show_state() {
     const QString told = state_text();
     const bool usable = devices_.problem() == bluetooth_problem::none;
     const bool waiting = connection_ || devices_.starting() || devices_.searching();
-    // An empty table says it in the middle, where one looks; what can be read twice is noise.
+    // An empty table says it in the middle; saying it twice is noise.
     hint_->setText(told);
     hint_->setForegroundRole(usable ? QPalette::PlaceholderText : QPalette::Text);
     state_->setText(entries_.empty() ? QString() : told);
@@ -266,7 +272,7 @@ void device_chooser::connection_done() {
     table_->setFocus();
 }
 
-// While it connects, the first step back is to the list.
+// While connecting, cancelling returns to the list.
 void device_chooser::reject() {
     if (!connection_) {
         QDialog::reject();

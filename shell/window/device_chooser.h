@@ -1,6 +1,6 @@
-// The dialog in which the user picks the Bluetooth adapter. It searches, lists what is paired and
-// what is found, and closes with a connection: a device that does not answer, refuses or has no
-// serial port is told about here, where another can be picked.
+// The dialog in which the user picks the Bluetooth adapter. It searches, lists paired and found
+// devices, and closes when connected: a device that does not answer, refuses or has no serial port
+// is reported here, where another can be picked.
 #pragma once
 
 #include "bluez_connection.h"
@@ -28,12 +28,12 @@ QString one_line(const std::string& name);
 class device_chooser final : public QDialog {
     Q_OBJECT
   public:
-    // `last_address`: selected first when it is there; may be empty.
+    // `last_address`: selected first if present; may be empty.
     device_chooser(QWidget* parent, bluez_devices& devices, const bundle& texts,
                    std::string last_address);
     ~device_chooser() override;
 
-    // The connection to the device chosen; null unless accepted.
+    // The connection to the chosen device; null unless accepted.
     std::unique_ptr<bluez_connection> take_connection() { return std::move(connection_); }
 
     void reject() override;

@@ -25,7 +25,7 @@ namespace {
 
 constexpr QSize DEFAULT_SIZE{560, 420};
 constexpr int PROGRESS_STEPS = 1000;
-constexpr run_loop::milliseconds BETWEEN_PIECES{1}; // replies and the mouse come first
+constexpr run_loop::milliseconds BETWEEN_PIECES{1}; // so that replies and the mouse come first
 enum column { NAME, SIZE, WRITTEN, COLUMNS };
 
 QTableWidgetItem* cell(const QString& text) {
@@ -160,7 +160,7 @@ void export_window::list_logs() {
     offer_time();
 }
 
-// As far as the chosen log has its times beside it.
+// If the chosen log has a companion with its times.
 void export_window::offer_time() {
     const QTableWidgetItem* name = logs_->item(logs_->currentRow(), NAME);
     std::error_code unknown;

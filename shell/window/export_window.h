@@ -1,6 +1,6 @@
-// The window that turns a run log into a table: choose a log of the log folder and a form, then see
-// where the table went. It is not modal and works in small pieces on the run loop: a run goes on
-// underneath. Owned by the main window.
+// The window that turns a run log into a table: choose a log of the log folder and a format, then
+// see the path of the table. It is not modal and works in small pieces on the run loop, so that a
+// run continues. Owned by the main window.
 #pragma once
 
 #include "log_export.h"
@@ -26,11 +26,11 @@ class export_window final : public QDialog {
     export_window(Ks_lite_delegate& delegate, QWidget* parent);
     ~export_window() override;
 
-    // Shows it with the logs that are there now.
+    // Shows it with the current logs.
     void open_beside();
 
   protected:
-    // Closing gives an unfinished export up.
+    // Closing cancels an unfinished export.
     void done(int result) override;
 
   private:

@@ -1,5 +1,5 @@
-// Looks trouble codes up as one types, without a car. Owned by the main window, which stays usable
-// beside it.
+// Looks up trouble codes as the user types, without a car. Owned by the main window, which stays
+// usable.
 #pragma once
 
 #include <QDialog>

@@ -4,12 +4,12 @@
 #include "background_picture.h"
 #include "bundle.h"
 #include "chrome.h"
-#include "constantes.h"
 #include "export_window.h"
 #include "Ks_lite_delegate.h"
 #include "lookup_window.h"
 #include "mac_toolies.h"
 #include "rail_button.h"
+#include "transports.h"
 #include "user_defaults.h"
 
 #include <QAction>
@@ -27,7 +27,7 @@ namespace {
 constexpr char GEOMETRY_KEY[] = "window_geometry";
 constexpr QSize DEFAULT_SIZE{1100, 720};
 constexpr QSize SMALLEST_SIZE{800, 480}; // a screen of 1920 x 1080 at 200 %, with a panel
-constexpr QSize FRAME{8, 40};            // that a window manager adds, at most
+constexpr QSize FRAME{8, 40};            // the most that a window manager adds
 constexpr int RAIL_WIDTH = 128;
 
 // Offscreen there is neither a real screen nor a place to remember.
@@ -82,16 +82,17 @@ void main_window::offer_first_steps(std::function<void()> start_demo) {
         connect(button, &QPushButton::clicked, this, take);
         return button;
     };
-    const auto set_up = [this](int interface) {
-        delegate_.doors().defaults.set_integer(KS_INTERFACE_KEY, interface);
-        delegate_.do_prefs();
-    };
-    back_pic->offer({step("startWifi", "ui_start_wifi", [set_up] { set_up(KS_USE_WIFI); }),
-                     step("startBluetooth", "ui_start_bluetooth", [set_up] { set_up(KS_USE_BT); }),
-                     step("startDemo", "ui_start_demo", [this, start = std::move(start_demo)] {
-                         start();
-                         delegate_.do_read_codes();
-                     })});
+    std::vector<QPushButton*> steps;
+    for (const transport& way : transports())
+        steps.push_back(step(way.first_step, way.first_step_key, [this, &way] {
+            store_transport(way, delegate_.doors().defaults);
+            delegate_.do_prefs();
+        }));
+    steps.push_back(step("startDemo", "ui_start_demo", [this, start = std::move(start_demo)] {
+        start();
+        delegate_.do_read_codes();
+    }));
+    back_pic->offer(steps);
 }
 
 void main_window::build_menu() {
@@ -172,7 +173,7 @@ QWidget* main_window::build_rail() {
     return rail;
 }
 
-// A little darker than the window, whatever the desktop's scheme is now.
+// Slightly darker than the window in the desktop's current scheme.
 void main_window::shade_rail() {
     QPalette quiet = QGuiApplication::palette();
     const QColor window = quiet.color(QPalette::Window);
@@ -197,7 +198,7 @@ void main_window::follow_screen() {
         screen->view()->setFocus();
 }
 
-// Where it was, or where that is now: the screen may be another one.
+// Restores its place, or the nearest visible one: the screen may have changed.
 void main_window::restore_place() {
     const std::string stored = delegate_.doors().defaults.string(GEOMETRY_KEY);
     const bool known = !stored.empty() &&
@@ -210,7 +211,7 @@ void main_window::restore_place() {
 }
 
 void main_window::closeEvent(QCloseEvent* event) {
-    // A window that nobody saw has no place to remember.
+    // A window that was never shown has no place to remember.
     if (isVisible() && somebody_looks()) {
         delegate_.doors().defaults.set_string(GEOMETRY_KEY,
                                               saveGeometry().toBase64().toStdString());

@@ -1,5 +1,5 @@
-// The main window: a rail of switches at the left, the chosen screen beside it, the background
-// picture while nothing is chosen. Created by main over the delegate, which outlives it.
+// The main window: a rail of switches on the left, the chosen screen beside it, or the background
+// picture. Created by main over the delegate, which outlives it.
 #pragma once
 
 #include <QMainWindow>
@@ -18,7 +18,7 @@ class main_window final : public QMainWindow {
     explicit main_window(Ks_lite_delegate& delegate);
     ~main_window() override;
 
-    // On a first start: what to begin with. `start_demo` makes the built-in car the adapter.
+    // On a first start: ways to begin. `start_demo` makes the built-in car the adapter.
     void offer_first_steps(std::function<void()> start_demo);
 
   protected:
@@ -38,6 +38,6 @@ class main_window final : public QMainWindow {
     QWidget* mainView = nullptr;
     background_picture* back_pic = nullptr;
     QButtonGroup* switches_ = nullptr;
-    export_window* export_window_ = nullptr; // made when it is first asked for
+    export_window* export_window_ = nullptr; // made on first use
     lookup_window* lookup_window_ = nullptr;
 };

@@ -1,7 +1,7 @@
-// The desktop's style with this program's few rules: headings of tables begin where the cells'
-// texts do, buttons have air around their words, titles of groups are heavier than what they group,
-// message boxes have the program's drawings. Where there is no desktop's style its place is taken
-// by Qt's own with flat parts (flat_parts). Owned by the application.
+// The desktop's style with this program's few rules: headings of tables align with the text of the
+// cells, buttons have padding, titles of groups are bolder than their contents, message boxes have
+// the program's icons. Without a desktop style it uses Qt's own with flat parts (flat_parts). Owned
+// by the application.
 #pragma once
 
 #include "chrome.h"
@@ -15,11 +15,11 @@ class quick_style final : public QProxyStyle {
   public:
     QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
                        const QWidget* widget) const override {
-        // Every menu bar asks for the arrow of its overflow when it is made, and for the first
-        // picture read Qt loads all its plugins for pictures, 2 ms. Ours has one menu.
+        // Every new menu bar requests the arrow of its overflow, and for the first image Qt loads
+        // all its image plugins, 2 ms. Ours has one menu.
         if (which == SP_ToolBarHorizontalExtensionButton)
             return {};
-        // Message boxes: the program's own drawings, sharp at every scale.
+        // Message boxes: the program's own icons, sharp at every scale.
         if (which == SP_MessageBoxWarning)
             return picture_icon(QStringLiteral(":/kestrom/icons/warn.svg"));
         if (which == SP_MessageBoxQuestion)
@@ -83,11 +83,11 @@ class quick_style final : public QProxyStyle {
     }
 
   private:
-    static constexpr int CELL_MARGIN = 7; // as the tables' cells have
+    static constexpr int CELL_MARGIN = 7; // that of table cells
     static constexpr int BUTTON_AIR = 8;
-    static constexpr int ROUND_FRAME = 2; // what is within lies within its corners
+    static constexpr int ROUND_FRAME = 2; // keeps the contents clear of its corners
 
-    // No desktop's style is at work.
+    // There is no desktop style.
     bool is_flat() const { return baseStyle()->name() == QLatin1String("fusion"); }
 
     static QFont title_font(const QWidget& widget) {

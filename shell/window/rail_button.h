@@ -1,5 +1,4 @@
-// A switch of the rail: icon above word. The chosen one is marked by a bar at its side and a
-// heavier word.
+// A switch of the rail: icon above word. The chosen one has a bar at its side and a bolder word.
 #pragma once
 
 #include <QPainter>
@@ -19,7 +18,7 @@ class rail_button final : public QToolButton {
         connect(this, &QToolButton::toggled, this, [this](bool on) { set_weight(on); });
     }
 
-    // As wide as the chosen one needs, so that nothing moves when another is chosen.
+    // As wide as when chosen, so that nothing moves.
     QSize sizeHint() const override {
         QFont heavy = font();
         heavy.setWeight(QFont::DemiBold);

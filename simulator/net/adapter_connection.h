@@ -1,6 +1,5 @@
-// One client's connection to an adapter: carries bytes between socket and adapter and wakes
-// when the adapter has something to say. Owned by the server; deletes itself never, says when it is
-// over.
+// One client's connection to an adapter: carries bytes between socket and adapter, and wakes when
+// output is due. Owned by the server; it never deletes itself, but signals when it is over.
 #pragma once
 
 #include "adapter.h"
@@ -14,11 +13,11 @@ class adapter_connection : public QObject {
     Q_OBJECT
 
   public:
-    // Takes over the socket. `clock` is the server's: one time for all connections.
+    // Takes over the socket. `clock` is the server's, shared by all connections.
     adapter_connection(QTcpSocket* socket, adapter& served, const QElapsedTimer& clock,
                        QObject* parent);
 
-    // Reads what already waits, which may end the connection: connect to over() first.
+    // Reads what has already arrived, which may end the connection: connect to over() first.
     void start();
     bool is_open() const { return socket_->state() == QAbstractSocket::ConnectedState; }
 

@@ -38,7 +38,8 @@ bool tcp_adapter_server::listen(const std::string& address, int port) {
     return true;
 }
 
-// A socket that is bound but does not listen: nobody else gets the port, and who knocks is refused.
+// A socket that is bound but does not listen: no other program gets the port, and clients are
+// refused.
 bool tcp_adapter_server::refuse_at(const std::string& address, int port) {
     refusing_ = std::make_unique<QTcpSocket>();
     if (!refusing_->bind(QHostAddress(QString::fromStdString(address)), quint16(port))) {
@@ -53,7 +54,7 @@ void tcp_adapter_server::serve_next() {
     if (connection_ && connection_->is_open())
         return;
     QTcpSocket* socket = server_.nextPendingConnection();
-    // Who left while waiting would never say so again.
+    // A client that left while waiting would send no further event.
     while (socket && socket->state() != QAbstractSocket::ConnectedState) {
         socket->deleteLater();
         socket = server_.nextPendingConnection();

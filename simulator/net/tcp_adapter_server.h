@@ -1,6 +1,5 @@
-// A virtual car and its Wi-Fi adapter behind a TCP port. One client at a time, as on a genuine
-// adapter: a further one waits until the first has gone. All meet the same car, so codes cleared
-// stay cleared.
+// A virtual car and its Wi-Fi adapter on a TCP port. One client at a time, as on a real adapter:
+// another one waits until the first has gone. All see the same car, so cleared codes stay cleared.
 #pragma once
 
 #include "virtual_adapter.h"
@@ -19,12 +18,12 @@ class tcp_adapter_server : public QObject {
   public:
     explicit tcp_adapter_server(car the_car, adapter_options options = {},
                                 QObject* parent = nullptr);
-    // Whoever else answers as an adapter does.
+    // Any other adapter.
     explicit tcp_adapter_server(std::unique_ptr<adapter> served, QObject* parent = nullptr);
     ~tcp_adapter_server() override;
 
-    // Port 0 takes any that is free. No: error() says why. Under the fault "refuse" the port is
-    // taken and every connection to it is refused.
+    // Port 0 picks a free one. False: error() says why. With the fault "refuse" the port is taken
+    // but every connection refused.
     bool listen(const std::string& address, int port);
     int port() const { return port_; }
     const std::string& error() const { return error_; }

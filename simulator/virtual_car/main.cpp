@@ -1,5 +1,6 @@
 // kestrom-virtual-car: a car and its adapter on a TCP port or on standard input and output.
 #include "car_library.h"
+#include "pseudo_terminal.h"
 #include "recorded_adapter.h"
 #include "stdio_adapter.h"
 #include "tcp_adapter_server.h"
@@ -12,6 +13,7 @@
 #include <cstdio>
 #include <iostream>
 #include <memory>
+#include <system_error>
 #include <unistd.h>
 
 namespace {
@@ -58,8 +60,16 @@ int serve_tcp(QCoreApplication& app, const virtual_car_options& options, const s
     return app.exec();
 }
 
+int serve_terminal(const std::string& title, adapter& served) {
+    const pseudo_terminal terminal;
+    std::cout << title << ": on " << terminal.path() << std::endl;
+    return serve_descriptors(served, terminal.descriptor(), terminal.descriptor()) ? 0 : FAILED;
+}
+
 int serve(QCoreApplication& app, const virtual_car_options& options, const std::string& title,
           std::unique_ptr<adapter> served) {
+    if (options.pty)
+        return serve_terminal(title, *served);
     if (!options.stdio)
         return serve_tcp(app, options, title, std::move(served));
     return serve_descriptors(*served, STDIN_FILENO, STDOUT_FILENO) ? 0 : FAILED;
@@ -105,6 +115,9 @@ int main(int argc, char** argv) {
         std::cerr << error.what() << "\n";
     } catch (const recording_error& error) {
         std::cerr << error.what() << "\n";
+    } catch (const std::system_error& error) {
+        std::cerr << "kestrom-virtual-car: " << error.what() << "\n";
+        return FAILED;
     }
     return BAD_USAGE;
 }

@@ -75,6 +75,9 @@ constexpr std::array OPTIONS = {
         [](request& asked, text, text value) { asked.options.replay = value; }},
     row{{"--stdio", "", "speak on standard input and output instead of TCP"},
         [](request& asked, text, text) { asked.options.stdio = true; }},
+    row{{"--pty", "", "be a serial port: make a pseudo-terminal and tell its path", "",
+         "--stdio --port --address"},
+        [](request& asked, text, text) { asked.options.pty = true; }},
     row{{"--list", "", "list cars, protocols and faults"},
         [](request& asked, text, text) { asked.options.list = true; }},
     row{{"--help", "", "this text"}, [](request& asked, text, text) { asked.options.help = true; }},
@@ -98,7 +101,7 @@ virtual_car_options read_options(std::span<const std::string> arguments) {
 
 std::string usage() {
     return "Usage: kestrom-virtual-car [OPTION]...\n\n"
-           "A car with an ELM327-type Wi-Fi adapter, for trying Kestrom without "
+           "A car with an ELM327-type adapter, for trying Kestrom without "
            "either.\n\nOptions\n" +
            option_lines(texts_of(std::span<const row>(OPTIONS))) +
            R"(
@@ -109,6 +112,7 @@ Examples
   kestrom-virtual-car --car diesel
   kestrom-virtual-car --car can11 --latency 0 --fault split_prompt
   kestrom-virtual-car --replay talk.jsonl --timing 0.1
+  kestrom-virtual-car --pty
 then  kestrom --adapter 127.0.0.1:35000 codes
 )";
 }

@@ -14,6 +14,7 @@ struct virtual_car_options {
     std::string protocol; // empty: the car's own
     std::string replay;   // a recording to answer from; empty: the car answers
     bool stdio = false;
+    bool pty = false;
     bool list = false;
     bool help = false;
     bool version = false;

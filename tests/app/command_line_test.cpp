@@ -39,6 +39,28 @@ TEST_F(shell, options_are_read_with_and_without_the_equals_sign) {
     EXPECT_TRUE(asked.json);
 }
 
+TEST_F(shell, an_adapter_that_is_a_path_is_a_serial_port) {
+    const struct {
+        const char *text, *path;
+        int speed;
+    } rows[] = {{"/dev/ttyUSB0", "/dev/ttyUSB0", 0},
+                {"/dev/ttyUSB0:115200", "/dev/ttyUSB0", 115200},
+                {"/dev/serial/by-path/pci-0:00:14.0-usb-0:1:1.0-port0",
+                 "/dev/serial/by-path/pci-0:00:14.0-usb-0:1:1.0-port0", 0}};
+    for (const auto& row : rows) {
+        const auto [asked, error] =
+            parse_command_line(std::vector<std::string>{"--adapter", row.text, "codes"});
+        EXPECT_EQ(error, "");
+        EXPECT_EQ(asked.serial_port, row.path);
+        EXPECT_EQ(asked.serial_speed, row.speed);
+    }
+    const outcome result = run({"--adapter", "/dev/no-such-port", "codes"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, testing::HasSubstr("/dev/no-such-port is not there"));
+    EXPECT_EQ(run({"--adapter", "/dev/ttyUSB0:9", "codes"}).status, 2);
+    EXPECT_TRUE(QDir(home.path()).isEmpty()) << "nothing of the user's is touched";
+}
+
 TEST_F(shell, the_built_in_car_is_read_and_nothing_of_the_users_is_touched) {
     const outcome result = run({"--demo", "codes", "--json"});
     EXPECT_EQ(result.status, 0) << result.err;

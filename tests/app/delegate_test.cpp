@@ -1,6 +1,7 @@
 // The shell and the link over scripted doors and a virtual clock.
 #include "app_harness.h"
 #include "qt_warnings.h"
+#include "transports.h"
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -34,20 +35,29 @@ TEST(settings_at_start, a_first_start_seeds_the_store) {
 
 TEST(settings_at_start, stored_values_decide_the_transport) {
     const struct {
-        int stored, transport;
+        int stored;
+        bool serial;
+        int transport;
         const char* address;
-    } cases[] = {{KS_USE_BT, KS_USE_BT, ""},
-                 {KS_USE_WIFI, KS_USE_WIFI, "10.0.0.9"},
-                 {7, KS_USE_WIFI, "10.0.0.9"}};
+        const char* port;
+    } cases[] = {{KS_USE_BT, false, KS_USE_BT, "", ""},
+                 {KS_USE_BT, true, KS_USE_BT, "", ""},
+                 {KS_USE_WIFI, false, KS_USE_WIFI, "10.0.0.9", ""},
+                 {7, false, KS_USE_WIFI, "10.0.0.9", ""},
+                 {KS_USE_WIFI, true, KS_USE_WIFI, "", "/dev/ttyUSB7"}};
     for (const auto& expected : cases) {
         app_harness app([&](user_defaults& store) {
             app_harness::use_wifi(store);
             store.set_integer(KS_INTERFACE_KEY, expected.stored);
+            store.set_boolean(STREAM_IS_SERIAL_KEY, expected.serial);
+            store.set_string(SERIAL_PORT_KEY, "/dev/ttyUSB7");
             for (const char* key : {KS_METRIC_UNITS_KEY, LOG_RUNS_KEY})
                 store.set_boolean(key, true);
         });
         EXPECT_EQ(g_connect_with, expected.transport);
         EXPECT_EQ(g_cur_wifi_IP, expected.address);
+        EXPECT_EQ(g_cur_serial_port, expected.port);
+        EXPECT_EQ(chosen_transport().serial, *expected.port != 0);
         EXPECT_TRUE(g_metric_units && g_log_runs);
         app.delegate->do_prefs(); // and leaving them keeps what was stored
         app.delegate->do_expert();
@@ -128,6 +138,25 @@ TEST_F(link_over_tcp, what_is_to_begin_and_what_is_owed_end_with_their_connectio
     scripted_stream_pair::raise(app.wire(), app.loop, STREAM_END);
     app.loop.advance(milliseconds(1500));
     EXPECT_EQ(app.last_status(), "Disconnected");
+}
+
+TEST_F(link_over_tcp, a_serial_port_goes_the_same_way_and_tells_it_in_its_own_words) {
+    use_transport(transport_named("serial"));
+    g_cur_serial_port = "/dev/ttyUSB0";
+    send("AT I");
+    EXPECT_EQ(app.last_status(), "Trying: /dev/ttyUSB0 ");
+    EXPECT_TRUE(app.wire().serial);
+    app.loop.advance(TCP_TIME_OUT);
+    EXPECT_EQ(app.last_status(), app.resources.localized("serial_no_answer_yet_MSG"));
+    app.connect();
+    EXPECT_EQ(app.statuses.end()[-2], "Connected!! ... Sending initial request");
+    EXPECT_EQ(app.sent(), "AT I\r");
+    g_cur_serial_speed = 9600; // another way to the adapter
+    app.delegate->settings_left();
+    EXPECT_EQ(app.wire().closes, 1);
+    send("AT I");
+    EXPECT_EQ(app.last_status(), "Trying: /dev/ttyUSB0:9600 ");
+    EXPECT_EQ(app.wire().port, 9600);
 }
 
 TEST_F(link_over_tcp, a_flood_without_line_ends_is_broken_into_lines) {

@@ -130,6 +130,9 @@ TEST_F(export_window_test, the_first_steps_lead_to_the_preferences_or_to_the_vir
     app.delegate->do_read_codes();
     EXPECT_EQ(press("startWifi"), PREFS_VIEW);
     EXPECT_EQ(app.defaults.integer(KS_INTERFACE_KEY), KS_USE_WIFI);
+    app.delegate->do_read_codes();
+    EXPECT_EQ(press("startSerial"), PREFS_VIEW);
+    EXPECT_TRUE(app.defaults.boolean(STREAM_IS_SERIAL_KEY));
     EXPECT_FALSE(demo);
     EXPECT_EQ(press("startDemo"), READ_CODES_VIEW);
     EXPECT_TRUE(demo);

@@ -32,9 +32,12 @@ def kestrom(*arguments, status=0, **surroundings):
 
 @contextlib.contextmanager
 def virtual_car(*arguments):
-    with subprocess.Popen([VIRTUAL_CAR, "--port", "0", *arguments], stdout=subprocess.PIPE, text=True) as car:
+    serial = "--pty" in arguments
+    place = [] if serial else ["--port", "0"]
+    with subprocess.Popen([VIRTUAL_CAR, *place, *arguments], stdout=subprocess.PIPE, text=True) as car:
         try:
-            yield "127.0.0.1:" + car.stdout.readline().rsplit(":", 1)[1].strip()
+            told = car.stdout.readline().strip()
+            yield told.rsplit(" ", 1)[1] if serial else "127.0.0.1:" + told.rsplit(":", 1)[1]
         finally:
             car.terminate()
 
@@ -92,6 +95,21 @@ class json_test(unittest.TestCase):
         with ThreadPoolExecutor(8) as pool:  # they mostly wait
             self.assertEqual(list(pool.map(check_car, CARS)), [21] * len(CARS))
 
+    def test_a_serial_port_tells_the_same_as_a_socket(self):
+        codes, cycles = [], []
+        for way in (["--latency", "0", "--speed", "0"], ["--latency", "0", "--speed", "0", "--pty"]):
+            talk = str(Path(HOME.name, f"way{len(way)}.jsonl"))
+            with virtual_car(*way) as address:
+                codes.append(same_codes(kestrom("--adapter", address, "--record", talk, "codes", "--json")))
+                run = lines_fit("live", kestrom("--adapter", address, "live", "--pids", "0C,0D,05", "--cycles", "50", "--json"))
+                cycles.append([one["values"] for one in run if "values" in one])
+            header = lines_fit("recording", Path(talk).read_text())[0]
+            self.assertEqual(header["adapter"], "serial" if "--pty" in way else "wifi")
+            del codes[-1]["statuses"]  # each way has words of its own
+        self.assertEqual(codes[0], codes[1])
+        self.assertEqual(cycles[0], cycles[1])
+        self.assertEqual(len(cycles[0]), 50)
+
     def test_small_letters_are_read_as_large_ones_and_fit_the_schemas(self):
         talk, settings = Path(HOME.name, "letters.jsonl"), Path(HOME.name, "letters.conf")
         with virtual_car("--car", "hybrid", "--timing", "0.05") as address:
@@ -120,6 +138,7 @@ class json_test(unittest.TestCase):
                 ("export", 0, ["export", log, "--json"]),
                 ("export", 1, ["export", log, "--json"]),
                 ("bluetooth-scan", 1, ["bluetooth-scan", "--json"]),
+                ("serial-ports", 0, ["serial-ports", "--json"]),
                 ("lookup", 0, ["lookup", "p0301", "--json"]),
                 ("lookup", 1, ["lookup", "no", "such", "thing", "--json"]),
                 ("pids", 0, ["--demo=hybrid", "pids", "--json"]),

@@ -82,6 +82,57 @@ TEST(bluetooth_devices, paired_ones_come_first_then_the_others_as_they_are_found
         QTest::qWaitFor([&] { return mock.calls("/org/bluez/hci0", "StopDiscovery") == 1; }));
 }
 
+TEST(bluetooth_devices, their_kind_is_told_by_advertisement_class_and_services) {
+    const QString services = QStringLiteral("UUIDs");
+    const QString flags = QStringLiteral("AdvertisingFlags");
+    const QStringList usual{QStringLiteral("0000FFF0-0000-1000-8000-00805f9b34fb")};
+    const QVariantMap random{{QStringLiteral("AddressType"), QStringLiteral("random")}};
+    const struct {
+        QVariantMap properties;
+        bool classic, low_energy;
+        serial_port_offer serial_port;
+    } cases[] = {
+        {{{QStringLiteral("Class"), 0x1F00u}}, true, false, serial_port_offer::unknown},
+        {SERIAL_PORT, true, false, serial_port_offer::yes},
+        {{}, false, false, serial_port_offer::unknown},
+        {random, false, true, serial_port_offer::unknown},
+        {{{services, usual}}, false, true, serial_port_offer::yes},
+        {{{services, usual + SERIAL_PORT.first().toStringList()}},
+         true,
+         true,
+         serial_port_offer::yes},
+        {{{flags, QByteArray("\x06")}}, false, true, serial_port_offer::unknown},
+        {{{flags, QByteArray("\x02")}}, true, true, serial_port_offer::unknown},
+        {{{flags, QByteArray("\x06")}, {QStringLiteral("Class"), 0x1F00u}},
+         true,
+         true,
+         serial_port_offer::unknown},
+        {{{flags, QByteArray("\x06")}, {QStringLiteral("ServicesResolved"), true}},
+         false,
+         true,
+         serial_port_offer::no},
+    };
+    mock_bluez mock;
+    ASSERT_TRUE(mock.usable());
+    mock.add_adapter();
+    mock.set_device(mock.add_device("00:00:00:00:00:FF", "", 0), random); // a beacon
+    char address[] = "00:00:00:00:00:00";
+    for (const auto& row : cases) {
+        mock.set_device(mock.add_device(address, "OBDII", 0), row.properties);
+        ++address[16];
+    }
+    bluez_devices devices(mock.connect());
+    ASSERT_TRUE(problem_becomes(devices, bluetooth_problem::none));
+    EXPECT_TRUE(devices.find("00:00:00:00:00:FF"));
+    const auto list = devices.devices();
+    ASSERT_EQ(list.size(), std::size(cases)) << "without the beacon";
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        EXPECT_EQ(list[i].classic, cases[i].classic) << i;
+        EXPECT_EQ(list[i].low_energy, cases[i].low_energy) << i;
+        EXPECT_EQ(list[i].serial_port, cases[i].serial_port) << i;
+    }
+}
+
 TEST(bluetooth_devices, what_stands_in_the_way_is_told_apart_and_may_go_away) {
     bluez_devices nowhere{QDBusConnection(QStringLiteral("no such bus"))};
     EXPECT_EQ(nowhere.problem(), bluetooth_problem::service_missing);
@@ -125,8 +176,9 @@ TEST(bluetooth_scan, prints_what_was_found_or_why_it_cannot) {
     mock.set_device(mock.add_device("00:1D:A5:68:98:8B", "OBD\x1b[31m\u202E"), SERIAL_PORT);
     bluez_devices devices(mock.connect());
     EXPECT_EQ(scan_devices(work, devices, 0.3), 0);
-    EXPECT_EQ(out.str(), "Address            Paired  Signal    Serial port    Name\n"
-                         "00:1D:A5:68:98:8B  no      -79 dBm   yes            OBD [31m \n")
+    EXPECT_EQ(out.str(),
+              "Address            Paired  Signal    Kind        Serial port    Name\n"
+              "00:1D:A5:68:98:8B  no      -79 dBm   classic     yes            OBD [31m \n")
         << "nor turns its direction";
 }
 

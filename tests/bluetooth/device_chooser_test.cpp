@@ -57,14 +57,15 @@ TEST_F(choosing, the_list_shows_every_device_as_plain_text_and_follows_the_searc
     mock.add_device("00:00:00:00:00:01", "<b>one</b>\r\n\x01two" + std::string(100, 'y'));
     ASSERT_TRUE(rows_become(1));
     EXPECT_EQ(row(0), "<b>one</b> two" + std::string(46, 'y') +
-                          "\xE2\x80\xA6|00:00:00:00:00:01||-79 dBm|not known yet");
+                          "\xE2\x80\xA6|00:00:00:00:00:01||-79 dBm|Classic|not known yet");
     EXPECT_TRUE(state().startsWith(QLatin1String("Searching")));
     const std::string last = mock.add_device("00:00:00:00:00:02", "OBDII");
     ASSERT_TRUE(rows_become(2));
     mock.set_device(last, {{QStringLiteral("Paired"), true},
+                           {QStringLiteral("AdvertisingFlags"), QByteArray("\x02")},
                            {QStringLiteral("UUIDs"), QStringList{SERIAL_PORT_UUID_TEXT}}});
     ASSERT_TRUE(
-        QTest::qWaitFor([&] { return row(0) == "OBDII|00:00:00:00:00:02|yes|-79 dBm|yes"; }));
+        QTest::qWaitFor([&] { return row(0) == "OBDII|00:00:00:00:00:02|yes|-79 dBm|both|yes"; }));
     EXPECT_EQ(table->currentIndex().row(), 1) << "the row that was selected stays selected";
     mock.remove_device("/org/bluez/hci0/dev_00_00_00_00_00_01");
     ASSERT_TRUE(rows_become(1));

@@ -76,14 +76,18 @@ class mock_bluez {
     void add_adapter() {
         call("/", "org.bluez.Mock", "AddAdapter", {QStringLiteral("hci0"), QStringLiteral("desk")});
     }
-    // Answers the object's path.
-    std::string add_device(const char* address, const std::string& name) {
-        return call("/", "org.bluez.Mock", "AddDevice",
-                    {QStringLiteral("hci0"), QLatin1String(address), QString::fromStdString(name)})
-            .arguments()
-            .value(0)
-            .toString()
-            .toStdString();
+    // Answers the object's path. With a class it is a classic one.
+    std::string add_device(const char* address, const std::string& name,
+                           uint device_class = 0x1F00) {
+        const std::string path =
+            call("/", "org.bluez.Mock", "AddDevice",
+                 {QStringLiteral("hci0"), QLatin1String(address), QString::fromStdString(name)})
+                .arguments()
+                .value(0)
+                .toString()
+                .toStdString();
+        set_device(path, {{QStringLiteral("Class"), device_class}});
+        return path;
     }
     void set(const std::string& path, const QString& interface, const QVariantMap& properties) {
         call(path.c_str(), "org.freedesktop.DBus.Mock", "UpdateProperties",
@@ -94,6 +98,24 @@ class mock_bluez {
     }
     void power(bool on) {
         set("/org/bluez/hci0", ADAPTER_INTERFACE, {{QStringLiteral("Powered"), on}});
+    }
+    // Runs Python in the mock; its `objects` by path, and what was run before, are there.
+    void run(const std::string& python) {
+        call("/", "org.freedesktop.DBus.Mock", "AddMethod",
+             {QStringLiteral("org.bluez.Mock"), QStringLiteral("Run"), QStringLiteral("s"),
+              QString(), QStringLiteral("exec(args[0], globals())")});
+        call("/", "org.bluez.Mock", "Run", {QString::fromStdString(python)});
+    }
+    // The words of a Python expression.
+    std::string told(const std::string& python) {
+        call("/", "org.freedesktop.DBus.Mock", "AddMethod",
+             {QStringLiteral("org.bluez.Mock"), QStringLiteral("Tell"), QStringLiteral("s"),
+              QStringLiteral("s"), QStringLiteral("ret = eval(args[0], globals())")});
+        return call("/", "org.bluez.Mock", "Tell", {QString::fromStdString(python)})
+            .arguments()
+            .value(0)
+            .toString()
+            .toStdString();
     }
     void remove_device(const std::string& path) {
         call("/org/bluez/hci0", "org.bluez.Adapter1", "RemoveDevice",

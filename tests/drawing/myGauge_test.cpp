@@ -66,6 +66,31 @@ TEST_F(gauge_test, a_new_dial_starts_at_its_minimum_without_the_old_needle) {
     EXPECT_TRUE(needle_at(220)); // kept across scales
 }
 
+// A view paints only these; what was drawn in between was never seen.
+TEST_F(gauge_test, every_pixel_that_differs_counts_as_changed) {
+    QImage seen = gauge.imageRepresentation().copy();
+    const auto covers_what_differs = [&] {
+        const QImage now = gauge.imageRepresentation().copy();
+        const QRect changed = gauge.take_changed_pixels();
+        for (int y = 0; y < now.height(); ++y)
+            for (int x = 0; x < now.width(); ++x)
+                if (!changed.contains(x, y) &&
+                    (seen.size() != now.size() || seen.pixel(x, y) != now.pixel(x, y)))
+                    return false;
+        seen = now;
+        return true;
+    };
+    gauge.initGauge("0C");
+    gauge.draw_without_needle(face::awaiting);
+    EXPECT_TRUE(covers_what_differs()) << "a new face";
+    gauge.draw_cur_needle_value(500);
+    EXPECT_TRUE(covers_what_differs());
+    gauge.draw_cur_needle_value(2500);
+    gauge.draw_cur_needle_value(4500);
+    EXPECT_TRUE(covers_what_differs()) << "two values";
+    EXPECT_LT(gauge.take_changed_pixels().width(), 1) << "nothing since";
+}
+
 TEST_F(gauge_test, hub_glows_and_labels_are_white) {
     gauge.initGauge("04");
     gauge.draw_cur_needle_value(90);

@@ -39,7 +39,7 @@ TEST_F(conversation_recorder_test, a_tcp_conversation_is_written_as_it_happens) 
     const auto make =
         recorded_streams([&](const std::string&,
                              long) { return std::make_unique<scripted_stream_pair>(loop, wire); },
-                         recorder);
+                         recorder, "wifi");
     auto pair = make("host", 1);
     std::string read;
     pair->open([&](stream_side side, int code) {

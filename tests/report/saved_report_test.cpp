@@ -39,6 +39,15 @@ TEST(saved_report, opens_as_it_was_and_holds_no_hidden_number) {
     }
 }
 
+TEST(saved_report, hides_what_came_of_the_number_too_late_to_be_understood) {
+    conversation heard;
+    heard.pieces.resize(2);
+    heard.pieces[0].request = "0902"; // in vain
+    heard.pieces[1].request = "090A";
+    heard.pieces[1].unread = {{unread_kind::frames_unclear, "2:30313233343536"}};
+    EXPECT_FALSE(contains(without_vin(heard).pieces[1].unread[0].text, "3334"));
+}
+
 struct foreign_row {
     const char* name;
     const char* from; // in a sound document

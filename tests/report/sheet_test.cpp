@@ -92,6 +92,28 @@ TEST(sheet, keeps_what_was_read_before_an_end) {
     EXPECT_TRUE(contains(other.text(cancelled), "not asked"));
 }
 
+TEST(sheet, tells_the_lamp_off_and_cars_apart_only_as_far_as_that_is_known) {
+    one_unit car;
+    car.door.replies["0101"] = "7E8 06 41 01 01 07 00 00";
+    car.door.replies["0902"] = "7E8 10 14 49 02 01 57 4B 45\r7E8 21 34 44 31 39 45 30 36\r"
+                               "7E8 22 30 31 32 33 34 35 36";
+    const car_report all = car.read();
+    EXPECT_TRUE(contains(car.text(all), "off\n")) << car.text(all);
+    car.door.replies["03"] = "7E8 04 43 01 03 01\r7E9 02 43 00";
+    EXPECT_TRUE(contains(car.text(car.read()), "off, as far as told"));
+
+    const auto compared = [&](const car_report& before) {
+        return sheet_text(comparison_of(before, all, car.resources));
+    };
+    EXPECT_FALSE(contains(compared(report_of(without_vin(all.heard), car.toolies)), "different"));
+    EXPECT_FALSE(contains(compared(one_unit().read()), "different")); // tells no number
+    conversation other = all.heard;
+    for (asked_piece& piece : other.pieces)
+        if (piece.request == "0902")
+            piece.answers[0].data.back() = '7';
+    EXPECT_TRUE(contains(compared(report_of(other, car.toolies)), "two different cars"));
+}
+
 TEST(sheet, shows_markup_of_an_adapter_as_text) {
     one_unit car;
     car.door.replies["ATI"] = "<script>alert(1)</script> \"&'";

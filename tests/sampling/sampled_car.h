@@ -50,7 +50,7 @@ class sampled_car {
         for (const fast_sampler::sample& one : out.samples)
             judge(one, sent);
         cycles_ += out.ends_cycle;
-        told_ += out.told != fast_sampler::news::none;
+        told_ += out.change != fast_sampler::news::none;
         highest_ = std::max(highest_, sampler_.level());
         if (out.answer_is_missing)
             wait_for_reply();

@@ -7,6 +7,7 @@
 #include "unread_text.h"
 
 #include <QLabel>
+#include <QTableView>
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -104,6 +105,18 @@ TEST_P(answers, are_shown_and_what_is_unread_is_told) {
     ASSERT_EQ(hints.size(), 1);
     EXPECT_EQ(hints[0]->text().toStdString() == app.resources.localized("ui_codes_none"),
               unread.empty() && report.count.value_or(0) == 0);
+
+    // The unit that sent a code, where its header came.
+    const QAbstractItemModel& rows = *app.find<QTableView>("codesReadTableView")->model();
+    for (int i = 0; i < rows.rowCount(); ++i) {
+        const QString told = rows.index(i, 1).data(Qt::ToolTipRole).toString();
+        EXPECT_EQ(!told.isEmpty(),
+                  talk.name.starts_with("headers stay on") || talk.name == "J1850 checksum");
+        if (talk.name == "headers stay on, frames in turns") {
+            EXPECT_EQ(told.toStdString(), i < 4 ? "From control unit: Engine (7E8)"
+                                                : "From control unit: Transmission (7E9)");
+        }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(all, answers, testing::ValuesIn(conversations()), [](const auto& row) {

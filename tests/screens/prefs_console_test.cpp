@@ -100,6 +100,53 @@ TEST_F(preferences, bluetooth_leaves_the_stored_address_alone) {
     EXPECT_EQ(g_connect_with, KS_USE_BT);
 }
 
+TEST_F(preferences, a_cable_is_chosen_among_the_ports_that_come_and_go) {
+    std::vector<serial_port_entry> ports;
+    app.delegate->doors().serial_ports = [&] { return ports; };
+    auto* box = app.find<QComboBox>("serialPort");
+    const auto shown = [&] {
+        list texts;
+        for (int row = 0; row < box->count(); ++row)
+            texts.push_back(box->itemText(row).toStdString());
+        return texts;
+    };
+    EXPECT_TRUE(app.find("serialPanel")->isHidden());
+    app.find<QRadioButton>("interfaceSerial")->click();
+    EXPECT_FALSE(app.find("serialPanel")->isHidden());
+    EXPECT_TRUE(app.find("wifiTabView")->isHidden());
+    EXPECT_EQ(shown(), list{"none is plugged in"});
+    ports = {{"/dev/ttyUSB0", "FT232R\nUART", "FTDI"}, {"/dev/ttyS0", "", ""}};
+    app.loop.advance(std::chrono::seconds(1));
+    EXPECT_EQ(shown(), (list{"/dev/ttyUSB0: FT232R UART, FTDI", "/dev/ttyS0"}));
+    EXPECT_EQ(box->currentIndex(), 0);
+    ports.erase(ports.begin());
+    app.loop.advance(std::chrono::seconds(1));
+    EXPECT_EQ(box->currentText().toStdString(), "/dev/ttyUSB0 (not plugged in)");
+    auto* speed = app.find<QComboBox>("serialSpeed");
+    EXPECT_EQ(speed->currentData().toInt(), 0);
+    speed->setCurrentIndex(speed->findText(QStringLiteral("115200")));
+    leave();
+    EXPECT_EQ(app.defaults.integer(KS_INTERFACE_KEY), KS_USE_WIFI);
+    EXPECT_TRUE(app.defaults.boolean(STREAM_IS_SERIAL_KEY));
+    EXPECT_EQ(app.defaults.string(WIFI_IP_KEY), "10.0.0.9") << "left alone";
+    app.delegate->openInterfaceConnection();
+    EXPECT_TRUE(app.wire().serial);
+    EXPECT_EQ(app.wire().host, "/dev/ttyUSB0");
+    EXPECT_EQ(app.wire().port, 115200);
+    app.delegate->do_prefs(); // its own choice comes back
+    EXPECT_TRUE(app.find<QRadioButton>("interfaceSerial")->isChecked());
+    EXPECT_EQ(app.find<QComboBox>("serialSpeed")->currentText(), QLatin1String("115200"));
+    app.find<QRadioButton>("interfaceWifi")->click();
+    leave();
+    EXPECT_FALSE(app.defaults.boolean(STREAM_IS_SERIAL_KEY));
+    EXPECT_EQ(app.wire().closes, 1);
+    app.delegate->do_prefs();
+    EXPECT_TRUE(app.find<QRadioButton>("interfaceWifi")->isChecked());
+    app.press("setDefaultsBtn");
+    EXPECT_EQ(app.defaults.string(SERIAL_PORT_KEY), "");
+    EXPECT_EQ(app.defaults.integer(SERIAL_SPEED_KEY), 0);
+}
+
 TEST_F(preferences, stored_parameters_outside_the_list_are_dropped) {
     app.defaults.set_string_array(PIDS_ARRAY_KEY, {"42", "0C"});
     app.delegate->do_prefs();

@@ -129,8 +129,10 @@ void transcript::open(const std::string& screen) {
         app.delegate->do_expert();
     else if (screen == "live")
         app.delegate->do_actions();
-    else
+    else if (screen == "prefs")
         app.delegate->do_prefs();
+    else
+        FAIL() << "unknown screen " << screen;
     app.loop.settle();
 }
 

@@ -74,6 +74,39 @@ bool answer_slot::tells(std::string_view digits) const {
     });
 }
 
+std::vector<std::string> answer_slot::messages() const {
+    std::map<std::string, std::pair<std::string, std::size_t>> longer; // by header: data, digits
+    std::vector<std::string> whole;
+    any_line(said, [&](std::string_view line) {
+        const bool wide = line.starts_with("18DA");
+        const std::size_t header = wide ? 8 : line.starts_with("7E") ? 3 : 6;
+        if (line.size() < header + 4)
+            return false;
+        std::string_view data = line.substr(header);
+        if (header == 6) { // with a checksum behind
+            whole.emplace_back(data.substr(0, data.size() - 2));
+            return false;
+        }
+        const auto number = [&](std::size_t at, std::size_t digits) {
+            return std::stoul("0" + std::string(data.substr(at, digits)), nullptr, 16);
+        };
+        auto& [gathered, digits] = longer[std::string(line.substr(0, header))];
+        if (data[0] == '0') {
+            whole.emplace_back(data.substr(2, 2 * number(1, 1)));
+        } else if (data[0] == '1') {
+            digits = 2 * number(1, 3);
+            gathered = data.substr(4);
+        } else {
+            gathered += data.substr(2);
+        }
+        return false;
+    });
+    for (const auto& [header, one] : longer)
+        if (one.second > 0 && one.first.size() >= one.second)
+            whole.push_back(one.first.substr(0, one.second));
+    return whole;
+}
+
 bool answer_slot::asks_for(std::string_view pid) const {
     for (std::size_t at = 2; command.starts_with("01") && at + 2 <= command.size(); at += 2)
         if (command.substr(at, 2) == pid)
@@ -134,6 +167,11 @@ void ledger::delivered(std::size_t slot, std::string_view bytes) {
         return;
     slots_[slot].delivered = ++moment_;
     keep(slots_[slot].arrived, bytes);
+}
+
+bool ledger::in_time(const answer_slot& slot) const {
+    const answer_slot* const next = &slot + 1;
+    return slot.delivered > 0 && (&slot == &slots_.back() || slot.delivered < next->written);
 }
 
 const answer_slot* ledger::asked(std::string_view command, std::uint64_t before) const {

@@ -28,6 +28,8 @@ struct answer_slot {
     bool holds_digits(std::string_view digits) const;
     // The frames of some unit, headers on, put together hold the digits.
     bool tells(std::string_view digits) const;
+    // What the units said, headers on, each message put together and without what fills its frames.
+    std::vector<std::string> messages() const;
     // It asked for that parameter, alone or among others.
     bool asks_for(std::string_view pid) const;
     // Nothing happened to it, and the adapter said nothing but data.
@@ -57,6 +59,8 @@ class ledger {
     // The newest slot of that command that was written before the moment; nothing without one.
     const answer_slot* asked(std::string_view command, std::uint64_t before) const;
 
+    // All of it came before anything else was asked.
+    bool in_time(const answer_slot& slot) const;
     // The newest slot that asked for that parameter before the moment.
     const answer_slot* asked_for(std::string_view pid, std::uint64_t before) const;
 

@@ -3,6 +3,7 @@
 #include "actions.h"
 #include "readCodes.h"
 #include "reply_accumulator.h"
+#include "report_screen.h"
 #include "sample_reply.h"
 #include "text.h"
 
@@ -153,6 +154,8 @@ void promises::hold_now() {
         codes_are_true(*codes);
     else if (auto* const live = app_.showing<actions>(ACTIONS_VIEW))
         samples_are_true(*live);
+    else if (auto* const report = app_.showing<report_screen>(REPORT_VIEW))
+        report_is_true(*report);
     else if (app_.showing<screen_controller>(EXPERT_VIEW))
         app_.story.expect(app_.find<QPlainTextEdit>("replyTxt")->document()->characterCount() <=
                               TRANSCRIPT_BOUND,

@@ -12,6 +12,8 @@
 class actions;
 class readCodes;
 struct codes_report;
+class report_screen;
+struct asked_piece;
 
 class promises {
   public:
@@ -37,6 +39,11 @@ class promises {
     void run_begins();
     // Of the trouble-codes screen: a task begins.
     void task_begins(std::uint64_t moment) { task_began_ = moment; }
+    // Of the report's screen: a reading begins.
+    void report_begins() {
+        report_began_ = app_.book.moment();
+        report_checked_ = false;
+    }
     // A message box is open.
     void told(const std::string& message);
     // Live data of a healthy car, and the console: both work again.
@@ -54,6 +61,11 @@ class promises {
                   const std::function<bool(const std::string& digits)>& reads) const;
     bool count_was_sent(int count) const;
     void status_is_true(const codes_report& shown);
+    // report_promises.cpp
+    void report_is_true(const report_screen& screen);
+    void nothing_is_invented(const asked_piece& piece);
+    void nothing_is_lost(const asked_piece& piece);
+
     void samples_are_true(actions& screen);
     bool sample_was_sent(actions& screen, std::size_t row, std::size_t place,
                          const std::string& text);
@@ -70,6 +82,8 @@ class promises {
     int depth_ = 0;
     std::uint64_t delivery_began_ = 0;
     std::uint64_t task_began_ = 0;
+    std::uint64_t report_began_ = 0;
+    bool report_checked_ = false;
     std::string codes_shown_, status_shown_;
     bool end_checked_ = false; // of the reading shown
     std::vector<std::string> states_shown_;

@@ -1,6 +1,7 @@
 #include "random_user.h"
 
 #include "actions.h"
+#include "report_screen.h"
 #include "thumbnail_strip.h"
 
 #include <QAction>
@@ -90,6 +91,8 @@ void random_user::act() {
         use_codes();
     else if (screen == ACTIONS_VIEW)
         use_live_data();
+    else if (screen == REPORT_VIEW)
+        use_report();
     else if (screen == PREFS_VIEW)
         use_preferences();
     else
@@ -106,7 +109,10 @@ void random_user::switch_screen() {
 }
 
 void random_user::show_some_screen() {
-    switch (dice_.below(10)) {
+    switch (dice_.below(12)) {
+    case 10:
+    case 11:
+        return app_.delegate->do_report();
     case 0:
     case 1:
     case 2:
@@ -166,6 +172,18 @@ void random_user::use_codes() {
         app_.find<QAction>("obd_sim")->trigger();
         expect_answer("diagnose", before);
     }
+}
+
+// Mostly left alone while it runs: a second press cancels.
+void random_user::use_report() {
+    const bool running = static_cast<report_screen*>(app_.delegate->current_screen())->reading();
+    if (running && dice_.happens(80))
+        return wait();
+    if (!running)
+        promises_.report_begins();
+    const std::uint64_t before = app_.story.effects();
+    press("readReport");
+    expect_answer("read report", before);
 }
 
 void random_user::use_live_data() {

@@ -21,6 +21,7 @@ class random_user {
     void switch_screen();
     void show_some_screen();
     void use_codes();
+    void use_report();
     void use_live_data();
     void use_preferences();
     void use_console();

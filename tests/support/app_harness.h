@@ -33,14 +33,8 @@ class app_harness {
         mac_toolies::initialize({&resources, &defaults, &messages, &notifications,
                                  folder.filePath(QStringLiteral("data")).toStdString()});
         delegate = std::make_unique<Ks_lite_delegate>(
-            app_doors{loop, messages, defaults, resources, notifications,
-                      [this](const std::string& host, long port) -> std::unique_ptr<stream_pair> {
-                          wires.push_back(std::make_shared<scripted_stream_pair::wire>());
-                          wires.back()->host = host;
-                          wires.back()->port = port;
-                          return std::make_unique<scripted_stream_pair>(loop, wires.back());
-                      },
-                      bluetooth},
+            app_doors{loop, messages, defaults, resources, notifications, scripted_streams(false),
+                      bluetooth, scripted_streams(true)},
             all_screens());
         delegate->status_shown = [this](const std::string& text) { statuses.push_back(text); };
     }
@@ -54,6 +48,16 @@ class app_harness {
     static void first_start(user_defaults&) {} // Bluetooth
 
     scripted_stream_pair::wire& wire() { return *wires.back(); }
+
+    stream_pair_factory scripted_streams(bool serial) {
+        return [this, serial](const std::string& host, long port) -> std::unique_ptr<stream_pair> {
+            wires.push_back(std::make_shared<scripted_stream_pair::wire>());
+            wires.back()->host = host;
+            wires.back()->port = port;
+            wires.back()->serial = serial;
+            return std::make_unique<scripted_stream_pair>(loop, wires.back());
+        };
+    }
 
     // The connection comes up; one second later the link starts the screen's work.
     void connect() {

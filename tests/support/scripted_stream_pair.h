@@ -17,6 +17,7 @@ class scripted_stream_pair final : public stream_pair {
     struct wire {
         std::string host;
         long port = 0;
+        bool serial = false;
         std::deque<std::string> written;
         std::string incoming;
         std::string error;

@@ -7,7 +7,7 @@
 
 namespace {
 
-// Data bytes by PID, 00 to 5F, a row for each sixteen. Beyond, those of the bitmaps are known here.
+// Data bytes by PID, 00 to 5F, sixteen to a row. Beyond that, only the bitmaps' are known here.
 constexpr std::string_view PARAMETER_BYTES = "4422111111112111"
                                              "2111222222221112"
                                              "4222444444441111"
@@ -25,16 +25,16 @@ enum class length { by_parameter, by_count, by_record, fixed };
 
 struct size_row {
     std::string_view answer; // what it begins with
-    bus_form bus;            // unknown: whichever
+    bus_form bus;            // unknown: any
     length kind;
-    std::size_t digits = 0; // of all of it; of its head where more follows
-    std::size_t each = 0;   // of what the head's last byte counts
+    std::size_t digits = 0; // of the answer, or of its head if more follows
+    std::size_t each = 0;   // of each item that the head's last byte counts
 };
 constexpr bus_form CAN = bus_form::can, OLDER = bus_form::older, EITHER = bus_form::unknown;
-// The first row that fits holds.
+// The first matching row applies.
 constexpr size_row ROWS[] = {
     {"41", EITHER, length::by_parameter, 4},
-    {"42", EITHER, length::by_parameter, 6}, // the frame's number behind the PID
+    {"42", EITHER, length::by_parameter, 6}, // the frame number after the PID
     {"43", CAN, length::by_count, CODES_HEAD_DIGITS, CODE_DIGITS},
     {"43", OLDER, length::fixed, 14},
     {"44", EITHER, length::fixed, 2},
@@ -49,7 +49,7 @@ constexpr size_row ROWS[] = {
     {"4908", CAN, length::by_count, 6, 4},  // counters
     {"490A", CAN, length::fixed, 46},       // the unit's name
     {"490B", CAN, length::by_count, 6, 4},
-    {"4901", OLDER, length::fixed, 6}, // how many messages the next type takes
+    {"4901", OLDER, length::fixed, 6}, // how many messages the next type has
     {"4903", OLDER, length::fixed, 6},
     {"4905", OLDER, length::fixed, 6},
     {"4907", OLDER, length::fixed, 6},

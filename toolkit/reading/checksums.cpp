@@ -27,6 +27,6 @@ bool ends_with_checksum(std::string_view message) {
         sum = static_cast<std::uint8_t>(sum + byte);
         crc = j1850_step(crc, byte);
     }
-    const unsigned told = hex_value(message.substr(last));
-    return told == sum || told == static_cast<std::uint8_t>(crc ^ 0xFF);
+    const unsigned printed = hex_value(message.substr(last));
+    return printed == sum || printed == static_cast<std::uint8_t>(crc ^ 0xFF);
 }

@@ -11,7 +11,7 @@ namespace {
 constexpr std::size_t FIRST_FRAME = FIRST_FRAME_DIGITS, LATER_FRAME = LONGEST_FRAME_DIGITS;
 constexpr unsigned FRAME_NUMBERS = 16;
 constexpr std::size_t NUMBER_DIGITS = 2; // "1:"
-constexpr std::size_t MOST_STEPS = 5000; // of a search through hostile frames
+constexpr std::size_t MOST_STEPS = 5000; // limit of a search, for hostile frames
 
 std::string_view digits_of(std::string_view frame) {
     return frame.substr(NUMBER_DIGITS);
@@ -60,12 +60,12 @@ void frame_gatherer::take_frame(std::string_view frame) {
 void frame_gatherer::take_first(std::string_view frame, std::string_view digits) {
     const auto opened = std::ranges::find(group_.rbegin(), group_.rend(), false, &message::begun);
     std::string first(digits);
-    if (first.size() == FIRST_FRAME + 1) // a known flaw: one digit too many, the fifth
+    if (first.size() == FIRST_FRAME + 1) // a known fault: an extra digit, the fifth
         first.erase(4, 1);
     const std::size_t all = 2 * opened->bytes;
     const bool fits = first.size() <= FIRST_FRAME && first.size() % 2 == 0 &&
                       (first.size() == FIRST_FRAME || first.size() >= all);
-    if (!fits) { // nobody knows which of its digits are false
+    if (!fits) { // which of its digits are wrong is unknown
         unread_.push_back({unread_kind::frames_unclear, std::string(frame)});
         group_.erase(std::next(opened).base());
         return;

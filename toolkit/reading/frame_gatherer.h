@@ -1,4 +1,4 @@
-// Puts messages of several frames together (ISO 15765-2), as the adapter numbers them: "00A",
+// Assembles messages of several frames (ISO 15765-2), numbered by the adapter: "00A",
 // "0:430401330220", "1:03000420000000".
 #pragma once
 
@@ -10,12 +10,12 @@
 #include <vector>
 
 struct gathered_message {
-    std::size_t line; // where in the reply it began
-    std::string data; // what is certain of it, never more than was announced
+    std::size_t line; // where it began in the reply
+    std::string data; // its certain part, never more than announced
 };
 
-// Frames do not tell whose they are. When several messages are open, numbers, announced lengths and
-// fill decide; where they leave a choice, only the first frames are certain.
+// Frames do not name their sender. When several messages are open, numbers, announced lengths and
+// fill decide; where they are ambiguous, only the first frames are certain.
 class frame_gatherer {
   public:
     void take_length(std::size_t line, std::string_view digits);
@@ -31,7 +31,7 @@ class frame_gatherer {
         unsigned frames = 0;
 
         bool whole() const { return data.size() == 2 * bytes; }
-        // Whether that can be its next frame; the last one may be filled up.
+        // Whether that can be its next frame; the last one may be padded.
         bool accepts(std::string_view frame) const;
         void append(std::string_view frame);
     };
@@ -40,11 +40,11 @@ class frame_gatherer {
     void take_first(std::string_view frame, std::string_view digits);
     std::size_t frames_awaited() const;
     void close_group();
-    // Every way to give the frames from that one on to the messages.
+    // Tries every way to assign the frames from that one on to messages.
     void assign(std::size_t frame, messages_of_group& so_far, std::vector<messages_of_group>& ways);
     void take_what_is_certain();
 
-    messages_of_group group_; // those that may have run into one another
+    messages_of_group group_; // those that may be interleaved
     std::vector<std::string> later_;
     std::size_t steps_ = 0;
     messages_of_group done_;

@@ -28,13 +28,14 @@ const header_row& row_of(header_form form) {
     return ROWS[static_cast<std::size_t>(form)];
 }
 
-// An answer of whatever service, or a refusal.
+// An answer to any service, or a refusal.
 bool may_be_data(std::string_view line) {
     const std::string_view service = line.substr(0, 2);
     return (service >= "41" && service <= "4A") || service == "7F";
 }
 
-// ISO 14230: without a length in its low six bits the first byte is followed by one for it.
+// ISO 14230: if the low six bits of the first byte hold no length, a length byte follows the
+// header.
 bool has_length_byte(std::string_view line) {
     return line.substr(2, 2) == ONE_TESTER && (line[0] == '8' || line[0] == 'C') && line[1] == '0';
 }
@@ -66,7 +67,7 @@ std::optional<headed_line> behind_header(std::string_view line, std::string_view
     if (!form)
         return std::nullopt;
     const std::size_t digits = row_of(*form).digits;
-    if (line.size() < digits + 2) // at least a byte of data, or of CAN's own
+    if (line.size() < digits + 2) // at least a byte of data, or of CAN's control bytes
         return std::nullopt;
     return headed_line{*form, line.substr(0, digits), line.substr(digits)};
 }

@@ -1,5 +1,5 @@
-// What stands in front of a line's data: the header of the bus, or nothing with headers off
-// (ISO 15765-4, ISO 9141-2, ISO 14230-4, SAE J1850).
+// What precedes the data of a line: the header of the bus, or nothing with headers off (ISO
+// 15765-4, ISO 9141-2, ISO 14230-4, SAE J1850).
 #pragma once
 
 #include "constantes.h"
@@ -21,17 +21,15 @@ struct headed_line {
     std::string_view data;
 };
 
-// `answer`: what an answer to the request begins with. Nothing for a line whose data cannot be
-// found.
+// `answer`: the start of an answer to the request. Nothing if the data of the line cannot be found.
 std::optional<headed_line> behind_header(std::string_view line, std::string_view answer);
 
 // "Engine", "Transmission" or "ECU=" and digits of the header; empty without a header. For 29 bits
-// these digits are the tester's, on purpose.
+// these digits are deliberately the tester's.
 std::string unit_name(const headed_line& line);
 
-// The address of the unit that sent a line: "7E8" of 11 bits, else its one byte; empty without a
-// header.
+// The address of the sending unit: "7E8" for 11 bits, else one byte; empty without a header.
 std::string unit_address(header_form form, std::string_view header);
 
-// The names that go with the last byte of a unit's address (SAE J1979).
+// The names for the last byte of a unit's address (SAE J1979).
 std::string unit_name_of_address(std::string_view address, std::string_view shown_otherwise);

@@ -1,17 +1,17 @@
-// Hex digits as numbers, and runs of bytes that only fill a frame up.
+// Hex digits as numbers, and bytes that only pad a frame.
 #pragma once
 
 #include <charconv>
 #include <string_view>
 
-// Of at most eight hex digits; 0 for anything else.
+// For at most eight hex digits; 0 for anything else.
 inline unsigned hex_value(std::string_view digits) {
     unsigned value = 0;
     const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), value, 16);
     return read.ec == std::errc() && read.ptr == digits.data() + digits.size() ? value : 0;
 }
 
-// Whole bytes, all alike: what a frame may be filled up with. No bytes are.
+// Whether these are equal bytes, as padding is; true for none.
 inline bool is_fill(std::string_view digits) {
     if (digits.size() % 2 != 0)
         return false;

@@ -18,7 +18,7 @@ constexpr notice NOTICES[] = {
     {"BUSERROR", "BUS ERROR", notice_kind::trouble},
     {"CANERROR", "CAN ERROR", notice_kind::trouble},
     {"DATAERROR", "DATA ERROR", notice_kind::trouble},
-    {"ERROR", "BUS INIT: ERROR", notice_kind::trouble}, // what is left of it
+    {"ERROR", "BUS INIT: ERROR", notice_kind::trouble}, // what remains of it
     {"FBERROR", "FB ERROR", notice_kind::trouble},
     {"LPALERT", "LP ALERT", notice_kind::trouble},
     {"LVRESET", "LV RESET", notice_kind::trouble},
@@ -27,15 +27,19 @@ constexpr notice NOTICES[] = {
     {"STOPPED", "STOPPED", notice_kind::trouble},
     {"UNABLETOCONNECT", "UNABLE TO CONNECT", notice_kind::trouble},
 };
-// Begin with these and go on as they like.
-constexpr notice RESTARTED{"ELM", "ELM327", notice_kind::trouble};
-constexpr notice FAULT_NUMBER{"ERR", "ERR", notice_kind::trouble};
+// Followed by a number of two digits.
+constexpr notice NUMBERED[] = {
+    {"ERR", "ERR", notice_kind::trouble},
+    {"BUSBUSY", "BUS BUSY", notice_kind::trouble},
+};
+constexpr notice RESTARTED{"ELM", "ELM327", notice_kind::trouble}; // followed by anything
 
 constexpr std::string_view SEARCH_NOTICES[] = {"SEARCHING", ".", "BUSINIT:", "BUSINIT", "OK"};
 
-bool is_fault_number(std::string_view line) {
-    return line.size() == 5 && line.starts_with(FAULT_NUMBER.spaceless) &&
-           std::ranges::all_of(line.substr(3), [](unsigned char c) { return std::isdigit(c); });
+bool is_numbered(std::string_view line, const notice& one) {
+    return line.size() == one.spaceless.size() + 2 && line.starts_with(one.spaceless) &&
+           std::ranges::all_of(line.substr(one.spaceless.size()),
+                               [](unsigned char c) { return std::isdigit(c); });
 }
 
 } // namespace
@@ -46,7 +50,9 @@ const notice* notice_in(std::string_view line) {
         return found;
     if (line.starts_with(RESTARTED.spaceless))
         return &RESTARTED;
-    return is_fault_number(line) ? &FAULT_NUMBER : nullptr;
+    const auto numbered = std::ranges::find_if(
+        NUMBERED, [line](const notice& one) { return is_numbered(line, one); });
+    return numbered == std::end(NUMBERED) ? nullptr : numbered;
 }
 
 std::string_view behind_search_notices(std::string_view line) {

@@ -1,4 +1,4 @@
-// What adapters say beside data or instead of it (the ELM327 data sheet and its copies).
+// What adapters say besides data or instead of it (the ELM327 data sheet and its copies).
 #pragma once
 
 #include <optional>
@@ -7,7 +7,7 @@
 enum class notice_kind {
     harmless, // "OK", a search notice
     no_data,  // the car did not answer
-    trouble   // whatever the car said was lost
+    trouble   // what the car said was lost
 };
 
 struct notice {
@@ -16,12 +16,11 @@ struct notice {
     notice_kind kind;
 };
 
-// The notice that a spaceless line of capitals is; null for any other line.
+// The notice for a spaceless line of capitals; null if it is not one.
 const notice* notice_in(std::string_view line);
 
-// The line without the search and bus notices in front of its data ("SEARCHING...", "BUS INIT:
-// OK").
+// The line without leading search and bus notices ("SEARCHING...", "BUS INIT: OK").
 std::string_view behind_search_notices(std::string_view line);
 
-// Whether a spaceless text of capitals holds any of them, OK excepted.
+// Whether a spaceless text of capitals contains any of them except OK.
 bool holds_notice(std::string_view text);

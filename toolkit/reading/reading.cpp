@@ -33,11 +33,11 @@ bool holds_any(std::string_view text, std::span<const std::string_view> words) {
     return std::ranges::any_of(words, [&](std::string_view one) { return contains(text, one); });
 }
 
-// Services whose answers are codes: late ones to another of them must not pass for nothing.
+// Services whose answers are codes: a late answer to another of them must not go unnoticed.
 constexpr std::string_view CODE_SERVICES[] = {"43", "47", "4A"};
 
-// Without headers a line of codes tells its bus by its form: the older buses fill seven bytes, with
-// zeros, CAN sends two and two more for each code, and fills with what it likes.
+// Without headers, the form of a line of codes reveals the bus: the older buses send seven bytes,
+// padded with zeros; CAN sends two, plus two for each code, with any padding.
 bus_form form_of_codes(std::string_view data) {
     if (data.size() != LONGEST_FRAME_DIGITS)
         return bus_form::can;
@@ -60,8 +60,8 @@ class reply_reader {
         headed_line at; // header and form; its data is not used
         std::string header;
         std::string data;
-        std::size_t announced = 0; // digits, by the byte count of a CAN frame
-        std::string behind{};      // what stands behind these
+        std::size_t announced = 0; // digits, from the byte count of a CAN frame
+        std::string behind{};      // what follows them
         bool of_frames = false;
     };
 
@@ -92,12 +92,12 @@ class reply_reader {
         frame_gatherer frames;
     };
     std::map<std::string, sender, std::less<>> senders_; // of frames, by header
-    struct put_off {
+    struct deferred_answer {
         std::size_t line;
         std::string header;
-        unread_piece told;
+        unread_piece piece;
     };
-    std::vector<put_off> pending_;
+    std::vector<deferred_answer> pending_;
     bool no_data_ = false;
     reading result_;
 };
@@ -134,7 +134,7 @@ void reply_reader::take_data(std::size_t number, std::string_view line) {
         messages_.push_back({number, *parts, std::string(parts->header), std::string(parts->data)});
 }
 
-// Behind a CAN header stands the byte count of a single frame, or the number of one of several.
+// A CAN header is followed by the byte count of a single frame, or by the number of one of several.
 void reply_reader::take_can(std::size_t number, const headed_line& line, std::string_view whole) {
     const std::string header(line.header);
     const std::string_view data = line.data;
@@ -173,7 +173,7 @@ void reply_reader::gather() {
         from.frames.finish(gathered, result_.unread);
         for (gathered_message& one : gathered) {
             if (one.data.empty())
-                continue; // has been told of
+                continue; // already reported
             headed_line at;
             at.form = from.form;
             messages_.push_back({one.line, at, header, std::move(one.data), 0, {}, true});
@@ -182,8 +182,8 @@ void reply_reader::gather() {
     std::ranges::stable_sort(messages_, {}, &found_message::line);
 }
 
-// Headers are the surest sign, and among lines of CAN only those are read: a digit that is added to
-// one makes an older bus's header of it.
+// Headers are the surest sign, and beside CAN lines no others are read: an extra digit makes a CAN
+// header look like an older bus's.
 void reply_reader::settle_bus() {
     result_.bus = known_;
     for (const bus_form form : {bus_form::older, bus_form::can})
@@ -205,7 +205,7 @@ bus_form reply_reader::bus_of_message(const found_message& one) const {
                                               : result_.bus.form;
 }
 
-// That it has to have, by its service and by its frame.
+// The digits it must have, by its service and by its frame.
 std::size_t reply_reader::digits_of(const found_message& one) const {
     return std::max(one.announced, answer_digits(one.data, bus_of_message(one)).value_or(0));
 }
@@ -229,7 +229,8 @@ void reply_reader::take_message(const found_message& one) {
     } else if (const std::size_t whole = size_of_other_answer(one)) {
         result_.others.emplace_back(data.substr(0, whole));
     } else {
-        unread(unread_kind::not_understood, one.header + one.data); // nobody's whole answer
+        unread(unread_kind::not_understood,
+               one.header + one.data); // not a complete answer to any request
     }
 }
 
@@ -245,26 +246,26 @@ void reply_reader::take_answer(const found_message& one) {
     result_.answers.push_back(std::move(answer));
 }
 
-// Of an answer that no row tells the length of.
+// For an answer whose length no row gives.
 std::size_t reply_reader::size_without_checksum(const found_message& one, bus_form bus) {
     const bool has_checksum = bus == bus_form::older && one.at.form != header_form::none &&
                               ends_with_checksum(one.header + one.data);
     return one.data.size() - (has_checksum ? 2 : 0);
 }
 
-// Behind an answer only what fills up a CAN frame may stand, or an older bus's checksum.
+// An answer may only be followed by the padding of a CAN frame, or an older bus's checksum.
 bool reply_reader::belongs(const found_message& one, std::size_t whole, bus_form bus) const {
     const std::string rest = std::string(slice(std::string_view(one.data), whole)) + one.behind;
     const std::size_t size = one.data.size() + one.behind.size();
     if (rest.empty())
         return true;
-    if (bus != bus_form::older) { // a message put together by the adapter may be of several frames
+    if (bus != bus_form::older) { // a message assembled by the adapter may be of several frames
         const std::size_t of_last = size % LONGEST_FRAME_DIGITS;
         return is_fill(rest) && size >= LONGEST_FRAME_DIGITS &&
                (of_last == 0 || of_last == FIRST_FRAME_DIGITS);
     }
-    // The lamp's answer is as good as the adapter's own test; a code's digits are not worth the
-    // risk.
+    // For the lamp the adapter's own check is good enough; for the digits of codes the risk is too
+    // high.
     return one.at.form != header_form::none && rest.size() == 2 &&
            (one.data.starts_with("41") || ends_with_checksum(one.header + one.data));
 }
@@ -275,8 +276,7 @@ void reply_reader::check_what_follows(const found_message& one, std::size_t whol
                std::string(slice(std::string_view(one.data), whole)) + one.behind);
 }
 
-// Digits of a whole answer, or a whole refusal, that a request before this one was owed; otherwise
-// 0.
+// Digits of a complete answer to an earlier request, or of a complete refusal of one; otherwise 0.
 std::size_t reply_reader::size_of_other_answer(const found_message& one) const {
     const std::string_view data = one.data;
     if (data.starts_with(NEGATIVE))
@@ -285,18 +285,18 @@ std::size_t reply_reader::size_of_other_answer(const found_message& one) const {
         return 0;
     const bus_form bus = bus_of_message(one);
     const std::size_t whole = answer_digits(data, bus).value_or(0);
-    const bool told = data.size() >= std::max(whole, one.announced) && belongs(one, whole, bus);
-    return told ? whole : 0;
+    const bool complete = data.size() >= std::max(whole, one.announced) && belongs(one, whole, bus);
+    return complete ? whole : 0;
 }
 
-// An answer that was put off has come when one stands behind, of the same unit where that is known.
+// A deferred answer has arrived if one follows, from the same unit where that is known.
 void reply_reader::settle_pending() {
-    for (const put_off& one : pending_)
+    for (const deferred_answer& one : pending_)
         if (std::ranges::none_of(messages_, [&](const found_message& later) {
                 return later.line > one.line && later.header == one.header &&
                        later.data.starts_with(answer_);
             }))
-            result_.unread.push_back(one.told);
+            result_.unread.push_back(one.piece);
 }
 
 reading reply_reader::read(std::string_view reply) {
@@ -340,7 +340,7 @@ reading read_reply(std::string_view request, std::string_view reply, bus_evidenc
     reading result;
     for (const std::string_view piece : split(reply, ">")) {
         reading one = reply_reader(request, known).read(piece);
-        // What an earlier piece told must stand in the last one as well.
+        // What an earlier piece contained must be in the last one as well.
         if (one.answered()) {
             for (const ecu_answer& before : result.answers)
                 if (std::ranges::find(one.answers, before) == one.answers.end())

@@ -1,4 +1,4 @@
-// The order of questions, and what becomes of the answers to those of a cycle.
+// The order of requests, and how the answers of a cycle are handled.
 #include "fast_sampler.h"
 
 #include "reply_lines.h"
@@ -12,12 +12,13 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// "?" to any of them costs nothing: what follows copes with blanks and line feeds. The last tells
-// the bus; no car answers like it, so it also tells whether replies are in step with requests.
+// A "?" to any of them is harmless: the reader copes with blanks and line feeds. The last one
+// reports the bus; no car answers like that, so it also shows whether replies are in step with
+// requests.
 constexpr std::array<std::string_view, 6> SETUP{"ATST32", "ATAT1", "ATS0", "ATL0", "ATH1", "ATDPN"};
 constexpr std::array<std::string_view, 3> FAREWELL{"AT ST 32", "AT H0", "AT S1"};
 constexpr std::string_view IN_STEP = "ATDPN";
-constexpr std::string_view FLUSH = "0100"; // plain: it waits for whatever a unit still has to say
+constexpr std::string_view FLUSH = "0100"; // plain: it waits for anything a unit still has to send
 
 constexpr std::size_t HEAD_DIGITS = 4; // "41" and the parameter
 constexpr std::size_t TIMES_ALIKE = 3;
@@ -27,18 +28,18 @@ constexpr int CHECKED_EVERY = 200;
 constexpr milliseconds CHECKED_AFTER{30'000};
 constexpr milliseconds J1850_PAUSE{100}; // SAE J1850 before 2002: no requests within 100 ms
 
-// "6" for "A6"; "?" from an adapter that does not know the command; 0 for what answers something
+// "6" for "A6"; "?" if the adapter does not know the command; 0 if the reply answers something
 // else.
-char bus_told_in(std::string_view reply) {
+char bus_reported_in(std::string_view reply) {
     std::vector<std::string> lines = reply_lines(reply);
     if (!lines.empty() && lines.front() == IN_STEP)
         lines.erase(lines.begin());
     if (lines.size() != 1)
         return 0;
-    std::string_view told = lines.front();
-    if (told.size() == 2 && told.front() == 'A')
-        told.remove_prefix(1);
-    return told.size() == 1 && (is_hex(told) || told == "?") ? told.front() : '\0';
+    std::string_view text = lines.front();
+    if (text.size() == 2 && text.front() == 'A')
+        text.remove_prefix(1);
+    return text.size() == 1 && (is_hex(text) || text == "?") ? text.front() : '\0';
 }
 
 bool is_complaint(std::string_view notice) {
@@ -100,8 +101,8 @@ fast_sampler::question fast_sampler::next(milliseconds now) {
     return ask_plan(now);
 }
 
-// The same question twice in a row could be answered by a reply that is one behind: between them
-// something is asked that can not.
+// A reply that lags by one could answer the same request sent twice in a row, so one that it cannot
+// answer goes between.
 fast_sampler::question fast_sampler::ask_plan(milliseconds now) {
     request* const one = plan_[cursor_];
     if (one == last_of_car_)
@@ -138,7 +139,7 @@ milliseconds fast_sampler::rest() const {
     return bus_ == '1' || bus_ == '2' ? J1850_PAUSE : milliseconds(0);
 }
 
-// Units that woke up or fell asleep change the number of frames.
+// Units that wake up or go to sleep change the number of frames.
 bool fast_sampler::due_plain(const request& one, milliseconds now) const {
     return one.asked_since_plain >= CHECKED_EVERY || now - one.plain_at >= CHECKED_AFTER;
 }
@@ -183,12 +184,12 @@ void fast_sampler::take_setup(std::string_view reply, outcome& out) {
 }
 
 void fast_sampler::take_in_step(std::string_view reply, outcome& out) {
-    const char told = bus_told_in(reply);
-    if (told != 0 && (told_ == '0' || told == told_)) {
+    const char reported = bus_reported_in(reply);
+    if (reported != 0 && (reported_bus_ == '0' || reported == reported_bus_)) {
         resync_ = resync::none;
         steps_missed_ = 0;
-        if (told_ == '0') {
-            told_ = told;
+        if (reported_bus_ == '0') {
+            reported_bus_ = reported;
             settle_bus(out);
         }
     } else if (++steps_missed_ >= MOST_STEPS_MISSED) {
@@ -200,7 +201,7 @@ void fast_sampler::take_in_step(std::string_view reply, outcome& out) {
 }
 
 void fast_sampler::settle_bus(outcome& out) {
-    bus_ = told_ == '?' ? (can_ ? '6' : '1') : told_;
+    bus_ = reported_bus_ == '?' ? (can_ ? '6' : '1') : reported_bus_;
     if (bus_ < '1' || bus_ > '9')
         give_up(out);
 }
@@ -219,9 +220,9 @@ void fast_sampler::give_the_cycle_up(outcome& out) {
 
 void fast_sampler::take_plan(std::string_view reply, outcome& out) {
     request& one = *asked_request_;
-    const std::optional<answer> told = read_answer(one, reply);
-    if (told && (!asked_digit_ || told->form == *one.known)) {
-        file(one, *told, out);
+    const std::optional<answer> got = read_answer(one, reply);
+    if (got && (!asked_digit_ || got->form == *one.known)) {
+        file(one, *got, out);
     } else if (!asked_digit_ && one.pids.size() == 1 && notice_ == "NODATA") {
         out.samples.push_back({one.pids.front(), notice_});
         learn(one, {});
@@ -233,18 +234,18 @@ void fast_sampler::take_plan(std::string_view reply, outcome& out) {
     advance(out);
 }
 
-void fast_sampler::file(request& one, const answer& told, outcome& out) {
-    for (const parameter_answer& part : told.parts)
+void fast_sampler::file(request& one, const answer& got, outcome& out) {
+    for (const parameter_answer& part : got.parts)
         out.samples.push_back({part.pid, part.reply});
     if (asked_digit_)
         return;
     if (one.pids.size() == 1) {
-        const parameter_answer& part = told.parts.front();
-        sources_.try_emplace(part.pid, told.source);
+        const parameter_answer& part = got.parts.front();
+        sources_.try_emplace(part.pid, got.source);
         lengths_.try_emplace(part.pid, part.reply.size() - HEAD_DIGITS);
         (stage_ == stage::comparing ? after_ : before_)[part.pid] = part.reply;
     }
-    learn(one, told.form);
+    learn(one, got.form);
 }
 
 void fast_sampler::void_reply(request& one, outcome& out) {
@@ -253,7 +254,7 @@ void fast_sampler::void_reply(request& one, outcome& out) {
     resync_ = resync::flush;
     one.asked_since_plain = CHECKED_EVERY;
     const bool again = voided_ && count_ - last_void_ <= VOID_WITHIN;
-    if (put_off_ || (again && is_complaint(notice_))) {
+    if (deferred_ || (again && is_complaint(notice_))) {
         afterwards_ = std::max(exchange(), milliseconds(1));
         give_up(out);
     } else if (again) {
@@ -263,7 +264,7 @@ void fast_sampler::void_reply(request& one, outcome& out) {
     last_void_ = count_;
 }
 
-// What an answer to it looks like, asked plainly.
+// Learns what an answer to a plain request looks like.
 void fast_sampler::learn(request& one, const shape& form) {
     if (one.known && form != *one.known)
         learn_anew(one);
@@ -279,7 +280,7 @@ void fast_sampler::learn(request& one, const shape& form) {
         one.digit = digit_use::never;
 }
 
-// Once; what changes again is never told how many frames to expect.
+// Only once; for a request that changes again the digit is never used.
 void fast_sampler::learn_anew(request& one) {
     one.known.reset();
     one.seen.clear();
@@ -322,19 +323,19 @@ void fast_sampler::cycle_ended() {
 
 void fast_sampler::one_level_down(outcome& out) {
     if (wants_singles_)
-        return; // on its way
+        return; // already sent
     if (stage_ != stage::running || level() <= 1) {
         give_up(out);
         return;
     }
     level_cap_ = level() - 1;
     wants_singles_ = level_cap_ == 1;
-    out.told = news::a_level_down;
+    out.change = news::a_level_down;
 }
 
 void fast_sampler::give_up(outcome& out) {
     if (!ending_)
-        out.told = news::given_up;
+        out.change = news::given_up;
     ending_ = true;
 }
 
@@ -342,27 +343,27 @@ std::optional<fast_sampler::answer> fast_sampler::read_answer(const request& ask
                                                               std::string_view reply) {
     const strict_reply read = read_strictly(asked_command_, reply);
     notice_ = read.notice;
-    put_off_ = std::ranges::any_of(read.messages,
-                                   [](const unit_message& one) { return one.data == "7F0178"; });
+    deferred_ = std::ranges::any_of(read.messages,
+                                    [](const unit_message& one) { return one.data == "7F0178"; });
     if (read.odd || read.messages.empty())
         return std::nullopt;
-    answer told;
+    answer got;
     const auto source = sources_.find(asked.pids.front());
-    told.source = source == sources_.end() ? read.messages.front().unit : source->second;
+    got.source = source == sources_.end() ? read.messages.front().unit : source->second;
     for (const unit_message& one : read.messages) {
         const std::string_view pid = slice(std::string_view(one.data), 2, 2);
         if (!one.data.starts_with("41") || std::ranges::find(asked.pids, pid) == asked.pids.end())
             return std::nullopt;
-        told.form.frames.emplace_back(one.unit, one.frames);
-        if (one.unit == told.source)
-            told.parts = parts_of(asked, one.data);
+        got.form.frames.emplace_back(one.unit, one.frames);
+        if (one.unit == got.source)
+            got.parts = parts_of(asked, one.data);
     }
-    for (const parameter_answer& part : told.parts)
-        told.form.order.push_back(part.pid);
-    return told.parts.empty() ? std::nullopt : std::optional(std::move(told));
+    for (const parameter_answer& part : got.parts)
+        got.form.order.push_back(part.pid);
+    return got.parts.empty() ? std::nullopt : std::optional(std::move(got));
 }
 
-// Exactly the parameters that were asked for, or none.
+// Exactly the parameters requested, or none.
 std::vector<parameter_answer> fast_sampler::parts_of(const request& asked,
                                                      const std::string& data) const {
     const std::string& first = asked.pids.front();

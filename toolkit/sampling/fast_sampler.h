@@ -1,12 +1,12 @@
-// What to ask a car whose adapter can do better than one plain request after the other, and what of
-// the replies can be filed. It sends nothing and knows no clock: given a reply and the time, it
-// says what to file and what to ask next.
+// Chooses the requests for an adapter that can do better than one plain request at a time, and
+// decides which replies can be filed. It sends nothing and has no clock: given a reply and the
+// time, it returns what to file and what to request next.
 //
-// It begins as plain sampling does, learns what each parameter's answer looks like, and then tries
-// two things, each used only when it was proven on this connection: a digit behind the request that
-// tells the adapter how many frames to expect, so that it need not wait for more, and on CAN up to
-// six parameters in one request. Tries are requests of their own between two cycles; nothing of
-// their replies is filed. A reply with anything odd about it is void as a whole.
+// It begins like plain sampling, learns what each parameter's answer looks like, and then tries two
+// things, each used only once proven on this connection: a digit after the request that tells the
+// adapter how many frames to expect, so that it does not wait for more, and on CAN up to six
+// parameters in one request. Tries are separate requests between two cycles; their replies are not
+// filed. A reply with anything odd about it is discarded entirely.
 #pragma once
 
 #include "strict_reply.h"
@@ -24,8 +24,8 @@ class fast_sampler {
   public:
     using milliseconds = std::chrono::milliseconds;
 
-    // `pids`: of one cycle, two capital hex digits each. `can`: the bus is one, as far as is known.
-    // `most_a_second`: requests on CAN; 0 for as many as it takes.
+    // `pids`: of one cycle, two capital hex digits each. `can`: whether the bus is CAN, as far as
+    // known. `most_a_second`: limit of requests on CAN; 0 for none.
     fast_sampler(const std::vector<std::string>& pids, bool can, int most_a_second);
 
     struct question {
@@ -37,29 +37,29 @@ class fast_sampler {
 
     struct sample {
         std::string pid;
-        std::string reply; // as if asked for alone, "410C1AF8"; "~" when void, or "NODATA"
+        std::string reply; // as if requested alone, "410C1AF8"; "~" if discarded, or "NODATA"
     };
     enum class news { none, a_level_down, given_up };
     struct outcome {
         std::vector<sample> samples;
         bool ends_cycle = false;
-        bool answer_is_missing = false; // the adapter owes one more than it was asked for
-        news told = news::none;
+        bool answer_is_missing = false; // the adapter owes one more reply than expected
+        news change = news::none;
     };
     outcome take(std::string_view reply, milliseconds now);
-    // No prompt came: what comes after all counts for nothing.
+    // No prompt came: whatever still comes is ignored.
     outcome timed_out(milliseconds now);
 
-    // There is nothing to be gained, or too much went wrong: the rest of the run is plain. Not
-    // before the end of a cycle.
+    // Nothing can be gained, or too much went wrong: the rest of the run is plain. Only at the end
+    // of a cycle.
     bool finished() const { return ending_ && cursor_ == 0 && resync_ == resync::none; }
-    // What plain sampling shall wait between requests then: a car that complained is asked half as
+    // How long plain sampling then pauses between requests: a car that complained is asked half as
     // often.
     milliseconds pause_afterwards() const { return afterwards_; }
 
-    // 0 plain, 1 the digit, 2 several parameters in a request, 3 both.
+    // 0 plain, 1 the digit, 2 several parameters per request, 3 both.
     int level() const;
-    // Leaves the adapter as others expect it.
+    // Commands that restore the adapter for other tasks.
     static std::span<const std::string_view> farewell();
 
   private:
@@ -77,8 +77,8 @@ class fast_sampler {
     enum class digit_use { untried, proven, never };
     struct request {
         std::vector<std::string> pids;
-        std::vector<shape> seen{};    // asked plainly, until it is known
-        std::optional<shape> known{}; // three times alike
+        std::vector<shape> seen{};    // of plain requests, until it is known
+        std::optional<shape> known{}; // seen three times
         std::vector<milliseconds> plain_times{}, digit_times{};
         digit_use digit = digit_use::untried;
         int asked_since_plain = 0;
@@ -108,7 +108,7 @@ class fast_sampler {
     void give_the_cycle_up(outcome& out);
     void take_in_step(std::string_view reply, outcome& out);
     void take_plan(std::string_view reply, outcome& out);
-    void file(request& one, const answer& told, outcome& out);
+    void file(request& one, const answer& got, outcome& out);
     void void_reply(request& one, outcome& out);
     void learn(request& one, const shape& form);
     void learn_anew(request& one);
@@ -128,22 +128,22 @@ class fast_sampler {
     void queue_groups();
     void run();
     void take_try(std::string_view reply);
-    void several_tried(request& one, const std::optional<answer>& told);
+    void several_tried(request& one, const std::optional<answer>& got);
     void several_fail();
     void compare();
     void queue_digits();
     void digit_fails(request& one);
-    void digit_tried(request& one, const std::optional<answer>& told);
+    void digit_tried(request& one, const std::optional<answer>& got);
 
     bool can_;
     int most_a_second_;
-    std::deque<request> requests_; // all that there ever were: plan and tries point into it
+    std::deque<request> requests_; // never removed: plan and tries point into it
     std::vector<request*> plan_, singles_, groups_;
     std::size_t cursor_ = 0;
     std::deque<attempt> tries_;
     std::size_t setup_next_ = 0;
-    char bus_ = '0';  // as "AT DPN" tells it
-    char told_ = '0'; // what it told; "?" too
+    char bus_ = '0';          // from "AT DPN"
+    char reported_bus_ = '0'; // its latest answer, may be "?"
     stage stage_ = stage::learning;
     resync resync_ = resync::none;
 
@@ -151,7 +151,7 @@ class fast_sampler {
     request* asked_request_ = nullptr;
     bool asked_digit_ = false;
     std::string asked_command_;
-    request* last_of_car_ = nullptr; // since the last command whose answer nothing else resembles
+    request* last_of_car_ = nullptr; // since the last command with an unmistakable answer
     std::string notice_;             // of the last reply
     milliseconds sent_at_{0}, answered_at_{0};
     milliseconds last_request_{0}, last_answer_{0}; // of the car
@@ -165,6 +165,6 @@ class fast_sampler {
     bool ending_ = false;
     milliseconds afterwards_{0};
     int count_ = 0, last_void_ = 0, steps_missed_ = 0;
-    bool voided_ = false;  // not long ago, on this level
-    bool put_off_ = false; // "7F 01 78"
+    bool voided_ = false;   // recently, on this level
+    bool deferred_ = false; // "7F 01 78"
 };

@@ -1,4 +1,4 @@
-// What is tried between the cycles: several parameters in one request, and the digit behind it.
+// Tries between the cycles: several parameters in one request, and the digit after a request.
 #include "answer_sizes.h"
 #include "fast_sampler.h"
 #include "hex_digits.h"
@@ -17,12 +17,12 @@ constexpr int TIMES_TRIED = 3;
 constexpr int MOST_FRAMES = 15; // one digit
 constexpr milliseconds CLEARLY{2};
 
-// Parameters that change slowly: what they are among several in one request must lie between what
-// they are alone, before and after.
+// Parameters that change slowly: their value in a combined request must lie between those of single
+// requests before and after.
 constexpr std::array<std::string_view, 10> SLOW{"05", "0F", "1C", "21", "30",
                                                 "31", "33", "46", "51", "5C"};
 
-// How long the answer is must be known, and the same in every car. Bitmaps must not be mixed with
+// The length of the answer must be known and the same in every car. Bitmaps must not be mixed with
 // values.
 bool may_be_grouped(std::string_view pid) {
     const unsigned number = hex_value(pid);
@@ -54,7 +54,7 @@ void fast_sampler::begin_several() {
     queue_groups();
 }
 
-// Parameters of the same unit, in their order.
+// Parameters of the same unit, in order.
 void fast_sampler::group() {
     groups_.clear();
     std::map<std::string, std::vector<std::string>> by_unit;
@@ -84,22 +84,22 @@ void fast_sampler::run() {
 }
 
 void fast_sampler::take_try(std::string_view reply) {
-    const std::optional<answer> told = read_answer(*asked_request_, reply);
-    if (!told)
+    const std::optional<answer> got = read_answer(*asked_request_, reply);
+    if (!got)
         resync_ = resync::flush;
     if (asked_ == kind::try_digit)
-        digit_tried(*asked_request_, told);
+        digit_tried(*asked_request_, got);
     else
-        several_tried(*asked_request_, told);
+        several_tried(*asked_request_, got);
 }
 
-void fast_sampler::several_tried(request& one, const std::optional<answer>& told) {
-    if (!told || (!one.seen.empty() && one.seen.front() != told->form)) {
+void fast_sampler::several_tried(request& one, const std::optional<answer>& got) {
+    if (!got || (!one.seen.empty() && one.seen.front() != got->form)) {
         several_fail();
         return;
     }
-    learn(one, told->form);
-    for (const parameter_answer& part : told->parts)
+    learn(one, got->form);
+    for (const parameter_answer& part : got->parts)
         tried_[part.pid] = part.reply;
     if (tries_.empty())
         stage_ = stage::comparing; // after one more cycle
@@ -148,25 +148,25 @@ void fast_sampler::queue_digits() {
     }
 }
 
-// Used when the reply is the same, and clearly sooner.
-void fast_sampler::digit_tried(request& one, const std::optional<answer>& told) {
-    if (!told || told->form != *one.known) {
+// The digit is used if the reply is the same and clearly faster.
+void fast_sampler::digit_tried(request& one, const std::optional<answer>& got) {
+    if (!got || got->form != *one.known) {
         digit_fails(one);
         return;
     }
     one.digit_times.push_back(exchange());
     if (one.digit_times.size() < TIMES_TRIED)
         return;
-    // The rest that J1850 needs before the next request is more than the digit saves.
+    // On J1850 the pause before the next request costs more than the digit saves.
     if (median(one.digit_times) + CLEARLY + rest() <= median(one.plain_times) * 19 / 20) {
         one.digit = digit_use::proven;
-        one.plain_at = answered_at_; // so recently
+        one.plain_at = answered_at_; // counts as a plain request
     } else {
         digit_fails(one);
     }
 }
 
-// The first failure tells about the adapter, a later one about this request.
+// A first failure is due to the adapter, a later one to this request.
 void fast_sampler::digit_fails(request& one) {
     digit_works_ = std::ranges::any_of(
         plan_, [](const request* each) { return each->digit == digit_use::proven; });

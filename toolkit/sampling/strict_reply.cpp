@@ -12,12 +12,12 @@
 
 namespace {
 
-constexpr std::string_view NO_ANSWER = "#"; // a line has to have its header
-constexpr std::size_t FRAME_DIGITS = 14;    // behind the frame number
+constexpr std::string_view NO_ANSWER = "#"; // every line must have a header
+constexpr std::size_t FRAME_DIGITS = 14;    // after the frame number
 constexpr std::size_t FIRST_DIGITS = 12;
-constexpr std::size_t PARAMETER_START = 2; // behind "41"
+constexpr std::size_t PARAMETER_START = 2; // after "41"
 
-// Where the unit's address stands in a header.
+// Position of the unit's address in a header.
 std::string address_in(const headed_line& line) {
     switch (line.form) {
     case header_form::can_11:
@@ -82,7 +82,7 @@ class strict_walk {
         }
     }
 
-    // ISO 14230 tells the length in the first byte.
+    // ISO 14230 has the length in the first byte.
     bool take_older(const std::string& unit, const headed_line& line, std::string_view whole) {
         const std::string_view data = line.data.substr(0, line.data.size() - 2);
         const bool kwp = line.header.substr(2, 2) == "F1";
@@ -110,7 +110,7 @@ class strict_walk {
         return true;
     }
 
-    // A whole frame, the end of it filled up, or only as much as was missing.
+    // A complete, padded frame, or just the missing bytes.
     static bool ends_well(std::string_view data, std::size_t missing) {
         return data.size() == missing || (data.size() == FRAME_DIGITS &&
                                           is_fill(slice(data, std::min(missing, data.size()))));

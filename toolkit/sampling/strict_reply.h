@@ -1,6 +1,6 @@
-// A reply to a service 01 request asked for speed, where no doubt is allowed: frames by frame, byte
-// by byte, each unit's answer once, and nothing beside (ISO 15765-2, SAE J1979). Headers are on.
-// Other replies are read by reading.h, which makes the best of what came.
+// Reads a reply of fast sampling, which allows no doubt: frame by frame, byte by byte, each unit's
+// answer once, and nothing else (ISO 15765-2, SAE J1979). Headers are on. Other replies are read by
+// reading.h, which makes the best of what came.
 #pragma once
 
 #include <cstddef>
@@ -18,8 +18,8 @@ struct unit_message {
 
 struct strict_reply {
     std::vector<unit_message> messages; // in the order of addresses
-    std::string notice;                 // without blanks; the adapter's word, and nothing else came
-    bool odd = false;                   // there is something that does not fit
+    std::string notice; // without blanks; the adapter's notice, if nothing else came
+    bool odd = false;   // something does not fit
 };
 
 // `command`: as it was sent, for adapters that echo it.
@@ -27,12 +27,12 @@ strict_reply read_strictly(std::string_view command, std::string_view reply);
 
 struct parameter_answer {
     std::string pid;
-    std::string reply; // as if it had been asked for alone, "410C1AF8"
+    std::string reply; // as if requested alone, "410C1AF8"
 };
 
 using digits_by_pid = std::map<std::string, std::size_t, std::less<>>;
 
-// The parameters of an answer, in its order. Nothing unless it splits without rest into parameters
-// whose lengths are known, none twice.
+// The parameters of an answer, in order. Nothing unless it splits without remainder into distinct
+// parameters of known lengths.
 std::optional<std::vector<parameter_answer>> split_answer(std::string_view data,
                                                           const digits_by_pid& lengths);

@@ -25,7 +25,7 @@ bool write_all(int output, std::string_view text) {
     return true;
 }
 
-// Milliseconds until the adapter has something to say; -1 for never.
+// Milliseconds until output is due; -1 for never.
 int patience(const adapter& served) {
     const auto next = served.next_output();
     return next ? int(std::max<long long>(

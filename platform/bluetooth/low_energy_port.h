@@ -1,0 +1,61 @@
+// A device's serial port over Low Energy: connects by BlueZ, finds the two characteristics,
+// subscribes, and carries bytes between them and a socket, so that the channel sees a socket as
+// with classic Bluetooth. Lives as long as the channel.
+#pragma once
+
+#include "bluez_devices.h"
+#include "gatt_serial.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <QSocketNotifier>
+#include <QTimer>
+
+#include <memory>
+
+class QDBusMessage;
+
+class low_energy_port final : public QObject {
+    Q_OBJECT
+  public:
+    // Begins at once, but tells nothing from inside. `device`: BlueZ's object.
+    low_energy_port(bluez_devices& devices, QString device);
+    ~low_energy_port() override;
+
+    static constexpr int SETTLE_MS = 2'000; // for the characteristics, once they are all known
+    static constexpr int WRITE_MS = 10'000; // an adapter may leave a request without a response
+    static constexpr qsizetype MOST_UNREAD = 1 << 20;
+
+    // The device has told its services.
+    bool asked() const { return port_.has_value(); }
+    // The program's end of the socket, once; -1 when there is none. The port's end is shut when the
+    // connection is lost or a write fails, behind what was received.
+    int take_descriptor();
+
+  Q_SIGNALS:
+    void opened();
+    void failed(const QDBusMessage& reply); // an error
+
+  private:
+    void follow_devices();
+    void link_lost();
+    void find_characteristics();
+    void subscribe();
+    void carry(int notifications, int mtu);
+    void notified();
+    void program_wrote();
+    void hand_over();
+    void end();
+
+    bluez_devices& devices_;
+    const QString device_;
+    std::optional<gatt_serial_port> port_;
+    QTimer settle_;
+    bool connected_ = false;
+    bool ended_ = false;
+    int notifications_ = -1; // one message each
+    int ours_ = -1, theirs_ = -1;
+    std::size_t piece_ = 0; // bytes that fit into one write
+    QByteArray unread_;     // received, and no room in the socket
+    std::unique_ptr<QSocketNotifier> received_, written_, room_;
+};

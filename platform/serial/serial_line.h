@@ -1,0 +1,32 @@
+// The door to one serial port: 8 bits, no parity, no flow control.
+#pragma once
+
+#include "serial_problem.h"
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+
+class serial_line {
+  public:
+    // Called from the event loop, never from inside an operation.
+    struct listener {
+        std::function<void()> readable;
+        std::function<void()> lost; // nothing more will come than can be read now
+    };
+
+    virtual ~serial_line() = default;
+
+    virtual serial_failure open(const std::string& path, listener told) = 0;
+    // Forgets what came at the speed before. No: the port does not know it.
+    virtual bool set_speed(long baud) = 0;
+    // At most `most` bytes received so far.
+    virtual std::string read(std::size_t most) = 0;
+    virtual bool more_to_read() const = 0;
+    virtual void write(std::string_view bytes) = 0;
+    // Raises nothing.
+    virtual void close() = 0;
+    // Why a port that was there has gone.
+    virtual serial_failure why_gone() const = 0;
+};

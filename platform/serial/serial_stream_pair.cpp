@@ -1,0 +1,165 @@
+#include "serial_stream_pair.h"
+
+#include "bundle.h"
+#include "serial_port_list.h"
+
+#include <algorithm>
+
+namespace {
+
+// The first is answered with "?" by most. Some want to be asked something that they know.
+struct question {
+    std::string_view text;
+    run_loop::milliseconds patience;
+};
+constexpr question QUESTIONS[] = {{"\x7f\x7f\r", run_loop::milliseconds(500)},
+                                  {"AT I\r", run_loop::milliseconds(1000)}};
+// What else is under way comes within this time.
+constexpr run_loop::milliseconds QUIET{100};
+constexpr std::size_t PIECE = 1024;
+constexpr std::size_t LONGEST_ANSWER = 4096; // what comes without end is none
+
+// Plain text up to a prompt. Bytes at a wrong speed are not plain for long.
+bool is_answer(std::string_view heard) {
+    const auto plain = [](char c) {
+        return (c >= ' ' && c <= '~') || c == '\r' || c == '\n' || c == '\0' || c == '\x7f';
+    };
+    const std::size_t last = heard.find_last_not_of(std::string_view(" \r\n\0", 4));
+    return last != std::string_view::npos && heard[last] == '>' &&
+           std::ranges::all_of(heard, plain);
+}
+
+std::string listed(const std::vector<long>& speeds) {
+    std::string text;
+    for (const long speed : speeds)
+        text += (text.empty() ? "" : ", ") + std::to_string(speed);
+    return text;
+}
+
+} // namespace
+
+serial_stream_pair::serial_stream_pair(run_loop& loop, const bundle& texts,
+                                       std::unique_ptr<serial_line> line, std::string path,
+                                       long speed)
+    : loop_(loop), texts_(texts), line_(std::move(line)), path_(std::move(path)),
+      speeds_(std::begin(USUAL_SPEEDS), std::end(USUAL_SPEEDS)) {
+    if (speed != 0)
+        speeds_ = {speed};
+}
+
+void serial_stream_pair::open(event_handler handler) {
+    handler_ = std::move(handler);
+    const serial_failure failure = line_->open(path_, {[this] { readable(); }, [this] { lost(); }});
+    if (failure.problem != serial_problem::none)
+        fail(failure);
+    else
+        try_next_speed();
+}
+
+void serial_stream_pair::try_next_speed() {
+    state_ = state::asking;
+    while (tried_ < speeds_.size())
+        if (line_->set_speed(speeds_[tried_++]))
+            return ask(0);
+    fail({serial_problem::silent, listed(speeds_)});
+}
+
+void serial_stream_pair::ask(std::size_t question) {
+    heard_.clear();
+    answered_ = false;
+    line_->write(QUESTIONS[question].text);
+    patience_ = loop_.after(QUESTIONS[question].patience, [this, question] {
+        if (question + 1 < std::size(QUESTIONS))
+            ask(question + 1);
+        else
+            try_next_speed();
+    });
+}
+
+void serial_stream_pair::hear_answer() {
+    while (line_->more_to_read())
+        if (const std::string piece = line_->read(PIECE); heard_.size() < LONGEST_ANSWER)
+            heard_ += piece;
+    answered_ = answered_ || is_answer(heard_);
+    if (!answered_ || heard_.size() >= LONGEST_ANSWER)
+        return;
+    loop_.cancel(patience_);
+    patience_ = loop_.after(QUIET, [this] { opened(); });
+}
+
+void serial_stream_pair::opened() {
+    patience_ = 0;
+    state_ = state::open;
+    raise(stream_side::input, STREAM_OPEN_COMPLETED);
+    raise(stream_side::output, STREAM_OPEN_COMPLETED);
+    raise(stream_side::output, STREAM_SPACE_AVAILABLE);
+}
+
+void serial_stream_pair::readable() {
+    if (state_ == state::asking)
+        return hear_answer();
+    if (bytes_announced_ || state_ != state::open)
+        return;
+    bytes_announced_ = true;
+    // At once: a turn of the event loop for every reply would cost much of the sampling rate.
+    loop_.from_event_loop(event(stream_side::input, STREAM_BYTES_AVAILABLE));
+}
+
+std::string serial_stream_pair::read(std::size_t most) {
+    bytes_announced_ = false;
+    std::string bytes = line_->read(most);
+    // What is left raises no signal of the line's: announce it here.
+    if (line_->more_to_read()) {
+        bytes_announced_ = true;
+        raise(stream_side::input, STREAM_BYTES_AVAILABLE);
+    } else if (state_ == state::ended) {
+        raise(stream_side::input, STREAM_END);
+    }
+    return bytes;
+}
+
+void serial_stream_pair::write(std::string_view bytes) {
+    if (state_ == state::open)
+        line_->write(bytes);
+}
+
+void serial_stream_pair::lost() {
+    if (state_ == state::asking)
+        return fail(line_->why_gone());
+    if (state_ != state::open)
+        return;
+    state_ = state::ended;
+    if (bytes_announced_)
+        return; // the end follows the last read
+    bytes_announced_ = line_->more_to_read();
+    raise(stream_side::input, bytes_announced_ ? STREAM_BYTES_AVAILABLE : STREAM_END);
+}
+
+void serial_stream_pair::fail(const serial_failure& why) {
+    loop_.cancel(patience_);
+    line_->close(); // whoever tries again opens it anew
+    state_ = state::closed;
+    error_ = problem_text(why, texts_, path_);
+    raise(stream_side::input, STREAM_ERROR);
+}
+
+void serial_stream_pair::close() {
+    alive_.reset();
+    handler_ = nullptr;
+    loop_.cancel(patience_);
+    line_->close();
+    state_ = state::closed;
+}
+
+void serial_stream_pair::raise(stream_side side, int event_code) {
+    loop_.after(run_loop::milliseconds(0), event(side, event_code));
+}
+
+std::function<void()> serial_stream_pair::event(stream_side side, int event_code) {
+    return [this, alive = std::weak_ptr<bool>(alive_), side, event_code] {
+        if (alive.expired())
+            return;
+        const event_handler call = handler_; // the pair may be replaced meanwhile
+        call(side, event_code);
+    };
+}

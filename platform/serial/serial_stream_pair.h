@@ -1,0 +1,59 @@
+// The stream pair over a serial port. It is open when an adapter has answered at a speed: at the
+// one that is given, else at the first of the usual ones.
+//
+// What is sent to find that out is no command. At a wrong speed it never reads as a carriage
+// return, so nothing is done there; at the right one it spoils what is half typed, and interrupts
+// what goes on, which the adapter answers with a prompt as well.
+#pragma once
+
+#include "run_loop.h"
+#include "serial_line.h"
+#include "stream_pair.h"
+
+#include <memory>
+#include <vector>
+
+class bundle;
+
+class serial_stream_pair final : public stream_pair {
+  public:
+    // `speed` 0: the usual ones are tried.
+    serial_stream_pair(run_loop& loop, const bundle& texts, std::unique_ptr<serial_line> line,
+                       std::string path, long speed);
+    ~serial_stream_pair() override { close(); }
+
+    void open(event_handler handler) override;
+    std::string read(std::size_t most) override;
+    void write(std::string_view bytes) override;
+    void close() override;
+    std::string error_description() const override { return error_; }
+
+  private:
+    enum class state { closed, asking, open, ended };
+
+    void try_next_speed();
+    void ask(std::size_t question);
+    void hear_answer();
+    void opened();
+    void readable();
+    void lost();
+    void fail(const serial_failure& why);
+    void raise(stream_side side, int event_code);
+    std::function<void()> event(stream_side side, int event_code);
+
+    run_loop& loop_;
+    const bundle& texts_;
+    std::unique_ptr<serial_line> line_;
+    std::string path_;
+    std::vector<long> speeds_;
+    std::size_t tried_ = 0;
+    std::string heard_; // since the last question
+    bool answered_ = false;
+    run_loop::timer_id patience_ = 0;
+    state state_ = state::closed;
+    bool bytes_announced_ = false;
+    event_handler handler_;
+    std::string error_;
+    // Scheduled events hold this weakly, so that a pair that is gone raises nothing.
+    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
+};

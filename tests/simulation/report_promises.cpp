@@ -1,0 +1,60 @@
+// What a report of the car promises, whatever happened while it was read.
+#include "promises.h"
+#include "report_screen.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr char NOTHING_INVENTED[] = "a report holds nothing that was not sent in answer to it";
+constexpr char NOTHING_LOST[] = "what came whole and in time of an answer stands in the report";
+
+std::string positive(std::string request) {
+    request[0] = static_cast<char>(request[0] + 4);
+    return request;
+}
+
+} // namespace
+
+// Once for each reading, when it has come to its end.
+void promises::report_is_true(const report_screen& screen) {
+    const car_report* report = screen.reading() ? nullptr : screen.report();
+    if (!report || report_checked_)
+        return;
+    report_checked_ = true;
+    app_.story.note("shown", "a report of " + std::to_string(report->heard.pieces.size()) +
+                                 " pieces, end " +
+                                 std::to_string(static_cast<int>(report->heard.end)));
+    for (const asked_piece& piece : report->heard.pieces)
+        if (!is_adapter_command(piece.request)) {
+            nothing_is_invented(piece);
+            nothing_is_lost(piece);
+        }
+}
+
+void promises::nothing_is_invented(const asked_piece& piece) {
+    for (const auto* told : {&piece.answers, &piece.refusals})
+        for (const unit_reply& one : *told)
+            app_.story.expect(app_.book.any_answer(piece.request, report_began_,
+                                                   [&](const answer_slot& slot) {
+                                                       return slot.command == piece.request &&
+                                                              (slot.tells(one.data) ||
+                                                               slot.holds_digits(one.data));
+                                                   }),
+                              NOTHING_INVENTED, piece.request + ": " + one.unit + " " + one.data);
+}
+
+// Of the last time that it was asked for.
+void promises::nothing_is_lost(const asked_piece& piece) {
+    const answer_slot* const slot = app_.book.asked(piece.request, app_.book.moment() + 1);
+    if (piece.timed_out || !slot || slot->written < report_began_ || !slot->sound() ||
+        !app_.book.in_time(*slot))
+        return;
+    for (const std::string& message : slot->messages())
+        app_.story.expect(!message.starts_with(positive(piece.request)) ||
+                              std::ranges::any_of(piece.answers,
+                                                  [&](const unit_reply& one) {
+                                                      return message.starts_with(one.data);
+                                                  }),
+                          NOTHING_LOST, piece.request + ": " + message);
+}

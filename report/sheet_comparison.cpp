@@ -87,7 +87,7 @@ class comparer {
     std::map<thing, two_states> states_;
 };
 
-// As far as both are told and nothing of them is hidden.
+// If both are reported and nothing of them is hidden.
 bool may_be_one(std::string_view before, std::string_view after) {
     return before.empty() || after.empty() ||
            std::ranges::equal(before, after, [](char one, char other) {

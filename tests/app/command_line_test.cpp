@@ -2,69 +2,25 @@
 #include "car_library.h"
 #include "command_line.h"
 #include "commands.h"
+#include "rows.h"
 #include "shell_fixture.h"
 
 #include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QJsonArray>
+#include <QTcpServer>
+#include <QTcpSocket>
 
 #include <gmock/gmock.h>
 
 namespace {
 
 TEST_F(shell, arguments_that_make_no_sense_end_with_2_and_a_reason) {
-    const std::vector<std::vector<std::string>> cases = {
-        {"fly"},
-        {"codes", "more"},
-        {"clear"},
-        {"send"},
-        {"send", ""},
-        {"send", std::string(39, '1')},
-        {"--nonsense"},
-        {"--adapter", "nowhere", "codes"},
-        {"--adapter", "127.0.0.1:99999", "codes"},
-        {"--adapter", "127.0.0.1:0", "codes"},
-        {"--adapter", "127.0.0.1:", "codes"},
-        {"--adapter", "::1:35123", "codes"},
-        {"--adapter", "[]:35123", "codes"},
-        {"--adapter", "[::1:35123", "codes"},
-        {"--adapter"},
-        {"--demo", "--adapter", "a:1", "codes"},
-        {"--screen", "garage"},
-        {"--timeout", "soon", "codes"},
-        {"--timeout", "0", "codes"},
-        {"--json"},
-        {"--json=1", "codes"},
-        {"live", "--cycles", "0"},
-        {"live", "--cycles=-1"},
-        {"live", "--run", "walk"},
-        {"live", "--pids", "0D,C"},
-        {"live", "--pids="},
-        {"live", "--pids", "0C,4F"}, // not decoded
-        {"live", "--run=fuel", "--pids=all"},
-        {"codes", "--pids=all"},
-        {"lookup"},
-        {"lookup", "--units", "P0301"},
-        {"live", "--run=fuel", "--pids=0D"},
-        {"--bluetooth", "OBDII", "codes"},
-        {"--bluetooth", "00:1D:A5:68:98", "codes"},
-        {"--bluetooth=00:1D:A5:68:98:8B", "--demo", "codes"},
-        {"bluetooth-scan", "now"},
-        {"live", "--cycles", "3", "--seconds", "3"},
-        {"codes", "--yes"},
-        {"--record", "t", "decode", "410C1AF8"},
-        {"--demo", "decode", "410C1AF8"},
-        {"--timeout", "3", "decode", "410C1AF8"},
-        {"--screen", "live", "codes"},
-        {"vin", "NO DATA", "--foo"},
-        {"export", "run.gol", "--pid", "0C"},
-        {"help", "fly"},
-        {"help", "codes", "clear"},
-        {"fly", "--help"}};
-    for (const auto& arguments : cases) {
+    for (const table_row& row : read_rows(KESTROM_TEST_DATA "/refused.rows")) {
+        const auto& arguments = row.fields;
         const outcome result = run(arguments);
-        EXPECT_EQ(result.status, 2) << arguments[0] << ": " << result.err;
+        EXPECT_EQ(result.status, 2) << row.place << ": " << result.err;
         EXPECT_NE(result.err.find("kestrom: "), std::string::npos) << result.err;
         EXPECT_THAT(result.err, testing::EndsWith(" --help'.\n")) << "or what lists the cars";
         EXPECT_EQ(result.out, "");
@@ -187,6 +143,17 @@ TEST_F(shell, a_link_that_fails_ends_with_1_and_the_reason) {
     }
 }
 
+TEST_F(shell, a_flood_without_a_prompt_ends_the_command) {
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    QObject::connect(&server, &QTcpServer::newConnection,
+                     [&] { server.nextPendingConnection()->write(QByteArray(200'000, 'x')); });
+    const std::string where = "127.0.0.1:" + std::to_string(server.serverPort());
+    const outcome result = run({"--adapter", where, "send", "AT I"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, testing::HasSubstr("no prompt within 64 KiB"));
+}
+
 TEST_F(shell, a_recording_is_made_beside_the_command_and_never_over_a_file) {
     const std::string talk = home.filePath(QStringLiteral("talk.jsonl")).toStdString();
     EXPECT_EQ(run({"--demo", "--record", talk, "send", "AT I"}).status, 0);
@@ -210,32 +177,6 @@ TEST_F(shell, every_command_has_help_with_an_example) {
         EXPECT_EQ(run({"help", name}).out, told.out);
         EXPECT_THAT(told.out, testing::HasSubstr("\n  kestrom "));
         EXPECT_THAT(told.out, testing::HasSubstr("Exit status"));
-    }
-}
-
-TEST_F(shell, replies_are_decoded_without_an_adapter) {
-    const struct {
-        std::vector<std::string> arguments;
-        int status;
-        const char* out;
-    } cases[] = {
-        {{"decode", "41 0C 1A F8", "NO DATA", "--units", "metric"},
-         1,
-         "1726.00 RPM\t1726\n~\tnan\n"},
-        {{"decode", "410564", "--units", "parsecs"}, 2, ""},
-        {{"decode"}, 2, ""},
-        {{"decode", "zz", "410564"},
-         1,
-         "~\tnan\n"
-         "140.00 ° F\t140\n"},
-        {{"vin", "490201000000 31\\r490202 47314A43\\r"}, 1, "1G1JC\n"},
-        {{"mode6", "16", "01F4"}, 0, "10.000000 ^C\n"},
-        {{"mode6", "16"}, 2, ""},
-    };
-    for (const auto& one : cases) {
-        const outcome result = run(one.arguments);
-        EXPECT_EQ(result.status, one.status) << result.err;
-        EXPECT_EQ(result.out, one.out);
     }
 }
 

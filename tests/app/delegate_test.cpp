@@ -25,6 +25,7 @@ TEST(settings_at_start, a_first_start_seeds_the_store) {
     EXPECT_TRUE(store.contains(KS_METRIC_UNITS_KEY) && store.contains(LOG_RUNS_KEY));
     EXPECT_FALSE(store.contains(KS_LAST_BT_KEY));
     EXPECT_EQ(g_connect_with, KS_USE_BT);
+    EXPECT_FALSE(g_metric_units || g_log_runs);
     EXPECT_EQ(g_cur_wifi_IP, "192.168.0.10");
     EXPECT_EQ(g_this_delta, 3);
     EXPECT_EQ(app.delegate->current_screen(), nullptr);
@@ -50,13 +51,18 @@ TEST(settings_at_start, stored_values_decide_the_transport) {
             store.set_integer(KS_INTERFACE_KEY, expected.stored);
             store.set_boolean(STREAM_IS_SERIAL_KEY, expected.serial);
             store.set_string(SERIAL_PORT_KEY, "/dev/ttyUSB7");
-            store.set_boolean(KS_METRIC_UNITS_KEY, true);
+            for (const char* key : {KS_METRIC_UNITS_KEY, LOG_RUNS_KEY})
+                store.set_boolean(key, true);
         });
         EXPECT_EQ(g_connect_with, expected.transport);
         EXPECT_EQ(g_cur_wifi_IP, expected.address);
         EXPECT_EQ(g_cur_serial_port, expected.port);
         EXPECT_EQ(chosen_transport().serial, *expected.port != 0);
-        EXPECT_TRUE(g_metric_units);
+        EXPECT_TRUE(g_metric_units && g_log_runs);
+        app.delegate->do_prefs(); // and leaving them keeps what was stored
+        app.delegate->do_expert();
+        EXPECT_TRUE(app.defaults.boolean(KS_METRIC_UNITS_KEY) &&
+                    app.defaults.boolean(LOG_RUNS_KEY));
     }
 }
 
@@ -128,6 +134,29 @@ TEST_F(link_over_tcp, a_serial_port_goes_the_same_way_and_tells_it_in_its_own_wo
     send("AT I");
     EXPECT_EQ(app.last_status(), "Trying: /dev/ttyUSB0:9600 ");
     EXPECT_EQ(app.wire().port, 9600);
+}
+
+TEST_F(link_over_tcp, what_is_to_begin_and_what_is_owed_end_with_their_connection) {
+    send("AT I");
+    scripted_stream_pair::raise(app.wire(), app.loop, STREAM_OPEN_COMPLETED);
+    app.loop.settle();
+    g_cur_wifi_port = "35001";
+    app.delegate->settings_left();
+    const auto told = app.statuses.size();
+    app.loop.advance(milliseconds(1500));
+    EXPECT_EQ(app.statuses.size(), told);
+    send("AT I");
+    app.connect();
+    EXPECT_TRUE(app.delegate->anything_outstanding());
+    expect_warning("Disconected");
+    scripted_stream_pair::raise(app.wire(), app.loop, STREAM_END);
+    app.loop.settle();
+    EXPECT_FALSE(app.delegate->anything_outstanding());
+    app.delegate->reconnect(); // and breaks again
+    scripted_stream_pair::raise(app.wire(), app.loop, STREAM_OPEN_COMPLETED);
+    scripted_stream_pair::raise(app.wire(), app.loop, STREAM_END);
+    app.loop.advance(milliseconds(1500));
+    EXPECT_EQ(app.last_status(), "Disconnected");
 }
 
 TEST_F(link_over_tcp, a_flood_without_line_ends_is_broken_into_lines) {

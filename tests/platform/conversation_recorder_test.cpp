@@ -21,7 +21,10 @@ class conversation_recorder_test : public testing::Test {
         file.readLine();
         return file.readAll().toStdString();
     }
-    std::optional<std::string> start() { return recorder.start(path.toStdString(), "1", "wifi"); }
+    std::optional<std::string> start() {
+        loop.advance(run_loop::milliseconds(5)); // times are counted from here
+        return recorder.start(path.toStdString(), "1", "wifi");
+    }
 
     QTemporaryDir folder;
     QString path = folder.filePath(QStringLiteral("talk.jsonl"));

@@ -1,5 +1,10 @@
+// The rules of every run loop, on the real one: what comes when, and that nothing comes under a
+// dialog.
+#include "qt_run_loop.h"
 #include "scripted_alerts.h"
-#include "virtual_run_loop.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
 
 #include <gtest/gtest.h>
 #include <string>
@@ -13,7 +18,22 @@ class run_loop_rules : public testing::Test {
     auto note(const char* what) {
         return [this, what] { log += what; };
     }
-    virtual_run_loop loop;
+    // Lets events come until the calls noted are these, or far too long has passed.
+    void expect_calls(const std::string& expected) {
+        QElapsedTimer clock;
+        clock.start();
+        while (log != expected && clock.elapsed() < 5'000)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+        EXPECT_EQ(log, expected);
+    }
+    // Events for so long, as a dialog's own loop lets them come.
+    static void let_pass(int milliseconds) {
+        QElapsedTimer clock;
+        clock.start();
+        while (clock.elapsed() < milliseconds)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    }
+    qt_run_loop loop;
     scripted_alerts messages{loop};
     std::string log;
 };
@@ -22,61 +42,43 @@ TEST_F(run_loop_rules, calls_come_when_due_in_order_and_never_inside_after) {
     loop.after(ms(20), note("b"));
     loop.after(ms(0), note("a"));
     loop.after(ms(20), note("c"));
+    const auto stopped = loop.after(ms(1), note("x"));
+    loop.cancel(stopped);
+    loop.cancel(stopped);
+    loop.cancel(0);
     EXPECT_EQ(log, "");
-    loop.advance(ms(19));
-    EXPECT_EQ(log, "a");
-    loop.advance(ms(1));
-    EXPECT_EQ(log, "abc");
+    expect_calls("abc");
     EXPECT_TRUE(loop.idle());
 }
 
-TEST_F(run_loop_rules, cancelled_calls_do_not_come) {
-    const auto id = loop.after(ms(5), note("x"));
-    loop.cancel(id);
-    loop.cancel(id);
-    loop.cancel(0);
-    loop.advance(ms(10));
-    EXPECT_EQ(log, "");
+TEST_F(run_loop_rules, an_earlier_deadline_comes_before_the_one_that_was_waited_for) {
+    loop.after(std::chrono::hours(1), note("late"));
+    loop.after(ms(1), note("early"));
+    expect_calls("early");
 }
 
-TEST_F(run_loop_rules, nothing_is_delivered_while_an_alert_is_open) {
-    messages.while_open = [this](const alert_request&) {
-        loop.advance(ms(100));
-        log += "|closed|";
+TEST_F(run_loop_rules, nothing_is_delivered_while_a_dialog_is_up) {
+    run_loop::timer_id timeout = 0;
+    messages.while_open = [&](const alert_request&) {
+        loop.from_event_loop(note("bytes"));
+        loop.after(ms(1), [&] {
+            log += "reply";
+            loop.cancel(timeout);
+        });
+        timeout = loop.after(ms(2), note("timeout"));
+        let_pass(10);
+        log += "|";
     };
-    loop.after(ms(10), [this] {
+    loop.after(ms(0), [this] {
         log += "[";
-        messages.show({.message = "hold"});
+        messages.show({.message = "in a delivery"});
         log += "]";
     });
-    loop.after(ms(20), note("reply"));
-    loop.after(ms(30), note("timer"));
-    loop.advance(ms(10));
-    EXPECT_EQ(log, "[|closed|]replytimer");
-}
-
-TEST_F(run_loop_rules, a_held_reply_that_stops_the_held_timeout_drops_it) {
-    run_loop::timer_id timeout = 0;
-    messages.while_open = [this](const alert_request&) { loop.advance(ms(100)); };
-    loop.after(ms(10), [this] { messages.show({.message = "hold"}); });
-    loop.after(ms(20), [&] {
-        log += "reply";
-        loop.cancel(timeout);
-    });
-    timeout = loop.after(ms(30), note("timeout"));
-    loop.advance(ms(200));
-    EXPECT_EQ(log, "reply");
-}
-
-TEST_F(run_loop_rules, an_alert_that_a_user_action_opened_holds_as_well) {
-    loop.after(ms(10), note("reply"));
-    messages.while_open = [this](const alert_request&) {
-        loop.advance(ms(50));
-        EXPECT_EQ(log, "");
-    };
+    expect_calls("[|]bytesreply");
+    log.clear();
     messages.show({.message = "a button's question"});
-    loop.settle();
-    EXPECT_EQ(log, "reply");
+    EXPECT_EQ(log, "|");
+    expect_calls("|bytesreply");
 }
 
 } // namespace

@@ -21,9 +21,11 @@ TEST_F(settings_file, values_keep_type_and_text_over_a_restart) {
     const std::string odd = "a, b; \"c\" = ä\\n [x] %00";
     {
         user_defaults store(path);
+        store.set_integer("number", 7);
         store.set_integer("number", -42);
         store.set_boolean("yes", true);
         store.set_boolean("no", false);
+        store.set_integer("one", 1);
         store.set_string("text", odd);
         store.set_string("empty", "");
         store.set_string_array("list", {"0D", "11"});
@@ -34,6 +36,7 @@ TEST_F(settings_file, values_keep_type_and_text_over_a_restart) {
     const user_defaults store(path);
     EXPECT_EQ(store.integer("number"), -42);
     EXPECT_TRUE(store.boolean("yes"));
+    EXPECT_TRUE(store.boolean("one"));
     EXPECT_FALSE(store.boolean("no"));
     EXPECT_TRUE(store.contains("no"));
     EXPECT_EQ(store.string("text"), odd);

@@ -1,6 +1,7 @@
 // How each piece ends, as the sheet says it: a value, none, not told, refused, or not readable. The
 // car has one unit and answers what a row says; to all else there is no data.
 #include "report_fixture.h"
+#include "rows.h"
 #include "sheet.h"
 #include "text.h"
 
@@ -54,49 +55,16 @@ class one_unit {
     mac_toolies toolies{{&resources, &store, nullptr, nullptr, folder.path().toStdString()}};
 };
 
-struct piece_row {
-    const char* name;
-    const char* request;
-    const char* reply; // null: none in time
-    const char* said;
-    const char* fact = "permanent: not told";
-};
-const piece_row ROWS[] = {
-    {"no data", "0A", "NO DATA", "Permanent codes: not told"},
-    {"none", "0A", "7E8 02 4A 00", "Permanent codes: none", "permanent: 0"},
-    {"a code", "0A", "7E8 04 4A 01 20 02", "P2002", "permanent: 1"},
-    {"refused", "0A", "7E8 03 7F 0A 11", "Permanent codes: refused (7F 0A 11)"},
-    {"put off and answered", "0A", "7E8 03 7F 0A 78\r7E8 04 4A 01 20 02", "P2002", "permanent: 1"},
-    {"put off for good", "0A", "7E8 03 7F 0A 78", "Permanent codes: could not be read"},
-    {"a late list of other codes", "0A", "7E8 02 47 00\r7E8 02 4A 00",
-     "Permanent codes: a part of it could not be read", "permanent: none, as far as told"},
-    {"a late answer to another request", "0A", "7E8 06 41 01 81 07 00 00\r7E8 02 4A 00",
-     "Permanent codes: none", "permanent: 0"},
-    {"only the late answer", "0A", "7E8 06 41 01 81 07 00 00", "Permanent codes: not told"},
-    {"an error of the bus", "0A", "CAN ERROR", "Permanent codes: could not be read"},
-    {"a damaged line", "0A", "7E8 04 4A 01 20 <DATA ERROR", "Permanent codes: could not be read"},
-    {"fewer codes than counted", "0A", "7E8 04 4A 02 20 02",
-     "Permanent codes: a part of it could not be read", "permanent: at least 1"},
-    {"no reply in time", "0A", nullptr, "no reply in time"},
-    {"fill behind the answer", "0A", "7E8 04 4A 01 20 02 AA AA AA", "P2002", "permanent: 1"},
-    {"a count that its list contradicts", "03", "7E8 06 43 02 03 01 04 20",
-     "its status counts 1 stored codes, its list holds 2"},
-    {"a number with bytes that are no text", "0902",
-     "7E8 10 14 49 02 01 57 4B 45\r7E8 21 00 01 02 FF 54 31 36\r7E8 22 41 35 42 34 31 31 32",
-     "(not a standard number: 490201574B45000102FF"},
-    {"a long answer without its end", "0902", "7E8 10 14 49 02 01 57 4B 45", "VIN"},
-};
-
 TEST(sheet, tells_how_each_piece_ended) {
-    for (const piece_row& row : ROWS) {
-        SCOPED_TRACE(row.name);
+    for (const table_row& row : read_rows(KESTROM_TEST_DATA "/pieces.rows")) {
+        SCOPED_TRACE(row.place);
         one_unit car;
-        car.door.replies[row.request] = row.reply;
+        car.door.replies[row.fields[0]] = row.fields[1] == "-" ? nullptr : row.fields[1].c_str();
         const car_report report = car.read();
         EXPECT_EQ(report.heard.end, reading_end::complete);
         const std::string text = car.text(report);
-        EXPECT_TRUE(contains(text, row.said)) << text;
-        EXPECT_TRUE(contains(text, row.fact)) << text;
+        EXPECT_TRUE(contains(text, row.fields[2])) << text;
+        EXPECT_TRUE(contains(text, row.fields[3])) << text;
         EXPECT_TRUE(contains(text, "P0301")) << text; // a piece that fails voids nothing
     }
 }

@@ -262,36 +262,4 @@ TEST(live_runs, stop_at_any_moment_and_start_again) {
         }
 }
 
-// What lost or gained bytes on the way would read as another value; a frame's filling is none.
-TEST(live_answers, count_only_whole) {
-    const struct {
-        const char* reply;
-        const char* answer;
-    } cases[] = {{"410C1AF8", "410C1AF8"},
-                 {"410d64", "410d64"},
-                 {"410C1A", ""},
-                 {"410C1AF", ""},
-                 {"410D6400", ""},
-                 {"410D", ""},
-                 {"410C1A<DATAERROR", ""},
-                 {"2410D64", ""},
-                 {"41158F", ""},
-                 {"41A10102", "41A10102"},
-                 {"410D24AAAAAAAA", "410D24"},
-                 {"410D24AAAAAAA5", ""},
-                 {"410D24AAAA", ""},
-                 {"41068090", "410680"},
-                 {"4106", ""},
-                 {"", ""},
-                 // Headers that stay on.
-                 {"7E804410C1AF8", "410C1AF8"},
-                 {"7E803410D64AAAAAAAA", "410D64"},
-                 {"7E8034106A80", ""},
-                 {"18DAF110034111118DAF1100341052F", ""},
-                 {"486B10410D6475", "410D64"},
-                 {"486B10410D6474", ""}};
-    for (const auto& c : cases)
-        EXPECT_EQ(answer_in(c.reply), c.answer) << c.reply;
-}
-
 } // namespace

@@ -188,6 +188,7 @@ TEST_F(preferences, another_port_closes_the_link_and_greets_the_new_adapter_anew
     EXPECT_EQ(app.wires[0]->closes, 1);
     app.delegate->openInterfaceConnection();
     EXPECT_EQ(app.wire().port, 35001);
+    EXPECT_EQ(app.defaults.string(WIFI_PORT_KEY), "35001");
 }
 
 class console : public testing::Test {
@@ -238,9 +239,12 @@ TEST_F(console, chunks_are_shown_as_they_come_and_never_as_rich_text) {
     EXPECT_TRUE(app.find("waity")->isHidden());
     app.receive(std::string("\xff\x01\0y\r\r>", 7));
     EXPECT_EQ(transcript(), "<b>AT</b>\n<i>x</i>\n\xEF\xBF\xBD  y\n\n>");
+    for (const char* piece : {"x\r", "\ny"}) // and a line end
+        app.receive(piece);
+    EXPECT_TRUE(transcript().ends_with(">x\ny")) << transcript();
     for (const char* piece : {"\xE2", "\x82", "\xAC\xC3", "\xA4\r>"}) // letters in pieces
         app.receive(piece);
-    EXPECT_TRUE(transcript().ends_with("\n\n>\xE2\x82\xAC\xC3\xA4\n>")) << transcript();
+    EXPECT_TRUE(transcript().ends_with("x\ny\xE2\x82\xAC\xC3\xA4\n>")) << transcript();
 }
 
 TEST_F(console, up_and_down_bring_earlier_commands_back) {

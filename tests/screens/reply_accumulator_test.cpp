@@ -76,6 +76,7 @@ TEST(reply_ledger, knows_what_is_owed) {
         {"two asked, one answered", "ss", {"A>"}, true, false},
         {"two asked, both answered at once", "ss", {"A\r\r>B\r\r>"}, false, false},
         {"an answer to something else", "sm", {"A>"}, true, false},
+        {"begun behind another, its prompt before a third", "ss", {"A>B", ">C"}, false, false},
     };
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
@@ -88,6 +89,17 @@ TEST(reply_ledger, knows_what_is_owed) {
             ledger.received(chunk, NOW);
         EXPECT_EQ(ledger.owes(), one.owes);
         EXPECT_EQ(ledger.awaited_since().count() != 0, one.awaited);
+    }
+}
+
+TEST(reply_ledger, a_sign_of_life_ends_the_stall_and_a_zero_byte_is_none) {
+    using std::chrono::seconds;
+    for (const auto& [chunk, stalled] :
+         {std::pair{std::string("4"), false}, {std::string(1, '\0'), true}}) {
+        reply_ledger ledger;
+        ledger.command_left(seconds(1));
+        ledger.received(chunk, seconds(5));
+        EXPECT_EQ(ledger.stalled_since(seconds(8)).count() != 0, stalled) << chunk;
     }
 }
 

@@ -14,14 +14,22 @@ struct timed_chunk {
     bool operator==(const timed_chunk&) const = default;
 };
 
+// What a conversation is held with.
+struct adapter_scene {
+    std::string car_name = "can11";
+    std::vector<std::string> faults{};
+    std::optional<long> latency = 0; // none: as long as on the genuine bus
+    std::uint64_t seed = 1;
+    std::string protocol{};
+    int baud = 0, round_trip = 0;
+};
+
 class adapter_harness {
   public:
     using milliseconds = std::chrono::milliseconds;
 
-    explicit adapter_harness(const std::string& car_name = "can11",
-                             std::vector<std::string> faults = {}, std::optional<long> latency = 0,
-                             std::uint64_t seed = 1)
-        : the_car(load_car(car_name)), adapter(the_car, options(faults, latency, seed)) {
+    explicit adapter_harness(const adapter_scene& scene = {})
+        : the_car(load_car(scene.car_name)), adapter(in_place(scene), options(scene)) {
         adapter.connection_opened(now);
     }
 
@@ -54,16 +62,22 @@ class adapter_harness {
     milliseconds now{0};
 
   private:
-    static adapter_options options(const std::vector<std::string>& names,
-                                   std::optional<long> latency, std::uint64_t seed) {
+    car& in_place(const adapter_scene& scene) {
+        if (!scene.protocol.empty())
+            change_protocol(the_car, *protocol_named(scene.protocol));
+        return the_car;
+    }
+    static adapter_options options(const adapter_scene& scene) {
         std::vector<fault> faults;
-        for (const std::string& name : names)
+        for (const std::string& name : scene.faults)
             faults.push_back(parse_fault(name));
         adapter_options made;
         made.faults = fault_set(faults);
-        made.seed = seed;
-        if (latency)
-            made.latency = milliseconds(*latency);
+        made.seed = scene.seed;
+        if (scene.latency)
+            made.latency = milliseconds(*scene.latency);
+        made.baud = scene.baud;
+        made.round_trip = milliseconds(scene.round_trip);
         return made;
     }
 };

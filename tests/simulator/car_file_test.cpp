@@ -2,6 +2,7 @@
 #include "adapter_harness.h"
 #include "car_library.h"
 #include "car_truth.h"
+#include "rows.h"
 #include "standard_values.h"
 
 #include <gtest/gtest.h>
@@ -24,64 +25,31 @@ constexpr char GOOD[] = R"({
 }
 )";
 
-std::string with(const std::string& from, const std::string& to) {
-    std::string text = GOOD;
-    const std::size_t at = text.find(from);
-    EXPECT_NE(at, std::string::npos) << from;
-    return text.replace(at, from.size(), to);
+void expect_refused(const std::string& text, int line, const std::string& reason) {
+    try {
+        read_car(text, "some/car.json");
+        ADD_FAILURE() << "accepted";
+    } catch (const car_file_error& error) {
+        EXPECT_EQ(error.line(), line) << error.what();
+        EXPECT_EQ(std::string(error.what()).find("some/car.json:" + std::to_string(line) + ": "),
+                  0u);
+        EXPECT_NE(error.reason().find(reason), std::string::npos) << error.what();
+    }
 }
 
 TEST(car_file_test, a_broken_file_is_named_with_line_and_reason) {
-    struct row {
-        const char* name;
-        std::string text;
-        int line;
-        const char* reason; // part of it
-    };
-    const row rows[] = {
-        {"empty", "", 1, "syntax error"},
-        {"no comma", with("\"can_11_500\",", "\"can_11_500\""), 4, "syntax error"},
-        {"cut off", std::string(GOOD).substr(0, 90), 5, "syntax error"},
-        {"name twice", with("\"title\": \"a car\",", "\"title\": \"a car\",\n\"title\": \"b\","), 3,
-         "\"title\" stands twice"},
-        {"too deep", std::string(1000000, '['), 1, "nested too deeply"},
-        {"no object", "[1]", 1, "must be of type object"},
-        {"member missing", with("\"engine\": { \"fuel\": \"petrol\" },", ""), 1,
-         "lacks \"engine\""},
-        {"unknown member", with("\"stored\"", "\"sotred\""), 10,
-         "units[0].sotred is not a known name"},
-        {"wrong type", with("\"7E8\"", "2024"), 8,
-         "units[0].address must be of type string, not number"},
-        {"unknown protocol", with("can_11_500", "can_12"), 3, "not one of j1850_pwm"},
-        {"no code", with("P0301", "P4301"), 10, "units[0].stored[0] is \"P4301\""},
-        {"address of another bus", with("7E8", "10"), 8, "does not fit can_11_500"},
-        {"PID without value", with("0C 0D", "0C FE"), 9, "PID FE has no value"},
-        {"PID twice", with("0C 0D", "0D 0D"), 9, "PID 0D stands twice"},
-        {"short value", with("\"stored\"", "\"fixed\": { \"0C\": \"01\" },\n\"stored\""), 10,
-         "PID 0C has 2 bytes, not 1"},
-        {"monitor of the other engine",
-         with("\"stored\"", "\"readiness\": {\n\"complete\": "
-                            "[\"misfire\",\n\"particulate_filter\"] }, \"stored\""),
-         12, "a spark-ignition engine has no monitor \"particulate_filter\""},
-        {"number out of range", with("\"petrol\"", "\"petrol\",\n\"mass_kg\": 20\n"), 5,
-         "engine.mass_kg is 20, below"},
-        {"VIN with a letter O",
-         with("\"protocol\"", "\"vin\": \"WKEOT16A5B4112230\",\n\"protocol\""), 3, "vin is"},
-        {"text behind the end", std::string(GOOD) + "x", 14, "syntax error"},
-    };
-    for (const row& r : rows) {
-        try {
-            read_car(r.text, "some/car.json");
-            ADD_FAILURE() << r.name << ": accepted";
-        } catch (const car_file_error& error) {
-            EXPECT_EQ(error.line(), r.line) << r.name << ": " << error.what();
-            EXPECT_EQ(
-                std::string(error.what()).find("some/car.json:" + std::to_string(r.line) + ": "),
-                0u)
-                << r.name;
-            EXPECT_NE(error.reason().find(r.reason), std::string::npos)
-                << r.name << ": " << error.what();
-        }
+    const std::string good = GOOD;
+    expect_refused("", 1, "syntax error");
+    expect_refused(good.substr(0, 90), 5, "syntax error");
+    expect_refused(std::string(1000000, '['), 1, "nested too deeply");
+    expect_refused("[1]", 1, "must be of type object");
+    expect_refused(good + "x", 14, "syntax error");
+    for (const table_row& row : read_rows(KESTROM_TEST_DATA "/broken_cars.rows")) {
+        SCOPED_TRACE(row.place);
+        std::string text = good;
+        ASSERT_NE(text.find(row.fields[0]), std::string::npos);
+        text.replace(text.find(row.fields[0]), row.fields[0].size(), row.fields[1]);
+        expect_refused(text, std::stoi(row.fields[2]), row.fields[3]);
     }
     EXPECT_EQ(read_car(GOOD, "some/car.json").name, "car");
 }
@@ -104,7 +72,7 @@ TEST(car_file_test, cars_of_the_shelf_answer_their_codes_and_supported_values) {
     EXPECT_GE(names.size(), 12u);
     std::set<int> buses;
     for (const std::string& name : names) {
-        adapter_harness car(name);
+        adapter_harness car({.car_name = name});
         buses.insert(car.the_car.protocol);
         car.say("AT E0");
         car.say("01 00");
@@ -129,7 +97,7 @@ TEST(car_file_test, cars_of_the_shelf_answer_their_codes_and_supported_values) {
 
 TEST(car_file_test, a_car_can_be_moved_to_any_bus) {
     for (const bus_protocol& bus : bus_protocols()) {
-        adapter_harness car("three_units");
+        adapter_harness car({.car_name = "three_units"});
         change_protocol(car.the_car, bus);
         car.say("AT E0");
         EXPECT_NE(

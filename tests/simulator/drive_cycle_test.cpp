@@ -1,7 +1,6 @@
 // The drive is a drive: values agree with each other, and the fuel burnt is what such a car burns.
 #include "car_library.h"
 #include "drive_cycle.h"
-#include "live_values.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -103,24 +102,6 @@ TEST(drive_cycle_test, the_drive_depends_on_the_seed_and_not_on_when_it_is_looke
     EXPECT_NE(often.at(900).distance_km, other.at(900).distance_km);
     EXPECT_EQ(often.at(3).seconds, 900); // time does not run backwards
     EXPECT_EQ(often.at(std::nan("")).seconds, 900);
-}
-
-TEST(live_values_test, bytes_are_those_of_the_standard) {
-    car_moment m;
-    m.engine.rpm = 1726;
-    m.engine.speed_kmh = 100.4;
-    m.engine.coolant_celsius = 83;
-    m.engine.air_gram_s = 1000; // beyond the scale
-    m.engine.short_trim = -100.8;
-    m.engine.intake_celsius = std::nan("");
-    m.engine.oxygen_volts = 0.45;
-    EXPECT_EQ(live_value(0x0C, m), (byte_string{0x1A, 0xF8}));
-    EXPECT_EQ(live_value(0x0D, m), (byte_string{100}));
-    EXPECT_EQ(live_value(0x05, m), (byte_string{0x7B}));
-    EXPECT_EQ(live_value(0x10, m), (byte_string{0xFF, 0xFF}));
-    EXPECT_EQ(live_value(0x06, m), (byte_string{0}));
-    EXPECT_EQ(live_value(0x0F, m), (byte_string{0}));
-    EXPECT_EQ(live_value(0x14, m), (byte_string{90, 0}));
 }
 
 } // namespace

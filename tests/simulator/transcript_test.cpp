@@ -1,61 +1,27 @@
 // Conversations with the adapter, as the chip's data sheet has them, one file per bus and subject:
-//   car NAME / protocol NAME / fault NAME[=V]   set the scene
-//   > COMMAND                                   what is typed, a carriage return behind it
-//   anything else                               a line that comes back
-// Blank lines and NUL bytes that come back are left out; "#" begins a comment.
-#include "car_library.h"
-#include "virtual_adapter.h"
+//   car NAME                     begins a scene; what follows sets it
+//   protocol NAME, fault NAME[=V], timing genuine, timing MS, baud N, round_trip MS
+//   > COMMAND                    what is typed, a carriage return behind it; below it a line each
+//   that
+//                                comes back (blank lines and NUL bytes are left out), or
+//   = TEXT                       all of it to the letter, with "\r" and the like, or
+//   @MS TEXT                     its pieces, each at its time, or
+//   lines N, takes MS[..MS]      how many lines, how long until the last piece
+//   ! COMMAND                    typed, whatever comes back
+//   type BYTES, wait MS          typed without looking, and time that passes; "clock MS" sets the
+//   time reconnect, closed            the connection begins anew; the adapter wants it closed
+#include "adapter_harness.h"
+#include "rows.h"
 
-#include <filesystem>
-#include <fstream>
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <memory>
 
 namespace {
 
 using std::chrono::milliseconds;
 
-struct exchange {
-    int line = 0;
-    std::string command;
-    std::string reply; // lines parted by "\n"
-};
-
-struct transcript {
-    std::string car_name = "can11";
-    std::string protocol;
-    std::vector<fault> faults;
-    std::vector<exchange> exchanges;
-};
-
-transcript read_transcript(const std::string& path) {
-    transcript read;
-    std::ifstream file(path);
-    std::string line;
-    for (int number = 1; std::getline(file, line); ++number) {
-        if (line.empty() || line[0] == '#')
-            continue;
-        if (line.starts_with("car "))
-            read.car_name = line.substr(4);
-        else if (line.starts_with("protocol "))
-            read.protocol = line.substr(9);
-        else if (line.starts_with("fault "))
-            read.faults.push_back(parse_fault(line.substr(6)));
-        else if (line.starts_with("> "))
-            read.exchanges.push_back({number, line.substr(2), {}});
-        else if (line == ">")
-            read.exchanges.push_back({number, "", {}});
-        else
-            read.exchanges.back().reply += line + "\n";
-    }
-    return read;
-}
-
-// The reply without its closing blank line and prompt; every line ends in "\n".
-std::string told(virtual_adapter& adapter, const std::string& command) {
-    adapter.receive(command + "\r", milliseconds(0));
-    std::string text;
-    while (adapter.next_output())
-        text += adapter.take_output(*adapter.next_output());
+std::string visible_lines(const std::string& text) {
     EXPECT_TRUE(text.ends_with("\r>")) << text;
     std::string lines;
     for (const char c : text.substr(0, text.size() - 2))
@@ -64,33 +30,121 @@ std::string told(virtual_adapter& adapter, const std::string& command) {
     return lines;
 }
 
-class transcript_test : public testing::TestWithParam<std::string> {};
+class transcript_test : public testing::TestWithParam<std::string> {
+  protected:
+    void take(const std::string& line) {
+        const std::size_t blank = std::min(line.find(' '), line.size());
+        const std::string word = line.substr(0, blank);
+        const std::string rest = line.substr(std::min(blank + 1, line.size()));
+        if (!prepare(word, rest) && !act(word, rest) && !expect(word, rest))
+            lines_ += line + "\n";
+    }
+    // Looks at the reply so far.
+    void finish() {
+        if (!lines_.empty() || unseen_) {
+            EXPECT_EQ(visible_lines(adapter_harness::joined(came_)), lines_);
+        }
+        if (!pieces_.empty()) {
+            EXPECT_EQ(came_, pieces_);
+        }
+        lines_.clear();
+        pieces_.clear();
+        unseen_ = false;
+    }
 
-std::vector<std::string> transcript_files() {
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(KESTROM_TEST_DATA))
-        if (entry.path().extension() == ".txt")
-            names.push_back(entry.path().stem().string());
-    return names;
-}
+  private:
+    bool prepare(const std::string& word, const std::string& rest) {
+        if (word == "car") {
+            harness_.reset();
+            scene_ = {};
+            scene_.car_name = rest;
+            scene_.latency = 0;
+        } else if (word == "protocol") {
+            scene_.protocol = rest;
+        } else if (word == "fault") {
+            scene_.faults.push_back(rest);
+        } else if (word == "timing") {
+            scene_.latency = rest == "genuine" ? std::nullopt : std::optional(std::stol(rest));
+        } else if (word == "baud") {
+            scene_.baud = std::stoi(rest);
+        } else if (word == "round_trip") {
+            scene_.round_trip = std::stoi(rest);
+        } else {
+            return false;
+        }
+        return true;
+    }
+    bool act(const std::string& word, const std::string& rest) {
+        if (word == ">" || word == "!") {
+            finish();
+            began_ = adapter().now.count();
+            came_ = adapter().chunks(plain_field(rest) + "\r");
+            unseen_ = word == ">";
+        } else if (word == "read") {
+            finish();
+            came_ = adapter().run_until(milliseconds(1'000'000'000));
+        } else if (word == "type") {
+            adapter().adapter.receive(plain_field(rest), adapter().now);
+        } else if (word == "wait") {
+            adapter().now += milliseconds(std::stol(rest));
+        } else if (word == "clock") {
+            adapter().now = milliseconds(std::stol(rest));
+        } else if (word == "reconnect") {
+            adapter().adapter.connection_opened(adapter().now);
+        } else {
+            return false;
+        }
+        return true;
+    }
+    bool expect(const std::string& word, const std::string& rest) {
+        const bool known = word == "=" || word == "lines" || word == "takes" || word == "closed";
+        if (word == "=") {
+            EXPECT_EQ(adapter_harness::joined(came_), plain_field(rest));
+        } else if (word == "lines") {
+            EXPECT_EQ(std::ranges::count(visible_lines(adapter_harness::joined(came_)), '\n'),
+                      std::stol(rest));
+        } else if (word == "takes") {
+            const long took = came_.empty() ? 0 : came_.back().at - began_;
+            const std::size_t dots = rest.find("..");
+            EXPECT_GE(took, std::stol(rest));
+            EXPECT_LE(took, std::stol(dots == rest.npos ? rest : rest.substr(dots + 2)));
+        } else if (word == "closed") {
+            EXPECT_TRUE(adapter().adapter.wants_close(adapter().now));
+        } else if (word.starts_with("@")) {
+            pieces_.push_back({std::stol(word.substr(1)), plain_field(rest)});
+        }
+        unseen_ = unseen_ && !known && !word.starts_with("@");
+        return known || word.starts_with("@");
+    }
+    adapter_harness& adapter() {
+        if (!harness_)
+            harness_ = std::make_unique<adapter_harness>(scene_);
+        return *harness_;
+    }
+
+    adapter_scene scene_;
+    std::unique_ptr<adapter_harness> harness_;
+    std::vector<timed_chunk> came_, pieces_;
+    std::string lines_;
+    long began_ = 0;
+    bool unseen_ = false; // a reply that nothing has been said about
+};
 
 TEST_P(transcript_test, adapter_answers_as_written) {
-    const transcript written =
-        read_transcript(std::string(KESTROM_TEST_DATA "/") + GetParam() + ".txt");
-    ASSERT_FALSE(written.exchanges.empty());
-    car the_car = load_car(written.car_name);
-    if (!written.protocol.empty())
-        change_protocol(the_car, *protocol_named(written.protocol));
-    adapter_options options;
-    options.latency = milliseconds(0);
-    options.faults = fault_set(written.faults);
-    virtual_adapter adapter(the_car, options);
-    for (const exchange& one : written.exchanges)
-        EXPECT_EQ(told(adapter, one.command), one.reply)
-            << GetParam() << ".txt:" << one.line << ": " << one.command;
+    std::ifstream file(KESTROM_TEST_DATA "/" + GetParam() + ".txt");
+    ASSERT_TRUE(file);
+    std::string line;
+    take("car can11");
+    for (int number = 1; std::getline(file, line); ++number) {
+        SCOPED_TRACE(GetParam() + ".txt:" + std::to_string(number));
+        if (!line.empty() && line[0] != '#')
+            take(line);
+    }
+    finish();
 }
 
-INSTANTIATE_TEST_SUITE_P(all, transcript_test, testing::ValuesIn(transcript_files()),
+INSTANTIATE_TEST_SUITE_P(all, transcript_test,
+                         testing::ValuesIn(files_in(KESTROM_TEST_DATA, ".txt")),
                          [](const auto& name) { return name.param; });
 
 } // namespace

@@ -46,5 +46,5 @@ class answering_server {
     loopback_server server_;
 };
 
-// A client as bare as can be: writes the command, reads up to the prompt. Exchanges a second.
+// A minimal client: writes the command, reads up to the prompt. Returns exchanges per second.
 double bare_exchanges_a_second(int port, std::chrono::milliseconds span);

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr std::size_t ROUNDS = 50; // of asking for every parameter
+constexpr std::size_t ROUNDS = 50; // of requesting every parameter
 
 // What a drive asks for: the usual parameters with moving values, as the sampling loop hands them
 // on; now and then the car does not answer.

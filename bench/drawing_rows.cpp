@@ -65,7 +65,7 @@ struct drawing_bench {
     mac_toolies decoder{doors};
     std::map<std::pair<std::size_t, data>, sample_rows> runs;
 
-    // The same rows for every benchmark that asks for so many.
+    // The same rows for every benchmark of that size.
     const sample_rows& rows(std::size_t count, data kind) {
         const auto [found, made] = runs.try_emplace({count, kind}, PIDS.size());
         if (made)

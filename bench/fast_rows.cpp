@@ -23,7 +23,7 @@ struct scene {
     bool can;
     std::vector<std::string> pids;
     int baud;
-    // Fast against the peer's way; 0: told only.
+    // Fast against the peer's way; 0: reported only.
     double target;
 };
 

@@ -1,5 +1,5 @@
-// The yardstick of fast sampling: what a widely used library does. One parameter a request, headers
-// on, and behind each request the number of frames of the first answer to it.
+// The yardstick of fast sampling: what a widely used library does. One parameter per request,
+// headers on, and after each request the number of frames of its first answer.
 #pragma once
 
 #include <chrono>

@@ -38,7 +38,7 @@ class ratio_table {
     void add_figure(const std::string& what, std::function<double()> measure, reach kind,
                     double target);
 
-    // What is told without a target.
+    // Printed without a target.
     void add_remark(const std::string& what, std::function<std::string()> tell);
 
     // Prints what ran and returns whether every target was met.

@@ -1,4 +1,4 @@
-// Reply accumulation: the chunks are parted by "|".
+// Reply accumulation: the chunks are separated by "|".
 #include "fuzz_one.h"
 #include "globalVars.h"
 #include "reply_accumulator.h"
@@ -23,7 +23,7 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
     reset_global_vars();
     for (const std::string_view chunk : split(as_text(bytes), "|"))
         take(chunk);
-    // Whatever came before, the next reply is complete and stands at the end.
+    // Whatever came before, the next reply is complete and at the end.
     take("41 0C 1A F8\r\r>");
     REQUIRE(odb_curReplyMsg.ends_with("41 0C 1A F8\r\r>"));
     REQUIRE(odb_curReplyBuffyMsg.empty());

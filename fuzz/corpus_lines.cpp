@@ -23,7 +23,7 @@ std::string escaped(char byte, bool last) {
     return {'\\', 'x', DIGITS[value / 16], DIGITS[value % 16]};
 }
 
-// What the rest of a line behind a backslash begins with; no byte when that is no escape.
+// The byte of the escape that follows a backslash; nothing if it is not an escape.
 std::pair<std::optional<char>, std::size_t> escape_at(std::string_view rest) {
     for (const auto& [name, meant] : NAMED)
         if (rest.starts_with(name))

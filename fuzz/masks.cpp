@@ -35,7 +35,7 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
         for (int i = 0; i < 4; ++i) {
             const std::string_view mask = masks[i];
             REQUIRE(mask.empty() || (i == group && i < 3 && mask.size() == 8));
-            REQUIRE(contains(bare, mask)); // what the car sent, in capitals, not put together
+            REQUIRE(contains(bare, mask)); // what the car sent, in capitals, not assembled
             if (!mask.empty())
                 check_bits(mask, i);
         }

@@ -1,4 +1,4 @@
-// Test results: a unit identifier and a value, parted by a blank; then names of identifiers.
+// Test results: a unit identifier and a value, separated by a blank; then names of identifiers.
 #include "fuzz_one.h"
 #include "fuzz_toolkit.h"
 #include "text.h"

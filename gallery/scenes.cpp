@@ -99,7 +99,7 @@ void stalled_run(stage& on) {
     run(on, 0, 30);
     static_cast<stall_hint*>(on.app.find("stallHint"))->refresh();
 }
-// A file stands where the folder of logs should be.
+// A file is in place of the log folder.
 void log_failed(stage& on) {
     const std::filesystem::path folder = mac_toolies::sharedManager().log_folder();
     std::filesystem::create_directories(folder.parent_path().parent_path());

@@ -14,8 +14,7 @@ constexpr std::size_t SHOWN = 11, HIDDEN = 6;
 constexpr std::string_view STAR = "2A";
 constexpr std::string_view STARS = "******", STARS_IN_HEX = "2A2A2A2A2A2A";
 
-// The characters that a unit told, in their order: where each one's digits stand. Zeros are
-// padding.
+// The characters that a unit sent, in order: the position of their digits. Zeros are padding.
 using characters = std::vector<std::pair<std::string*, std::size_t>>;
 
 characters told_by(asked_piece& piece, const std::string& unit) {

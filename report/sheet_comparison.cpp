@@ -87,7 +87,7 @@ class comparer {
     std::map<thing, two_states> states_;
 };
 
-// As far as both are told and nothing of them is hidden.
+// Whether both may be the same number, ignoring missing and hidden characters.
 bool may_be_one(std::string_view before, std::string_view after) {
     return before.empty() || after.empty() ||
            std::ranges::equal(before, after, [](char one, char other) {

@@ -112,7 +112,8 @@ class Ks_lite_delegate {
     // although a reply is awaited.
     bool link_in_doubt() const;
     reply_ledger& replies() { return ledger_; }
-    // What is told where the link could not begin to open and no event will say why; else empty.
+    // The reason if the link could not even begin to open, so that no event will report it; else
+    // empty.
     std::string advice() const;
 
     // Operations of the table of transports.

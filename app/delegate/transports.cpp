@@ -32,7 +32,7 @@ stream_address serial_address() {
     return {g_cur_serial_port, g_cur_serial_speed, shown, shown};
 }
 
-// The address of a Wi-Fi adapter is not read in this case, on purpose.
+// Deliberately does not read the address of a Wi-Fi adapter.
 void load_nothing(const user_defaults&) {}
 
 void load_wifi(const user_defaults& store) {

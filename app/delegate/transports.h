@@ -1,5 +1,5 @@
-// The ways to an adapter, a row each. What tells one from another is asked here; nobody else asks
-// which it is.
+// The transports, a row each, with everything that differs between them; no other code asks which
+// one it is.
 #pragma once
 
 #include "stream_pair.h"

@@ -16,14 +16,15 @@ serial_failure qt_serial_line::open(const std::string& path, listener told) {
     port_.setPortName(QString::fromStdString(path));
     port_.setReadBufferSize(READ_BUFFER);
     if (!port_.open(QIODevice::ReadWrite)) {
-        if (port_.error() == QSerialPort::PermissionError) // for nobody: the file may be used
+        if (port_.error() ==
+            QSerialPort::PermissionError) // not for lack of permission: the file is accessible
             return {serial_problem::busy};
         return {serial_problem::other, port_.errorString().toStdString()};
     }
     told_ = std::move(told);
     connect(&port_, &QSerialPort::readyRead, this, [this] { told_.readable(); });
     connect(&port_, &QSerialPort::errorOccurred, this, &qt_serial_line::failed,
-            Qt::QueuedConnection); // one comes from inside an operation
+            Qt::QueuedConnection); // may be emitted inside an operation
     return {};
 }
 
@@ -49,13 +50,13 @@ bool qt_serial_line::more_to_read() const {
 void qt_serial_line::write(std::string_view bytes) {
     if (!port_.isOpen())
         return;
-    // Straight to the system when nothing waits in front: the port's buffer leaves only with the
-    // next turn of the event loop.
+    // Directly to the system if nothing is queued: the port's buffer is written only in the next
+    // turn of the event loop.
     ssize_t sent = 0;
     if (port_.bytesToWrite() == 0)
         sent = std::max<ssize_t>(::write(port_.handle(), bytes.data(), bytes.size()), 0);
     bytes.remove_prefix(static_cast<std::size_t>(sent));
-    if (!bytes.empty()) // what did not fit, or met an error, which the port then reports
+    if (!bytes.empty()) // what did not fit, or failed; the port then reports the error
         port_.write(bytes.data(), static_cast<qint64>(bytes.size()));
 }
 
@@ -64,7 +65,7 @@ void qt_serial_line::failed(QSerialPort::SerialPortError error) {
                       error == QSerialPort::WriteError;
     if (!gone || !port_.isOpen())
         return;
-    // A file that stays open would keep its name from the adapter that is plugged in again.
+    // An open file would keep its name from an adapter that is plugged in again.
     left_ = port_.readAll();
     port_.close();
     told_.lost();

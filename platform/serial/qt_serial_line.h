@@ -1,4 +1,4 @@
-// The real serial line, and the list of the ports that are there.
+// The real serial line, and the list of existing ports.
 #pragma once
 
 #include "serial_line.h"
@@ -24,9 +24,9 @@ class qt_serial_line final : public QObject, public serial_line {
 
     std::string path_;
     QSerialPort port_;
-    QByteArray left_; // of a port that has gone
+    QByteArray left_; // unread bytes of a lost port
     listener told_;
 };
 
-// Those of cables first.
+// Ports of cables first.
 std::vector<serial_port_entry> list_serial_ports();

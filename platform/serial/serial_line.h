@@ -19,14 +19,14 @@ class serial_line {
     virtual ~serial_line() = default;
 
     virtual serial_failure open(const std::string& path, listener told) = 0;
-    // Forgets what came at the speed before. No: the port does not know it.
+    // Discards what came at the previous speed. False: the port does not support it.
     virtual bool set_speed(long baud) = 0;
     // At most `most` bytes received so far.
     virtual std::string read(std::size_t most) = 0;
     virtual bool more_to_read() const = 0;
     virtual void write(std::string_view bytes) = 0;
-    // Raises nothing.
+    // Raises no event.
     virtual void close() = 0;
-    // Why a port that was there has gone.
+    // Why a port has disappeared.
     virtual serial_failure why_gone() const = 0;
 };

@@ -60,7 +60,7 @@ serial_failure problem_of_path(const std::string& path, const std::filesystem::p
     return {cable_taken(own_drivers) ? serial_problem::taken : serial_problem::not_there};
 }
 
-// Nobody is told to join the group of root, or one that gives no right.
+// Never advises joining the group of root, or one without permission.
 serial_failure refused_by(unsigned mode, unsigned group) {
     constexpr unsigned GROUP_USES = S_IRGRP | S_IWGRP;
     const struct group* entry = group == 0 ? nullptr : ::getgrgid(group);

@@ -1,4 +1,4 @@
-// Why a serial port does not work: what the user can do something about is told apart.
+// Why a serial port does not work, as far as the user can do something about it.
 #pragma once
 
 #include <filesystem>
@@ -21,13 +21,12 @@ struct serial_failure {
     std::string detail{};
 };
 
-// A sentence for the user and what to do, in the user's language.
+// A sentence for the user, with what to do, in the user's language.
 std::string problem_text(const serial_failure& failure, const bundle& texts,
                          const std::string& path);
 
-// What opening `path` would fail with for want of the file or the right to it. A port that is not
-// there has been taken when a program drives a cable's chip by itself, which the kernel lists in
-// `own_drivers`.
+// The failure of opening `path` due to a missing file or permission. A missing port is taken if a
+// program drives the cable's chip itself; the kernel lists these in `own_drivers`.
 serial_failure
 problem_of_path(const std::string& path,
                 const std::filesystem::path& own_drivers = "/sys/bus/usb/drivers/usbfs");

@@ -7,19 +7,19 @@
 
 namespace {
 
-// The first is answered with "?" by most. Some want to be asked something that they know.
+// Most adapters answer the first with "?". Some only answer a command that they know.
 struct question {
     std::string_view text;
     run_loop::milliseconds patience;
 };
 constexpr question QUESTIONS[] = {{"\x7f\x7f\r", run_loop::milliseconds(500)},
                                   {"AT I\r", run_loop::milliseconds(1000)}};
-// What else is under way comes within this time.
+// Anything else under way arrives within this time.
 constexpr run_loop::milliseconds QUIET{100};
 constexpr std::size_t PIECE = 1024;
-constexpr std::size_t LONGEST_ANSWER = 4096; // what comes without end is none
+constexpr std::size_t LONGEST_ANSWER = 4096; // endless output is not an answer
 
-// Plain text up to a prompt. Bytes at a wrong speed are not plain for long.
+// Plain text up to a prompt. At a wrong speed, bytes do not stay plain for long.
 bool is_answer(std::string_view heard) {
     const auto plain = [](char c) {
         return (c >= ' ' && c <= '~') || c == '\r' || c == '\n' || c == '\0' || c == '\x7f';
@@ -101,14 +101,15 @@ void serial_stream_pair::readable() {
     if (bytes_announced_ || state_ != state::open)
         return;
     bytes_announced_ = true;
-    // At once: a turn of the event loop for every reply would cost much of the sampling rate.
+    // Immediately: waiting a turn of the event loop for every reply would cost much of the sampling
+    // rate.
     loop_.from_event_loop(event(stream_side::input, STREAM_BYTES_AVAILABLE));
 }
 
 std::string serial_stream_pair::read(std::size_t most) {
     bytes_announced_ = false;
     std::string bytes = line_->read(most);
-    // What is left raises no signal of the line's: announce it here.
+    // The line does not signal again for the remaining bytes: announce them here.
     if (line_->more_to_read()) {
         bytes_announced_ = true;
         raise(stream_side::input, STREAM_BYTES_AVAILABLE);
@@ -137,7 +138,7 @@ void serial_stream_pair::lost() {
 
 void serial_stream_pair::fail(const serial_failure& why) {
     loop_.cancel(patience_);
-    line_->close(); // whoever tries again opens it anew
+    line_->close(); // the next attempt opens it again
     state_ = state::closed;
     error_ = problem_text(why, texts_, path_);
     raise(stream_side::input, STREAM_ERROR);

@@ -1,9 +1,9 @@
-// The stream pair over a serial port. It is open when an adapter has answered at a speed: at the
-// one that is given, else at the first of the usual ones.
+// The stream pair over a serial port. It is open once an adapter has answered: at the given speed,
+// else at the first usual one that works.
 //
-// What is sent to find that out is no command. At a wrong speed it never reads as a carriage
-// return, so nothing is done there; at the right one it spoils what is half typed, and interrupts
-// what goes on, which the adapter answers with a prompt as well.
+// What is sent to find out is not a command. At a wrong speed it never reads as a carriage return,
+// so it has no effect; at the right one it invalidates a half-typed command and interrupts a
+// running one, which the adapter also answers with a prompt.
 #pragma once
 
 #include "run_loop.h"
@@ -17,7 +17,7 @@ class bundle;
 
 class serial_stream_pair final : public stream_pair {
   public:
-    // `speed` 0: the usual ones are tried.
+    // `speed` 0: tries the usual ones.
     serial_stream_pair(run_loop& loop, const bundle& texts, std::unique_ptr<serial_line> line,
                        std::string path, long speed);
     ~serial_stream_pair() override { close(); }
@@ -47,13 +47,13 @@ class serial_stream_pair final : public stream_pair {
     std::string path_;
     std::vector<long> speeds_;
     std::size_t tried_ = 0;
-    std::string heard_; // since the last question
+    std::string heard_; // since the last probe
     bool answered_ = false;
     run_loop::timer_id patience_ = 0;
     state state_ = state::closed;
     bool bytes_announced_ = false;
     event_handler handler_;
     std::string error_;
-    // Scheduled events hold this weakly, so that a pair that is gone raises nothing.
+    // Scheduled events hold a weak pointer to this, so that a destroyed pair raises none.
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
 };

@@ -59,7 +59,7 @@ void report_screen::read_clicked() {
         leave_cur_op_gracefully("");
 }
 
-// The handshake has no end of its own before its task.
+// The handshake itself never ends without its task.
 void report_screen::cancel_clicked() {
     if (reader_.running())
         reader_.cancel();
@@ -68,7 +68,7 @@ void report_screen::cancel_clicked() {
     set_status_msg(localized("report_cancelled"));
 }
 
-// The first time over the link that is up, then with each reply to the reader's questions.
+// Called first when the link is up, then with each reply to the reader's questions.
 void report_screen::work_task(int task, int) {
     if (task != TASK_REPORT)
         return;
@@ -76,7 +76,7 @@ void report_screen::work_task(int task, int) {
         if (!odb_curReplyMsg.empty())
             answer(odb_curReplyMsg);
     } else if (!handshake_.comes_first()) {
-        // Headers stay on behind a report: whatever comes next begins with the handshake.
+        // Headers stay on after a report: the next task begins with the handshake.
         connected_2_KS_interface = false;
         reader_.start(new_conversation());
     }
@@ -104,7 +104,7 @@ void report_screen::ask(const std::string& command, run_loop::milliseconds bound
         send_now();
         return;
     }
-    // What comes too late answers an earlier question.
+    // A late reply answers an earlier question.
     when_adapter_is_free(std::chrono::seconds(REPLY_TIME_OUT_AT_START), [this](bool) {
         odb_curReplyBuffyMsg.clear();
         if (told_)
@@ -142,7 +142,7 @@ void report_screen::show_progress(topic about, std::size_t asked, std::size_t wa
                                "%3", std::to_string(wanted)));
 }
 
-// An earlier report stays when nothing was told.
+// An earlier report is kept if nothing was reported.
 void report_screen::finish() {
     view_->show_running(false);
     if (reader_.made_adapter_patient())

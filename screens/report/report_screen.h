@@ -1,5 +1,5 @@
-// The report screen: brings the adapter up, has the car reader ask for all that the car tells, and
-// shows the sheet. It is the reader's door to the link. Files: report_screen.cpp the reading,
+// The report screen: initialises the adapter, lets the car reader read everything the car reports,
+// and shows the sheet. It is the reader's door to the link. Files: report_screen.cpp the reading,
 // report_view the widgets.
 #pragma once
 
@@ -27,7 +27,7 @@ class report_screen final : public obd_screen, private adapter_door {
 
     void read_clicked();
     void cancel_clicked();
-    // Of the last press: nothing while it runs, and when the adapter could not be brought up.
+    // From the last press: nothing while it runs, or if the adapter could not be initialised.
     const car_report* report() const;
     bool reading() const { return reader_.running(); }
 

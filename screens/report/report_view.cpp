@@ -189,7 +189,7 @@ void report_view::open() {
     show_report();
 }
 
-// The one that shows is the later one.
+// The report shown is the later one.
 void report_view::compare() {
     car_report before;
     if (!read_report("ui_report_compare_title", before))

@@ -27,7 +27,7 @@ class report_view {
     status_line* statusLbl() { return status_; }
 
     void show_running(bool running);
-    // The last report, as far as there is one.
+    // The last report, if any.
     void show_report();
 
     std::function<void()> on_read, on_cancel;
@@ -37,7 +37,7 @@ class report_view {
     QCheckBox* add_switch(const char* name, std::string_view key, const char* setting,
                           bool on_when);
     void show_sheet(const report_sheet& sheet);
-    // What is shown, as it leaves the program.
+    // What is shown, as it is given away.
     report_sheet sheet_to_give() const;
     void save();
     void print();

@@ -15,7 +15,7 @@
 
 namespace {
 
-// A path holds colons of its own; only digits behind the last one are a speed.
+// A path may contain colons; only digits after the last one are a speed.
 void take_serial_port(cli_request& asked, const std::string& name, const std::string& text) {
     const std::size_t colon = text.rfind(':');
     const bool with_speed = colon != std::string::npos && colon + 1 < text.size() &&
@@ -26,7 +26,7 @@ void take_serial_port(cli_request& asked, const std::string& name, const std::st
             read_number("the speed of " + name, text.substr(colon + 1), 300, 4'000'000);
 }
 
-// HOST:PORT; an IPv6 address stands in brackets. What begins as a path does is a serial port.
+// HOST:PORT; an IPv6 address stands in brackets. What begins like a path is a serial port.
 void take_adapter(cli_request& asked, const std::string& name, const std::string& text) {
     if (text.starts_with('/'))
         return take_serial_port(asked, name, text);

@@ -1,5 +1,5 @@
-// A pseudo-terminal with this program at its far end: to whoever opens `path()` a serial port with
-// an adapter on it. Closing it is what pulling a cable out is.
+// A pseudo-terminal with this program at its far end: `path()` looks like a serial port with an
+// adapter. Closing it is like unplugging the cable.
 #pragma once
 
 #include <string>

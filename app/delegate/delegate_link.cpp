@@ -5,6 +5,11 @@
 #include "system_log.h"
 
 void Ks_lite_delegate::sendOBDcmd(std::string_view command) {
+    stop_put_back(); // the screen knows better
+    send_over_link(command);
+}
+
+void Ks_lite_delegate::send_over_link(std::string_view command) {
     // The timer armed before is left running on purpose: if it belongs to a command that is still
     // unanswered, it will report that.
     obdTimeOutTimer = doors_.loop.after(std::chrono::seconds(g_this_delta),
@@ -34,6 +39,7 @@ void Ks_lite_delegate::handleOBDRcvdNotification(const std::string& text) {
     qCDebug(log_link, "delegate:handleOBD got the stuff%s", text.c_str());
     if (mainViewController)
         mainViewController->handleOBDRcvdMsg(text);
+    take_put_back(text);
 }
 
 void Ks_lite_delegate::post_received(const std::string& text) {
@@ -72,6 +78,7 @@ void Ks_lite_delegate::work_over_new_link(const std::string& message) {
 }
 
 void Ks_lite_delegate::tell_link_lost() {
+    forget_put_back();
     if (mainViewController)
         mainViewController->link_lost();
     set_doubt(true);
@@ -99,6 +106,7 @@ void Ks_lite_delegate::settings_left() {
 }
 
 void Ks_lite_delegate::reconnect() {
+    forget_put_back(); // it would go over the new link, to an adapter that may have been reset
     if (mainViewController)
         mainViewController->leave_cur_op_gracefully("");
     drop_link();

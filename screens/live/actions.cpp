@@ -142,7 +142,7 @@ void actions::runLogs() {
     view_->show_waity(true);
     work_out_log_file();
     view_->show_running(true);
-    choose_fast();
+    fast_level_.reset();
     run_a_log();
 }
 
@@ -236,6 +236,7 @@ void actions::questions_answered() {
 }
 
 void actions::cycles_begin() {
+    choose_fast(); // not before it is known whether this is another car
     if (sampling_begins)
         sampling_begins();
 }
@@ -283,23 +284,22 @@ void actions::leave_cur_op_gracefully(const std::string&) {
     view_->show_running(false);
     end_task();
     show_fast();
-    if (sampling_.adapter_changed()) {
-        begin_task();
+    if (KS_delegate.adapter_changed())
         sampling_.put_adapter_back();
-    }
     if (const auto told = std::exchange(scan_ended_, nullptr))
         told();
 }
 
 void actions::link_lost() {
     KS_delegate.give_up_on_replies(); // or its time-out would end a later run
-    sampling_.leave_adapter();
     if (running())
         leave_cur_op_gracefully("");
 }
 
 void actions::fast_sampling_told(bool given_up) {
+    constexpr run_loop::milliseconds STANDS{4000};
     set_status_msg(localized(given_up ? "ui_fast_given_up" : "ui_fast_level_down"));
+    status_shown_ = KS_delegate.doors().loop.now() + STANDS; // before replies are shown again
 }
 
 void actions::choose_fast() {

@@ -73,10 +73,6 @@ class actions final : public obd_screen, private sampling_listener {
     std::uint64_t cycles() const { return sampling_.cycles(); }
     // As fast_sampler::level(), kept beyond the end of the run; nothing in a plain one.
     std::optional<int> fast_level() const { return fast_level_; }
-    // A fast run is over, and the adapter is being put back.
-    bool puts_adapter_back() const {
-        return !running() && task_running() && sampling_.adapter_changed();
-    }
     // The samples of the run; the last row is being filled.
     sample_rows& samples() { return sampling_.samples(); }
     // The log of the run; empty when there is none.

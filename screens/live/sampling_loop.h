@@ -57,20 +57,15 @@ class sampling_loop {
     void end();
     bool running() const { return keep_logging; }
 
-    // From the next run on: as fast as the car answers, with at most so many requests a second on
-    // CAN (0: as many as it takes); nothing: plainly.
+    // Told as the first cycle begins: as fast as the car answers, with at most so many requests a
+    // second on CAN (0: as many as it takes); nothing: plainly.
     void sample_fast(std::optional<int> most_a_second) { most_a_second_ = most_a_second; }
     std::optional<int> fast_most() const { return most_a_second_; }
     // As fast_sampler::level(); nothing while the run is plain.
     std::optional<int> fast_level() const;
     // Between two requests, on purpose.
     bool pausing() const { return pausing_; }
-    // The adapter is not as others expect it. Putting it back takes a few replies, the last of
-    // which ends the screen's task.
-    bool adapter_changed() const { return adapter_changed_; }
     void put_adapter_back();
-    // It cannot be reached; the handshake will see to it.
-    void leave_adapter() { adapter_changed_ = false; }
 
     void work_out_log(int step);
     void prep_and_send_cmd(std::string_view command, int this_time_out);
@@ -83,19 +78,23 @@ class sampling_loop {
     const sample_set& latest() const { return these_samples; }
     // Of the last complete row, in the order of pids().
     const std::vector<translated>& cycle_values() const { return cycle_values_; }
-    // Of the run: what was answered since its first cycle began, and how long its complete cycles
-    // took.
+    // Of the run: what was answered since its first cycle began, of a fast one with a value, and
+    // how long its complete cycles took.
     std::uint64_t requests_answered() const { return requests_answered_; }
     std::uint64_t cycles() const { return cycles_; }
     run_loop::milliseconds length() const { return cycle_filed_ - first_request_; }
 
   private:
+    // How long the answer that is still owed is awaited after one to another request: as long as an
+    // adapter at most waits for the car, and longer when that was not enough.
+    static constexpr run_loop::milliseconds STRAGGLER_BOUND{1000};
+
     enum sampling_step : int {
         START = 0,
         REPLY = 1,
         FIRST_QUESTION_ANSWERED = 2,
         FAST_REPLY = 3,
-        PUT_BACK = 4,
+        NOTHING = 4, // the replies are the link's
     };
 
     void start_sampling();
@@ -127,7 +126,7 @@ class sampling_loop {
     void send_command(const std::string& command, int next_step);
     void stop_timer();
     void take_fast_reply();
-    void adapter_put_back();
+    void adapter_put_back(bool well);
 
     obd_screen& screen_;
     adapter_handshake& handshake_;
@@ -155,8 +154,7 @@ class sampling_loop {
     std::unique_ptr<fast_sampler> fast_;
     bool fast_silent_ = false; // no prompt has come
     bool fast_given_up_ = false;
-    bool adapter_changed_ = false;
-    std::size_t put_back_ = 0;     // of the commands that do it
+    bool goes_on_plainly_ = false; // once the adapter is put back
     run_loop::timer_id timer_ = 0; // of a pause, or of patience
     bool pausing_ = false;
     run_loop::milliseconds plain_pause_{0}; // of a car that complained

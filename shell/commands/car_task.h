@@ -38,8 +38,6 @@ class car_task {
     virtual bool tells_progress() const { return false; }
     // The message is what print() will print: nobody should read it twice.
     virtual bool is_result(const std::string& message) const { return message.empty(); }
-    // Asked once it has ended: the adapter is not yet as it was found.
-    virtual bool puts_adapter_back() const { return false; }
     // What was found, or as much as there is of it. Also stops a task that still goes on.
     virtual void print(bool succeeded, const conversation_log& log) = 0;
 

@@ -53,7 +53,6 @@ class live_command final : public car_task {
         return asked_.cycles == 0 && asked_.seconds <= 0 && sampled();
     }
     bool has_no_bound() const override { return true; }
-    bool puts_adapter_back() const override { return screen_ && screen_->puts_adapter_back(); }
     bool tells_progress() const override { return sampled(); }
     void print(bool succeeded, const conversation_log& log) override;
 

@@ -210,6 +210,11 @@ void main_window::restore_place() {
 }
 
 void main_window::closeEvent(QCloseEvent* event) {
+    if (delegate_.puts_adapter_back_first([this] { close(); })) {
+        setEnabled(false); // it takes some replies
+        event->ignore();
+        return;
+    }
     // A window that nobody saw has no place to remember.
     if (isVisible() && somebody_looks()) {
         delegate_.doors().defaults.set_string(GEOMETRY_KEY,

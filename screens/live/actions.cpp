@@ -332,7 +332,7 @@ void actions::show_rate() {
     const run_loop::milliseconds now = KS_delegate.doors().loop.now();
     if (!running() || now - counted_at_ < SPAN)
         return;
-    const auto values = static_cast<double>(requests_answered() - values_counted_);
+    const auto values = static_cast<double>(counted() - values_counted_);
     if (counted_at_.count() > 0) {
         const double rate = values * 1000 / static_cast<double>((now - counted_at_).count());
         QString text = display_text(localized("ui_fast_rate")).arg(rate, 0, 'f', 0);
@@ -341,7 +341,7 @@ void actions::show_rate() {
             text += QLatin1Char('\n') + display_text(localized(level));
         view_->show_rate(text);
     }
-    values_counted_ = requests_answered();
+    values_counted_ = counted();
     counted_at_ = now;
 }
 

@@ -70,6 +70,10 @@ class actions final : public obd_screen, private sampling_listener {
     const std::vector<std::string>& pids() const { return sampling_.pids(); }
     // Of the run: what was answered since its first cycle began.
     std::uint64_t requests_answered() const { return sampling_.requests_answered(); }
+    // What the rate is of: in a fast run what was answered with a value.
+    std::uint64_t counted() const {
+        return sampling_.fast_most() ? sampling_.values() : requests_answered();
+    }
     std::uint64_t cycles() const { return sampling_.cycles(); }
     // As fast_sampler::level(), kept beyond the end of the run; nothing in a plain one.
     std::optional<int> fast_level() const { return fast_level_; }

@@ -64,7 +64,7 @@ void sampling_loop::begin(std::unique_ptr<live_run> run) {
     if (run_->samples()) {
         cur_log_points.clear();
         add_item_to_log_vector("-X", -1);
-        requests_answered_ = cycles_ = 0;
+        requests_answered_ = values_ = cycles_ = 0;
         first_request_ = cycle_filed_ = {};
         waits_in_vain_ = 0;
     }
@@ -315,6 +315,7 @@ void sampling_loop::take_reply() {
 
 void sampling_loop::file_reply(const sample_request& asked, const std::string& told,
                                const std::string& shown) {
+    ++requests_answered_;
     cur_log_idx = asked.place;
     const std::string reply = run_->reply_to_file(asked, told);
     listener_.reply_came(shown);
@@ -323,9 +324,7 @@ void sampling_loop::file_reply(const sample_request& asked, const std::string& t
         output_MPG_item(cur_log_idx, reply);
     else
         file_sample(reply, cur_log_idx);
-    // Of a fast run the values are counted.
-    const bool usable = !std::isnan(cycle_values_[static_cast<std::size_t>(asked.place)].value);
-    requests_answered_ += !most_a_second_ || usable;
+    values_ += !std::isnan(cycle_values_[static_cast<std::size_t>(asked.place)].value);
 }
 
 // What follows from its answers is computed.

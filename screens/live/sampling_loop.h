@@ -78,9 +78,10 @@ class sampling_loop {
     const sample_set& latest() const { return these_samples; }
     // Of the last complete row, in the order of pids().
     const std::vector<translated>& cycle_values() const { return cycle_values_; }
-    // Of the run: what was answered since its first cycle began, of a fast one with a value, and
+    // Of the run: what was answered since its first cycle began, how much of it with a value, and
     // how long its complete cycles took.
     std::uint64_t requests_answered() const { return requests_answered_; }
+    std::uint64_t values() const { return values_; }
     std::uint64_t cycles() const { return cycles_; }
     run_loop::milliseconds length() const { return cycle_filed_ - first_request_; }
 
@@ -147,7 +148,7 @@ class sampling_loop {
     bool asks_first_question_ = false;
     int waits_in_vain_ = 0;   // for an answer that the adapter still owed
     int answers_in_step_ = 0; // since the last that was not
-    std::uint64_t requests_answered_ = 0, cycles_ = 0;
+    std::uint64_t requests_answered_ = 0, values_ = 0, cycles_ = 0;
     run_loop::milliseconds first_request_{0}, cycle_filed_{0};
 
     std::optional<int> most_a_second_;

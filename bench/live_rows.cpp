@@ -86,9 +86,9 @@ double bytes_a_sample() {
         return static_cast<double>(heap.uordblks + heap.hblkhd);
     };
     const double before = in_use();
-    const std::uint64_t samples_before = program.screen().requests_answered();
+    const std::uint64_t samples_before = program.screen().counted();
     program.requests_a_second(milliseconds(10'000));
-    const auto samples = static_cast<double>(program.screen().requests_answered() - samples_before);
+    const auto samples = static_cast<double>(program.screen().counted() - samples_before);
     std::printf("  %.0f samples\n", samples);
     return (in_use() - before) / samples;
 }

@@ -81,12 +81,12 @@ class running_program {
     actions& screen() { return static_cast<actions&>(*delegate_->current_screen()); }
 
     double requests_a_second(std::chrono::milliseconds span) {
-        const std::uint64_t before = screen().requests_answered();
+        const std::uint64_t before = screen().counted();
         QElapsedTimer timer;
         timer.start();
         while (!timer.hasExpired(span.count()))
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        return static_cast<double>(screen().requests_answered() - before) /
+        return static_cast<double>(screen().counted() - before) /
                (static_cast<double>(timer.nsecsElapsed()) * 1e-9);
     }
 

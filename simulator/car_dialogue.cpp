@@ -253,8 +253,11 @@ void virtual_adapter::show_frames(const std::vector<unit_answer>& answers, int e
         counted += counts(one.frame);
         last = one.at;
     }
-    longest_gap_ = std::max(longest_gap_, longest);
     last_gap_ = longest;
+    // What comes too late is heard all the same, by a controller that always listens.
+    if (bus.is_can() && shown > 0 && shown < frames.size() && (expected == 0 || counted < expected))
+        longest = std::max(longest, frames[shown].at - last);
+    longest_gap_ = std::max(longest_gap_, longest);
     late_.assign(frames.begin() + long(shown), frames.end());
     if (shown == 0)
         add_line(pieces, longest_wait(), "NO DATA");

@@ -21,6 +21,11 @@ constexpr microseconds CHARACTER_BITS = std::chrono::seconds(10); // divided by 
 virtual_adapter::virtual_adapter(car& the_car, adapter_options options)
     : options_(std::move(options)), vehicle_(the_car, options_.seed, options_.speed),
       random_(options_.seed) {
+    set_faults(std::move(options_.faults));
+}
+
+void virtual_adapter::set_faults(fault_set faults) {
+    options_.faults = std::move(faults);
     state_.clone = options_.faults.has(fault_kind::clone);
     if (options_.faults.has(fault_kind::one_byte_chunks))
         output_.send_single_bytes();

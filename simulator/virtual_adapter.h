@@ -33,7 +33,10 @@ class virtual_adapter final : public adapter {
   public:
     virtual_adapter(car& the_car, adapter_options options = {});
 
-    // Forgets a half-typed command of the last client; settings stay, as on a real adapter.
+    // From now on.
+    void set_faults(fault_set faults);
+
+    // What the last client left half said is gone; settings stay, as on a genuine one.
     void connection_opened(milliseconds now) override;
     void receive(std::string_view bytes, milliseconds now) override;
 

@@ -25,6 +25,7 @@ Ks_lite_delegate::Ks_lite_delegate(app_doors doors, screen_factories factories)
 Ks_lite_delegate::~Ks_lite_delegate() {
     doors_.notifications.remove_observer(observer_);
     doors_.loop.cancel(release_);
+    doors_.loop.cancel(put_back_bound_);
 }
 
 void Ks_lite_delegate::load_settings() {
@@ -60,6 +61,7 @@ void Ks_lite_delegate::show_screen(std::string_view interface_file, bool save_fi
 void Ks_lite_delegate::release_current_screen() {
     if (!mainViewController)
         return;
+    stop_put_back();
     mainViewController->view()->hide();
     mainViewController->view()->setParent(nullptr);
     // One of the screen's own operations may be running: destroy it only from the run loop.

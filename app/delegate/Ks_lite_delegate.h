@@ -2,10 +2,10 @@
 // and out of the main window, and owns the single link to the adapter. Created once by main,
 // outlives window and screens.
 //
-// Shell half: Ks_lite_delegate.cpp. Link half: delegate_link.cpp over delegate_tcp.cpp and
-// delegate_bluetooth.cpp. The link neither interprets replies nor waits for prompts: it sends one
-// command, arms the reply time-out, and hands every received chunk, or "Timeout", to the screen
-// that is showing.
+// Shell half: Ks_lite_delegate.cpp. Link half: delegate_link.cpp and delegate_put_back.cpp over
+// delegate_tcp.cpp and delegate_bluetooth.cpp. The link neither interprets replies nor waits for
+// prompts: it sends one command, arms the reply time-out, and hands every received chunk, or
+// "Timeout", to the screen that is showing.
 #pragma once
 
 #include "notification_center.h"
@@ -19,6 +19,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -122,6 +123,18 @@ class Ks_lite_delegate {
     bool openSerialPortProfile();
     void sendOBDcmd_BT(std::string_view command);
 
+    // The adapter is not as others expect it, and these commands put it back.
+    void changed_adapter(std::span<const std::string_view> put_back) { to_put_back_ = put_back; }
+    bool adapter_changed() const { return !to_put_back_.empty(); }
+    // Tells `done` in the end, unless a screen sends something or goes: not `well` when the adapter
+    // did not take all of it.
+    void put_adapter_back(std::function<void(bool well)> done);
+    bool puts_adapter_back() const { return put_back_bound_ != 0; }
+    // The adapter was reset, or cannot be reached.
+    void forget_put_back();
+    // Before the program ends: what runs ends. False when there is nothing to put back.
+    bool puts_adapter_back_first(std::function<void()> then);
+
   private:
     // shell
     void load_settings();
@@ -136,6 +149,15 @@ class Ks_lite_delegate {
     void set_doubt(bool in_doubt);
     void work_over_new_link(const std::string& message);
     void drop_link();
+
+    void send_over_link(std::string_view command);
+
+    // delegate_put_back.cpp
+    void bound_put_back(std::function<void()> in_vain);
+    void say_put_back();
+    void take_put_back(const std::string& text);
+    void put_back_ended(bool well);
+    void stop_put_back();
 
     // streams
     void connectToServerUsingCFStream(const std::string& host, long portNo);
@@ -168,6 +190,14 @@ class Ks_lite_delegate {
     run_loop::timer_id obdTimeOutTimer = 0;
     reply_ledger ledger_;
     bool in_doubt_ = false;
+
+    std::span<const std::string_view> to_put_back_;
+    std::size_t put_back_next_ = 0;
+    int put_back_said_ = 0; // this one; 0: what was asked before is still owed
+    bool put_back_well_ = true;
+    std::string put_back_reply_;
+    run_loop::timer_id put_back_bound_ = 0;
+    std::vector<std::function<void(bool well)>> when_put_back_;
 
     // What the settings named when the link was last opened.
     struct adapter_choice {

@@ -6,8 +6,13 @@
 #include "transports.h"
 
 void Ks_lite_delegate::sendOBDcmd(std::string_view command) {
-    // The previous timer is deliberately left running: if its command is still unanswered, it will
-    // report that.
+    stop_put_back(); // the screen knows better
+    send_over_link(command);
+}
+
+void Ks_lite_delegate::send_over_link(std::string_view command) {
+    // The timer armed before is left running on purpose: if it belongs to a command that is still
+    // unanswered, it will report that.
     obdTimeOutTimer = doors_.loop.after(std::chrono::seconds(g_this_delta),
                                         [this, generation = ledger_.generation()] {
                                             if (generation == ledger_.generation())
@@ -32,6 +37,7 @@ void Ks_lite_delegate::handleOBDRcvdNotification(const std::string& text) {
     qCDebug(log_link, "delegate:handleOBD got the stuff%s", text.c_str());
     if (mainViewController)
         mainViewController->handleOBDRcvdMsg(text);
+    take_put_back(text);
 }
 
 void Ks_lite_delegate::post_received(const std::string& text) {
@@ -70,6 +76,7 @@ void Ks_lite_delegate::work_over_new_link(const std::string& message) {
 }
 
 void Ks_lite_delegate::tell_link_lost() {
+    forget_put_back();
     if (mainViewController)
         mainViewController->link_lost();
     set_doubt(true);
@@ -96,6 +103,7 @@ void Ks_lite_delegate::settings_left() {
 }
 
 void Ks_lite_delegate::reconnect() {
+    forget_put_back(); // it would go over the new link, to an adapter that may have been reset
     if (mainViewController)
         mainViewController->leave_cur_op_gracefully("");
     drop_link();

@@ -117,6 +117,7 @@ void Ks_lite_delegate::tcpTimeOutHandler(std::uint64_t attempt) {
 }
 
 void Ks_lite_delegate::disconnect() {
+    forget_put_back();
     if (streams_)
         streams_->close();
     attempt_state_ = attempt_state::none;

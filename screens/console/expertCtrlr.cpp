@@ -133,11 +133,18 @@ void expertCtrlr::work_current_task() {
     if (!asked_to_send_ || command.empty() || command.size() > LONGEST_CONSOLE_COMMAND)
         return;
     waity->show();
-    sendOBDcmd(command + "\r");
+    if (!KS_delegate.adapter_changed()) {
+        sendOBDcmd(command + "\r");
+        return;
+    }
+    // A fast run has left headers on and blanks off.
+    KS_delegate.put_adapter_back([this, command](bool) { sendOBDcmd(command + "\r"); });
 }
 
 void expertCtrlr::handleOBDRcvdMsg(const std::string& text) {
     qCDebug(log_screens, "expertC:handleOBDRcvdMsg got the stuff%s", text.c_str());
+    if (KS_delegate.puts_adapter_back())
+        return;
     if (takes_time_out(text))
         return; // the indicator stays until the next reply
     append_reply(text);

@@ -142,7 +142,7 @@ void actions::runLogs() {
     view_->show_waity(true);
     work_out_log_file();
     view_->show_running(true);
-    choose_fast();
+    fast_level_.reset();
     run_a_log();
 }
 
@@ -236,6 +236,7 @@ void actions::questions_answered() {
 }
 
 void actions::cycles_begin() {
+    choose_fast(); // not before it is known whether this is another car
     if (sampling_begins)
         sampling_begins();
 }
@@ -283,23 +284,22 @@ void actions::leave_cur_op_gracefully(const std::string&) {
     view_->show_running(false);
     end_task();
     show_fast();
-    if (sampling_.adapter_changed()) {
-        begin_task();
+    if (KS_delegate.adapter_changed())
         sampling_.put_adapter_back();
-    }
     if (const auto told = std::exchange(scan_ended_, nullptr))
         told();
 }
 
 void actions::link_lost() {
     KS_delegate.give_up_on_replies(); // or its time-out would end a later run
-    sampling_.leave_adapter();
     if (running())
         leave_cur_op_gracefully("");
 }
 
 void actions::fast_sampling_told(bool given_up) {
+    constexpr run_loop::milliseconds STANDS{4000};
     set_status_msg(localized(given_up ? "ui_fast_given_up" : "ui_fast_level_down"));
+    status_shown_ = KS_delegate.doors().loop.now() + STANDS; // before replies are shown again
 }
 
 void actions::choose_fast() {
@@ -332,7 +332,7 @@ void actions::show_rate() {
     const run_loop::milliseconds now = KS_delegate.doors().loop.now();
     if (!running() || now - counted_at_ < SPAN)
         return;
-    const auto values = static_cast<double>(requests_answered() - values_counted_);
+    const auto values = static_cast<double>(counted() - values_counted_);
     if (counted_at_.count() > 0) {
         const double rate = values * 1000 / static_cast<double>((now - counted_at_).count());
         QString text = display_text(localized("ui_fast_rate")).arg(rate, 0, 'f', 0);
@@ -341,7 +341,7 @@ void actions::show_rate() {
             text += QLatin1Char('\n') + display_text(localized(level));
         view_->show_rate(text);
     }
-    values_counted_ = requests_answered();
+    values_counted_ = counted();
     counted_at_ = now;
 }
 

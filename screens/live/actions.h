@@ -69,13 +69,13 @@ class actions final : public obd_screen, private sampling_listener {
     const std::vector<std::string>& pids() const { return sampling_.pids(); }
     // Of the run: the answers since its first cycle began.
     std::uint64_t requests_answered() const { return sampling_.requests_answered(); }
+    // What the rate is of: in a fast run what was answered with a value.
+    std::uint64_t counted() const {
+        return sampling_.fast_most() ? sampling_.values() : requests_answered();
+    }
     std::uint64_t cycles() const { return sampling_.cycles(); }
     // See fast_sampler::level(); kept after the end of the run; nothing for a plain one.
     std::optional<int> fast_level() const { return fast_level_; }
-    // A fast run is over, and the adapter is being restored.
-    bool puts_adapter_back() const {
-        return !running() && task_running() && sampling_.adapter_changed();
-    }
     // The samples of the run; the last row is being filled.
     sample_rows& samples() { return sampling_.samples(); }
     // The log of the run; empty when there is none.

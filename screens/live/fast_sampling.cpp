@@ -14,9 +14,6 @@ namespace {
 
 // Longer than any adapter waits for the car, so that a late reply still meets its request.
 constexpr run_loop::milliseconds PATIENCE{6000};
-constexpr run_loop::milliseconds STRAGGLER_BOUND{1000};
-constexpr run_loop::milliseconds OWED_BOUND{3000};
-constexpr std::string_view WAKE_UP = "\r"; // ends whatever the adapter is doing
 
 std::string capitals(std::string text) {
     std::ranges::transform(text, text.begin(), [](unsigned char c) { return std::toupper(c); });
@@ -38,9 +35,9 @@ void sampling_loop::begin_fast() {
     for (const sample_request& one : requests_)
         pids.push_back(capitals(one.pid));
     fast_ = std::make_unique<fast_sampler>(pids, g_bus_form == bus_form::can, *most_a_second_);
-    // A change of screen stops nothing: the next task begins with the handshake, and that with a
-    // reset.
-    adapter_changed_ = true;
+    // A change of screen stops nothing: whatever comes next begins with the handshake, and that
+    // with a reset.
+    screen_.KS_delegate.changed_adapter(fast_sampler::farewell());
     fast_given_up_ = false;
     connected_2_KS_interface = KS_did_connect_2_car = false;
     ask_fast();
@@ -52,6 +49,7 @@ void sampling_loop::ask_fast() {
         if (!fast_given_up_)
             listener_.fast_sampling_is_no_use();
         put_adapter_back();
+        goes_on_plainly_ = true;
         return;
     }
     const fast_sampler::question asked = fast_->next(screen_.KS_delegate.doors().loop.now());
@@ -122,29 +120,16 @@ void sampling_loop::take_fast_reply() {
         complete_cycle();
 }
 
-// The last step continues with plain sampling, or ends the screen's task if the run is over.
 void sampling_loop::put_adapter_back() {
     stop_timer();
     fast_.reset();
-    put_back_ = 0;
-    const auto begin = [this] {
-        send_command(std::string(fast_sampler::farewell()[put_back_]), PUT_BACK);
-    };
-    if (screen_.KS_delegate.replies().owes())
-        screen_.when_adapter_is_free(OWED_BOUND, [begin](bool) { begin(); });
-    else
-        begin();
+    next_step_idx = NOTHING;
+    screen_.KS_delegate.put_adapter_back([this](bool well) { adapter_put_back(well); });
 }
 
-void sampling_loop::adapter_put_back() {
-    if (++put_back_ < fast_sampler::farewell().size()) {
-        send_command(std::string(fast_sampler::farewell()[put_back_]), PUT_BACK);
-        return;
-    }
-    adapter_changed_ = false;
-    connected_2_KS_interface = KS_did_connect_2_car = true;
-    if (keep_logging)
+void sampling_loop::adapter_put_back(bool well) {
+    if (well)
+        connected_2_KS_interface = KS_did_connect_2_car = true;
+    if (std::exchange(goes_on_plainly_, false))
         ask(requests_.front());
-    else
-        screen_.end_task();
 }

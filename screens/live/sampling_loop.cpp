@@ -11,6 +11,7 @@
 #include "text.h"
 
 #include <algorithm>
+#include <cmath>
 #include <exception>
 #include <stdexcept>
 
@@ -20,9 +21,6 @@ constexpr int SUPPORTED_PIDS_TIME_OUT = 12000;
 constexpr int REPLY_TIME_OUT = 3000;
 constexpr std::size_t LONGEST_SAMPLE = 331;
 
-// How long an owed answer is awaited after an answer to another request: as long as an adapter
-// waits for the car at most, and longer if that was not enough.
-constexpr run_loop::milliseconds STRAGGLER_BOUND{1000};
 constexpr run_loop::milliseconds LONG_STRAGGLER_BOUND{4000};
 constexpr int MOST_WAITS_IN_VAIN = 3;
 constexpr int ANSWERS_TO_TRUST_AGAIN = 50; // in a row
@@ -66,23 +64,25 @@ void sampling_loop::begin(std::unique_ptr<live_run> run) {
     if (run_->samples()) {
         cur_log_points.clear();
         add_item_to_log_vector("-X", -1);
-        requests_answered_ = cycles_ = 0;
+        requests_answered_ = values_ = cycles_ = 0;
         first_request_ = cycle_filed_ = {};
         waits_in_vain_ = 0;
     }
     fast_.reset();
+    goes_on_plainly_ = false;
     plain_pause_ = {};
 }
 
 void sampling_loop::end() {
     stop_timer();
     fast_.reset();
+    goes_on_plainly_ = false;
     cur_log_idx = 0;
     keep_logging = false;
 }
 
 void sampling_loop::work_out_log(int step) {
-    if (!keep_logging && step != PUT_BACK)
+    if (!keep_logging)
         return;
     try {
         switch (step) {
@@ -97,9 +97,6 @@ void sampling_loop::work_out_log(int step) {
             break;
         case FAST_REPLY:
             take_fast_reply();
-            break;
-        case PUT_BACK:
-            adapter_put_back();
             break;
         default:
             break;
@@ -237,7 +234,7 @@ void sampling_loop::add_item_to_log_vector(std::string_view this_item_val, int t
 void sampling_loop::end_by_timeout(const char* message) {
     connected_2_KS_interface = false;
     next_step_idx = 0;
-    leave_adapter();
+    screen_.KS_delegate.forget_put_back(); // it is not there; the handshake will see to it
     screen_.leave_cur_op_gracefully("");
     screen_.set_status_msg(message);
 }
@@ -327,6 +324,7 @@ void sampling_loop::file_reply(const sample_request& asked, const std::string& t
         output_MPG_item(cur_log_idx, reply);
     else
         file_sample(reply, cur_log_idx);
+    values_ += !std::isnan(cycle_values_[static_cast<std::size_t>(asked.place)].value);
 }
 
 // Computes the values derived from its answers.

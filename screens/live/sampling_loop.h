@@ -57,20 +57,15 @@ class sampling_loop {
     void end();
     bool running() const { return keep_logging; }
 
-    // From the next run on: as fast as the car answers, with at most this many requests a second on
-    // CAN (0: no limit); nothing: plain sampling.
+    // Told as the first cycle begins: as fast as the car answers, with at most so many requests a
+    // second on CAN (0: as many as it takes); nothing: plainly.
     void sample_fast(std::optional<int> most_a_second) { most_a_second_ = most_a_second; }
     std::optional<int> fast_most() const { return most_a_second_; }
     // See fast_sampler::level(); nothing while the run is plain.
     std::optional<int> fast_level() const;
     // In a deliberate pause between two requests.
     bool pausing() const { return pausing_; }
-    // The adapter's settings are changed. Restoring them takes a few replies, the last of which
-    // ends the screen's task.
-    bool adapter_changed() const { return adapter_changed_; }
     void put_adapter_back();
-    // It cannot be reached; the handshake will restore it.
-    void leave_adapter() { adapter_changed_ = false; }
 
     void work_out_log(int step);
     void prep_and_send_cmd(std::string_view command, int this_time_out);
@@ -83,18 +78,24 @@ class sampling_loop {
     const sample_set& latest() const { return these_samples; }
     // Of the last complete row, in the order of pids().
     const std::vector<translated>& cycle_values() const { return cycle_values_; }
-    // Of the run: the answers since its first cycle began, and the duration of its complete cycles.
+    // Of the run: what was answered since its first cycle began, how much of it with a value, and
+    // how long its complete cycles took.
     std::uint64_t requests_answered() const { return requests_answered_; }
+    std::uint64_t values() const { return values_; }
     std::uint64_t cycles() const { return cycles_; }
     run_loop::milliseconds length() const { return cycle_filed_ - first_request_; }
 
   private:
+    // How long the answer that is still owed is awaited after one to another request: as long as an
+    // adapter at most waits for the car, and longer when that was not enough.
+    static constexpr run_loop::milliseconds STRAGGLER_BOUND{1000};
+
     enum sampling_step : int {
         START = 0,
         REPLY = 1,
         FIRST_QUESTION_ANSWERED = 2,
         FAST_REPLY = 3,
-        PUT_BACK = 4,
+        NOTHING = 4, // the replies are the link's
     };
 
     void start_sampling();
@@ -126,7 +127,7 @@ class sampling_loop {
     void send_command(const std::string& command, int next_step);
     void stop_timer();
     void take_fast_reply();
-    void adapter_put_back();
+    void adapter_put_back(bool well);
 
     obd_screen& screen_;
     adapter_handshake& handshake_;
@@ -146,16 +147,15 @@ class sampling_loop {
     std::size_t cur_request_ = 0;
     bool asks_first_question_ = false;
     int waits_in_vain_ = 0;   // for an answer that the adapter still owed
-    int answers_in_step_ = 0; // since the last answer out of step
-    std::uint64_t requests_answered_ = 0, cycles_ = 0;
+    int answers_in_step_ = 0; // since the last that was not
+    std::uint64_t requests_answered_ = 0, values_ = 0, cycles_ = 0;
     run_loop::milliseconds first_request_{0}, cycle_filed_{0};
 
     std::optional<int> most_a_second_;
     std::unique_ptr<fast_sampler> fast_;
     bool fast_silent_ = false; // no prompt has come
     bool fast_given_up_ = false;
-    bool adapter_changed_ = false;
-    std::size_t put_back_ = 0;     // index of the restoring command
+    bool goes_on_plainly_ = false; // once the adapter is put back
     run_loop::timer_id timer_ = 0; // of a pause, or of patience
     bool pausing_ = false;
     run_loop::milliseconds plain_pause_{0}; // of a car that complained

@@ -112,6 +112,8 @@ void adapter_handshake::start() {
     fixed_protocols_told_ = 0;
     g_bus_form = bus_form::unknown; // it may be another car
     g_status_units.clear();
+    if (!KS_did_connect_2_car)
+        screen_.KS_delegate.forget_put_back();
     send_waiting(KS_did_connect_2_car ? "AT E0\r" : "AT Z\r", RESET_ANSWERED);
 }
 

@@ -39,9 +39,7 @@ class car_task {
     virtual bool tells_progress() const { return false; }
     // Whether print() will print this message, which must not appear twice.
     virtual bool is_result(const std::string& message) const { return message.empty(); }
-    // Called once it has ended: whether the adapter is still to be restored.
-    virtual bool puts_adapter_back() const { return false; }
-    // Prints the result, or what there is of it. Also stops a task that is still running.
+    // What was found, or as much as there is of it. Also stops a task that still goes on.
     virtual void print(bool succeeded, const conversation_log& log) = 0;
 
   protected:

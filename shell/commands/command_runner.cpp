@@ -12,7 +12,6 @@
 namespace {
 constexpr double DEFAULT_BOUND_SECONDS = 60;
 constexpr double LONGEST_BOUND_MS = 2e9;
-constexpr int LONGEST_FAREWELL_MS = 1000; // to an adapter that does not respond
 } // namespace
 
 command_runner::command_runner(const cli_request& asked, Ks_lite_delegate& delegate,
@@ -53,7 +52,7 @@ void command_runner::take_status(const std::string& text) {
 }
 
 void command_runner::look() {
-    if (status_ && !task_->puts_adapter_back())
+    if (status_ && !delegate_.puts_adapter_back())
         leave();
     else if (begun_ && !ended_ && (task_->over() || messages_.endless()))
         finish();
@@ -87,13 +86,11 @@ void command_runner::end(bool succeeded, const std::string& why) {
         std::fprintf(stderr, "kestrom: %s failed%s%s\n", asked_.command.c_str(),
                      just_read ? "" : ": ", just_read ? "" : printable(why).c_str());
     }
-    if (task_->puts_adapter_back())
-        QTimer::singleShot(LONGEST_FAREWELL_MS, this, [this] { leave(); });
-    else
-        leave();
+    look();
 }
 
 void command_runner::leave() {
+    delegate_.forget_put_back(); // well or not: it was tried
     if (const auto done = std::exchange(done_, nullptr))
         done(*status_);
 }

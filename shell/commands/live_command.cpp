@@ -53,7 +53,6 @@ class live_command final : public car_task {
         return asked_.cycles == 0 && asked_.seconds <= 0 && sampled();
     }
     bool has_no_bound() const override { return true; }
-    bool puts_adapter_back() const override { return screen_ && screen_->puts_adapter_back(); }
     bool tells_progress() const override { return sampled(); }
     void print(bool succeeded, const conversation_log& log) override;
 
@@ -216,7 +215,7 @@ double live_command::seconds() const {
 }
 
 double live_command::rate() const {
-    return seconds() > 0 ? static_cast<double>(screen_->requests_answered()) / seconds() : 0;
+    return seconds() > 0 ? static_cast<double>(screen_->counted()) / seconds() : 0;
 }
 
 void live_command::print_header() {
@@ -274,7 +273,7 @@ void live_command::print_summary() const {
     const std::string& log = screen_->log_path();
     if (asked_.json) {
         ordered_json summary = {{"cycles", screen_->cycles()},
-                                {"requests", screen_->requests_answered()},
+                                {"requests", screen_->counted()},
                                 {"seconds", rounded(seconds(), 3)},
                                 {"requests_per_second", rounded(rate(), 1)},
                                 {"log", log}};
@@ -287,12 +286,11 @@ void live_command::print_summary() const {
         return;
     const char* const what = asked_.fast ? "values" : "requests";
     const std::string level = std::to_string(screen_->fast_level().value_or(0));
-    std::fprintf(stderr, "%s cycles, %s %s in %s s: %s %s per second%s\n",
-                 std::to_string(screen_->cycles()).c_str(),
-                 std::to_string(screen_->requests_answered()).c_str(), what,
-                 fixed_decimals(seconds(), TIME_DECIMALS).c_str(),
-                 fixed_decimals(rate(), 1).c_str(), what,
-                 asked_.fast ? (", " + screen_->localized("ui_fast_level_" + level)).c_str() : "");
+    std::fprintf(
+        stderr, "%s cycles, %s %s in %s s: %s %s per second%s\n",
+        std::to_string(screen_->cycles()).c_str(), std::to_string(screen_->counted()).c_str(), what,
+        fixed_decimals(seconds(), TIME_DECIMALS).c_str(), fixed_decimals(rate(), 1).c_str(), what,
+        asked_.fast ? (", " + screen_->localized("ui_fast_level_" + level)).c_str() : "");
     if (!log.empty())
         std::fprintf(stderr, "Log: %s\n", printable(log).c_str());
 }

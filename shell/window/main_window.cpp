@@ -211,7 +211,12 @@ void main_window::restore_place() {
 }
 
 void main_window::closeEvent(QCloseEvent* event) {
-    // A window that was never shown has no place to remember.
+    if (delegate_.puts_adapter_back_first([this] { close(); })) {
+        setEnabled(false); // it takes some replies
+        event->ignore();
+        return;
+    }
+    // A window that nobody saw has no place to remember.
     if (isVisible() && somebody_looks()) {
         delegate_.doors().defaults.set_string(GEOMETRY_KEY,
                                               saveGeometry().toBase64().toStdString());

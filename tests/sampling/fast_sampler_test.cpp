@@ -58,20 +58,83 @@ TEST(fast_sampler_test, uses_what_was_proven_and_nothing_else) {
     }
 }
 
+std::string with_value(const fault_row& row) {
+    return std::string(row.name) + (row.value_name.empty() || row.value ? "" : "=7");
+}
+
 // Every fault of the virtual adapter, on every kind of bus, with runs of every size: whatever is
 // filed, the car said it then, and said it of that parameter.
 TEST(fast_sampler_test, files_nothing_that_the_car_did_not_say_to_the_request) {
     for (const fault_row& row : fault_rows())
         for (const char* name : {"can11", "three_units", "kwp_slow", "vpw"})
             for (const strings& pids : {ONE, FOUR, TWELVE}) {
-                std::string fault(row.name);
-                if (!row.value_name.empty() && !row.value)
-                    fault += "=7";
-                sampled_car car({name, {fault}, pids});
+                sampled_car car({name, {with_value(row)}, pids});
                 car.run(seconds(20));
-                EXPECT_EQ(car.false_, 0) << fault << " on " << name << " with " << pids.size()
+                EXPECT_EQ(car.false_, 0) << row.name << " on " << name << " with " << pids.size()
                                          << ": " << car.first_false_;
             }
+}
+
+// So too when the fault comes once a level is in use.
+TEST(fast_sampler_test, no_fault_makes_a_level_that_is_in_use_file_anything_else) {
+    const std::vector<strings> with_level{{}, {"first_pid_only"}, {"digit_unknown"}, {}};
+    for (const fault_row& row : fault_rows())
+        for (const int level : {1, 2, 3})
+            for (const char* name : {"can11", "three_units"})
+                for (const strings& pids : {FOUR, TWELVE}) {
+                    // With rests between the requests something may come in them.
+                    const int most_a_second = pids == FOUR ? 40 : 0;
+                    sampled_car car(
+                        {name, with_level[std::size_t(level)], pids, {}, 0, most_a_second});
+                    car.run(seconds(10));
+                    const std::string scene = std::string(row.name) + " on " + name + " at level " +
+                                              std::to_string(level) + " with " +
+                                              std::to_string(pids.size());
+                    ASSERT_EQ(car.sampler().level(), level) << scene;
+                    car.meet(with_value(row));
+                    car.run(seconds(20));
+                    EXPECT_EQ(car.false_, 0) << scene << ": " << car.first_false_;
+                }
+}
+
+// Two void replies to twenty requests are one too many; one now and then is not.
+TEST(fast_sampler_test, goes_down_a_level_as_soon_as_two_in_twenty_requests_are_void) {
+    struct row {
+        const char* fault;
+        const char* news; // a level down each, given up
+    };
+    for (const row& r : {
+             row{"data_error=90", ""}, // three frames to a request, one when nothing else goes
+             row{"data_error=45", "vv"},
+             row{"duplicate_reply=15", "vvx"}, // in time for "AT DPN", which alone tells
+             row{"can_error=9", "x"},
+             row{"pending=500", "x"},
+             row{"first_pid_only", "vv"},
+             row{"digit_unknown", "v"},
+             row{"wrong_length", "vv"},
+         }) {
+        sampled_car car({"can11", {}, FOUR});
+        car.run(seconds(10));
+        car.meet(r.fault);
+        car.run(seconds(60));
+        EXPECT_EQ(car.news_, r.news) << r.fault;
+        EXPECT_EQ(car.sampler().finished(), std::string(r.news).ends_with("x")) << r.fault;
+        EXPECT_LE(car.sampler().pause_afterwards(), std::chrono::milliseconds(60)) << r.fault;
+    }
+}
+
+TEST(fast_sampler_test, two_banks_in_one_answer_are_its_length) {
+    sampled_car car({"can11", {}, {"0C", "06", "0D", "05"}, {"06"}});
+    car.run(seconds(20));
+    EXPECT_EQ(car.sampler().level(), 3);
+    EXPECT_EQ(car.void_, 0);
+}
+
+// A unit that answers 58 ms later than the first is learnt, and waited for.
+TEST(fast_sampler_test, slow_second_unit_is_waited_for) {
+    sampled_car car({"can11", {"unit_gap=58"}, FOUR});
+    car.run(minutes(1));
+    EXPECT_EQ(car.sampler().level(), 3);
 }
 
 } // namespace

@@ -7,7 +7,11 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 
+#include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace {
@@ -99,6 +103,62 @@ TEST(fast_live, screen_left_in_the_middle_lets_the_next_one_begin_with_a_reset) 
     EXPECT_EQ(fast.says("01 51"), "41 51 01\r\r>");
 }
 
+// A new link may lead to an adapter that has been reset.
+TEST(fast_live, new_link_begins_with_a_reset) {
+    fast_run fast("can29");
+    fast.run(seconds(5));
+    fast.app.delegate->reconnect();
+    fast.app.loop.advance(seconds(10));
+    EXPECT_FALSE(connected_2_KS_interface);
+    EXPECT_FALSE(KS_did_connect_2_car);
+}
+
+TEST(fast_live, what_is_put_back_never_meets_another_task) {
+    for (const milliseconds until_stop : {milliseconds(0), milliseconds(200), milliseconds(900)}) {
+        fast_run fast("can29");
+        fast.run(seconds(5));
+        fast.app.find<QCheckBox>("fastSwitch")->click(); // off
+        fast.app.press("startStopBtn");
+        fast.app.press("startStopBtn");
+        fast.app.loop.advance(until_stop); // into the handshake
+        fast.app.press("startStopBtn");
+        fast.app.loop.advance(seconds(5));
+        EXPECT_FALSE(fast.app.delegate->adapter_changed());
+        const bool as_expected = fast.says("01 51") == "41 51 01\r\r>";
+        EXPECT_TRUE(as_expected || !connected_2_KS_interface) << until_stop.count();
+    }
+}
+
+TEST(fast_live, adapter_that_does_not_take_what_puts_it_back_counts_as_not_connected) {
+    fast_run fast("can29", {parse_fault("stall_after=300")});
+    fast.run(seconds(20));
+    fast.app.press("startStopBtn");
+    fast.app.loop.advance(seconds(20));
+    EXPECT_FALSE(fast.app.delegate->puts_adapter_back());
+    EXPECT_FALSE(connected_2_KS_interface);
+}
+
+TEST(fast_live, console_and_the_programs_end_find_the_adapter_as_it_was) {
+    fast_run fast("can29");
+    fast.run(seconds(5));
+    fast.app.delegate->do_expert();
+    fast.app.find<QLineEdit>("cmdTxt")->setText(QStringLiteral("01 51"));
+    fast.app.press("sendBtn");
+    fast.app.loop.advance(seconds(2));
+    EXPECT_TRUE(fast.app.find<QPlainTextEdit>("replyTxt")
+                    ->toPlainText()
+                    .endsWith(QStringLiteral("01 51\n41 51 01\n\n>")))
+        << fast.app.find<QPlainTextEdit>("replyTxt")->toPlainText().toStdString();
+
+    fast.app.delegate->do_actions();
+    fast.run(seconds(5));
+    bool ended = false;
+    EXPECT_TRUE(fast.app.delegate->puts_adapter_back_first([&] { ended = true; }));
+    fast.app.loop.advance(seconds(1));
+    EXPECT_TRUE(ended);
+    EXPECT_EQ(fast.says("01 51"), "41 51 01\r\r>");
+}
+
 TEST(fast_live, every_kind_of_run_is_faster) {
     for (const int task : {TASK_FUEL_ECONOMY, TASK_BOOST, TASK_O2_SAMPLING}) {
         fast_run fast("can29");
@@ -122,6 +182,42 @@ TEST(fast_live, where_nothing_is_gained_the_run_goes_on_plainly_and_the_switch_s
     EXPECT_FALSE(fast.app.find<QCheckBox>("fastSwitch")->isEnabled());
     fast.app.loop.advance(seconds(1));
     EXPECT_TRUE(fast.says("01 1C").starts_with("41 1C "));
+}
+
+TEST(fast_live, other_car_may_be_faster) {
+    fast_run fast("iso9141");
+    fast.run(seconds(30));
+    fast.app.press("startStopBtn");
+    fast.the_car = load_car("can29");
+    fast.app.delegate->reconnect();
+    fast.app.loop.advance(seconds(5));
+    fast.run(seconds(20));
+    EXPECT_EQ(fast.screen().fast_level(), 3);
+}
+
+TEST(fast_live, that_it_is_slower_now_can_be_read_and_void_replies_are_no_values) {
+    fast_run fast("can11");
+    fast.run(seconds(8));
+    fast.adapter.set_faults(fault_set({parse_fault("digit_unknown")}));
+    while (fast.screen().fast_level() == 3)
+        fast.app.loop.advance(milliseconds(20));
+    fast.app.loop.advance(seconds(3));
+    const auto shows = [&](const char* text) {
+        const auto labels = fast.screen().view()->findChildren<QLabel*>();
+        return std::ranges::any_of(
+            labels, [&](const QLabel* one) { return one->text().contains(QLatin1String(text)); });
+    };
+    EXPECT_TRUE(shows("more carefully"));
+    fast.app.loop.advance(seconds(3));
+    EXPECT_TRUE(shows("Got proper reply"));
+
+    const sample_rows& rows = fast.screen().samples();
+    std::uint64_t values = 0;
+    for (std::size_t row = 0; row < rows.rows(); ++row)
+        for (std::size_t place = 0; place < 4; ++place)
+            values += !std::isnan(rows.value(row, place));
+    EXPECT_EQ(fast.screen().counted(), values);
+    EXPECT_LT(values, 4 * fast.screen().cycles());
 }
 
 TEST(fast_live, rate_is_capped) {

@@ -129,6 +129,11 @@ void far_end::plug_in(const car& the_car, adapter_options options) {
     held_.clear();
 }
 
+void far_end::set_faults(fault_set faults) {
+    options_.faults = faults;
+    adapter_->set_faults(std::move(faults));
+}
+
 void far_end::after(milliseconds delay, std::function<void()> call) {
     const milliseconds due = loop_.now() + delay;
     own_timers_.insert(due);

@@ -28,6 +28,7 @@ class far_end {
 
     // Another car, and an adapter that has just been powered on.
     void plug_in(const car& the_car, adapter_options options);
+    void set_faults(fault_set faults);
     std::unique_ptr<stream_pair> make_streams(const std::string& host, long port);
     void serve(scripted_serial_port& door);
 

@@ -302,3 +302,14 @@ void random_user::change_port_and_back() {
     app_.delegate->do_read_codes();
     app_.loop.settle();
 }
+
+// Until it is as fast as it gets.
+void random_user::sample_fast() {
+    change_port_and_back();
+    app_.delegate->do_actions();
+    app_.loop.settle();
+    press("fastSwitch");
+    press("startStopBtn");
+    promises_.run_begins();
+    app_.loop.advance(std::chrono::seconds(8));
+}

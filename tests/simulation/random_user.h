@@ -15,6 +15,7 @@ class random_user {
     void act();
     // What a user does when nothing else helps: other settings and back.
     void change_port_and_back();
+    void sample_fast();
     void read_codes();
 
   private:

@@ -1,5 +1,6 @@
 #include "session.h"
 
+#include "actions.h"
 #include "application.h"
 #include "car_library.h"
 #include "disk.h"
@@ -45,8 +46,12 @@ class session {
         {
             application app(folder_, trace_, ledger_, plan_);
             promises kept(app);
-            begin(app, kept, plan_.adapter());
+            const adapter_options adapter = plan_.adapter();
+            const bool fast_first = rng_.happens(10);
+            begin(app, kept, fast_first ? adapter_options{} : adapter);
             random_user user(app, kept, rng_.seed());
+            if (fast_first)
+                meet_faults_at_full_speed(app, user, adapter.faults);
             for (int i = 0; i < ACTS && app.loop.now() < SPAN && !trace_.failed(); ++i) {
                 user.act();
                 if (is_visible_)
@@ -89,6 +94,17 @@ class session {
         app.far.plug_in(rng_.one_of(library()), std::move(options));
         app.start();
         kept.started();
+    }
+
+    void meet_faults_at_full_speed(application& app, random_user& user, const fault_set& faults) {
+        const fault_plan trouble = plan_;
+        plan_.stop();
+        user.sample_fast();
+        if (auto* const live = app.showing<actions>(ACTIONS_VIEW))
+            trace_.note("!",
+                        "faults begin at level " + std::to_string(live->fast_level().value_or(0)));
+        plan_ = trouble;
+        app.far.set_faults(faults);
     }
 
     void meet(application& app, promises& kept) {

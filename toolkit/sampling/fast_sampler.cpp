@@ -123,7 +123,9 @@ fast_sampler::question fast_sampler::ask(kind what, std::string command, millise
     asked_request_ = last_of_car_ = asked;
     asked_digit_ = digit;
     asked_command_ = command;
-    ++count_;
+    notice_.clear();
+    deferred_ = false;
+    count_ += asked != nullptr;
     sent_at_ = now;
     const bool of_car = what != kind::setup && what != kind::in_step;
     return {std::move(command), of_car ? pause(now) : milliseconds(0)};
@@ -161,7 +163,7 @@ fast_sampler::outcome fast_sampler::take(std::string_view reply, milliseconds no
         take_plan(reply, out);
         break;
     default:
-        take_try(reply);
+        take_try(reply, out);
         break;
     }
     if (asked_ != kind::setup && asked_ != kind::in_step) {
@@ -195,6 +197,8 @@ void fast_sampler::take_in_step(std::string_view reply, outcome& out) {
     } else if (++steps_missed_ >= MOST_STEPS_MISSED) {
         give_the_cycle_up(out);
     } else {
+        if (resync_ == resync::none && reported_bus_ != '0')
+            count_void(out); // which nothing else has told of
         out.answer_is_missing = true;
         resync_ = resync::flush;
     }
@@ -243,7 +247,10 @@ void fast_sampler::file(request& one, const answer& got, outcome& out) {
         const parameter_answer& part = got.parts.front();
         sources_.try_emplace(part.pid, got.source);
         lengths_.try_emplace(part.pid, part.reply.size() - HEAD_DIGITS);
-        (stage_ == stage::comparing ? after_ : before_)[part.pid] = part.reply;
+        if (stage_ == stage::comparing)
+            after_.try_emplace(part.pid, part.reply);
+        else
+            before_[part.pid] = part.reply;
     }
     learn(one, got.form);
 }
@@ -253,15 +260,18 @@ void fast_sampler::void_reply(request& one, outcome& out) {
         out.samples.push_back({pid, "~"});
     resync_ = resync::flush;
     one.asked_since_plain = CHECKED_EVERY;
+    count_void(out);
+}
+
+// Two within so many requests to the car are too many; one that is put off is.
+void fast_sampler::count_void(outcome& out) {
     const bool again = voided_ && count_ - last_void_ <= VOID_WITHIN;
-    if (deferred_ || (again && is_complaint(notice_))) {
-        afterwards_ = std::max(exchange(), milliseconds(1));
-        give_up(out);
-    } else if (again) {
-        one_level_down(out);
-    }
     voided_ = !again;
     last_void_ = count_;
+    if (deferred_ || (again && is_complaint(notice_)))
+        slow_down(out);
+    else if (again)
+        one_level_down(out);
 }
 
 // Learns what an answer to a plain request looks like.
@@ -296,10 +306,10 @@ void fast_sampler::advance(outcome& out) {
     cursor_ = 0;
     out.ends_cycle = true;
     if (!ending_)
-        cycle_ended();
+        cycle_ended(out);
 }
 
-void fast_sampler::cycle_ended() {
+void fast_sampler::cycle_ended(outcome& out) {
     if (wants_singles_)
         plan_ = singles_;
     wants_singles_ = false;
@@ -313,12 +323,21 @@ void fast_sampler::cycle_ended() {
         break;
     case stage::running:
         queue_digits();
-        ending_ = tries_.empty() && level() == 0 &&
-                  std::ranges::all_of(plan_, [](const request* one) { return one->learnt(); });
+        end_when_plain(out);
         break;
     case stage::trying_several:
         break;
     }
+}
+
+// Of what was faster once nobody shall hear that nothing was to be gained.
+void fast_sampler::end_when_plain(outcome& out) {
+    was_faster_ = was_faster_ || level() > 0;
+    const bool plain = level() == 0 && tries_.empty() &&
+                       std::ranges::all_of(plan_, [](const request* one) { return one->learnt(); });
+    if (plain && was_faster_)
+        give_up(out);
+    ending_ = plain;
 }
 
 void fast_sampler::one_level_down(outcome& out) {
@@ -368,7 +387,9 @@ std::vector<parameter_answer> fast_sampler::parts_of(const request& asked,
                                                      const std::string& data) const {
     const std::string& first = asked.pids.front();
     if (asked.pids.size() == 1 && !lengths_.contains(first)) {
-        const bool whole = answers_parameter(data, first) && answer_in(data) == data;
+        // Cars with two banks tell both trims in one answer; that is how long theirs are, then.
+        const bool whole = answers_parameter(data, first) && !answer_in(data).empty() &&
+                           data.size() <= answer_in(data).size() + 2;
         return whole ? std::vector{parameter_answer{first, data}} : std::vector<parameter_answer>{};
     }
     const auto parts = split_answer(data, lengths_);

@@ -110,11 +110,13 @@ class fast_sampler {
     void take_plan(std::string_view reply, outcome& out);
     void file(request& one, const answer& got, outcome& out);
     void void_reply(request& one, outcome& out);
+    void count_void(outcome& out);
     void learn(request& one, const shape& form);
     void learn_anew(request& one);
     milliseconds exchange() const { return answered_at_ - sent_at_; }
     void advance(outcome& out);
-    void cycle_ended();
+    void cycle_ended(outcome& out);
+    void end_when_plain(outcome& out);
     void one_level_down(outcome& out);
     void give_up(outcome& out);
     std::optional<answer> read_answer(const request& asked, std::string_view reply);
@@ -127,10 +129,12 @@ class fast_sampler {
     void group();
     void queue_groups();
     void run();
-    void take_try(std::string_view reply);
+    void take_try(std::string_view reply, outcome& out);
     void several_tried(request& one, const std::optional<answer>& got);
     void several_fail();
     void compare();
+    bool differs(const std::string& pid) const;
+    void slow_down(outcome& out);
     void queue_digits();
     void digit_fails(request& one);
     void digit_tried(request& one, const std::optional<answer>& got);
@@ -151,20 +155,23 @@ class fast_sampler {
     request* asked_request_ = nullptr;
     bool asked_digit_ = false;
     std::string asked_command_;
-    request* last_of_car_ = nullptr; // since the last command with an unmistakable answer
-    std::string notice_;             // of the last reply
+    request* last_of_car_ = nullptr; // since the last command whose answer nothing else resembles
+    std::string notice_;             // of the last reply to a plan's request or a try
     milliseconds sent_at_{0}, answered_at_{0};
     milliseconds last_request_{0}, last_answer_{0}; // of the car
 
     digits_by_pid lengths_;
-    std::map<std::string, std::string, std::less<>> sources_;                // unit by PID
-    std::map<std::string, std::string, std::less<>> before_, tried_, after_; // values by PID
+    std::map<std::string, std::string, std::less<>> sources_;        // unit by PID
+    std::map<std::string, std::string, std::less<>> before_, after_; // values by PID
+    std::map<std::string, std::vector<std::string>, std::less<>> tried_;
     std::size_t group_size_ = 0;
-    bool digit_works_ = true, wants_singles_ = false;
+    int compared_ = 0; // cycles
+    bool digit_works_ = true, wants_singles_ = false, was_faster_ = false;
     int level_cap_ = 3;
     bool ending_ = false;
     milliseconds afterwards_{0};
-    int count_ = 0, last_void_ = 0, steps_missed_ = 0;
-    bool voided_ = false;   // recently, on this level
+    int count_ = 0, last_void_ = 0, // requests to the car, flushes aside
+        steps_missed_ = 0;
+    bool voided_ = false;   // not long ago, on this level
     bool deferred_ = false; // "7F 01 78"
 };

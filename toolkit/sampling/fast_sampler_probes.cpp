@@ -16,6 +16,7 @@ constexpr std::size_t PAIR = 2;
 constexpr int TIMES_TRIED = 3;
 constexpr int MOST_FRAMES = 15; // one digit
 constexpr milliseconds CLEARLY{2};
+constexpr milliseconds LONGEST_PAUSE{300};
 
 // Parameters that change slowly: their value in a combined request must lie between those of single
 // requests before and after.
@@ -83,11 +84,13 @@ void fast_sampler::run() {
     ending_ = tries_.empty() && level() == 0;
 }
 
-void fast_sampler::take_try(std::string_view reply) {
+void fast_sampler::take_try(std::string_view reply, outcome& out) {
     const std::optional<answer> got = read_answer(*asked_request_, reply);
     if (!got)
         resync_ = resync::flush;
-    if (asked_ == kind::try_digit)
+    if (deferred_)
+        slow_down(out);
+    else if (asked_ == kind::try_digit)
         digit_tried(*asked_request_, got);
     else
         several_tried(*asked_request_, got);
@@ -100,7 +103,7 @@ void fast_sampler::several_tried(request& one, const std::optional<answer>& got)
     }
     learn(one, got->form);
     for (const parameter_answer& part : got->parts)
-        tried_[part.pid] = part.reply;
+        tried_[part.pid].push_back(part.reply);
     if (tries_.empty())
         stage_ = stage::comparing; // after one more cycle
 }
@@ -118,23 +121,45 @@ void fast_sampler::several_fail() {
     }
 }
 
+// Whether a slow parameter was something else among several than it is alone.
+bool fast_sampler::differs(const std::string& pid) const {
+    const auto after = after_.find(pid);
+    if (std::ranges::find(SLOW, pid) == SLOW.end())
+        return false;
+    if (after == after_.end())
+        return true;
+    const auto [low, high] = std::minmax(before_.at(pid), after->second);
+    return std::ranges::any_of(
+        tried_.at(pid), [&](const std::string& tried) { return tried < low || tried > high; });
+}
+
+// What a void reply has left out the next cycle may tell.
 void fast_sampler::compare() {
-    const auto differs = [this](const std::string& pid) {
-        if (std::ranges::find(SLOW, pid) == SLOW.end() || !after_.contains(pid))
-            return false;
-        const auto [low, high] = std::minmax(before_[pid], after_[pid]);
-        return tried_[pid] < low || tried_[pid] > high;
-    };
     std::vector<std::string> grouped;
     for (const request* one : groups_)
         grouped.insert(grouped.end(), one->pids.begin(), one->pids.end());
-    if (std::ranges::none_of(grouped, differs)) {
+    const bool all_told = std::ranges::all_of(
+        grouped, [this](const std::string& pid) { return after_.contains(pid); });
+    if (!all_told && ++compared_ < TIMES_TRIED)
+        return;
+    if (std::ranges::none_of(grouped, [this](const auto& pid) { return differs(pid); })) {
         plan_ = groups_;
         for (request* one : singles_)
             if (std::ranges::find(grouped, one->pids.front()) == grouped.end())
                 plan_.push_back(one);
     }
     run();
+}
+
+// A car that complains, or asks for time, is asked half as often as it would be.
+void fast_sampler::slow_down(outcome& out) {
+    std::vector<milliseconds> times{exchange()};
+    for (const request* one : singles_)
+        times.insert(times.end(), one->plain_times.begin(), one->plain_times.end());
+    // The exchange that showed it may be the only one, and is longer than usual.
+    afterwards_ = std::clamp(median(std::move(times)), milliseconds(1), LONGEST_PAUSE);
+    tries_.clear();
+    give_up(out);
 }
 
 void fast_sampler::queue_digits() {

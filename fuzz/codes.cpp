@@ -13,9 +13,11 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
     for (const std::string_view mode : {"03", "07", "0A"})
         for (const bool is_can : {false, true}) {
             const bus_evidence bus{is_can ? bus_form::can : bus_form::older, bus_source::headers};
-            const auto [codes, answered, no_data, others, unread] = read_codes(mode, reply, bus);
-            REQUIRE(answered || codes.empty());
-            REQUIRE(answered || no_data || !unread.empty());
+            const codes_reading read = read_codes(mode, reply, bus);
+            const std::vector<std::string>& codes = read.codes;
+            REQUIRE(read.answered || codes.empty());
+            REQUIRE(read.answered || read.no_data || !read.unread.empty());
+            REQUIRE(read.units.size() == codes.size());
             REQUIRE(codes.size() <= bytes.size() / 4 + 3 * lines);
             for (const std::string& code : codes) {
                 REQUIRE(code.size() == 5);

@@ -107,7 +107,8 @@ QWidget* prefs_view::build_adapter() {
         QObject::connect(choice, &QRadioButton::clicked, root(),
                          [&clicked = rows[row].clicked] { clicked(); });
         interfaces_[row] = choice;
-        panels_[row] = (this->*rows[row].panel)(group);
+        const auto build_panel = rows[row].panel;
+        panels_[row] = (this->*build_panel)(group);
         column->addWidget(choice);
         column->addWidget(panels_[row]);
     }

@@ -14,6 +14,9 @@
 #include "virtual_run_loop.h"
 
 #include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QTimer>
 
 #include <ctime>
 #include <memory>
@@ -30,6 +33,12 @@ struct application {
                                  folder + "/data",
                                  [this] { return wall_clock + loop.now().count() / 1000; }});
         far.serve(bluetooth);
+        // A file dialog runs in real time: this user wants no file.
+        QObject::connect(&dismisses_, &QTimer::timeout, [] {
+            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+                dialog->reject();
+        });
+        dismisses_.start(1);
     }
     // Separate from the constructor: observers of the deliveries must register first.
     void start() {
@@ -71,4 +80,7 @@ struct application {
     notification_center notifications;
     scripted_serial_port bluetooth{loop};
     std::unique_ptr<Ks_lite_delegate> delegate;
+
+  private:
+    QTimer dismisses_;
 };

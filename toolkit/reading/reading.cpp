@@ -19,6 +19,7 @@ namespace {
 constexpr std::string_view NEGATIVE = "7F";
 constexpr std::string_view PENDING = "78"; // the answer is still to come
 constexpr std::size_t NEGATIVE_DIGITS = 6;
+constexpr std::size_t CAN_FRAME_DIGITS = 16; // eight bytes, the frame's number among them
 
 std::string answer_to(std::string_view request) {
     std::string answer(request);
@@ -151,6 +152,10 @@ void reply_reader::take_can(std::size_t number, const headed_line& line, std::st
     }
     case '1':
     case '2': {
+        if (data.size() > CAN_FRAME_DIGITS) {
+            unread(unread_kind::too_long, whole); // nobody knows which digit is false
+            break;
+        }
         sender& from = senders_[header];
         from.form = line.form;
         if (data.front() == '1') {

@@ -121,6 +121,17 @@ const answer_slot* wire_ledger::asked_for(std::string_view pid, std::uint64_t be
     return nullptr;
 }
 
+const answer_slot& wire_ledger::first_of_equal(const answer_slot& last) const {
+    const answer_slot* first = &last;
+    for (std::size_t i = slots_.size(); i-- > 1;)
+        if (slots_[i].written < last.written && slots_[i].command.starts_with("01")) {
+            if (slots_[i].command != last.command)
+                break;
+            first = &slots_[i];
+        }
+    return *first;
+}
+
 bool answer_slot::sound() const {
     return complete() && !any_line(said, [](std::string_view line) {
                return !all_hex(line.substr(line.size() > 1 && line[1] == ':' ? 2 : 0));

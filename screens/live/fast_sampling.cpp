@@ -61,6 +61,7 @@ void sampling_loop::send_after(run_loop::milliseconds pause, std::function<void(
         send();
         return;
     }
+    stop_timer(); // a second reply in one piece asks once more
     pausing_ = true;
     timer_ = screen_.KS_delegate.doors().loop.after(pause, [this, send = std::move(send)] {
         pausing_ = false;
@@ -72,6 +73,7 @@ void sampling_loop::send_after(run_loop::milliseconds pause, std::function<void(
 void sampling_loop::send_fast(const std::string& command) {
     run_loop& loop = screen_.KS_delegate.doors().loop;
     fast_->sent(loop.now());
+    stop_timer();
     send_command(command, FAST_REPLY);
     timer_ = loop.after(PATIENCE, [this] {
         timer_ = 0;

@@ -5,6 +5,7 @@
 #include "bundle.h"
 #include "far_end.h"
 #include "globalVars.h"
+#include "kept_report.h"
 #include "Ks_lite_delegate.h"
 #include "mac_toolies.h"
 #include "screen_factories.h"
@@ -29,6 +30,7 @@ struct application {
           defaults(folder + "/settings.conf") {
         trace.use_clock(&loop);
         reset_global_vars();
+        last_report() = {};
         mac_toolies::initialize({&resources(), &defaults, &messages, &notifications,
                                  folder + "/data",
                                  [this] { return wall_clock + loop.now().count() / 1000; }});

@@ -25,6 +25,11 @@ void keep(std::string& text, std::string_view more) {
     text += more.substr(0, MOST_KEPT - std::min(MOST_KEPT, text.size()));
 }
 
+// PID 06 to 09, of one bank or of two: both lengths are right.
+bool is_fuel_trim(std::string_view line) {
+    return line.size() > 4 && line.starts_with("410") && line[3] >= '6' && line[3] <= '9';
+}
+
 } // namespace
 
 std::string bare(std::string_view text) {
@@ -44,7 +49,10 @@ bool answer_slot::holds(std::string_view line) const {
     if (any_line(said, [&](std::string_view one) { return one.ends_with(line); }))
         return true;
     return damaged && all_hex(line) && bare(arrived).find(line) != std::string::npos &&
-           any_line(said, [&](std::string_view one) { return one.size() == line.size(); });
+           any_line(said, [&](std::string_view one) {
+               return one.size() == line.size() ||
+                      (is_fuel_trim(line) && one.size() + 2 == line.size());
+           });
 }
 
 bool answer_slot::holds_digits(std::string_view digits) const {
@@ -55,6 +63,7 @@ bool answer_slot::holds_digits(std::string_view digits) const {
             run.erase(run.size() - 9, 1);
         return false;
     });
+    std::ranges::transform(run, run.begin(), [](unsigned char c) { return std::toupper(c); });
     return run.find(digits) != std::string::npos;
 }
 

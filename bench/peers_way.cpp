@@ -36,9 +36,12 @@ double peers_way::values_a_second(std::chrono::milliseconds span) {
     using clock = std::chrono::steady_clock;
     const auto start = clock::now();
     long values = 0;
-    for (; clock::now() - start < span; ++values)
-        if (exchange(requests_[next_++ % requests_.size()]).empty())
+    while (clock::now() - start < span) {
+        const std::string reply = exchange(requests_[next_++ % requests_.size()]);
+        if (reply.empty())
             break;
+        values += reply.find("NO DATA") == std::string::npos; // as a fast run counts
+    }
     return static_cast<double>(values) /
            std::chrono::duration<double>(clock::now() - start).count();
 }

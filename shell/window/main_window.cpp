@@ -211,7 +211,8 @@ void main_window::restore_place() {
 }
 
 void main_window::closeEvent(QCloseEvent* event) {
-    if (delegate_.puts_adapter_back_first([this] { close(); })) {
+    // A second close does not wait.
+    if (isEnabled() && delegate_.puts_adapter_back_first([this] { close(); })) {
         setEnabled(false); // it takes some replies
         event->ignore();
         return;

@@ -131,7 +131,9 @@ const answer_slot* wire_ledger::asked_for(std::string_view pid, std::uint64_t be
 }
 
 bool wire_ledger::is_newest(const answer_slot& slot, std::uint64_t before) const {
-    return &slot == &slots_.back() || (&slot + 1)->written >= before;
+    return std::none_of(&slot + 1, slots_.data() + slots_.size(), [&](const answer_slot& later) {
+        return later.written < before && !later.command.empty();
+    });
 }
 
 bool answer_slot::sound() const {

@@ -63,7 +63,7 @@ class wire_ledger {
     bool in_time(const answer_slot& slot) const;
     // The newest slot that requested that parameter before the moment.
     const answer_slot* asked_for(std::string_view pid, std::uint64_t before) const;
-    // Of those before the moment.
+    // Of those before the moment; an empty line that wakes the adapter is no request.
     bool is_newest(const answer_slot& slot, std::uint64_t before) const;
 
     // Calls `fits` with each slot whose command begins like that and of which anything was

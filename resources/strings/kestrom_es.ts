@@ -139,7 +139,7 @@ Compruebe que:
     </message>
     <message id="ui_rail_codes">
         <source></source>
-        <translation>&amp;Códigos de avería</translation>
+        <translation>&amp;Códigos</translation>
     </message>
     <message id="ui_rail_live">
         <source></source>
@@ -809,7 +809,7 @@ Software libre con licencia MIT.
     </message>
     <message id="ui_run_log">
         <source></source>
-        <translation>Parámetros elegidos</translation>
+        <translation>Parámetros</translation>
     </message>
     <message id="ui_run_fuel">
         <source></source>
@@ -817,11 +817,11 @@ Software libre con licencia MIT.
     </message>
     <message id="ui_run_sensors">
         <source></source>
-        <translation>Sondas de oxígeno</translation>
+        <translation>Sondas lambda</translation>
     </message>
     <message id="ui_run_boost">
         <source></source>
-        <translation>Sobrealimentación</translation>
+        <translation>Turbo</translation>
     </message>
     <message id="ui_unread">
         <source></source>

@@ -143,7 +143,7 @@ Veuillez vérifier que :
     </message>
     <message id="ui_rail_live">
         <source></source>
-        <translation>&amp;Données en direct</translation>
+        <translation>En &amp;direct</translation>
     </message>
     <message id="ui_rail_logs">
         <source></source>

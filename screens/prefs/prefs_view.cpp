@@ -275,9 +275,10 @@ void prefs_view::set_serial(const std::string& path, int speed) {
     show_serial_ports(ports_);
 }
 
-// The chosen one stays chosen while it is unplugged; where none was, the first is.
+// The chosen one stays chosen while it is unplugged; where none was, the first cable is, but not a
+// port of the computer's own, which has no name.
 void prefs_view::show_serial_ports(const std::vector<serial_port_entry>& ports) {
-    if (chosen_port_.empty() && !ports.empty())
+    if (chosen_port_.empty() && !ports.empty() && !ports.front().name.empty())
         chosen_port_ = ports.front().path;
     const QString chosen = display_text(chosen_port_);
     if (ports == ports_ && serial_port_->currentData() == chosen && serial_port_->count() > 0)

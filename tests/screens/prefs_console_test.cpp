@@ -115,7 +115,11 @@ TEST_F(preferences, a_cable_is_chosen_among_the_ports_that_come_and_go) {
     EXPECT_FALSE(app.find("serialPanel")->isHidden());
     EXPECT_TRUE(app.find("wifiTabView")->isHidden());
     EXPECT_EQ(shown(), list{"none is plugged in"});
-    ports = {{"/dev/ttyUSB0", "FT232R\nUART", "FTDI"}, {"/dev/ttyS0", "", ""}};
+    ports = {{"/dev/ttyS0", "", ""}};
+    app.loop.advance(std::chrono::seconds(1));
+    EXPECT_EQ(shown(), (list{"/dev/ttyS0", "none is plugged in"}));
+    EXPECT_EQ(box->currentIndex(), 1) << "the computer's own is for the user to choose";
+    ports.insert(ports.begin(), {"/dev/ttyUSB0", "FT232R\nUART", "FTDI"});
     app.loop.advance(std::chrono::seconds(1));
     EXPECT_EQ(shown(), (list{"/dev/ttyUSB0: FT232R UART, FTDI", "/dev/ttyS0"}));
     EXPECT_EQ(box->currentIndex(), 0);

@@ -149,6 +149,11 @@ TEST_F(preferences, a_cable_is_chosen_among_the_ports_that_come_and_go) {
     app.press("setDefaultsBtn");
     EXPECT_EQ(app.defaults.string(SERIAL_PORT_KEY), "");
     EXPECT_EQ(app.defaults.integer(SERIAL_SPEED_KEY), 0);
+    const std::string link = app.folder.path().toStdString(); // is there, and in no list
+    app.defaults.set_string(SERIAL_PORT_KEY, link);
+    app.delegate->do_prefs();
+    app.find<QRadioButton>("interfaceSerial")->click();
+    EXPECT_EQ(app.find<QComboBox>("serialPort")->currentText().toStdString(), link);
 }
 
 TEST_F(preferences, stored_parameters_outside_the_list_are_dropped) {

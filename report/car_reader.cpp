@@ -129,11 +129,13 @@ void car_reader::take_data(const std::string& reply) {
     piece_.unread.clear();
     std::set<std::string> told_now;
     for (const ecu_answer& one : read.answers)
-        told_now.insert(unit_address(one.form, one.header));
+        if (one.framed)
+            told_now.insert(unit_address(one.form, one.header));
     std::erase_if(piece_.answers,
                   [&](const unit_reply& before) { return told_now.contains(before.unit); });
     for (const ecu_answer& one : read.answers)
-        keep({unit_address(one.form, one.header), one.data}, piece_.answers);
+        if (one.framed)
+            keep({unit_address(one.form, one.header), one.data}, piece_.answers);
     for (const unread_piece& one : read.unread)
         if (one.kind == unread_kind::refused)
             keep({one.unit, one.text}, piece_.refusals);

@@ -1457,7 +1457,7 @@ Freie Software unter der MIT-Lizenz.
     </message>
     <message id="ui_report_hide_vin_hint">
         <source></source>
-        <translation>In allem, was gespeichert, gedruckt oder kopiert wird, sind die letzten sechs Zeichen verborgen.</translation>
+        <translation>Die letzten sechs Zeichen sind verborgen: auf dem Blatt und in allem, was gespeichert, gedruckt oder kopiert wird.</translation>
     </message>
     <message id="ui_report_empty">
         <source></source>

@@ -1456,7 +1456,7 @@ Free software under the MIT licence.
     </message>
     <message id="ui_report_hide_vin_hint">
         <source></source>
-        <translation>In what is saved, printed or copied its last six characters are hidden.</translation>
+        <translation>Its last six characters are hidden: on the sheet, and in what is saved, printed or copied.</translation>
     </message>
     <message id="ui_report_empty">
         <source></source>

@@ -1457,7 +1457,7 @@ Software libre con licencia MIT.
     </message>
     <message id="ui_report_hide_vin_hint">
         <source></source>
-        <translation>En lo que se guarda, imprime o copia se ocultan sus seis últimos caracteres.</translation>
+        <translation>Se ocultan sus seis últimos caracteres: en la hoja y en lo que se guarda, imprime o copia.</translation>
     </message>
     <message id="ui_report_empty">
         <source></source>

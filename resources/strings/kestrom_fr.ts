@@ -1457,7 +1457,7 @@ Logiciel libre sous licence MIT.
     </message>
     <message id="ui_report_hide_vin_hint">
         <source></source>
-        <translation>Dans ce qui est enregistré, imprimé ou copié, ses six derniers caractères sont masqués.</translation>
+        <translation>Ses six derniers caractères sont masqués : sur la feuille et dans ce qui est enregistré, imprimé ou copié.</translation>
     </message>
     <message id="ui_report_empty">
         <source></source>

@@ -100,13 +100,12 @@ class reply_reader {
         unread_piece piece;
     };
     std::vector<deferred_answer> pending_;
-    bool no_data_ = false;
     reading result_;
 };
 
 void reply_reader::take(std::size_t number, std::string_view line) {
     if (const notice* said = notice_in(line)) {
-        no_data_ = no_data_ || said->kind == notice_kind::no_data;
+        result_.no_data = result_.no_data || said->kind == notice_kind::no_data;
         if (said->kind == notice_kind::trouble)
             unread(unread_kind::adapter_notice,
                    line.starts_with(said->spaceless) && said->spaceless.size() < line.size()
@@ -329,7 +328,6 @@ reading reply_reader::read(std::string_view reply) {
     for (const found_message& one : messages_)
         take_message(one);
     settle_pending();
-    result_.no_data = no_data_ && !result_.answered();
     return std::move(result_);
 }
 

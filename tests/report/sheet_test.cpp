@@ -10,20 +10,34 @@
 
 namespace {
 
+constexpr std::string_view NEXT = " > ";
+
 class scripted_door final : public adapter_door {
   public:
     explicit scripted_door(virtual_run_loop& loop) : loop_(loop) {}
     void ask(const std::string& command, run_loop::milliseconds bound, answered told) override {
-        std::optional<std::string> reply = "NO DATA\r\r>";
-        if (const auto found = replies.find(command); found != replies.end())
-            reply =
-                found->second ? std::optional(std::string(found->second) + "\r\r>") : std::nullopt;
-        const auto takes = reply ? run_loop::milliseconds(50) : bound;
-        call_ = loop_.after(takes, [told = std::move(told), reply] { told(reply); });
+        std::string reply = "NO DATA";
+        auto found = replies.find(command);
+        if (found == replies.end())
+            found = replies.find(command.substr(0, 2));
+        if (found != replies.end()) {
+            std::string& left = found->second;
+            const std::size_t end = left.find(NEXT);
+            reply = left.substr(0, end);
+            if (end != left.npos)
+                left.erase(0, end + NEXT.size());
+        }
+        const bool in_time = reply != "-";
+        const auto takes = in_time ? run_loop::milliseconds(50) : bound;
+        call_ = loop_.after(takes, [told = std::move(told), reply = reply + "\r\r>", in_time] {
+            told(in_time ? std::optional(reply) : std::nullopt);
+        });
     }
     void give_up() override { loop_.cancel(call_); }
 
-    std::map<std::string, const char*> replies; // null: none in time
+    // To a request, or to what else asks its service: one after another, parted by " > "; the last
+    // one stays. "-": none in time.
+    std::map<std::string, std::string> replies;
 
   private:
     virtual_run_loop& loop_;
@@ -59,12 +73,14 @@ TEST(sheet, tells_how_each_piece_ended) {
     for (const table_row& row : read_rows(KESTROM_TEST_DATA "/pieces.rows")) {
         SCOPED_TRACE(row.place);
         one_unit car;
-        car.door.replies[row.fields[0]] = row.fields[1] == "-" ? nullptr : row.fields[1].c_str();
+        std::size_t at = 0;
+        for (; at + 2 < row.fields.size(); at += 2)
+            car.door.replies[row.fields[at]] = row.fields[at + 1];
         const car_report report = car.read();
-        EXPECT_EQ(report.heard.end, reading_end::complete);
+        EXPECT_EQ(report.heard.end == reading_end::complete, row.heading == "complete");
         const std::string text = car.text(report);
-        EXPECT_TRUE(contains(text, row.fields[2])) << text;
-        EXPECT_TRUE(contains(text, row.fields[3])) << text;
+        for (; at < row.fields.size(); ++at)
+            EXPECT_TRUE(contains(text, row.fields[at])) << row.fields[at] << "\n" << text;
         EXPECT_TRUE(contains(text, "P0301")) << text; // a piece that fails voids nothing
     }
 }
@@ -72,8 +88,8 @@ TEST(sheet, tells_how_each_piece_ended) {
 TEST(sheet, keeps_what_was_read_before_an_end) {
     one_unit car;
     for (const char* request : {"07", "0A", "0120"})
-        car.door.replies[request] = nullptr;
-    car.door.replies["020200"] = car.door.replies["0900"] = car.door.replies["0600"] = nullptr;
+        car.door.replies[request] = "-";
+    car.door.replies["020200"] = car.door.replies["0900"] = car.door.replies["0600"] = "-";
     const car_report silent = car.read();
     EXPECT_EQ(silent.heard.end, reading_end::adapter_silent);
     EXPECT_TRUE(contains(car.text(silent), "The adapter fell silent"));
@@ -132,6 +148,9 @@ TEST(sheet, compares_only_what_both_reports_tell) {
     after.door.replies["03"] = "7E8 02 43 00";
     after.door.replies["07"] = "7E8 03 7F 07 11";
     after.door.replies["0A"] = before.door.replies["0A"];
+    before.door.replies["0600"] = after.door.replies["0600"] = "7E8 06 46 00 80 00 00 00";
+    after.door.replies["0601"] = "7E8 10 0A 46 01 01 0A 00 64";
+    before.door.replies["0601"] = "7E8 10 0A 46 01 01 0A 00 64\r7E8 21 00 00 0F FF";
     const std::string text =
         sheet_text(comparison_of(before.read(), after.read(), before.resources));
     const auto row = [&](const char* code) {
@@ -139,8 +158,9 @@ TEST(sheet, compares_only_what_both_reports_tell) {
         return at == text.npos ? std::string() : text.substr(at, text.find('\n', at) - at);
     };
     EXPECT_TRUE(row("P0301").ends_with("–")) << text;
-    EXPECT_TRUE(row("P0420").ends_with("not told")) << text;
+    EXPECT_TRUE(row("P0420").ends_with("refused (7F 07 11)")) << text;
     EXPECT_EQ(row("P2002"), "");
+    EXPECT_TRUE(row("[01/01]").ends_with("could not be read")) << text;
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 namespace {
 
@@ -122,18 +123,26 @@ void car_reader::take_words(const std::string& reply) {
     piece_.text = readable(plain_words(reply));
 }
 
-// A later try replaces the answers of an earlier one from the same unit; others are kept.
+// A later try replaces what an earlier one brought of the same unit; the rest is kept. Damage is
+// forgotten once every unit has spoken, or another one than before.
 void car_reader::take_data(const std::string& reply) {
     const reading read = read_reply(asked_->request, reply);
-    piece_.refusals.clear();
-    piece_.unread.clear();
-    std::set<std::string> told_now;
+    unread_pieces damage = std::exchange(piece_.unread, {});
+    const std::size_t voices = piece_.units().size();
+    std::set<std::string> told_now, refused_now;
     for (const ecu_answer& one : read.answers)
-        told_now.insert(unit_address(one.form, one.header));
+        if (one.framed)
+            told_now.insert(unit_address(one.form, one.header));
+    for (const unread_piece& one : read.unread)
+        if (one.kind == unread_kind::refused)
+            refused_now.insert(one.unit);
     std::erase_if(piece_.answers,
                   [&](const unit_reply& before) { return told_now.contains(before.unit); });
+    std::erase_if(piece_.refusals,
+                  [&](const unit_reply& before) { return refused_now.contains(before.unit); });
     for (const ecu_answer& one : read.answers)
-        keep({unit_address(one.form, one.header), one.data}, piece_.answers);
+        if (one.framed)
+            keep({unit_address(one.form, one.header), one.data}, piece_.answers);
     for (const unread_piece& one : read.unread)
         if (one.kind == unread_kind::refused)
             keep({one.unit, one.text}, piece_.refusals);
@@ -143,19 +152,26 @@ void car_reader::take_data(const std::string& reply) {
         return std::ranges::find(piece_.answers, one.unit, &unit_reply::unit) !=
                piece_.answers.end();
     });
+    if (piece_.unread.empty() && piece_.units().size() == voices && somebody_silent())
+        piece_.unread = std::move(damage);
     if (read.bus.form != bus_form::unknown)
         piece_.bus = read.bus.form;
+}
+
+bool car_reader::somebody_silent() const {
+    const std::set<std::string> spoke = piece_.units();
+    return spoke.empty() || std::ranges::any_of(heard_.units(), [&](const std::string& unit) {
+               return !spoke.contains(unit);
+           });
 }
 
 // Duplicate messages count once.
 void car_reader::keep(const unit_reply& told, std::vector<unit_reply>& in) {
     if (std::ranges::find(in, told) != in.end())
         return;
-    std::vector<std::string> units = heard_.units();
-    for (const auto* heard : {&piece_.answers, &piece_.refusals})
-        for (const unit_reply& one : *heard)
-            units.push_back(one.unit);
-    const std::set<std::string> all(units.begin(), units.end());
+    std::set<std::string> all = piece_.units();
+    for (std::string& unit : heard_.units())
+        all.insert(std::move(unit));
     if (in.size() < MOST_ANSWERS && told.data.size() <= LONGEST_DATA &&
         (all.contains(told.unit) || all.size() < MOST_UNITS))
         in.push_back(told);
@@ -173,10 +189,7 @@ bool car_reader::somebody_missed() const {
     constexpr std::string_view FOR_ALL[] = {"0101", "03", "07", "0A", "020200", "0900"};
     if (!piece_.answered() || std::ranges::find(FOR_ALL, piece_.request) == std::end(FOR_ALL))
         return false;
-    return std::ranges::any_of(heard_.units(), [this](const std::string& unit) {
-        return std::ranges::find(piece_.answers, unit, &unit_reply::unit) == piece_.answers.end() &&
-               std::ranges::find(piece_.refusals, unit, &unit_reply::unit) == piece_.refusals.end();
-    });
+    return somebody_silent();
 }
 
 // A unit that deferred its answer is asked again until the time limit; after damage, or silence of
@@ -198,11 +211,9 @@ bool car_reader::worth_repeating() const {
     const bool slow = asked_->bound > ONE_TRY && identifier != 0;
     if (tries_ >= MOST_TRIES && !slow)
         return false;
+    const std::set<std::string> spoke = piece_.units();
     return std::ranges::any_of(heard_.units(), [&](const std::string& unit) {
-        const auto silent = [&](const std::vector<unit_reply>& heard) {
-            return std::ranges::find(heard, unit, &unit_reply::unit) == heard.end();
-        };
-        return identifier != 0 && silent(piece_.answers) && silent(piece_.refusals) &&
+        return identifier != 0 && !spoke.contains(unit) &&
                heard_.lists(unit, request.substr(0, 2)).listed.test(identifier);
     });
 }

@@ -58,6 +58,7 @@ class car_reader {
     void keep(const unit_reply& told, std::vector<unit_reply>& in);
     void keep_unread(unread_kind kind, std::string_view text);
     bool worth_repeating() const;
+    bool somebody_silent() const;
     bool somebody_missed() const;
     void repeat();
     void finish_piece();

@@ -30,6 +30,7 @@ unit_report unit_of(const conversation& heard, const std::string& address,
     fill_values(unit, heard, toolies);
     fill_identity(unit, heard);
     fill_tests(unit, heard, toolies);
+    fill_lost_lists(unit, heard);
     return unit;
 }
 

@@ -4,11 +4,9 @@
 #include "text.h"
 
 #include <algorithm>
-#include <set>
 
 namespace {
 
-constexpr unsigned GROUP = 0x20;
 constexpr std::size_t MASK_DIGITS = 8;
 
 // Where a list of supported identifiers begins, in digits: after service, identifier and any frame
@@ -16,10 +14,6 @@ constexpr std::size_t MASK_DIGITS = 8;
 std::size_t mask_place(std::string_view service, bool can) {
     const bool numbered = service == "02" || (!can && (service == "06" || service == "09"));
     return numbered ? 6 : 4;
-}
-
-std::string mask_request(std::string_view service, unsigned group) {
-    return request_of(service, group) + (service == "02" ? "00" : "");
 }
 
 } // namespace
@@ -37,17 +31,27 @@ std::string request_of(std::string_view service, unsigned identifier) {
     return std::string(service) + DIGITS[identifier / 16 % 16] + DIGITS[identifier % 16];
 }
 
+std::string list_request(std::string_view service, unsigned group) {
+    return request_of(service, group) + (service == "02" ? "00" : "");
+}
+
 const asked_piece* conversation::find(std::string_view request) const {
     const auto found = std::ranges::find(pieces, request, &asked_piece::request);
     return found == pieces.end() ? nullptr : &*found;
 }
 
+std::set<std::string> asked_piece::units() const {
+    std::set<std::string> seen;
+    for (const auto* heard : {&answers, &refusals})
+        for (const unit_reply& one : *heard)
+            seen.insert(one.unit);
+    return seen;
+}
+
 std::vector<std::string> conversation::units() const {
     std::set<std::string> seen;
     for (const asked_piece& piece : pieces)
-        for (const auto* heard : {&piece.answers, &piece.refusals})
-            for (const unit_reply& one : *heard)
-                seen.insert(one.unit);
+        seen.merge(piece.units());
     return {seen.begin(), seen.end()};
 }
 
@@ -67,7 +71,7 @@ conversation::id_list conversation::lists(std::string_view unit, std::string_vie
     for (unsigned group = 0; group < told.listed.size(); group += GROUP) {
         unsigned bits = 0;
         if (more) {
-            const asked_piece* piece = find(mask_request(service, group));
+            const asked_piece* piece = find(list_request(service, group));
             if (!piece)
                 break;
             const auto answer = std::ranges::find(piece->answers, unit, &unit_reply::unit);

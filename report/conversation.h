@@ -6,6 +6,7 @@
 #include "unread.h"
 
 #include <bitset>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,6 +31,8 @@ struct asked_piece {
     int milliseconds = 0;
 
     bool answered() const { return !answers.empty(); }
+    // That answered or refused.
+    std::set<std::string> units() const;
 };
 
 enum class reading_end { complete, cancelled, time_up, adapter_silent, link_lost };
@@ -62,6 +65,10 @@ struct conversation {
 bool is_adapter_command(std::string_view request);
 // "0120" of "01" and 20.
 std::string request_of(std::string_view service, unsigned identifier);
+// Identifiers are listed in groups of 32; the first of each asks for its list, "020000" of frame
+// 00.
+inline constexpr unsigned GROUP = 0x20;
+std::string list_request(std::string_view service, unsigned group);
 
 // More than any car has or sends; what exceeds it is reported, but not stored.
 inline constexpr std::size_t MOST_UNITS = 16, MOST_ANSWERS = 200, LONGEST_DATA = 8192;

@@ -30,6 +30,19 @@ finding not_told(std::string_view request, outcome result, std::string why) {
     return found;
 }
 
+// The list that says whether the unit has an identifier, or the first one missing on the way to it.
+finding deciding_list(const conversation& heard, std::string_view service, unsigned identifier,
+                      std::string_view unit) {
+    const auto listed = heard.lists(unit, service).listed;
+    unsigned group = 0;
+    finding list = finding_of(heard, list_request(service, group), unit);
+    while (list.told() && group + GROUP < identifier && listed.test(group + GROUP)) {
+        group += GROUP;
+        list = finding_of(heard, list_request(service, group), unit);
+    }
+    return list;
+}
+
 // For a request that was never sent: the unit's list did not call for it, there was no list, or the
 // reading had ended.
 finding finding_of_unasked(const conversation& heard, std::string_view request,
@@ -37,10 +50,10 @@ finding finding_of_unasked(const conversation& heard, std::string_view request,
     const std::string_view service = request.substr(0, 2);
     if (heard.end != reading_end::complete || !has_lists(service) || request.size() < 4)
         return not_told(request, outcome::not_asked, WHY_ENDED);
-    const std::string list = std::string(service) + "00" + (service == "02" ? "00" : "");
+    const std::string list = list_request(service, 0);
     if (request == list || !heard.find(list))
         return not_told(request, outcome::not_asked, WHY_ENDED);
-    finding found = finding_of(heard, list, unit);
+    finding found = deciding_list(heard, service, hex_value(request.substr(2, 2)), unit);
     if (found.told())
         return not_told(request, outcome::not_told, WHY_NOT_LISTED);
     found.request = request;
@@ -84,6 +97,20 @@ finding finding_of(const conversation& heard, std::string_view request, std::str
         found.why = why_silent(heard, request, unit);
     }
     return found;
+}
+
+void fill_lost_lists(unit_report& unit, const conversation& heard) {
+    for (const std::string_view service : {"01", "02", "06", "09"}) {
+        const auto listed = heard.lists(unit.address, service).listed;
+        // Without the first list of these each part tells why.
+        const bool parts_tell =
+            service == "06" || service == "09" || (service == "02" && unit.frame_code.empty());
+        for (unsigned group = parts_tell ? GROUP : 0; group < listed.size(); group += GROUP) {
+            finding list = finding_of(heard, list_request(service, group), unit.address);
+            if (group == 0 ? list.result == outcome::unread : listed.test(group) && !list.told())
+                unit.gaps.push_back(std::move(list));
+        }
+    }
 }
 
 std::vector<std::string> answers_of(const conversation& heard, std::string_view request,

@@ -24,3 +24,5 @@ void fill_codes(unit_report& unit, const conversation& heard, const mac_toolies&
 void fill_values(unit_report& unit, const conversation& heard, const mac_toolies& toolies);
 void fill_identity(unit_report& unit, const conversation& heard);
 void fill_tests(unit_report& unit, const conversation& heard, const mac_toolies& toolies);
+// Gaps: the lists of identifiers that are missing, and with them what only they would have named.
+void fill_lost_lists(unit_report& unit, const conversation& heard);

@@ -8,7 +8,7 @@ namespace {
 
 using std::chrono::seconds;
 
-constexpr unsigned GROUP = 0x20, LAST_GROUP = 0xE0;
+constexpr unsigned LAST_GROUP = 0xE0;
 constexpr seconds FIRST_CONTACT{20}; // the adapter may look for the bus
 constexpr seconds SLOW_PIECE{20};    // verification numbers are computed on request
 constexpr unsigned VERIFICATION_NUMBERS = 0x06;
@@ -69,10 +69,9 @@ class question_list {
 
     // The lists of a service, as long as a unit announces another.
     void supported(std::string_view service) {
-        const std::string frame = service == "02" ? "00" : "";
         for (unsigned group = 0; group <= LAST_GROUP; group += GROUP)
             if (group == 0 || listed(service).test(group))
-                add(request_of(service, group) + frame, topic::supported);
+                add(list_request(service, group), topic::supported);
     }
 
     void readings() {

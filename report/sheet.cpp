@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 namespace {
 
@@ -46,7 +47,7 @@ sheet_table pairs() {
 void vehicle_section(sheet_section& to, const car_report& report, const bundle& texts) {
     sheet_table table = pairs();
     std::set<std::string> different;
-    std::string vin = texts.localized("report_not_told");
+    std::string vin = instead(report, part::vin, texts);
     for (const unit_report& unit : report.units)
         if (unit.of(part::vin).told() && different.insert(unit.vin).second && different.size() == 1)
             vin = unit.vin_is_standard
@@ -68,8 +69,9 @@ void vehicle_section(sheet_section& to, const car_report& report, const bundle& 
 void readings_section(sheet_section& to, const car_report& report, const bundle& texts) {
     sheet_table table = pairs();
     table.rows.push_back({texts.localized("report_read_at"), moment(report.heard.read_at)});
-    if (!report.adapter_volts.empty())
-        table.rows.push_back({texts.localized("report_volts"), report.adapter_volts});
+    table.rows.push_back({texts.localized("report_volts"), report.adapter_volts.empty()
+                                                               ? texts.localized("report_not_told")
+                                                               : report.adapter_volts});
     for (const unit_report& unit : report.units)
         if (const auto speed = std::ranges::find(unit.readings, ENGINE_SPEED, &told_value::pid);
             speed != unit.readings.end()) {
@@ -87,8 +89,14 @@ void readings_section(sheet_section& to, const car_report& report, const bundle&
 void cleared_section(sheet_section& to, const car_report& report, const bundle& texts) {
     sheet_table table = pairs();
     add_readings(table, report, since_cleared);
-    if (table.rows.empty())
-        to.line(texts.localized("report_not_told"));
+    if (table.rows.empty()) {
+        const bool lost = std::ranges::any_of(report.units, [](const unit_report& unit) {
+            return std::ranges::any_of(unit.gaps, [](const finding& gap) {
+                return gap.request.starts_with("01") && gap.result == outcome::unread;
+            });
+        });
+        to.line(texts.localized(lost ? "report_unread" : "report_not_told"));
+    }
     to.table(std::move(table));
 }
 
@@ -118,18 +126,15 @@ void units_section(sheet_section& to, const car_report& report, const bundle& te
                       {2, 5, 5, 5},
                       {}};
     for (const unit_report& unit : report.units) {
-        cells first{unit.address, unit.name, "", ""};
-        for (const calibration& one : unit.calibrations) {
-            first[2] = one.id.empty() ? texts.localized("report_not_told") : one.id;
-            first[3] = one.verification_number.empty() ? texts.localized("report_not_told")
-                                                       : one.verification_number;
-            table.rows.push_back(first);
-            first = cells(4);
-        }
-        if (unit.calibrations.empty()) {
-            first[2] = first[3] = texts.localized("report_not_told");
-            table.rows.push_back(first);
-        }
+        cells first{unit.address, unit.name};
+        const auto add = [&](const calibration& one) {
+            first.push_back(calibration_id(unit, one, texts));
+            first.push_back(calibration_number(unit, one, texts));
+            table.rows.push_back(std::exchange(first, cells(2)));
+        };
+        std::ranges::for_each(unit.calibrations, add);
+        if (unit.calibrations.empty())
+            add({});
     }
     if (table.rows.empty())
         to.line(texts.localized("report_not_told"));
@@ -150,17 +155,16 @@ constexpr section_row SECTIONS[] = {
 std::string lamp_text(const car_report& report, const bundle& texts) {
     bool whole = false;
     const auto lamp = report.lamp(whole);
-    return texts.localized(!lamp   ? "report_not_told"
-                           : *lamp ? "report_on"
-                           : whole ? "report_off"
-                                   : "report_off_so_far");
+    if (!lamp)
+        return instead(report, part::status, texts);
+    return texts.localized(*lamp ? "report_on" : whole ? "report_off" : "report_off_so_far");
 }
 
 std::string count_text(const car_report& report, part kind, const bundle& texts) {
     bool whole = false;
     const auto count = report.count(kind, whole);
     if (!count)
-        return texts.localized("report_not_told");
+        return instead(report, kind, texts);
     if (!whole && *count == 0)
         return texts.localized("report_none_so_far");
     return whole ? std::to_string(*count) : say(texts, "report_at_least", {std::to_string(*count)});
@@ -176,7 +180,12 @@ std::vector<sheet_fact> facts_of(const car_report& report, const bundle& texts) 
             {texts.localized("report_fact_readiness"),
              ready ? say(texts, "report_ready",
                          {std::to_string(ready->complete), std::to_string(ready->supported)})
-                   : texts.localized("report_not_told")}};
+                   : instead(report, part::status, texts)}};
+}
+
+// Of a list that may lack only this one.
+std::string instead_of_item(const finding& list, const bundle& texts) {
+    return list.told() ? texts.localized("report_not_told") : instead(list, texts);
 }
 
 } // namespace
@@ -202,6 +211,27 @@ std::string say(const bundle& texts, std::string_view key,
 std::string named(const bundle& texts, const std::string& name) {
     const std::string known = texts.localized("report_name_" + name);
     return known.empty() ? name : known;
+}
+
+std::string instead(const finding& found, const bundle& texts) {
+    return say(texts, "report_" + std::string(outcome_name(found.result)), {found.why});
+}
+
+std::string instead(const car_report& report, part one, const bundle& texts) {
+    const auto outcome_of = [one](const unit_report& unit) { return unit.of(one).result; };
+    const auto worst = std::ranges::max_element(report.units, {}, outcome_of);
+    return worst == report.units.end() ? texts.localized("report_not_told")
+                                       : instead(worst->of(one), texts);
+}
+
+std::string calibration_id(const unit_report& unit, const calibration& one, const bundle& texts) {
+    return one.id.empty() ? instead_of_item(unit.of(part::calibrations), texts) : one.id;
+}
+std::string calibration_number(const unit_report& unit, const calibration& one,
+                               const bundle& texts) {
+    return one.verification_number.empty()
+               ? instead_of_item(unit.of(part::verification_numbers), texts)
+               : one.verification_number;
 }
 
 std::string unit_label(const unit_report& unit) {

@@ -1,6 +1,7 @@
 // Before and after a repair: the differences of two reports. A list missing from one of them yields
 // no differences.
 #include "bundle.h"
+#include "hex_digits.h"
 #include "sheet_parts.h"
 #include "text.h"
 
@@ -51,9 +52,22 @@ class comparer {
     }
 
     std::string absence(const unit_report* unit, part one) const {
-        if (!unit || !unit->of(one).told())
+        if (!unit)
             return word("report_not_told");
+        if (!unit->of(one).told())
+            return instead(unit->of(one), texts_);
         return unit->of(one).unread.empty() ? "–" : word("report_partly");
+    }
+
+    // The answer that holds the test may be missing, or a list that would have named it.
+    std::string absence_of(const told_test& test, const unit_report* unit) const {
+        const std::string request = "06" + test.id.substr(0, 2);
+        if (unit)
+            for (const finding& gap : unit->gaps)
+                if (gap.request == request || (gap.request.starts_with("06") &&
+                                               hex_value(gap.request.substr(2)) % GROUP == 0))
+                    return gap.told() ? word("report_partly") : instead(gap, texts_);
+        return absence(unit, part::tests);
     }
 
     void take(const unit_report& unit, const unit_report* other, bool is_after) {
@@ -75,10 +89,11 @@ class comparer {
         constexpr const char* VERDICTS[] = {"report_failed", "report_passed", "report_no_result"};
         for (const told_test& one : unit.tests)
             put(unit, one.monitor + " [" + one.id + "]", is_after,
-                word(VERDICTS[static_cast<std::size_t>(one.result)]), absence(other, part::tests));
+                word(VERDICTS[static_cast<std::size_t>(one.result)]), absence_of(one, other));
         for (std::size_t i = 0; i < unit.calibrations.size(); ++i)
             put(unit, word("report_col_calibration") + " " + std::to_string(i + 1), is_after,
-                unit.calibrations[i].id + " " + unit.calibrations[i].verification_number,
+                calibration_id(unit, unit.calibrations[i], texts_) + " " +
+                    calibration_number(unit, unit.calibrations[i], texts_),
                 absence(other, part::calibrations));
     }
 

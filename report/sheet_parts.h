@@ -12,8 +12,17 @@ std::string say(const bundle& texts, std::string_view key,
                 std::initializer_list<std::string> places = {});
 // A monitor or counter in the user's language; what the strings table does not know as it is.
 std::string named(const bundle& texts, const std::string& name);
+// "not told", "refused (7F 0A 11)" ...: the text in place of a value.
+std::string instead(const finding& found, const bundle& texts);
+// In place of a value that no unit told.
+std::string instead(const car_report& report, part one, const bundle& texts);
 // "Engine (7E8)".
 std::string unit_label(const unit_report& unit);
+
+// Of a calibration, or why it is missing.
+std::string calibration_id(const unit_report& unit, const calibration& one, const bundle& texts);
+std::string calibration_number(const unit_report& unit, const calibration& one,
+                               const bundle& texts);
 
 using section_maker = void (*)(sheet_section& to, const car_report& report, const bundle& texts);
 void codes_section(sheet_section& to, const car_report& report, const bundle& texts);

@@ -15,11 +15,6 @@ std::string word(const bundle& texts, std::string_view key) {
     return texts.localized(key);
 }
 
-// "not told", "refused (7F 0A 11)" ...: the text in place of a value.
-std::string instead(const finding& found, const bundle& texts) {
-    return say(texts, "report_" + std::string(outcome_name(found.result)), {found.why});
-}
-
 sheet_table codes_of(const unit_report& unit, const bundle& texts) {
     sheet_table table{{word(texts, "report_col_code"), word(texts, "report_col_meaning"),
                        word(texts, "report_col_stored"), word(texts, "report_col_pending"),
@@ -36,7 +31,7 @@ sheet_table codes_of(const unit_report& unit, const bundle& texts) {
                                   unit.of(CODE_KINDS[kind]).unread.empty()
                               ? ""
                               : "?");
-        row.push_back(one.kept_frame ? TICK : "");
+        row.push_back(one.kept_frame ? TICK : unit.of(part::frame).told() ? "" : "?");
         table.rows.push_back(std::move(row));
     }
     return table;

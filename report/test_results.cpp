@@ -14,7 +14,7 @@
 namespace {
 
 constexpr std::size_t RECORD_DIGITS = 18, OLD_DIGITS = 14;
-constexpr unsigned GROUP = 0x20, FIRST_SIGNED = 0x80, SIGN = 0x8000, WHOLE_RANGE = 0x10000;
+constexpr unsigned FIRST_SIGNED = 0x80, SIGN = 0x8000, WHOLE_RANGE = 0x10000;
 constexpr int MOST_PERCENT = 999;
 
 // The number in a word of digits, and the values that mean "no limit" on either side.

@@ -11,7 +11,6 @@
 namespace {
 
 constexpr unsigned READINGS[] = {0x1C, 0x51, 0x0C, 0x05, 0x42, 0x21, 0x30, 0x31, 0x4D, 0x4E, 0xA6};
-constexpr unsigned GROUP = 0x20;
 constexpr std::string_view NO_VALUE = "~";
 
 // The same in plain words and usual units.

@@ -165,7 +165,17 @@ void report_screen::leave_cur_op_gracefully(const std::string&) {
 }
 
 void report_screen::link_lost() {
-    reader_.link_lost();
+    if (reader_.running())
+        reader_.link_lost();
+    else // before it has begun
+        leave_cur_op_gracefully("");
+}
+
+void report_screen::hide_vin() {
+    auto& kept = last_report().report;
+    if (kept)
+        kept = report_of(without_vin(std::move(kept->heard)), toolies);
+    view_->show_report();
 }
 
 void report_screen::save_before_leaving() {

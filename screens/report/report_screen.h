@@ -30,6 +30,8 @@ class report_screen final : public obd_screen, private adapter_door {
     // From the last press: nothing while it runs, or if the adapter could not be initialised.
     const car_report* report() const;
     bool reading() const { return reader_.running(); }
+    // In the last report, for good.
+    void hide_vin();
 
   protected:
     void work_task(int task, int step) override;

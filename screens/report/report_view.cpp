@@ -54,9 +54,15 @@ report_view::report_view(Ks_lite_delegate& delegate, const mac_toolies& toolies)
           static_cast<QWidget*>(open_saved), static_cast<QWidget*>(compare_)})
         row->addWidget(one);
     row->addStretch(1);
-    row->addWidget(add_switch("hideVin", "ui_report_hide_vin", HIDE_VIN_KEY, true));
-    row->addWidget(add_switch("offerReport", "ui_report_offer", NO_OFFER_KEY, false));
     bones.content->addLayout(row);
+    auto* switches = new QHBoxLayout; // long in some languages
+    switches->setSpacing(2 * GRID);
+    QCheckBox* const hides = add_switch("hideVin", "ui_report_hide_vin", HIDE_VIN_KEY, true);
+    QObject::connect(hides, &QCheckBox::toggled, root_.get(), [this] { show_sheet(); });
+    switches->addWidget(hides);
+    switches->addWidget(add_switch("offerReport", "ui_report_offer", NO_OFFER_KEY, false));
+    switches->addStretch(1);
+    bones.content->addLayout(switches);
 
     sheet_ = new QTextBrowser(root_.get());
     sheet_->setObjectName(QStringLiteral("reportSheet"));
@@ -104,14 +110,15 @@ void report_view::show_report() {
     const auto& kept = last_report().report;
     for (QPushButton* one : {save_, print_, copy_, compare_})
         one->setEnabled(kept.has_value());
-    if (kept)
-        show_sheet(sheet_of(*kept, delegate_.doors().resources));
-    else
-        sheet_->clear();
+    show_sheet();
 }
 
-void report_view::show_sheet(const report_sheet& sheet) {
-    sheet_->setHtml(QString::fromStdString(sheet_rich_text(sheet)));
+// As it is given away: what is shown can be selected and copied.
+void report_view::show_sheet() {
+    if (last_report().report)
+        sheet_->setHtml(QString::fromStdString(sheet_rich_text(sheet_to_give())));
+    else
+        sheet_->clear();
 }
 
 report_sheet report_view::sheet_to_give() const {
@@ -194,6 +201,6 @@ void report_view::compare() {
     car_report before;
     if (!read_report("ui_report_compare_title", before))
         return;
-    show_sheet(comparison_of(before, *last_report().report, delegate_.doors().resources));
     before_ = std::move(before);
+    show_sheet();
 }

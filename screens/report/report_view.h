@@ -36,8 +36,8 @@ class report_view {
     QPushButton* add_button(const char* name, std::string_view key, std::function<void()> press);
     QCheckBox* add_switch(const char* name, std::string_view key, const char* setting,
                           bool on_when);
-    void show_sheet(const report_sheet& sheet);
-    // What is shown, as it is given away.
+    void show_sheet();
+    // What is shown and given away.
     report_sheet sheet_to_give() const;
     void save();
     void print();

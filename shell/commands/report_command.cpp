@@ -60,7 +60,8 @@ class report_command final : public car_task {
         screen_->read_clicked();
     }
     bool over() override {
-        if (screen_->task_running())
+        const bool goes_on = screen_->reading() || delegate_.anything_outstanding();
+        if (screen_->task_running() && goes_on)
             return false;
         take_report();
         return true;
@@ -87,9 +88,10 @@ class report_command final : public car_task {
             return;
         told_ = true;
         all_told_ = report->all_told();
-        const car_report given =
-            asked_.hide_vin ? report_of(without_vin(report->heard), screen_->toolies) : *report;
-        printed_ = give(given, sheet_of(given, delegate_.doors().resources), asked_, why_);
+        if (asked_.hide_vin) // in a picture of the window too
+            screen_->hide_vin();
+        report = screen_->report();
+        printed_ = give(*report, sheet_of(*report, delegate_.doors().resources), asked_, why_);
     }
 
     report_screen* screen_ = nullptr;

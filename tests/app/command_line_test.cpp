@@ -123,6 +123,7 @@ TEST_F(shell, a_link_that_fails_ends_with_1_and_the_reason) {
         int status = 1;
     } cases[] = {
         {{"--adapter", "127.0.0.1:1", "codes"}, "Couldn't connect...Please Check"},
+        {{"--adapter", "127.0.0.1:1", "report"}, "Couldn't connect...Please Check"},
         {{"--adapter", "127.0.0.1:1", "clear", "--yes"}, "Couldn't connect...Please Check"},
         {{"--adapter", "127.0.0.1:1", "send", "AT I"}, "'AT I': Couldn't connect"},
         {{"--adapter", "no-such-host.invalid:35000", "codes"}, "Couldn't connect...Please Check"},

@@ -2,6 +2,9 @@
 // against the car's own file.
 #include "car_truth.h"
 #include "report_fixture.h"
+#include "sheet.h"
+
+#include <QFile>
 
 #include <algorithm>
 #include <functional>
@@ -223,6 +226,18 @@ TEST(late_unit, that_the_adapter_cuts_off_is_waited_for) {
     slow.units.back().delay_ms = 60;
     car_on_the_bench bench(std::move(slow));
     expect_truth(bench);
+}
+
+TEST(example, of_the_documentation_is_what_a_car_tells) {
+    car_on_the_bench bench("diesel2019");
+    bench.read();
+    conversation heard = without_vin(bench.reader.heard());
+    heard.program = "Kestrom"; // of any version
+    QFile kept(QStringLiteral(KESTROM_SOURCE_DIR "/docs/report-example.txt"));
+    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+    const bundle english(":/kestrom", "en_US");
+    EXPECT_EQ(kept.readAll().toStdString(),
+              sheet_text(sheet_of(report_of(heard, bench.toolies), english)));
 }
 
 INSTANTIATE_TEST_SUITE_P(cars, every_car, testing::ValuesIn(car_names()),

@@ -148,6 +148,9 @@ TEST(sheet, compares_only_what_both_reports_tell) {
     after.door.replies["03"] = "7E8 02 43 00";
     after.door.replies["07"] = "7E8 03 7F 07 11";
     after.door.replies["0A"] = before.door.replies["0A"];
+    before.door.replies["0600"] = after.door.replies["0600"] = "7E8 06 46 00 80 00 00 00";
+    after.door.replies["0601"] = "7E8 10 0A 46 01 01 0A 00 64";
+    before.door.replies["0601"] = "7E8 10 0A 46 01 01 0A 00 64\r7E8 21 00 00 0F FF";
     const std::string text =
         sheet_text(comparison_of(before.read(), after.read(), before.resources));
     const auto row = [&](const char* code) {
@@ -155,8 +158,9 @@ TEST(sheet, compares_only_what_both_reports_tell) {
         return at == text.npos ? std::string() : text.substr(at, text.find('\n', at) - at);
     };
     EXPECT_TRUE(row("P0301").ends_with("–")) << text;
-    EXPECT_TRUE(row("P0420").ends_with("not told")) << text;
+    EXPECT_TRUE(row("P0420").ends_with("refused (7F 07 11)")) << text;
     EXPECT_EQ(row("P2002"), "");
+    EXPECT_TRUE(row("[01/01]").ends_with("could not be read")) << text;
 }
 
 } // namespace

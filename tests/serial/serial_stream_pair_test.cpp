@@ -224,6 +224,7 @@ TEST(serial_problem_of_a_path, is_told_by_its_file_and_by_who_drives_the_chips) 
     const QTemporaryDir scratch;
     const std::filesystem::path home = scratch.path().toStdString();
     const std::string gone = home / "ttyUSB0";
+    EXPECT_EQ(problem_of_path("").problem, serial_problem::not_chosen);
     EXPECT_EQ(problem_of_path(gone, home / "none").problem, serial_problem::not_there);
     for (const char* maker : {"05ac", "1a86"}) {
         std::filesystem::create_directories(home / maker / "1-2:1.0");

@@ -177,8 +177,12 @@ TEST_F(link_over_bluetooth, an_adapter_switched_off_turns_every_later_command_in
     open();
     app.bluetooth.close_connection_error = 0x0c;
     expect_warning("Error - failed to close the device connection with error 0000000c.\n");
+    send("AT I");
+    app.bluetooth.receive("ELM"); // half a reply
+    app.loop.settle();
     app.bluetooth.drop();
     app.loop.advance(seconds(1));
+    EXPECT_FALSE(app.delegate->anything_outstanding());
     EXPECT_FALSE(connected_2_BT_interface);
     EXPECT_EQ(app.bluetooth.closed_connections, 1);
     app.bluetooth.write_error = 107;
@@ -189,7 +193,7 @@ TEST_F(link_over_bluetooth, an_adapter_switched_off_turns_every_later_command_in
         app.loop.advance(seconds(3));
         EXPECT_EQ(app.last_status(), "Cur op timed out... Please Check/retry");
     }
-    EXPECT_EQ(app.bluetooth.written.size(), 2u);
+    EXPECT_EQ(app.bluetooth.written.size(), 3u);
     EXPECT_EQ(app.bluetooth.choosers, 1);
     EXPECT_EQ(app.bluetooth.closed_channels, 0);
 }

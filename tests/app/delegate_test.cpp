@@ -51,12 +51,14 @@ TEST(settings_at_start, stored_values_decide_the_transport) {
             store.set_integer(KS_INTERFACE_KEY, expected.stored);
             store.set_boolean(STREAM_IS_SERIAL_KEY, expected.serial);
             store.set_string(SERIAL_PORT_KEY, "/dev/ttyUSB7");
+            store.set_integer(SERIAL_SPEED_KEY, 9600);
             for (const char* key : {KS_METRIC_UNITS_KEY, LOG_RUNS_KEY})
                 store.set_boolean(key, true);
         });
         EXPECT_EQ(g_connect_with, expected.transport);
         EXPECT_EQ(g_cur_wifi_IP, expected.address);
         EXPECT_EQ(g_cur_serial_port, expected.port);
+        EXPECT_EQ(g_cur_serial_speed, *expected.port ? 9600 : 0);
         EXPECT_EQ(chosen_transport().serial, *expected.port != 0);
         EXPECT_TRUE(g_metric_units && g_log_runs);
         app.delegate->do_prefs(); // and leaving them keeps what was stored

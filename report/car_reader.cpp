@@ -131,7 +131,8 @@ void car_reader::take_data(const std::string& reply) {
     const std::size_t voices = piece_.units().size();
     std::set<std::string> told_now, refused_now;
     for (const ecu_answer& one : read.answers)
-        told_now.insert(unit_address(one.form, one.header));
+        if (one.framed)
+            told_now.insert(unit_address(one.form, one.header));
     for (const unread_piece& one : read.unread)
         if (one.kind == unread_kind::refused)
             refused_now.insert(one.unit);
@@ -140,7 +141,8 @@ void car_reader::take_data(const std::string& reply) {
     std::erase_if(piece_.refusals,
                   [&](const unit_reply& before) { return refused_now.contains(before.unit); });
     for (const ecu_answer& one : read.answers)
-        keep({unit_address(one.form, one.header), one.data}, piece_.answers);
+        if (one.framed)
+            keep({unit_address(one.form, one.header), one.data}, piece_.answers);
     for (const unread_piece& one : read.unread)
         if (one.kind == unread_kind::refused)
             keep({one.unit, one.text}, piece_.refusals);

@@ -85,6 +85,7 @@ void Ks_lite_delegate::applicationWillTerminate() {
 }
 
 void Ks_lite_delegate::wrap_leave() {
+    stop_put_back(); // nobody waits for it any more
     // An open Bluetooth channel is not closed here, only abandoned; it ends with the program.
     if (connected_2_BT_interface)
         rfcommChannelClosed();

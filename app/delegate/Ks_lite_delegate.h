@@ -127,7 +127,7 @@ class Ks_lite_delegate {
     void changed_adapter(std::span<const std::string_view> put_back) { to_put_back_ = put_back; }
     bool adapter_changed() const { return !to_put_back_.empty(); }
     // Tells `done` in the end, unless a screen sends something or goes: not `well` when the adapter
-    // did not take all of it.
+    // did not take all of it, or cannot be reached any more.
     void put_adapter_back(std::function<void(bool well)> done);
     bool puts_adapter_back() const { return put_back_bound_ != 0; }
     // The adapter was reset, or cannot be reached.

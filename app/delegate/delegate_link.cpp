@@ -76,9 +76,10 @@ void Ks_lite_delegate::work_over_new_link(const std::string& message) {
 }
 
 void Ks_lite_delegate::tell_link_lost() {
-    forget_put_back();
+    to_put_back_ = {};
     if (mainViewController)
         mainViewController->link_lost();
+    forget_put_back(); // after what would go on has ended
     set_doubt(true);
 }
 
@@ -103,7 +104,7 @@ void Ks_lite_delegate::settings_left() {
 }
 
 void Ks_lite_delegate::reconnect() {
-    forget_put_back(); // it would go over the new link, to an adapter that may have been reset
+    to_put_back_ = {}; // it would go over the new link, to an adapter that may have been reset
     if (mainViewController)
         mainViewController->leave_cur_op_gracefully("");
     drop_link();

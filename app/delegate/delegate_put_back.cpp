@@ -85,8 +85,8 @@ void Ks_lite_delegate::stop_put_back() {
 }
 
 void Ks_lite_delegate::forget_put_back() {
-    stop_put_back();
     to_put_back_ = {};
+    put_back_ended(false);
 }
 
 bool Ks_lite_delegate::puts_adapter_back_first(std::function<void()> then) {

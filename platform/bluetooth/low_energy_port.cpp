@@ -28,8 +28,8 @@ bool hung_up(int descriptor) {
 
 } // namespace
 
-low_energy_port::low_energy_port(bluez_devices& devices, QString device)
-    : devices_(devices), device_(std::move(device)) {
+low_energy_port::low_energy_port(bluez_devices& devices, QString device, int write_ms)
+    : devices_(devices), device_(std::move(device)), write_ms_(write_ms) {
     settle_.setSingleShot(true);
     settle_.setInterval(SETTLE_MS);
     connect(&settle_, &QTimer::timeout, this, [this] {
@@ -154,7 +154,7 @@ void low_energy_port::program_wrote() {
                                                         ? QStringLiteral("request")
                                                         : QStringLiteral("command")}};
     when_answered(
-        this, devices_.bus().asyncCall(message, WRITE_MS), [this](const QDBusMessage& reply) {
+        this, devices_.bus().asyncCall(message, write_ms_), [this](const QDBusMessage& reply) {
             if (is_error(reply)) { // part of a command is worse than none
                 qCInfo(log_platform, "Low Energy write: %s: %s", qUtf8Printable(reply.errorName()),
                        qUtf8Printable(reply.errorMessage()));

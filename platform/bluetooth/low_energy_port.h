@@ -19,7 +19,7 @@ class low_energy_port final : public QObject {
     Q_OBJECT
   public:
     // Begins at once, but tells nothing from inside. `device`: BlueZ's object.
-    low_energy_port(bluez_devices& devices, QString device);
+    low_energy_port(bluez_devices& devices, QString device, int write_ms = WRITE_MS);
     ~low_energy_port() override;
 
     static constexpr int SETTLE_MS = 2'000; // for the characteristics, once they are all known
@@ -49,6 +49,7 @@ class low_energy_port final : public QObject {
 
     bluez_devices& devices_;
     const QString device_;
+    const int write_ms_;
     std::optional<gatt_serial_port> port_;
     QTimer settle_;
     bool connected_ = false;

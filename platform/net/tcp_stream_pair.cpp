@@ -1,6 +1,5 @@
 #include "tcp_stream_pair.h"
 
-#include <QByteArray>
 #include <QNetworkProxy>
 
 #include <algorithm>
@@ -13,21 +12,18 @@ constexpr qint64 READ_BUFFER = 256 * 1024;
 }
 
 tcp_stream_pair::tcp_stream_pair(run_loop& loop, std::string host, long port)
-    : loop_(loop), host_(std::move(host)), port_(port) {}
+    : line_stream_pair(loop), host_(std::move(host)), port_(port) {}
 
 tcp_stream_pair::~tcp_stream_pair() {
     close();
 }
 
 void tcp_stream_pair::open(event_handler handler) {
-    handler_ = std::move(handler);
-    if (port_ < 0 || port_ > 65535) {
-        error_ = "Port " + std::to_string(port_) + " is not between 0 and 65535";
-        raise(stream_side::input, STREAM_ERROR);
-        return;
-    }
+    listen(std::move(handler));
+    if (port_ < 0 || port_ > 65535)
+        return raise_error("Port " + std::to_string(port_) + " is not between 0 and 65535");
     connect(&socket_, &QTcpSocket::connected, this, &tcp_stream_pair::connected);
-    connect(&socket_, &QTcpSocket::readyRead, this, &tcp_stream_pair::received);
+    connect(&socket_, &QTcpSocket::readyRead, this, [this] { raise_bytes(); });
     connect(&socket_, &QTcpSocket::errorOccurred, this, &tcp_stream_pair::failed);
     connect(&socket_, &QTcpSocket::disconnected, this, &tcp_stream_pair::disconnected);
     // The desktop's proxy settings do not apply to an adapter.
@@ -39,9 +35,7 @@ void tcp_stream_pair::open(event_handler handler) {
 void tcp_stream_pair::connected() {
     socket_.setSocketOption(QAbstractSocket::LowDelayOption, 1);
     acknowledge_at_once();
-    raise(stream_side::input, STREAM_OPEN_COMPLETED);
-    raise(stream_side::output, STREAM_OPEN_COMPLETED);
-    raise(stream_side::output, STREAM_SPACE_AVAILABLE);
+    raise_open();
 }
 
 // Some adapters write a reply in pieces with Nagle's algorithm on; a delayed acknowledgement then
@@ -53,27 +47,14 @@ void tcp_stream_pair::acknowledge_at_once() {
                  sizeof on);
 }
 
-void tcp_stream_pair::received() {
-    if (bytes_announced_ || ended_)
-        return;
-    bytes_announced_ = true;
-    // Immediately: waiting a turn of the event loop for every reply would cost a third of the
-    // sampling rate.
-    loop_.from_event_loop(event(stream_side::input, STREAM_BYTES_AVAILABLE));
+std::string tcp_stream_pair::take(std::size_t most) {
+    written_since_read_ = false;
+    return socket_.read(static_cast<qint64>(most)).toStdString();
 }
 
-std::string tcp_stream_pair::read(std::size_t most) {
-    bytes_announced_ = false;
-    const QByteArray bytes = socket_.read(static_cast<qint64>(most));
-    written_since_read_ = false;
-    // The socket does not signal again for the remaining bytes: announce them here.
-    if (socket_.bytesAvailable() > 0) {
-        bytes_announced_ = true;
-        raise(stream_side::input, STREAM_BYTES_AVAILABLE);
-    } else if (ended_) {
-        raise(stream_side::input, STREAM_END);
-    }
-    return bytes.toStdString();
+void tcp_stream_pair::bytes_handled() {
+    if (!written_since_read_ && socket_.socketDescriptor() != -1)
+        acknowledge_at_once();
 }
 
 void tcp_stream_pair::write(std::string_view bytes) {
@@ -98,46 +79,16 @@ void tcp_stream_pair::write(std::string_view bytes) {
 void tcp_stream_pair::failed(QAbstractSocket::SocketError error) {
     if (error == QAbstractSocket::RemoteHostClosedError)
         return; // disconnected() reports it as the end
-    error_ = socket_.errorString().toStdString();
-    raise(stream_side::input, STREAM_ERROR);
+    raise_error(socket_.errorString().toStdString());
 }
 
 void tcp_stream_pair::disconnected() {
-    if (socket_.error() != QAbstractSocket::RemoteHostClosedError || ended_)
-        return;
-    ended_ = true;
-    if (bytes_announced_)
-        return; // the end follows the last read
-    bytes_announced_ = socket_.bytesAvailable() > 0;
-    raise(stream_side::input, bytes_announced_ ? STREAM_BYTES_AVAILABLE : STREAM_END);
+    if (socket_.error() == QAbstractSocket::RemoteHostClosedError)
+        raise_end();
 }
 
 void tcp_stream_pair::close() {
-    alive_.reset();
-    handler_ = nullptr;
+    listen_no_more();
     socket_.disconnect(this);
     socket_.abort();
-}
-
-void tcp_stream_pair::raise(stream_side side, int event_code) {
-    loop_.after(run_loop::milliseconds(0), event(side, event_code));
-}
-
-std::function<void()> tcp_stream_pair::event(stream_side side, int event_code) {
-    return [this, alive = std::weak_ptr<bool>(alive_), side, event_code] {
-        if (alive.expired())
-            return;
-        const event_handler call = handler_; // the pair may be replaced meanwhile
-        call(side, event_code);
-        if (alive.expired() || event_code != STREAM_BYTES_AVAILABLE)
-            return;
-        if (!written_since_read_ && socket_.socketDescriptor() != -1)
-            acknowledge_at_once();
-        // Bytes that arrived during a dialog of the handler raised no signal, since this one had
-        // not returned.
-        if (socket_.bytesAvailable() > 0 && !bytes_announced_) {
-            bytes_announced_ = true;
-            raise(stream_side::input, STREAM_BYTES_AVAILABLE);
-        }
-    };
 }

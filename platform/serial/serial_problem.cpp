@@ -16,6 +16,7 @@ namespace {
 
 // In the order of serial_problem; keys of the strings table.
 constexpr const char* TEXTS[] = {"",
+                                 "serial_not_chosen",
                                  "serial_not_there",
                                  "serial_taken",
                                  "serial_not_permitted",
@@ -51,6 +52,8 @@ std::string problem_text(const serial_failure& failure, const bundle& texts,
 serial_failure problem_of_path(const std::string& path, const std::filesystem::path& own_drivers) {
     if (::access(path.c_str(), R_OK | W_OK) == 0)
         return {};
+    if (path.empty())
+        return {serial_problem::not_chosen};
     const int error = errno;
     struct stat file = {};
     if (error == EACCES && ::stat(path.c_str(), &file) == 0)

@@ -8,6 +8,7 @@ class bundle;
 
 enum class serial_problem {
     none,
+    not_chosen,
     not_there,
     taken,         // another service has the cable, and its port has gone
     not_permitted, // `detail` is the group that may

@@ -4,6 +4,7 @@
 #include "serial_port_list.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -41,14 +42,14 @@ std::string listed(const std::vector<long>& speeds) {
 serial_stream_pair::serial_stream_pair(run_loop& loop, const bundle& texts,
                                        std::unique_ptr<serial_line> line, std::string path,
                                        long speed)
-    : loop_(loop), texts_(texts), line_(std::move(line)), path_(std::move(path)),
+    : line_stream_pair(loop), texts_(texts), line_(std::move(line)), path_(std::move(path)),
       speeds_(std::begin(USUAL_SPEEDS), std::end(USUAL_SPEEDS)) {
     if (speed != 0)
         speeds_ = {speed};
 }
 
 void serial_stream_pair::open(event_handler handler) {
-    handler_ = std::move(handler);
+    listen(std::move(handler));
     const serial_failure failure = line_->open(path_, {[this] { readable(); }, [this] { lost(); }});
     if (failure.problem != serial_problem::none)
         fail(failure);
@@ -90,33 +91,14 @@ void serial_stream_pair::hear_answer() {
 void serial_stream_pair::opened() {
     patience_ = 0;
     state_ = state::open;
-    raise(stream_side::input, STREAM_OPEN_COMPLETED);
-    raise(stream_side::output, STREAM_OPEN_COMPLETED);
-    raise(stream_side::output, STREAM_SPACE_AVAILABLE);
+    raise_open();
 }
 
 void serial_stream_pair::readable() {
     if (state_ == state::asking)
-        return hear_answer();
-    if (bytes_announced_ || state_ != state::open)
-        return;
-    bytes_announced_ = true;
-    // Immediately: waiting a turn of the event loop for every reply would cost much of the sampling
-    // rate.
-    loop_.from_event_loop(event(stream_side::input, STREAM_BYTES_AVAILABLE));
-}
-
-std::string serial_stream_pair::read(std::size_t most) {
-    bytes_announced_ = false;
-    std::string bytes = line_->read(most);
-    // The line does not signal again for the remaining bytes: announce them here.
-    if (line_->more_to_read()) {
-        bytes_announced_ = true;
-        raise(stream_side::input, STREAM_BYTES_AVAILABLE);
-    } else if (state_ == state::ended) {
-        raise(stream_side::input, STREAM_END);
-    }
-    return bytes;
+        hear_answer();
+    else if (state_ == state::open)
+        raise_bytes();
 }
 
 void serial_stream_pair::write(std::string_view bytes) {
@@ -127,40 +109,20 @@ void serial_stream_pair::write(std::string_view bytes) {
 void serial_stream_pair::lost() {
     if (state_ == state::asking)
         return fail(line_->why_gone());
-    if (state_ != state::open)
-        return;
-    state_ = state::ended;
-    if (bytes_announced_)
-        return; // the end follows the last read
-    bytes_announced_ = line_->more_to_read();
-    raise(stream_side::input, bytes_announced_ ? STREAM_BYTES_AVAILABLE : STREAM_END);
+    if (std::exchange(state_, state::closed) == state::open)
+        raise_end();
 }
 
 void serial_stream_pair::fail(const serial_failure& why) {
     loop_.cancel(patience_);
     line_->close(); // the next attempt opens it again
     state_ = state::closed;
-    error_ = problem_text(why, texts_, path_);
-    raise(stream_side::input, STREAM_ERROR);
+    raise_error(problem_text(why, texts_, path_));
 }
 
 void serial_stream_pair::close() {
-    alive_.reset();
-    handler_ = nullptr;
+    listen_no_more();
     loop_.cancel(patience_);
     line_->close();
     state_ = state::closed;
-}
-
-void serial_stream_pair::raise(stream_side side, int event_code) {
-    loop_.after(run_loop::milliseconds(0), event(side, event_code));
-}
-
-std::function<void()> serial_stream_pair::event(stream_side side, int event_code) {
-    return [this, alive = std::weak_ptr<bool>(alive_), side, event_code] {
-        if (alive.expired())
-            return;
-        const event_handler call = handler_; // the pair may be replaced meanwhile
-        call(side, event_code);
-    };
 }

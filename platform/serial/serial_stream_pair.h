@@ -6,16 +6,15 @@
 // running one, which the adapter also answers with a prompt.
 #pragma once
 
-#include "run_loop.h"
+#include "line_stream_pair.h"
 #include "serial_line.h"
-#include "stream_pair.h"
 
 #include <memory>
 #include <vector>
 
 class bundle;
 
-class serial_stream_pair final : public stream_pair {
+class serial_stream_pair final : public line_stream_pair {
   public:
     // `speed` 0: tries the usual ones.
     serial_stream_pair(run_loop& loop, const bundle& texts, std::unique_ptr<serial_line> line,
@@ -23,14 +22,14 @@ class serial_stream_pair final : public stream_pair {
     ~serial_stream_pair() override { close(); }
 
     void open(event_handler handler) override;
-    std::string read(std::size_t most) override;
     void write(std::string_view bytes) override;
     void close() override;
-    std::string error_description() const override { return error_; }
 
   private:
-    enum class state { closed, asking, open, ended };
+    enum class state { closed, asking, open };
 
+    std::string take(std::size_t most) override { return line_->read(most); }
+    bool more_to_take() const override { return line_->more_to_read(); }
     void try_next_speed();
     void ask(std::size_t question);
     void hear_answer();
@@ -38,10 +37,7 @@ class serial_stream_pair final : public stream_pair {
     void readable();
     void lost();
     void fail(const serial_failure& why);
-    void raise(stream_side side, int event_code);
-    std::function<void()> event(stream_side side, int event_code);
 
-    run_loop& loop_;
     const bundle& texts_;
     std::unique_ptr<serial_line> line_;
     std::string path_;
@@ -51,9 +47,4 @@ class serial_stream_pair final : public stream_pair {
     bool answered_ = false;
     run_loop::timer_id patience_ = 0;
     state state_ = state::closed;
-    bool bytes_announced_ = false;
-    event_handler handler_;
-    std::string error_;
-    // Scheduled events hold a weak pointer to this, so that a destroyed pair raises none.
-    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
 };

@@ -7,7 +7,7 @@
         <source></source>
         <translation>Kestrom liest die On-Board-Diagnose (OBD-II) Ihres Autos über einen Adapter vom Typ ELM327.
 
-Verbinden: Stecken Sie den Adapter in die Diagnosebuchse des Autos, meist unter dem Lenkrad, und schalten Sie die Zündung ein. Bei einem WLAN-Adapter verbinden Sie diesen Rechner zuerst mit dem Funknetz des Adapters, wählen dann in den Einstellungen WLAN und tragen Adresse und Port ein (meist 192.168.0.10 und 35000). Bei einem Bluetooth-Adapter wählen Sie Bluetooth; beim ersten Lesen oder Messen wählen Sie das Gerät. Bei einem Kabel wählen Sie den Anschluss. Mehr sagen die Kurzhinweise dort.
+Verbinden: Stecken Sie den Adapter in die Diagnosebuchse des Autos, meist unter dem Lenkrad, und schalten Sie die Zündung ein. Bei einem WLAN-Adapter verbinden Sie diesen Rechner zuerst mit dem Funknetz des Adapters, wählen dann in den Einstellungen WLAN und tragen Adresse und Port ein (meist 192.168.0.10 und 35000). Bei einem Bluetooth-Adapter wählen Sie Bluetooth; beim ersten Lesen oder Messen wählen Sie das Gerät. Bei einem Kabel wählen Sie den Anschluss. WLAN und Kabel sind schnell, Bluetooth ist langsamer, Bluetooth Low Energy am langsamsten; die Kurzhinweise der Wahlknöpfe sagen, was jedes braucht und was zu tun ist, wenn es nicht geht.
 
 Fehlercodes: „Codes lesen“ zeigt die gespeicherten Codes mit ihrer Bedeutung, die Motorkontrollleuchte und die Prüfbereitschaft (Readiness). „Codes löschen“ löscht die Codes, schaltet die Leuchte aus und setzt die Prüfbereitschaft zurück; tun Sie das bei stehendem Motor und erst, wenn Sie die Codes notiert haben.
 
@@ -80,6 +80,10 @@ Bitte prüfen Sie:
     <message id="serial_no_answer_yet_MSG">
         <source></source>
         <translation>Der Adapter hat noch nicht geantwortet. Prüfen Sie das Kabel und den Anschluss in den Einstellungen.</translation>
+    </message>
+    <message id="serial_not_chosen">
+        <source></source>
+        <translation>Es ist kein Anschluss gewählt. Stecken Sie den Adapter ein, und wählen Sie seinen Anschluss in den Einstellungen.</translation>
     </message>
     <message id="serial_not_there">
         <source></source>
@@ -498,7 +502,7 @@ Die Namen der Prüfungen sind englisch.</translation>
     </message>
     <message id="ui_kind_bluetooth">
         <source></source>
-        <translation>Braucht nur den Adapter; koppeln Sie ihn hier oder in den Einstellungen des Desktops. Tempo: mittel. Wenn es nicht geht: aus- und einstecken, und kein Telefon darf ihn haben.</translation>
+        <translation>Braucht nur den Adapter; koppeln Sie ihn hier oder in den Einstellungen des Desktops. Tempo: mittel, mit Low Energy geringer. Wenn es nicht geht: aus- und einstecken, und kein Telefon darf ihn haben.</translation>
     </message>
     <message id="ui_kind_wifi">
         <source></source>
@@ -749,7 +753,7 @@ sudo systemctl enable --now bluetooth</translation>
         <source></source>
         <translation>Dieser Rechner hat keinen funktionierenden Bluetooth-Adapter.
 
-Stecken Sie einen Bluetooth-Stick ein, oder benutzen Sie einen WLAN-Diagnoseadapter.</translation>
+Stecken Sie einen Bluetooth-Stick ein, oder benutzen Sie einen Diagnoseadapter mit WLAN oder Kabel.</translation>
     </message>
     <message id="bt_switched_off">
         <source></source>
@@ -790,7 +794,7 @@ Melden Sie sich am Rechner selbst an, oder bitten Sie den Administrator, Sie in 
     </message>
     <message id="bt_no_chooser">
         <source></source>
-        <translation>Es ist kein Bluetooth-Adapter gewählt. Nennen Sie einen mit --bluetooth ADRESSE (kestrom bluetooth-scan zeigt, welche in Reichweite sind) oder einen WLAN-Adapter mit --adapter RECHNER:PORT; --demo braucht keinen.</translation>
+        <translation>Es ist kein Bluetooth-Adapter gewählt. Nennen Sie einen mit --bluetooth ADRESSE (kestrom bluetooth-scan zeigt, welche in Reichweite sind) einen WLAN-Adapter mit --adapter RECHNER:PORT oder ein Kabel mit --adapter /dev/ttyUSB0; --demo braucht keinen.</translation>
     </message>
     <message id="ui_menu_about">
         <source></source>

@@ -7,7 +7,7 @@
         <source></source>
         <translation>Kestrom reads your car's on-board diagnostics (OBD-II) through an ELM327-type adapter.
 
-Connect: plug the adapter into the car's diagnostic port, usually below the steering wheel, and switch the ignition on. For a Wi-Fi adapter, join the adapter's own wireless network first, then choose Wi-Fi in Preferences and enter its address and port (most use 192.168.0.10 and 35000). For a Bluetooth adapter, choose Bluetooth; the first task you start asks which device to use. For a cable, choose its port. The tooltips there tell more.
+Connect: plug the adapter into the car's diagnostic port, usually below the steering wheel, and switch the ignition on. For a Wi-Fi adapter, join the adapter's own wireless network first, then choose Wi-Fi in Preferences and enter its address and port (most use 192.168.0.10 and 35000). For a Bluetooth adapter, choose Bluetooth; the first task you start asks which device to use. For a cable, choose its port. Wi-Fi and cables are fast, Bluetooth is slower, Bluetooth Low Energy slowest; the tooltips of the choices tell what each needs, and what to do when it fails.
 
 Trouble codes: “Read codes” shows the stored codes with their meaning, the malfunction lamp and the readiness monitors. “Clear codes” erases the codes, switches the lamp off and resets the monitors; do it with the engine off, and only after writing the codes down.
 
@@ -80,6 +80,10 @@ Please check:
     <message id="serial_no_answer_yet_MSG">
         <source></source>
         <translation>The adapter has not answered yet. Check the cable and the port in the preferences.</translation>
+    </message>
+    <message id="serial_not_chosen">
+        <source></source>
+        <translation>No port is chosen. Plug the adapter in, and choose its port in the preferences.</translation>
     </message>
     <message id="serial_not_there">
         <source></source>
@@ -497,7 +501,7 @@ N/A: this car does not have this monitor</translation>
     </message>
     <message id="ui_kind_bluetooth">
         <source></source>
-        <translation>Needs nothing but the adapter; pair it here or in the desktop's settings. Speed: middling. When it fails: unplug it, plug it in, and see that no phone has it.</translation>
+        <translation>Needs nothing but the adapter; pair it here or in the desktop's settings. Speed: middling, lower with Low Energy. When it fails: unplug it, plug it in, and see that no phone has it.</translation>
     </message>
     <message id="ui_kind_wifi">
         <source></source>
@@ -748,7 +752,7 @@ sudo systemctl enable --now bluetooth</translation>
         <source></source>
         <translation>This computer has no Bluetooth adapter that works.
 
-Plug in a Bluetooth stick, or use a Wi-Fi diagnostic adapter.</translation>
+Plug in a Bluetooth stick, or use a diagnostic adapter with Wi-Fi or a cable.</translation>
     </message>
     <message id="bt_switched_off">
         <source></source>
@@ -789,7 +793,7 @@ Log in at the computer itself, or ask its administrator to add you to the group 
     </message>
     <message id="bt_no_chooser">
         <source></source>
-        <translation>No Bluetooth adapter was chosen. Name one with --bluetooth ADDRESS (kestrom bluetooth-scan lists those in reach) or a Wi-Fi adapter with --adapter HOST:PORT; --demo needs neither.</translation>
+        <translation>No Bluetooth adapter was chosen. Name one with --bluetooth ADDRESS (kestrom bluetooth-scan lists those in reach) a Wi-Fi adapter with --adapter HOST:PORT, or a cable with --adapter /dev/ttyUSB0; --demo needs none.</translation>
     </message>
     <message id="ui_menu_about">
         <source></source>

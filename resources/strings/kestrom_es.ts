@@ -7,7 +7,7 @@
         <source></source>
         <translation>Kestrom lee el diagnóstico de a bordo (OBD-II) de su coche mediante un adaptador de tipo ELM327.
 
-Conexión: enchufe el adaptador en la toma de diagnóstico del coche, normalmente bajo el volante, y dé el contacto. Con un adaptador Wi-Fi, conecte primero este equipo a la red inalámbrica del adaptador, elija después Wi-Fi en las preferencias y escriba su dirección y su puerto (casi siempre 192.168.0.10 y 35000). Con un adaptador Bluetooth, elija Bluetooth; la primera tarea que inicie preguntará qué dispositivo usar. Con un cable, elija su puerto. Las ayudas emergentes cuentan más.
+Conexión: enchufe el adaptador en la toma de diagnóstico del coche, normalmente bajo el volante, y dé el contacto. Con un adaptador Wi-Fi, conecte primero este equipo a la red inalámbrica del adaptador, elija después Wi-Fi en las preferencias y escriba su dirección y su puerto (casi siempre 192.168.0.10 y 35000). Con un adaptador Bluetooth, elija Bluetooth; la primera tarea que inicie preguntará qué dispositivo usar. Con un cable, elija su puerto. Wi-Fi y los cables son rápidos, Bluetooth lo es menos y Bluetooth Low Energy el que menos; las ayudas emergentes de esas opciones dicen qué necesita cada una y qué hacer si falla.
 
 Códigos de avería: «Leer códigos» muestra los códigos guardados con su significado, el testigo de avería y el estado de los monitores. «Borrar códigos» borra los códigos, apaga el testigo y pone a cero los monitores; hágalo con el motor parado y solo después de anotar los códigos.
 
@@ -81,6 +81,10 @@ Compruebe que:
         <source></source>
         <translation>El adaptador aún no ha respondido. Compruebe el cable y el puerto en las preferencias.</translation>
     </message>
+    <message id="serial_not_chosen">
+        <source></source>
+        <translation>No se ha elegido ningún puerto. Conecte el adaptador y elija su puerto en las preferencias.</translation>
+    </message>
     <message id="serial_not_there">
         <source></source>
         <translation>%1 no existe. Conecte el adaptador o elija otro puerto en las preferencias.</translation>
@@ -139,7 +143,7 @@ Compruebe que:
     </message>
     <message id="ui_rail_codes">
         <source></source>
-        <translation>&amp;Códigos de avería</translation>
+        <translation>&amp;Códigos</translation>
     </message>
     <message id="ui_rail_live">
         <source></source>
@@ -498,7 +502,7 @@ Los nombres de los monitores están en inglés.</translation>
     </message>
     <message id="ui_kind_bluetooth">
         <source></source>
-        <translation>Solo necesita el adaptador; emparéjelo aquí o en los ajustes del escritorio. Velocidad: media. Si falla: desenchúfelo, vuelva a enchufarlo y compruebe que ningún teléfono lo ocupa.</translation>
+        <translation>Solo necesita el adaptador; emparéjelo aquí o en los ajustes del escritorio. Velocidad: media, menor con Low Energy. Si falla: desenchúfelo, vuelva a enchufarlo y compruebe que ningún teléfono lo ocupa.</translation>
     </message>
     <message id="ui_kind_wifi">
         <source></source>
@@ -749,7 +753,7 @@ sudo systemctl enable --now bluetooth</translation>
         <source></source>
         <translation>Este equipo no tiene ningún adaptador Bluetooth que funcione.
 
-Conecte un adaptador USB Bluetooth o use un adaptador de diagnóstico Wi-Fi.</translation>
+Conecte un adaptador USB Bluetooth o use un adaptador de diagnóstico Wi-Fi o de cable.</translation>
     </message>
     <message id="bt_switched_off">
         <source></source>
@@ -790,7 +794,7 @@ Inicie sesión en el propio equipo, o pida a su administrador que lo añada al g
     </message>
     <message id="bt_no_chooser">
         <source></source>
-        <translation>No se ha elegido ningún adaptador Bluetooth. Indique uno con --bluetooth DIRECCIÓN (kestrom bluetooth-scan muestra los que están al alcance) o un adaptador Wi-Fi con --adapter HOST:PUERTO; --demo no necesita ninguno.</translation>
+        <translation>No se ha elegido ningún adaptador Bluetooth. Indique uno con --bluetooth DIRECCIÓN (kestrom bluetooth-scan muestra los que están al alcance), un adaptador Wi-Fi con --adapter HOST:PUERTO o un cable con --adapter /dev/ttyUSB0; --demo no necesita ninguno.</translation>
     </message>
     <message id="ui_menu_about">
         <source></source>
@@ -809,7 +813,7 @@ Software libre con licencia MIT.
     </message>
     <message id="ui_run_log">
         <source></source>
-        <translation>Parámetros elegidos</translation>
+        <translation>Parámetros</translation>
     </message>
     <message id="ui_run_fuel">
         <source></source>
@@ -817,11 +821,11 @@ Software libre con licencia MIT.
     </message>
     <message id="ui_run_sensors">
         <source></source>
-        <translation>Sondas de oxígeno</translation>
+        <translation>Sondas lambda</translation>
     </message>
     <message id="ui_run_boost">
         <source></source>
-        <translation>Sobrealimentación</translation>
+        <translation>Turbo</translation>
     </message>
     <message id="ui_unread">
         <source></source>

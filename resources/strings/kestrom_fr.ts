@@ -7,7 +7,7 @@
         <source></source>
         <translation>Kestrom lit le diagnostic embarqué (OBD-II) de votre voiture au moyen d'un adaptateur de type ELM327.
 
-Connexion : branchez l'adaptateur sur la prise de diagnostic de la voiture, en général sous le volant, et mettez le contact. Avec un adaptateur Wi-Fi, connectez d'abord cet ordinateur au réseau sans fil de l'adaptateur, puis choisissez Wi-Fi dans les préférences et saisissez l'adresse et le port (le plus souvent 192.168.0.10 et 35000). Avec un adaptateur Bluetooth, choisissez Bluetooth ; la première tâche que vous lancez demande quel appareil utiliser. Avec un câble, choisissez son port. Les infobulles y disent le reste.
+Connexion : branchez l'adaptateur sur la prise de diagnostic de la voiture, en général sous le volant, et mettez le contact. Avec un adaptateur Wi-Fi, connectez d'abord cet ordinateur au réseau sans fil de l'adaptateur, puis choisissez Wi-Fi dans les préférences et saisissez l'adresse et le port (le plus souvent 192.168.0.10 et 35000). Avec un adaptateur Bluetooth, choisissez Bluetooth ; la première tâche que vous lancez demande quel appareil utiliser. Avec un câble, choisissez son port. Le Wi-Fi et les câbles sont rapides, le Bluetooth l'est moins, le Bluetooth Low Energy encore moins ; les infobulles de ces choix disent ce que chacun demande et que faire en cas d'échec.
 
 Codes défaut : « Lire les codes » affiche les codes enregistrés avec leur signification, le témoin d'anomalie et l'état des moniteurs. « Effacer les codes » efface les codes, éteint le témoin et remet les moniteurs à zéro ; faites-le moteur arrêté, et seulement après avoir noté les codes.
 
@@ -81,6 +81,10 @@ Veuillez vérifier que :
         <source></source>
         <translation>L'adaptateur n'a pas encore répondu. Vérifiez le câble et le port dans les préférences.</translation>
     </message>
+    <message id="serial_not_chosen">
+        <source></source>
+        <translation>Aucun port n'est choisi. Branchez l'adaptateur et choisissez son port dans les préférences.</translation>
+    </message>
     <message id="serial_not_there">
         <source></source>
         <translation>%1 n'existe pas. Branchez l'adaptateur ou choisissez un autre port dans les préférences.</translation>
@@ -143,7 +147,7 @@ Veuillez vérifier que :
     </message>
     <message id="ui_rail_live">
         <source></source>
-        <translation>&amp;Données en direct</translation>
+        <translation>En &amp;direct</translation>
     </message>
     <message id="ui_rail_logs">
         <source></source>
@@ -498,7 +502,7 @@ Les noms des moniteurs sont en anglais.</translation>
     </message>
     <message id="ui_kind_bluetooth">
         <source></source>
-        <translation>Ne demande que l'adaptateur ; appairez-le ici ou dans les réglages du bureau. Vitesse : moyenne. En cas d'échec : débranchez-le, rebranchez-le et vérifiez qu'aucun téléphone ne l'occupe.</translation>
+        <translation>Ne demande que l'adaptateur ; appairez-le ici ou dans les réglages du bureau. Vitesse : moyenne, moindre avec Low Energy. En cas d'échec : débranchez-le, rebranchez-le et vérifiez qu'aucun téléphone ne l'occupe.</translation>
     </message>
     <message id="ui_kind_wifi">
         <source></source>
@@ -749,7 +753,7 @@ sudo systemctl enable --now bluetooth</translation>
         <source></source>
         <translation>Cet ordinateur n'a pas d'adaptateur Bluetooth en état de marche.
 
-Branchez une clé Bluetooth, ou utilisez un adaptateur de diagnostic Wi-Fi.</translation>
+Branchez une clé Bluetooth, ou utilisez un adaptateur de diagnostic Wi-Fi ou à câble.</translation>
     </message>
     <message id="bt_switched_off">
         <source></source>
@@ -790,7 +794,7 @@ Ouvrez une session sur l'ordinateur même, ou demandez à son administrateur de 
     </message>
     <message id="bt_no_chooser">
         <source></source>
-        <translation>Aucun adaptateur Bluetooth n'est choisi. Indiquez-en un avec --bluetooth ADRESSE (kestrom bluetooth-scan affiche ceux qui sont à portée) ou un adaptateur Wi-Fi avec --adapter HÔTE:PORT ; --demo n'en demande aucun.</translation>
+        <translation>Aucun adaptateur Bluetooth n'est choisi. Indiquez-en un avec --bluetooth ADRESSE (kestrom bluetooth-scan affiche ceux qui sont à portée), un adaptateur Wi-Fi avec --adapter HÔTE:PORT ou un câble avec --adapter /dev/ttyUSB0 ; --demo n'en demande aucun.</translation>
     </message>
     <message id="ui_menu_about">
         <source></source>

@@ -138,7 +138,10 @@ void expertCtrlr::work_current_task() {
         return;
     }
     // A fast run has left headers on and blanks off.
-    KS_delegate.put_adapter_back([this, command](bool) { sendOBDcmd(command + "\r"); });
+    KS_delegate.put_adapter_back([this, command](bool) {
+        if (asked_to_send_)
+            sendOBDcmd(command + "\r");
+    });
 }
 
 void expertCtrlr::handleOBDRcvdMsg(const std::string& text) {

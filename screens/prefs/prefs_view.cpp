@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -24,6 +25,8 @@
 #include <QSvgRenderer>
 #include <QTableView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -275,11 +278,16 @@ void prefs_view::set_serial(const std::string& path, int speed) {
     show_serial_ports(ports_);
 }
 
-// The chosen one stays chosen while it is unplugged; where none was, the first is.
-void prefs_view::show_serial_ports(const std::vector<serial_port_entry>& ports) {
-    if (chosen_port_.empty() && !ports.empty())
+// The chosen one stays chosen while it is unplugged; where none was, the first cable is, but not a
+// port of the computer's own, which has no name.
+void prefs_view::show_serial_ports(std::vector<serial_port_entry> ports) {
+    if (chosen_port_.empty() && !ports.empty() && !ports.front().name.empty())
         chosen_port_ = ports.front().path;
     const QString chosen = display_text(chosen_port_);
+    // The list knows no links to ports, nor pseudo-terminals.
+    if (QFileInfo::exists(chosen) &&
+        std::ranges::find(ports, chosen_port_, &serial_port_entry::path) == ports.end())
+        ports.push_back({chosen_port_, "", ""});
     if (ports == ports_ && serial_port_->currentData() == chosen && serial_port_->count() > 0)
         return;
     ports_ = ports;

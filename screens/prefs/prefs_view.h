@@ -43,7 +43,7 @@ class prefs_view {
     std::string address() const;
     std::string port() const;
     void set_serial(const std::string& path, int speed);
-    void show_serial_ports(const std::vector<serial_port_entry>& ports);
+    void show_serial_ports(std::vector<serial_port_entry> ports);
     std::string serial_port() const;
     int serial_speed() const; // 0: found by trying
     void set_metric_units(bool on);

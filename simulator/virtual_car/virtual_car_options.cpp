@@ -112,7 +112,8 @@ Examples
   kestrom-virtual-car --car diesel
   kestrom-virtual-car --car can11 --latency 0 --fault split_prompt
   kestrom-virtual-car --replay talk.jsonl --timing 0.1
-  kestrom-virtual-car --pty
 then  kestrom --adapter 127.0.0.1:35000 codes
+  kestrom-virtual-car --pty
+then  kestrom --adapter PATH codes, with the path that it tells
 )";
 }

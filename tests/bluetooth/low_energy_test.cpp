@@ -2,10 +2,13 @@
 // a mock of BlueZ.
 #include "bluez_serial_port.h"
 #include "gatt_serial.h"
+#include "low_energy_port.h"
 #include "mock_bluez.h"
 #include "qt_run_loop.h"
 
 #include <cerrno>
+#include <sys/socket.h>
+#include <unistd.h>
 
 namespace {
 
@@ -231,6 +234,21 @@ TEST_F(low_energy_adapter,
         chosen->closeConnection();
         channel.reset();
     }
+}
+
+// The service itself would wait for half a minute, and refuse other writes meanwhile.
+TEST_F(low_energy_adapter, a_write_without_an_answer_ends_the_connection_before_the_service_does) {
+    serve("fff0 fff1 notify; fff0 fff2 write");
+    mock.run("import time\ndef write(*args): time.sleep(60)");
+    low_energy_port port(door.devices(), QString::fromStdString(device), 50);
+    bool opened = false;
+    QObject::connect(&port, &low_energy_port::opened, [&] { opened = true; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return opened; }));
+    const int descriptor = port.take_descriptor();
+    ASSERT_EQ(::write(descriptor, "AT Z\r", 5), 5);
+    char byte = 0;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ::recv(descriptor, &byte, 1, MSG_DONTWAIT) == 0; }));
+    ::close(descriptor);
 }
 
 std::string raising(const char* function, const char* name, const char* text) {

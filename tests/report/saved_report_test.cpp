@@ -39,13 +39,19 @@ TEST(saved_report, opens_as_it_was_and_holds_no_hidden_number) {
     }
 }
 
-TEST(saved_report, hides_what_came_of_the_number_too_late_to_be_understood) {
+TEST(saved_report, hides_the_number_wherever_else_it_came) {
     conversation heard;
-    heard.pieces.resize(2);
+    heard.pieces.resize(3);
     heard.pieces[0].request = "0902"; // in vain
     heard.pieces[1].request = "090A";
     heard.pieces[1].unread = {{unread_kind::frames_unclear, "2:30313233343536"}};
     EXPECT_FALSE(contains(without_vin(heard).pieces[1].unread[0].text, "3334"));
+    heard.pieces[0].answers = {{"7E8", "490201" + in_hex("WKED19E0601234567")}};
+    heard.pieces[1].answers = {{"7E9", "490A01" + in_hex("x234567")}};
+    heard.pieces[2].text = "last car: 234567";
+    const std::vector<asked_piece> hidden = without_vin(heard).pieces;
+    EXPECT_FALSE(contains(hidden[1].answers[0].data, in_hex("2345")));
+    EXPECT_EQ(hidden[2].text, "last car: ******");
 }
 
 struct foreign_row {

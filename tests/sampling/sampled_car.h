@@ -7,6 +7,7 @@
 #include "hex_text.h"
 #include "virtual_adapter.h"
 
+#include <map>
 #include <set>
 #include <string>
 #include <utility>
@@ -44,13 +45,17 @@ class sampled_car {
         sampler_.sent(now_);
         asked_.insert(asked.command);
         ++requests_;
-        for (const std::string& pid : what_.pids)
+        const std::map<std::string, byte_string> told = told_; // of which one reply later is filed
+        for (const std::string& pid : what_.pids) {
             the_car_.units.front().fixed[number(pid)] = value(pid);
+            if (asks_for(asked.command, pid))
+                told_[pid] = value(pid);
+        }
         const std::string reply = exchange(asked.command);
         const bool silent = reply.find('>') == std::string::npos;
         const auto out = silent ? sampler_.timed_out(now_) : sampler_.take(reply, now_);
         for (const fast_sampler::sample& one : out.samples)
-            judge(one);
+            judge(one, told);
         cycles_ += out.ends_cycle;
         if (out.change != fast_sampler::news::none)
             news_ += out.change == fast_sampler::news::given_up ? 'x' : 'v';
@@ -134,10 +139,16 @@ class sampled_car {
         came_.erase(0, size);
         return reply;
     }
-    void judge(const fast_sampler::sample& one) {
+    static bool asks_for(const std::string& command, const std::string& pid) {
+        for (std::size_t at = 2; command.starts_with("01") && at + 2 <= command.size(); at += 2)
+            if (command.substr(at, 2) == pid)
+                return true;
+        return false;
+    }
+    void judge(const fast_sampler::sample& one, const std::map<std::string, byte_string>& told) {
         if (one.reply == "~" || one.reply == "NODATA")
             ++void_;
-        else if (one.reply == "41" + one.pid + hex_text(value(one.pid), false))
+        else if (one.reply == "41" + one.pid + hex_text(told.at(one.pid), false))
             ++true_;
         else if (++false_ == 1)
             first_false_ = one.pid + ": " + one.reply;
@@ -150,4 +161,5 @@ class sampled_car {
     milliseconds now_{0};
     std::string came_;
     unsigned requests_ = 0;
+    std::map<std::string, byte_string> told_; // by the car to the latest request
 };

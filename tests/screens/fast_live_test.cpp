@@ -21,11 +21,14 @@ using std::chrono::seconds;
 
 class fast_run {
   public:
-    explicit fast_run(const std::string& name, std::vector<fault> faults = {})
-        : the_car(load_car(name)), adapter(the_car, options(std::move(faults))) {
+    explicit fast_run(const std::string& name, std::vector<fault> faults = {},
+                      milliseconds round_trip = {})
+        : the_car(load_car(name)), adapter(the_car, options(std::move(faults), round_trip)) {
         app.delegate->doors().make_streams = [this](const std::string&,
                                                     long) -> std::unique_ptr<stream_pair> {
-            return std::make_unique<virtual_car_pair>(app.loop, adapter);
+            auto made = std::make_unique<virtual_car_pair>(app.loop, adapter);
+            pair = made.get();
+            return made;
         };
         expect_warning("propagateSizeHints"); // of a view that is a window of its own
         app.delegate->do_actions();
@@ -33,8 +36,9 @@ class fast_run {
         screen().view()->show();
         app.find<QCheckBox>("fastSwitch")->click();
     }
-    static adapter_options options(std::vector<fault> faults) {
+    static adapter_options options(std::vector<fault> faults, milliseconds round_trip) {
         adapter_options chosen;
+        chosen.round_trip = round_trip;
         chosen.faults = fault_set(std::move(faults));
         return chosen;
     }
@@ -57,6 +61,7 @@ class fast_run {
     app_harness app;
     car the_car;
     virtual_adapter adapter;
+    virtual_car_pair* pair = nullptr; // the last
 };
 
 TEST(fast_live, switch_makes_a_run_fast_tells_so_and_the_adapter_is_left_as_it_was) {
@@ -157,6 +162,43 @@ TEST(fast_live, console_and_the_programs_end_find_the_adapter_as_it_was) {
     fast.app.loop.advance(seconds(1));
     EXPECT_TRUE(ended);
     EXPECT_EQ(fast.says("01 51"), "41 51 01\r\r>");
+}
+
+// Nobody waits for ever, and nothing goes on.
+TEST(fast_live, link_lost_while_the_adapter_is_put_back_is_told_to_whoever_waits) {
+    const auto lose = [](fast_run& fast) {
+        ASSERT_TRUE(fast.app.delegate->puts_adapter_back());
+        expect_warning("Disconected");
+        fast.pair->lose();
+        fast.app.loop.settle();
+        EXPECT_FALSE(fast.app.delegate->puts_adapter_back());
+        EXPECT_FALSE(fast.app.delegate->adapter_changed());
+    };
+    {
+        fast_run closed("can29");
+        closed.run(seconds(5));
+        int ended = 0;
+        EXPECT_TRUE(closed.app.delegate->puts_adapter_back_first([&] { ++ended; }));
+        lose(closed);
+        EXPECT_EQ(ended, 1);
+    }
+    {
+        fast_run console("can29");
+        console.run(seconds(5));
+        console.app.delegate->do_expert();
+        console.app.find<QLineEdit>("cmdTxt")->setText(QStringLiteral("01 51"));
+        console.app.press("sendBtn");
+        lose(console);
+        EXPECT_TRUE(console.app.delegate->anything_outstanding()) << "sent, as later ones are";
+    }
+    fast_run plain("iso9141", {}, milliseconds(2));
+    plain.run(seconds(0));
+    for (int wait = 0; wait < 50000 && !plain.app.delegate->puts_adapter_back(); ++wait)
+        plain.app.loop.advance(milliseconds(1));
+    EXPECT_TRUE(plain.screen().running());
+    lose(plain);
+    EXPECT_FALSE(plain.screen().running());
+    EXPECT_FALSE(plain.app.delegate->anything_outstanding());
 }
 
 TEST(fast_live, every_kind_of_run_is_faster) {

@@ -115,7 +115,11 @@ TEST_F(preferences, a_cable_is_chosen_among_the_ports_that_come_and_go) {
     EXPECT_FALSE(app.find("serialPanel")->isHidden());
     EXPECT_TRUE(app.find("wifiTabView")->isHidden());
     EXPECT_EQ(shown(), list{"none is plugged in"});
-    ports = {{"/dev/ttyUSB0", "FT232R\nUART", "FTDI"}, {"/dev/ttyS0", "", ""}};
+    ports = {{"/dev/ttyS0", "", ""}};
+    app.loop.advance(std::chrono::seconds(1));
+    EXPECT_EQ(shown(), (list{"/dev/ttyS0", "none is plugged in"}));
+    EXPECT_EQ(box->currentIndex(), 1) << "the computer's own is for the user to choose";
+    ports.insert(ports.begin(), {"/dev/ttyUSB0", "FT232R\nUART", "FTDI"});
     app.loop.advance(std::chrono::seconds(1));
     EXPECT_EQ(shown(), (list{"/dev/ttyUSB0: FT232R UART, FTDI", "/dev/ttyS0"}));
     EXPECT_EQ(box->currentIndex(), 0);
@@ -145,6 +149,11 @@ TEST_F(preferences, a_cable_is_chosen_among_the_ports_that_come_and_go) {
     app.press("setDefaultsBtn");
     EXPECT_EQ(app.defaults.string(SERIAL_PORT_KEY), "");
     EXPECT_EQ(app.defaults.integer(SERIAL_SPEED_KEY), 0);
+    const std::string link = app.folder.path().toStdString(); // is there, and in no list
+    app.defaults.set_string(SERIAL_PORT_KEY, link);
+    app.delegate->do_prefs();
+    app.find<QRadioButton>("interfaceSerial")->click();
+    EXPECT_EQ(app.find<QComboBox>("serialPort")->currentText().toStdString(), link);
 }
 
 TEST_F(preferences, stored_parameters_outside_the_list_are_dropped) {

@@ -78,6 +78,8 @@ class pair_on_a_terminal : public testing::Test {
             events.push_back(code);
             if (code == STREAM_BYTES_AVAILABLE)
                 received += pair->read(1024);
+            if (code == STREAM_BYTES_AVAILABLE && while_handled)
+                std::exchange(while_handled, nullptr)();
         });
     }
     void answer(std::string_view bytes) {
@@ -107,6 +109,7 @@ class pair_on_a_terminal : public testing::Test {
     std::unique_ptr<serial_stream_pair> pair;
     std::vector<int> events;
     std::string received;
+    std::function<void()> while_handled; // of the next bytes
 };
 
 TEST_F(pair_on_a_terminal, bytes_go_both_ways_until_it_is_unplugged_and_again_when_it_is_back) {
@@ -127,6 +130,18 @@ TEST_F(pair_on_a_terminal, bytes_go_both_ways_until_it_is_unplugged_and_again_wh
     EXPECT_NE(pair->error_description().find("is not there"), std::string::npos);
     port.plug_in();
     open_and_answer();
+}
+
+TEST_F(pair_on_a_terminal, what_comes_during_a_dialog_of_the_handler_is_announced_behind_it) {
+    open_and_answer();
+    while_handled = [this] {
+        answer("late>");
+        QElapsedTimer clock;
+        for (clock.start(); clock.elapsed() < 50;)
+            QCoreApplication::processEvents();
+    };
+    answer("OK\r\r>");
+    EXPECT_TRUE(wait_for(loop, [this] { return received == "OK\r\r>late>"; }));
 }
 
 TEST_F(pair_on_a_terminal, a_silent_one_is_given_up_at_the_speed_that_was_asked_for) {

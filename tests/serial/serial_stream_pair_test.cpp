@@ -21,6 +21,7 @@ struct far_end {
     std::string answer = "?\r\r>", only_to; // empty: to all
     std::vector<long> speeds;
     std::string asked, incoming;
+    int closes = 0;
     serial_line::listener told;
 };
 
@@ -47,7 +48,7 @@ class scripted_serial_line final : public serial_line {
             (script_.only_to.empty() || script_.only_to == bytes))
             script_.incoming += script_.answer;
     }
-    void close() override {}
+    void close() override { ++script_.closes; }
     serial_failure why_gone() const override { return script_.gone; }
 
   private:
@@ -169,32 +170,38 @@ TEST_F(serial_pair, hands_on_nothing_of_what_was_said_to_find_the_speed) {
     open();
     script.told.readable();
     loop.advance(milliseconds(450));
-    script.incoming = "\r>"; // late, and the answer to the second question after it
-    script.told.readable();
-    loop.advance(milliseconds(90));
-    script.incoming = "ELM327 v1.5\r\r>";
-    script.told.readable();
-    EXPECT_TRUE(codes.empty());
+    // Late, and the answer to the second question after it, in two pieces.
+    for (const char* piece : {"\r>", "ELM327 v1.5\r", "\r>"}) {
+        script.incoming = piece;
+        script.told.readable();
+        loop.advance(milliseconds(90));
+        EXPECT_TRUE(codes.empty()) << piece;
+    }
     EXPECT_TRUE(opens());
     EXPECT_EQ(pair->read(1024), "");
 }
 
 TEST_F(serial_pair, gives_what_came_before_the_end_in_reads_and_then_the_end) {
     script.adapter_speed = 38400;
-    open();
-    ASSERT_TRUE(opens());
-    codes.clear();
-    script.incoming = std::string(3000, 'x');
-    script.told.readable();
-    script.told.lost();
-    std::size_t received = 0;
-    for (std::size_t told = 0; told < codes.size() && codes[told] != STREAM_END; ++told) {
-        received += pair->read(1024).size();
+    for (const bool announced : {true, false}) {
+        codes.clear();
+        open();
+        ASSERT_TRUE(opens());
+        codes.clear();
+        script.incoming = std::string(3000, 'x');
+        if (announced)
+            script.told.readable();
+        script.told.lost();
         loop.settle();
+        std::size_t received = 0;
+        for (std::size_t told = 0; told < codes.size() && codes[told] != STREAM_END; ++told) {
+            received += pair->read(1024).size();
+            loop.settle();
+        }
+        EXPECT_EQ(received, 3000u);
+        EXPECT_EQ(codes, (std::vector{STREAM_BYTES_AVAILABLE, STREAM_BYTES_AVAILABLE,
+                                      STREAM_BYTES_AVAILABLE, STREAM_END}));
     }
-    EXPECT_EQ(received, 3000u);
-    EXPECT_EQ(codes, (std::vector{STREAM_BYTES_AVAILABLE, STREAM_BYTES_AVAILABLE,
-                                  STREAM_BYTES_AVAILABLE, STREAM_END}));
     codes.clear();
     pair->close();
     script.told.lost(); // our own close raises none
@@ -209,6 +216,7 @@ TEST_F(serial_pair, that_goes_while_it_is_tried_tells_who_has_it) {
     script.told.lost();
     loop.advance(std::chrono::seconds(10));
     EXPECT_EQ(codes, std::vector{STREAM_ERROR});
+    EXPECT_EQ(script.closes, 1);
     EXPECT_NE(pair->error_description().find("brltty"), std::string::npos);
 }
 
@@ -216,6 +224,7 @@ TEST(serial_problem_of_a_path, is_told_by_its_file_and_by_who_drives_the_chips) 
     const QTemporaryDir scratch;
     const std::filesystem::path home = scratch.path().toStdString();
     const std::string gone = home / "ttyUSB0";
+    EXPECT_EQ(problem_of_path("").problem, serial_problem::not_chosen);
     EXPECT_EQ(problem_of_path(gone, home / "none").problem, serial_problem::not_there);
     for (const char* maker : {"05ac", "1a86"}) {
         std::filesystem::create_directories(home / maker / "1-2:1.0");

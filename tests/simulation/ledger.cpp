@@ -130,15 +130,10 @@ const answer_slot* wire_ledger::asked_for(std::string_view pid, std::uint64_t be
     return nullptr;
 }
 
-const answer_slot& wire_ledger::first_of_equal(const answer_slot& last) const {
-    const answer_slot* first = &last;
-    for (std::size_t i = slots_.size(); i-- > 1;)
-        if (slots_[i].written < last.written && slots_[i].command.starts_with("01")) {
-            if (slots_[i].command != last.command)
-                break;
-            first = &slots_[i];
-        }
-    return *first;
+bool wire_ledger::is_newest(const answer_slot& slot, std::uint64_t before) const {
+    return std::none_of(&slot + 1, slots_.data() + slots_.size(), [&](const answer_slot& later) {
+        return later.written < before && !later.command.empty();
+    });
 }
 
 bool answer_slot::sound() const {

@@ -63,8 +63,8 @@ class wire_ledger {
     bool in_time(const answer_slot& slot) const;
     // The newest slot that requested that parameter before the moment.
     const answer_slot* asked_for(std::string_view pid, std::uint64_t before) const;
-    // The first of the equal requests of the car, one after the other, that end with that one.
-    const answer_slot& first_of_equal(const answer_slot& last) const;
+    // Of those before the moment; an empty line that wakes the adapter is no request.
+    bool is_newest(const answer_slot& slot, std::uint64_t before) const;
 
     // Calls `fits` with each slot whose command begins like that and of which anything was
     // delivered after the moment, the newest first, until it returns true.

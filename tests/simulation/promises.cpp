@@ -274,14 +274,16 @@ void promises::status_is_true(const codes_report& shown) {
 // prompt is deliberately kept for the next reply, so a duplicate answer in one piece may be that of
 // the previous request. An adapter that answers another request with this parameter's value has
 // reported it. For a combined request, or one with a digit, only the answer to that very request
-// counts; or, where the car is asked nothing else, a late duplicate of the answer to an equal one.
+// counts, and that once the next reply has shown it to be in step.
 bool promises::was_answered(const std::string& pid, const std::string& text) const {
-    if (const answer_slot* const last = app_.ledger.asked_for(pid, delivery_began_);
-        last && last->command != "01" + pid) {
-        const std::uint64_t since = app_.ledger.first_of_equal(*last).written;
+    const answer_slot* last = app_.ledger.asked_for(pid, delivery_began_);
+    if (last && last->command != "01" + pid) {
+        const answer_slot* const before = app_.ledger.asked_for(pid, last->written);
+        if (before && app_.ledger.is_newest(*last, delivery_began_))
+            last = before;
         return answers_parameter(text, pid) &&
-               app_.ledger.any_answer("01", since, [&](const answer_slot& slot) {
-                   return slot.written >= since && slot.tells(text.substr(2));
+               app_.ledger.any_answer("01", last->written, [&](const answer_slot& slot) {
+                   return slot.written >= last->written && slot.tells(text.substr(2));
                });
     }
     const answer_slot* asked = app_.ledger.asked("01" + pid, delivery_began_);

@@ -43,6 +43,10 @@ class virtual_car_pair final : public stream_pair {
         handler_ = nullptr;
     }
     std::string error_description() const override { return "Connection refused"; }
+    void lose() {
+        gone_ = true;
+        raise(stream_side::input, STREAM_END);
+    }
 
   private:
     // Passes on what the adapter has to say by now, and comes back when more is due.
@@ -59,8 +63,7 @@ class virtual_car_pair final : public stream_pair {
                 raise(stream_side::input, STREAM_BYTES_AVAILABLE);
         }
         if (adapter_.wants_close(loop_.now())) {
-            gone_ = true;
-            raise(stream_side::input, STREAM_END);
+            lose();
         } else if (const auto due = adapter_.next_output()) {
             later(*due - loop_.now(), [this] { pump(); });
         }

@@ -78,6 +78,7 @@ class reply_reader {
     static std::size_t size_without_checksum(const found_message& one, bus_form bus);
     void check_what_follows(const found_message& one, std::size_t whole, bus_form bus);
     bool belongs(const found_message& one, std::size_t whole, bus_form bus) const;
+    bool is_framed(const found_message& one, std::size_t whole) const;
     std::size_t size_of_other_answer(const found_message& one) const;
     void settle_pending();
     void unread(unread_kind kind, std::string_view text) {
@@ -99,13 +100,12 @@ class reply_reader {
         unread_piece piece;
     };
     std::vector<deferred_answer> pending_;
-    bool no_data_ = false;
     reading result_;
 };
 
 void reply_reader::take(std::size_t number, std::string_view line) {
     if (const notice* said = notice_in(line)) {
-        no_data_ = no_data_ || said->kind == notice_kind::no_data;
+        result_.no_data = result_.no_data || said->kind == notice_kind::no_data;
         if (said->kind == notice_kind::trouble)
             unread(unread_kind::adapter_notice,
                    line.starts_with(said->spaceless) && said->spaceless.size() < line.size()
@@ -223,7 +223,7 @@ void reply_reader::take_message(const found_message& one) {
         else
             take_answer(one);
     } else if (data.starts_with(std::string(NEGATIVE) + std::string(request_.substr(0, 2))) &&
-               data.size() >= NEGATIVE_DIGITS) {
+               data.size() >= NEGATIVE_DIGITS && is_framed(one, NEGATIVE_DIGITS)) {
         const unread_piece refusal{unread_kind::refused,
                                    std::string(data.substr(0, NEGATIVE_DIGITS)),
                                    unit_address(one.at.form, one.header)};
@@ -246,7 +246,8 @@ void reply_reader::take_answer(const found_message& one) {
     if (data.size() < digits_of(one))
         unread(unread_kind::broken_off, data);
     check_what_follows(one, whole, bus);
-    ecu_answer answer{one.at.form, one.header, {}, std::string(data.substr(0, whole)), bus};
+    ecu_answer answer{one.at.form, one.header,           {}, std::string(data.substr(0, whole)),
+                      bus,         is_framed(one, whole)};
     answer.unit = unit_name({answer.form, answer.header, {}});
     result_.answers.push_back(std::move(answer));
 }
@@ -275,6 +276,19 @@ bool reply_reader::belongs(const found_message& one, std::size_t whole, bus_form
            (one.data.starts_with("41") || ends_with_checksum(one.header + one.data));
 }
 
+// Another message that ran into it, or a line that lost digits, shows by the frame; a car's wrong
+// count of codes does not.
+bool reply_reader::is_framed(const found_message& one, std::size_t whole) const {
+    const bus_form bus = bus_of_message(one);
+    if (one.at.form == header_form::none || one.of_frames)
+        return true;
+    if (bus == bus_form::older)
+        return one.data.size() >= whole && belongs(one, whole, bus);
+    return one.data.size() >= one.announced &&
+           (one.behind.empty() ||
+            (is_fill(one.behind) && one.data.size() + one.behind.size() == LONGEST_FRAME_DIGITS));
+}
+
 void reply_reader::check_what_follows(const found_message& one, std::size_t whole, bus_form bus) {
     if (!belongs(one, whole, bus))
         unread(unread_kind::too_long,
@@ -285,7 +299,8 @@ void reply_reader::check_what_follows(const found_message& one, std::size_t whol
 std::size_t reply_reader::size_of_other_answer(const found_message& one) const {
     const std::string_view data = one.data;
     if (data.starts_with(NEGATIVE))
-        return data.size() >= NEGATIVE_DIGITS ? NEGATIVE_DIGITS : 0;
+        return data.size() >= NEGATIVE_DIGITS && is_framed(one, NEGATIVE_DIGITS) ? NEGATIVE_DIGITS
+                                                                                 : 0;
     if (std::ranges::find(CODE_SERVICES, data.substr(0, 2)) != std::end(CODE_SERVICES))
         return 0;
     const bus_form bus = bus_of_message(one);
@@ -313,7 +328,6 @@ reading reply_reader::read(std::string_view reply) {
     for (const found_message& one : messages_)
         take_message(one);
     settle_pending();
-    result_.no_data = no_data_ && !result_.answered();
     return std::move(result_);
 }
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -101,8 +102,7 @@ fast_sampler::question fast_sampler::next(milliseconds now) {
     return ask_plan(now);
 }
 
-// A reply that lags by one could answer the same request sent twice in a row, so one that it cannot
-// answer goes between.
+// The same request is not sent twice in a row: a reply that lags by one could answer both.
 fast_sampler::question fast_sampler::ask_plan(milliseconds now) {
     request* const one = plan_[cursor_];
     if (one == last_of_car_)
@@ -147,7 +147,7 @@ bool fast_sampler::due_plain(const request& one, milliseconds now) const {
 }
 
 fast_sampler::outcome fast_sampler::take(std::string_view reply, milliseconds now) {
-    outcome out;
+    outcome out = std::exchange(held_, {});
     answered_at_ = now;
     switch (asked_) {
     case kind::setup:
@@ -194,14 +194,18 @@ void fast_sampler::take_in_step(std::string_view reply, outcome& out) {
             reported_bus_ = reported;
             settle_bus(out);
         }
-    } else if (++steps_missed_ >= MOST_STEPS_MISSED) {
-        give_the_cycle_up(out);
-    } else {
-        if (resync_ == resync::none && reported_bus_ != '0')
-            count_void(out); // which nothing else has told of
-        out.answer_is_missing = true;
-        resync_ = resync::flush;
+        return;
     }
+    const bool known = resync_ != resync::none && out.samples.empty();
+    discard(out);
+    if (++steps_missed_ >= MOST_STEPS_MISSED) {
+        give_the_cycle_up(out);
+        return;
+    }
+    if (!known && reported_bus_ != '0')
+        count_void(out);
+    out.answer_is_missing = true;
+    resync_ = resync::flush;
 }
 
 void fast_sampler::settle_bus(outcome& out) {
@@ -226,21 +230,44 @@ void fast_sampler::take_plan(std::string_view reply, outcome& out) {
     request& one = *asked_request_;
     const std::optional<answer> got = read_answer(one, reply);
     if (got && (!asked_digit_ || got->form == *one.known)) {
-        file(one, *got, out);
+        file(one, *got);
+        if (plan_.size() == 1)
+            resync_ = resync::in_step; // a late reply would pass for the next one
     } else if (!asked_digit_ && one.pids.size() == 1 && notice_ == "NODATA") {
-        out.samples.push_back({one.pids.front(), notice_});
+        held_.samples.push_back({one.pids.front(), notice_});
         learn(one, {});
         if (plan_.size() == 1)
-            resync_ = resync::flush; // a late answer would pass for the next one
+            resync_ = resync::flush; // so would a late answer
     } else {
+        if (is_behind(reply, out.samples))
+            discard(out);
         void_reply(one, out);
     }
     advance(out);
 }
 
-void fast_sampler::file(request& one, const answer& got, outcome& out) {
+// The car's answer comes after an older one that has passed for it, or the adapter was still
+// waiting for it.
+bool fast_sampler::is_behind(std::string_view reply, const std::vector<sample>& taken) const {
+    return notice_ == "STOPPED" ||
+           std::ranges::any_of(
+               read_strictly(asked_command_, reply).messages, [&](const unit_message& one) {
+                   return std::ranges::any_of(taken, [&](const sample& each) {
+                       const auto source = sources_.find(each.pid);
+                       return one.data.starts_with("41" + each.pid) &&
+                              (source == sources_.end() || source->second == one.unit);
+                   });
+               });
+}
+
+void fast_sampler::discard(outcome& out) {
+    for (sample& one : out.samples)
+        one.reply = "~";
+}
+
+void fast_sampler::file(request& one, const answer& got) {
     for (const parameter_answer& part : got.parts)
-        out.samples.push_back({part.pid, part.reply});
+        held_.samples.push_back({part.pid, part.reply});
     if (asked_digit_)
         return;
     if (one.pids.size() == 1) {
@@ -257,7 +284,7 @@ void fast_sampler::file(request& one, const answer& got, outcome& out) {
 
 void fast_sampler::void_reply(request& one, outcome& out) {
     for (const std::string& pid : one.pids)
-        out.samples.push_back({pid, "~"});
+        held_.samples.push_back({pid, "~"});
     resync_ = resync::flush;
     one.asked_since_plain = CHECKED_EVERY;
     count_void(out);
@@ -304,9 +331,11 @@ void fast_sampler::advance(outcome& out) {
     if (++cursor_ < plan_.size())
         return;
     cursor_ = 0;
-    out.ends_cycle = true;
+    held_.ends_cycle = true;
     if (!ending_)
         cycle_ended(out);
+    if (ending_ && resync_ == resync::none)
+        resync_ = resync::in_step; // nothing else would let the last reply go
 }
 
 void fast_sampler::cycle_ended(outcome& out) {

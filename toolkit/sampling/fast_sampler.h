@@ -6,7 +6,8 @@
 // things, each used only once proven on this connection: a digit after the request that tells the
 // adapter how many frames to expect, so that it does not wait for more, and on CAN up to six
 // parameters in one request. Tries are separate requests between two cycles; their replies are not
-// filed. A reply with anything odd about it is discarded entirely.
+// filed. A reply with anything odd about it is discarded entirely. What is filed is that of the
+// reply before: only the next one shows whether a reply was an older one, out of step.
 #pragma once
 
 #include "strict_reply.h"
@@ -108,7 +109,9 @@ class fast_sampler {
     void give_the_cycle_up(outcome& out);
     void take_in_step(std::string_view reply, outcome& out);
     void take_plan(std::string_view reply, outcome& out);
-    void file(request& one, const answer& got, outcome& out);
+    bool is_behind(std::string_view reply, const std::vector<sample>& taken) const;
+    static void discard(outcome& out);
+    void file(request& one, const answer& got);
     void void_reply(request& one, outcome& out);
     void count_void(outcome& out);
     void learn(request& one, const shape& form);
@@ -150,6 +153,7 @@ class fast_sampler {
     char reported_bus_ = '0'; // its latest answer, may be "?"
     stage stage_ = stage::learning;
     resync resync_ = resync::none;
+    outcome held_; // of the last reply, until the next one shows that it was no older one
 
     kind asked_ = kind::setup;
     request* asked_request_ = nullptr;

@@ -86,8 +86,11 @@ void fast_sampler::run() {
 
 void fast_sampler::take_try(std::string_view reply, outcome& out) {
     const std::optional<answer> got = read_answer(*asked_request_, reply);
-    if (!got)
+    if (!got) {
+        if (is_behind(reply, out.samples))
+            discard(out);
         resync_ = resync::flush;
+    }
     if (deferred_)
         slow_down(out);
     else if (asked_ == kind::try_digit)

@@ -30,15 +30,29 @@ finding not_told(std::string_view request, outcome result, std::string why) {
     return found;
 }
 
+} // namespace
+
+finding list_finding(const conversation& heard, std::string_view service, unsigned group,
+                     std::string_view unit) {
+    finding list = finding_of(heard, list_request(service, group), unit);
+    if (list.told() && !heard.lists(unit, service).reached.test(group + 1)) { // cut off
+        list.result = outcome::unread;
+        list.why = WHY_INCOMPLETE;
+    }
+    return list;
+}
+
+namespace {
+
 // The list that says whether the unit has an identifier, or the first one missing on the way to it.
 finding deciding_list(const conversation& heard, std::string_view service, unsigned identifier,
                       std::string_view unit) {
     const auto listed = heard.lists(unit, service).listed;
     unsigned group = 0;
-    finding list = finding_of(heard, list_request(service, group), unit);
+    finding list = list_finding(heard, service, group, unit);
     while (list.told() && group + GROUP < identifier && listed.test(group + GROUP)) {
         group += GROUP;
-        list = finding_of(heard, list_request(service, group), unit);
+        list = list_finding(heard, service, group, unit);
     }
     return list;
 }
@@ -106,7 +120,7 @@ void fill_lost_lists(unit_report& unit, const conversation& heard) {
         const bool parts_tell =
             service == "06" || service == "09" || (service == "02" && unit.frame_code.empty());
         for (unsigned group = parts_tell ? GROUP : 0; group < listed.size(); group += GROUP) {
-            finding list = finding_of(heard, list_request(service, group), unit.address);
+            finding list = list_finding(heard, service, group, unit.address);
             if (group == 0 ? list.result == outcome::unread : listed.test(group) && !list.told())
                 unit.gaps.push_back(std::move(list));
         }

@@ -9,6 +9,10 @@
 
 finding finding_of(const conversation& heard, std::string_view request, std::string_view unit);
 
+// Of a list of identifiers, which may have come in part only.
+finding list_finding(const conversation& heard, std::string_view service, unsigned group,
+                     std::string_view unit);
+
 // The data of its answers, in the order in which they came.
 std::vector<std::string> answers_of(const conversation& heard, std::string_view request,
                                     std::string_view unit);

@@ -150,7 +150,7 @@ void take_answer(unit_report& unit, std::string_view answer, bool older,
 } // namespace
 
 void fill_tests(unit_report& unit, const conversation& heard, const mac_toolies& toolies) {
-    unit.of(part::tests) = finding_of(heard, "0600", unit.address);
+    unit.of(part::tests) = list_finding(heard, "06", 0, unit.address);
     const auto listed = heard.lists(unit.address, "06").listed;
     for (unsigned monitor = 1; monitor <= 0xFF; ++monitor) {
         if (monitor % GROUP == 0)

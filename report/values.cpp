@@ -1,4 +1,5 @@
 // Parameters of service 01 and of the freeze frame, by the table of standard values first.
+#include "answer_sizes.h"
 #include "constantes.h"
 #include "findings.h"
 #include "hex_digits.h"
@@ -45,9 +46,14 @@ told_value value_of(const conversation& heard, const std::string& request, unsig
     value.found = finding_of(heard, request, unit);
     const std::size_t head = request.size(); // the frame number follows the PID
     for (const std::string& answer : answers_of(heard, request, unit))
-        if (answer.size() > head) {
+        if (const auto whole = answer_digits(answer, bus_form::unknown);
+            whole && answer.size() < *whole) { // half of it would be another value
+            value.found.result = outcome::unread;
+            value.found.why = WHY_INCOMPLETE;
+        } else if (answer.size() > head) {
             value.text = value_text("41" + request.substr(2, 2) + answer.substr(head), toolies);
-            if (value.text.empty()) // not in any table: the bytes themselves
+            // Not in any table: the bytes themselves, unless some are missing.
+            if (value.text.empty() && value.found.unread.empty())
                 value.text = answer.substr(head);
         }
     return value;
@@ -56,6 +62,8 @@ told_value value_of(const conversation& heard, const std::string& request, unsig
 void take(unit_report& unit, std::vector<told_value>& to, told_value value) {
     if (value.found.told() && value.text.empty())
         value.found.result = outcome::unread;
+    if (value.found.told() && !value.found.unread.empty())
+        unit.gaps.push_back(value.found);
     if (value.found.told())
         to.push_back(std::move(value));
     else if (value.found.why != WHY_NOT_LISTED && value.found.result != outcome::not_asked)

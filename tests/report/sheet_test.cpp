@@ -48,7 +48,7 @@ class one_unit {
   public:
     one_unit() : door(loop), reader(loop, door) {
         door.replies = {{"ATH1", "OK"},
-                        {"0100", "7E8 06 41 00 80 00 00 00"},
+                        {"0100", "7E8 06 41 00 80 10 00 00"},
                         {"0101", "7E8 06 41 01 81 07 00 00"},
                         {"03", "7E8 04 43 01 03 01"}};
     }
@@ -87,7 +87,7 @@ TEST(sheet, tells_how_each_piece_ended) {
 
 TEST(sheet, keeps_what_was_read_before_an_end) {
     one_unit car;
-    for (const char* request : {"07", "0A", "0120"})
+    for (const char* request : {"07", "0A", "0120", "010C"})
         car.door.replies[request] = "-";
     car.door.replies["020200"] = car.door.replies["0900"] = car.door.replies["0600"] = "-";
     const car_report silent = car.read();

@@ -92,7 +92,7 @@ TEST(fast_sampler_test, no_fault_makes_a_level_that_is_in_use_file_anything_else
                                               std::to_string(pids.size());
                     ASSERT_EQ(car.sampler().level(), level) << scene;
                     car.meet(with_value(row));
-                    car.run(seconds(20));
+                    car.run(seconds(6));
                     EXPECT_EQ(car.false_, 0) << scene << ": " << car.first_false_;
                 }
 }

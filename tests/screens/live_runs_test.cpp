@@ -198,12 +198,12 @@ TEST(live_runs, no_fault_files_a_value_under_another_name) {
                                                      {"echo_stuck", 0},
                                                      {"buffer_full=14", 0.7},
                                                      {"nagle", 1},
-                                                     {"latency=700", 1}};
+                                                     {"latency=300", 1}};
     for (const auto& [fault, least] : faults) {
         SCOPED_TRACE(fault);
         expect_warning("");
         car_on_the_road bench(engine, {fault});
-        bench.run(TASK_RUN_LOG, 60);
+        bench.run(TASK_RUN_LOG, 20);
         EXPECT_TRUE(bench.screen().running()) << bench.app.last_status();
         ASSERT_GT(bench.rows.size(), 10u);
         std::size_t right = 0, all = 0;

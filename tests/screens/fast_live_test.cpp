@@ -228,12 +228,12 @@ TEST(fast_live, where_nothing_is_gained_the_run_goes_on_plainly_and_the_switch_s
 
 TEST(fast_live, other_car_may_be_faster) {
     fast_run fast("iso9141");
-    fast.run(seconds(30));
+    fast.run(seconds(12));
     fast.app.press("startStopBtn");
     fast.the_car = load_car("can29");
     fast.app.delegate->reconnect();
     fast.app.loop.advance(seconds(5));
-    fast.run(seconds(20));
+    fast.run(seconds(6));
     EXPECT_EQ(fast.screen().fast_level(), 3);
 }
 

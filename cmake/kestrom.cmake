@@ -8,9 +8,6 @@ target_compile_options(kestrom_options INTERFACE
 target_compile_definitions(kestrom_options INTERFACE
   QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
   KESTROM_VERSION="${PROJECT_VERSION}")
-if(CMAKE_UNITY_BUILD) # said of what another file has; the release build says it of the file's own
-  target_compile_options(kestrom_options INTERFACE -Wno-shadow)
-endif()
 if(KESTROM_SANITIZE)
   target_compile_options(kestrom_options INTERFACE
     -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all -fno-omit-frame-pointer)
@@ -20,30 +17,19 @@ if(KESTROM_FUZZ)
   target_compile_options(kestrom_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# Several sources a compilation, as headers take most of the time: in CI, tests in every build and the rooms under the
-# sanitizers. The release build compiles the rooms' files one by one, which proves that each stands alone. A source
-# whose unnamed namespace has names of its neighbours' is ALONE.
-set(CMAKE_UNITY_BUILD_BATCH_SIZE 5 CACHE STRING "Sources a compilation, where they are united")
-
-# kestrom_library(NAME SOURCES ... LINKS ... ALONE ...): a static library whose folder is its include path.
+# kestrom_library(NAME SOURCES ... LINKS ...): a static library whose folder is its include path.
 function(kestrom_library name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;ALONE" ${ARGN})
-  set_source_files_properties(${ARG_ALONE} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
   target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE kestrom_options)
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
 endfunction()
 
-# kestrom_test(NAME SOURCES ... LINKS ... ALONE ... [GUI]): a GoogleTest program known to CTest.
+# kestrom_test(NAME SOURCES ... LINKS ... [GUI]): a GoogleTest program known to CTest.
 function(kestrom_test name)
-  cmake_parse_arguments(ARG "GUI" "" "SOURCES;LINKS;ALONE" ${ARGN})
-  set_source_files_properties(${ARG_ALONE} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+  cmake_parse_arguments(ARG "GUI" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
-  set_target_properties(${name} PROPERTIES UNITY_BUILD ${KESTROM_UNITE_TESTS})
-  if(KESTROM_UNITE_TESTS) # a fixture of an unnamed namespace is not shared by being included
-    target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
-  endif()
   target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O1>) # what is tested has its own
   if(ARG_GUI)
     target_link_libraries(${name} PRIVATE kestrom_test_main_gui)
@@ -51,8 +37,12 @@ function(kestrom_test name)
     target_link_libraries(${name} PRIVATE kestrom_test_main)
   endif()
   target_link_libraries(${name} PRIVATE kestrom_options ${ARG_LINKS} GTest::gtest GTest::gmock)
-  target_compile_definitions(${name} PRIVATE KESTROM_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
-    KESTROM_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}/data")
+  file(CONFIGURE OUTPUT ${name}_paths.cpp @ONLY CONTENT [[
+#include "test_paths.h"
+std::string source_file(std::string_view path) { return std::string("@PROJECT_SOURCE_DIR@/").append(path); }
+std::string test_data(std::string_view name) { return std::string("@CMAKE_CURRENT_SOURCE_DIR@/data/").append(name); }
+]])
+  target_sources(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${name}_paths.cpp)
   gtest_discover_tests(${name}
     DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
     PROPERTIES TIMEOUT 300 ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")

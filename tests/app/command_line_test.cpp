@@ -4,6 +4,7 @@
 #include "commands.h"
 #include "rows.h"
 #include "shell_fixture.h"
+#include "test_paths.h"
 
 #include <QDir>
 #include <QFile>
@@ -17,7 +18,7 @@
 namespace {
 
 TEST_F(shell, arguments_that_make_no_sense_end_with_2_and_a_reason) {
-    for (const table_row& row : read_rows(KESTROM_TEST_DATA "/refused.rows")) {
+    for (const table_row& row : read_rows(test_data("refused.rows"))) {
         const auto& arguments = row.fields;
         const outcome result = run(arguments);
         EXPECT_EQ(result.status, 2) << row.place << ": " << result.err;

@@ -1,5 +1,6 @@
 #include "desk_fixture.h"
 #include "rows.h"
+#include "test_paths.h"
 
 namespace {
 
@@ -24,7 +25,7 @@ const row_operations<T> OPERATIONS{
 };
 
 TEST_F(decode_command_test, prints_and_ends_as_the_rows_say) {
-    for (const table_row& row : read_rows(KESTROM_TEST_DATA "/decode.rows"))
+    for (const table_row& row : read_rows(test_data("decode.rows")))
         expect_row<T>(OPERATIONS, row, *this);
 }
 

@@ -3,6 +3,7 @@
 #include "chart_geometry.h"
 #include "dial_geometry.h"
 #include "rows.h"
+#include "test_paths.h"
 
 #include <cmath>
 #include <limits>
@@ -84,7 +85,7 @@ const row_operations<int> OPERATIONS{
 };
 
 TEST(geometry, is_as_the_rows_say) {
-    for (const table_row& row : read_rows(KESTROM_TEST_DATA "/geometry.rows"))
+    for (const table_row& row : read_rows(test_data("geometry.rows")))
         expect_row(OPERATIONS, row, 0);
 }
 

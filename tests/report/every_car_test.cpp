@@ -3,6 +3,7 @@
 #include "car_truth.h"
 #include "report_fixture.h"
 #include "sheet.h"
+#include "test_paths.h"
 
 #include <QFile>
 
@@ -233,7 +234,7 @@ TEST(example, of_the_documentation_is_what_a_car_tells) {
     bench.read();
     conversation heard = without_vin(bench.reader.heard());
     heard.program = "Kestrom"; // of any version
-    QFile kept(QStringLiteral(KESTROM_SOURCE_DIR "/docs/report-example.txt"));
+    QFile kept(QString::fromStdString(source_file("docs/report-example.txt")));
     ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
     const bundle english(":/kestrom", "en_US");
     EXPECT_EQ(kept.readAll().toStdString(),

@@ -3,6 +3,7 @@
 #include "report_fixture.h"
 #include "rows.h"
 #include "sheet.h"
+#include "test_paths.h"
 #include "text.h"
 
 #include <gtest/gtest.h>
@@ -70,7 +71,7 @@ class one_unit {
 };
 
 TEST(sheet, tells_how_each_piece_ended) {
-    for (const table_row& row : read_rows(KESTROM_TEST_DATA "/pieces.rows")) {
+    for (const table_row& row : read_rows(test_data("pieces.rows"))) {
         SCOPED_TRACE(row.place);
         one_unit car;
         std::size_t at = 0;

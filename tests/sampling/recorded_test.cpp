@@ -2,6 +2,7 @@
 // what the run's log holds.
 #include "fast_sampler.h"
 #include "recorded_adapter.h"
+#include "test_paths.h"
 
 #include <filesystem>
 #include <fstream>
@@ -15,7 +16,7 @@ const std::vector<std::string> FOUR{"0D", "11", "0C", "05"};
 
 std::vector<std::string> recordings() {
     std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(KESTROM_TEST_DATA))
+    for (const auto& entry : std::filesystem::directory_iterator(test_data("")))
         if (entry.path().extension() == ".jsonl")
             names.push_back(entry.path().stem().string());
     return names;
@@ -50,9 +51,7 @@ class recorded_run : public testing::TestWithParam<std::string> {
         }
         return lines;
     }
-    static std::string file(const char* ending) {
-        return std::string(KESTROM_TEST_DATA "/") + GetParam() + ending;
-    }
+    static std::string file(const char* ending) { return test_data(GetParam() + ending); }
 
     milliseconds now_{0};
     int level_ = 0;

@@ -1,6 +1,7 @@
 // Replies and answers by the rows of data/strict_replies.rows.
 #include "rows.h"
 #include "strict_reply.h"
+#include "test_paths.h"
 
 namespace {
 
@@ -26,7 +27,7 @@ std::string parts_of(F f, int) {
 
 TEST(strict_reply_test, takes_whole_messages_of_each_unit_and_nothing_beside) {
     const row_operations<int> operations{{"read_strictly", read}, {"split_answer", parts_of}};
-    for (const table_row& row : read_rows(KESTROM_TEST_DATA "/strict_replies.rows"))
+    for (const table_row& row : read_rows(test_data("strict_replies.rows")))
         expect_row(operations, row, 0);
 }
 

@@ -3,6 +3,7 @@
 #include "app_harness.h"
 #include "qt_warnings.h"
 #include "readCodes.h"
+#include "test_paths.h"
 #include "text.h"
 #include "unread_text.h"
 
@@ -24,7 +25,7 @@ std::string adapter_text(const std::string& column) {
 }
 
 std::vector<conversation> conversations() {
-    std::ifstream file(KESTROM_SOURCE_DIR "/tests/screens/answers.txt");
+    std::ifstream file(source_file("tests/screens/answers.txt"));
     std::vector<conversation> all;
     for (std::string line; std::getline(file, line);) {
         if (line.starts_with('#'))

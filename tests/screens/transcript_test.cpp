@@ -5,6 +5,7 @@
 #include "app_harness.h"
 #include "qt_warnings.h"
 #include "stall_hint.h"
+#include "test_paths.h"
 
 #include <QAbstractItemModel>
 #include <QLabel>
@@ -237,7 +238,7 @@ void transcript::way(const std::string& text) {
 }
 
 void transcript::run_file(const std::string& name, const std::string& last_line) {
-    std::ifstream file(KESTROM_TEST_DATA "/" + name + ".txt");
+    std::ifstream file(test_data(name + ".txt"));
     ASSERT_TRUE(file);
     std::string line;
     for (int number = 1; std::getline(file, line); ++number) {
@@ -261,7 +262,7 @@ TEST_P(transcript, is_followed) {
 
 std::vector<std::string> transcript_files() {
     std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(KESTROM_TEST_DATA))
+    for (const auto& entry : std::filesystem::directory_iterator(test_data("")))
         names.push_back(entry.path().stem().string());
     std::sort(names.begin(), names.end());
     return names;

@@ -4,6 +4,7 @@
 #include "car_truth.h"
 #include "rows.h"
 #include "standard_values.h"
+#include "test_paths.h"
 
 #include <gtest/gtest.h>
 #include <set>
@@ -44,7 +45,7 @@ TEST(car_file_test, a_broken_file_is_named_with_line_and_reason) {
     expect_refused(std::string(1000000, '['), 1, "nested too deeply");
     expect_refused("[1]", 1, "must be of type object");
     expect_refused(good + "x", 14, "syntax error");
-    for (const table_row& row : read_rows(KESTROM_TEST_DATA "/broken_cars.rows")) {
+    for (const table_row& row : read_rows(test_data("broken_cars.rows"))) {
         SCOPED_TRACE(row.place);
         std::string text = good;
         ASSERT_NE(text.find(row.fields[0]), std::string::npos);

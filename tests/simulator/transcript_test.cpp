@@ -12,6 +12,7 @@
 //   time reconnect, closed            the connection begins anew; the adapter wants it closed
 #include "adapter_harness.h"
 #include "rows.h"
+#include "test_paths.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -131,7 +132,7 @@ class transcript_test : public testing::TestWithParam<std::string> {
 };
 
 TEST_P(transcript_test, adapter_answers_as_written) {
-    std::ifstream file(KESTROM_TEST_DATA "/" + GetParam() + ".txt");
+    std::ifstream file(test_data(GetParam() + ".txt"));
     ASSERT_TRUE(file);
     std::string line;
     take("car can11");
@@ -143,8 +144,7 @@ TEST_P(transcript_test, adapter_answers_as_written) {
     finish();
 }
 
-INSTANTIATE_TEST_SUITE_P(all, transcript_test,
-                         testing::ValuesIn(files_in(KESTROM_TEST_DATA, ".txt")),
+INSTANTIATE_TEST_SUITE_P(all, transcript_test, testing::ValuesIn(files_in(test_data(""), ".txt")),
                          [](const auto& name) { return name.param; });
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "mac_toolies.h"
 #include "parameters.h"
 #include "rows.h"
+#include "test_paths.h"
 #include "user_defaults.h"
 
 #include <charconv>
@@ -91,7 +92,7 @@ constexpr unsigned TWO_BYTE_STEP = 5; // it divides 65535
 TEST(values_agree, what_the_car_encodes_is_what_the_toolkit_shows) {
     user_defaults settings("/nonexistent/settings.conf");
     const mac_toolies decoder({nullptr, &settings, nullptr, nullptr});
-    for (const table_row& row : read_rows(KESTROM_TEST_DATA "/values_agree.rows")) {
+    for (const table_row& row : read_rows(test_data("values_agree.rows"))) {
         const auto& f = row.fields;
         const int pid = int(hex_number(f[0]));
         const auto place = numbers_in(f[1]), raw_scale = numbers_in(f[2]), seen = numbers_in(f[5]);

@@ -1,5 +1,6 @@
 // What is compiled into the programs is found below ":/kestrom", without any call to bring it in.
 #include "bundle.h"
+#include "test_paths.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -17,8 +18,8 @@ using string_table = std::map<std::string, std::string>; // key to text
 
 // The source of a language's strings table; a text still marked as unfinished counts as missing.
 string_table read_strings(const std::string& language) {
-    QFile file(QString::fromStdString(KESTROM_SOURCE_DIR "/resources/strings/kestrom_" + language +
-                                      ".ts"));
+    QFile file(
+        QString::fromStdString(source_file("resources/strings/kestrom_") + language + ".ts"));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << language;
     string_table result;
     std::string key;
@@ -63,8 +64,8 @@ TEST(resources, every_table_is_compiled_in) {
     for (const char* name :
          {"P0_Codes", "FIELD_PIDS_0", "FIELD_PIDS_1", "FIELD_PIDS_2", "OBD_MODES", "OBD_FUEL_TYPE",
           "OBDMID_CAN", "TID_CAN", "readinessLabels"}) {
-        QFile source(QString::fromStdString(KESTROM_SOURCE_DIR "/resources/tables/" +
-                                            std::string(name) + ".txt"));
+        QFile source(
+            QString::fromStdString(source_file("resources/tables/") + std::string(name) + ".txt"));
         ASSERT_TRUE(source.open(QIODevice::ReadOnly)) << name;
         EXPECT_EQ(shipped.resource_text(name, "txt"), source.readAll().toStdString()) << name;
     }

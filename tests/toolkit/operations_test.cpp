@@ -7,6 +7,7 @@
 #include "parameters.h"
 #include "rows.h"
 #include "sample_reply.h"
+#include "test_paths.h"
 #include "text.h"
 #include "trouble_codes.h"
 
@@ -228,7 +229,7 @@ const row_operations<T> OPERATIONS{
 
 TEST_P(operations_test, give_what_the_rows_say) {
     std::string before;
-    for (const table_row& row : read_rows(KESTROM_TEST_DATA "/" + GetParam() + ".rows")) {
+    for (const table_row& row : read_rows(test_data(GetParam() + ".rows"))) {
         if (row.heading != before)
             begin_anew();
         before = row.heading;
@@ -236,8 +237,7 @@ TEST_P(operations_test, give_what_the_rows_say) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(all, operations_test,
-                         testing::ValuesIn(files_in(KESTROM_TEST_DATA, ".rows")),
+INSTANTIATE_TEST_SUITE_P(all, operations_test, testing::ValuesIn(files_in(test_data(""), ".rows")),
                          [](const auto& name) { return name.param; });
 
 } // namespace

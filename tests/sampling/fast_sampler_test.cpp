@@ -97,6 +97,76 @@ TEST(fast_sampler_test, no_fault_makes_a_level_that_is_in_use_file_anything_else
                 }
 }
 
+// The last reply before that question, as it is filed when the question is answered so.
+std::string filed_by(const strings& pids, const std::string& question, const std::string& reply) {
+    fast_sampler sampler(pids, true, 0);
+    const std::map<std::string, std::string> car{
+        {"ATDPN", "A6"}, {"010C", "7E804410C0BB8"}, {"010D", "7E803410D10"}};
+    std::string filed;
+    for (int left = 100; left > 0; --left) {
+        const std::string asked = sampler.next({}).command;
+        const bool last = left < 90 && asked == question; // not that of the setting up
+        const auto answer = car.find(asked);
+        const auto out = sampler.take((last                  ? reply
+                                       : answer == car.end() ? "OK"
+                                                             : answer->second) +
+                                          "\r\r>",
+                                      {});
+        if (last)
+            return out.samples.empty() ? "nothing" : out.samples.back().reply;
+    }
+    return "never asked";
+}
+
+// Where an older reply has passed for it, the car's answer follows, or the adapter is interrupted.
+TEST(fast_sampler_test, files_a_reply_once_the_next_one_shows_it_to_be_in_step) {
+    const strings TWO{"0C", "0D"};
+    const struct {
+        strings pids;
+        const char *question, *reply, *filed;
+    } rows[] = {
+        {ONE, "ATDPN", "A6", "410C0BB8"},
+        {ONE, "ATDPN", "7E804410C0C00", "~"},
+        {ONE, "ATDPN", "CAN ERROR", "~"},
+        {TWO, "010D", "7E803410D10", "410C0BB8"},
+        {TWO, "010D", "CAN ERROR", "410C0BB8"},
+        {TWO, "010D", "7E804410C0C00", "~"},
+        {TWO, "010D", "STOPPED", "~"},
+        {TWO, "010D", "7E904410C0C00\r7E803410D10", "410C0BB8"}, // of a unit that is not used
+        {TWO, "010C0D", "7E803410D11", "~"},
+        {TWO, "010C0D", "NO DATA", "410D10"},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(filed_by(row.pids, row.question, row.reply), row.filed)
+            << row.question << " " << row.reply;
+}
+
+// A slow parameter must be among several what it is alone.
+TEST(fast_sampler_test, several_at_once_are_given_up_where_their_values_differ) {
+    for (const auto& [together, level] : {std::pair{"50", 2}, {"51", 0}, {"4F", 0}}) {
+        fast_sampler sampler({"0C", "05"}, true, 0);
+        const std::map<std::string, std::string> car{
+            {"ATDPN", "A6"},
+            {"010C", "7E804410C0BB8"},
+            {"0105", "7E803410550"},
+            {"010C05", std::string("7E806410C0BB805") + together}};
+        for (int i = 0; i < 100 && !sampler.finished(); ++i) {
+            const auto answer = car.find(sampler.next({}).command);
+            sampler.take((answer == car.end() ? "OK" : answer->second) + "\r\r>", {});
+        }
+        EXPECT_EQ(sampler.level(), level) << together;
+    }
+}
+
+// Units that wake up or go to sleep change the number of frames.
+TEST(fast_sampler_test, asks_plainly_now_and_then) {
+    sampled_car car({"can11", {}, FOUR});
+    car.run(seconds(10));
+    car.asked_.clear();
+    car.run(minutes(1));
+    EXPECT_TRUE(car.asked_.contains("010D110C05"));
+}
+
 // Two void replies to twenty requests are one too many; one now and then is not.
 TEST(fast_sampler_test, goes_down_a_level_as_soon_as_two_in_twenty_requests_are_void) {
     struct row {

@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 
 #include <gtest/gtest.h>
+#include <optional>
 #include <sstream>
 
 namespace {
@@ -299,6 +300,44 @@ TEST(help, shows_the_version_line_and_the_help_text) {
     EXPECT_EQ(app.messages.shown[0].message, "Kestrom - 1.11");
     EXPECT_EQ(app.messages.shown[0].informative, app.resources.localized("KS_help"));
     EXPECT_EQ(app.messages.shown[0].buttons, std::vector<std::string>{"OK"});
+}
+
+// Spoilt answers are asked for again; one command that was not taken leaves the adapter in doubt.
+TEST(put_back, is_well_when_every_command_was_taken) {
+    static constexpr std::string_view BACK[] = {"AT ST 32", "AT H0"};
+    const struct {
+        const char* replies; // each up to ">"; the first one is owed to the screen
+        const char* sent;
+        bool well;
+    } rows[] = {{"ELM>OK>OK>", "AT ST 32 AT H0 ", true},
+                {"ELM>?>OK>", "AT ST 32 AT H0 ", true},
+                {"ELM>@#>@#>OK>OK>", "AT ST 32 AT ST 32 AT ST 32 AT H0 ", true},
+                {"ELM>@#>@#>@#>OK>", "AT ST 32 AT ST 32 AT ST 32 AT H0 ", false}};
+    for (const auto& row : rows) {
+        app_harness app;
+        app.delegate->do_expert();
+        app.find<QLineEdit>("cmdTxt")->setText(QStringLiteral("AT I"));
+        app.press("sendBtn");
+        app.connect();
+        EXPECT_EQ(app.sent(), "AT I\r");
+        app.delegate->changed_adapter(BACK);
+        std::optional<bool> well;
+        app.delegate->put_adapter_back([&](bool taken) { well = taken; });
+        std::string sent;
+        std::istringstream replies(row.replies);
+        for (std::string reply; std::getline(replies, reply, '>');) {
+            EXPECT_FALSE(well) << row.replies;
+            EXPECT_TRUE(app.wire().written.empty()) << row.replies;
+            app.receive(reply + "\r\r>");
+            while (!app.wire().written.empty()) {
+                sent += app.sent();
+                sent.back() = ' ';
+            }
+        }
+        EXPECT_EQ(sent, row.sent) << row.replies;
+        EXPECT_EQ(well, row.well) << row.replies;
+        EXPECT_EQ(app.delegate->adapter_changed(), !row.well) << row.replies;
+    }
 }
 
 } // namespace

@@ -131,7 +131,8 @@ bool fast_sampler::differs(const std::string& pid) const {
         return false;
     if (after == after_.end())
         return true;
-    const auto [low, high] = std::minmax(before_.at(pid), after->second);
+    const std::string &low = std::min(before_.at(pid), after->second),
+                      &high = std::max(before_.at(pid), after->second);
     return std::ranges::any_of(
         tried_.at(pid), [&](const std::string& tried) { return tried < low || tried > high; });
 }

@@ -7,12 +7,12 @@
 int fuzz_one(std::span<const std::uint8_t> bytes) {
     static const fuzz_toolkit tools(true);
     std::string why;
-    const auto heard = open_report(as_text(bytes), why);
-    REQUIRE(heard.has_value() == why.empty());
-    if (!heard)
+    const auto transcript = open_report(as_text(bytes), why);
+    REQUIRE(transcript.has_value() == why.empty());
+    if (!transcript)
         return 0;
-    const car_report report = report_of(*heard, tools.decoder);
-    const car_report hidden = report_of(without_vin(*heard), tools.decoder);
+    const car_report report = report_of(*transcript, tools.decoder);
+    const car_report hidden = report_of(without_vin(*transcript), tools.decoder);
     sheet_html(sheet_of(report, tools.resources));
     sheet_text(comparison_of(report, hidden, tools.resources));
     const auto again = open_report(report_json(report), why);

@@ -123,9 +123,9 @@ void more_parameters::filter(const QString& words) {
     const QStringList wanted = words.split(u' ', Qt::SkipEmptyParts);
     for (int row = 0; row < list_->topLevelItemCount(); ++row) {
         QTreeWidgetItem* item = list_->topLevelItem(row);
-        const QString told = item->text(NAME) + u' ' + item->text(PID);
+        const QString text = item->text(NAME) + u' ' + item->text(PID);
         item->setHidden(!std::ranges::all_of(
-            wanted, [&](const QString& word) { return told.contains(word, Qt::CaseInsensitive); }));
+            wanted, [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); }));
     }
 }
 

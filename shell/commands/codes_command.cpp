@@ -80,7 +80,7 @@ class codes_command final : public car_task {
         const codes_report report = screen_->report();
         if (asked_.json) {
             print_conversation(as_json(report), screen_->status(), log);
-        } else if (report.codes_told) {
+        } else if (report.codes_reported) {
             print_text(report);
             if (succeeded && report.count &&
                 static_cast<std::size_t>(*report.count) != report.codes.size())

@@ -212,7 +212,7 @@ void main_window::restore_place() {
 
 void main_window::closeEvent(QCloseEvent* event) {
     // A second close does not wait.
-    if (isEnabled() && delegate_.puts_adapter_back_first([this] { close(); })) {
+    if (isEnabled() && delegate_.restore_adapter_before([this] { close(); })) {
         setEnabled(false); // it takes some replies
         event->ignore();
         return;

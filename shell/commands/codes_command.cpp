@@ -51,7 +51,7 @@ void print_text(const codes_report& report) {
     for (const readiness_flag& flag : report.readiness)
         std::printf("  %-5s%-48s%s\n", flag.state.c_str(), flag.monitor.c_str(), flag.kind.c_str());
     if (report.readiness.empty())
-        std::printf("  not told\n");
+        std::printf("  not reported\n");
 }
 
 class codes_command final : public car_task {

@@ -146,7 +146,7 @@ void live_command::tell_of_waiting() {
 bool live_command::choose_parameters() {
     const auto& known = screen_->car_parameters();
     if (!known) {
-        refused_ = asked_.all_pids ? "the car did not tell what it supports" : "";
+        refused_ = asked_.all_pids ? "the car did not report what it supports" : "";
         return refused_.empty(); // the requested parameters may be supported anyway
     }
     std::vector<std::string> wanted;

@@ -1,4 +1,4 @@
-// How each piece ends, as the sheet says it: a value, none, not told, refused, or not readable. The
+// How each piece ends, as the sheet says it: a value, none, not reported, refused, or not readable. The
 // car has one unit and answers what a row says; to all else there is no data.
 #include "report_fixture.h"
 #include "rows.h"
@@ -117,7 +117,7 @@ TEST(sheet, tells_the_lamp_off_and_cars_apart_only_as_far_as_that_is_known) {
     const car_report all = car.read();
     EXPECT_TRUE(contains(car.text(all), "off\n")) << car.text(all);
     car.door.replies["03"] = "7E8 04 43 01 03 01\r7E9 02 43 00";
-    EXPECT_TRUE(contains(car.text(car.read()), "off, as far as told"));
+    EXPECT_TRUE(contains(car.text(car.read()), "off, as far as reported"));
 
     const auto compared = [&](const car_report& before) {
         return sheet_text(comparison_of(before, all, car.resources));

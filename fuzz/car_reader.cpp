@@ -1,5 +1,5 @@
-// A whole report read of an adapter that answers with these replies, one after the other; then
-// nothing more comes. What was read is saved and opened again as it was.
+// Reads a report from an adapter that gives these replies, one after the other, and then falls
+// silent. The report is saved and reopened unchanged.
 #include "car_reader.h"
 
 #include "../tests/support/virtual_run_loop.h"

@@ -1,4 +1,4 @@
-// A report file from outside: opened, shown, hidden and compared, or refused with a reason.
+// A report file from outside: opened, shown, hidden and compared, or rejected with a reason.
 #include "fuzz_one.h"
 #include "fuzz_toolkit.h"
 #include "report_json.h"

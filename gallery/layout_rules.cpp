@@ -29,7 +29,7 @@ std::string name_of(const QWidget& widget) {
            (name.isEmpty() ? widget.property("text").toString() : name).toStdString();
 }
 
-// Widgets of the window that are seen, not those of the windows above it.
+// Visible widgets of the window, without those of windows above it.
 template <class kind = QWidget>
 std::vector<kind*> visible(const QWidget& window) {
     std::vector<kind*> found;

@@ -129,8 +129,8 @@ void Ks_lite_delegate::rfcommChannelClosed() {
     doors_.loop.after(DISCONNECTION_DELAY,
                       [this, device = mBluetoothDevice] { closeDeviceConnectionOnDevice(device); });
     connected_2_BT_interface = false;
-    if (ledger_
-            .reply_incomplete()) // its first piece stopped the time-out that would report the loss
+    // Its first piece stopped the time-out that would report the loss.
+    if (ledger_.reply_incomplete())
         ledger_.link_gone();
     notify_link_lost();
 }

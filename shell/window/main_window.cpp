@@ -217,7 +217,7 @@ void main_window::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    // A window that nobody saw has no place to remember.
+    // A window that was never shown has no place to remember.
     if (isVisible() && somebody_looks()) {
         delegate_.doors().defaults.set_string(GEOMETRY_KEY,
                                               saveGeometry().toBase64().toStdString());

@@ -53,8 +53,7 @@ constexpr std::array OPTIONS = {
         [](request& asked, text name, text value) {
             asked.options.adapter.baud = read_number(name, value, 0, 10'000'000);
         }},
-    row{{"--round-trip", "MS", "round-trip time of the radio (0)", "",
-         "--replay"},
+    row{{"--round-trip", "MS", "round-trip time of the radio (0)", "", "--replay"},
         [](request& asked, text name, text value) {
             asked.options.adapter.round_trip =
                 std::chrono::milliseconds(read_number(name, value, 0, 60000));
@@ -68,8 +67,8 @@ constexpr std::array OPTIONS = {
             asked.options.adapter.seed = read_number(name, value, std::uint64_t{0},
                                                      std::numeric_limits<std::uint64_t>::max());
         }},
-    row{{"--fault", "NAME[=V]", "inject a fault of --list; may be given several times",
-         "", "--replay"},
+    row{{"--fault", "NAME[=V]", "inject a fault of --list; may be given several times", "",
+         "--replay"},
         take_fault},
     row{{"--replay", "FILE", "answer from a recording of kestrom --record instead of a car"},
         [](request& asked, text, text value) { asked.options.replay = value; }},
@@ -80,7 +79,8 @@ constexpr std::array OPTIONS = {
         [](request& asked, text, text) { asked.options.pty = true; }},
     row{{"--list", "", "list cars, protocols and faults"},
         [](request& asked, text, text) { asked.options.list = true; }},
-    row{{"--help", "", "show this text"}, [](request& asked, text, text) { asked.options.help = true; }},
+    row{{"--help", "", "show this text"},
+        [](request& asked, text, text) { asked.options.help = true; }},
     row{{"-h", "", "the same"}, [](request& asked, text, text) { asked.options.help = true; }},
     row{{"--version", "", "the version"},
         [](request& asked, text, text) { asked.options.version = true; }},

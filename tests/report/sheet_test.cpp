@@ -1,5 +1,5 @@
-// How each piece ends, as the sheet says it: a value, none, not reported, refused, or not readable. The
-// car has one unit and answers what a row says; to all else there is no data.
+// How each piece ends, as the sheet says it: a value, none, not reported, refused, or not readable.
+// The car has one unit and answers what a row says; to all else there is no data.
 #include "report_fixture.h"
 #include "rows.h"
 #include "sheet.h"

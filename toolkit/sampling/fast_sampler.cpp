@@ -415,7 +415,7 @@ std::vector<parameter_answer> fast_sampler::parts_of(const request& asked,
                                                      const std::string& data) const {
     const std::string& first = asked.pids.front();
     if (asked.pids.size() == 1 && !lengths_.contains(first)) {
-        // Cars with two banks tell both trims in one answer; that is how long theirs are, then.
+        // Cars with two banks put both trims into one answer, which is longer then.
         const bool whole = answers_parameter(data, first) && !answer_in(data).empty() &&
                            data.size() <= answer_in(data).size() + 2;
         return whole ? std::vector{parameter_answer{first, data}} : std::vector<parameter_answer>{};

@@ -49,7 +49,7 @@ void virtual_adapter::receive(std::string_view bytes, milliseconds sent) {
     for (const char c : bytes) {
         if (stall_after && commands_ >= *stall_after)
             return;
-        const milliseconds now = heard(sent);
+        const milliseconds now = arrival(sent);
         // The chip ignores NUL, and line feeds, which some terminals send with each return.
         if (c == '\0' || c == '\n')
             continue;
@@ -174,8 +174,8 @@ bool virtual_adapter::wants_close(milliseconds) const {
     return closing_;
 }
 
-// When a character that is sent now arrives, over radio and serial line.
-milliseconds virtual_adapter::heard(milliseconds now) {
+// When a character sent now arrives, through radio and serial line.
+milliseconds virtual_adapter::arrival(milliseconds now) {
     const milliseconds arrives = now + options_.round_trip / 2;
     if (options_.baud == 0)
         return arrives;

@@ -82,7 +82,7 @@ class virtual_adapter final : public adapter {
     milliseconds longest_wait() const;
     milliseconds wait_for_more() const;
 
-    milliseconds heard(milliseconds now);
+    milliseconds arrival(milliseconds now);
     void say(milliseconds at, const std::string& text);
     std::string end_of_line() const;
     milliseconds scaled(milliseconds genuine) const;

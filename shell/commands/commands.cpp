@@ -44,8 +44,8 @@ Examples
 )",
      check_send, nullptr, begin_send},
     {"pids", 0, 0, "", "list the parameters that the car supports, with names and units",
-     R"(Asks every unit of the car for its parameters. One that Kestrom cannot decode is marked. With --json: one object, described in
-docs/json/pids.schema.json.
+     R"(Asks every unit of the car for its parameters. One that Kestrom cannot decode is marked.
+With --json: one object, described in docs/json/pids.schema.json.
 Exit status: 0 when the car answered, 1 when it did not.
 
 Examples
@@ -134,7 +134,8 @@ Examples
 )",
      nullptr, run_export},
     {"lookup", 1, MANY, "CODE|TEXT", "what a trouble code means, or which codes mention some words",
-     R"(A code's description, or every code whose description contains all of the words, in either case. With --json: docs/json/lookup.schema.json.
+     R"(A code's description, or every code whose description contains all of the words, in either case.
+With --json: docs/json/lookup.schema.json.
 Exit status: 0 success, 1 nothing was found, 2 invalid arguments.
 
 Examples

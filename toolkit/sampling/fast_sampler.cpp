@@ -228,7 +228,7 @@ void fast_sampler::abandon_cycle(outcome& out) {
 
 void fast_sampler::take_plan(std::string_view reply, outcome& out) {
     request& one = *asked_request_;
-    const std::optional<answer> got = read_answer(one, reply);
+    const std::optional<answer> got = read_answer(one, reply, out);
     if (got && (!asked_digit_ || got->form == *one.known)) {
         file(one, *got);
         if (plan_.size() == 1)
@@ -239,24 +239,22 @@ void fast_sampler::take_plan(std::string_view reply, outcome& out) {
         if (plan_.size() == 1)
             resync_ = resync::flush; // so would a late answer
     } else {
-        if (is_out_of_step(reply, out.samples))
-            discard(out);
         void_reply(one, out);
     }
     advance(out);
 }
 
 // An older answer was taken for this one, or the adapter was still waiting for the car.
-bool fast_sampler::is_out_of_step(std::string_view reply, const std::vector<sample>& taken) const {
-    return notice_ == "STOPPED" ||
-           std::ranges::any_of(
-               read_strictly(asked_command_, reply).messages, [&](const unit_message& one) {
-                   return std::ranges::any_of(taken, [&](const sample& each) {
-                       const auto source = sources_.find(each.pid);
-                       return one.data.starts_with("41" + each.pid) &&
-                              (source == sources_.end() || source->second == one.unit);
-                   });
+bool fast_sampler::is_out_of_step(const strict_reply& read,
+                                  const std::vector<sample>& taken) const {
+    return read.notice == "STOPPED" ||
+           std::ranges::any_of(read.messages, [&](const unit_message& one) {
+               return std::ranges::any_of(taken, [&](const sample& each) {
+                   const auto source = sources_.find(each.pid);
+                   return one.data.starts_with("41" + each.pid) &&
+                          (source == sources_.end() || source->second == one.unit);
                });
+           });
 }
 
 void fast_sampler::discard(outcome& out) {
@@ -386,12 +384,21 @@ void fast_sampler::give_up(outcome& out) {
     ending_ = true;
 }
 
-std::optional<fast_sampler::answer> fast_sampler::read_answer(const request& asked,
-                                                              std::string_view reply) {
+// Discards what was taken before if the reply shows that it was out of step.
+std::optional<fast_sampler::answer>
+fast_sampler::read_answer(const request& asked, std::string_view reply, outcome& out) {
     const strict_reply read = read_strictly(asked_command_, reply);
     notice_ = read.notice;
     deferred_ = std::ranges::any_of(read.messages,
                                     [](const unit_message& one) { return one.data == "7F0178"; });
+    std::optional<answer> got = answer_of(asked, read);
+    if (!got && is_out_of_step(read, out.samples))
+        discard(out);
+    return got;
+}
+
+std::optional<fast_sampler::answer> fast_sampler::answer_of(const request& asked,
+                                                            const strict_reply& read) const {
     if (read.odd || read.messages.empty())
         return std::nullopt;
     answer got;

@@ -4,7 +4,6 @@
 #include "transcript.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <fstream>
 
 std::vector<std::string> split(const std::string& text, std::size_t words) {
@@ -87,12 +86,9 @@ TEST_P(conversations, are_followed) {
 
 std::vector<conversation> all_conversations() {
     std::vector<conversation> all;
-    for (const auto& entry : std::filesystem::directory_iterator(test_data(""))) {
-        if (entry.is_directory()) // "parts", which conversations follow
-            continue;
-        const std::string name = entry.path().stem().string();
+    for (const std::string& name : files_in(test_data(""), ".txt")) {
         const std::size_t before = all.size();
-        std::ifstream file(entry.path());
+        std::ifstream file(test_data(name + ".txt"));
         for (std::string line; std::getline(file, line);)
             if (line.starts_with('['))
                 all.emplace_back(name, line.substr(1, line.size() - 2));

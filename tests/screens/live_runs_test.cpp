@@ -34,10 +34,7 @@ class car_on_the_road {
               store.set_boolean(KS_METRIC_UNITS_KEY, metric);
           }),
           the_car(car_with(engine)), adapter(the_car, options(faults)) {
-        app.delegate->doors().make_streams = [this](const std::string&,
-                                                    long) -> std::unique_ptr<stream_pair> {
-            return std::make_unique<virtual_car_pair>(app.loop, adapter);
-        };
+        app.delegate->doors().make_streams = streams_to(app.loop, adapter);
         app.delegate->do_actions();
         screen().cycle_completed = [this](const std::vector<translated>&) {
             const std::size_t row = screen().samples().rows() - 2;

@@ -32,8 +32,11 @@ std::string ledger_after(F f, int) {
                        : ledger.answer_is_missing();
     for (const std::string_view chunk : split(f[1], "/"))
         ledger.received(std::string(chunk), NOW);
-    return std::string(ledger.owes() ? "owed" : "-") +
-           (ledger.awaited_since().count() != 0 ? " awaited" : "");
+    const std::string told = std::string(ledger.owes() ? "owed" : "-") +
+                             (ledger.awaited_since().count() != 0 ? " awaited" : "");
+    ledger.link_gone();
+    EXPECT_FALSE(ledger.owes() || ledger.half_come() || ledger.awaited_since().count() != 0);
+    return told;
 }
 
 TEST(replies, are_whole_and_owed_as_the_rows_say) {

@@ -35,7 +35,7 @@ std::string ledger_after(F f, int) {
     const std::string told = std::string(ledger.owes() ? "owed" : "-") +
                              (ledger.awaited_since().count() != 0 ? " awaited" : "");
     ledger.link_gone();
-    EXPECT_FALSE(ledger.owes() || ledger.half_come() || ledger.awaited_since().count() != 0);
+    EXPECT_FALSE(ledger.owes() || ledger.reply_incomplete() || ledger.awaited_since().count() != 0);
     return told;
 }
 

@@ -89,6 +89,8 @@ TEST(reply_ledger, knows_what_is_owed) {
             ledger.received(chunk, NOW);
         EXPECT_EQ(ledger.owes(), one.owes);
         EXPECT_EQ(ledger.awaited_since().count() != 0, one.awaited);
+        ledger.link_gone();
+        EXPECT_FALSE(ledger.owes() || ledger.half_come() || ledger.awaited_since().count() != 0);
     }
 }
 

@@ -128,7 +128,8 @@ class mock_bluez {
               QString::fromStdString(code)});
     }
     // Hands a descriptor to the profile that `client` registered last, as BlueZ does.
-    QDBusPendingCall hand_over(const QDBusConnection& client, const std::string& device, int descriptor) {
+    QDBusPendingCall hand_over(const QDBusConnection& client, const std::string& device,
+                               int descriptor) {
         QDBusMessage message =
             QDBusMessage::createMethodCall(client.baseService(), last_profile(), PROFILE_INTERFACE,
                                            QStringLiteral("NewConnection"));

@@ -9,7 +9,7 @@ constexpr run_loop::microseconds SHORTEST_INTERVAL{1'000'000 / 20};
 // Times what the frame took.
 constexpr int WAIT_AFTER_FRAME = 3;
 constexpr int QUIET_AFTER_FRAME = 65;
-constexpr run_loop::microseconds LONGEST_QUIET{1'000'000 / 8};
+constexpr run_loop::microseconds LONGEST_QUIET{1'000'000 / 6};
 
 } // namespace
 

@@ -1,5 +1,5 @@
 // Paces drawing: at most 20 frames a second, faster than a car sends new values. After a frame that
-// took d, the next waits 65 d, but at most an eighth of a second, so that drawing takes 1.5 % of
+// took d, the next waits 65 d, but at most a sixth of a second, so that drawing takes 1.5 % of
 // the time; and at least 3 d, so that it never takes more than a quarter. Owned by a screen.
 #pragma once
 

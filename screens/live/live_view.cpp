@@ -152,7 +152,6 @@ void live_view::build_fast(QHBoxLayout* row) {
     rate_->setTextFormat(Qt::PlainText);
     rate_->setForegroundRole(QPalette::PlaceholderText);
     rate_->setToolTip(ui_text(delegate_, "ui_fast_rate_hint"));
-    rate_->setAccessibleName(ui_text(delegate_, "ui_fast_rate_hint"));
     row->addWidget(fast_);
     row->addWidget(rate_);
 }
@@ -162,7 +161,6 @@ void live_view::build_zoom(QHBoxLayout* row) {
     length_ = new QLabel(root());
     length_->setObjectName(QStringLiteral("runLength"));
     length_->setToolTip(ui_text(delegate_, "ui_live_length"));
-    length_->setAccessibleName(ui_text(delegate_, "ui_live_length"));
     length_->setForegroundRole(QPalette::PlaceholderText);
     row->addWidget(length_);
     row->addSpacing(GRID);

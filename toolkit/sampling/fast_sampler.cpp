@@ -228,7 +228,7 @@ void fast_sampler::give_the_cycle_up(outcome& out) {
 
 void fast_sampler::take_plan(std::string_view reply, outcome& out) {
     request& one = *asked_request_;
-    const std::optional<answer> got = read_answer(one, reply);
+    const std::optional<answer> got = read_answer(one, reply, out);
     if (got && (!asked_digit_ || got->form == *one.known)) {
         file(one, *got);
         if (plan_.size() == 1)
@@ -239,8 +239,6 @@ void fast_sampler::take_plan(std::string_view reply, outcome& out) {
         if (plan_.size() == 1)
             resync_ = resync::flush; // so would a late answer
     } else {
-        if (is_behind(reply, out.samples))
-            discard(out);
         void_reply(one, out);
     }
     advance(out);
@@ -248,16 +246,15 @@ void fast_sampler::take_plan(std::string_view reply, outcome& out) {
 
 // The car's answer comes after an older one that has passed for it, or the adapter was still
 // waiting for it.
-bool fast_sampler::is_behind(std::string_view reply, const std::vector<sample>& taken) const {
-    return notice_ == "STOPPED" ||
-           std::ranges::any_of(
-               read_strictly(asked_command_, reply).messages, [&](const unit_message& one) {
-                   return std::ranges::any_of(taken, [&](const sample& each) {
-                       const auto source = sources_.find(each.pid);
-                       return one.data.starts_with("41" + each.pid) &&
-                              (source == sources_.end() || source->second == one.unit);
-                   });
+bool fast_sampler::is_behind(const strict_reply& read, const std::vector<sample>& taken) const {
+    return read.notice == "STOPPED" ||
+           std::ranges::any_of(read.messages, [&](const unit_message& one) {
+               return std::ranges::any_of(taken, [&](const sample& each) {
+                   const auto source = sources_.find(each.pid);
+                   return one.data.starts_with("41" + each.pid) &&
+                          (source == sources_.end() || source->second == one.unit);
                });
+           });
 }
 
 void fast_sampler::discard(outcome& out) {
@@ -387,12 +384,21 @@ void fast_sampler::give_up(outcome& out) {
     ending_ = true;
 }
 
-std::optional<fast_sampler::answer> fast_sampler::read_answer(const request& asked,
-                                                              std::string_view reply) {
+// Discards what was taken before if the reply shows that it was out of step.
+std::optional<fast_sampler::answer>
+fast_sampler::read_answer(const request& asked, std::string_view reply, outcome& out) {
     const strict_reply read = read_strictly(asked_command_, reply);
     notice_ = read.notice;
     deferred_ = std::ranges::any_of(read.messages,
                                     [](const unit_message& one) { return one.data == "7F0178"; });
+    std::optional<answer> got = answer_of(asked, read);
+    if (!got && is_behind(read, out.samples))
+        discard(out);
+    return got;
+}
+
+std::optional<fast_sampler::answer> fast_sampler::answer_of(const request& asked,
+                                                            const strict_reply& read) const {
     if (read.odd || read.messages.empty())
         return std::nullopt;
     answer got;

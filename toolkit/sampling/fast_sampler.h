@@ -109,7 +109,7 @@ class fast_sampler {
     void give_the_cycle_up(outcome& out);
     void take_in_step(std::string_view reply, outcome& out);
     void take_plan(std::string_view reply, outcome& out);
-    bool is_behind(std::string_view reply, const std::vector<sample>& taken) const;
+    bool is_behind(const strict_reply& read, const std::vector<sample>& taken) const;
     static void discard(outcome& out);
     void file(request& one, const answer& got);
     void void_reply(request& one, outcome& out);
@@ -122,7 +122,8 @@ class fast_sampler {
     void end_when_plain(outcome& out);
     void one_level_down(outcome& out);
     void give_up(outcome& out);
-    std::optional<answer> read_answer(const request& asked, std::string_view reply);
+    std::optional<answer> read_answer(const request& asked, std::string_view reply, outcome& out);
+    std::optional<answer> answer_of(const request& asked, const strict_reply& read) const;
     std::vector<parameter_answer> parts_of(const request& asked, const std::string& data) const;
     bool is_can() const { return bus_ >= '6' && bus_ <= '9'; }
     bool may_use_digit() const { return digit_works_ && level_cap_ % 2 == 1; }

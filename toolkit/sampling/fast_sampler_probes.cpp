@@ -85,12 +85,9 @@ void fast_sampler::run() {
 }
 
 void fast_sampler::take_try(std::string_view reply, outcome& out) {
-    const std::optional<answer> got = read_answer(*asked_request_, reply);
-    if (!got) {
-        if (is_behind(reply, out.samples))
-            discard(out);
+    const std::optional<answer> got = read_answer(*asked_request_, reply, out);
+    if (!got)
         resync_ = resync::flush;
-    }
     if (deferred_)
         slow_down(out);
     else if (asked_ == kind::try_digit)

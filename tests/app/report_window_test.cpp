@@ -34,9 +34,7 @@ class report_window : public testing::Test {
         expect_warning("propagateSizeHints"); // of a dialog without a display
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, app.folder.path());
         last_report() = {};
-        app.delegate->doors().make_streams = [this](const std::string&, long) {
-            return std::make_unique<virtual_car_pair>(app.loop, adapter);
-        };
+        app.delegate->doors().make_streams = streams_to(app.loop, adapter);
         app.delegate->do_report();
     }
     ~report_window() override { last_report() = {}; }

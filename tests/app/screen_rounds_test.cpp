@@ -34,9 +34,7 @@ TEST(screen_rounds_test, a_screen_takes_everything_along_when_it_goes) {
     adapter_options options;
     options.latency = milliseconds(20);
     virtual_adapter adapter(the_car, options);
-    app.delegate->doors().make_streams = [&](const std::string&, long) {
-        return std::make_unique<virtual_car_pair>(app.loop, adapter);
-    };
+    app.delegate->doors().make_streams = streams_to(app.loop, adapter);
     main_window window(*app.delegate);
     window.show();
     const auto go = [&](void (Ks_lite_delegate::*show_screen)()) {

@@ -5,8 +5,12 @@
 #include "low_energy_port.h"
 #include "mock_bluez.h"
 #include "qt_run_loop.h"
+#include "rows.h"
+#include "test_paths.h"
 
 #include <cerrno>
+#include <fstream>
+#include <sstream>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -31,31 +35,13 @@ std::vector<gatt_characteristic> characteristics(const char* text) {
 }
 
 TEST(gatt_serial, the_usual_characteristics_are_found_else_those_that_can_do_it) {
-    const struct {
-        const char* device;
-        const char* found; // notifies, is written, with response
-    } cases[] = {
-        {"fff0 fff1 notify; fff0 fff2 write-without-response,write", "fff1 fff2 no"},
-        {"fff0 fff1 notify; fff0 fff2 write", "fff1 fff2 yes"},
-        {"ffe0 ffe1 notify,write-without-response", "ffe1 ffe1 no"},
-        {"18f0 2af0 notify; 18f0 2af1 write", "2af0 2af1 yes"},
-        {"6e400001 6e400002 write-without-response; 6e400001 6e400003 notify",
-         "6e400003 6e400002 no"},
-        // several that fit, none that has the usual name, roles swapped, a service too many
-        {"fff0 fff2 write; fff0 fff3 notify,write; fff0 fff1 notify,write", "fff1 fff2 yes"},
-        {"ffe0 ffe2 write; ffe0 ffe4 read,notify", "ffe4 ffe2 yes"},
-        {"fff0 fff1 write; fff0 fff2 notify", "fff2 fff1 yes"},
-        {"fff0 fff1 read; 18f0 2af0 notify; 18f0 2af1 write", "2af0 2af1 yes"},
-        {"fff0 fff1 notify; 18f0 2af1 write", "none"},
-        {"180d 2a37 notify; 180d 2a39 write", "none"},
-    };
-    for (const auto& [device, expected] : cases) {
-        const auto port = find_serial_port(characteristics(device));
+    for (const table_row& row : read_rows(test_data("gatt_serial.rows"))) {
+        const auto port = find_serial_port(characteristics(row.fields[0].c_str()));
         const QString found =
             port ? port->notifies + u' ' + port->written +
                        (port->with_response ? QStringLiteral(" yes") : QStringLiteral(" no"))
                  : QStringLiteral("none");
-        EXPECT_EQ(found.toStdString(), expected) << device;
+        EXPECT_EQ(found.toStdString(), row.fields[1]) << row.place;
     }
 }
 
@@ -63,62 +49,6 @@ TEST(gatt_serial, the_usual_characteristics_are_found_else_those_that_can_do_it)
 
 constexpr char ADDRESS[] = "00:1D:A5:68:98:8B";
 constexpr char TYPICAL[] = "fff0 fff1 notify; fff0 fff2 write-without-response";
-
-// The device's objects come with its connection. What is written is kept and not answered; a write
-// that BlueZ would not send whole is refused, and so is one beside another.
-constexpr char PERIPHERAL[] = R"py(
-import socket, threading
-device, mtu, written, kinds, notify = objects[PATH], 23, b'', set(), None
-DEVICE, GATT = 'org.bluez.Device1', 'org.bluez.Gatt'
-CLASSIC = '00001101-0000-1000-8000-00805f9b34fb'
-YES, NO = dbus.Boolean(True), dbus.Boolean(False)
-
-def add(path, interface, properties, methods):
-    if path in objects:
-        return
-    device.AddObject(path, interface, properties, methods)
-    objects['/'].EmitSignal('org.freedesktop.DBus.ObjectManager', 'InterfacesAdded', 'oa{sa{sv}}',
-                            [dbus.ObjectPath(path), {interface: properties}])
-
-def acquire():
-    global notify
-    notify, theirs = socket.socketpair(socket.AF_UNIX, socket.SOCK_SEQPACKET)
-    return dbus.types.UnixFd(theirs), dbus.UInt16(mtu)
-
-def write(value, options):
-    global written
-    if len(value) > mtu - 3:
-        raise dbus.exceptions.DBusException('Failed to initiate write', name='org.bluez.Error.Failed')
-    kinds.add(str(options['type']))
-    written += bytes(value)
-
-def serve():
-    device.UpdateProperties(DEVICE, {'Connected': YES})
-    services = []
-    for service, one, flags in SERVED:
-        if service not in services:
-            services.append(service)
-        base = PATH + '/service%d' % services.index(service)
-        add(base, GATT + 'Service1', {'UUID': service}, [])
-        add(base + '/char' + one[4:8], GATT + 'Characteristic1',
-            {'UUID': one, 'Service': dbus.ObjectPath(base), 'Flags': dbus.Array(flags, 's')},
-            [('AcquireNotify', 'a{sv}', 'hq', 'ret = acquire()'), ('WriteValue', 'aya{sv}', '', 'write(*args)')])
-    device.UpdateProperties(DEVICE, {'ServicesResolved': YES})
-
-def remove():
-    for path in [path for path in objects if path.startswith(PATH + '/')]:
-        objects['/'].EmitSignal('org.freedesktop.DBus.ObjectManager', 'InterfacesRemoved', 'oas',
-                                [dbus.ObjectPath(path), [objects[path].interface]])
-        device.RemoveObject(path)
-
-def drop():
-    notify.close()
-    device.UpdateProperties(DEVICE, {'Connected': NO, 'ServicesResolved': NO})
-
-remove()
-device.AddMethod(DEVICE, 'Connect', '', '', 'serve()')
-device.AddMethod(DEVICE, 'Disconnect', '', '', "device.UpdateProperties(DEVICE, {'Connected': NO, 'ServicesResolved': NO})")
-)py";
 
 class low_energy_adapter : public testing::Test {
   protected:
@@ -142,7 +72,9 @@ class low_energy_adapter : public testing::Test {
         for (const gatt_characteristic& one : characteristics(served))
             list += "('" + one.service.toStdString() + "', '" + one.uuid.toStdString() + "', '" +
                     one.flags.join(u' ').toStdString() + "'.split()), ";
-        mock.run("PATH = '" + device + "'\nSERVED = [" + list + "]\n" + PERIPHERAL);
+        std::ostringstream peripheral;
+        peripheral << std::ifstream(test_data("peripheral.py")).rdbuf();
+        mock.run("PATH = '" + device + "'\nSERVED = [" + list + "]\n" + peripheral.str());
         mock.set_device(device,
                         {{QStringLiteral("UUIDs"), QStringList{uuid(QStringLiteral("fff0"))}}});
     }
@@ -261,6 +193,19 @@ TEST_F(low_energy_adapter, a_flood_that_is_not_read_ends_the_connection_behind_w
     }));
     EXPECT_GT(kept, std::size_t{low_energy_port::MOST_UNREAD});
     ::close(descriptor);
+}
+
+// Of the characteristics that come one by one, the first ones may not be the right ones.
+TEST_F(low_energy_adapter, services_are_looked_for_once_all_are_known) {
+    serve(TYPICAL);
+    mock.run("def serve(known=serve): known(); device.UpdateProperties(DEVICE, "
+             "{'ServicesResolved': NO})");
+    low_energy_port port(door.devices(), QString::fromStdString(device));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return calls("Connect") == 1; }));
+    QTest::qWait(100);
+    EXPECT_FALSE(port.asked());
+    mock.set_device(device, {{QStringLiteral("ServicesResolved"), true}});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return port.asked(); }));
 }
 
 // The service itself would wait for half a minute, and refuse other writes meanwhile.

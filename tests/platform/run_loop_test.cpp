@@ -3,8 +3,7 @@
 #include "qt_run_loop.h"
 #include "scripted_alerts.h"
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
+#include <QTest>
 
 #include <gtest/gtest.h>
 #include <string>
@@ -20,18 +19,7 @@ class run_loop_rules : public testing::Test {
     }
     // Lets events come until the calls noted are these, or far too long has passed.
     void expect_calls(const std::string& expected) {
-        QElapsedTimer clock;
-        clock.start();
-        while (log != expected && clock.elapsed() < 5'000)
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-        EXPECT_EQ(log, expected);
-    }
-    // Events for so long, as a dialog's own loop lets them come.
-    static void let_pass(int milliseconds) {
-        QElapsedTimer clock;
-        clock.start();
-        while (clock.elapsed() < milliseconds)
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return log == expected; })) << log;
     }
     qt_run_loop loop;
     scripted_alerts messages{loop};
@@ -66,7 +54,7 @@ TEST_F(run_loop_rules, nothing_is_delivered_while_a_dialog_is_up) {
             loop.cancel(timeout);
         });
         timeout = loop.after(ms(2), note("timeout"));
-        let_pass(10);
+        QTest::qWait(10); // as a dialog's own loop lets events come
         log += "|";
     };
     loop.after(ms(0), [this] {

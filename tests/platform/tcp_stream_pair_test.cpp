@@ -2,10 +2,9 @@
 #include "qt_run_loop.h"
 #include "tcp_stream_pair.h"
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTest>
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -22,16 +21,6 @@ class tcp_pair : public testing::TestWithParam<const char*> {
         pair = std::make_unique<tcp_stream_pair>(loop, GetParam(), server.serverPort());
     }
 
-    template <class condition>
-    bool wait_for(condition holds) {
-        QElapsedTimer clock;
-        clock.start();
-        while (!holds() && clock.elapsed() < 10'000)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents,
-                                            50);
-        return holds();
-    }
-
     void open() {
         pair->open([this](stream_side, int code) {
             codes.push_back(code);
@@ -42,7 +31,7 @@ class tcp_pair : public testing::TestWithParam<const char*> {
     }
     void open_and_accept() {
         open();
-        ASSERT_TRUE(wait_for([this] {
+        ASSERT_TRUE(QTest::qWaitFor([this] {
             return count(STREAM_OPEN_COMPLETED) == 2 && server.hasPendingConnections();
         }));
         peer.reset(server.nextPendingConnection());
@@ -66,10 +55,10 @@ class tcp_pair : public testing::TestWithParam<const char*> {
 TEST_P(tcp_pair, both_sides_report_open_and_bytes_go_both_ways) {
     open_and_accept();
     pair->write("AT Z\r");
-    ASSERT_TRUE(wait_for([this] { return peer->bytesAvailable() == 5; }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return peer->bytesAvailable() == 5; }));
     EXPECT_EQ(peer->readAll(), "AT Z\r");
     peer->write("OK\r\r>");
-    ASSERT_TRUE(wait_for([this] { return all() == "OK\r\r>"; }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return all() == "OK\r\r>"; }));
 }
 
 TEST_P(tcp_pair, a_long_reply_comes_in_reads_of_at_most_1024_bytes_and_the_end_comes_last) {
@@ -77,7 +66,7 @@ TEST_P(tcp_pair, a_long_reply_comes_in_reads_of_at_most_1024_bytes_and_the_end_c
     peer->write(QByteArray(3000, 'x'));
     peer->flush();
     peer->disconnectFromHost();
-    ASSERT_TRUE(wait_for([this] { return count(STREAM_END) == 1; }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return count(STREAM_END) == 1; }));
     EXPECT_EQ(all().size(), 3000u);
     EXPECT_GE(chunks.size(), 3u);
     for (const std::string& chunk : chunks)
@@ -93,7 +82,8 @@ TEST_P(tcp_pair, our_own_close_raises_no_event) {
     peer->write("late\r>");
     peer->flush();
     pair->close();
-    wait_for([this] { return peer->state() == QAbstractSocket::UnconnectedState; });
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return peer->state() == QAbstractSocket::UnconnectedState; }));
     EXPECT_TRUE(codes.empty());
     pair->write("dropped");
 }
@@ -101,7 +91,7 @@ TEST_P(tcp_pair, our_own_close_raises_no_event) {
 TEST_P(tcp_pair, a_refused_connection_is_an_error_with_words) {
     server.close();
     open();
-    ASSERT_TRUE(wait_for([this] { return count(STREAM_ERROR) == 1; }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return count(STREAM_ERROR) == 1; }));
     EXPECT_FALSE(pair->error_description().empty());
 }
 
@@ -122,12 +112,7 @@ TEST(tcp_pair_address, ports_outside_the_range_and_unknown_names_end_in_the_erro
         tcp_stream_pair pair(loop, host, port);
         int error_events = 0;
         pair.open([&](stream_side, int code) { error_events += code == STREAM_ERROR; });
-        QElapsedTimer clock;
-        clock.start();
-        while (!error_events && clock.elapsed() < 20'000)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents,
-                                            50);
-        EXPECT_EQ(error_events, 1);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return error_events == 1; }, 20'000));
         EXPECT_FALSE(pair.error_description().empty());
     }
 }

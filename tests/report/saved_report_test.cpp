@@ -2,6 +2,8 @@
 // that only looks like a report is taken for one.
 #include "report_fixture.h"
 #include "report_json.h"
+#include "rows.h"
+#include "test_paths.h"
 #include "text.h"
 
 #include <gtest/gtest.h>
@@ -54,41 +56,21 @@ TEST(saved_report, hides_the_number_wherever_else_it_came) {
     EXPECT_EQ(hidden[2].text, "last car: ******");
 }
 
-struct foreign_row {
-    const char* name;
-    const char* from; // in a sound document
-    const char* to;
-    const char* why;
-};
-constexpr foreign_row FOREIGN[] = {
-    {"no JSON", "{", "[", "it is no JSON document"},
-    {"another format", "kestrom-report", "x", "it is no report of Kestrom"},
-    {"another version", "\"version\": 1", "\"version\": 2", "it is of another version"},
-    {"no pieces", "\"conversation\"", "\"x\"", "\"conversation\" is missing"},
-    {"a list for a text", "\"text\": \"ELM", "\"x\": \"ELM", "\"text\" is missing"},
-    {"a negative time", "\"milliseconds\": ", "\"milliseconds\": -",
-     "\"milliseconds\" is no number from 0 on"},
-    {"data that is not hex", "\"data\": \"41", "\"data\": \"4G",
-     "\"data\" is not in capital hex digits"},
-    {"a request twice", "\"request\": \"07\"", "\"request\": \"03\"", "a request stands twice"},
-    {"an odd unit", "\"unit\": \"7E8\"", "\"unit\": \"7E87E87E8\"", "it names too many units"},
-    {"an unknown end", "\"complete\",", "\"over\",", "\"end\" is no word of this version"},
-};
-
 TEST(saved_report, that_is_none_is_refused_with_the_reason) {
     car_on_the_bench bench("can11");
     const std::string sound = report_json(bench.read());
     // The worked-out half of a document is for others to read: only the conversation counts.
     const std::size_t talk = sound.find("\"conversation\"");
-    for (const foreign_row& row : FOREIGN) {
+    for (const table_row& row : read_rows(test_data("foreign.rows"))) {
+        const std::string &from = row.fields[0], &to = row.fields[1];
         std::string document = sound;
-        std::size_t at = document.find(row.from, talk);
-        at = at == document.npos ? document.find(row.from) : at;
-        ASSERT_NE(at, document.npos) << row.name;
-        document.replace(at, std::string_view(row.from).size(), row.to);
+        std::size_t at = document.find(from, talk);
+        at = at == document.npos ? document.find(from) : at;
+        ASSERT_NE(at, document.npos) << row.place;
+        document.replace(at, from.size(), to);
         std::string why;
-        EXPECT_FALSE(open_report(document, why)) << row.name;
-        EXPECT_EQ(why, row.why) << row.name;
+        EXPECT_FALSE(open_report(document, why)) << row.place;
+        EXPECT_EQ(why, row.fields[2]) << row.place;
     }
 }
 

@@ -2,9 +2,9 @@
 // what the run's log holds.
 #include "fast_sampler.h"
 #include "recorded_adapter.h"
+#include "rows.h"
 #include "test_paths.h"
 
-#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 
@@ -13,14 +13,6 @@ namespace {
 using std::chrono::milliseconds;
 
 const std::vector<std::string> FOUR{"0D", "11", "0C", "05"};
-
-std::vector<std::string> recordings() {
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(test_data("")))
-        if (entry.path().extension() == ".jsonl")
-            names.push_back(entry.path().stem().string());
-    return names;
-}
 
 class recorded_run : public testing::TestWithParam<std::string> {
   protected:
@@ -69,7 +61,7 @@ TEST_P(recorded_run, goes_the_same_way_again) {
     EXPECT_EQ(sampled, logged);
 }
 
-INSTANTIATE_TEST_SUITE_P(each, recorded_run, testing::ValuesIn(recordings()),
+INSTANTIATE_TEST_SUITE_P(each, recorded_run, testing::ValuesIn(files_in(test_data(""), ".jsonl")),
                          [](const auto& name) { return name.param; });
 
 } // namespace

@@ -1,8 +1,9 @@
-// What is shown and what is said of answers to "01 01" and "03": each line of answers.txt is one
+// What is shown and what is said of answers to "01 01" and "03": each line of answers.rows is one
 // conversation with the trouble-codes screen, from the handshake on.
 #include "app_harness.h"
 #include "qt_warnings.h"
 #include "readCodes.h"
+#include "rows.h"
 #include "test_paths.h"
 #include "text.h"
 #include "unread_text.h"
@@ -10,7 +11,6 @@
 #include <QLabel>
 #include <QTableView>
 
-#include <fstream>
 #include <gtest/gtest.h>
 #include <map>
 
@@ -21,21 +21,14 @@ struct conversation {
 };
 
 std::string adapter_text(const std::string& column) {
-    return replace_all(replace_all(column, "/", "\r"), "\\n", "\n") + "\r\r>";
+    return replace_all(column, "/", "\r") + "\r\r>";
 }
 
 std::vector<conversation> conversations() {
-    std::ifstream file(source_file("tests/screens/answers.txt"));
     std::vector<conversation> all;
-    for (std::string line; std::getline(file, line);) {
-        if (line.starts_with('#'))
-            continue;
-        std::vector<std::string> columns;
-        for (const std::string_view column : split(line, "|"))
-            columns.emplace_back(trimmed(column, " "));
-        columns.resize(8);
-        all.push_back({columns[0], columns[1], columns[2], columns[3], columns[4], columns[5],
-                       columns[6], columns[7]});
+    for (const table_row& row : read_rows(test_data("answers.rows"))) {
+        const auto& f = row.fields;
+        all.push_back({f[0], f[1], f[2], f[3], f[4], f[5], f[6], f[7]});
     }
     return all;
 }

@@ -3,8 +3,13 @@
 #include "actions.h"
 #include "app_harness.h"
 #include "car_library.h"
+#include "hex_text.h"
+#include "mac_toolies.h"
 #include "qt_warnings.h"
+#include "rows.h"
 #include "sample_reply.h"
+#include "test_paths.h"
+#include "text.h"
 #include "thumbnail_strip.h"
 #include "virtual_car_pair.h"
 
@@ -29,10 +34,7 @@ class car_on_the_road {
               store.set_boolean(KS_METRIC_UNITS_KEY, metric);
           }),
           the_car(car_with(engine)), adapter(the_car, options(faults)) {
-        app.delegate->doors().make_streams = [this](const std::string&,
-                                                    long) -> std::unique_ptr<stream_pair> {
-            return std::make_unique<virtual_car_pair>(app.loop, adapter);
-        };
+        app.delegate->doors().make_streams = streams_to(app.loop, adapter);
         app.delegate->do_actions();
         screen().cycle_completed = [this](const std::vector<translated>&) {
             const std::size_t row = screen().samples().rows() - 2;
@@ -78,53 +80,21 @@ class car_on_the_road {
     std::vector<list> rows; // of complete cycles, as filed
 };
 
-const std::map<int, byte_string> SPEED_96_AIR_32{{0x0D, {96}}, {0x10, {0x0C, 0x80}}};
-const std::map<int, byte_string> STANDING{{0x0D, {0}}, {0x10, {0x01, 0x90}}};
-const std::map<int, byte_string> NO_AIR{{0x0D, {96}}, {0x10, {0, 0}}};
-const std::map<int, byte_string> NO_AIR_METER{{0x0D, {96}}};
-const std::map<int, byte_string> AIR_180{{0x06, {0x90}}, {0x0A, {100}}, {0x0B, {180}}};
-const std::map<int, byte_string> AIR_30{{0x06, {0x90}}, {0x0A, {100}}, {0x0B, {30}}};
-const std::map<int, byte_string> AIR_180_OVER_90{{0x0A, {100}}, {0x0B, {180}}, {0x33, {90}}};
-const std::map<int, byte_string> AIR_180_OVER_0{{0x0A, {100}}, {0x0B, {180}}, {0x33, {0}}};
+// "0D=60,10=0C80": parameters and their data bytes.
+std::map<int, byte_string> engine_of(const std::string& text) {
+    std::map<int, byte_string> engine;
+    for (const std::string_view one : split(text, ","))
+        engine[int(hex_number(one.substr(0, 2)))] =
+            mac_toolies::fromHexString(std::string(one.substr(3))).value();
+    return engine;
+}
 
-// 96 km/h are 59.65 mph. 32 g/s of air burn 2.177 g/s of petrol: 10.59 l/h or 2.798 gallons. The
-// economy is kept in hundredths of a km/l, 9.06. Boost is what exceeds the air around, 101 kPa
-// where the car does not measure it: 79, -71, 90 kPa; 6.895 kPa a psi.
 TEST(live_runs, compute_what_a_calculation_by_hand_gives) {
-    const struct {
-        const char* name;
-        int task;
-        bool metric;
-        const std::map<int, byte_string>& engine;
-        list shown;
-    } cases[] = {
-        {"economy",
-         TASK_FUEL_ECONOMY,
-         true,
-         SPEED_96_AIR_32,
-         {"9.06 kpl", "96.00  Km/h", "32.00  gm/s"}},
-        {"mpg",
-         TASK_FUEL_ECONOMY,
-         false,
-         SPEED_96_AIR_32,
-         {"21.31 mpg", "60.00 mph", "4.27  lb/min"}},
-        {"standing", TASK_FUEL_ECONOMY, true, STANDING, {"0.00 kpl", "0.00  Km/h", "4.00  gm/s"}},
-        {"no air", TASK_FUEL_ECONOMY, true, NO_AIR, {"~", "96.00  Km/h", "0.00  gm/s"}},
-        {"no meter", TASK_FUEL_ECONOMY, true, NO_AIR_METER, {"~", "96.00  Km/h", "~"}},
-        {"boost", TASK_BOOST, true, AIR_180, {"79.00 KPa", "12.50  %", "~", "300.0  KPa"}},
-        {"psi", TASK_BOOST, false, AIR_180, {"11.46 psi", "12.50  %", "~", "43.5  psi"}},
-        {"vacuum", TASK_BOOST, true, AIR_30, {"-71.00 KPa", "12.50  %", "~", "300.0  KPa"}},
-        {"altitude", TASK_BOOST, true, AIR_180_OVER_90, {"90.00 KPa", "~", "~", "300.0  KPa"}},
-        {"broken barometer",
-         TASK_BOOST,
-         true,
-         AIR_180_OVER_0,
-         {"79.00 KPa", "~", "~", "300.0  KPa"}},
-    };
-    for (const auto& one : cases) {
-        SCOPED_TRACE(one.name);
-        car_on_the_road bench(one.engine, {}, one.metric);
-        EXPECT_EQ(bench.run(one.task), one.shown);
+    for (const table_row& row : read_rows(test_data("computed.rows"))) {
+        SCOPED_TRACE(row.place);
+        car_on_the_road bench(engine_of(row.fields[1]), {}, row.fields[0] == "metric");
+        const list shown = bench.run(row.heading == "fuel" ? TASK_FUEL_ECONOMY : TASK_BOOST);
+        EXPECT_EQ(shown, list(row.fields.begin() + 2, row.fields.end()));
         EXPECT_GT(bench.rows.size(), 100u); // every 10 ms an answer, after a second or so
     }
 }

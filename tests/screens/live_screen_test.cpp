@@ -1,7 +1,6 @@
 // The live-data screen by its widgets, against answers given by hand: run selector, thumbnails,
 // dials, zoom, log, and the answers that an adapter still owes.
 #include "live_fixture.h"
-#include "stall_hint.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -46,22 +45,6 @@ TEST_F(live_screen, the_selector_names_the_runs_and_each_rebuilds_the_screen) {
         }
     }
     EXPECT_EQ(g_cur_barom_press, 101);
-}
-
-TEST_F(live_screen, without_parameters_says_so_and_samples_nothing) {
-    app.defaults.set_string_array(PIDS_ARRAY_KEY, {"", "C", "0D ", "speed"}); // none of them one
-    app.delegate->do_read_codes();
-    open();
-    EXPECT_EQ(app.messages.messages(),
-              list{"No PIDs selected ... select them on the prefs option "});
-    EXPECT_FALSE(app.find("emptyStrip")->isHidden());
-    start();
-    EXPECT_FALSE(screen().running());
-    EXPECT_EQ(app.sent(), "");
-    QTest::keyClick(&strip(), Qt::Key_Right);
-    QTest::mouseClick(&strip(), Qt::LeftButton);
-    screen().zoomSliderDidChange(0);
-    draw();
 }
 
 struct choice {
@@ -154,45 +137,6 @@ TEST_F(live_screen, the_slider_comes_with_the_21st_row_and_names_what_the_chart_
     app.press("startStopBtn"); // one answer is still owed
     draw();
     EXPECT_FALSE(slider->isVisible());
-}
-
-// However long the reply time-out of a run is.
-TEST_F(live_screen, what_a_stopped_run_asked_for_is_awaited_for_three_seconds) {
-    start();
-    cycle();
-    EXPECT_EQ(g_this_delta, 3000);
-    EXPECT_EQ(app.sent(), "01 0D\r");
-    app.press("startStopBtn");
-    app.press("startStopBtn");
-    app.loop.advance(milliseconds(2999));
-    EXPECT_EQ(app.sent(), "");
-    app.loop.advance(milliseconds(1));
-    EXPECT_EQ(app.sent(), "01 0D\r");
-    EXPECT_EQ(screen().samples().rows(), 1u);
-    EXPECT_EQ(screen().samples().text(0, 0), "-1");
-}
-
-TEST_F(live_screen, the_stall_hint_shows_after_five_seconds_and_changes_nothing) {
-    start();
-    cycle();
-    EXPECT_EQ(app.sent(), "01 0D\r");
-    draw();
-    auto* hint = static_cast<stall_hint*>(app.find("stallHint"));
-    const auto step = next_step_idx;
-    const std::string status = app.last_status();
-    app.loop.advance(milliseconds(4800)); // 200 have passed
-    hint->refresh();
-    EXPECT_EQ(hint->text(), QString());
-    app.loop.advance(milliseconds(1000));
-    hint->refresh();
-    EXPECT_EQ(hint->text(), QStringLiteral("waiting for the adapter, 6 s"));
-    EXPECT_EQ(app.last_status(), status);
-    EXPECT_EQ(next_step_idx, step);
-    EXPECT_EQ(app.sent(), "");
-    EXPECT_TRUE(screen().running());
-    app.receive("41 0D 30\r\r>");
-    hint->refresh();
-    EXPECT_EQ(hint->text(), QString());
 }
 
 // What it answers meanwhile is filed under no name that it does not belong to.

@@ -25,10 +25,7 @@ class more_parameters_test : public testing::Test {
         expect_warning("propagateSizeHints"); // of a view that is a window of its own
         the_car = load_car(name);
         adapter.emplace(the_car, adapter_options{});
-        app.delegate->doors().make_streams = [this](const std::string&,
-                                                    long) -> std::unique_ptr<stream_pair> {
-            return std::make_unique<virtual_car_pair>(app.loop, *adapter);
-        };
+        app.delegate->doors().make_streams = streams_to(app.loop, *adapter);
         app.delegate->do_actions();
         screen().view()->show();
     }

@@ -2,43 +2,48 @@
 #include "qt_warnings.h"
 #include "reply_accumulator.h"
 #include "reply_ledger.h"
+#include "rows.h"
+#include "test_paths.h"
+#include "text.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-struct accumulation {
-    const char* name;
-    std::vector<std::string> chunks;
-    std::vector<std::string> replies;
-    std::string left;
-};
+using F = const std::vector<std::string>&;
 
-TEST(reply_accumulation, a_reply_is_complete_when_its_prompt_has_come) {
-    const accumulation cases[] = {
-        {"three chunks, the prompt alone", {"41 00", " BE\r\r", ">"}, {"41 00 BE\r\r>"}, ""},
-        {"the next reply has begun", {"A\r>B\n", "C>"}, {"A\r>", "BC>"}, ""},
-        {"two whole replies at once", {"A>B>"}, {"A>B>"}, ""},
-        {"text, reply and a third begun", {"A>B>C"}, {"A>"}, "B"},
-        {"prompts before the text", {">>A>B"}, {"A>"}, "B"},
-        {"a prompt before a reply that is not complete", {">A", "B>"}, {"AB>"}, ""},
-        {"zero bytes, which clones send", {std::string("\0\0OK\r\0\r>", 9)}, {"OK\r\r>"}, ""},
-        {"a prompt alone", {">"}, {">"}, ""},
-        {"a line end behind the prompt", {"A\r\r>\r\n", "B\r>"}, {"A\r\r>", "B\r>"}, ""},
-        {"a prompt with a line end, alone", {"A\r", ">\r\n", "B>"}, {"A\r>", "B>"}, ""},
-        {"two replies and a line end", {"A>B>\r"}, {"A>B>"}, ""},
-        {"nothing", {""}, {}, ""},
-    };
-    for (const accumulation& one : cases) {
-        SCOPED_TRACE(one.name);
-        reset_global_vars();
-        std::vector<std::string> replies;
-        for (const std::string& chunk : one.chunks)
-            if (accumulate_reply(chunk))
-                replies.push_back(odb_curReplyMsg);
-        EXPECT_EQ(replies, one.replies);
-        EXPECT_EQ(odb_curReplyBuffyMsg, one.left);
-    }
+// The replies that a number of chunks make, and what is left of them.
+std::string replies_of(F f, int) {
+    reset_global_vars();
+    std::string told;
+    for (const std::string_view chunk : split(f[0], "/"))
+        if (accumulate_reply(std::string(chunk)))
+            told += odb_curReplyMsg + "/";
+    return told + odb_curReplyBuffyMsg;
+}
+
+// s: a command leaves, t: time-out, m: an answer is missing; then the chunks come.
+std::string ledger_after(F f, int) {
+    constexpr auto NOW = std::chrono::seconds(1);
+    reply_ledger ledger;
+    for (const char event : f[0])
+        event == 's'   ? ledger.command_left(NOW)
+        : event == 't' ? ledger.timed_out()
+                       : ledger.answer_is_missing();
+    for (const std::string_view chunk : split(f[1], "/"))
+        ledger.received(std::string(chunk), NOW);
+    const std::string told = std::string(ledger.owes() ? "owed" : "-") +
+                             (ledger.awaited_since().count() != 0 ? " awaited" : "");
+    ledger.link_gone();
+    EXPECT_FALSE(ledger.owes() || ledger.half_come() || ledger.awaited_since().count() != 0);
+    return told;
+}
+
+TEST(replies, are_whole_and_owed_as_the_rows_say) {
+    const row_operations<int> operations{{"accumulate_reply", replies_of},
+                                         {"reply_ledger", ledger_after}};
+    for (const table_row& row : read_rows(test_data("replies.rows")))
+        expect_row(operations, row, 0);
 }
 
 TEST(reply_accumulation, rubbish_without_a_prompt_has_a_ceiling) {
@@ -53,45 +58,6 @@ TEST(reply_accumulation, rubbish_without_a_prompt_has_a_ceiling) {
     EXPECT_FALSE(accumulate_reply(longest));
     EXPECT_TRUE(accumulate_reply(">"));
     EXPECT_EQ(odb_curReplyMsg.size(), LONGEST_REPLY);
-}
-
-// What the link is told, and whether a reply is owed and awaited afterwards.
-TEST(reply_ledger, knows_what_is_owed) {
-    constexpr auto NOW = std::chrono::seconds(1);
-    const struct {
-        const char* name;
-        const char* events; // s: a command leaves, t: time-out, m: an answer is missing
-        std::vector<std::string> chunks;
-        bool owes, awaited;
-    } cases[] = {
-        {"nothing asked", "", {"stray>"}, false, false},
-        {"asked", "s", {}, true, true},
-        {"half a reply", "s", {"41 0"}, true, true},
-        {"in pieces, the prompt with a line end", "s", {"41 0", "C\r", ">\r\n"}, false, false},
-        {"a prompt and more in a piece, behind text", "s", {"A\r", ">B"}, false, false},
-        {"a prompt left over in front", "s", {">A"}, true, true},
-        {"no bytes", "s", {"", std::string(1, '\0')}, true, true},
-        {"late", "st", {}, true, false},
-        {"late, and there", "st", {"A>"}, false, false},
-        {"two asked, one answered", "ss", {"A>"}, true, false},
-        {"two asked, both answered at once", "ss", {"A\r\r>B\r\r>"}, false, false},
-        {"an answer to something else", "sm", {"A>"}, true, false},
-        {"begun behind another, its prompt before a third", "ss", {"A>B", ">C"}, false, false},
-    };
-    for (const auto& one : cases) {
-        SCOPED_TRACE(one.name);
-        reply_ledger ledger;
-        for (const char event : std::string(one.events))
-            event == 's'   ? ledger.command_left(NOW)
-            : event == 't' ? ledger.timed_out()
-                           : ledger.answer_is_missing();
-        for (const std::string& chunk : one.chunks)
-            ledger.received(chunk, NOW);
-        EXPECT_EQ(ledger.owes(), one.owes);
-        EXPECT_EQ(ledger.awaited_since().count() != 0, one.awaited);
-        ledger.link_gone();
-        EXPECT_FALSE(ledger.owes() || ledger.half_come() || ledger.awaited_since().count() != 0);
-    }
 }
 
 TEST(reply_ledger, a_sign_of_life_ends_the_stall_and_a_zero_byte_is_none) {

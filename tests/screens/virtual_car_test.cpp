@@ -19,10 +19,7 @@ class car_on_the_bench {
   public:
     explicit car_on_the_bench(const std::string& name, std::vector<fault> faults = {})
         : the_car(load_car(name)), adapter(the_car, options(std::move(faults))) {
-        app.delegate->doors().make_streams = [this](const std::string&,
-                                                    long) -> std::unique_ptr<stream_pair> {
-            return std::make_unique<virtual_car_pair>(app.loop, adapter);
-        };
+        app.delegate->doors().make_streams = streams_to(app.loop, adapter);
         app.delegate->do_read_codes();
     }
     static adapter_options options(std::vector<fault> faults) {

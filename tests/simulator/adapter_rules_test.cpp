@@ -1,5 +1,6 @@
 // What no single conversation can show.
 #include "adapter_harness.h"
+#include "text.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -62,47 +63,12 @@ TEST(adapter_rules, one_seed_gives_one_conversation) {
 
 // Whatever is typed, each line gets one prompt and the adapter stays usable.
 TEST(adapter_rules, any_mixture_of_commands_gets_one_prompt_each) {
-    const std::vector<std::string> parts = {"AT",
-                                            "SP ",
-                                            "SH ",
-                                            "CRA",
-                                            "CF ",
-                                            "CAF",
-                                            "H",
-                                            "S",
-                                            "D",
-                                            "PP",
-                                            "0",
-                                            "1",
-                                            "2",
-                                            "7E0",
-                                            "18",
-                                            "DA",
-                                            "F1",
-                                            "01",
-                                            "03",
-                                            "09",
-                                            "02",
-                                            "00",
-                                            "20",
-                                            "FF",
-                                            "A",
-                                            "SV ",
-                                            "ON",
-                                            "TP",
-                                            "PC",
-                                            "ST ",
-                                            "BD",
-                                            "KW",
-                                            "@3",
-                                            "6",
-                                            "3",
-                                            "E",
-                                            "L",
-                                            "7DF",
-                                            "CP ",
-                                            "CM ",
-                                            std::string(300, 'A')};
+    auto parts =
+        split("AT|SP |SH |CRA|CF |CAF|H|S|D|PP|0|1|2|7E0|18|DA|F1|01|03|09|02|00|20|FF|A|SV |ON|TP|"
+              "PC|ST |BD|KW|@3|6|3|E|L|7DF|CP |CM ",
+              "|");
+    const std::string long_one(300, 'A');
+    parts.push_back(long_one);
     seeded_random random(3);
     for (const std::string& name : car_names()) {
         adapter_harness car({.car_name = name});

@@ -1,4 +1,6 @@
 #include "recorded_adapter.h"
+#include "rows.h"
+#include "test_paths.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -86,35 +88,10 @@ TEST_F(slower_recorded_adapter_test, times_are_stretched) {
 }
 
 TEST(recording_test, what_is_no_recording_is_refused_with_file_and_line) {
-    const std::string open = std::string(HEADER) + R"({"ms":1,"event":"open"})" + "\n";
-    const struct {
-        std::string text;
-        const char* error;
-    } cases[] = {
-        {"", "talk: is empty"},
-        {HEADER, "talk: no connection"},
-        {"{}\n", "talk:1: this is no recording"},
-        {R"({"kestrom_recording":2})", "talk:1: was recorded in a form"},
-        {open + "{\"ms\":2,\"received\":\"41", "talk:3: "}, // cut off
-        {open + "[]", "talk:3: is no object"},
-        {open + R"({"sent":""})", "talk:3: \"ms\""},
-        {open + R"({"ms":0,"sent":""})", "talk:3: is earlier"},
-        {open + R"({"ms":1e99,"sent":""})", "talk:3: \"ms\""},
-        {open + R"({"ms":2.5,"sent":""})", "talk:3: \"ms\""},
-        {open + R"({"ms":2})", "talk:3: needs"},
-        {open + R"({"ms":2,"sent":"","received":""})", "talk:3: needs"},
-        {open + R"({"ms":2,"heard":""})", "talk:3: has neither"},
-        {open + R"({"ms":2,"sent":5})", "talk:3: a text is expected"},
-        {open + R"({"ms":2,"sent":"\u0100"})", "talk:3: has a character beyond"},
-        {open + R"({"ms":2,"event":"lunch"})", "talk:3: there is no event"},
-        {std::string(HEADER) + R"({"ms":2,"sent":"\r"})", "talk:2: stands where no connection"},
-        {open + "{\"ms\":1,\"event\":\"end\"}\n{\"ms\":1,\"received\":\"\"}",
-         "talk:4: stands where no connection"},
-    };
-    for (const auto& [text, error] : cases)
-        EXPECT_THAT([&text = text] { read_recording(text, "talk"); },
-                    testing::ThrowsMessage<recording_error>(testing::StartsWith(error)))
-            << text;
+    for (const table_row& row : read_rows(test_data("broken_recordings.rows")))
+        EXPECT_THAT([&] { read_recording(row.fields[0], "talk"); },
+                    testing::ThrowsMessage<recording_error>(testing::StartsWith(row.fields[1])))
+            << row.place;
 }
 
 } // namespace

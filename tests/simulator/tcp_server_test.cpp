@@ -2,24 +2,12 @@
 #include "car_library.h"
 #include "tcp_adapter_server.h"
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QTcpSocket>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
 namespace {
-
-constexpr int PATIENCE = 5000; // ms
-
-template <typename condition>
-bool wait_for(condition met) {
-    QElapsedTimer clock;
-    clock.start();
-    while (!met() && clock.elapsed() < PATIENCE)
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 20);
-    return met();
-}
 
 adapter_options at_once(const std::vector<fault>& faults = {}) {
     adapter_options options;
@@ -32,7 +20,7 @@ adapter_options at_once(const std::vector<fault>& faults = {}) {
 std::string say(QTcpSocket& client, const char* command) {
     client.write(command);
     QByteArray reply;
-    wait_for([&] {
+    (void)QTest::qWaitFor([&] {
         reply += client.readAll();
         return reply.endsWith('>') || client.state() != QAbstractSocket::ConnectedState;
     });
@@ -41,7 +29,7 @@ std::string say(QTcpSocket& client, const char* command) {
 
 bool connect_to(QTcpSocket& client, const tcp_adapter_server& server) {
     client.connectToHost(QStringLiteral("127.0.0.1"), quint16(server.port()));
-    return wait_for([&] { return client.state() == QAbstractSocket::ConnectedState; });
+    return QTest::qWaitFor([&] { return client.state() == QAbstractSocket::ConnectedState; });
 }
 
 TEST(tcp_server_test, clients_one_after_another_meet_the_same_car) {
@@ -66,7 +54,8 @@ TEST(tcp_server_test, a_client_that_left_while_waiting_keeps_nobody_waiting) {
     EXPECT_EQ(say(first, "AT E0\r"), "AT E0\rOK\r\r>");
     ASSERT_TRUE(connect_to(leaving, server));
     leaving.disconnectFromHost();
-    ASSERT_TRUE(wait_for([&] { return leaving.state() == QAbstractSocket::UnconnectedState; }));
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return leaving.state() == QAbstractSocket::UnconnectedState; }));
     ASSERT_TRUE(connect_to(last, server));
     EXPECT_EQ(say(first, "AT I\r"), "ELM327 v1.5\r\r>");
     first.disconnectFromHost();
@@ -86,7 +75,7 @@ TEST(tcp_server_test, a_client_closed_at_its_first_waiting_bytes_lets_the_next_i
     first.disconnectFromHost();
     for (QTcpSocket* const waiting : {&second, &third})
         EXPECT_TRUE(
-            wait_for([&] { return waiting->state() == QAbstractSocket::UnconnectedState; }));
+            QTest::qWaitFor([&] { return waiting->state() == QAbstractSocket::UnconnectedState; }));
 }
 
 TEST(tcp_server_test, refuse_and_close_are_seen_by_the_client) {
@@ -96,7 +85,7 @@ TEST(tcp_server_test, refuse_and_close_are_seen_by_the_client) {
     QTcpSocket client;
     client.connectToHost(QStringLiteral("127.0.0.1"), quint16(refusing.port()));
     EXPECT_TRUE(
-        wait_for([&] { return client.error() == QAbstractSocket::ConnectionRefusedError; }));
+        QTest::qWaitFor([&] { return client.error() == QAbstractSocket::ConnectionRefusedError; }));
 
     tcp_adapter_server closing(load_car("can11"), at_once({{fault_kind::close_after, 1}}));
     ASSERT_TRUE(closing.listen("127.0.0.1", 0));
@@ -104,7 +93,8 @@ TEST(tcp_server_test, refuse_and_close_are_seen_by_the_client) {
     ASSERT_TRUE(connect_to(other, closing));
     EXPECT_EQ(say(other, "AT E0\r"), "AT E0\rOK\r\r>");
     EXPECT_EQ(say(other, "AT I\r"), "");
-    EXPECT_TRUE(wait_for([&] { return other.state() == QAbstractSocket::UnconnectedState; }));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return other.state() == QAbstractSocket::UnconnectedState; }));
     QTcpSocket again;
     ASSERT_TRUE(connect_to(again, closing));
     EXPECT_EQ(say(again, "AT I\r"), "ELM327 v1.5\r\r>");
@@ -116,9 +106,9 @@ TEST(tcp_server_test, pieces_of_a_reply_travel_apart) {
     QTcpSocket client;
     ASSERT_TRUE(connect_to(client, server));
     client.write("AT I\r");
-    ASSERT_TRUE(wait_for([&] { return client.bytesAvailable() > 0; }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return client.bytesAvailable() > 0; }));
     EXPECT_FALSE(client.readAll().contains('>'));
-    ASSERT_TRUE(wait_for([&] { return client.bytesAvailable() > 0; }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return client.bytesAvailable() > 0; }));
     EXPECT_EQ(client.readAll(), ">");
 }
 

@@ -1,3 +1,5 @@
+#include "rows.h"
+#include "test_paths.h"
 #include "virtual_car_options.h"
 
 #include <gtest/gtest.h>
@@ -26,24 +28,8 @@ TEST(virtual_car_options_test, every_option_reaches_its_place) {
 }
 
 TEST(virtual_car_options_test, what_cannot_be_meant_is_refused) {
-    using arguments = std::vector<std::string>;
-    for (const arguments& bad : {arguments{"--prot"},
-                                 {"car"},
-                                 {"--port"},
-                                 {"--port", "70000"},
-                                 {"--port", "12x"},
-                                 {"--port="},
-                                 {"--stdio=1"},
-                                 {"--latency", "-1"},
-                                 {"--speed", "nan"},
-                                 {"--speed", "1e9"},
-                                 {"--seed", "-1"},
-                                 {"--fault", "gremlins"},
-                                 {"--fault", "close_after"},
-                                 {"--protocol", "can"},
-                                 {"--replay", "talk", "--car", "van"},
-                                 {"--fault=crlf", "--replay=talk"}})
-        EXPECT_THROW(read_options(bad), usage_error) << bad.front();
+    for (const table_row& row : read_rows(test_data("refused_options.rows")))
+        EXPECT_THROW(read_options(row.fields), usage_error) << row.place;
 }
 
 } // namespace

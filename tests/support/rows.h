@@ -4,6 +4,7 @@
 // use. "#" begins a comment.
 #pragma once
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -18,12 +19,8 @@ struct table_row {
     std::vector<std::string> fields;
 };
 
-inline std::string plain_field(std::string_view written) {
+inline std::string unescaped(std::string_view written) {
     constexpr std::string_view LETTERS = "srntp0\\", MEANT("\x20\r\n\t|\0\\", 7);
-    const std::size_t begin = written.find_first_not_of(' ');
-    if (begin == written.npos)
-        return {};
-    written = written.substr(begin, written.find_last_not_of(' ') + 1 - begin);
     std::string text;
     for (std::size_t i = 0; i < written.size(); ++i) {
         if (written[i] != '\\') {
@@ -37,6 +34,11 @@ inline std::string plain_field(std::string_view written) {
         }
     }
     return text;
+}
+
+inline std::string plain_field(std::string_view written) {
+    const std::size_t begin = std::min(written.find_first_not_of(' '), written.size());
+    return unescaped(written.substr(begin, written.find_last_not_of(' ') + 1 - begin));
 }
 
 inline std::vector<table_row> read_rows(const std::filesystem::path& path) {

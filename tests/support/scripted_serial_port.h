@@ -15,14 +15,14 @@ class scripted_serial_port final : public serial_port_profile {
     explicit scripted_serial_port(run_loop& loop) : loop_(loop) {}
 
     // --- what goes wrong
-    bool no_selector = false;
+    int no_selector = 0;
     int selector_result = SELECTOR_SUCCESS;
-    bool nothing_selected = false;
-    bool no_service_record = false;
+    int nothing_selected = 0;
+    int no_service_record = 0;
     int channel_id_error = 0;
     int connect_error = 0;
     int open_error = 0;
-    bool open_leaves_channel = true;
+    int open_leaves_channel = 1;
     int write_error = 0;
     int close_connection_error = 0;
     // Runs while the chooser is open.

@@ -89,3 +89,10 @@ class virtual_car_pair final : public stream_pair {
     bool gone_ = false;
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
 };
+
+// Every connection leads to this adapter.
+inline stream_pair_factory streams_to(run_loop& loop, virtual_adapter& adapter) {
+    return [&](const std::string&, long) -> std::unique_ptr<stream_pair> {
+        return std::make_unique<virtual_car_pair>(loop, adapter);
+    };
+}

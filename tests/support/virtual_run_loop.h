@@ -31,9 +31,6 @@ class virtual_run_loop final : public run_loop {
         for (const auto& entry : armed_)
             tell(entry.first.first);
     }
-    bool anything_armed() const { return !armed_.empty(); }
-    // When the next call falls due.
-    milliseconds next_due() const { return armed_.begin()->first.first; }
 
   protected:
     void arm(timer_id id, milliseconds delay) override {

@@ -127,7 +127,7 @@ void use_run(user_defaults& store, const cli_request& asked) {
         store.set_string_array(MORE_PIDS_KEY, {});
         store.set_string_array(PIDS_ARRAY_KEY,
                                asked.all_pids ? std::vector<std::string>{"0C"} : asked.pids);
-    } else if (asked.run != "log") { // which has its own, but needs a list that is not empty
+    } else if (asked.run != "log") { // has its own parameters, but needs a non-empty list
         store.set_string_array(PIDS_ARRAY_KEY, {"0C"});
     }
 }
@@ -223,8 +223,8 @@ bool start_recording(conversation_recorder& recorder, const cli_request& asked,
 }
 
 // Puts the command line's choices into the store; answers the demo's car.
-std::unique_ptr<tcp_adapter_server> use_what_is_asked(user_defaults& defaults,
-                                                      const cli_request& asked) {
+std::unique_ptr<tcp_adapter_server> apply_options(user_defaults& defaults,
+                                                  const cli_request& asked) {
     std::unique_ptr<tcp_adapter_server> car;
     if (asked.demo) {
         car = start_demo_car(asked.demo_car);
@@ -257,7 +257,7 @@ struct house {
     const cli_request& asked;
     std::optional<QTemporaryDir> scratch{};
     user_defaults defaults{settings_path(asked, scratch)};
-    std::unique_ptr<tcp_adapter_server> car{use_what_is_asked(defaults, asked)};
+    std::unique_ptr<tcp_adapter_server> car{apply_options(defaults, asked)};
     const bool first_start = defaults.integer(KS_INTERFACE_KEY) == 0;
     qt_run_loop loop{};
     const bundle resources{resources_for(defaults)};
@@ -294,10 +294,10 @@ struct house {
         return asked.without_display() ? static_cast<alerts&>(printed_alerts) : shown_alerts;
     }
     int leave_with(main_window& window, int status) {
-        const int told = save_screenshot(window, asked.screenshot) ? status : FAILURE_STATUS;
+        const int result = save_screenshot(window, asked.screenshot) ? status : FAILURE_STATUS;
         window.close();
-        application.exit(told);
-        return told;
+        application.exit(result);
+        return result;
     }
 };
 
@@ -343,8 +343,7 @@ int run(QApplication& application, const cli_request& asked) {
                                  : run_command(home, delegate, window);
 }
 
-// Lost output makes any command fail. If the reader has gone, such as head(1), no message is
-// printed: it has all it wants.
+// Lost output makes any command fail, silently if the reader (head, say) has closed the pipe.
 int status_with_output(int status) {
     if (!output_lost())
         return status;
@@ -400,6 +399,6 @@ int start(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
-    std::signal(SIGPIPE, SIG_IGN); // the write itself reports that the reader has gone
+    std::signal(SIGPIPE, SIG_IGN); // the failed write is reported instead
     return status_with_output(start(argc, argv));
 }

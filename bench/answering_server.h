@@ -1,5 +1,5 @@
-// An adapter that answers at once, for measuring the program that asks: a TCP server on loopback,
-// on a thread of its own, with blocking sockets and nothing else in its way.
+// An adapter that answers immediately, to measure the program alone: a TCP server on loopback, in
+// its own thread, with blocking sockets.
 #pragma once
 
 #include "drive_cycle.h"
@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-// What a car on its drive answers to the four parameters of a run, one sample every 20 ms, in the
-// order asked.
+// A driving car's answers to the four parameters of a run, in request order, one sample every 20
+// ms.
 class driving_car {
   public:
     driving_car();
@@ -23,7 +23,7 @@ class driving_car {
 };
 
 struct answering_manner {
-    int pieces = 1;                       // that a reply is written in, with Nagle's algorithm on
+    int pieces = 1;                       // per reply, with Nagle's algorithm on
     std::chrono::milliseconds between{0}; // the pieces
     std::chrono::milliseconds before{0};  // a reply
 };
@@ -33,7 +33,7 @@ class answering_server {
     explicit answering_server(answering_manner manner = {});
 
     int port() const { return server_.port(); }
-    // What the server's thread has computed so far.
+    // CPU time of the server's thread.
     double processor_seconds() { return server_.processor_seconds(); }
 
   private:

@@ -1,4 +1,4 @@
-// The least that a Qt Widgets program can be: one label, gone once it has been painted.
+// The smallest Qt Widgets program: one label that exits once painted.
 #include <QApplication>
 #include <QLabel>
 #include <QTimer>

@@ -15,8 +15,8 @@ namespace {
 
 constexpr std::size_t ROUNDS = 50; // of requesting every parameter
 
-// What a drive asks for: the usual parameters with moving values, as the sampling loop hands them
-// on; now and then the car does not answer.
+// The usual parameters with changing values, as the sampling loop passes them on; now and then
+// NO DATA.
 std::vector<std::string> drive() {
     const struct {
         std::string_view pid;

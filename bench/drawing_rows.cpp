@@ -102,7 +102,7 @@ sample_set values_of(int frame) {
             {"04", number.substr(2) + ".10  %", "0.0", "0.0"}};
 }
 
-// Other limits than in the frames before, so that no kept grid fits.
+// New limits each frame, so that no cached grid fits.
 void change_limits(label_records& labels, int frame) {
     constexpr int LIMITS = 6;
     for (label_record& label : labels) {
@@ -125,7 +125,7 @@ void draw(drawChartyItem& chart, const sample_rows& rows, int frame, limits axes
 
 using shared_bench = std::shared_ptr<drawing_bench>;
 
-// Each call files one reply of a run that already has `rows` rows, and works out the labels.
+// Each call files one reply in a run of `rows` rows and computes the labels.
 timed_work filing(const shared_bench& bench, std::size_t rows) {
     struct state {
         sample_rows samples{PIDS.size()};
@@ -156,7 +156,7 @@ timed_work large_chart(const shared_bench& bench, std::size_t rows, data kind, d
     }};
 }
 
-// The chart's first curve over its grid: every segment by itself, or reduced.
+// The first curve over the grid: every segment, or reduced.
 enum class way { literal, reduced };
 
 QImage curve_picture(drawing_bench& bench, drawChartyItem& chart, std::size_t rows, data kind,
@@ -195,7 +195,7 @@ picture_difference difference_at(drawing_bench& bench, data kind, double scale, 
                             curve_picture(bench, *chart, ROWS, kind, way::reduced, antialiased));
 }
 
-std::string told(const picture_difference& found) {
+std::string described(const picture_difference& found) {
     char text[160];
     const int written = std::snprintf(
         text, sizeof text, "%.4f %% of the pixels by more than 24 of 255 (%d at all, most by %d)",
@@ -218,7 +218,7 @@ void add_picture_rows(ratio_table& table, const shared_bench& bench) {
             "same picture, not smoothed, pixels" + rows,
             [bench, kind] { return difference_at(*bench, kind, 1, false).any; }, reach::at_most, 0);
         table.add_remark("at scale 2 differ" + rows,
-                         [bench, kind] { return told(difference_at(*bench, kind, 2, true)); });
+                         [bench, kind] { return described(difference_at(*bench, kind, 2, true)); });
     }
 }
 

@@ -1,7 +1,7 @@
-// kestrom-fast-bench: values a second from the virtual adapter on the real clock, with the live
-// screen shown: plain, fast, and the peer's way, in turns. Takes an hour.
-#include "peers_way.h"
+// kestrom-fast-bench: values per second from the virtual adapter on the real clock, with the live
+// screen shown: plain, fast and the reference client, in turns. Takes an hour.
 #include "ratio_table.h"
+#include "reference_client.h"
 #include "running_program.h"
 #include "virtual_server.h"
 
@@ -23,37 +23,38 @@ struct scene {
     bool can;
     std::vector<std::string> pids;
     int baud;
-    // Fast against the peer's way; 0: reported only.
+    // Ratio of fast sampling to the reference client; 0: only reported.
     double target;
 };
 
-// On CAN until it has proved what it can, elsewhere the time for that.
-bool in_earnest(actions& screen, const scene& where) {
+// Whether the probing phase is over.
+bool settled(actions& screen, const scene& where) {
     const std::size_t cycles = where.can ? 60 : 8;
     return screen.cycles() >= (screen.fast_level() ? cycles : 3);
 }
 
-std::vector<double> fast_against_peer(const scene& where) {
-    // Elsewhere a value takes 150 ms, and a cycle with a silent parameter weighs on a short span.
+std::vector<double> fast_against_reference(const scene& where) {
+    // Off CAN a value takes 150 ms, so a cycle with a silent parameter would distort a short span.
     const milliseconds span(where.can ? 2500 : 16000);
     virtual_server servers[3] = {
         {where.car, where.baud}, {where.car, where.baud}, {where.car, where.baud}};
-    const auto ready = [&](actions& screen) { return in_earnest(screen, where); };
+    const auto ready = [&](actions& screen) { return settled(screen, where); };
     const auto shows = running_program::shows::two_curves_and_dials;
     double plain = 0;
     {
         running_program program(servers[0].port(), 0, shows, where.pids, false, ready);
         plain = program.requests_a_second(span);
     }
-    peers_way peer(servers[1].port(), where.pids);
+    reference_client reference(servers[1].port(), where.pids);
     running_program program(servers[2].port(), 0, shows, where.pids, true, ready);
     std::vector<double> ratios;
     for (int i = 0; i < TURNS; ++i) {
-        const double theirs = peer.values_a_second(span);
-        program.requests_a_second(milliseconds(300)); // what waited meanwhile
+        const double theirs = reference.values_a_second(span);
+        program.requests_a_second(milliseconds(300)); // drain what has piled up
         const double ours = program.requests_a_second(span);
-        std::printf("  plain %.1f, fast %.1f (level %d), the peer's way %.1f values a second\n",
-                    plain, ours, program.screen().fast_level().value_or(0), theirs);
+        std::printf(
+            "  plain %.1f, fast %.1f (level %d), the reference client %.1f values a second\n",
+            plain, ours, program.screen().fast_level().value_or(0), theirs);
         ratios.push_back(ours / theirs);
     }
     return ratios;
@@ -72,10 +73,10 @@ std::string processor_time() {
     const auto ours = [&] { return process_seconds() - server.processor_seconds(); };
     const double before = ours();
     const double rate = program.requests_a_second(milliseconds(10'000));
-    char told[80];
-    std::snprintf(told, sizeof told, "%.0f values a second, %.1f %% of a core", rate,
+    char text[80];
+    std::snprintf(text, sizeof text, "%.0f values a second, %.1f %% of a core", rate,
                   (ours() - before) * 10);
-    return told;
+    return text;
 }
 
 } // namespace
@@ -90,8 +91,7 @@ int main(int argc, char** argv) {
     struct place {
         const char* car;
         bool can;
-        // With four parameters and twelve, on a line of 38400 baud and without one; between them
-        // the lower one.
+        // With four parameters and with twelve; `slow` behind any serial line.
         double four_slow, four, twelve_slow, twelve;
     };
     ratio_table table;
@@ -111,7 +111,7 @@ int main(int argc, char** argv) {
                 table.add_series(
                     "fast/" + std::string(one.car) + (twelve ? "/12/" : "/4/") +
                         std::to_string(baud),
-                    "the peer's way", [where] { return fast_against_peer(where); },
+                    "the reference client", [where] { return fast_against_reference(where); },
                     where.target > 0 ? reach::at_least : reach::none, where.target);
             }
     table.add_remark("fast/processor_time", processor_time);

@@ -1,5 +1,4 @@
-// kestrom-live-bench: what sampling live data costs, with the live screen shown, over a real
-// socket.
+// kestrom-live-bench: the cost of live sampling with the live screen shown, over a real socket.
 #include "answering_server.h"
 #include "ratio_table.h"
 #include "running_program.h"
@@ -64,11 +63,11 @@ double with_slow_pieces() {
     return program.requests_a_second(SPAN);
 }
 
-// At the window's own size; QT_SCALE_FACTOR=2 in front of the bench tells it for 200 %.
+// At the window's own size; run the bench with QT_SCALE_FACTOR=2 for 200 %.
 double percent_of_a_core() {
     answering_server server({1, milliseconds(0), milliseconds(20)});
     running_program program(server.port(), FEW_ROWS, running_program::shows::one_curve);
-    // Every thread of the program, those that Qt draws on too, but not the adapter.
+    // All threads of the program, including Qt's, but not the adapter's.
     const auto ours = [&] { return process_seconds() - server.processor_seconds(); };
     const double before = ours();
     const double rate = program.requests_a_second(milliseconds(30'000));

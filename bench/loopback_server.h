@@ -1,4 +1,4 @@
-// A TCP server on loopback for one client at a time, on a thread of its own, with blocking sockets.
+// A TCP server on loopback for one client at a time, in its own thread, with blocking sockets.
 #pragma once
 
 #include <atomic>
@@ -7,15 +7,15 @@
 
 class loopback_server {
   public:
-    // `talk` serves a client on the server's thread until it has gone. The last member of what it
-    // uses.
+    // `talk` serves a client on the server's thread until it disconnects. Declare the server after
+    // everything that `talk` uses.
     loopback_server(bool no_delay, std::function<void(int client)> talk);
     ~loopback_server();
     loopback_server(const loopback_server&) = delete;
     loopback_server& operator=(const loopback_server&) = delete;
 
     int port() const { return port_; }
-    // What the server's thread has computed so far.
+    // CPU time of the server's thread.
     double processor_seconds();
 
   private:

@@ -1,5 +1,5 @@
-// kestrom-bench: runs the rows (all, or those that --benchmark_filter=REGEX chooses) and prints
-// them with their targets. Exit status 1 when a target was missed.
+// kestrom-bench: runs all rows, or those matching --benchmark_filter=REGEX, and prints them with
+// their targets. Exit status 1 if a target was missed.
 #include "ratio_table.h"
 #include "rows.h"
 

@@ -10,7 +10,7 @@ namespace {
 
 constexpr double LEAST_TURN = 0.002; // seconds; shorter ones measure the clock
 
-// Seconds this thread has computed: what else the machine does meanwhile counts for nothing.
+// CPU time of this thread, so that other load on the machine does not count.
 double thread_seconds() {
     timespec now;
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
@@ -24,7 +24,7 @@ double seconds_of(const timed_work& work, std::size_t calls) {
     return thread_seconds() - start;
 }
 
-// How many calls make one turn. Warms up on the way.
+// The number of calls in a turn. Also warms up.
 std::size_t calls_a_turn(const timed_work& work) {
     std::size_t calls = 1;
     while (seconds_of(work, calls) < LEAST_TURN)

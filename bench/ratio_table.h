@@ -1,6 +1,5 @@
-// The speed promises: what each row measures, against which yardstick, and how far it may go. Every
-// ratio is taken within one run, work and yardstick in turns, in processor time of the one thread
-// that does them.
+// The speed targets: what each row measures, its yardstick, and the limit. Every ratio is taken
+// within one run, work and yardstick in turns, in CPU time of the thread that does both.
 #pragma once
 
 #include <cstddef>
@@ -9,8 +8,7 @@
 #include <string>
 #include <vector>
 
-// Something to time. One call of `run` does `operations` operations; the ratio compares single
-// ones.
+// One call of `run` does `operations` operations; ratios are per operation.
 struct timed_work {
     std::function<void()> run;
     std::size_t operations = 1;
@@ -27,21 +25,21 @@ struct measured {
 
 class ratio_table {
   public:
-    // work / yardstick, in time; with reach::at_least yardstick / work: how many times faster it
-    // is. Fewer turns for what takes long.
+    // Time of work / yardstick; with reach::at_least yardstick / work, a speed-up. Fewer turns for
+    // slow work.
     void add_ratio(const std::string& what, timed_work work, const std::string& against,
                    timed_work yardstick, reach kind, double target, int turns = 31);
-    // Ratios that `measure` takes itself, work and yardstick in turns.
+    // Ratios that `measure` computes itself, work and yardstick in turns.
     void add_series(const std::string& what, const std::string& against,
                     std::function<std::vector<double>()> measure, reach kind, double target);
-    // A number measured once, such as bytes a sample; no yardstick.
+    // A number measured once, such as bytes per sample; no yardstick.
     void add_figure(const std::string& what, std::function<double()> measure, reach kind,
                     double target);
 
     // Printed without a target.
     void add_remark(const std::string& what, std::function<std::string()> tell);
 
-    // Prints what ran and returns whether every target was met.
+    // Prints the rows that ran; true if every target was met.
     bool print() const;
 
   private:

@@ -1,4 +1,4 @@
-// Who fills the table: one function per subject, in a file of its own.
+// The functions that fill the table, one file per subject.
 #pragma once
 
 class ratio_table;

@@ -43,7 +43,7 @@ class running_program {
   public:
     enum class shows { one_curve, two_curves_and_dials };
     static std::vector<std::string> four() { return {"0D", "11", "0C", "05"}; }
-    // `fast`: also without a limit of requests. `ready`: when sampling is really under way.
+    // `fast`: without a limit on requests. `ready`: whether measuring can start.
     explicit running_program(
         int port, std::size_t rows_before = 0, shows what = shows::two_curves_and_dials,
         const std::vector<std::string>& pids = four(), bool fast = false,

@@ -1,4 +1,4 @@
-// The virtual adapter on the real clock: a thread of its own on a loopback port.
+// The virtual adapter on the real clock, in its own thread on a loopback port.
 #pragma once
 
 #include "car_library.h"

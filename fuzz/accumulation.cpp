@@ -23,7 +23,7 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
     reset_global_vars();
     for (const std::string_view chunk : split(as_text(bytes), "|"))
         take(chunk);
-    // Whatever came before, the next reply is complete and at the end.
+    // After any input, the next reply is complete and at the end.
     take("41 0C 1A F8\r\r>");
     REQUIRE(odb_curReplyMsg.ends_with("41 0C 1A F8\r\r>"));
     REQUIRE(odb_curReplyBuffyMsg.empty());

@@ -1,4 +1,4 @@
-// What a client may send to the virtual adapter; "|" lets a second pass.
+// Client input to the virtual adapter; at "|" a second passes.
 #include "car_library.h"
 #include "fuzz_one.h"
 #include "virtual_adapter.h"
@@ -35,7 +35,7 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
         now += milliseconds(1000);
         drain(adapter, now);
     }
-    // Whatever was said, a reset brings the prompt back.
+    // After any input, a reset brings the prompt back.
     adapter.receive("\r", now);
     drain(adapter, now);
     adapter.receive("AT Z\r", now);

@@ -1,6 +1,6 @@
-// Replies to a fast sampler: whatever they are, it files a whole answer to a parameter that it
-// asked for, once a cycle each, or none; and it goes on or gives up. The first byte picks the bus,
-// the rest are the replies, each up to its prompt.
+// Replies to a fast sampler: it files only complete answers for requested parameters, each once per
+// cycle, and continues or gives up. The first byte picks the bus, the rest are replies, each up to
+// its prompt.
 #include "fast_sampler.h"
 #include "fuzz_one.h"
 #include "sample_reply.h"
@@ -12,7 +12,7 @@ namespace {
 
 const std::vector<std::string> PIDS{"04", "05", "06", "0C", "0D", "10", "11", "66"};
 
-// Messages, each unit's one, of whole bytes: frames that fit leave nothing else.
+// Frames that fit yield one message of whole bytes per unit.
 void walk(std::string_view command, std::string_view reply) {
     const strict_reply read = read_strictly(command, reply);
     REQUIRE(read.odd || read.notice.empty() == !read.messages.empty());

@@ -1,5 +1,5 @@
-// A whole report read of an adapter that answers with these replies, one after the other; then
-// nothing more comes. What was read is saved and opened again as it was.
+// Reads a report from an adapter that gives these replies, one after the other, and then falls
+// silent. The report is saved and reopened unchanged.
 #include "car_reader.h"
 
 #include "../tests/support/virtual_run_loop.h"
@@ -18,7 +18,7 @@ class scripted_door final : public adapter_door {
   public:
     scripted_door(run_loop& loop, std::string_view replies) : loop_(loop), replies_(replies) {}
 
-    void ask(const std::string&, run_loop::milliseconds bound, answered told) override {
+    void ask(const std::string&, run_loop::milliseconds bound, answered on_reply) override {
         REQUIRE(++asked_ < MOST_QUESTIONS);
         std::optional<std::string> reply;
         if (const std::size_t end = replies_.find('>'); end != replies_.npos) {
@@ -26,7 +26,7 @@ class scripted_door final : public adapter_door {
             replies_.remove_prefix(end + 1);
         }
         const auto takes = reply ? run_loop::milliseconds(10) : bound;
-        call_ = loop_.after(takes, [told = std::move(told), reply] { told(reply); });
+        call_ = loop_.after(takes, [on_reply = std::move(on_reply), reply] { on_reply(reply); });
     }
     void give_up() override { loop_.cancel(call_); }
 
@@ -47,7 +47,7 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
     reader.start({});
     loop.advance(2 * car_reader::LONGEST_READING);
     REQUIRE(!reader.running());
-    const car_report report = report_of(reader.heard(), tools.decoder);
+    const car_report report = report_of(reader.transcript(), tools.decoder);
     sheet_text(sheet_of(report, tools.resources));
     const std::string saved = report_json(report);
     std::string why;

@@ -1,4 +1,4 @@
-// Car files: refused with a reason, or cars whose codes a client reads as the file has them.
+// Car files: rejected with a reason, or a car whose codes a client reads as in the file.
 #include "bus_protocols.h"
 #include "car_library.h"
 #include "fuzz_one.h"

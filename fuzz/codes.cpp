@@ -1,4 +1,4 @@
-// Trouble codes, out of replies on CAN and on older buses.
+// Trouble codes from replies on CAN and on older buses.
 #include "fuzz_one.h"
 #include "mac_toolies.h"
 #include "text.h"

@@ -1,4 +1,4 @@
-// Between a corpus and the files that the fuzzing engine works on:
+// Converts between a corpus and the fuzzing engine's files:
 //   corpus_lines unpack CORPUS FOLDER    each line as a file, named by its number
 //   corpus_lines line FILE...            each file as a line, to be added to a corpus
 #include "corpus_lines.h"

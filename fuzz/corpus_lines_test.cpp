@@ -1,4 +1,4 @@
-// What a corpus would silently lose: bytes that do not survive their line.
+// Every byte survives being written to a corpus line and read back.
 #include "corpus_lines.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Where the fuzzing engine calls in.
+// The fuzzing engine's entry point.
 #include "fuzz_one.h"
 
 #include <QtGlobal>

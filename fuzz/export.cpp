@@ -1,4 +1,4 @@
-// Run log files, as they become tables.
+// Run log files, exported as tables.
 #include "fuzz_one.h"
 #include "fuzz_toolkit.h"
 #include "log_export.h"
@@ -35,7 +35,7 @@ bool is_value(std::string_view text, std::size_t decimals) {
            text.find_first_not_of("0123456789.") == text.npos;
 }
 
-// The log is its own companion: as damaged as can be.
+// The log also serves as its companion, thoroughly damaged.
 void export_in(const export_form& form, const scratch_folder& folder, const std::string& log) {
     static const fuzz_toolkit toolkit(false);
     const std::string source = folder.write("run.gol", log), output = folder.path("run.csv");

@@ -1,4 +1,4 @@
-// The numbered frames of a multi-frame reply, joined.
+// Joining the numbered frames of a multi-frame reply.
 #include "fuzz_one.h"
 #include "mac_toolies.h"
 #include "text.h"
@@ -8,7 +8,7 @@ int fuzz_one(std::span<const std::uint8_t> bytes) {
     const std::string joined = mac_toolies::grab_CAN_msg(reply);
     REQUIRE(joined.size() <= bytes.size());
     REQUIRE(joined.find_first_of("\r\n>") == joined.npos);
-    // Everything of the message is what the frames held, in their order.
+    // The message consists of the frames' contents, in order.
     std::size_t from = 0;
     for (const char c : joined) {
         from = reply.find(c, from);

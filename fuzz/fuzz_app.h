@@ -1,5 +1,5 @@
-// The whole application without a window, a network or real time, for targets that read what a
-// running task is answered. One for all inputs.
+// The application without a window, a network or real time, for targets that feed replies to a
+// running task. One for all inputs.
 #pragma once
 
 #include "app_harness.h"
@@ -10,9 +10,9 @@ class fuzz_app {
   public:
     explicit fuzz_app(const std::function<void(user_defaults&)>& prepare) : app(prepare) {}
 
-    // Nothing of an earlier input is left; the adapter is up.
+    // Nothing is left of an earlier input; the adapter is initialised.
     void begin() {
-        app.loop.advance(std::chrono::seconds(10)); // nothing is owed any more
+        app.loop.advance(std::chrono::seconds(10)); // until no reply is owed
         app.messages.shown.clear();
         app.statuses.clear();
         if (!app.wires.empty())
@@ -20,7 +20,7 @@ class fuzz_app {
         connected_2_KS_interface = true;
         g_retries = 0;
     }
-    // Presses the button of a task; its first command has been sent then.
+    // Presses the button of a task, which sends its first command.
     void press(const char* button) {
         app.press(button);
         if (!connected_2_WIFI_interface)

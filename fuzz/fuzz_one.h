@@ -1,6 +1,6 @@
-// What a fuzz target is: one function that hands arbitrary bytes to one reader of outside text and
-// checks what may be said of the answer whatever the bytes are. Each target is a program: built
-// with the fuzzing engine in the `fuzz` preset, with a plain main that replays files in all others.
+// A fuzz target: a function that passes arbitrary bytes to one reader of outside text and checks
+// invariants of the result. Each target is a program: with the fuzzing engine in the `fuzz` preset,
+// with a plain main that replays files in all others.
 #pragma once
 
 #include <cstdint>

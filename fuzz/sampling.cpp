@@ -1,4 +1,4 @@
-// Replies during a run: what the sampling loop files, shows and logs of them. The first byte picks
+// Replies during a run: what the sampling loop files, shows and logs. The first byte picks
 // the kind of run, the rest are the replies, each up to its prompt.
 #include "actions.h"
 #include "fuzz_app.h"

@@ -1,5 +1,4 @@
-// A folder of this process below TMPDIR, for targets whose readers want files. It is gone when the
-// program ends in the ordinary way.
+// A folder below TMPDIR for targets whose readers need files; removed on normal exit.
 #pragma once
 
 #include <filesystem>

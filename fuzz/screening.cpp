@@ -1,4 +1,4 @@
-// Replies during the handshake: what the screener and each step make of them.
+// Replies during the handshake: how the screener and each step handle them.
 #include "codes_handshake.h"
 #include "fuzz_one.h"
 #include "fuzz_toolkit.h"

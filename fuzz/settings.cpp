@@ -1,4 +1,4 @@
-// The settings file: read in any state, and written back without a change to what it said.
+// The settings file: read in any state, and written back unchanged.
 #include "constantes.h"
 #include "fuzz_one.h"
 #include "scratch_folder.h"

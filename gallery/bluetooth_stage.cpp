@@ -8,7 +8,7 @@
 
 namespace {
 
-// What the dialog looks at lives as long as the dialog.
+// The dialog's data lives as long as the dialog.
 class chooser_on_show final : public QObject {
   public:
     chooser_on_show(stage& on, const bluetooth_surroundings& there) : mock_(there.service) {

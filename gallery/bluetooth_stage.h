@@ -1,4 +1,4 @@
-// The dialog that picks a Bluetooth adapter, over a Bluetooth service that is none.
+// The dialog that picks a Bluetooth adapter, with a fake Bluetooth service.
 #pragma once
 
 class stage;

@@ -29,7 +29,7 @@ std::string name_of(const QWidget& widget) {
            (name.isEmpty() ? widget.property("text").toString() : name).toStdString();
 }
 
-// Widgets of the window that are seen, not those of the windows above it.
+// Visible widgets of the window, without those of windows above it.
 template <class kind = QWidget>
 std::vector<kind*> visible(const QWidget& window) {
     std::vector<kind*> found;
@@ -50,7 +50,7 @@ bool is_operated(const QWidget& widget) {
            widget.focusPolicy() == Qt::StrongFocus;
 }
 
-void check_names(const QWidget& window, complaints& told) {
+void check_names(const QWidget& window, complaints& list) {
     std::map<const QWidget*, const QLabel*> buddies;
     for (const QLabel* label : visible<QLabel>(window))
         if (label->buddy())
@@ -61,14 +61,14 @@ void check_names(const QWidget& window, complaints& told) {
         const auto* button = qobject_cast<const QAbstractButton*>(widget);
         const bool has_text = button && !button->text().isEmpty();
         if (!has_text && widget->accessibleName().isEmpty() && !buddies.contains(widget))
-            told.push_back(name_of(*widget) + " has no accessible name");
+            list.push_back(name_of(*widget) + " has no accessible name");
         if (button && !has_text && widget->toolTip().isEmpty() &&
             !qobject_cast<const QAbstractItemView*>(widget->parentWidget()))
-            told.push_back(name_of(*widget) + " has neither text nor tooltip");
+            list.push_back(name_of(*widget) + " has neither text nor tooltip");
     }
 }
 
-void check_mnemonics(const QWidget& window, complaints& told) {
+void check_mnemonics(const QWidget& window, complaints& list) {
     std::map<QChar, QString> taken;
     const auto take = [&](const QString& text) {
         const qsizetype mark =
@@ -77,7 +77,7 @@ void check_mnemonics(const QWidget& window, complaints& told) {
             return;
         const auto [other, free] = taken.emplace(text[mark + 1].toLower(), text);
         if (!free)
-            told.push_back("the mnemonics of " + text.toStdString() + " and " +
+            list.push_back("the mnemonics of " + text.toStdString() + " and " +
                            other->second.toStdString() + " are the same");
     };
     for (const QAbstractButton* button : visible<QAbstractButton>(window))
@@ -104,7 +104,7 @@ bool in_reading_order(const QRect& a, const QRect& b) {
            b.left() >= a.right();
 }
 
-void check_tab_order(const QWidget& window, complaints& told) {
+void check_tab_order(const QWidget& window, complaints& list) {
     const QWidget* start = nullptr;
     for (const QWidget* widget : visible(window))
         if (takes_tab(*widget) &&
@@ -120,11 +120,11 @@ void check_tab_order(const QWidget& window, complaints& told) {
     };
     for (std::size_t i = 1; i < chain.size(); ++i)
         if (!in_reading_order(place(chain[i - 1]), place(chain[i])))
-            told.push_back("Tab goes backwards from " + name_of(*chain[i - 1]) + " to " +
+            list.push_back("Tab goes backwards from " + name_of(*chain[i - 1]) + " to " +
                            name_of(*chain[i]));
 }
 
-void check_labels(const QWidget& window, complaints& told) {
+void check_labels(const QWidget& window, complaints& list) {
     for (const QLabel* label : visible<QLabel>(window)) {
         if (label->text().isEmpty())
             continue;
@@ -138,14 +138,14 @@ void check_labels(const QWidget& window, complaints& told) {
         const bool whole_in_tooltip = !label->toolTip().isEmpty();
         if (!whole_in_tooltip &&
             (need.width() > room.width() + 1 || need.height() > room.height() + 1))
-            told.push_back(name_of(*label) + " needs " + std::to_string(need.width()) + " x " +
+            list.push_back(name_of(*label) + " needs " + std::to_string(need.width()) + " x " +
                            std::to_string(need.height()) + " and has " +
                            std::to_string(room.width()) + " x " + std::to_string(room.height()) +
                            ": " + text.toStdString());
     }
 }
 
-void check_buttons(const QWidget& window, complaints& told) {
+void check_buttons(const QWidget& window, complaints& list) {
     for (const QWidget* widget : visible(window)) {
         if (!qobject_cast<const QAbstractButton*>(widget) &&
             !qobject_cast<const QComboBox*>(widget) && !qobject_cast<const QGroupBox*>(widget))
@@ -154,18 +154,18 @@ void check_buttons(const QWidget& window, complaints& told) {
             continue;
         const QSize need = widget->minimumSizeHint();
         if (need.width() > widget->width() || need.height() > widget->height())
-            told.push_back(name_of(*widget) + " is smaller than its text");
+            list.push_back(name_of(*widget) + " is smaller than its text");
     }
 }
 
-void check_tables(const QWidget& window, complaints& told) {
+void check_tables(const QWidget& window, complaints& list) {
     for (const QTableView* table : visible<QTableView>(window)) {
         const QHeaderView* header = table->horizontalHeader();
         const QAbstractItemModel* model = table->model();
         for (int column = 0; column < model->columnCount(); ++column) {
             const QString title = model->headerData(column, Qt::Horizontal).toString();
             if (header->fontMetrics().horizontalAdvance(title) + 8 > header->sectionSize(column))
-                told.push_back("the heading " + title.toStdString() + " does not fit");
+                list.push_back("the heading " + title.toStdString() + " does not fit");
         }
         for (int row = 0; row < model->rowCount(); ++row)
             for (int column = 0; column < model->columnCount(); ++column) {
@@ -188,10 +188,10 @@ void check_tables(const QWidget& window, complaints& told) {
                 if (cell.data(Qt::ToolTipRole).isValid())
                     continue;
                 if (!table->wordWrap() && need.width() > room.width())
-                    told.push_back("a cell is wider than its column: " +
+                    list.push_back("a cell is wider than its column: " +
                                    cell.data().toString().toStdString());
                 else if (need.height() > room.height() + 1)
-                    told.push_back("a cell is higher than its row: " +
+                    list.push_back("a cell is higher than its row: " +
                                    cell.data().toString().toStdString());
             }
     }
@@ -200,11 +200,11 @@ void check_tables(const QWidget& window, complaints& told) {
 } // namespace
 
 std::vector<std::string> broken_layout_rules(const QWidget& window) {
-    complaints told;
+    complaints list;
     for (const auto check :
          {check_names, check_mnemonics, check_tab_order, check_labels, check_buttons, check_tables})
-        check(window, told);
-    std::ranges::sort(told);
-    told.erase(std::ranges::unique(told).begin(), told.end());
-    return told;
+        check(window, list);
+    std::ranges::sort(list);
+    list.erase(std::ranges::unique(list).begin(), list.end());
+    return list;
 }

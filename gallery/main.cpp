@@ -1,7 +1,9 @@
-// kestrom-gallery: renders every state of the program to a picture and checks the layout rules. One
-// run is one language, size, scale and palette; scripts/gallery runs it for each. kestrom-gallery
-// --list kestrom-gallery [--language de] [--size 1024x600] [--scale 150] [--dark] [--check | --into
-// FOLDER] [SCENE...] Exit status 1 when a rule is broken.
+// kestrom-gallery: renders every state of the program and checks the layout rules, in one language,
+// size, scale and palette; scripts/gallery runs it for each. Exit status 1 if a rule is broken.
+//
+//   kestrom-gallery --list
+//   kestrom-gallery [--language de] [--size 1024x600] [--scale 150] [--dark]
+//                   [--check | --into FOLDER] [SCENE...]
 #include "quick_style.h"
 #include "stage.h"
 

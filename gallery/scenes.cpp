@@ -1,4 +1,4 @@
-// The states, one by one, as a user comes to them.
+// The states, in the order in which a user meets them.
 #include "bluetooth_stage.h"
 #include "constantes.h"
 #include "mac_toolies.h"
@@ -99,7 +99,7 @@ void stalled_run(stage& on) {
     run(on, 0, 30);
     static_cast<stall_hint*>(on.app.find("stallHint"))->refresh();
 }
-// A file is in place of the log folder.
+// A file takes the log folder's place.
 void log_failed(stage& on) {
     const std::filesystem::path folder = mac_toolies::sharedManager().log_folder();
     std::filesystem::create_directories(folder.parent_path().parent_path());

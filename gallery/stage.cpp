@@ -84,7 +84,7 @@ void stage::show_dialog(QWidget* dialog) {
     settle();
 }
 
-// The real box, for as long as it takes to look at it.
+// The real box, until it has been rendered.
 void stage::show_message(const alert_request& request) {
     if (!looks_at_message_ || !picture_.isNull())
         return;

@@ -1,6 +1,6 @@
-// One state of the program, set up to be looked at: the whole application in its real window, on a
-// virtual clock, with a virtual car at the far end of its link. The same state gives the same
-// picture on every day and machine with the same fonts.
+// One state of the program, ready to be rendered: the application in its real window, on a virtual
+// clock, linked to a virtual car. With the same fonts, the same state always gives the same
+// picture.
 #pragma once
 
 #include "app_harness.h"
@@ -29,7 +29,7 @@ struct scene {
     void (*settings)(user_defaults&) = app_harness::use_wifi;
 };
 
-// Every state there is, in the order of the index.
+// Every state, in index order.
 const std::vector<scene>& scenes();
 
 class stage {
@@ -38,7 +38,7 @@ class stage {
     ~stage();
 
     void pass(double seconds);
-    // Presses a button of the screen and lets that long pass.
+    // Presses a button of the screen, then lets the given time pass.
     void press(const char* button, double seconds) {
         app.press(button);
         pass(seconds);
@@ -49,13 +49,13 @@ class stage {
     void show_dialog(QWidget* dialog);
     // The picture is that of the next message box.
     void look_at_message() { looks_at_message_ = true; }
-    // No time passes any more.
+    // Stops the clock.
     void freeze() { frozen_ = true; }
     // Lets the event loop run until nothing is left to paint.
     void settle();
 
     const QImage& picture();
-    // What the rules found wrong with the window and the dialog.
+    // The layout rules that the window and the dialog break.
     const std::vector<std::string>& complaints() const { return complaints_; }
 
     car the_car;

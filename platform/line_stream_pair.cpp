@@ -20,12 +20,11 @@ void line_stream_pair::raise_bytes() {
     if (announced_ || ended_)
         return;
     announced_ = true;
-    // Immediately: waiting a turn of the event loop for every reply would cost a third of the
-    // sampling rate.
+    // Immediately: a turn of the event loop per reply would cost a third of the sampling rate.
     loop_.from_event_loop(event(stream_side::input, STREAM_BYTES_AVAILABLE));
 }
 
-// The line does not signal again for what is left.
+// The device does not signal again for unread bytes.
 bool line_stream_pair::announce_rest() {
     if (!announced_ && more_to_take()) {
         announced_ = true;
@@ -44,7 +43,7 @@ void line_stream_pair::raise_error(std::string why) {
     raise(stream_side::input, STREAM_ERROR);
 }
 
-void line_stream_pair::listen_no_more() {
+void line_stream_pair::stop_listening() {
     alive_.reset();
     handler_ = nullptr;
 }

@@ -1,4 +1,4 @@
-// When the signals of a line of the system become events of a stream pair.
+// Turns the signals of a Qt device into the events of a stream pair.
 #pragma once
 
 #include "run_loop.h"
@@ -19,10 +19,10 @@ class line_stream_pair : public stream_pair {
     virtual void bytes_handled() {}
 
     void listen(event_handler handler) { handler_ = std::move(handler); }
-    void listen_no_more();
+    void stop_listening();
     void raise_open();
     void raise_bytes();
-    void raise_end(); // behind what can still be taken
+    void raise_end(); // after what can still be read
     void raise_error(std::string why);
 
     run_loop& loop_;

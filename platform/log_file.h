@@ -32,7 +32,7 @@ class log_file {
     std::optional<std::string> append_line(std::string_view lines);
 
     // From now on, a file without any line is removed when it is closed.
-    void leave_no_empty_file() { removed_when_empty_ = true; }
+    void remove_when_empty() { removed_when_empty_ = true; }
     // Whether a line was taken since it was created.
     bool has_lines() const { return has_lines_; }
 

@@ -1,6 +1,6 @@
 // The real run loop: Qt's event loop, and one timer for the earliest delayed call. Every command
 // arms a time-out that its reply cancels; that only changes entries in a table. The timer is set
-// again only for an earlier call; for a cancelled call it wakes once, in vain.
+// again only for an earlier call; a cancelled call costs one idle wake-up.
 #pragma once
 
 #include "run_loop.h"

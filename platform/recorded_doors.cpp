@@ -120,25 +120,25 @@ class recorded_device final : public bluetooth_device {
 
   private:
     rfcomm_channel_delegate listening(rfcomm_channel_delegate delegate) {
-        rfcomm_channel_delegate heard;
-        heard.open_complete = [&recorder = recorder_,
-                               tell = std::move(delegate.open_complete)](int status) {
+        rfcomm_channel_delegate recorded;
+        recorded.open_complete = [&recorder = recorder_,
+                                  tell = std::move(delegate.open_complete)](int status) {
             if (status == 0)
                 recorder.opened();
             else
                 recorder.failed("status " + std::to_string(status));
             tell(status);
         };
-        heard.data = [&recorder = recorder_,
-                      tell = std::move(delegate.data)](std::string_view data) {
+        recorded.data = [&recorder = recorder_,
+                         tell = std::move(delegate.data)](std::string_view data) {
             recorder.received(data);
             tell(data);
         };
-        heard.closed = [&recorder = recorder_, tell = std::move(delegate.closed)] {
+        recorded.closed = [&recorder = recorder_, tell = std::move(delegate.closed)] {
             recorder.ended();
             tell();
         };
-        return heard;
+        return recorded;
     }
 
     std::shared_ptr<bluetooth_device> device_;

@@ -55,7 +55,7 @@ class bluetooth_device {
     virtual int openRFCOMMChannelAsync(std::shared_ptr<rfcomm_channel>& channel,
                                        std::uint8_t channel_id,
                                        rfcomm_channel_delegate delegate) = 0;
-    // Closes the baseband connection, unless another program made it.
+    // Closes the baseband connection unless another program made it.
     virtual int closeConnection() = 0;
 };
 

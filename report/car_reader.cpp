@@ -14,11 +14,10 @@ namespace {
 
 using milliseconds = run_loop::milliseconds;
 
-constexpr char HEADERS_ON[] = "ATH1", WAIT_LONG[] = "ATAT0", WAIT_AS_LEARNT[] = "ATAT1",
+constexpr char HEADERS_ON[] = "ATH1", WAIT_FULL[] = "ATAT0", WAIT_ADAPTIVE[] = "ATAT1",
                FIRST_CONTACT[] = "0100";
 constexpr milliseconds ONE_TRY{8000};
-constexpr milliseconds BEFORE_THE_NEXT_TRY{
-    1000}; // for a unit that is busy or has deferred its answer
+constexpr milliseconds BEFORE_THE_NEXT_TRY{1000}; // when a unit is busy or deferred its answer
 constexpr int MOST_SILENT = 3;
 constexpr int MOST_TRIES = 2; // of a question that no unit deferred
 
@@ -39,26 +38,26 @@ car_reader::~car_reader() {
         door_.give_up();
 }
 
-void car_reader::start(conversation heard) {
+void car_reader::start(conversation transcript) {
     stop(reading_end::cancelled);
-    heard_ = std::move(heard);
-    heard_.pieces.clear();
+    transcript_ = std::move(transcript);
+    transcript_.pieces.clear();
     running_ = true;
     silent_ = 0;
     began_ = loop_.now();
     door_.ask(HEADERS_ON, ONE_TRY, [this](const std::optional<std::string>& reply) {
         if (reply)
-            wait_long(true, [this] { next(); });
+            set_wait(true, [this] { next(); });
         else
             finish(reading_end::adapter_silent);
     });
 }
 
-// Each question stays in the list until it has been asked, whatever the outcome.
+// `wanted` repeats a question until it has been asked, whatever the outcome.
 void car_reader::next() {
-    const std::vector<question> all = wanted(heard_);
+    const std::vector<question> all = wanted(transcript_);
     const auto open = std::ranges::find_if(
-        all, [this](const question& one) { return !heard_.find(one.request); });
+        all, [this](const question& one) { return !transcript_.find(one.request); });
     if (open == all.end())
         return finish(reading_end::complete);
     if (loop_.now() - began_ >= LONGEST_READING)
@@ -69,7 +68,7 @@ void car_reader::next() {
     piece_began_ = loop_.now();
     tries_ = 0;
     if (progress)
-        progress(asked_->about, heard_.pieces.size(), all.size());
+        progress(asked_->about, transcript_.pieces.size(), all.size());
     if (running_)
         ask();
 }
@@ -94,27 +93,27 @@ void car_reader::take(std::optional<std::string> reply) {
         take_words(*reply);
     else
         take_data(*reply);
-    if (!patient_ && somebody_missed()) {
-        wait_long(true, [this] { ask(); });
+    if (!wait_extended_ && unit_missing()) {
+        set_wait(true, [this] { ask(); });
         return;
     }
     if (worth_repeating())
         return repeat();
-    const bool all_met = asked_->request == FIRST_CONTACT;
+    const bool first_contact = asked_->request == FIRST_CONTACT;
     finish_piece();
-    if (all_met)
-        wait_long(false, [this] { next(); });
+    if (first_contact)
+        set_wait(false, [this] { next(); });
     else
         next();
 }
 
-// However long every answer has taken so far, or no longer than that. A unit slower than the others
-// is cut off then.
-void car_reader::wait_long(bool patient, std::function<void()> go_on) {
-    patient_ = true; // until the adapter has heard otherwise
-    door_.ask(patient ? WAIT_LONG : WAIT_AS_LEARNT, ONE_TRY,
-              [this, patient, go_on = std::move(go_on)](const std::optional<std::string>& reply) {
-                  patient_ = patient || !reply;
+// The adapter's adaptive wait cuts off units that are slower than the others; the long one does
+// not.
+void car_reader::set_wait(bool extended, std::function<void()> go_on) {
+    wait_extended_ = true;
+    door_.ask(extended ? WAIT_FULL : WAIT_ADAPTIVE, ONE_TRY,
+              [this, extended, go_on = std::move(go_on)](const std::optional<std::string>& reply) {
+                  wait_extended_ = extended || !reply;
                   go_on();
               });
 }
@@ -123,21 +122,21 @@ void car_reader::take_words(const std::string& reply) {
     piece_.text = readable(plain_words(reply));
 }
 
-// A later try replaces what an earlier one brought of the same unit; the rest is kept. Damage is
-// forgotten once every unit has spoken, or another one than before.
+// A later try replaces a unit's earlier answers; the others' are kept. Damage is dropped once every
+// unit has answered, or one more than before.
 void car_reader::take_data(const std::string& reply) {
     const reading read = read_reply(asked_->request, reply);
     unread_pieces damage = std::exchange(piece_.unread, {});
-    const std::size_t voices = piece_.units().size();
-    std::set<std::string> told_now, refused_now;
+    const std::size_t units_before = piece_.units().size();
+    std::set<std::string> answered_now, refused_now;
     for (const ecu_answer& one : read.answers)
         if (one.framed)
-            told_now.insert(unit_address(one.form, one.header));
+            answered_now.insert(unit_address(one.form, one.header));
     for (const unread_piece& one : read.unread)
         if (one.kind == unread_kind::refused)
             refused_now.insert(one.unit);
     std::erase_if(piece_.answers,
-                  [&](const unit_reply& before) { return told_now.contains(before.unit); });
+                  [&](const unit_reply& before) { return answered_now.contains(before.unit); });
     std::erase_if(piece_.refusals,
                   [&](const unit_reply& before) { return refused_now.contains(before.unit); });
     for (const ecu_answer& one : read.answers)
@@ -152,31 +151,31 @@ void car_reader::take_data(const std::string& reply) {
         return std::ranges::find(piece_.answers, one.unit, &unit_reply::unit) !=
                piece_.answers.end();
     });
-    if (piece_.unread.empty() && piece_.units().size() == voices && somebody_silent())
+    if (piece_.unread.empty() && piece_.units().size() == units_before && unit_silent())
         piece_.unread = std::move(damage);
     if (read.bus.form != bus_form::unknown)
         piece_.bus = read.bus.form;
 }
 
-bool car_reader::somebody_silent() const {
+bool car_reader::unit_silent() const {
     const std::set<std::string> spoke = piece_.units();
-    return spoke.empty() || std::ranges::any_of(heard_.units(), [&](const std::string& unit) {
+    return spoke.empty() || std::ranges::any_of(transcript_.units(), [&](const std::string& unit) {
                return !spoke.contains(unit);
            });
 }
 
 // Duplicate messages count once.
-void car_reader::keep(const unit_reply& told, std::vector<unit_reply>& in) {
-    if (std::ranges::find(in, told) != in.end())
+void car_reader::keep(const unit_reply& reply, std::vector<unit_reply>& in) {
+    if (std::ranges::find(in, reply) != in.end())
         return;
     std::set<std::string> all = piece_.units();
-    for (std::string& unit : heard_.units())
+    for (std::string& unit : transcript_.units())
         all.insert(std::move(unit));
-    if (in.size() < MOST_ANSWERS && told.data.size() <= LONGEST_DATA &&
-        (all.contains(told.unit) || all.size() < MOST_UNITS))
-        in.push_back(told);
+    if (in.size() < MOST_ANSWERS && reply.data.size() <= LONGEST_DATA &&
+        (all.contains(reply.unit) || all.size() < MOST_UNITS))
+        in.push_back(reply);
     else
-        keep_unread(unread_kind::not_understood, told.unit + told.data);
+        keep_unread(unread_kind::not_understood, reply.unit + reply.data);
 }
 
 void car_reader::keep_unread(unread_kind kind, std::string_view text) {
@@ -184,23 +183,22 @@ void car_reader::keep_unread(unread_kind kind, std::string_view text) {
         piece_.unread.push_back({kind, readable(text)});
 }
 
-// For questions that every unit should have answered.
-bool car_reader::somebody_missed() const {
+// Only for questions that every unit should answer.
+bool car_reader::unit_missing() const {
     constexpr std::string_view FOR_ALL[] = {"0101", "03", "07", "0A", "020200", "0900"};
     if (!piece_.answered() || std::ranges::find(FOR_ALL, piece_.request) == std::end(FOR_ALL))
         return false;
-    return somebody_silent();
+    return unit_silent();
 }
 
-// A unit that deferred its answer is asked again until the time limit; after damage, or silence of
-// a unit about something it lists, once more.
+// A deferred answer is requested again until the time limit, a damaged or missing one once more.
 bool car_reader::worth_repeating() const {
     if (is_adapter_command(asked_->request))
         return false;
     const milliseconds left = asked_->bound - (loop_.now() - piece_began_);
     if (left <= BEFORE_THE_NEXT_TRY)
         return false;
-    if (std::ranges::any_of(piece_.refusals, puts_off))
+    if (std::ranges::any_of(piece_.refusals, is_deferral))
         return true;
     if (tries_ < MOST_TRIES && !piece_.unread.empty())
         return true;
@@ -212,14 +210,14 @@ bool car_reader::worth_repeating() const {
     if (tries_ >= MOST_TRIES && !slow)
         return false;
     const std::set<std::string> spoke = piece_.units();
-    return std::ranges::any_of(heard_.units(), [&](const std::string& unit) {
+    return std::ranges::any_of(transcript_.units(), [&](const std::string& unit) {
         return identifier != 0 && !spoke.contains(unit) &&
-               heard_.lists(unit, request.substr(0, 2)).listed.test(identifier);
+               transcript_.lists(unit, request.substr(0, 2)).listed.test(identifier);
     });
 }
 
 void car_reader::repeat() {
-    const bool at_once = std::ranges::none_of(piece_.refusals, puts_off) && tries_ < MOST_TRIES;
+    const bool at_once = std::ranges::none_of(piece_.refusals, is_deferral) && tries_ < MOST_TRIES;
     waiting_ = loop_.after(at_once ? milliseconds(0) : BEFORE_THE_NEXT_TRY, [this] {
         waiting_ = 0;
         ask();
@@ -228,7 +226,7 @@ void car_reader::repeat() {
 
 void car_reader::finish_piece() {
     piece_.milliseconds = static_cast<int>((loop_.now() - piece_began_).count());
-    heard_.pieces.push_back(std::move(piece_));
+    transcript_.pieces.push_back(std::move(piece_));
     asked_.reset();
 }
 
@@ -244,8 +242,8 @@ void car_reader::stop(reading_end how) {
 void car_reader::finish(reading_end how) {
     running_ = false;
     asked_.reset();
-    heard_.end = how;
-    heard_.milliseconds = static_cast<int>((loop_.now() - began_).count());
+    transcript_.end = how;
+    transcript_.milliseconds = static_cast<int>((loop_.now() - began_).count());
     if (done)
         done();
 }

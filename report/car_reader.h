@@ -1,6 +1,6 @@
 // Reads everything that a car reports about itself, one question after the other on the run loop,
-// never blocking. A failed question does not affect others; what was received before the end is
-// kept. Owned by the owner of the door.
+// without blocking. A failed question does not affect the others; what was received before the
+// reading ended is kept. Owned by the owner of the door.
 #pragma once
 
 #include "conversation.h"
@@ -20,8 +20,9 @@ class adapter_door {
     using answered = std::function<void(std::optional<std::string> reply)>;
 
     virtual ~adapter_door() = default;
-    virtual void ask(const std::string& command, run_loop::milliseconds bound, answered told) = 0;
-    // Stops waiting for the reply; `told` is not called.
+    virtual void ask(const std::string& command, run_loop::milliseconds bound,
+                     answered on_reply) = 0;
+    // Stops waiting for the reply; `on_reply` is not called.
     virtual void give_up() = 0;
 };
 
@@ -39,27 +40,27 @@ class car_reader {
     std::function<void(topic about, std::size_t asked, std::size_t wanted)> progress;
     std::function<void()> done;
 
-    // `heard`: when and by whom; its pieces are read now.
-    void start(conversation heard);
+    // `transcript`: with date and program, but without pieces.
+    void start(conversation transcript);
     void cancel() { stop(reading_end::cancelled); }
     void link_lost() { stop(reading_end::link_lost); }
     bool running() const { return running_; }
-    // The adapter's wait was lengthened, which only a reset undoes.
-    bool made_adapter_patient() const { return patient_; }
-    const conversation& heard() const { return heard_; }
+    // The adapter's time-out was lengthened; only a reset undoes this.
+    bool extended_wait() const { return wait_extended_; }
+    const conversation& transcript() const { return transcript_; }
 
   private:
     void next();
     void ask();
-    void wait_long(bool patient, std::function<void()> go_on);
+    void set_wait(bool extended, std::function<void()> go_on);
     void take(std::optional<std::string> reply);
     void take_words(const std::string& reply);
     void take_data(const std::string& reply);
-    void keep(const unit_reply& told, std::vector<unit_reply>& in);
+    void keep(const unit_reply& reply, std::vector<unit_reply>& in);
     void keep_unread(unread_kind kind, std::string_view text);
     bool worth_repeating() const;
-    bool somebody_silent() const;
-    bool somebody_missed() const;
+    bool unit_silent() const;
+    bool unit_missing() const;
     void repeat();
     void finish_piece();
     void stop(reading_end how);
@@ -67,9 +68,9 @@ class car_reader {
 
     run_loop& loop_;
     adapter_door& door_;
-    conversation heard_;
+    conversation transcript_;
     bool running_ = false;
-    bool patient_ = false;
+    bool wait_extended_ = false;
     milliseconds began_{0}, piece_began_{0};
     std::optional<question> asked_;
     asked_piece piece_;

@@ -8,8 +8,8 @@
 
 namespace {
 
-std::string_view word_of(const conversation& heard, std::string_view request) {
-    const asked_piece* piece = heard.find(request);
+std::string_view word_of(const conversation& transcript, std::string_view request) {
+    const asked_piece* piece = transcript.find(request);
     return piece && piece->text != "?" ? std::string_view(piece->text) : std::string_view();
 }
 
@@ -17,7 +17,7 @@ bool is_engine(const unit_report& unit) {
     return unit.address == "7E8" || unit.address == "10" || unit.address.empty();
 }
 
-unit_report unit_of(const conversation& heard, const std::string& address,
+unit_report unit_of(const conversation& transcript, const std::string& address,
                     const mac_toolies& toolies) {
     unit_report unit;
     unit.address = address;
@@ -25,12 +25,12 @@ unit_report unit_of(const conversation& heard, const std::string& address,
                 : address == "7E8" ? "Engine"
                 : address == "7E9" ? "Transmission"
                                    : unit_name_of_address(address, address);
-    fill_status(unit, heard);
-    fill_codes(unit, heard, toolies);
-    fill_values(unit, heard, toolies);
-    fill_identity(unit, heard);
-    fill_tests(unit, heard, toolies);
-    fill_lost_lists(unit, heard);
+    fill_status(unit, transcript);
+    fill_codes(unit, transcript, toolies);
+    fill_values(unit, transcript, toolies);
+    fill_identity(unit, transcript);
+    fill_tests(unit, transcript, toolies);
+    fill_lost_lists(unit, transcript);
     return unit;
 }
 
@@ -50,15 +50,15 @@ std::string_view part_name(part one) {
 }
 
 std::optional<bool> car_report::lamp(bool& whole) const {
-    std::optional<bool> told;
+    std::optional<bool> lamp;
     whole = true;
     for (const unit_report& unit : units)
-        if (const finding& found = unit.of(part::status); found.told())
-            told = told.value_or(false) || unit.lamp_on;
+        if (const finding& found = unit.of(part::status); found.reported())
+            lamp = lamp.value_or(false) || unit.lamp_on;
         else
             whole = whole && found.why == WHY_NOT_LISTED;
-    whole = whole || told == true;
-    return told;
+    whole = whole || lamp == true;
+    return lamp;
 }
 
 std::optional<int> car_report::count(part kind, bool& whole) const {
@@ -69,21 +69,23 @@ std::optional<int> car_report::count(part kind, bool& whole) const {
     for (const unit_report& unit : units) {
         const finding& found = unit.of(kind);
         // A unit without such a list has no code in it; any other missing answer leaves it unknown.
-        whole = whole && found.told() && found.unread.empty();
-        if (found.told())
+        whole = whole && found.reported() && found.unread.empty();
+        if (found.reported())
             codes = codes.value_or(0) +
                     static_cast<int>(std::ranges::count_if(
-                        unit.codes, [&](const told_code& one) { return one.kinds[place]; }));
+                        unit.codes, [&](const reported_code& one) { return one.kinds[place]; }));
     }
     return codes;
 }
 
 const unit_report* car_report::readiness_unit() const {
-    const auto told = [](const unit_report& unit) { return unit.of(part::status).told(); };
+    const auto has_status = [](const unit_report& unit) {
+        return unit.of(part::status).reported();
+    };
     auto found = std::ranges::find_if(
-        units, [&](const unit_report& unit) { return told(unit) && is_engine(unit); });
+        units, [&](const unit_report& unit) { return has_status(unit) && is_engine(unit); });
     if (found == units.end())
-        found = std::ranges::find_if(units, told);
+        found = std::ranges::find_if(units, has_status);
     return found == units.end() ? nullptr : &*found;
 }
 
@@ -92,34 +94,35 @@ std::optional<monitor_count> car_report::readiness() const {
     if (!unit)
         return std::nullopt;
     monitor_count counted;
-    for (const told_monitor& one : unit->monitors) {
+    for (const reported_monitor& one : unit->monitors) {
         counted.supported += one.supported;
         counted.complete += one.supported && one.complete;
     }
     return counted;
 }
 
-bool car_report::all_told() const {
-    return heard.end == reading_end::complete &&
+bool car_report::all_reported() const {
+    return transcript.end == reading_end::complete &&
            std::ranges::all_of(units, [](const unit_report& unit) {
                return unit.gaps.empty() &&
                       std::ranges::all_of(unit.findings, [](const finding& one) {
-                          return (one.told() && one.unread.empty()) || one.why == WHY_NOT_LISTED;
+                          return (one.reported() && one.unread.empty()) ||
+                                 one.why == WHY_NOT_LISTED;
                       });
            });
 }
 
-car_report report_of(conversation heard, const mac_toolies& toolies) {
+car_report report_of(conversation transcript, const mac_toolies& toolies) {
     car_report report;
-    report.heard = std::move(heard);
-    report.adapter = word_of(report.heard, "ATI");
-    report.adapter_volts = word_of(report.heard, "ATRV");
-    report.protocol = word_of(report.heard, "ATDP");
-    report.protocol_number = word_of(report.heard, "ATDPN");
-    for (const std::string& address : report.heard.units())
-        report.units.push_back(unit_of(report.heard, address, toolies));
+    report.transcript = std::move(transcript);
+    report.adapter = word_of(report.transcript, "ATI");
+    report.adapter_volts = word_of(report.transcript, "ATRV");
+    report.protocol = word_of(report.transcript, "ATDP");
+    report.protocol_number = word_of(report.transcript, "ATDPN");
+    for (const std::string& address : report.transcript.units())
+        report.units.push_back(unit_of(report.transcript, address, toolies));
     for (const unit_report& unit : report.units)
-        if (report.vin.empty() && unit.of(part::vin).told())
+        if (report.vin.empty() && unit.of(part::vin).reported())
             report.vin = unit.vin;
     return report;
 }

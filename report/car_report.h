@@ -1,5 +1,5 @@
-// The whole report of a car as data: what each control unit reported, and the reason for what it
-// did not. Derived from a conversation; the JSON document and every sheet are renderings of it.
+// The report of a car as data: what each control unit reported, and why anything is missing.
+// Derived from a conversation; the JSON document and every sheet are renderings of it.
 #pragma once
 
 #include "conversation.h"
@@ -13,8 +13,8 @@ class mac_toolies;
 
 // The outcome of one request to a unit.
 enum class outcome {
-    told,
-    not_told, // by this unit, even if others did
+    reported,
+    not_reported, // by this unit, even if others did
     refused,
     unread,
     not_asked
@@ -29,14 +29,14 @@ struct finding {
     std::string request;
     std::string raw; // hex digits, messages separated by blanks
 
-    bool told() const { return result == outcome::told; }
+    bool reported() const { return result == outcome::reported; }
 };
 inline constexpr char WHY_NOT_LISTED[] = "not_listed"; // not in the unit's own list
 inline constexpr char WHY_LISTED[] = "listed";         // although in its list
 inline constexpr char WHY_SILENT[] = "no_answer";
 inline constexpr char WHY_TIME_OUT[] = "time_out";
 inline constexpr char WHY_INCOMPLETE[] = "incomplete"; // messages are missing
-inline constexpr char WHY_PUT_OFF[] = "put_off";       // and never answered
+inline constexpr char WHY_DEFERRED[] = "put_off";      // and never answered
 inline constexpr char WHY_ENDED[] = "ended";           // the reading ended before
 
 // What every unit is asked for, each with its finding.
@@ -58,19 +58,19 @@ inline constexpr std::size_t PARTS = 12;
 std::string_view part_name(part one);
 inline constexpr std::array<part, 3> CODE_KINDS{part::stored, part::pending, part::permanent};
 
-struct told_value {
+struct reported_value {
     unsigned pid = 0;
     std::string name, text;
     finding found;
 };
 
-struct told_code {
+struct reported_code {
     std::string code, meaning;   // empty: not in the table
     std::array<bool, 3> kinds{}; // as in CODE_KINDS
     bool kept_frame = false;
 };
 
-struct told_monitor {
+struct reported_monitor {
     std::string name;
     bool continuous = false, supported = false, complete = false;
     std::optional<bool> complete_this_drive; // nothing: not reported, or not enabled
@@ -78,7 +78,7 @@ struct told_monitor {
 
 enum class verdict { failed, passed, no_result };
 
-struct told_test {
+struct reported_test {
     std::string id;                     // "21/A9", "30/11"
     std::string monitor, test;          // names; empty if none
     std::string value, lowest, highest; // empty: no limit on that side
@@ -87,7 +87,7 @@ struct told_test {
     std::string raw;
 };
 
-struct told_counter {
+struct reported_counter {
     std::string name;
     unsigned done = 0;
     std::optional<unsigned> conditions;
@@ -106,18 +106,18 @@ struct unit_report {
     bool lamp_on = false;
     int announced_codes = 0; // from its status
     bool compression = false;
-    std::vector<told_monitor> monitors;
-    std::vector<told_code> codes;
+    std::vector<reported_monitor> monitors;
+    std::vector<reported_code> codes;
     std::string frame_code; // empty: no frame stored
-    std::vector<told_value> frame_values;
-    std::vector<told_value> readings;
+    std::vector<reported_value> frame_values;
+    std::vector<reported_value> readings;
     std::string vin;
     bool vin_is_standard = false;
     std::vector<calibration> calibrations;
-    std::vector<told_counter> counters;
-    std::vector<told_test> tests;
-    std::size_t stored_heard = 0; // including duplicates
-    // What it lists or was asked for besides the parts, and did not report.
+    std::vector<reported_counter> counters;
+    std::vector<reported_test> tests;
+    std::size_t stored_received = 0; // including duplicates
+    // Other data that it lists or was asked for, but did not report.
     std::vector<finding> gaps;
 };
 
@@ -126,18 +126,18 @@ struct monitor_count {
 };
 
 struct car_report {
-    conversation heard;
+    conversation transcript;
     std::vector<unit_report> units;
     std::string vin; // from the first unit that reported one
     std::string adapter, adapter_volts, protocol, protocol_number;
 
-    // Of all units; `whole` becomes false if a unit's are missing.
-    std::optional<bool> lamp(bool& whole) const; // nothing when nobody told; on when any says so
+    // Of all units; `whole` becomes false if one is missing.
+    std::optional<bool> lamp(bool& whole) const; // nothing if no unit reported it; on if any is
     std::optional<int> count(part kind, bool& whole) const;
     // Of the engine's unit, or the first that reported.
     const unit_report* readiness_unit() const;
     std::optional<monitor_count> readiness() const;
-    bool all_told() const;
+    bool all_reported() const;
 };
 
-car_report report_of(conversation heard, const mac_toolies& toolies);
+car_report report_of(conversation transcript, const mac_toolies& toolies);

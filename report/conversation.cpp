@@ -18,7 +18,7 @@ std::size_t mask_place(std::string_view service, bool can) {
 
 } // namespace
 
-bool puts_off(const unit_reply& refusal) {
+bool is_deferral(const unit_reply& refusal) {
     return refusal.data.ends_with("78") || refusal.data.ends_with("21");
 }
 
@@ -42,8 +42,8 @@ const asked_piece* conversation::find(std::string_view request) const {
 
 std::set<std::string> asked_piece::units() const {
     std::set<std::string> seen;
-    for (const auto* heard : {&answers, &refusals})
-        for (const unit_reply& one : *heard)
+    for (const auto* transcript : {&answers, &refusals})
+        for (const unit_reply& one : *transcript)
             seen.insert(one.unit);
     return seen;
 }
@@ -55,20 +55,20 @@ std::vector<std::string> conversation::units() const {
     return {seen.begin(), seen.end()};
 }
 
-bool conversation::anything_told() const {
+bool conversation::car_answered() const {
     return std::ranges::any_of(pieces, &asked_piece::answered);
 }
 
 bool conversation::on_can() const {
-    const auto told = std::ranges::find_if(
+    const auto on_can = std::ranges::find_if(
         pieces, [](const asked_piece& one) { return one.bus != bus_form::unknown; });
-    return told != pieces.end() && told->bus == bus_form::can;
+    return on_can != pieces.end() && on_can->bus == bus_form::can;
 }
 
 conversation::id_list conversation::lists(std::string_view unit, std::string_view service) const {
-    id_list told;
+    id_list ids;
     bool more = true;
-    for (unsigned group = 0; group < told.listed.size(); group += GROUP) {
+    for (unsigned group = 0; group < ids.listed.size(); group += GROUP) {
         unsigned bits = 0;
         if (more) {
             const asked_piece* piece = find(list_request(service, group));
@@ -85,12 +85,12 @@ conversation::id_list conversation::lists(std::string_view unit, std::string_vie
             bits = hex_value(mask);
             more = (bits & 1) != 0; // means the next list as well as its number
         }
-        for (unsigned place = 1; place <= GROUP && group + place < told.listed.size(); ++place) {
-            told.reached.set(group + place);
-            told.listed.set(group + place, (bits >> (GROUP - place) & 1) != 0);
+        for (unsigned place = 1; place <= GROUP && group + place < ids.listed.size(); ++place) {
+            ids.reached.set(group + place);
+            ids.listed.set(group + place, (bits >> (GROUP - place) & 1) != 0);
         }
     }
-    return told;
+    return ids;
 }
 
 std::bitset<256> conversation::listed_by_anyone(std::string_view service) const {

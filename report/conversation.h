@@ -17,12 +17,12 @@ struct unit_reply {
     bool operator==(const unit_reply&) const = default;
 };
 
-// "7F0978", the answer is still to come; or 21, the unit is busy: no refusal.
-bool puts_off(const unit_reply& refusal);
+// "7F0978" (answer pending) or 21 (busy): not a refusal.
+bool is_deferral(const unit_reply& refusal);
 
 struct asked_piece {
     std::string request;              // "0902", or the adapter's own: "ATRV"
-    std::vector<unit_reply> answers;  // in the order in which they came
+    std::vector<unit_reply> answers;  // in order of arrival
     std::vector<unit_reply> refusals; // "7F0A11"
     unread_pieces unread;
     bus_form bus = bus_form::unknown;
@@ -31,7 +31,7 @@ struct asked_piece {
     int milliseconds = 0;
 
     bool answered() const { return !answers.empty(); }
-    // That answered or refused.
+    // Those that answered or refused.
     std::set<std::string> units() const;
 };
 
@@ -44,15 +44,15 @@ struct conversation {
     std::vector<asked_piece> pieces;
     reading_end end = reading_end::complete;
     int milliseconds = 0;
-    bool vin_hidden = false; // it has been removed
+    bool vin_hidden = false; // its end has been removed
 
     const asked_piece* find(std::string_view request) const;
-    // Addresses of all units that answered or refused anything, the lowest first.
+    // Addresses of all units that answered or refused anything, in ascending order.
     std::vector<std::string> units() const;
-    bool anything_told() const; // by the car
+    bool car_answered() const; // by the car
     // On the older buses the first message of an answer has some bytes at other positions.
     bool on_can() const;
-    // The identifiers that a unit says it answers to in a service (01, 02, 06, 09).
+    // The identifiers that a unit lists as supported in a service (01, 02, 06, 09).
     struct id_list {
         std::bitset<256> listed;
         std::bitset<256> reached; // covered by its lists, set or clear
@@ -70,8 +70,8 @@ std::string request_of(std::string_view service, unsigned identifier);
 inline constexpr unsigned GROUP = 0x20;
 std::string list_request(std::string_view service, unsigned group);
 
-// More than any car has or sends; what exceeds it is reported, but not stored.
+// More than any car has or sends; anything beyond is reported, but not stored.
 inline constexpr std::size_t MOST_UNITS = 16, MOST_ANSWERS = 200, LONGEST_DATA = 8192;
 
 // Removes the last six characters of the car's identification number from everything received.
-conversation without_vin(conversation heard);
+conversation without_vin(conversation transcript);

@@ -1,4 +1,4 @@
-// The car's identification number without the part that identifies the individual car.
+// Hides the part of the VIN that identifies the individual car.
 #include "conversation.h"
 #include "hex_digits.h"
 #include "text.h"
@@ -14,10 +14,10 @@ constexpr std::size_t SHOWN = 11, HIDDEN = 6;
 constexpr std::string_view STAR = "2A";
 constexpr std::string_view STARS = "******", STARS_IN_HEX = "2A2A2A2A2A2A";
 
-// The characters that a unit sent, in order: the position of their digits. Zeros are padding.
+// Where the digits of a unit's VIN are, in order. Zeros are padding.
 using characters = std::vector<std::pair<std::string*, std::size_t>>;
 
-characters told_by(asked_piece& piece, const std::string& unit) {
+characters vin_digits(asked_piece& piece, const std::string& unit) {
     std::vector<std::string*> answers;
     for (unit_reply& one : piece.answers)
         if (one.unit == unit && one.data.size() > HEAD_DIGITS)
@@ -25,20 +25,20 @@ characters told_by(asked_piece& piece, const std::string& unit) {
     std::ranges::stable_sort(answers, {}, [](const std::string* data) {
         return hex_value(std::string_view(*data).substr(HEAD_DIGITS - 2, 2));
     });
-    characters told;
+    characters sent;
     for (std::string* data : answers)
         for (std::size_t at = HEAD_DIGITS; at < data->size(); at += 2)
             if (data->compare(at, 2, "00") != 0)
-                told.emplace_back(data, at);
-    return told;
+                sent.emplace_back(data, at);
+    return sent;
 }
 
 // Masks the hidden part; returns its digits.
-std::string cover_end(const characters& told) {
+std::string cover_end(const characters& sent) {
     std::string tail;
-    for (std::size_t i = 0; i < told.size(); ++i) {
-        const auto [data, at] = told[i];
-        const bool last = i + HIDDEN >= told.size();
+    for (std::size_t i = 0; i < sent.size(); ++i) {
+        const auto [data, at] = sent[i];
+        const bool last = i + HIDDEN >= sent.size();
         if (last)
             tail += data->substr(at, 2);
         if (last || i >= SHOWN)
@@ -61,17 +61,18 @@ void cover(std::string& text, std::string_view found, std::string_view by) {
 
 } // namespace
 
-conversation without_vin(conversation heard) {
+conversation without_vin(conversation transcript) {
     std::set<std::string> tails;
-    for (asked_piece& piece : heard.pieces)
+    for (asked_piece& piece : transcript.pieces)
         if (piece.request == VIN_REQUEST)
-            for (const std::string& unit : heard.units())
-                if (std::string tail = cover_end(told_by(piece, unit)); tail.size() == 2 * HIDDEN)
+            for (const std::string& unit : transcript.units())
+                if (std::string tail = cover_end(vin_digits(piece, unit));
+                    tail.size() == 2 * HIDDEN)
                     tails.insert(std::move(tail));
-    for (asked_piece& piece : heard.pieces) {
+    for (asked_piece& piece : transcript.pieces) {
         for (unread_piece& one : piece.unread)
             if (one.kind != unread_kind::adapter_notice)
-                one.text = STARS; // may contain any part of it, be it late
+                one.text = STARS; // may contain any part of the VIN
         for (const std::string& tail : tails) {
             for (unit_reply& one : piece.answers)
                 cover(one.data, tail, STARS_IN_HEX);
@@ -80,6 +81,6 @@ conversation without_vin(conversation heard) {
             cover(piece.text, as_text(tail), STARS);
         }
     }
-    heard.vin_hidden = true;
-    return heard;
+    transcript.vin_hidden = true;
+    return transcript;
 }

@@ -39,7 +39,7 @@ bool may_stand_in_vin(char c) {
            (c >= 'A' && c <= 'Z' && c != 'I' && c != 'O' && c != 'Q');
 }
 
-// Of what a service 09 answer holds, where it is about several items: on CAN their number first.
+// A service 09 answer with several items; on CAN it starts with their number.
 struct items {
     std::string bytes;
     std::size_t announced = 0;
@@ -48,7 +48,8 @@ struct items {
 
 class identity_reader {
   public:
-    identity_reader(unit_report& unit, const conversation& heard) : unit_(unit), heard_(heard) {}
+    identity_reader(unit_report& unit, const conversation& transcript)
+        : unit_(unit), transcript_(transcript) {}
 
     void read() {
         read_vin();
@@ -59,59 +60,59 @@ class identity_reader {
 
   private:
     bool can(std::string_view request) const {
-        const asked_piece* piece = heard_.find(request);
+        const asked_piece* piece = transcript_.find(request);
         return piece && piece->bus != bus_form::older;
     }
 
     // `counted_by`: the request that, on the older buses, returns the number of messages.
     items items_of(part one, std::string_view request, std::string_view counted_by = {}) {
-        finding& found = unit_.of(one) = finding_of(heard_, request, unit_.address);
-        items told;
-        if (!found.told())
-            return told;
-        told.bytes = identity_bytes(heard_, request, unit_.address, told.whole);
+        finding& found = unit_.of(one) = finding_of(transcript_, request, unit_.address);
+        items sent;
+        if (!found.reported())
+            return sent;
+        sent.bytes = identity_bytes(transcript_, request, unit_.address, sent.whole);
         if (can(request)) {
-            told.announced = hex_value(slice(std::string_view(told.bytes), 0, 2));
-            told.bytes = slice(std::string_view(told.bytes), 2);
-        } else if (const auto counted = answers_of(heard_, counted_by, unit_.address);
+            sent.announced = hex_value(slice(std::string_view(sent.bytes), 0, 2));
+            sent.bytes = slice(std::string_view(sent.bytes), 2);
+        } else if (const auto counted = answers_of(transcript_, counted_by, unit_.address);
                    !counted_by.empty() && !counted.empty()) {
             const unsigned messages = hex_value(slice(std::string_view(counted.front()), 4, 2));
-            told.whole = told.whole && told.bytes.size() >= 2 * MESSAGE_BYTES * messages;
+            sent.whole = sent.whole && sent.bytes.size() >= 2 * MESSAGE_BYTES * messages;
         }
-        return told;
+        return sent;
     }
 
     void mark_incomplete(part one, bool whole) {
         finding& found = unit_.of(one);
-        if (!found.told() || whole)
+        if (!found.reported() || whole)
             return;
         found.result = outcome::unread;
         found.why = WHY_INCOMPLETE;
     }
 
     void read_vin() {
-        items told = items_of(part::vin, "0902");
-        const std::string_view digits = behind_zeros(told.bytes);
+        items sent = items_of(part::vin, "0902");
+        const std::string_view digits = behind_zeros(sent.bytes);
         unit_.vin = text_of(digits);
-        const bool hidden = heard_.vin_hidden;
-        unit_.vin_is_standard = told.whole && digits.size() == 2 * VIN_LENGTH &&
+        const bool hidden = transcript_.vin_hidden;
+        unit_.vin_is_standard = sent.whole && digits.size() == 2 * VIN_LENGTH &&
                                 unit_.vin.size() == VIN_LENGTH &&
                                 std::ranges::all_of(unit_.vin, [hidden](char c) {
                                     return may_stand_in_vin(c) || (hidden && c == '*');
                                 });
-        const bool short_of_it = !can("0902") && told.bytes.size() < 2 * 5 * MESSAGE_BYTES;
-        mark_incomplete(part::vin, told.whole && !short_of_it && !unit_.vin.empty());
-        if (!unit_.of(part::vin).told())
+        const bool short_of_it = !can("0902") && sent.bytes.size() < 2 * 5 * MESSAGE_BYTES;
+        mark_incomplete(part::vin, sent.whole && !short_of_it && !unit_.vin.empty());
+        if (!unit_.of(part::vin).reported())
             unit_.vin.clear();
     }
 
     // "ECM", fill, "-", "EngineControl", fill; older forms are plain text.
     void read_name() {
-        const items told = items_of(part::unit_name, "090A");
-        mark_incomplete(part::unit_name, told.whole);
-        if (!unit_.of(part::unit_name).told())
+        const items sent = items_of(part::unit_name, "090A");
+        mark_incomplete(part::unit_name, sent.whole);
+        if (!unit_.of(part::unit_name).reported())
             return;
-        const std::string_view digits = told.bytes;
+        const std::string_view digits = sent.bytes;
         const bool in_two = slice(digits, 2 * SHORT_NAME, 2) == "2D";
         std::string name = in_two ? text_of(digits.substr(0, 2 * SHORT_NAME)) + " - " +
                                         text_of(slice(digits, 2 * (SHORT_NAME + 1)))
@@ -123,8 +124,8 @@ class identity_reader {
     void read_calibrations() {
         const items ids = items_of(part::calibrations, "0904", "0903");
         const items numbers = items_of(part::verification_numbers, "0906", "0905");
-        const auto count = [](const items& told, std::size_t digits) {
-            return std::max(told.announced, (told.bytes.size() + digits - 1) / digits);
+        const auto count = [](const items& sent, std::size_t digits) {
+            return std::max(sent.announced, (sent.bytes.size() + digits - 1) / digits);
         };
         const std::size_t id_count = count(ids, CALIBRATION_DIGITS);
         const std::size_t number_count = count(numbers, NUMBER_DIGITS);
@@ -145,7 +146,7 @@ class identity_reader {
                        std::span<const std::string_view> names);
 
     unit_report& unit_;
-    const conversation& heard_;
+    const conversation& transcript_;
 };
 
 // After the first two, pairs: times completed, times the conditions were met.
@@ -162,30 +163,30 @@ constexpr std::string_view COMPRESSION[] = {
     "NMHC catalyst",      "NOx catalyst",   "NOx adsorber",   "Particulate filter",
     "Exhaust gas sensor", "EGR/VVT system", "Boost pressure", "Fuel system"};
 
-// A unit has the one or the other, as a rule.
+// Normally a unit has one or the other.
 void identity_reader::read_counters() {
     read_counters("0908", "0907", SPARK);
     const finding petrol = unit_.of(part::counters);
     read_counters("090B", {}, COMPRESSION);
     const finding diesel = unit_.of(part::counters);
     const bool listed = diesel.why != WHY_NOT_LISTED;
-    if (petrol.told() && !diesel.told() && listed)
+    if (petrol.reported() && !diesel.reported() && listed)
         unit_.gaps.push_back(diesel);
-    if (petrol.told() || !listed)
+    if (petrol.reported() || !listed)
         unit_.of(part::counters) = petrol;
 }
 
 void identity_reader::read_counters(std::string_view request, std::string_view counted_by,
                                     std::span<const std::string_view> names) {
-    const items told = items_of(part::counters, request, counted_by);
-    if (!unit_.of(part::counters).told())
+    const items sent = items_of(part::counters, request, counted_by);
+    if (!unit_.of(part::counters).reported())
         return;
     const auto number = [&](std::size_t place) {
         return hex_value(
-            slice(std::string_view(told.bytes), place * COUNTER_DIGITS, COUNTER_DIGITS));
+            slice(std::string_view(sent.bytes), place * COUNTER_DIGITS, COUNTER_DIGITS));
     };
-    const std::size_t count = told.bytes.size() / COUNTER_DIGITS;
-    mark_incomplete(part::counters, told.whole && count >= told.announced && count >= 2);
+    const std::size_t count = sent.bytes.size() / COUNTER_DIGITS;
+    mark_incomplete(part::counters, sent.whole && count >= sent.announced && count >= 2);
     if (count < 2)
         return;
     unit_.counters.push_back({"OBD monitoring conditions met", number(0), std::nullopt});
@@ -200,6 +201,6 @@ void identity_reader::read_counters(std::string_view request, std::string_view c
 
 } // namespace
 
-void fill_identity(unit_report& unit, const conversation& heard) {
-    identity_reader(unit, heard).read();
+void fill_identity(unit_report& unit, const conversation& transcript) {
+    identity_reader(unit, transcript).read();
 }

@@ -16,6 +16,6 @@ inline kept_report& last_report() {
     return kept;
 }
 
-// Settings: no offer to save it before codes are cleared; the end of the VIN hidden in what leaves
-// the program.
+// Settings: do not offer to save it before codes are cleared; hide the end of the VIN in everything
+// saved, printed or copied.
 inline constexpr char NO_OFFER_KEY[] = "no_report_offer", HIDE_VIN_KEY[] = "report_hides_vin";

@@ -78,21 +78,21 @@ class document_reader {
             throw no_report("it is no report of Kestrom");
         if (whole_number(document, "version") != REPORT_VERSION)
             throw no_report("it is of another version");
-        conversation heard;
-        heard.program = readable(text(document, "program"));
-        heard.read_at = readable(text(document, "read_at"));
-        heard.milliseconds = whole_number(document, "milliseconds");
-        heard.end = static_cast<reading_end>(one_of<5>(
+        conversation transcript;
+        transcript.program = readable(text(document, "program"));
+        transcript.read_at = readable(text(document, "read_at"));
+        transcript.milliseconds = whole_number(document, "milliseconds");
+        transcript.end = static_cast<reading_end>(one_of<5>(
             document, "end", {"complete", "cancelled", "time_up", "adapter_silent", "link_lost"}));
         const json& hidden = member(document, "vin_hidden");
-        heard.vin_hidden = hidden.is_boolean() && hidden.get<bool>();
+        transcript.vin_hidden = hidden.is_boolean() && hidden.get<bool>();
         for (const json& one : list(document, "conversation", MOST_PIECES))
-            take(heard, one);
-        return heard;
+            take(transcript, one);
+        return transcript;
     }
 
   private:
-    void take(conversation& heard, const json& from) {
+    void take(conversation& transcript, const json& from) {
         asked_piece piece;
         piece.request = text(from, "request", LONGEST_REQUEST);
         piece.milliseconds = whole_number(from, "milliseconds");
@@ -111,7 +111,7 @@ class document_reader {
         }
         if (!requests_.insert(piece.request).second)
             throw no_report("a request stands twice");
-        heard.pieces.push_back(std::move(piece));
+        transcript.pieces.push_back(std::move(piece));
     }
 
     std::vector<unit_reply> replies(const json& from, const char* name) {

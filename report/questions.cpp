@@ -53,10 +53,10 @@ class question_list {
         const asked_piece* piece = so_far_.find(request);
         return piece && piece->answered();
     }
-    // By all units, so that nothing else of the service is worth asking.
+    // By all units: then nothing else in the service is worth asking.
     bool refused(const std::string& request) const {
         const asked_piece* piece = so_far_.find(request);
-        return piece && std::ranges::none_of(piece->refusals, puts_off) &&
+        return piece && std::ranges::none_of(piece->refusals, is_deferral) &&
                piece->refusals.size() == so_far_.units().size();
     }
 
@@ -67,7 +67,7 @@ class question_list {
                    : listed_.emplace(service, so_far_.listed_by_anyone(service)).first->second;
     }
 
-    // The lists of a service, as long as a unit announces another.
+    // A service's lists, as far as units announce the next one.
     void supported(std::string_view service) {
         for (unsigned group = 0; group <= LAST_GROUP; group += GROUP)
             if (group == 0 || listed(service).test(group))
@@ -80,7 +80,7 @@ class question_list {
                 add(request_of("01", pid), pid == 0x41 ? topic::status : topic::readings);
     }
 
-    // Of frame 00, if a unit reports the code that it was stored for.
+    // Of frame 00, if a unit reports the code that caused it.
     void frames() {
         add("020200", topic::frames);
         const asked_piece* named = so_far_.find("020200");

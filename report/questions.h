@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-// The topic of a question, for progress and report.
+// What a question is about.
 enum class topic {
     adapter,
     supported,
@@ -25,7 +25,7 @@ std::string_view topic_name(topic one);
 struct question {
     std::string request;
     topic about;
-    // The limit for all tries together.
+    // Time limit for all tries.
     std::chrono::milliseconds bound{8000};
 };
 

@@ -1,4 +1,4 @@
-// Makes text from outside fit for a report: UTF-8, one line, limited length.
+// Makes outside text fit for a report: UTF-8, one line, limited length.
 #pragma once
 
 #include <string>

@@ -35,9 +35,9 @@ json of(const finding& found) {
     return object;
 }
 
-json of(const std::vector<told_value>& values) {
+json of(const std::vector<reported_value>& values) {
     json list = json::array();
-    for (const told_value& one : values)
+    for (const reported_value& one : values)
         list.push_back({{"pid", request_of("", one.pid)},
                         {"name", one.name},
                         {"text", one.text},
@@ -47,7 +47,7 @@ json of(const std::vector<told_value>& values) {
 
 json codes_of(const unit_report& unit) {
     json list = json::array();
-    for (const told_code& one : unit.codes)
+    for (const reported_code& one : unit.codes)
         list.push_back({{"code", one.code},
                         {"meaning", or_null(one.meaning)},
                         {"stored", one.kinds[0]},
@@ -59,7 +59,7 @@ json codes_of(const unit_report& unit) {
 
 json monitors_of(const unit_report& unit) {
     json list = json::array();
-    for (const told_monitor& one : unit.monitors)
+    for (const reported_monitor& one : unit.monitors)
         list.push_back({{"name", one.name},
                         {"continuous", one.continuous},
                         {"supported", one.supported},
@@ -71,7 +71,7 @@ json monitors_of(const unit_report& unit) {
 json tests_of(const unit_report& unit) {
     constexpr std::string_view VERDICTS[] = {"failed", "passed", "no_result"};
     json list = json::array();
-    for (const told_test& one : unit.tests)
+    for (const reported_test& one : unit.tests)
         list.push_back({{"id", one.id},
                         {"monitor", or_null(one.monitor)},
                         {"test", or_null(one.test)},
@@ -89,7 +89,7 @@ json identity_of(const unit_report& unit) {
     for (const calibration& one : unit.calibrations)
         calibrations.push_back(
             {{"id", or_null(one.id)}, {"verification_number", or_null(one.verification_number)}});
-    for (const told_counter& one : unit.counters)
+    for (const reported_counter& one : unit.counters)
         counters.push_back(
             {{"name", one.name}, {"done", one.done}, {"conditions", or_null(one.conditions)}});
     return {{"vin", or_null(unit.vin)},
@@ -104,7 +104,7 @@ json of(const unit_report& unit) {
         parts[std::string(part_name(static_cast<part>(i)))] = of(unit.findings[i]);
     for (const finding& one : unit.gaps)
         gaps.push_back(of(one));
-    const bool status = unit.of(part::status).told();
+    const bool status = unit.of(part::status).reported();
     return {{"address", unit.address},
             {"name", unit.name},
             {"parts", parts},
@@ -160,22 +160,22 @@ json counts_of(const car_report& report) {
 std::string report_json(const car_report& report) {
     constexpr std::string_view ENDS[] = {"complete", "cancelled", "time_up", "adapter_silent",
                                          "link_lost"};
-    const conversation& heard = report.heard;
+    const conversation& transcript = report.transcript;
     json units = json::array(), pieces = json::array();
     for (const unit_report& one : report.units)
         units.push_back(of(one));
-    for (const asked_piece& one : heard.pieces)
+    for (const asked_piece& one : transcript.pieces)
         pieces.push_back(of(one));
     bool lamp_whole = false;
     const auto lamp = report.lamp(lamp_whole);
     const auto ready = report.readiness();
     const json document{{"format", "kestrom-report"},
                         {"version", REPORT_VERSION},
-                        {"program", heard.program},
-                        {"read_at", heard.read_at},
-                        {"milliseconds", heard.milliseconds},
-                        {"end", ENDS[static_cast<std::size_t>(heard.end)]},
-                        {"vin_hidden", heard.vin_hidden},
+                        {"program", transcript.program},
+                        {"read_at", transcript.read_at},
+                        {"milliseconds", transcript.milliseconds},
+                        {"end", ENDS[static_cast<std::size_t>(transcript.end)]},
+                        {"vin_hidden", transcript.vin_hidden},
                         {"vin", or_null(report.vin)},
                         {"adapter",
                          {{"name", or_null(report.adapter)},

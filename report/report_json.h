@@ -1,5 +1,5 @@
-// The report as a JSON document (docs/json/report.schema.json), and back. The report of a document
-// is derived again from the conversation that it holds.
+// The report as a JSON document (docs/json/report.schema.json), and back. Reading derives the
+// report again from the conversation in the document.
 #pragma once
 
 #include "car_report.h"
@@ -10,8 +10,8 @@
 
 inline constexpr int REPORT_VERSION = 1;
 
-// Indented, with a final line end. Numbers are hidden in the conversation, not here.
+// Indented, with a final newline. A hidden VIN is hidden in the conversation already.
 std::string report_json(const car_report& report);
 
-// Hostile input: nothing, with the reason in `why`, if it is not such a document.
+// The input is hostile: returns nothing, and the reason in `why`, if it is not such a document.
 std::optional<conversation> open_report(std::string_view document, std::string& why);

@@ -23,14 +23,14 @@ std::string moment(const std::string& read_at) {
     return replace_all(replace_all(replace_all(read_at, "T", " "), "+", " +"), "Z", " UTC");
 }
 
-// What several units report alike appears once.
+// Equal values of several units appear once.
 void add_readings(sheet_table& to, const car_report& report, bool (*wanted)(unsigned pid)) {
     for (const unit_report& unit : report.units)
-        for (const told_value& one : unit.readings) {
+        for (const reported_value& one : unit.readings) {
             if (!wanted(one.pid))
                 continue;
             const bool alike = std::ranges::none_of(report.units, [&](const unit_report& other) {
-                return std::ranges::any_of(other.readings, [&](const told_value& same) {
+                return std::ranges::any_of(other.readings, [&](const reported_value& same) {
                     return same.pid == one.pid && same.text != one.text;
                 });
             });
@@ -49,7 +49,8 @@ void vehicle_section(sheet_section& to, const car_report& report, const bundle& 
     std::set<std::string> different;
     std::string vin = instead(report, part::vin, texts);
     for (const unit_report& unit : report.units)
-        if (unit.of(part::vin).told() && different.insert(unit.vin).second && different.size() == 1)
+        if (unit.of(part::vin).reported() && different.insert(unit.vin).second &&
+            different.size() == 1)
             vin = unit.vin_is_standard
                       ? unit.vin
                       : say(texts, "report_vin_odd", {unit.vin, unit.of(part::vin).raw});
@@ -68,12 +69,12 @@ void vehicle_section(sheet_section& to, const car_report& report, const bundle& 
 
 void readings_section(sheet_section& to, const car_report& report, const bundle& texts) {
     sheet_table table = pairs();
-    table.rows.push_back({texts.localized("report_read_at"), moment(report.heard.read_at)});
+    table.rows.push_back({texts.localized("report_read_at"), moment(report.transcript.read_at)});
     table.rows.push_back({texts.localized("report_volts"), report.adapter_volts.empty()
                                                                ? texts.localized("report_not_told")
                                                                : report.adapter_volts});
     for (const unit_report& unit : report.units)
-        if (const auto speed = std::ranges::find(unit.readings, ENGINE_SPEED, &told_value::pid);
+        if (const auto speed = std::ranges::find(unit.readings, ENGINE_SPEED, &reported_value::pid);
             speed != unit.readings.end()) {
             const bool running = !speed->found.raw.ends_with("0000");
             table.rows.push_back({texts.localized("report_engine_running"),
@@ -114,7 +115,7 @@ void adapter_section(sheet_section& to, const car_report& report, const bundle& 
     for (const unit_report& unit : report.units)
         units += (units.empty() ? "" : ", ") + unit_label(unit);
     add("report_answered", units.empty() ? texts.localized("report_none") : units);
-    const int tenths = (report.heard.milliseconds + 50) / 100;
+    const int tenths = (report.transcript.milliseconds + 50) / 100;
     add("report_seconds", std::to_string(tenths / 10) + "." + std::to_string(tenths % 10) + " s");
     to.table(std::move(table));
 }
@@ -183,9 +184,9 @@ std::vector<sheet_fact> facts_of(const car_report& report, const bundle& texts) 
                    : instead(report, part::status, texts)}};
 }
 
-// Of a list that may lack only this one.
+// For a value missing from a list that may be complete otherwise.
 std::string instead_of_item(const finding& list, const bundle& texts) {
-    return list.told() ? texts.localized("report_not_told") : instead(list, texts);
+    return list.reported() ? texts.localized("report_not_told") : instead(list, texts);
 }
 
 } // namespace
@@ -274,14 +275,15 @@ report_sheet sheet_of(const car_report& report, const bundle& texts) {
     report_sheet sheet;
     sheet.title = texts.localized("report_title");
     sheet.vin = report.vin;
-    sheet.read_at = moment(report.heard.read_at);
+    sheet.read_at = moment(report.transcript.read_at);
     for (const char* key : {"report_plate", "report_owner", "report_odometer"})
         sheet.to_fill_in.push_back(texts.localized(key));
     sheet.signature = texts.localized("report_signature");
     constexpr const char* ENDS[] = {"", "report_end_cancelled", "report_end_time_up",
                                     "report_end_adapter_silent", "report_end_link_lost"};
-    if (report.heard.end != reading_end::complete)
-        sheet.warnings.push_back(texts.localized(ENDS[static_cast<std::size_t>(report.heard.end)]));
+    if (report.transcript.end != reading_end::complete)
+        sheet.warnings.push_back(
+            texts.localized(ENDS[static_cast<std::size_t>(report.transcript.end)]));
     sheet.facts = facts_of(report, texts);
     for (const section_row& row : SECTIONS) {
         sheet_section section{
@@ -290,7 +292,7 @@ report_sheet sheet_of(const car_report& report, const bundle& texts) {
         if (!section.blocks.empty())
             sheet.sections.push_back(std::move(section));
     }
-    sheet.foot = texts.localized("report_foot") + " " + report.heard.program;
+    sheet.foot = texts.localized("report_foot") + " " + report.transcript.program;
     sheet.page = texts.localized("report_page");
     return sheet;
 }

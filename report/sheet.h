@@ -61,12 +61,12 @@ struct report_sheet {
 std::span<const std::string_view> section_names();
 
 report_sheet sheet_of(const car_report& report, const bundle& texts);
-// What appeared and disappeared, of what both reports contain.
+// What appeared and disappeared, where both reports have the data.
 report_sheet comparison_of(const car_report& before, const car_report& after, const bundle& texts);
 
 // Why a finding is empty, as a sentence.
 std::string why_not(const finding& found, const bundle& texts);
-// A bar of ten, for how close a limit is.
+// A bar of ten blocks for the nearness of a limit.
 std::string bar_of(int percent);
 
 std::string sheet_text(const report_sheet& sheet);

@@ -54,40 +54,40 @@ class comparer {
     std::string absence(const unit_report* unit, part one) const {
         if (!unit)
             return word("report_not_told");
-        if (!unit->of(one).told())
+        if (!unit->of(one).reported())
             return instead(unit->of(one), texts_);
         return unit->of(one).unread.empty() ? "–" : word("report_partly");
     }
 
-    // The answer that holds the test may be missing, or a list that would have named it.
-    std::string absence_of(const told_test& test, const unit_report* unit) const {
+    // The test's answer may be missing, or the list that would name it.
+    std::string absence_of(const reported_test& test, const unit_report* unit) const {
         const std::string request = "06" + test.id.substr(0, 2);
         if (unit)
             for (const finding& gap : unit->gaps)
                 if (gap.request == request || (gap.request.starts_with("06") &&
                                                hex_value(gap.request.substr(2)) % GROUP == 0))
-                    return gap.told() ? word("report_partly") : instead(gap, texts_);
+                    return gap.reported() ? word("report_partly") : instead(gap, texts_);
         return absence(unit, part::tests);
     }
 
     void take(const unit_report& unit, const unit_report* other, bool is_after) {
-        for (const told_code& code : unit.codes)
+        for (const reported_code& code : unit.codes)
             for (std::size_t kind = 0; kind < CODE_KINDS.size(); ++kind)
                 if (code.kinds[kind])
                     put(unit,
                         code.code + " " + code.meaning + " (" +
                             word("report_col_" + std::string(part_name(CODE_KINDS[kind]))) + ")",
                         is_after, "✓", absence(other, CODE_KINDS[kind]));
-        if (unit.of(part::status).told())
+        if (unit.of(part::status).reported())
             put(unit, word("report_fact_lamp"), is_after,
                 word(unit.lamp_on ? "report_on" : "report_off"), absence(other, part::status));
-        for (const told_monitor& one : unit.monitors)
+        for (const reported_monitor& one : unit.monitors)
             if (one.supported)
                 put(unit, named(texts_, one.name), is_after,
                     word(one.complete ? "report_complete" : "report_not_complete"),
                     absence(other, part::status));
         constexpr const char* VERDICTS[] = {"report_failed", "report_passed", "report_no_result"};
-        for (const told_test& one : unit.tests)
+        for (const reported_test& one : unit.tests)
             put(unit, one.monitor + " [" + one.id + "]", is_after,
                 word(VERDICTS[static_cast<std::size_t>(one.result)]), absence_of(one, other));
         for (std::size_t i = 0; i < unit.calibrations.size(); ++i)
@@ -102,7 +102,7 @@ class comparer {
     std::map<thing, two_states> states_;
 };
 
-// Whether both may be the same number, ignoring missing and hidden characters.
+// Whether they can be the same number, ignoring missing and hidden characters.
 bool may_be_one(std::string_view before, std::string_view after) {
     return before.empty() || after.empty() ||
            std::ranges::equal(before, after, [](char one, char other) {

@@ -10,11 +10,11 @@ class bundle;
 // A text of the strings table with its placeholders filled in.
 std::string say(const bundle& texts, std::string_view key,
                 std::initializer_list<std::string> places = {});
-// A monitor or counter in the user's language; what the strings table does not know as it is.
+// A monitor or counter in the user's language, or unchanged if the strings table lacks it.
 std::string named(const bundle& texts, const std::string& name);
-// "not told", "refused (7F 0A 11)" ...: the text in place of a value.
+// The text in place of a value: "not reported", "refused (7F 0A 11)" ...
 std::string instead(const finding& found, const bundle& texts);
-// In place of a value that no unit told.
+// The text in place of a value that no unit reported.
 std::string instead(const car_report& report, part one, const bundle& texts);
 // "Engine (7E8)".
 std::string unit_label(const unit_report& unit);

@@ -21,17 +21,17 @@ sheet_table codes_of(const unit_report& unit, const bundle& texts) {
                        word(texts, "report_col_permanent"), word(texts, "report_col_frame")},
                       {3, 14, 4, 4, 4, 3},
                       {}};
-    for (const told_code& one : unit.codes) {
+    for (const reported_code& one : unit.codes) {
         std::vector<std::string> row{
             one.code, one.meaning.empty() ? word(texts, "report_unknown_code") : one.meaning};
-        // A tick, nothing if the list leaves it out, or a dash without a list.
+        // A tick; empty if the list does not contain it; "?" without a list.
         for (std::size_t kind = 0; kind < CODE_KINDS.size(); ++kind)
             row.push_back(one.kinds[kind] ? TICK
-                          : unit.of(CODE_KINDS[kind]).told() &&
+                          : unit.of(CODE_KINDS[kind]).reported() &&
                                   unit.of(CODE_KINDS[kind]).unread.empty()
                               ? ""
                               : "?");
-        row.push_back(one.kept_frame ? TICK : unit.of(part::frame).told() ? "" : "?");
+        row.push_back(one.kept_frame ? TICK : unit.of(part::frame).reported() ? "" : "?");
         table.rows.push_back(std::move(row));
     }
     return table;
@@ -42,13 +42,13 @@ std::string empty_lists(const unit_report& unit, const bundle& texts) {
     std::string text;
     for (std::size_t kind = 0; kind < CODE_KINDS.size(); ++kind) {
         const finding& found = unit.of(CODE_KINDS[kind]);
-        const bool any =
-            std::ranges::any_of(unit.codes, [&](const told_code& one) { return one.kinds[kind]; });
+        const bool any = std::ranges::any_of(
+            unit.codes, [&](const reported_code& one) { return one.kinds[kind]; });
         if (any && found.unread.empty())
             continue;
         text += (text.empty() ? "" : "; ") +
                 word(texts, "report_part_" + std::string(part_name(CODE_KINDS[kind]))) + ": ";
-        text += !found.told()           ? instead(found, texts)
+        text += !found.reported()       ? instead(found, texts)
                 : !found.unread.empty() ? word(texts, "report_partly")
                                         : word(texts, "report_none");
     }
@@ -61,7 +61,7 @@ std::string state_of(bool complete, const bundle& texts) {
 
 void add_missing(sheet_section& to, const car_report& report, part one, const bundle& texts) {
     for (const unit_report& unit : report.units)
-        if (!unit.of(one).told())
+        if (!unit.of(one).reported())
             to.line(unit_label(unit) + ": " + instead(unit.of(one), texts));
 }
 
@@ -73,11 +73,11 @@ void codes_section(sheet_section& to, const car_report& report, const bundle& te
         to.table(codes_of(unit, texts));
         if (std::string rest = empty_lists(unit, texts); !rest.empty())
             to.line(std::move(rest));
-        if (unit.of(part::status).told() && unit.of(part::stored).told() &&
-            static_cast<std::size_t>(unit.announced_codes) != unit.stored_heard)
+        if (unit.of(part::status).reported() && unit.of(part::stored).reported() &&
+            static_cast<std::size_t>(unit.announced_codes) != unit.stored_received)
             to.line(say(texts, "report_mismatch",
                         {unit_label(unit), std::to_string(unit.announced_codes),
-                         std::to_string(unit.stored_heard)}));
+                         std::to_string(unit.stored_received)}));
     }
     to.line(report.units.empty() ? word(texts, "report_not_told") : word(texts, "report_legend"));
 }
@@ -88,13 +88,13 @@ void frames_section(sheet_section& to, const car_report& report, const bundle& t
             continue;
         to.heading(unit_label(unit) + ": " + unit.frame_code);
         sheet_table table{{}, {2, 3}, {}};
-        for (const told_value& one : unit.frame_values)
+        for (const reported_value& one : unit.frame_values)
             table.rows.push_back({one.name, one.text});
         to.table(std::move(table));
     }
     std::string none;
     for (const unit_report& unit : report.units)
-        if (unit.of(part::frame).told() && unit.frame_code.empty())
+        if (unit.of(part::frame).reported() && unit.frame_code.empty())
             none += (none.empty() ? "" : ", ") + unit_label(unit);
     if (!none.empty())
         to.line(none + ": " + word(texts, "report_none"));
@@ -107,7 +107,7 @@ void readiness_section(sheet_section& to, const car_report& report, const bundle
             continue;
         to.heading(unit_label(unit) + ", " +
                    word(texts, unit.compression ? "report_compression" : "report_spark"));
-        const bool has_drive = unit.of(part::this_drive).told();
+        const bool has_drive = unit.of(part::this_drive).reported();
         sheet_table table{
             {word(texts, "report_col_monitor"), word(texts, "report_col_state")}, {4, 3}, {}};
         if (has_drive) {
@@ -115,7 +115,7 @@ void readiness_section(sheet_section& to, const car_report& report, const bundle
             table.weights.push_back(3);
         }
         std::string missing;
-        for (const told_monitor& one : unit.monitors) {
+        for (const reported_monitor& one : unit.monitors) {
             if (!one.supported) {
                 missing += (missing.empty() ? "" : ", ") + named(texts, one.name);
                 continue;
@@ -146,7 +146,7 @@ void tests_section(sheet_section& to, const car_report& report, const bundle& te
                            word(texts, "report_col_result"), word(texts, "report_col_near")},
                           {11, 4, 4, 4, 4, 7},
                           {}};
-        for (const told_test& one : unit.tests) {
+        for (const reported_test& one : unit.tests) {
             std::string name = one.monitor;
             if (!one.test.empty())
                 name += (name.empty() ? "" : ": ") + one.test;
@@ -161,7 +161,7 @@ void tests_section(sheet_section& to, const car_report& report, const bundle& te
     if (misfire)
         to.line(word(texts, "report_cylinders"));
     add_missing(to, report, part::tests, texts);
-    if (!report.units.empty() && !report.heard.on_can())
+    if (!report.units.empty() && !report.transcript.on_can())
         to.line(word(texts, "report_no_o2_tests"));
 }
 
@@ -174,7 +174,7 @@ void counters_section(sheet_section& to, const car_report& report, const bundle&
                            word(texts, "report_col_conditions"), word(texts, "report_col_ratio")},
                           {6, 2, 3, 2},
                           {}};
-        for (const told_counter& one : unit.counters) {
+        for (const reported_counter& one : unit.counters) {
             std::string ratio;
             if (one.conditions && *one.conditions > 0) {
                 const unsigned long hundredths = (one.done * 1000UL / *one.conditions + 5) / 10;
@@ -189,14 +189,14 @@ void counters_section(sheet_section& to, const car_report& report, const bundle&
     add_missing(to, report, part::counters, texts);
 }
 
-// Alike for several units: one row.
+// One row for the same gap in several units.
 void unread_section(sheet_section& to, const car_report& report, const bundle& texts) {
     std::vector<std::vector<std::string>> rows; // what, outcome, reason, units
     const auto add = [&](const std::string& what, const finding& found, const unit_report& unit) {
         std::vector<std::string> row{what, instead(found, texts),
                                      found.result == outcome::refused ? "" : why_not(found, texts),
                                      unit_label(unit)};
-        if (found.told())
+        if (found.reported())
             row[1] = word(texts, "report_partly");
         const auto same = std::ranges::find_if(rows, [&](const auto& other) {
             return std::equal(row.begin(), row.end() - 1, other.begin());
@@ -208,7 +208,7 @@ void unread_section(sheet_section& to, const car_report& report, const bundle& t
     };
     for (std::size_t i = 0; i < PARTS; ++i)
         for (const unit_report& unit : report.units)
-            if (const finding& found = unit.findings[i]; !found.told() || !found.unread.empty())
+            if (const finding& found = unit.findings[i]; !found.reported() || !found.unread.empty())
                 add(word(texts, "report_part_" + std::string(part_name(static_cast<part>(i)))),
                     found, unit);
     for (const unit_report& unit : report.units)

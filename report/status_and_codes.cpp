@@ -42,7 +42,7 @@ std::optional<status_bytes> status_in(const std::vector<std::string>& answers) {
     return std::nullopt;
 }
 
-// Set in `enabled`, and clear in `open` when complete.
+// Supported if set in `enabled`; complete if clear in `open`.
 struct monitor_bits {
     bool enabled, complete;
 };
@@ -59,7 +59,7 @@ std::string name_of(const monitor_row& row, bool compression) {
 void add_monitors(unit_report& unit, std::span<const monitor_row> rows, bool continuous,
                   const status_bytes& status, const std::optional<status_bytes>& drive) {
     for (unsigned bit = 0; bit < rows.size(); ++bit) {
-        told_monitor one;
+        reported_monitor one;
         const monitor_bits since_cleared = bits_of(status, continuous, bit);
         one.name = name_of(rows[bit], unit.compression);
         one.continuous = continuous;
@@ -75,8 +75,8 @@ void add_monitors(unit_report& unit, std::span<const monitor_row> rows, bool con
     }
 }
 
-told_code& code_named(unit_report& unit, const std::string& code) {
-    const auto found = std::ranges::find(unit.codes, code, &told_code::code);
+reported_code& code_named(unit_report& unit, const std::string& code) {
+    const auto found = std::ranges::find(unit.codes, code, &reported_code::code);
     if (found != unit.codes.end())
         return *found;
     unit.codes.push_back({code, {}, {}, false});
@@ -90,19 +90,19 @@ void take_codes(unit_report& unit, std::string_view answer, std::size_t kind, bo
         if (older && digits == "0000")
             continue;
         code_named(unit, mac_toolies::pull_DTC_code(digits)).kinds[kind] = true;
-        unit.stored_heard += CODE_KINDS[kind] == part::stored;
+        unit.stored_received += CODE_KINDS[kind] == part::stored;
     }
 }
 
 } // namespace
 
-void fill_status(unit_report& unit, const conversation& heard) {
-    finding& status = unit.of(part::status) = finding_of(heard, "0101", unit.address);
-    finding& drive = unit.of(part::this_drive) = finding_of(heard, "0141", unit.address);
-    const auto since_cleared = status_in(answers_of(heard, "0101", unit.address));
-    const auto this_drive = status_in(answers_of(heard, "0141", unit.address));
+void fill_status(unit_report& unit, const conversation& transcript) {
+    finding& status = unit.of(part::status) = finding_of(transcript, "0101", unit.address);
+    finding& drive = unit.of(part::this_drive) = finding_of(transcript, "0141", unit.address);
+    const auto since_cleared = status_in(answers_of(transcript, "0101", unit.address));
+    const auto this_drive = status_in(answers_of(transcript, "0141", unit.address));
     for (finding* one : {&status, &drive})
-        if (one->told() && !(one == &status ? since_cleared : this_drive))
+        if (one->reported() && !(one == &status ? since_cleared : this_drive))
             one->result = outcome::unread;
     if (!since_cleared)
         return;
@@ -113,16 +113,16 @@ void fill_status(unit_report& unit, const conversation& heard) {
     add_monitors(unit, OTHERS, false, *since_cleared, this_drive);
 }
 
-void fill_codes(unit_report& unit, const conversation& heard, const mac_toolies& toolies) {
+void fill_codes(unit_report& unit, const conversation& transcript, const mac_toolies& toolies) {
     constexpr std::string_view SERVICES[] = {"03", "07", "0A"};
     for (std::size_t kind = 0; kind < CODE_KINDS.size(); ++kind) {
-        unit.of(CODE_KINDS[kind]) = finding_of(heard, SERVICES[kind], unit.address);
-        const asked_piece* piece = heard.find(SERVICES[kind]);
-        for (const std::string& answer : answers_of(heard, SERVICES[kind], unit.address))
+        unit.of(CODE_KINDS[kind]) = finding_of(transcript, SERVICES[kind], unit.address);
+        const asked_piece* piece = transcript.find(SERVICES[kind]);
+        for (const std::string& answer : answers_of(transcript, SERVICES[kind], unit.address))
             take_codes(unit, answer, kind, piece->bus == bus_form::older);
     }
-    finding& frame = unit.of(part::frame) = finding_of(heard, "020200", unit.address);
-    for (const std::string& answer : answers_of(heard, "020200", unit.address)) {
+    finding& frame = unit.of(part::frame) = finding_of(transcript, "020200", unit.address);
+    for (const std::string& answer : answers_of(transcript, "020200", unit.address)) {
         const std::string_view digits = slice(std::string_view(answer), 6, CODE_DIGITS);
         if (digits.size() < CODE_DIGITS)
             frame.result = outcome::unread;
@@ -133,7 +133,7 @@ void fill_codes(unit_report& unit, const conversation& heard, const mac_toolies&
         return;
     const text_dictionary meanings =
         toolies.get_dictionary_from_resource("P0_Codes", "txt", " ").value_or(text_dictionary{});
-    for (told_code& one : unit.codes) {
+    for (reported_code& one : unit.codes) {
         if (const auto found = meanings.find(one.code); found != meanings.end())
             one.meaning = trimmed(found->second);
         one.kept_frame = one.code == unit.frame_code;

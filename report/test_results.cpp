@@ -1,4 +1,4 @@
-// Results of the on-board tests (service 06 of SAE J1979), scaled on CAN, as plain numbers on the
+// Results of the on-board tests (service 06 of SAE J1979): scaled on CAN, plain numbers on the
 // older buses.
 #include "findings.h"
 #include "hex_digits.h"
@@ -62,7 +62,7 @@ verdict verdict_of(const limits& one) {
     return passed ? verdict::passed : verdict::failed;
 }
 
-// How far a value is from a good one to the nearest limit, in percent; above 100 beyond it.
+// How close a value is to the nearest limit, in percent; above 100 if it is beyond the limit.
 std::optional<int> nearness_of(const limits& one) {
     double share = 0;
     if (one.has_lowest && one.has_highest) {
@@ -93,7 +93,7 @@ std::string name_of(const mac_toolies& toolies, std::string_view id, bool monito
     return name == "N/A" || name == "Reserved" ? std::string() : name;
 }
 
-told_test can_test(std::string_view record, const mac_toolies& toolies) {
+reported_test can_test(std::string_view record, const mac_toolies& toolies) {
     const auto word = [&](std::size_t at) { return record.substr(at, 4); };
     const std::string_view monitor = record.substr(0, 2), test = record.substr(2, 2);
     const std::string_view scaling = record.substr(4, 2);
@@ -101,39 +101,39 @@ told_test can_test(std::string_view record, const mac_toolies& toolies) {
     limits one{by.number(word(6)), by.number(word(10)), by.number(word(14)), true, true};
     one.has_lowest = one.lowest != by.open_below();
     one.has_highest = one.highest != by.open_above();
-    told_test told;
-    told.id = std::string(monitor) + "/" + std::string(test);
-    told.monitor = name_of(toolies, monitor, true);
-    told.test = name_of(toolies, test, false);
-    told.raw = record;
-    told.value = scaled(scaling, word(6));
+    reported_test row;
+    row.id = std::string(monitor) + "/" + std::string(test);
+    row.monitor = name_of(toolies, monitor, true);
+    row.test = name_of(toolies, test, false);
+    row.raw = record;
+    row.value = scaled(scaling, word(6));
     const bool not_run = one.value == 0 && one.lowest == 0 && one.highest == 0;
     if (not_run)
-        return told;
-    told.lowest = one.has_lowest ? scaled(scaling, word(10)) : "";
-    told.highest = one.has_highest ? scaled(scaling, word(14)) : "";
-    told.result = verdict_of(one);
-    told.nearness = nearness_of(one);
-    return told;
+        return row;
+    row.lowest = one.has_lowest ? scaled(scaling, word(10)) : "";
+    row.highest = one.has_highest ? scaled(scaling, word(14)) : "";
+    row.result = verdict_of(one);
+    row.nearness = nearness_of(one);
+    return row;
 }
 
-// "46 TID CC vv vv ll ll": bit 7 of CC makes the limit a lowest one.
-told_test old_test(std::string_view answer) {
+// "46 TID CC vv vv ll ll": bit 7 of CC means that the limit is a minimum.
+reported_test old_test(std::string_view answer) {
     const unsigned component = hex_value(answer.substr(4, 2));
     const bool is_lowest = (component & 0x80) != 0;
     const int value = static_cast<int>(hex_value(answer.substr(6, 4)));
     const int limit = static_cast<int>(hex_value(answer.substr(10, 4)));
     const limits one{value, limit, limit, is_lowest, !is_lowest};
-    told_test told;
-    told.id = std::string(answer.substr(2, 2)) + "/" + request_of("", component & 0x7F);
-    told.raw = answer.substr(2);
-    told.value = std::to_string(value);
-    (is_lowest ? told.lowest : told.highest) = std::to_string(limit);
+    reported_test row;
+    row.id = std::string(answer.substr(2, 2)) + "/" + request_of("", component & 0x7F);
+    row.raw = answer.substr(2);
+    row.value = std::to_string(value);
+    (is_lowest ? row.lowest : row.highest) = std::to_string(limit);
     if (value == 0 && limit == 0)
-        return told;
-    told.result = verdict_of(one);
-    told.nearness = nearness_of(one);
-    return told;
+        return row;
+    row.result = verdict_of(one);
+    row.nearness = nearness_of(one);
+    return row;
 }
 
 void take_answer(unit_report& unit, std::string_view answer, bool older,
@@ -149,21 +149,21 @@ void take_answer(unit_report& unit, std::string_view answer, bool older,
 
 } // namespace
 
-void fill_tests(unit_report& unit, const conversation& heard, const mac_toolies& toolies) {
-    unit.of(part::tests) = list_finding(heard, "06", 0, unit.address);
-    const auto listed = heard.lists(unit.address, "06").listed;
+void fill_tests(unit_report& unit, const conversation& transcript, const mac_toolies& toolies) {
+    unit.of(part::tests) = list_finding(transcript, "06", 0, unit.address);
+    const auto listed = transcript.lists(unit.address, "06").listed;
     for (unsigned monitor = 1; monitor <= 0xFF; ++monitor) {
         if (monitor % GROUP == 0)
             continue;
         const std::string request = request_of("06", monitor);
-        const asked_piece* piece = heard.find(request);
+        const asked_piece* piece = transcript.find(request);
         if (!listed.test(monitor) && !piece)
             continue;
-        finding found = finding_of(heard, request, unit.address);
-        for (const std::string& answer : answers_of(heard, request, unit.address))
+        finding found = finding_of(transcript, request, unit.address);
+        for (const std::string& answer : answers_of(transcript, request, unit.address))
             take_answer(unit, answer, piece->bus == bus_form::older, toolies);
-        if (found.told() ? !found.unread.empty() : listed.test(monitor))
+        if (found.reported() ? !found.unread.empty() : listed.test(monitor))
             unit.gaps.push_back(std::move(found));
     }
-    std::ranges::stable_sort(unit.tests, {}, &told_test::result);
+    std::ranges::stable_sort(unit.tests, {}, &reported_test::result);
 }

@@ -36,18 +36,18 @@ std::string value_text(const std::string& answer, const mac_toolies& toolies) {
     return plainly(replace_all(std::string(trimmed(std::string_view(text))), "  ", " "));
 }
 
-told_value value_of(const conversation& heard, const std::string& request, unsigned pid,
-                    std::string_view unit, const mac_toolies& toolies) {
-    told_value value;
+reported_value value_of(const conversation& transcript, const std::string& request, unsigned pid,
+                        std::string_view unit, const mac_toolies& toolies) {
+    reported_value value;
     value.pid = pid;
     value.name = parameter_name(toolies, request.substr(2, 2));
     if (value.name == "N/A" || value.name == "NOT FOUND")
         value.name = "PID " + request.substr(2, 2);
-    value.found = finding_of(heard, request, unit);
+    value.found = finding_of(transcript, request, unit);
     const std::size_t head = request.size(); // the frame number follows the PID
-    for (const std::string& answer : answers_of(heard, request, unit))
+    for (const std::string& answer : answers_of(transcript, request, unit))
         if (const auto whole = answer_digits(answer, bus_form::unknown);
-            whole && answer.size() < *whole) { // half of it would be another value
+            whole && answer.size() < *whole) { // part of it would read as another value
             value.found.result = outcome::unread;
             value.found.why = WHY_INCOMPLETE;
         } else if (answer.size() > head) {
@@ -59,12 +59,12 @@ told_value value_of(const conversation& heard, const std::string& request, unsig
     return value;
 }
 
-void take(unit_report& unit, std::vector<told_value>& to, told_value value) {
-    if (value.found.told() && value.text.empty())
+void take(unit_report& unit, std::vector<reported_value>& to, reported_value value) {
+    if (value.found.reported() && value.text.empty())
         value.found.result = outcome::unread;
-    if (value.found.told() && !value.found.unread.empty())
+    if (value.found.reported() && !value.found.unread.empty())
         unit.gaps.push_back(value.found);
-    if (value.found.told())
+    if (value.found.reported())
         to.push_back(std::move(value));
     else if (value.found.why != WHY_NOT_LISTED && value.found.result != outcome::not_asked)
         unit.gaps.push_back(std::move(value.found));
@@ -72,29 +72,29 @@ void take(unit_report& unit, std::vector<told_value>& to, told_value value) {
 
 // Whether a missing value is a gap: not if the unit answers none of that kind.
 bool expected(const finding& list) {
-    return list.told() || list.result == outcome::unread;
+    return list.reported() || list.result == outcome::unread;
 }
 
 } // namespace
 
-void fill_values(unit_report& unit, const conversation& heard, const mac_toolies& toolies) {
-    const bool tells = expected(finding_of(heard, "0100", unit.address));
+void fill_values(unit_report& unit, const conversation& transcript, const mac_toolies& toolies) {
+    const bool tells = expected(finding_of(transcript, "0100", unit.address));
     for (const unsigned pid : READINGS) {
         const std::string request = request_of("01", pid);
-        told_value value = value_of(heard, request, pid, unit.address, toolies);
-        if (heard.find(request) && (tells || value.found.told()))
+        reported_value value = value_of(transcript, request, pid, unit.address, toolies);
+        if (transcript.find(request) && (tells || value.found.reported()))
             take(unit, unit.readings, std::move(value));
     }
     if (unit.frame_code.empty())
         return;
-    const bool listed = expected(finding_of(heard, "020000", unit.address));
+    const bool listed = expected(finding_of(transcript, "020000", unit.address));
     for (unsigned pid = 3; pid <= 0xFF; ++pid) {
         const std::string request = request_of("02", pid) + "00";
-        if (pid % GROUP == 0 || !heard.find(request))
+        if (pid % GROUP == 0 || !transcript.find(request))
             continue;
-        told_value value = value_of(heard, request, pid, unit.address, toolies);
-        // Without a list each was a try.
-        if (listed || value.found.told() || value.found.result == outcome::unread)
+        reported_value value = value_of(transcript, request, pid, unit.address, toolies);
+        // Without a list, each request was a guess.
+        if (listed || value.found.reported() || value.found.result == outcome::unread)
             take(unit, unit.frame_values, std::move(value));
     }
 }

@@ -1,4 +1,4 @@
-"""What check-tables asks of P0_Codes, the descriptions of trouble codes."""
+"""The checks of P0_Codes, the descriptions of trouble codes."""
 
 import re
 from collections import Counter
@@ -16,11 +16,11 @@ SPELT_OUT = {"MAF", "MAP", "ECT", "IAT", "TCC", "PTO", "BARO", "KAM", "DPF", "SC
 SMALL_WORDS = {"of", "to", "and", "or", "the", "in", "at", "on", "by", "with", "from", "for", "during", "not", "per"}
 STATES = {"on"}  # a small word, but also a state: "Stuck On"
 
-# Rare words that differ by one letter from a frequent one, and yet are meant.
+# Rare words that differ by one letter from a frequent one, but are correct.
 MEANT = {"bolster", "cause", "code", "conditions", "disabled", "electronic", "event", "gears", "late", "loss", "lower",
          "port", "pulse", "rain", "receiver", "road", "root", "sensors", "state", "step", "timer", "valves", "wear"}
 
-# The standard's order of the faults of one component.
+# The standard's order of a component's faults.
 FAULT = re.compile(r"(?P<part>.+?)(?: (?P<kind>Circuit|Too)\b)?(?:/Open| Open)?"
                    r"(?: (?P<fault>Range/Performance|Performance|Unstable|Low|High|Intermittent/Erratic|Malfunction))?"
                    r"(?: Voltage)?(?P<place>,.*| -.*|)")
@@ -86,7 +86,7 @@ def misspelt(counts):
 
 
 def check_spelling(codes, report):
-    """One way of writing each word: small words small, the others as most descriptions have them."""
+    """Checks that each word is written in one way: small words in lower case, others as in most descriptions."""
     words = {number: re.findall(r"[A-Za-z][A-Za-z0-9]+", title) for number, title in codes.values()}
     counts = Counter(word for line in words.values() for word in line)
     wrong = misspelt(Counter(word.lower() for word in counts.elements()))
@@ -129,7 +129,7 @@ def check_low_before_high(codes, report):
 
 
 def check_runs(codes, report):
-    """Codes that follow one another: the run of a component has neither gaps nor members of another in it."""
+    """Checks that the codes of a component are consecutive, without gaps or codes of another component."""
     parts = {code: parse(title)[0] for code, (_, title) in codes.items()}
     masked = {code: re.sub(r"(?<![\w/+-])([A-Z]|\d+)(?!\w)", "#", part) for code, part in parts.items()}
     for code, part in parts.items():

@@ -17,7 +17,7 @@ using std::chrono::milliseconds;
 
 constexpr milliseconds DEFERRED_BY{60}; // from "7F 01 78" to the answer
 
-bool puts_off(const byte_string& message) {
+bool is_deferral(const byte_string& message) {
     return message.size() == 3 && message[0] == 0x7F && message[2] == 0x78;
 }
 
@@ -122,7 +122,7 @@ std::vector<bus_frame> frames_on_bus(const std::vector<unit_answer>& answers,
                 add_can_message(frames, answer, message, at, bus.per_frame, flow_control);
             else
                 frames.push_back({at, answer.address, message});
-            at += puts_off(message) ? DEFERRED_BY : bus.per_frame;
+            at += is_deferral(message) ? DEFERRED_BY : bus.per_frame;
         }
         // One wire: on an older bus a unit waits for the one before.
         next_unit = bus.is_can() ? next_unit + unit_gap : at - bus.per_frame + unit_gap;

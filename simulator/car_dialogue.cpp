@@ -254,7 +254,7 @@ void virtual_adapter::show_frames(const std::vector<unit_answer>& answers, int e
         last = one.at;
     }
     last_gap_ = longest;
-    // What comes too late is heard all the same, by a controller that always listens.
+    // A CAN controller always receives, so late frames are not lost.
     if (bus.is_can() && shown > 0 && shown < frames.size() && (expected == 0 || counted < expected))
         longest = std::max(longest, frames[shown].at - last);
     longest_gap_ = std::max(longest_gap_, longest);

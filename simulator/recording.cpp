@@ -81,10 +81,10 @@ class recording_builder {
         if (!ms || ms->type != json_value::kind::number || !(ms->number >= 0) ||
             ms->number > LATEST_MS || ms->number != std::floor(ms->number))
             refuse("\"ms\" is a whole number of milliseconds");
-        const milliseconds told(static_cast<milliseconds::rep>(ms->number));
-        if (told < now_)
+        const milliseconds at(static_cast<milliseconds::rep>(ms->number));
+        if (at < now_)
             refuse("is earlier than the line before");
-        now_ = told;
+        now_ = at;
     }
 
     static std::string text_of(const json_value& value) {

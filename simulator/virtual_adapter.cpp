@@ -49,7 +49,7 @@ void virtual_adapter::receive(std::string_view bytes, milliseconds sent) {
     for (const char c : bytes) {
         if (stall_after && commands_ >= *stall_after)
             return;
-        const milliseconds now = heard(sent);
+        const milliseconds now = arrival(sent);
         // The chip ignores NUL, and line feeds, which some terminals send with each return.
         if (c == '\0' || c == '\n')
             continue;
@@ -140,19 +140,19 @@ adapter_reply virtual_adapter::answer_at(const command_line& line, milliseconds 
     const bool ignition = car_is_there(now);
     const at_surroundings car{ignition ? vehicle_.battery_volts(now) : 12.2, ignition};
     const std::string eol_before = end_of_line();
-    const std::optional<std::string> told = run_at_command(state_, car, line.at_command);
+    const std::optional<std::string> answer = run_at_command(state_, car, line.at_command);
     adapter_reply pieces;
-    if (told && is_initiation(line.at_command)) {
+    if (answer && is_initiation(line.at_command)) {
         const adapter_state before = state_;
         connect_to_only(protocol_numbered(state_.protocol), ignition, pieces);
         search_ = search{before, now + end_of(pieces)};
         return pieces;
     }
-    if (told && is_restart(line.at_command)) {
+    if (answer && is_restart(line.at_command)) {
         restarting_ = true;
         pieces.push_back({scaled(RESTART_TIME), eol_before + eol_before});
     }
-    add_line(pieces, milliseconds(0), told.value_or("?"));
+    add_line(pieces, milliseconds(0), answer.value_or("?"));
     return pieces;
 }
 
@@ -174,8 +174,8 @@ bool virtual_adapter::wants_close(milliseconds) const {
     return closing_;
 }
 
-// When a character that is sent now arrives, over radio and serial line.
-milliseconds virtual_adapter::heard(milliseconds now) {
+// When a character sent now arrives, through radio and serial line.
+milliseconds virtual_adapter::arrival(milliseconds now) {
     const milliseconds arrives = now + options_.round_trip / 2;
     if (options_.baud == 0)
         return arrives;

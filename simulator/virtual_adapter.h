@@ -82,7 +82,7 @@ class virtual_adapter final : public adapter {
     milliseconds longest_wait() const;
     milliseconds wait_for_more() const;
 
-    milliseconds heard(milliseconds now);
+    milliseconds arrival(milliseconds now);
     void say(milliseconds at, const std::string& text);
     std::string end_of_line() const;
     milliseconds scaled(milliseconds genuine) const;
@@ -101,7 +101,7 @@ class virtual_adapter final : public adapter {
     // When the serial line is next idle, to the chip and from it.
     std::chrono::microseconds line_in_{0}, line_out_{0};
     milliseconds bus_free_{0}; // for the next request
-    // Frames after the end of a reply, which the chip has not heard yet or never will.
+    // Frames after the end of a reply, which the chip receives later or never.
     std::vector<timed_frame> late_;
     // Between two messages: the longest on this bus so far, and in the last reply.
     milliseconds longest_gap_{0}, last_gap_{0};

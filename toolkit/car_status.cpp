@@ -15,14 +15,14 @@ bool is_engine(const ecu_answer& one) {
     return one.unit == "Engine";
 }
 
-void tell_silent_units(reading& read, std::map<std::string, std::string> expected) {
+void add_silent_units(reading& read, std::map<std::string, std::string> expected) {
     for (const ecu_answer& one : read.answers)
         expected.erase(unit_address(one.form, one.header));
     for (const unread_piece& one : read.unread)
         if (one.kind == unread_kind::refused)
             expected.erase(one.unit);
         else
-            return; // that may have been theirs, and is told of
+            return; // this may be their answer, and is reported as unread
     for (const auto& [address, name] : expected)
         read.unread.push_back({unread_kind::silent_unit, name, address});
 }
@@ -38,31 +38,31 @@ std::map<std::string, std::string> units_with_status(const reading& pids) {
     return units;
 }
 
-// The engine's answer, or the only one, tells lamp and monitors. When several units answer and none
-// is the engine's, any lamp counts, and the first unit's monitors.
+// Lamp and monitors come from the engine's answer, or the only one. If several units answer without
+// the engine, any unit's lamp counts, and the first unit's monitors.
 car_status read_status(std::string_view reply, const std::map<std::string, std::string>& expected) {
     reading read = read_reply("0101", reply);
     if (read.bus.source == bus_source::headers)
-        tell_silent_units(read, expected);
+        add_silent_units(read, expected);
     read.forget_refusals();
     std::erase_if(read.answers, [](const auto& one) { return one.data.size() < WHOLE; });
-    const bool engine_told = std::ranges::any_of(read.answers, is_engine);
+    const bool engine_reported = std::ranges::any_of(read.answers, is_engine);
 
     car_status status;
-    status.told = read.answered();
+    status.reported = read.answered();
     status.all_read = read.unread.empty();
-    status.lamp_known = status.told && (status.all_read || engine_told);
+    status.lamp_known = status.reported && (status.all_read || engine_reported);
     if (read.bus.source == bus_source::headers)
         status.bus = read.bus.form;
     for (const ecu_answer& one : read.answers) {
         const std::string_view data = one.data;
         const unsigned byte_a = hex_value(slice(data, A_AT, 2));
         const bool unit_lamp = (byte_a & LAMP_BIT) != 0;
-        if (!engine_told || is_engine(one))
+        if (!engine_reported || is_engine(one))
             status.lamp_on = status.lamp_on || unit_lamp;
-        if (engine_told ? is_engine(one) : status.all_read && status.monitors.empty())
+        if (engine_reported ? is_engine(one) : status.all_read && status.monitors.empty())
             status.monitors = slice(data, BCD_AT);
-        // A unit whose lamp bit is clear adds nothing, whatever its count: on purpose.
+        // Deliberately: the count of a unit whose lamp bit is clear is ignored.
         if (unit_lamp)
             status.codes += static_cast<int>(byte_a & COUNT_BITS);
     }

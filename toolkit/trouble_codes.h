@@ -14,7 +14,7 @@ enum class half_codes { left_unread, padded };
 
 struct codes_reading {
     std::vector<std::string> codes; // in the order of the reply, duplicates kept
-    std::vector<std::string> units; // that sent each: "Engine (7E8)"; empty where no header told
+    std::vector<std::string> units; // that sent each: "Engine (7E8)"; empty without headers
     bool answered = false;
     bool no_data = false;
     std::vector<std::string> others; // as in a reading

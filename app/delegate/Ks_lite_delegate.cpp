@@ -25,7 +25,7 @@ Ks_lite_delegate::Ks_lite_delegate(app_doors doors, screen_factories factories)
 Ks_lite_delegate::~Ks_lite_delegate() {
     doors_.notifications.remove_observer(observer_);
     doors_.loop.cancel(release_);
-    doors_.loop.cancel(put_back_bound_);
+    doors_.loop.cancel(restore_limit_);
 }
 
 void Ks_lite_delegate::load_settings() {
@@ -61,7 +61,7 @@ void Ks_lite_delegate::show_screen(std::string_view interface_file, bool save_fi
 void Ks_lite_delegate::release_current_screen() {
     if (!mainViewController)
         return;
-    stop_put_back();
+    stop_restore();
     mainViewController->view()->hide();
     mainViewController->view()->setParent(nullptr);
     // One of the screen's own operations may be running: destroy it only from the run loop.
@@ -85,7 +85,7 @@ void Ks_lite_delegate::applicationWillTerminate() {
 }
 
 void Ks_lite_delegate::wrap_leave() {
-    stop_put_back(); // nobody waits for it any more
+    stop_restore();
     // An open Bluetooth channel is not closed here, only abandoned; it ends with the program.
     if (connected_2_BT_interface)
         rfcommChannelClosed();

@@ -2,7 +2,7 @@
 // and out of the main window, and owns the single link to the adapter. Created once by main,
 // outlives window and screens.
 //
-// Shell half: Ks_lite_delegate.cpp. Link half: delegate_link.cpp and delegate_put_back.cpp over
+// Shell half: Ks_lite_delegate.cpp. Link half: delegate_link.cpp and delegate_restore.cpp over
 // delegate_tcp.cpp and delegate_bluetooth.cpp. The link neither interprets replies nor waits for
 // prompts: it sends one command, arms the reply time-out, and hands every received chunk, or
 // "Timeout", to the screen that is showing.
@@ -105,7 +105,7 @@ class Ks_lite_delegate {
     bool link_coming_up() const;
     // Changes each time the link is dropped.
     std::uint64_t link_number() const { return attempt_; }
-    // A reply, a connection or a deferred call is still to come.
+    // A reply, a connection or a deferred call is outstanding.
     bool anything_outstanding() const;
     // No reply is expected any more, and commands already sent do not time out.
     void give_up_on_replies();
@@ -113,8 +113,7 @@ class Ks_lite_delegate {
     // although a reply is awaited.
     bool link_in_doubt() const;
     reply_ledger& replies() { return ledger_; }
-    // The reason if the link could not even begin to open, so that no event will report it; else
-    // empty.
+    // Why opening the link could not even begin, since no event will report that; else empty.
     std::string advice() const;
 
     // Operations of the table of transports.
@@ -123,17 +122,18 @@ class Ks_lite_delegate {
     bool openSerialPortProfile();
     void sendOBDcmd_BT(std::string_view command);
 
-    // The adapter is not as others expect it, and these commands put it back.
-    void changed_adapter(std::span<const std::string_view> put_back) { to_put_back_ = put_back; }
-    bool adapter_changed() const { return !to_put_back_.empty(); }
-    // Tells `done` in the end, unless a screen sends something or goes: not `well` when the adapter
-    // did not take all of it, or cannot be reached any more.
-    void put_adapter_back(std::function<void(bool well)> done);
-    bool puts_adapter_back() const { return put_back_bound_ != 0; }
+    // A task has changed settings of the adapter; these commands restore them.
+    void restore_later(std::span<const std::string_view> put_back) { restore_commands_ = put_back; }
+    bool adapter_changed() const { return !restore_commands_.empty(); }
+    // Calls `done`, unless a screen sends a command or is replaced. `well`: the adapter accepted
+    // every command.
+    void restore_adapter(std::function<void(bool well)> done);
+    bool restoring_adapter() const { return restore_limit_ != 0; }
     // The adapter was reset, or cannot be reached.
-    void forget_put_back();
-    // Before the program ends: what runs ends. False when there is nothing to put back.
-    bool puts_adapter_back_first(std::function<void()> then);
+    void forget_restore();
+    // Before the program exits: ends the task and calls `then` afterwards. False if there is
+    // nothing to restore.
+    bool restore_adapter_before(std::function<void()> then);
 
   private:
     // shell
@@ -145,19 +145,19 @@ class Ks_lite_delegate {
     void obdTimedOutHandler();
     void handleOBDRcvdNotification(const std::string& text);
     void post_received(const std::string& text);
-    void tell_link_lost();
+    void notify_link_lost();
     void set_doubt(bool in_doubt);
     void work_over_new_link(const std::string& message);
     void drop_link();
 
     void send_over_link(std::string_view command);
 
-    // delegate_put_back.cpp
-    void bound_put_back(std::function<void()> in_vain);
-    void say_put_back();
-    void take_put_back(const std::string& text);
-    void put_back_ended(bool well);
-    void stop_put_back();
+    // delegate_restore.cpp
+    void limit_restore(std::function<void()> in_vain);
+    void send_restore_command();
+    void take_restore_reply(const std::string& text);
+    void restore_ended(bool well);
+    void stop_restore();
 
     // streams
     void connectToServerUsingCFStream(const std::string& host, long portNo);
@@ -191,13 +191,13 @@ class Ks_lite_delegate {
     reply_ledger ledger_;
     bool in_doubt_ = false;
 
-    std::span<const std::string_view> to_put_back_;
-    std::size_t put_back_next_ = 0;
-    int put_back_said_ = 0; // this one; 0: what was asked before is still owed
-    bool put_back_well_ = true;
-    std::string put_back_reply_;
-    run_loop::timer_id put_back_bound_ = 0;
-    std::vector<std::function<void(bool well)>> when_put_back_;
+    std::span<const std::string_view> restore_commands_;
+    std::size_t restore_next_ = 0;
+    int restore_tries_ = 0; // of the current command; 0: an earlier reply is still owed
+    bool restore_ok_ = true;
+    std::string restore_reply_;
+    run_loop::timer_id restore_limit_ = 0;
+    std::vector<std::function<void(bool well)>> when_restored_;
 
     // What the settings named when the link was last opened.
     struct adapter_choice {

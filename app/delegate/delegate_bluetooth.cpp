@@ -85,7 +85,7 @@ bool Ks_lite_delegate::openSerialPortProfile() {
                             "happen an spp service must have an rfcomm channel id.***\n");
         return false;
     }
-    // The chooser has connected; without it that happens here, and a failure leaves no trace.
+    // Already connected by the chooser; else connects now, and a failure changes nothing.
     if (const int refused = device->connect(); refused != 0) {
         log_failed_open(refused);
         return false;
@@ -129,9 +129,10 @@ void Ks_lite_delegate::rfcommChannelClosed() {
     doors_.loop.after(DISCONNECTION_DELAY,
                       [this, device = mBluetoothDevice] { closeDeviceConnectionOnDevice(device); });
     connected_2_BT_interface = false;
-    if (ledger_.half_come()) // it has stopped the time-out that would report a lost channel
+    // Its first piece stopped the time-out that would report the loss.
+    if (ledger_.reply_incomplete())
         ledger_.link_gone();
-    tell_link_lost();
+    notify_link_lost();
 }
 
 void Ks_lite_delegate::closeDeviceConnectionOnDevice(
@@ -165,5 +166,5 @@ void Ks_lite_delegate::sendOBDcmd_BT(std::string_view command) {
     bytes.resize(bytes.size() & LONGEST_WRITE);
     ledger_.command_left(doors_.loop.now());
     if (mRFCOMMChannel)
-        (void)mRFCOMMChannel->writeSync(bytes); // a failure appears as a reply time-out
+        (void)mRFCOMMChannel->writeSync(bytes); // a failure shows as a time-out
 }

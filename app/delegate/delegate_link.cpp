@@ -6,13 +6,12 @@
 #include "transports.h"
 
 void Ks_lite_delegate::sendOBDcmd(std::string_view command) {
-    stop_put_back(); // the screen knows better
+    stop_restore(); // a screen's command takes precedence
     send_over_link(command);
 }
 
 void Ks_lite_delegate::send_over_link(std::string_view command) {
-    // The timer armed before is left running on purpose: if it belongs to a command that is still
-    // unanswered, it will report that.
+    // A running timer is deliberately not stopped: it may belong to a command still unanswered.
     obdTimeOutTimer = doors_.loop.after(std::chrono::seconds(g_this_delta),
                                         [this, generation = ledger_.generation()] {
                                             if (generation == ledger_.generation())
@@ -37,7 +36,7 @@ void Ks_lite_delegate::handleOBDRcvdNotification(const std::string& text) {
     qCDebug(log_link, "delegate:handleOBD got the stuff%s", text.c_str());
     if (mainViewController)
         mainViewController->handleOBDRcvdMsg(text);
-    take_put_back(text);
+    take_restore_reply(text);
 }
 
 void Ks_lite_delegate::post_received(const std::string& text) {
@@ -75,11 +74,11 @@ void Ks_lite_delegate::work_over_new_link(const std::string& message) {
         l_work_current_task(&message);
 }
 
-void Ks_lite_delegate::tell_link_lost() {
-    to_put_back_ = {};
+void Ks_lite_delegate::notify_link_lost() {
+    restore_commands_ = {};
     if (mainViewController)
         mainViewController->link_lost();
-    forget_put_back(); // after what would go on has ended
+    forget_restore(); // after the task has ended, so that nothing continues
     set_doubt(true);
 }
 
@@ -104,7 +103,7 @@ void Ks_lite_delegate::settings_left() {
 }
 
 void Ks_lite_delegate::reconnect() {
-    to_put_back_ = {}; // it would go over the new link, to an adapter that may have been reset
+    restore_commands_ = {}; // not over a new link: the adapter may have been reset
     if (mainViewController)
         mainViewController->leave_cur_op_gracefully("");
     drop_link();
@@ -112,14 +111,14 @@ void Ks_lite_delegate::reconnect() {
         only_connecting_ = true;
         return;
     }
-    if (const std::string told = advice(); !told.empty())
-        l_set_status_msg(told);
+    if (const std::string hint = advice(); !hint.empty())
+        l_set_status_msg(hint);
     set_doubt(true);
 }
 
 std::string Ks_lite_delegate::advice() const {
-    const auto told = chosen_transport().advice;
-    return told ? told(doors_) : std::string();
+    const auto advise = chosen_transport().advice;
+    return advise ? advise(doors_) : std::string();
 }
 
 // Closes the link and forgets what a restarted program would not know.

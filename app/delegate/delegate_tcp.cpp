@@ -33,7 +33,7 @@ void Ks_lite_delegate::connectToServerUsingCFStream(const std::string& host, lon
     attempt_state_ = attempt_state::none;
     opened_to_ = chosen_adapter();
     const stream_pair_factory& make = doors_.*(way_->make_streams);
-    streams_ = make ? make(host, portNo) : nullptr; // a pair before this one is closed with it
+    streams_ = make ? make(host, portNo) : nullptr; // closes the previous pair
     if (!streams_)
         return;
     attempt_state_ = attempt_state::connecting;
@@ -60,14 +60,14 @@ void Ks_lite_delegate::stream(stream_side, int handleEvent) {
         attempt_state_ = attempt_state::failed;
         ledger_.link_gone();
         l_set_status_msg("Couldn't connect...Please Check\n\n" + why);
-        tell_link_lost();
+        notify_link_lost();
         break;
     }
     case STREAM_END:
         qCWarning(log_link, "Disconected");
         ledger_.link_gone();
         l_set_status_msg("Disconnected");
-        tell_link_lost();
+        notify_link_lost();
         break;
     default:
         break;
@@ -117,13 +117,13 @@ void Ks_lite_delegate::tcpTimeOutHandler(std::uint64_t attempt) {
 }
 
 void Ks_lite_delegate::disconnect() {
-    forget_put_back();
+    forget_restore();
     if (streams_)
         streams_->close();
     attempt_state_ = attempt_state::none;
     give_up_on_replies();
     ledger_.link_gone();
-    // What was to start on this connection starts on the next.
+    // The deferred start waits for the next connection.
     doors_.loop.cancel(deferred_call_);
     deferred_call_ = 0;
 }

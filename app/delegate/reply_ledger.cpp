@@ -33,13 +33,13 @@ std::optional<reply_place> find_reply(std::string_view text, bool begun) {
 
 void reply_ledger::command_left(moment now) {
     ++owed_;
-    awaited_since_ = heard_ = std::max(now, moment(1));
+    awaited_since_ = last_chunk_ = std::max(now, moment(1));
 }
 
 void reply_ledger::received(std::string_view chunk, moment now) {
     if (chunk.find_first_not_of('\0') == std::string_view::npos)
         return;
-    heard_ = now;
+    last_chunk_ = now;
     const auto reply = find_reply(chunk, begun_);
     if (!reply) {
         begun_ = true;
@@ -63,5 +63,5 @@ void reply_ledger::give_up() {
 }
 
 reply_ledger::moment reply_ledger::stalled_since(moment now) const {
-    return awaited_since_.count() == 0 || now - heard_ <= PATIENCE ? moment(0) : heard_;
+    return awaited_since_.count() == 0 || now - last_chunk_ <= PATIENCE ? moment(0) : last_chunk_;
 }

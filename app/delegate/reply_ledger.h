@@ -25,7 +25,7 @@ class reply_ledger {
     using moment = run_loop::milliseconds;
 
     void command_left(moment now);
-    // The adapter has answered another request: the right answer is still to come.
+    // The adapter answered another request; the right answer is still owed.
     void answer_is_missing() { ++owed_; }
     void received(std::string_view chunk, moment now);
     // The reply to the last command is no longer awaited, but may still come.
@@ -38,10 +38,10 @@ class reply_ledger {
     // A reply is still to come, awaited or late.
     bool owes() const { return owed_ > 0; }
     // Part of a reply has arrived, but not its prompt.
-    bool half_come() const { return begun_; }
-    // Since when the prompt of the last command is awaited; zero if it is not.
+    bool reply_incomplete() const { return begun_; }
+    // When the last command, still without its prompt, was sent; zero if none is.
     moment awaited_since() const { return awaited_since_; }
-    // Since when nothing has arrived although a reply is awaited; zero if less than five seconds.
+    // When the last byte of an awaited reply arrived; zero if less than five seconds ago.
     moment stalled_since(moment now) const;
     // How often all replies were given up.
     std::uint64_t generation() const { return generation_; }
@@ -49,6 +49,6 @@ class reply_ledger {
   private:
     int owed_ = 0;
     bool begun_ = false; // text has arrived after the last prompt
-    moment awaited_since_{0}, heard_{0};
+    moment awaited_since_{0}, last_chunk_{0};
     std::uint64_t generation_ = 0;
 };

@@ -1,5 +1,5 @@
-// What the link and the shell know about a screen. A screen that sends commands overrides the four
-// operations; the preferences keep the do-nothing defaults. The delegate owns the current screen
+// A screen, as the link and the shell see it. Screens that send commands override the four
+// operations; the defaults do nothing. The delegate owns the current screen
 // and destroys it only from the run loop.
 #pragma once
 

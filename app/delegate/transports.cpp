@@ -103,7 +103,7 @@ constexpr transport TRANSPORTS[] = {
      .slow_key = "serial_no_answer_yet_MSG"},
 };
 
-// Bluetooth has a number of its own; every other is a stream.
+// Bluetooth has its own number; all others are streams.
 const transport& row_of(int interface, bool serial) {
     if (interface == KS_USE_BT)
         return transport_named("bluetooth");

@@ -1,5 +1,5 @@
-// The transports, a row each, with everything that differs between them; no other code asks which
-// one it is.
+// The transports, a row each, with everything that differs between them. No other code depends on
+// which one is in use.
 #pragma once
 
 #include "stream_pair.h"
@@ -18,24 +18,24 @@ struct stream_address {
     std::string name;
     long number = 0;
     std::string shown; // to the user
-    std::string typed; // tells two of them apart
+    std::string typed; // identifies the address
 };
 
 struct transport {
     const char* name;           // in recordings
     int interface;              // KS_interface and g_connect_with
-    bool serial;                // tells the two streams apart
+    bool serial;                // a serial port, not TCP
     const char* first_step;     // the button of a first start
     const char* first_step_key; // its text
-    const char* kind_key;       // text: what it needs, and what to do when it fails
+    const char* kind_key;       // text: requirements, and what to do when it fails
     const char* car_silent_key; // text: the adapter works, the car does not answer
 
     bool (Ks_lite_delegate::*open)();
     void (Ks_lite_delegate::*send)(std::string_view command);
     const bool* connected;                    // the link is up
-    bool sends_while_opening;                 // and whether it counts as open before that
+    bool sends_while_opening;                 // counts as open before that
     void (*load)(const user_defaults& store); // the stored address, into the shared state
-    // Why a link did not begin to open, and what to do; null where an event tells it.
+    // Why opening did not even begin, and what to do; null if an event reports that.
     std::string (*advice)(const app_doors& doors);
 
     // Of a stream.

@@ -20,7 +20,7 @@ inline constexpr int S_FAIL = -1;
 inline constexpr int S_SUCCESS = 2;
 inline constexpr int S_LOGGING = 3;
 
-// The kind of bus that the headers of an answer have told.
+// The kind of bus, by the headers of an answer.
 enum class bus_form { unknown, can, older };
 
 inline constexpr std::chrono::seconds TCP_TIME_OUT{25};

@@ -50,7 +50,7 @@ extern bool connected_2_KS_interface; // handshake completed
 extern bool KS_did_connect_2_car;     // the car has answered once; later handshakes skip the reset
 extern bounded_text<40> g_cur_interface; // adapter identity, the raw answer to "AT I"
 extern bounded_text<80> g_cur_protocol;  // the first screened answer to "AT DP"
-// Names of the units whose masks name PID 01 (status), by their addresses; of the same headers.
+// Units that support PID 01 (status): names by address, from the same headers.
 extern std::map<std::string, std::string> g_status_units;
 extern bus_form g_bus_form;                     // by the headers of the handshake's answers
 extern bounded_text<16> g_Supported_obd_mask_0; // supported-PID bitmaps as 8 hex digits

@@ -13,9 +13,9 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # lie in the packages of libraries that are linked anyway; only Wayland windows are a package of their own.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "bluez, qt6-wayland, qt6-gtk-platformtheme")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Kestrom talks to the ELM327-type adapter in a car's diagnostic port, over
-Wi-Fi, Bluetooth or a USB cable. It shows trouble codes with their meaning, the malfunction
-lamp and the readiness monitors, clears codes, draws live values as charts and
-on dials, and logs them.
+Wi-Fi, Bluetooth or a USB cable. It shows trouble codes with their meaning,
+the malfunction lamp and the readiness monitors, clears codes, draws live
+values as charts and on dials, and logs them.
 .
 The same work runs from the command line, without a display and with JSON for
 scripts. A virtual car with its adapter is included, for trying everything

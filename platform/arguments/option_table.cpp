@@ -47,10 +47,10 @@ std::string complaint(const QCommandLineParser& parser) {
     if (const QStringList unknown = parser.unknownOptionNames(); !unknown.isEmpty())
         return "unknown option " + std::string(unknown[0].size() == 1 ? "-" : "--") +
                unknown[0].toLatin1().toStdString();
-    std::string told =
+    std::string help =
         parser.errorText().toLatin1().toStdString(); // "Missing value after '--port'."
-    told[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(told[0])));
-    return std::string(trimmed(told, "."));
+    help[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(help[0])));
+    return std::string(trimmed(help, "."));
 }
 
 void check_value(const option_text& option, const std::string& value) {

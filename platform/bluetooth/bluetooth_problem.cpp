@@ -23,7 +23,7 @@ constexpr problem_row PROBLEMS[] = {
     {bluetooth_problem::no_serial_port, EPROTONOSUPPORT, "bt_no_serial_port"},
     {bluetooth_problem::refused, ECONNREFUSED, "bt_refused"},
     {bluetooth_problem::pairing_failed, EACCES, "bt_pairing_failed"},
-    {bluetooth_problem::nobody_to_ask, ENODEV, "bt_no_chooser"},
+    {bluetooth_problem::no_user, ENODEV, "bt_no_chooser"},
     {bluetooth_problem::other, EIO, "bt_other_problem"},
 };
 
@@ -31,7 +31,7 @@ const problem_row& row_of(bluetooth_problem problem) {
     return PROBLEMS[static_cast<std::size_t>(problem)];
 }
 
-// Parts of BlueZ's error names and texts; the first that fits decides.
+// Parts of BlueZ's error names and texts; the first match wins.
 struct error_row {
     std::string_view part;
     bluetooth_problem problem;
@@ -44,7 +44,7 @@ constexpr error_row ERRORS[] = {
     {"Error.NotSupported", bluetooth_problem::no_serial_port},
     {"-timeout", bluetooth_problem::out_of_reach},
     {"le-connection-abort", bluetooth_problem::out_of_reach},
-    {"Error.NotConnected", bluetooth_problem::out_of_reach}, // any more
+    {"Error.NotConnected", bluetooth_problem::out_of_reach}, // no longer
     {"Not connected", bluetooth_problem::out_of_reach},
     {"Host is down", bluetooth_problem::out_of_reach},
     {"timed out", bluetooth_problem::out_of_reach},
@@ -71,14 +71,14 @@ constexpr error_row ERRORS[] = {
 
 bluetooth_problem problem_of_error(std::string_view error_name, std::string_view error_text,
                                    bool paired) {
-    const auto told = [&](std::string_view part) {
+    const auto mentions = [&](std::string_view part) {
         return error_name.find(part) != std::string_view::npos ||
                error_text.find(part) != std::string_view::npos;
     };
-    if (told("refused"))
+    if (mentions("refused"))
         return paired ? bluetooth_problem::refused : bluetooth_problem::pairing_failed;
     for (const error_row& row : ERRORS)
-        if (told(row.part))
+        if (mentions(row.part))
             return row.problem;
     return bluetooth_problem::other;
 }

@@ -1,5 +1,4 @@
-// Why Bluetooth, or one connection over it, does not work: what the user can do something about is
-// told apart.
+// Why Bluetooth or a connection over it does not work, as far as the user can act on it.
 #pragma once
 
 #include <string>
@@ -18,18 +17,18 @@ enum class bluetooth_problem {
     no_serial_port,
     refused,
     pairing_failed,
-    nobody_to_ask, // a choice is needed where no dialog can be shown
+    no_user, // a choice is needed where no dialog can be shown
     other
 };
 
-// What a failed call to BlueZ means. `paired`: the device is paired all the same, so a refusal is
-// not one of the pairing.
+// What a failed call to BlueZ means. `paired`: the device is paired, so pairing was not what
+// failed.
 bluetooth_problem problem_of_error(std::string_view error_name, std::string_view error_text,
                                    bool paired);
 
-// The system's error number that comes nearest.
+// The closest system error number.
 int error_number(bluetooth_problem problem);
 
-// A sentence for the user and what to do, in the user's language. `device`: its name.
+// What happened and what to do, in the user's language. `device`: its name.
 std::string problem_text(bluetooth_problem problem, const bundle& texts,
                          const std::string& device = {});

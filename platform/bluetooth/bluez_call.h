@@ -15,7 +15,7 @@ inline bool is_error(const QDBusMessage& reply) {
     return reply.type() == QDBusMessage::ErrorMessage;
 }
 
-// `handle` gets the reply, an error too, unless `owner` has gone meanwhile.
+// `handle` gets the reply or the error, unless `owner` has been destroyed by then.
 template <class handler>
 void when_answered(QObject* owner, const QDBusPendingCall& call, handler handle) {
     auto* answer = new QDBusPendingCallWatcher(call, owner);

@@ -47,7 +47,7 @@ void bluez_channel::opened() {
     descriptor_ = connection_->take_descriptor();
     ::fcntl(descriptor_, F_SETFL, ::fcntl(descriptor_, F_GETFL) | O_NONBLOCK);
     readable_ = std::make_unique<QSocketNotifier>(descriptor_, QSocketNotifier::Read);
-    // The notifier only wakes the run loop; it rests until its news is delivered.
+    // The notifier only wakes the run loop, and stays off until that call has been delivered.
     connect(readable_.get(), &QSocketNotifier::activated, this, [this] {
         readable_->setEnabled(false);
         post([this] { received(); });

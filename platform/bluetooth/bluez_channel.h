@@ -15,7 +15,7 @@
 class bluez_channel final : public QObject, public rfcomm_channel {
     Q_OBJECT
   public:
-    // `connection` has finished, without a problem.
+    // `connection` has succeeded.
     bluez_channel(run_loop& loop, std::unique_ptr<bluez_connection> connection,
                   rfcomm_channel_delegate delegate);
     ~bluez_channel() override;
@@ -39,6 +39,6 @@ class bluez_channel final : public QObject, public rfcomm_channel {
     std::unique_ptr<QSocketNotifier> readable_;
     state state_ = state::opening;
     int descriptor_ = -1;
-    // Scheduled calls hold this weakly, so that a channel that is gone calls nobody.
+    // Scheduled calls hold a weak pointer to this, so that a destroyed channel makes none.
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
 };

@@ -52,7 +52,7 @@ class profile_object final : public QDBusVirtualObject {
             owner_.new_connection(
                 handed.isValid() ? ::fcntl(handed.fileDescriptor(), F_DUPFD_CLOEXEC, 0) : -1);
         }
-        // Release and RequestDisconnection: the socket itself tells the end.
+        // Release and RequestDisconnection: the socket reports the end.
         bus.send(message.createReply());
         return true;
     }
@@ -76,7 +76,7 @@ bluez_connection::bluez_connection(bluez_devices& devices, std::string address)
 
 bluez_connection::~bluez_connection() {
     if (!finished_)
-        take_back();
+        undo();
     if (descriptor_ != -1) {
         ::shutdown(descriptor_, SHUT_RDWR);
         ::close(descriptor_);
@@ -93,13 +93,13 @@ void bluez_connection::follow_devices() {
     const auto device = devices_.find(address_);
     if (!device_path_.isEmpty()) {
         if (!device)
-            finish(bluetooth_problem::out_of_reach); // BlueZ has forgotten it meanwhile
-        else if (low_energy_ ? low_energy_->asked() : device->connected)
+            finish(bluetooth_problem::out_of_reach); // BlueZ has dropped the device
+        else if (low_energy_ ? low_energy_->has_port() : device->connected)
             reach_limit_.stop();
         return;
     }
     if (device && devices_.disconnecting(device->path))
-        return; // from the connection before; a new one would fail with it
+        return; // a pending disconnection, which would end the new connection too
     if (device) {
         connect_device(*device);
     } else if (!searched_) {
@@ -113,8 +113,8 @@ void bluez_connection::follow_devices() {
 void bluez_connection::connect_device(const bluetooth_entry& device) {
     device_path_ = device.path;
     connected_before_ = device.connected;
-    devices_.stop_search(); // a search slows connecting down
-    low_energy_too_ = device.low_energy;
+    devices_.stop_search(); // a search slows down connecting
+    also_low_energy_ = device.low_energy;
     over_classic_ = fallen_back_
                         ? !over_classic_
                         : device.classic &&
@@ -154,34 +154,34 @@ void bluez_connection::connect_profile() {
                           return;
                       if (is_error(reply))
                           call_failed(reply);
-                      else // connected already, for somebody else, if nothing is handed over
+                      else // no descriptor: already connected, for another program
                           QTimer::singleShot(HAND_OVER_MS, this,
                                              [this] { finish(bluetooth_problem::in_use); });
                   });
 }
 
-// A dual adapter may have its serial port on the other side only, and BlueZ finds out about a
-// device that has not shown its kind.
+// A dual adapter may have its serial port on the other side only; for a device of unknown kind
+// BlueZ decides.
 bool bluez_connection::falls_back(bluetooth_problem problem) const {
     if (fallen_back_ || device_path_.isEmpty())
         return false;
     const auto device = devices_.find(address_);
     const bool other_kind =
-        over_classic_ ? low_energy_too_ : device && device->classic_port == serial_port_offer::yes;
+        over_classic_ ? also_low_energy_ : device && device->classic_port == serial_port_offer::yes;
     return other_kind &&
            (problem == bluetooth_problem::no_serial_port || problem == bluetooth_problem::refused ||
             problem == bluetooth_problem::out_of_reach);
 }
 
-// From the start: BlueZ may have forgotten the device that it did not reach.
+// Starts over: BlueZ may have dropped a device that it could not reach.
 void bluez_connection::fall_back(bluetooth_problem problem) {
     fallen_back_ = true;
     first_problem_ = problem;
     if (made_link())
-        devices_.disconnect_device(device_path_); // or BlueZ would go on over the same link
+        devices_.disconnect_device(device_path_); // or BlueZ would reuse the link
     device_path_.clear();
     searched_ = false;
-    if (profile_) // this may be an answer to it
+    if (profile_) // not now: one of its calls may be on the stack
         profile_.release()->deleteLater();
     if (low_energy_)
         low_energy_.release()->deleteLater();
@@ -222,8 +222,8 @@ int bluez_connection::take_descriptor() {
     return std::exchange(descriptor_, -1);
 }
 
-// Ends what this attempt began, a pending call included.
-void bluez_connection::take_back() {
+// Undoes what this attempt began; this also ends a pending call.
+void bluez_connection::undo() {
     if (connecting_ && made_link())
         devices_.disconnect_device(device_path_);
 }
@@ -241,6 +241,6 @@ void bluez_connection::finish(bluetooth_problem problem) {
     reach_limit_.stop();
     total_limit_.stop();
     if (problem != bluetooth_problem::none)
-        take_back();
+        undo();
     QMetaObject::invokeMethod(this, &bluez_connection::done, Qt::QueuedConnection);
 }

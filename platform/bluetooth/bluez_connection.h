@@ -1,8 +1,8 @@
-// One attempt to get the serial port of one Bluetooth device from BlueZ: find the device, register
-// as a client of the Serial Port profile, let BlueZ look up the service, pair if need be and
-// connect, and take the descriptor it hands over. A Low Energy device, a dual one without the
-// classic serial port, and one that has not shown its kind are left to low_energy_port. Lives as
-// long as the channel: without the registration BlueZ would close it.
+// One attempt to open a Bluetooth device's serial port: find the device, register as a client of
+// the Serial Port profile, let BlueZ look up the service, pair if necessary and connect, and take
+// the descriptor. Devices that are Low Energy, dual without a classic serial port, or of unknown
+// kind go to low_energy_port. Lives as long as the channel: without the registration BlueZ would
+// close it.
 #pragma once
 
 #include "bluez_devices.h"
@@ -21,22 +21,22 @@ class QDBusMessage;
 class bluez_connection final : public QObject {
     Q_OBJECT
   public:
-    // `address` as bluetooth_address() gives it. Begins at once, but never finishes from inside.
+    // `address` as bluetooth_address() returns it. Starts immediately; done() comes later.
     bluez_connection(bluez_devices& devices, std::string address);
-    // Gives up when it has not finished.
+    // Cancels an unfinished attempt.
     ~bluez_connection() override;
 
     static constexpr int REACH_MS = 20'000; // until the device answers at all
     static constexpr int TOTAL_MS = 60'000; // pairing may ask the user
 
     bool finished() const { return finished_; }
-    // After finishing: none when connected.
+    // Once finished; none means connected.
     bluetooth_problem problem() const { return problem_; }
     const std::string& address() const { return address_; }
-    // The baseband connection is this attempt's; else somebody else on this computer had made it.
+    // Whether this attempt made the baseband connection, rather than another program.
     bool made_link() const { return !connected_before_; }
-    // The connected socket, once; -1 when there is none. The caller closes it, after a shutdown:
-    // BlueZ keeps a copy.
+    // The connected socket, once, or -1. The caller shuts it down before closing it: BlueZ keeps a
+    // copy.
     int take_descriptor();
 
   Q_SIGNALS:
@@ -55,7 +55,7 @@ class bluez_connection final : public QObject {
     void call_failed(const QDBusMessage& reply);
     void new_connection(int descriptor);
     void finish(bluetooth_problem problem);
-    void take_back();
+    void undo();
 
     bluez_devices& devices_;
     std::string address_;
@@ -63,8 +63,8 @@ class bluez_connection final : public QObject {
     std::unique_ptr<profile_object> profile_;
     std::unique_ptr<low_energy_port> low_energy_;
     bool over_classic_ = false; // else over Low Energy
-    bool low_energy_too_ = false;
-    bool fallen_back_ = false; // from the other of the two, for the first problem
+    bool also_low_energy_ = false;
+    bool fallen_back_ = false; // from classic to Low Energy or back, after first_problem_
     bluetooth_problem first_problem_ = bluetooth_problem::none;
     QTimer reach_limit_, total_limit_;
     bool searched_ = false;

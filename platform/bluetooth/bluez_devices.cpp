@@ -17,10 +17,9 @@ bool switched_on(const interface_properties& interfaces) {
 constexpr int NOT_MEASURED = 127; // by the controller
 constexpr char NO_CLASSIC = 0x04; // in a Low Energy device's advertisement
 
-// What a device's kind shows in: a classic one tells its class when it is found, a Low Energy one
-// has a random address, a serial service, or flags in its advertisement, which not every BlueZ
-// tells.
-void tell_kind(bluetooth_entry& device, const QVariantMap& properties, bool serial_service) {
+// A classic device reports its class when it is found; a Low Energy one has a random address, a
+// serial service, or flags in its advertisement, which not every BlueZ passes on.
+void set_kind(bluetooth_entry& device, const QVariantMap& properties, bool serial_service) {
     const QByteArray flags = properties.value(QStringLiteral("AdvertisingFlags")).toByteArray();
     const bool random =
         properties.value(QStringLiteral("AddressType")).toString() == QLatin1String("random");
@@ -57,7 +56,7 @@ bluetooth_entry entry(const QString& path, const QVariantMap& properties) {
     else if (all_known)
         found.classic_port = serial_port_offer::no;
     found.serial_port = serial_service ? serial_port_offer::yes : found.classic_port;
-    tell_kind(found, properties, serial_service);
+    set_kind(found, properties, serial_service);
     return found;
 }
 
@@ -108,8 +107,8 @@ bluez_devices::~bluez_devices() {
 }
 
 void bluez_devices::load() {
-    // Not by a pending-call watcher: one that finds its answer there already reports it behind
-    // signals that came later, and the list would lose what they brought.
+    // Not a pending-call watcher: if the answer is there already, it reports it after later
+    // signals, and the list would lose what they added.
     bus_.callWithCallback(
         bluez_call(QStringLiteral("/"), OBJECT_MANAGER_INTERFACE, "GetManagedObjects"), this,
         SLOT(take(QDBusMessage)), SLOT(load_failed(QDBusError)));
@@ -118,10 +117,10 @@ void bluez_devices::load() {
 void bluez_devices::load_now(int limit_ms) {
     if (!starting_)
         return;
-    QDBusMessage question =
+    QDBusMessage request =
         bluez_call(QStringLiteral("/"), OBJECT_MANAGER_INTERFACE, "GetManagedObjects");
-    question.setAutoStartService(false); // starting it takes longer than anybody may block
-    const QDBusMessage reply = bus_.call(question, QDBus::Block, limit_ms);
+    request.setAutoStartService(false); // starting BlueZ takes longer than we may block
+    const QDBusMessage reply = bus_.call(request, QDBus::Block, limit_ms);
     if (reply.type() == QDBusMessage::ReplyMessage) // else load()'s answer is still to come
         take(reply);
 }
@@ -255,7 +254,7 @@ void bluez_devices::start_search() {
 
 void bluez_devices::search_failed(const QDBusMessage& reply) {
     if (reply.errorName().endsWith(QLatin1String("InProgress")))
-        return; // a search is a search
+        return; // already searching
     qCInfo(log_platform, "Bluetooth search: %s", qUtf8Printable(reply.errorMessage()));
     search_wanted_ = false;
     searching_ = false;

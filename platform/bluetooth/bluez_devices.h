@@ -1,6 +1,6 @@
-// The Bluetooth devices that BlueZ knows, kept up to date while this object lives: what is paired,
-// what a search finds, and whether Bluetooth can be used at all. Nothing here blocks, except
-// load_now() for a bounded time. Owned by the serial-port door.
+// The Bluetooth devices that BlueZ knows, paired or found by a search, kept up to date, and whether
+// Bluetooth can be used at all. Only load_now() blocks, for a limited time. Owned by the
+// serial-port door.
 #pragma once
 
 #include "bluetooth_problem.h"
@@ -26,19 +26,19 @@ enum class serial_port_offer { unknown, yes, no }; // unknown: the device was ne
 struct bluetooth_entry {
     QString path;              // BlueZ's object
     std::string address;       // "00:1A:7D:DA:71:13"
-    std::string name;          // any bytes that are UTF-8; the address when the device told none
+    std::string name;          // arbitrary UTF-8; the address if the device reports no name
     std::optional<int> signal; // dBm, of the running or last search
     bool paired = false;
     bool connected = false;
-    bool resolved = false; // connected, and asked for its services
-    // Its kind; a dual device is both, and neither is one that has not shown it.
+    bool resolved = false; // connected, and its services are known
+    // A dual device is both; a device of unknown kind neither.
     bool classic = false;
     bool low_energy = false;
     serial_port_offer classic_port = serial_port_offer::unknown;
     serial_port_offer serial_port = serial_port_offer::unknown; // of either kind
 };
 
-// "00:1A:7D:DA:71:13" from any case, with colons or dashes; nothing when the text is no address.
+// "00:1A:7D:DA:71:13" from either case, with colons or dashes; nothing if it is not an address.
 std::optional<std::string> bluetooth_address(std::string_view text);
 
 class bluez_devices final : public QObject {
@@ -52,29 +52,27 @@ class bluez_devices final : public QObject {
     const QDBusConnection& bus() const { return bus_; }
     // BlueZ has not answered yet.
     bool starting() const { return starting_; }
-    // What stands in the way of any search or connection.
+    // What prevents any search or connection.
     bluetooth_problem problem() const;
     bool searching() const { return searching_; }
-    // Those of the adapter in use: paired ones first by name, then the others as they were found.
-    // Not those that only advertise and tell neither a name nor a serial port: beacons and the
-    // like.
+    // Of the adapter in use: paired ones by name, then the others in the order found. Omits beacons
+    // and the like, which advertise neither a name nor a serial port.
     std::vector<bluetooth_entry> devices() const;
-    std::optional<bluetooth_entry> find(std::string_view address) const; // any
+    std::optional<bluetooth_entry> find(std::string_view address) const; // beacons too
     std::optional<bluetooth_entry> find_path(const QString& path) const;
-    // Of a Low Energy device that has told its services.
+    // Of a Low Energy device whose services are known.
     std::vector<gatt_characteristic> characteristics(const QString& device) const;
 
-    // Searches for SEARCH_MS, as soon as BlueZ is ready; a running search begins anew.
+    // Searches for SEARCH_MS once BlueZ is ready; restarts a running search.
     void search();
     void stop_search();
     // Ends the device's baseband connection.
     void disconnect_device(const QString& path);
     bool disconnecting(const QString& path) const { return disconnecting_.contains(path); }
-    // Waits for BlueZ's answer, `limit_ms` at most.
+    // Blocks until BlueZ answers, for `limit_ms` at most.
     void load_now(int limit_ms);
 
   Q_SIGNALS:
-    // Anything above is different now.
     void changed();
 
   private Q_SLOTS:

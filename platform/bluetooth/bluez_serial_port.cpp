@@ -9,7 +9,7 @@ namespace {
 
 constexpr int ASKING_LIMIT_MS = 500;
 
-// BlueZ looks the channel number up in the device's own record whenever it connects.
+// BlueZ looks up the channel number in the device's record whenever it connects.
 class bluez_service_record final : public sdp_service_record {
   public:
     int getRFCOMMChannelID(std::uint8_t& channel_id) const override {
@@ -36,7 +36,7 @@ class bluez_device final : public bluetooth_device {
         bluez_devices& devices = door_.devices();
         if (!connection_)
             devices.load_now(ASKING_LIMIT_MS);
-        // A device that was never asked is asked when connecting.
+        // A device whose services are unknown is asked when connecting.
         const auto known = devices.find(address_);
         if (known && known->serial_port == serial_port_offer::no) {
             door_.user_.tell(bluetooth_problem::no_serial_port, known->name);
@@ -97,7 +97,7 @@ class bluez_device final : public bluetooth_device {
     bool made_link_ = false;
 };
 
-// Every device that the chooser connects offers the serial port, the only service it knows.
+// The chooser connects only devices with a serial port.
 class bluez_selector final : public device_selector {
   public:
     explicit bluez_selector(bluez_serial_port& door) : door_(door) {}
@@ -138,7 +138,7 @@ std::unique_ptr<device_selector> bluez_serial_port::deviceSelector() {
     chooser_opened_ = static_cast<bool>(user_.choose);
     if (chooser_opened_)
         return std::make_unique<bluez_selector>(*this);
-    user_.tell(bluetooth_problem::nobody_to_ask, "");
+    user_.tell(bluetooth_problem::no_user, "");
     return nullptr;
 }
 

@@ -1,5 +1,5 @@
-// The real serial-port door: BlueZ over D-Bus. Nothing is asked of the system before somebody wants
-// Bluetooth. Owned by main.
+// The real serial-port door: BlueZ over D-Bus, which is not used before Bluetooth is needed. Owned
+// by main.
 #pragma once
 
 #include "bluez_connection.h"
@@ -13,16 +13,16 @@
 #include <memory>
 #include <string>
 
-// The user, as the door meets them. A device is a name or an address there.
+// How the door talks to the user. `device`: a name or an address.
 struct bluetooth_user {
-    // Lets them choose, modally, and answers the connection to the chosen device, finished and
-    // without a problem; null when they did not want to. Empty: there is nobody to ask.
+    // Modal: returns a successful connection to the device that the user chose, or null if they
+    // cancelled. Empty if there is no user.
     std::function<std::unique_ptr<bluez_connection>(bluez_devices& devices)> choose;
-    // Returns when the connection has finished, or when they would not wait any longer.
+    // Returns when the connection has finished or the user has cancelled.
     std::function<void(bluez_connection& connection, const std::string& device)> wait;
     // Shows why there is no connection.
     std::function<void(bluetooth_problem problem, const std::string& device)> tell;
-    // What to do now, after a chooser or without one.
+    // What to do after a failed attempt.
     std::function<std::string(bool after_chooser)> advice;
 };
 

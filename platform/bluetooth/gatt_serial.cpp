@@ -35,7 +35,7 @@ bool is_written(const gatt_characteristic& one) {
     return one.flags.contains(QLatin1String("write")) || one.flags.contains(WITHOUT_RESPONSE);
 }
 
-// Of those that can do it the usual one, else the first.
+// The usual one if it qualifies, else the first that does.
 template <class condition>
 const gatt_characteristic* best(const std::vector<gatt_characteristic>& characteristics,
                                 const QString& service, const QString& usual, condition fits) {
@@ -56,11 +56,11 @@ bool is_serial_service(const QString& uuid) {
 std::optional<gatt_serial_port>
 find_serial_port(const std::vector<gatt_characteristic>& characteristics) {
     for (const serial_service& row : serial_services()) {
-        const auto* heard = best(characteristics, row.service, row.notifies, notifies);
-        const auto* told = best(characteristics, row.service, row.written, is_written);
-        if (heard && told)
-            return gatt_serial_port{heard->path, told->path,
-                                    !told->flags.contains(WITHOUT_RESPONSE)};
+        const auto* input = best(characteristics, row.service, row.notifies, notifies);
+        const auto* output = best(characteristics, row.service, row.written, is_written);
+        if (input && output)
+            return gatt_serial_port{input->path, output->path,
+                                    !output->flags.contains(WITHOUT_RESPONSE)};
     }
     return std::nullopt;
 }

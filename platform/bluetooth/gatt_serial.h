@@ -1,6 +1,5 @@
-// Where a Low Energy adapter keeps its serial port. No standard says so: it is one of a few
-// services that makers copy from each other, with a characteristic that notifies and one that is
-// written.
+// A Low Energy adapter's serial port. There is no standard, only a few services that makers copy
+// from each other: one characteristic notifies, another is written.
 #pragma once
 
 #include <QString>
@@ -9,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-// UUIDs as BlueZ writes them, paths of its objects.
+// UUIDs and object paths as BlueZ writes them.
 struct gatt_characteristic {
     QString path;
     QString uuid;

@@ -15,12 +15,12 @@
 
 namespace {
 
-constexpr int CALL_MS = 120'000; // whoever waits has limits of their own; pairing may ask the user
+constexpr int CALL_MS = 120'000; // callers have their own limits; pairing may ask the user
 constexpr int WRITE_HEADER = 3;  // of the attribute protocol, in each message
 constexpr int SMALLEST_MTU = 23;
 constexpr int LARGEST_MTU = 517;
 
-// Told apart from an empty message.
+// Distinguishes a closed connection from an empty message.
 bool hung_up(int descriptor) {
     pollfd end{descriptor, 0, 0};
     return ::poll(&end, 1, 0) != 0;
@@ -68,7 +68,7 @@ void low_energy_port::follow_devices() {
         find_characteristics();
 }
 
-// BlueZ may keep the socket of a device that it knows well.
+// BlueZ may keep a known device's socket open.
 void low_energy_port::link_lost() {
     notified();
     end();
@@ -85,8 +85,8 @@ void low_energy_port::find_characteristics() {
     subscribe();
 }
 
-// By a socket rather than by signals: nobody else may subscribe meanwhile and take part of the
-// replies for theirs, and the subscription ends with the connection.
+// AcquireNotify rather than StartNotify: no other program can subscribe and receive some of the
+// replies, and the subscription ends with the connection.
 void low_energy_port::subscribe() {
     QDBusMessage message = bluez_call(port_->notifies, CHARACTERISTIC_INTERFACE, "AcquireNotify");
     message << QVariantMap();
@@ -141,7 +141,7 @@ void low_energy_port::hand_over() {
         ::shutdown(ours_, SHUT_RDWR);
 }
 
-// One piece at a time: the socket keeps the rest until the adapter, or BlueZ, has taken it.
+// One piece at a time; the rest waits in the socket until this one has been accepted.
 void low_energy_port::program_wrote() {
     written_->setEnabled(false);
     std::array<char, LARGEST_MTU> bytes;
@@ -155,7 +155,7 @@ void low_energy_port::program_wrote() {
                                                         : QStringLiteral("command")}};
     when_answered(
         this, devices_.bus().asyncCall(message, write_ms_), [this](const QDBusMessage& reply) {
-            if (is_error(reply)) { // part of a command is worse than none
+            if (is_error(reply)) { // half a command is worse than none
                 qCInfo(log_platform, "Low Energy write: %s: %s", qUtf8Printable(reply.errorName()),
                        qUtf8Printable(reply.errorMessage()));
                 end();

@@ -1,6 +1,6 @@
-// A device's serial port over Low Energy: connects by BlueZ, finds the two characteristics,
-// subscribes, and carries bytes between them and a socket, so that the channel sees a socket as
-// with classic Bluetooth. Lives as long as the channel.
+// A serial port over Low Energy: connects through BlueZ, finds the two characteristics, subscribes,
+// and forwards bytes between them and a socket, so that the channel sees a socket as with classic
+// Bluetooth. Lives as long as the channel.
 #pragma once
 
 #include "bluez_devices.h"
@@ -18,23 +18,24 @@ class QDBusMessage;
 class low_energy_port final : public QObject {
     Q_OBJECT
   public:
-    // Begins at once, but tells nothing from inside. `device`: BlueZ's object.
+    // Starts immediately; signals come later. `device`: BlueZ's object path.
     low_energy_port(bluez_devices& devices, QString device, int write_ms = WRITE_MS);
     ~low_energy_port() override;
 
-    static constexpr int SETTLE_MS = 2'000; // for the characteristics, once they are all known
-    static constexpr int WRITE_MS = 10'000; // an adapter may leave a request without a response
+    static constexpr int SETTLE_MS =
+        2'000; // for the characteristics, once the services are resolved
+    static constexpr int WRITE_MS = 10'000; // some adapters never respond to a write request
     static constexpr qsizetype MOST_UNREAD = 1 << 20;
 
-    // The device has told its services.
-    bool asked() const { return port_.has_value(); }
-    // The program's end of the socket, once; -1 when there is none. The port's end is shut when the
-    // connection is lost or a write fails, behind what was received.
+    // The characteristics have been found.
+    bool has_port() const { return port_.has_value(); }
+    // The program's end of the socket, once, or -1. The other end is shut down when the connection
+    // is lost or a write fails, after everything received has been read.
     int take_descriptor();
 
   Q_SIGNALS:
     void opened();
-    void failed(const QDBusMessage& reply); // an error
+    void failed(const QDBusMessage& error);
 
   private:
     void follow_devices();
@@ -54,9 +55,9 @@ class low_energy_port final : public QObject {
     QTimer settle_;
     bool connected_ = false;
     bool ended_ = false;
-    int notifications_ = -1; // one message each
+    int notifications_ = -1; // a message per notification
     int ours_ = -1, theirs_ = -1;
     std::size_t piece_ = 0; // bytes that fit into one write
-    QByteArray unread_;     // received, and no room in the socket
+    QByteArray unread_;     // received, but the socket is full
     std::unique_ptr<QSocketNotifier> received_, written_, room_;
 };

@@ -88,7 +88,7 @@ void tcp_stream_pair::disconnected() {
 }
 
 void tcp_stream_pair::close() {
-    listen_no_more();
+    stop_listening();
     socket_.disconnect(this);
     socket_.abort();
 }

@@ -9,7 +9,7 @@ namespace {
 constexpr qint64 READ_BUFFER = 256 * 1024; // a flood waits in the kernel, not in our memory
 }
 
-serial_failure qt_serial_line::open(const std::string& path, listener told) {
+serial_failure qt_serial_line::open(const std::string& path, listener events) {
     if (serial_failure refused = problem_of_path(path); refused.problem != serial_problem::none)
         return refused;
     path_ = path;
@@ -21,8 +21,8 @@ serial_failure qt_serial_line::open(const std::string& path, listener told) {
             return {serial_problem::busy};
         return {serial_problem::other, port_.errorString().toStdString()};
     }
-    told_ = std::move(told);
-    connect(&port_, &QSerialPort::readyRead, this, [this] { told_.readable(); });
+    events_ = std::move(events);
+    connect(&port_, &QSerialPort::readyRead, this, [this] { events_.readable(); });
     connect(&port_, &QSerialPort::errorOccurred, this, &qt_serial_line::failed,
             Qt::QueuedConnection); // may be emitted inside an operation
     return {};
@@ -65,10 +65,10 @@ void qt_serial_line::failed(QSerialPort::SerialPortError error) {
                       error == QSerialPort::WriteError;
     if (!gone || !port_.isOpen())
         return;
-    // An open file would keep its name from an adapter that is plugged in again.
+    // While the file is open, an adapter plugged in again gets another name.
     left_ = port_.readAll();
     port_.close();
-    told_.lost();
+    events_.lost();
 }
 
 void qt_serial_line::close() {

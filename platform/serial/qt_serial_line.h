@@ -11,7 +11,7 @@
 class qt_serial_line final : public QObject, public serial_line {
     Q_OBJECT
   public:
-    serial_failure open(const std::string& path, listener told) override;
+    serial_failure open(const std::string& path, listener events) override;
     bool set_speed(long baud) override;
     std::string read(std::size_t most) override;
     bool more_to_read() const override;
@@ -25,8 +25,8 @@ class qt_serial_line final : public QObject, public serial_line {
     std::string path_;
     QSerialPort port_;
     QByteArray left_; // unread bytes of a lost port
-    listener told_;
+    listener events_;
 };
 
-// Ports of cables first.
+// USB ports first.
 std::vector<serial_port_entry> list_serial_ports();

@@ -13,12 +13,12 @@ class serial_line {
     // Called from the event loop, never from inside an operation.
     struct listener {
         std::function<void()> readable;
-        std::function<void()> lost; // nothing more will come than can be read now
+        std::function<void()> lost; // what can be read now is the last
     };
 
     virtual ~serial_line() = default;
 
-    virtual serial_failure open(const std::string& path, listener told) = 0;
+    virtual serial_failure open(const std::string& path, listener events) = 0;
     // Discards what came at the previous speed. False: the port does not support it.
     virtual bool set_speed(long baud) = 0;
     // At most `most` bytes received so far.

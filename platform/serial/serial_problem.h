@@ -1,4 +1,4 @@
-// Why a serial port does not work, as far as the user can do something about it.
+// Why a serial port does not work, as far as the user can act on it.
 #pragma once
 
 #include <filesystem>
@@ -11,7 +11,7 @@ enum class serial_problem {
     not_chosen,
     not_there,
     taken,         // another service has the cable, and its port has gone
-    not_permitted, // `detail` is the group that may
+    not_permitted, // `detail` is the group that has access
     busy,
     silent, // no adapter answers; `detail` is the speeds
     other   // `detail` is the system's words
@@ -22,14 +22,14 @@ struct serial_failure {
     std::string detail{};
 };
 
-// A sentence for the user, with what to do, in the user's language.
+// What happened and what to do, in the user's language.
 std::string problem_text(const serial_failure& failure, const bundle& texts,
                          const std::string& path);
 
-// The failure of opening `path` due to a missing file or permission. A missing port is taken if a
-// program drives the cable's chip itself; the kernel lists these in `own_drivers`.
+// Why `path` cannot be opened: missing, or no permission. A missing port counts as taken if some
+// program drives the cable's chip directly; the kernel lists these in `own_drivers`.
 serial_failure
 problem_of_path(const std::string& path,
                 const std::filesystem::path& own_drivers = "/sys/bus/usb/drivers/usbfs");
-// The same for a path that cannot be used, with the mode and group of its file.
+// The same for a file with this mode and group.
 serial_failure refused_by(unsigned mode, unsigned group);

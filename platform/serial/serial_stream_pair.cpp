@@ -8,26 +8,25 @@
 
 namespace {
 
-// Most adapters answer the first with "?". Some only answer a command that they know.
+// Most adapters answer the first with "?"; some answer only a command they know.
 struct question {
     std::string_view text;
     run_loop::milliseconds patience;
 };
 constexpr question QUESTIONS[] = {{"\x7f\x7f\r", run_loop::milliseconds(500)},
                                   {"AT I\r", run_loop::milliseconds(1000)}};
-// Anything else under way arrives within this time.
+// Whatever is still on its way arrives within this time.
 constexpr run_loop::milliseconds QUIET{100};
 constexpr std::size_t PIECE = 1024;
 constexpr std::size_t LONGEST_ANSWER = 4096; // endless output is not an answer
 
-// Plain text up to a prompt. At a wrong speed, bytes do not stay plain for long.
-bool is_answer(std::string_view heard) {
+// Plain text up to a prompt; at a wrong speed bytes are soon not plain.
+bool is_answer(std::string_view text) {
     const auto plain = [](char c) {
         return (c >= ' ' && c <= '~') || c == '\r' || c == '\n' || c == '\0' || c == '\x7f';
     };
-    const std::size_t last = heard.find_last_not_of(std::string_view(" \r\n\0", 4));
-    return last != std::string_view::npos && heard[last] == '>' &&
-           std::ranges::all_of(heard, plain);
+    const std::size_t last = text.find_last_not_of(std::string_view(" \r\n\0", 4));
+    return last != std::string_view::npos && text[last] == '>' && std::ranges::all_of(text, plain);
 }
 
 std::string listed(const std::vector<long>& speeds) {
@@ -66,7 +65,7 @@ void serial_stream_pair::try_next_speed() {
 }
 
 void serial_stream_pair::ask(std::size_t question) {
-    heard_.clear();
+    answer_.clear();
     answered_ = false;
     line_->write(QUESTIONS[question].text);
     patience_ = loop_.after(QUESTIONS[question].patience, [this, question] {
@@ -77,12 +76,12 @@ void serial_stream_pair::ask(std::size_t question) {
     });
 }
 
-void serial_stream_pair::hear_answer() {
+void serial_stream_pair::take_answer() {
     while (line_->more_to_read())
-        if (const std::string piece = line_->read(PIECE); heard_.size() < LONGEST_ANSWER)
-            heard_ += piece;
-    answered_ = answered_ || is_answer(heard_);
-    if (!answered_ || heard_.size() >= LONGEST_ANSWER)
+        if (const std::string piece = line_->read(PIECE); answer_.size() < LONGEST_ANSWER)
+            answer_ += piece;
+    answered_ = answered_ || is_answer(answer_);
+    if (!answered_ || answer_.size() >= LONGEST_ANSWER)
         return;
     loop_.cancel(patience_);
     patience_ = loop_.after(QUIET, [this] { opened(); });
@@ -96,7 +95,7 @@ void serial_stream_pair::opened() {
 
 void serial_stream_pair::readable() {
     if (state_ == state::asking)
-        hear_answer();
+        take_answer();
     else if (state_ == state::open)
         raise_bytes();
 }
@@ -121,7 +120,7 @@ void serial_stream_pair::fail(const serial_failure& why) {
 }
 
 void serial_stream_pair::close() {
-    listen_no_more();
+    stop_listening();
     loop_.cancel(patience_);
     line_->close();
     state_ = state::closed;

@@ -1,9 +1,9 @@
 // The stream pair over a serial port. It is open once an adapter has answered: at the given speed,
 // else at the first usual one that works.
 //
-// What is sent to find out is not a command. At a wrong speed it never reads as a carriage return,
-// so it has no effect; at the right one it invalidates a half-typed command and interrupts a
-// running one, which the adapter also answers with a prompt.
+// The probe is not a command. At a wrong speed it never reads as a carriage return, so it has no
+// effect; at the right one it voids a half-typed command and interrupts a running one, and the
+// adapter answers with a prompt.
 #pragma once
 
 #include "line_stream_pair.h"
@@ -32,7 +32,7 @@ class serial_stream_pair final : public line_stream_pair {
     bool more_to_take() const override { return line_->more_to_read(); }
     void try_next_speed();
     void ask(std::size_t question);
-    void hear_answer();
+    void take_answer();
     void opened();
     void readable();
     void lost();
@@ -43,7 +43,7 @@ class serial_stream_pair final : public line_stream_pair {
     std::string path_;
     std::vector<long> speeds_;
     std::size_t tried_ = 0;
-    std::string heard_; // since the last probe
+    std::string answer_; // since the last probe
     bool answered_ = false;
     run_loop::timer_id patience_ = 0;
     state state_ = state::closed;

@@ -11,7 +11,7 @@ class QPagedPaintDevice;
 enum class paper_size { a4, letter };
 inline constexpr double PAPER_MARGIN_MM = 15;
 
-// By the user's country.
+// By the user's locale.
 paper_size usual_paper();
 
 void print_sheet(QPagedPaintDevice& device, const report_sheet& sheet);

@@ -71,16 +71,17 @@ std::optional<std::string> read_whole(const std::string& path, std::string& why)
 
 std::string usual_name(const car_report& report) {
     std::string name = "report_" + (report.vin.empty() ? "" : report.vin + "_") +
-                       report.heard.read_at.substr(0, 10);
+                       report.transcript.read_at.substr(0, 10);
     std::ranges::replace_if(
         name, [](unsigned char c) { return !std::isalnum(c) && c != '-' && c != '_'; }, 'x');
     return name;
 }
 
 conversation new_conversation() {
-    conversation heard;
+    conversation transcript;
     const QDateTime now = QDateTime::currentDateTime();
-    heard.read_at = now.toOffsetFromUtc(now.offsetFromUtc()).toString(Qt::ISODate).toStdString();
-    heard.program = "Kestrom " KESTROM_VERSION;
-    return heard;
+    transcript.read_at =
+        now.toOffsetFromUtc(now.offsetFromUtc()).toString(Qt::ISODate).toStdString();
+    transcript.program = "Kestrom " KESTROM_VERSION;
+    return transcript;
 }

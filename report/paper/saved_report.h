@@ -16,7 +16,7 @@ std::optional<rendering> rendering_named(const std::string& path);
 QByteArray rendered(const car_report& report, const report_sheet& sheet, rendering as,
                     paper_size paper);
 
-// The reason when it failed; what was there before then stays.
+// Returns the reason on failure; an existing file then stays as it was.
 std::optional<std::string> write_whole(const std::string& path, const QByteArray& bytes);
 // Nothing, with the reason, if the file cannot be read.
 std::optional<std::string> read_whole(const std::string& path, std::string& why);
@@ -25,5 +25,5 @@ std::optional<std::string> read_whole(const std::string& path, std::string& why)
 // accepts.
 std::string usual_name(const car_report& report);
 
-// "2026-11-22T18:04:07+01:00" of now, and the program's name with its version.
+// The current time, "2026-11-22T18:04:07+01:00"; the program's name and version.
 conversation new_conversation();

@@ -7,7 +7,7 @@
         <source></source>
         <translation>Kestrom reads your car's on-board diagnostics (OBD-II) through an ELM327-type adapter.
 
-Connect: plug the adapter into the car's diagnostic port, usually below the steering wheel, and switch the ignition on. For a Wi-Fi adapter, join the adapter's own wireless network first, then choose Wi-Fi in Preferences and enter its address and port (most use 192.168.0.10 and 35000). For a Bluetooth adapter, choose Bluetooth; the first task you start asks which device to use. For a cable, choose its port. Wi-Fi and cables are fast, Bluetooth is slower, Bluetooth Low Energy slowest; the tooltips of the choices tell what each needs, and what to do when it fails.
+Connect: plug the adapter into the car's diagnostic port, usually below the steering wheel, and switch the ignition on. For a Wi-Fi adapter, join the adapter's own wireless network first, then choose Wi-Fi in Preferences and enter its address and port (most use 192.168.0.10 and 35000). For a Bluetooth adapter, choose Bluetooth; the first task you start asks which device to use. For a cable, choose its port. Wi-Fi and cables are fast, Bluetooth is slower, Bluetooth Low Energy slowest; the tooltips of the choices say what each needs, and what to do when it fails.
 
 Trouble codes: “Read codes” shows the stored codes with their meaning, the malfunction lamp and the readiness monitors. “Clear codes” erases the codes, switches the lamp off and resets the monitors; do it with the engine off, and only after writing the codes down.
 
@@ -91,7 +91,7 @@ Please check:
     </message>
     <message id="serial_taken">
         <source></source>
-        <translation>%1 has gone: another service has taken the adapter's cable. Mostly it is brltty, for Braille displays. If nobody needs it, type “sudo apt remove brltty” in a terminal and plug the adapter in again.</translation>
+        <translation>%1 has gone: another service has taken the adapter's cable. Usually it is brltty, for Braille displays. If you do not need it, type “sudo apt remove brltty” in a terminal and plug the adapter in again.</translation>
     </message>
     <message id="serial_not_permitted">
         <source></source>
@@ -99,7 +99,7 @@ Please check:
     </message>
     <message id="serial_busy">
         <source></source>
-        <translation>Another program has %1 open. Close it, and try again. ModemManager lets go by itself within half a minute.</translation>
+        <translation>Another program has %1 open. Close it, and try again. ModemManager releases it by itself within half a minute.</translation>
     </message>
     <message id="serial_silent">
         <source></source>
@@ -365,11 +365,11 @@ N/A: this car does not have this monitor</translation>
     </message>
     <message id="ui_fast_hint">
         <source></source>
-        <translation>Asks for several values at once and waits no longer than needed, as far as adapter and car prove that they can. Some cars do not like it: switch it off when lamps come on or the engine runs unevenly. Counts from the next start of a run.</translation>
+        <translation>Requests several values at once and waits no longer than needed, as far as the adapter and the car prove able to. Some cars do not like it: switch it off if lamps come on or the engine runs unevenly. Takes effect when a run is next started.</translation>
     </message>
     <message id="ui_fast_no_use">
         <source></source>
-        <translation>This car answers no faster than it is asked already.</translation>
+        <translation>This car cannot answer any faster.</translation>
     </message>
     <message id="ui_fast_rate">
         <source></source>
@@ -377,7 +377,7 @@ N/A: this car does not have this monitor</translation>
     </message>
     <message id="ui_fast_rate_hint">
         <source></source>
-        <translation>Values a second, and how they are asked for</translation>
+        <translation>Values per second, and how they are requested</translation>
     </message>
     <message id="ui_fast_level_0">
         <source></source>
@@ -397,11 +397,11 @@ N/A: this car does not have this monitor</translation>
     </message>
     <message id="ui_fast_level_down">
         <source></source>
-        <translation>Replies did not fit: fast sampling goes on more carefully</translation>
+        <translation>Replies did not match: fast sampling continues more carefully</translation>
     </message>
     <message id="ui_fast_given_up">
         <source></source>
-        <translation>Replies did not fit: sampling goes on one value at a time</translation>
+        <translation>Replies did not match: sampling continues one value at a time</translation>
     </message>
     <message id="ui_live_follow">
         <source></source>
@@ -489,7 +489,7 @@ N/A: this car does not have this monitor</translation>
     </message>
     <message id="ui_serial_auto">
         <source></source>
-        <translation>found by trying</translation>
+        <translation>automatic</translation>
     </message>
     <message id="ui_serial_absent">
         <source></source>
@@ -501,7 +501,7 @@ N/A: this car does not have this monitor</translation>
     </message>
     <message id="ui_kind_bluetooth">
         <source></source>
-        <translation>Needs nothing but the adapter; pair it here or in the desktop's settings. Speed: middling, lower with Low Energy. When it fails: unplug it, plug it in, and see that no phone has it.</translation>
+        <translation>Needs only the adapter; pair it here or in the desktop's settings. Speed: moderate, lower with Low Energy. When it fails: unplug it, plug it in, and make sure that no phone is connected to it.</translation>
     </message>
     <message id="ui_kind_wifi">
         <source></source>
@@ -509,7 +509,7 @@ N/A: this car does not have this monitor</translation>
     </message>
     <message id="ui_kind_serial">
         <source></source>
-        <translation>Needs a free port and the right to use it. Speed: good, at most that of the cable. When it fails: plug the cable in again; the message tells who has the port or which group may use it.</translation>
+        <translation>Needs a free port and the right to use it. Speed: good, at most that of the cable. When it fails: plug the cable in again; the message says who has the port or which group may use it.</translation>
     </message>
     <message id="ui_address">
         <source></source>
@@ -793,7 +793,7 @@ Log in at the computer itself, or ask its administrator to add you to the group 
     </message>
     <message id="bt_no_chooser">
         <source></source>
-        <translation>No Bluetooth adapter was chosen. Name one with --bluetooth ADDRESS (kestrom bluetooth-scan lists those in reach) a Wi-Fi adapter with --adapter HOST:PORT, or a cable with --adapter /dev/ttyUSB0; --demo needs none.</translation>
+        <translation>No Bluetooth adapter was chosen. Name one with --bluetooth ADDRESS (kestrom bluetooth-scan lists those in range), a Wi-Fi adapter with --adapter HOST:PORT, or a cable with --adapter /dev/ttyUSB0; --demo needs none.</translation>
     </message>
     <message id="ui_menu_about">
         <source></source>
@@ -1032,7 +1032,7 @@ Free software under the MIT licence.
     </message>
     <message id="report_not_told">
         <source></source>
-        <translation>not told</translation>
+        <translation>not reported</translation>
     </message>
     <message id="report_refused">
         <source></source>
@@ -1108,7 +1108,7 @@ Free software under the MIT licence.
     </message>
     <message id="report_vins_differ">
         <source></source>
-        <translation>The units tell different numbers: %1</translation>
+        <translation>The units report different numbers: %1</translation>
     </message>
     <message id="report_read_at">
         <source></source>
@@ -1224,7 +1224,7 @@ Free software under the MIT licence.
     </message>
     <message id="report_col_near">
         <source></source>
-        <translation>Way to the limit</translation>
+        <translation>Limit used</translation>
     </message>
     <message id="report_col_done">
         <source></source>
@@ -1404,7 +1404,7 @@ Free software under the MIT licence.
     </message>
     <message id="report_nothing_unread">
         <source></source>
-        <translation>Everything that was asked for was told.</translation>
+        <translation>Everything that was requested was reported.</translation>
     </message>
     <message id="report_other_car">
         <source></source>
@@ -1412,7 +1412,7 @@ Free software under the MIT licence.
     </message>
     <message id="report_no_changes">
         <source></source>
-        <translation>Nothing that both reports tell has changed.</translation>
+        <translation>Nothing that both reports contain has changed.</translation>
     </message>
     <message id="ui_rail_report">
         <source></source>
@@ -1492,7 +1492,7 @@ Free software under the MIT licence.
     </message>
     <message id="report_starting">
         <source></source>
-        <translation>Bringing up the adapter</translation>
+        <translation>Initialising the adapter</translation>
     </message>
     <message id="report_progress">
         <source></source>
@@ -1500,11 +1500,11 @@ Free software under the MIT licence.
     </message>
     <message id="report_topic_adapter">
         <source></source>
-        <translation>what the adapter says</translation>
+        <translation>adapter data</translation>
     </message>
     <message id="report_topic_supported">
         <source></source>
-        <translation>what the units offer</translation>
+        <translation>supported data</translation>
     </message>
     <message id="report_topic_status">
         <source></source>
@@ -1536,11 +1536,11 @@ Free software under the MIT licence.
     </message>
     <message id="report_done_partly">
         <source></source>
-        <translation>The report has been read. What was not told stands at its end.</translation>
+        <translation>The report has been read. What is missing is listed at its end.</translation>
     </message>
     <message id="report_nothing_told">
         <source></source>
-        <translation>The car told nothing.</translation>
+        <translation>The car reported nothing.</translation>
     </message>
     <message id="report_cancelled">
         <source></source>
@@ -1568,7 +1568,7 @@ Free software under the MIT licence.
     </message>
     <message id="ui_report_before_clear_hint">
         <source></source>
-        <translation>Clearing also erases freeze frames and test results. The report that was read holds them.</translation>
+        <translation>Clearing also erases freeze frames and test results. The report contains them.</translation>
     </message>
     <message id="ui_report_go_on">
         <source></source>
@@ -1576,7 +1576,7 @@ Free software under the MIT licence.
     </message>
     <message id="report_none_so_far">
         <source></source>
-        <translation>none, as far as told</translation>
+        <translation>none, as far as reported</translation>
     </message>
     <message id="ui_report_save_first">
         <source></source>
@@ -1588,7 +1588,7 @@ Free software under the MIT licence.
     </message>
     <message id="report_off_so_far">
         <source></source>
-        <translation>off, as far as told</translation>
+        <translation>off, as far as reported</translation>
     </message>
     <message id="report_why_put_off">
         <source></source>

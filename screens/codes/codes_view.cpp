@@ -131,7 +131,7 @@ void codes_view::build_tables(QVBoxLayout* column) {
     codesReadTableView_->setModel(codes_model_);
     codesReadTableView_->setAccessibleName(ui_text(delegate_, "ui_codes_table"));
     codesReadTableView_->setToolTip(ui_text(delegate_, "ui_codes_table_hint"));
-    let_rows_be_copied(codesReadTableView_, ui_text(delegate_, "ui_copy_rows"));
+    make_rows_copyable(codesReadTableView_, ui_text(delegate_, "ui_copy_rows"));
     auto* to_report = new QAction(ui_text(delegate_, "ui_codes_to_report"), codesReadTableView_);
     to_report->setObjectName(QStringLiteral("codesToReport"));
     QObject::connect(to_report, &QAction::triggered, root(), [this] { delegate_.do_report(); });
@@ -249,8 +249,8 @@ void codes_view::show_result(const unread_pieces& unread, bool none_counted) {
     const bool none = unread.empty() && none_counted;
     no_codes_->setText(ui_text(delegate_, none ? "ui_codes_none" : "ui_codes_unread"));
     const std::string causes = unread_causes(delegate_.doors().resources, unread);
-    const QString told = ui_text(delegate_, "ui_unread").arg(display_text(causes));
-    unread_->setText(told);
-    unread_->setAccessibleName(told);
+    const QString warning = ui_text(delegate_, "ui_unread").arg(display_text(causes));
+    unread_->setText(warning);
+    unread_->setAccessibleName(warning);
     unread_->setVisible(!unread.empty());
 }

@@ -44,7 +44,7 @@ void readCodes::forget_last_reading() {
     readinessFlagsArray.clear();
     unread_.clear();
     no_of_codes = 0;
-    status_told_ = count_known_ = codes_told_ = false;
+    status_reported_ = count_known_ = codes_reported_ = false;
     status_bus_ = bus_form::unknown;
     view_->show_codes(codesReadArray);
     view_->show_readiness(readinessFlagsArray);
@@ -56,8 +56,8 @@ void readCodes::readCodes_clicked() {
     start_task(TASK_READ_CODES, "Starting Read Codes");
 }
 
-// Clearing takes with it most of what a report holds. Only one that was read over this link is
-// offered, and none is read for it. False when it was to be saved and was not.
+// Clearing erases most of what a report shows: offers to save an unsaved one that was read over
+// this link. False if the user chose to save it and it was not saved.
 bool readCodes::report_is_safe() {
     const kept_report& kept = last_report();
     if (!kept.report || kept.saved || kept.link != KS_delegate.link_number() ||
@@ -69,7 +69,7 @@ bool readCodes::report_is_safe() {
     offer.buttons = {localized("ui_report_save_first"), localized("ui_report_go_on")};
     if (KS_delegate.doors().message_boxes.show(offer) != 0)
         return true;
-    const car_report report = report_to_give(KS_delegate, toolies);
+    const car_report report = report_to_export(KS_delegate, toolies);
     last_report().saved = save_sheet(KS_delegate, view(), report,
                                      sheet_of(report, KS_delegate.doors().resources), false);
     return last_report().saved;
@@ -94,7 +94,7 @@ void readCodes::start_task(int task, const std::string& status) {
     g_cur_mode = task;
     next_step_idx = 0;
     succeeded_ = false;
-    longer_timeout_asked_for_ = false;
+    longer_timeout_requested_ = false;
     headers_repeated_ = 0;
     begin_task();
     set_status_msg(status);
@@ -146,7 +146,7 @@ codes_report readCodes::report() const {
     found.lamp = view_->lamp();
     if (count_known_)
         found.count = no_of_codes;
-    found.codes_told = codes_told_;
+    found.codes_reported = codes_reported_;
     found.unread = unread_;
     found.read_on = view_->read_on();
     found.interface = trimmed(std::string_view(g_cur_interface), " \r\n>");

@@ -27,7 +27,7 @@ struct codes_report {
     std::string interface;
     std::string protocol;
     int ecus = 0;
-    bool codes_told = false; // the car reported the list; complete if nothing is unread
+    bool codes_reported = false; // the car reported the list; complete if nothing is unread
     unread_pieces unread;
     std::vector<code_row> codes;
     std::vector<readiness_flag> readiness;
@@ -92,12 +92,12 @@ class readCodes final : public obd_screen {
 
     int units_answered_ = 0;
     std::string status_reply_;                // without blanks
-    bool status_told_ = false;                // a unit answered "01 01" in this task
-    bool count_known_ = false;                // and so did all others, as far as known
+    bool status_reported_ = false;            // a unit answered "01 01" in this task
+    bool count_known_ = false;                // and so did all other known units
     bus_form status_bus_ = bus_form::unknown; // by its headers
     unread_pieces unread_;                    // of this task's replies
-    bool codes_told_ = false;
-    bool longer_timeout_asked_for_ = false; // "AT ST FF" is tried once per task
+    bool codes_reported_ = false;
+    bool longer_timeout_requested_ = false; // "AT ST FF" is tried once per task
     int headers_repeated_ = 0;
     bool succeeded_ = false;
 };

@@ -103,8 +103,8 @@ void readCodes::status_answered() {
     const std::string reply = handshake_.check_initial_car_reply();
     if (contains(reply, REPLY_REJECTED))
         return end_task();
-    if (contains(reply, "NO DATA") && g_retries <= 0 && !longer_timeout_asked_for_) {
-        longer_timeout_asked_for_ = true;
+    if (contains(reply, "NO DATA") && g_retries <= 0 && !longer_timeout_requested_) {
+        longer_timeout_requested_ = true;
         ++g_retries;
         g_obd_msg_state = S_WAITING;
         // Sets the adapter's longest wait, then repeats everything.
@@ -119,8 +119,8 @@ void readCodes::status_answered() {
 void readCodes::decode_status() {
     const car_status status = read_status(odb_curReplyMsg, g_status_units);
     status_reply_ = without(odb_curReplyMsg, " ");
-    status_told_ = status.told;
-    count_known_ = status.told && status.all_read;
+    status_reported_ = status.reported;
+    count_known_ = status.reported && status.all_read;
     status_bus_ = status.bus;
     no_of_codes = status.codes;
     p_cur_01_pid = std::string_view(status.monitors);
@@ -134,7 +134,7 @@ void readCodes::decode_status() {
     for (const unread_piece& one : status.unread)
         if (one.kind != unread_kind::no_answer) // shown as "N/A"
             unread_.push_back(one);
-    // Asked anew at the next reading: the unit may be gone, or have been a damaged header.
+    // The next reading repeats the handshake: the unit may be gone, or was only a damaged header.
     if (std::ranges::count(unread_, unread_kind::silent_unit, &unread_piece::kind) > 0)
         connected_2_KS_interface = false;
 }
@@ -144,10 +144,10 @@ std::vector<std::string> readCodes::work_reply_to_error_codes_pid(std::string_vi
     codes_reading read =
         read_codes(mode, this_reply, bus_known_by(status_bus_, g_bus_form, g_cur_protocol),
                    count_known_ ? std::optional(no_of_codes) : std::nullopt);
-    // Old cars say so when nothing is stored; but not those that have just counted codes.
-    if (read.no_data && (!status_told_ || no_of_codes > 0))
+    // Old cars answer NO DATA if nothing is stored, but not after they have counted codes.
+    if (read.no_data && (!status_reported_ || no_of_codes > 0))
         read.unread.push_back({unread_kind::no_answer, {}});
-    // A unit that tells its status only now was cut off by the adapter, and may have been so again.
+    // A status that arrives only now was cut off before, so the codes may have been cut off too.
     for (const std::string& late : read.others)
         if (late.starts_with("4101") && !contains(status_reply_, late))
             read.unread.push_back({unread_kind::no_answer, {}});
@@ -171,7 +171,7 @@ void readCodes::codes_answered() {
         codesReadArray.push_back({code, look_upCode(code, P0_Codes)});
         qCDebug(log_screens, "%s - %s", code.c_str(), codesReadArray.back()[1].c_str());
     }
-    codes_told_ = true;
+    codes_reported_ = true;
     view_->show_codes(codesReadArray, units_rcvd);
     set_status_msg("Rerieve codes successfully");
     refresh_readiness();

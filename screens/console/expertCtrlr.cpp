@@ -112,14 +112,14 @@ void expertCtrlr::handle_a_send() {
         set_status_msg(localized("ui_command_too_long"));
         return;
     }
-    asked_to_send_ = true;
+    send_requested_ = true;
     recall_->remember(cmdTxt->text());
     append_echo(command);
     cmdTxt->selectAll();
     cmdTxt->setFocus();
     if (!KS_delegate.openInterfaceConnection()) {
         // The transport calls work_current_task if the link comes up.
-        asked_to_send_ = KS_delegate.link_coming_up();
+        send_requested_ = KS_delegate.link_coming_up();
         return;
     }
     set_status_msg("");
@@ -130,7 +130,7 @@ void expertCtrlr::work_current_task() {
     const std::string command = cmdTxt->text().toStdString();
     // The link may come up for a task of another screen. A lone carriage return would make the
     // adapter repeat its last command.
-    if (!asked_to_send_ || command.empty() || command.size() > LONGEST_CONSOLE_COMMAND)
+    if (!send_requested_ || command.empty() || command.size() > LONGEST_CONSOLE_COMMAND)
         return;
     waity->show();
     if (!KS_delegate.adapter_changed()) {
@@ -138,15 +138,15 @@ void expertCtrlr::work_current_task() {
         return;
     }
     // A fast run has left headers on and blanks off.
-    KS_delegate.put_adapter_back([this, command](bool) {
-        if (asked_to_send_)
+    KS_delegate.restore_adapter([this, command](bool) {
+        if (send_requested_)
             sendOBDcmd(command + "\r");
     });
 }
 
 void expertCtrlr::handleOBDRcvdMsg(const std::string& text) {
     qCDebug(log_screens, "expertC:handleOBDRcvdMsg got the stuff%s", text.c_str());
-    if (KS_delegate.puts_adapter_back())
+    if (KS_delegate.restoring_adapter())
         return;
     if (takes_time_out(text))
         return; // the indicator stays until the next reply
@@ -158,7 +158,7 @@ void expertCtrlr::handleOBDRcvdMsg(const std::string& text) {
 
 // A request is not sent over another link.
 void expertCtrlr::leave_cur_op_gracefully(const std::string&) {
-    asked_to_send_ = false;
+    send_requested_ = false;
     waity->hide();
 }
 
@@ -178,9 +178,9 @@ void expertCtrlr::append_reply(const std::string& chunk) {
     format.setFont(replyTxt->font());
     const std::string whole = half_letter_ + chunk;
     std::string_view text = whole;
-    if (ended_in_return_ && text.starts_with('\n')) // a line end split between chunks
+    if (ended_with_return_ && text.starts_with('\n')) // a line end split between chunks
         text.remove_prefix(1);
-    ended_in_return_ = whole.ends_with('\r');
+    ended_with_return_ = whole.ends_with('\r');
     half_letter_ = text.substr(text.size() - unfinished_letter(text));
     text.remove_suffix(half_letter_.size());
     append(replyTxt, display_text(text), format);

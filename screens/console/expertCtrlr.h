@@ -44,7 +44,7 @@ class expertCtrlr final : public obd_screen {
     QPlainTextEdit* replyTxt = nullptr;
     busy_indicator* waity = nullptr;
     std::unique_ptr<command_recall> recall_;
-    bool asked_to_send_ = false;
-    bool ended_in_return_ = false;
+    bool send_requested_ = false;
+    bool ended_with_return_ = false;
     std::string half_letter_; // from the end of the last chunk
 };

@@ -126,7 +126,7 @@ void actions::build_views(const std::vector<std::string>& pids) {
     pictures_.rebuild(pids);
     set_chart_title(ALL_POINTS);
     pictures_.set_points_shown(-1);
-    put_first_dial_back();
+    reset_first_dial();
     view_->reset_zoom();
     view_->set_thumbnails(names);
     frames_.request();
@@ -285,9 +285,9 @@ void actions::leave_cur_op_gracefully(const std::string&) {
     end_task();
     show_fast();
     if (KS_delegate.adapter_changed())
-        sampling_.put_adapter_back();
-    if (const auto told = std::exchange(scan_ended_, nullptr))
-        told();
+        sampling_.restore_adapter();
+    if (const auto done = std::exchange(scan_ended_, nullptr))
+        done();
 }
 
 void actions::link_lost() {
@@ -296,7 +296,7 @@ void actions::link_lost() {
         leave_cur_op_gracefully("");
 }
 
-void actions::fast_sampling_told(bool given_up) {
+void actions::fast_sampling_reduced(bool given_up) {
     constexpr run_loop::milliseconds STANDS{4000};
     set_status_msg(localized(given_up ? "ui_fast_given_up" : "ui_fast_level_down"));
     status_shown_ = KS_delegate.doors().loop.now() + STANDS; // before replies are shown again
@@ -314,7 +314,7 @@ void actions::choose_fast() {
     show_fast();
 }
 
-void actions::fast_sampling_is_no_use() {
+void actions::fast_sampling_gains_nothing() {
     fast_helps_ = false;
     show_fast();
 }
@@ -368,7 +368,7 @@ void actions::cellCicked() {
     cur_thumbs_selected = selected;
     choose_second_dial(selected, selected_before, shown_before);
     pictures_.set_large_chart(cur_pid_showing, cur_thumbs_selected);
-    put_first_dial_back();
+    reset_first_dial();
     pictures_.use_realtime_labels(samples().rows() < 3);
     frames_.request();
 }
@@ -382,8 +382,8 @@ bool actions::moves_first_dial() const {
     return follows || gauge_1_idx == cur_pid_showing;
 }
 
-void actions::put_first_dial_back() {
-    pictures_.put_dial_back(0, cur_pid_showing, moves_first_dial());
+void actions::reset_first_dial() {
+    pictures_.reset_dial(0, cur_pid_showing, moves_first_dial());
 }
 
 // A parameter's name, value with its unit, and range.
@@ -423,7 +423,7 @@ void actions::describe_pictures() {
 void actions::follow_the_chart(bool yes) {
     KS_delegate.doors().defaults.set_boolean(FOLLOW_CHART_KEY, yes);
     KS_delegate.doors().defaults.synchronize();
-    put_first_dial_back();
+    reset_first_dial();
     frames_.request();
 }
 
@@ -437,7 +437,7 @@ void actions::choose_second_dial(const std::set<int>& selected, std::size_t sele
             std::ranges::find_if(selected, [this](int tag) { return tag != cur_pid_showing; });
         gauge_2_idx = *other;
         view_->show_second_dial(true);
-        pictures_.put_dial_back(1, gauge_2_idx, true);
+        pictures_.reset_dial(1, gauge_2_idx, true);
     }
     if (selected.size() == 1) {
         view_->show_second_dial(false);
@@ -473,7 +473,7 @@ void actions::show_next_sensors() {
 }
 
 // During a run, no more often than it can be read.
-void actions::show_status_now_and_then() {
+void actions::show_status_throttled() {
     constexpr run_loop::milliseconds READING_TIME{100};
     const run_loop::milliseconds now = KS_delegate.doors().loop.now();
     if (!status_changed_)
@@ -488,7 +488,7 @@ void actions::show_status_now_and_then() {
 }
 
 void actions::draw_frame() {
-    show_status_now_and_then();
+    show_status_throttled();
     show_rate();
     if (!view_->root()->isVisible())
         return; // becoming visible resizes the panel, which requests a frame

@@ -94,7 +94,7 @@ class actions final : public obd_screen, private sampling_listener {
     void start_over_link();
     void choose_more_parameters();
     void set_chart_title(const std::string& title);
-    void put_first_dial_back();
+    void reset_first_dial();
     bool moves_first_dial() const;
     QString described(int index) const;
     void describe_pictures();
@@ -105,7 +105,7 @@ class actions final : public obd_screen, private sampling_listener {
     void choose_second_dial(const std::set<int>& selected, std::size_t selected_before,
                             int shown_before);
     void draw_frame();
-    void show_status_now_and_then();
+    void show_status_throttled();
 
     void work_task(int task, int step) override;
     adapter_handshake* handshake() override { return &handshake_; }
@@ -126,8 +126,8 @@ class actions final : public obd_screen, private sampling_listener {
     void reply_came(const std::string& reply) override;
     void sample_filed(int index, double value) override;
     void cycle_filed(std::size_t row) override;
-    void fast_sampling_told(bool given_up) override;
-    void fast_sampling_is_no_use() override;
+    void fast_sampling_reduced(bool given_up) override;
+    void fast_sampling_gains_nothing() override;
 
     std::unique_ptr<live_view> view_;
     live_pictures pictures_;

@@ -37,7 +37,7 @@ void sampling_loop::begin_fast() {
     fast_ = std::make_unique<fast_sampler>(pids, g_bus_form == bus_form::can, *most_a_second_);
     // A change of screen stops nothing: whatever comes next begins with the handshake, and that
     // with a reset.
-    screen_.KS_delegate.changed_adapter(fast_sampler::farewell());
+    screen_.KS_delegate.restore_later(fast_sampler::restoring_commands());
     fast_given_up_ = false;
     connected_2_KS_interface = KS_did_connect_2_car = false;
     ask_fast();
@@ -47,9 +47,9 @@ void sampling_loop::ask_fast() {
     if (fast_->finished()) {
         plain_pause_ = fast_->pause_afterwards();
         if (!fast_given_up_)
-            listener_.fast_sampling_is_no_use();
-        put_adapter_back();
-        goes_on_plainly_ = true;
+            listener_.fast_sampling_gains_nothing();
+        restore_adapter();
+        continue_plain_ = true;
         return;
     }
     const fast_sampler::question asked = fast_->next(screen_.KS_delegate.doors().loop.now());
@@ -111,7 +111,7 @@ void sampling_loop::take_fast_reply() {
         end_cycle();
     fast_given_up_ = fast_given_up_ || out.change == fast_sampler::news::given_up;
     if (out.change != fast_sampler::news::none)
-        listener_.fast_sampling_told(out.change == fast_sampler::news::given_up);
+        listener_.fast_sampling_reduced(out.change == fast_sampler::news::given_up);
     if (out.answer_is_missing) {
         screen_.KS_delegate.replies().answer_is_missing();
         screen_.when_adapter_is_free(STRAGGLER_BOUND, [this](bool) { ask_fast(); });
@@ -122,16 +122,16 @@ void sampling_loop::take_fast_reply() {
         complete_cycle();
 }
 
-void sampling_loop::put_adapter_back() {
+void sampling_loop::restore_adapter() {
     stop_timer();
     fast_.reset();
     next_step_idx = NOTHING;
-    screen_.KS_delegate.put_adapter_back([this](bool well) { adapter_put_back(well); });
+    screen_.KS_delegate.restore_adapter([this](bool well) { adapter_restored(well); });
 }
 
-void sampling_loop::adapter_put_back(bool well) {
+void sampling_loop::adapter_restored(bool well) {
     if (well)
         connected_2_KS_interface = KS_did_connect_2_car = true;
-    if (std::exchange(goes_on_plainly_, false))
+    if (std::exchange(continue_plain_, false))
         ask(requests_.front());
 }

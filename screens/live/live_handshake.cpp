@@ -41,9 +41,9 @@ std::string live_handshake::check_initial_car_reply() {
         return REPLY_REJECTED;
     }
     if (contains(reply, "UNABLE TO CONNECT")) {
-        const std::string told = screen_.localized("no_reply_from_car_MSG");
-        screen_.set_status_msg(told);
-        screen_.toolies.myMsgBox(told);
+        const std::string text = screen_.localized("no_reply_from_car_MSG");
+        screen_.set_status_msg(text);
+        screen_.toolies.myMsgBox(text);
         return REPLY_REJECTED;
     }
     // No test for "?" here: such a reply passes, and the step that reads it decides.

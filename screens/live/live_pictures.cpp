@@ -40,7 +40,7 @@ void live_pictures::rebuild(const std::vector<std::string>& pids) {
     cur_zoom_chart.use_this_pids(pids);
     set_large_chart(0, {});
     for (int i = 0; i < 2; ++i)
-        put_dial_back(i, 0, true);
+        reset_dial(i, 0, true);
     forget_samples();
 }
 
@@ -67,7 +67,7 @@ void live_pictures::select_thumbnail(int index, bool selected) {
     at.chart.set_thumb_selected(selected);
 }
 
-void live_pictures::put_dial_back(int which, int index, bool moves) {
+void live_pictures::reset_dial(int which, int index, bool moves) {
     dial& at = dials_[which];
     at.put_back = at.put_back || at.index != index;
     at.changed = true;

@@ -34,7 +34,7 @@ class live_pictures {
     void use_realtime_labels(bool yes) { realtime_labels_ = yes; }
     // The face of a dial, and whether that parameter's samples move its needle: otherwise the dial
     // is dimmed.
-    void put_dial_back(int dial, int index, bool moves);
+    void reset_dial(int dial, int index, bool moves);
 
     // A reply has been filed. NaN if it was unusable: the needle keeps its place and is greyed.
     void sample(int index, double value);

@@ -74,11 +74,11 @@ void more_parameters::build_list(QVBoxLayout* column) {
 }
 
 void more_parameters::build_foot(QVBoxLayout* column) {
-    told_ = new QLabel(this);
-    told_->setObjectName(QStringLiteral("supportTold"));
-    told_->setTextFormat(Qt::PlainText);
-    told_->setWordWrap(true);
-    column->addWidget(told_);
+    status_ = new QLabel(this);
+    status_->setObjectName(QStringLiteral("supportTold"));
+    status_->setTextFormat(Qt::PlainText);
+    status_->setWordWrap(true);
+    column->addWidget(status_);
     auto* buttons = new QDialogButtonBox(this);
     ask_ = buttons->addButton(ui_text(delegate_, "ui_more_ask"), QDialogButtonBox::ActionRole);
     ask_->setObjectName(QStringLiteral("askCar"));
@@ -123,15 +123,15 @@ void more_parameters::filter(const QString& words) {
     const QStringList wanted = words.split(u' ', Qt::SkipEmptyParts);
     for (int row = 0; row < list_->topLevelItemCount(); ++row) {
         QTreeWidgetItem* item = list_->topLevelItem(row);
-        const QString told = item->text(NAME) + u' ' + item->text(PID);
+        const QString text = item->text(NAME) + u' ' + item->text(PID);
         item->setHidden(!std::ranges::all_of(
-            wanted, [&](const QString& word) { return told.contains(word, Qt::CaseInsensitive); }));
+            wanted, [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); }));
     }
 }
 
 void more_parameters::ask() {
     ask_->setEnabled(false);
-    told_->setText(ui_text(delegate_, "ui_more_asking"));
+    status_->setText(ui_text(delegate_, "ui_more_asking"));
     screen_.ask_what_car_supports([dialog = QPointer<more_parameters>(this)] {
         if (dialog)
             dialog->mark_supported();
@@ -141,10 +141,10 @@ void more_parameters::ask() {
 void more_parameters::mark_supported() {
     const auto& known = screen_.car_parameters();
     ask_->setEnabled(!screen_.running());
-    told_->setText(known ? ui_text(delegate_, "ui_more_known")
-                               .replace(QStringLiteral("%d"), QString::number(known->count()))
-                         : ui_text(delegate_, screen_.scan_completed() ? "ui_more_untold"
-                                                                       : "ui_more_unknown"));
+    status_->setText(known ? ui_text(delegate_, "ui_more_known")
+                                 .replace(QStringLiteral("%d"), QString::number(known->count()))
+                           : ui_text(delegate_, screen_.scan_completed() ? "ui_more_untold"
+                                                                         : "ui_more_unknown"));
     for (int row = 0; row < list_->topLevelItemCount(); ++row) {
         QTreeWidgetItem* item = list_->topLevelItem(row);
         const unsigned pid = mac_toolies::convertStr2Byte(item->text(PID).toStdString());

@@ -36,6 +36,6 @@ class more_parameters final : public QDialog {
     class actions& screen_; // QWidget has an operation of that name
     QLineEdit* search_ = nullptr;
     QTreeWidget* list_ = nullptr;
-    QLabel* told_ = nullptr;
+    QLabel* status_ = nullptr;
     QPushButton* ask_ = nullptr;
 };

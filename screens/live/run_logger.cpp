@@ -35,10 +35,10 @@ void run_logger::begin(const mac_toolies& toolies, int task, int vehicle) {
         failed_(toolies.log_folder() + ": " + (no_folder.empty() ? *why : no_folder));
         return;
     }
-    lines_.leave_no_empty_file();
+    lines_.remove_when_empty();
     if (const auto why = times_.create(times_of_log(path_)))
         failed_(times_of_log(path_) + ": " + *why);
-    times_.leave_no_empty_file();
+    times_.remove_when_empty();
 }
 
 void run_logger::write_cycle(const sample_rows& rows, std::size_t row,

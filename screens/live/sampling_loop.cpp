@@ -22,7 +22,7 @@ constexpr int REPLY_TIME_OUT = 3000;
 constexpr std::size_t LONGEST_SAMPLE = 331;
 
 constexpr run_loop::milliseconds LONG_STRAGGLER_BOUND{4000};
-constexpr int MOST_WAITS_IN_VAIN = 3;
+constexpr int MOST_FAILED_WAITS = 3;
 constexpr int ANSWERS_TO_TRUST_AGAIN = 50; // in a row
 
 // The toolkit's operation has another name, so looking this one up fails.
@@ -66,17 +66,17 @@ void sampling_loop::begin(std::unique_ptr<live_run> run) {
         add_item_to_log_vector("-X", -1);
         requests_answered_ = values_ = cycles_ = 0;
         first_request_ = cycle_filed_ = {};
-        waits_in_vain_ = 0;
+        failed_waits_ = 0;
     }
     fast_.reset();
-    goes_on_plainly_ = false;
+    continue_plain_ = false;
     plain_pause_ = {};
 }
 
 void sampling_loop::end() {
     stop_timer();
     fast_.reset();
-    goes_on_plainly_ = false;
+    continue_plain_ = false;
     cur_log_idx = 0;
     keep_logging = false;
 }
@@ -234,7 +234,7 @@ void sampling_loop::add_item_to_log_vector(std::string_view this_item_val, int t
 void sampling_loop::end_by_timeout(const char* message) {
     connected_2_KS_interface = false;
     next_step_idx = 0;
-    screen_.KS_delegate.forget_put_back(); // it is not there; the handshake will see to it
+    screen_.KS_delegate.forget_restore(); // it is not there; the handshake will see to it
     screen_.leave_cur_op_gracefully("");
     screen_.set_status_msg(message);
 }
@@ -313,11 +313,11 @@ void sampling_loop::take_reply() {
     complete_cycle();
 }
 
-void sampling_loop::file_reply(const sample_request& asked, const std::string& told,
+void sampling_loop::file_reply(const sample_request& asked, const std::string& raw,
                                const std::string& shown) {
     ++requests_answered_;
     cur_log_idx = asked.place;
-    const std::string reply = run_->reply_to_file(asked, told);
+    const std::string reply = run_->reply_to_file(asked, raw);
     listener_.reply_came(shown);
     qCDebug(log_screens, "loggy:%s", reply.c_str());
     if (g_cur_task == TASK_FUEL_ECONOMY)
@@ -352,7 +352,7 @@ void sampling_loop::output_MPG_item(int index, const std::string& this_reply_cp)
 void sampling_loop::ask_next(order_of_answer order) {
     if (order == order_of_answer::in_step) {
         if (++answers_in_step_ >= ANSWERS_TO_TRUST_AGAIN)
-            waits_in_vain_ = 0;
+            failed_waits_ = 0;
     } else {
         answers_in_step_ = 0;
         if (await_straggler(order))
@@ -363,12 +363,12 @@ void sampling_loop::ask_next(order_of_answer order) {
 
 // False if the wait was in vain before: then the adapter owes nothing, it just answers wrongly.
 bool sampling_loop::await_straggler(order_of_answer order) {
-    if (waits_in_vain_ >= (order == order_of_answer::one_behind ? MOST_WAITS_IN_VAIN : 1))
+    if (failed_waits_ >= (order == order_of_answer::one_behind ? MOST_FAILED_WAITS : 1))
         return false;
     screen_.KS_delegate.replies().answer_is_missing();
-    screen_.when_adapter_is_free(waits_in_vain_ == 0 ? STRAGGLER_BOUND : LONG_STRAGGLER_BOUND,
+    screen_.when_adapter_is_free(failed_waits_ == 0 ? STRAGGLER_BOUND : LONG_STRAGGLER_BOUND,
                                  [this](bool in_vain) {
-                                     waits_in_vain_ = in_vain ? waits_in_vain_ + 1 : 0;
+                                     failed_waits_ = in_vain ? failed_waits_ + 1 : 0;
                                      ask(requests_[cur_request_]);
                                  });
     return true;

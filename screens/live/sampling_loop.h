@@ -37,9 +37,9 @@ class sampling_listener {
     // The cycle is row `row` of samples().
     virtual void cycle_filed(std::size_t row) = 0;
     // Replies did not match: fast sampling continues one level lower, or was given up.
-    virtual void fast_sampling_told(bool given_up) = 0;
+    virtual void fast_sampling_reduced(bool given_up) = 0;
     // Nothing could be gained: the rest of the run is plain.
-    virtual void fast_sampling_is_no_use() = 0;
+    virtual void fast_sampling_gains_nothing() = 0;
 
   protected:
     ~sampling_listener() = default;
@@ -65,7 +65,7 @@ class sampling_loop {
     std::optional<int> fast_level() const;
     // In a deliberate pause between two requests.
     bool pausing() const { return pausing_; }
-    void put_adapter_back();
+    void restore_adapter();
 
     void work_out_log(int step);
     void prep_and_send_cmd(std::string_view command, int this_time_out);
@@ -127,7 +127,7 @@ class sampling_loop {
     void send_command(const std::string& command, int next_step);
     void stop_timer();
     void take_fast_reply();
-    void adapter_put_back(bool well);
+    void adapter_restored(bool well);
 
     obd_screen& screen_;
     adapter_handshake& handshake_;
@@ -146,7 +146,7 @@ class sampling_loop {
     std::vector<sample_request> requests_;
     std::size_t cur_request_ = 0;
     bool asks_first_question_ = false;
-    int waits_in_vain_ = 0;   // for an answer that the adapter still owed
+    int failed_waits_ = 0;    // for an answer that the adapter still owed
     int answers_in_step_ = 0; // since the last that was not
     std::uint64_t requests_answered_ = 0, values_ = 0, cycles_ = 0;
     run_loop::milliseconds first_request_{0}, cycle_filed_{0};
@@ -155,7 +155,7 @@ class sampling_loop {
     std::unique_ptr<fast_sampler> fast_;
     bool fast_silent_ = false; // no prompt has come
     bool fast_given_up_ = false;
-    bool goes_on_plainly_ = false; // once the adapter is put back
+    bool continue_plain_ = false;  // once the adapter is put back
     run_loop::timer_id timer_ = 0; // of a pause, or of patience
     bool pausing_ = false;
     run_loop::milliseconds plain_pause_{0}; // of a car that complained

@@ -109,11 +109,11 @@ bool adapter_handshake::connect_2_interface(int step) {
 }
 
 void adapter_handshake::start() {
-    fixed_protocols_told_ = 0;
+    fixed_protocol_replies_ = 0;
     g_bus_form = bus_form::unknown; // it may be another car
     g_status_units.clear();
     if (!KS_did_connect_2_car)
-        screen_.KS_delegate.forget_put_back();
+        screen_.KS_delegate.forget_restore();
     send_waiting(KS_did_connect_2_car ? "AT E0\r" : "AT Z\r", RESET_ANSWERED);
 }
 
@@ -205,7 +205,8 @@ void adapter_handshake::protocol_answered() {
         g_cur_protocol = std::string_view(reply);
     }
     const bool rejected = contains(reply, REPLY_REJECTED);
-    if (contains(reply, "AUTO") || (!rejected && ++fixed_protocols_told_ > MOST_FIXED_PROTOCOLS)) {
+    if (contains(reply, "AUTO") ||
+        (!rejected && ++fixed_protocol_replies_ > MOST_FIXED_PROTOCOLS)) {
         send("AT H1\r", HEADERS_ON_ANSWERED);
     } else {
         odb_curReplyMsg.clear();

@@ -46,7 +46,7 @@ class adapter_handshake {
   private:
     struct pid_group;
 
-    int fixed_protocols_told_ = 0;
+    int fixed_protocol_replies_ = 0;
 
     void start();
     void reset_answered();

@@ -51,8 +51,8 @@ void obd_screen::end_task() {
 bool obd_screen::work_over_link(const std::function<void()>& link_usable) {
     if (!KS_delegate.openInterfaceConnection()) {
         const bool coming_up = KS_delegate.link_coming_up();
-        if (const std::string told = KS_delegate.advice(); !coming_up && !told.empty())
-            set_status_msg(told);
+        if (const std::string hint = KS_delegate.advice(); !coming_up && !hint.empty())
+            set_status_msg(hint);
         return coming_up;
     }
     link_usable();
@@ -71,7 +71,7 @@ void obd_screen::begin_first_step() {
         return;
     }
     when_adapter_is_free(OLD_REPLY_BOUND, [this](bool in_vain) {
-        if (!in_vain || KS_delegate.replies().half_come())
+        if (!in_vain || KS_delegate.replies().reply_incomplete())
             odb_curReplyBuffyMsg.clear();
         work_current_task();
     });

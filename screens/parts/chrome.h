@@ -1,5 +1,5 @@
-// The frame that all screens share: a title row with the main buttons at the right, the content,
-// and at the bottom the status line with the busy indicator.
+// The frame of all screens: a title row with the main buttons at the right, the content, and the
+// status line with the busy indicator.
 #pragma once
 
 #include <QIcon>
@@ -19,12 +19,12 @@ class status_line;
 // The unit of spacing, in pixels.
 inline constexpr int GRID = 8;
 
-// The drawing icons/NAME.svg in the colour of the desktop's text, even after a change of scheme;
-// sharp at every scale.
+// icons/NAME.svg in the colour of the desktop's text, even after a change of scheme; sharp at every
+// scale.
 QIcon drawn_icon(std::string_view name);
-// The colour of an unavailable text, still legible.
+// The colour of disabled text, still legible.
 QColor unavailable_text(const QPalette& palette);
-// The drawing of this path in its own colours.
+// The drawing at this path, in its own colours.
 QIcon picture_icon(const QString& path);
 
 // A text of the strings table, for a widget.

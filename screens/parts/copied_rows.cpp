@@ -26,7 +26,7 @@ void copy_rows(const QTableView& table) {
 
 } // namespace
 
-QAction* let_rows_be_copied(QTableView* table, const QString& name) {
+QAction* make_rows_copyable(QTableView* table, const QString& name) {
     auto* copy = new QAction(name, table);
     copy->setObjectName(QStringLiteral("copyRows"));
     copy->setShortcut(QKeySequence::Copy);

@@ -6,4 +6,4 @@ class QString;
 class QTableView;
 
 // Ctrl+C and an entry of the table's menu copy the selected rows; without a selection, all.
-QAction* let_rows_be_copied(QTableView* table, const QString& name);
+QAction* make_rows_copyable(QTableView* table, const QString& name);

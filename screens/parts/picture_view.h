@@ -1,6 +1,6 @@
-// Shows one drawn instrument: centred at the top, as large as it fits with its aspect kept.
-// Provides the scale at which the picture must be drawn to be shown pixel for pixel; a picture of
-// another scale is stretched until the next one.
+// Shows one instrument at the top centre, as large as fits with its aspect ratio kept.
+// pixel_scale() is the scale to draw at; a picture of another scale is stretched until the next
+// one.
 #pragma once
 
 #include "spoken.h"

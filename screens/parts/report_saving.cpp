@@ -18,8 +18,7 @@ QString ending_of(const QString& kind) {
     return kind.mid(kind.lastIndexOf(u'.') + 1).chopped(1);
 }
 
-// A name without an ending gets that of the chosen kind; one with an ending of its own is asked
-// about again, so that no file is written over unasked.
+// Adds the chosen kind's extension to a name without one, and then asks again before overwriting.
 QString path_to_save(Ks_lite_delegate& delegate, QWidget* over, const QString& name, bool json) {
     QStringList kinds{QStringLiteral("HTML (*.html)"), QStringLiteral("PDF (*.pdf)"),
                       ui_text(delegate, "ui_report_text_file") + QStringLiteral(" (*.txt)")};
@@ -45,10 +44,10 @@ QString path_to_save(Ks_lite_delegate& delegate, QWidget* over, const QString& n
 
 } // namespace
 
-car_report report_to_give(Ks_lite_delegate& delegate, const mac_toolies& toolies) {
+car_report report_to_export(Ks_lite_delegate& delegate, const mac_toolies& toolies) {
     const car_report& kept = *last_report().report;
     return delegate.doors().defaults.boolean(HIDE_VIN_KEY)
-               ? report_of(without_vin(kept.heard), toolies)
+               ? report_of(without_vin(kept.transcript), toolies)
                : kept;
 }
 

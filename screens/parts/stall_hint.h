@@ -1,5 +1,5 @@
-// Beside the busy indicator: how long the adapter has owed a reply, after five seconds, and the
-// button that restores a lost link, as long as nothing comes from the adapter.
+// Beside the busy indicator: how long the adapter has owed a reply, from five seconds on, and the
+// button that reconnects, while nothing arrives.
 #pragma once
 
 #include "notification_center.h"

@@ -21,7 +21,7 @@ void status_line::set_text(const std::string& message) {
     // Empty lines would hide the reason.
     static const QRegularExpression EMPTY_LINES(QStringLiteral("\n\\s*\n"));
     setText(QString(text).replace(EMPTY_LINES, QStringLiteral("\n")).trimmed());
-    setAccessibleName(text); // a screen reader must hear the message, not what kind of label it is
+    setAccessibleName(text); // screen readers must announce the message, not the label
     // A tooltip guesses at rich text: escape it so that it stays plain.
     setToolTip(text.isEmpty() ? QString()
                               : QStringLiteral("<span style='white-space:pre-wrap'>%1</span>")

@@ -1,6 +1,5 @@
-// The status line at the foot of every screen: plain text, elided to the height of two lines, with
-// the whole text in the tooltip; selectable unless it changes too fast. The label's text is always
-// the whole message.
+// The status line at the foot of every screen: plain text, elided to two lines, with the whole text
+// in the tooltip; selectable unless it changes too fast. text() is always the whole message.
 #pragma once
 
 #include <QLabel>
@@ -14,8 +13,8 @@ class status_line final : public QLabel {
     void set_selectable(bool selectable);
 };
 
-// The line's place in a layout. A label requests a new layout of the whole screen for every text;
-// this one has a fixed size and prevents that.
+// Holds the line in a layout with a fixed size: a label alone would make every new text lay out the
+// whole screen again.
 class status_place final : public QWidget {
   public:
     explicit status_place(QWidget* parent);

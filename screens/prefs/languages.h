@@ -1,4 +1,4 @@
-// The languages that the program speaks, and the user's choice among them.
+// The program's languages, and the user's choice.
 #pragma once
 
 #include <span>

@@ -80,7 +80,7 @@ void prefs::savePrefs() {
     g_log_runs = view_->log_runs();
     store.set_boolean(LOG_RUNS_KEY, g_log_runs);
     store.set_boolean(REUSE_LAST_BT_KEY, view_->reuse_last_adapter());
-    store.set_string(LANGUAGE_KEY, view_->language()); // the next start speaks it
+    store.set_string(LANGUAGE_KEY, view_->language()); // takes effect at the next start
     std::vector<std::string> chosen;
     for (const pid_entry& entry : _pid_available_list)
         if (entry.selected)

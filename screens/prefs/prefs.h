@@ -1,5 +1,5 @@
 // The preferences screen: adapter connection, units, logging and the parameter list. Its edits live
-// in its controls until the screen is left (savePrefs) or the defaults are asked for.
+// in its controls until the screen is left (savePrefs) or Defaults is pressed.
 #pragma once
 
 #include "mac_toolies.h"
@@ -42,7 +42,7 @@ class prefs final : public screen_controller {
     void handle_interface(int row);
     void save_adapter(user_defaults& store);
     void save_serial(user_defaults& store);
-    // Shows the ports that are there now, and looks again a second later while they matter.
+    // Shows the existing ports, and updates them every second while they are visible.
     void follow_serial_ports();
     void load_pids_list();
     void add_item_to_pref_vector(const std::string& pid);

@@ -159,7 +159,7 @@ QWidget* prefs_view::build_serial_panel(QWidget* group) {
     serial_speed_->addItem(ui_text(delegate_, "ui_serial_auto"), 0);
     for (const long speed : USUAL_SPEEDS)
         serial_speed_->addItem(QString::number(speed), static_cast<int>(speed));
-    // A cable's own words may be long.
+    // A cable's description may be long.
     serial_port_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     serial_port_->setMinimumContentsLength(12);
     serial_port_->setMaximumWidth(40 * GRID);
@@ -226,7 +226,7 @@ QWidget* prefs_view::build_parameters() {
         table);
     table->setModel(pids_model_);
     table->setItemDelegateForColumn(0, new check_painter(delegate_.doors().resources, table));
-    // A click toggles the row; nothing stays selected, so there is no selection to change in turn.
+    // A click toggles the row and leaves no selection.
     table->setSelectionMode(QAbstractItemView::NoSelection);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setShowGrid(false);
@@ -278,13 +278,13 @@ void prefs_view::set_serial(const std::string& path, int speed) {
     show_serial_ports(ports_);
 }
 
-// The chosen one stays chosen while it is unplugged; where none was, the first cable is, but not a
-// port of the computer's own, which has no name.
+// The chosen port stays chosen while it is unplugged. If none was chosen, the first cable is; the
+// computer's own ports, which have no name, are not.
 void prefs_view::show_serial_ports(std::vector<serial_port_entry> ports) {
     if (chosen_port_.empty() && !ports.empty() && !ports.front().name.empty())
         chosen_port_ = ports.front().path;
     const QString chosen = display_text(chosen_port_);
-    // The list knows no links to ports, nor pseudo-terminals.
+    // Symbolic links and pseudo-terminals are not in the list.
     if (QFileInfo::exists(chosen) &&
         std::ranges::find(ports, chosen_port_, &serial_port_entry::path) == ports.end())
         ports.push_back({chosen_port_, "", ""});
@@ -305,7 +305,7 @@ void prefs_view::show_serial_ports(std::vector<serial_port_entry> ports) {
                                                : ui_text(delegate_, "ui_serial_absent").arg(chosen),
                               chosen);
     serial_port_->setCurrentIndex(serial_port_->findData(chosen));
-    serial_port_->setToolTip(serial_port_->currentText()); // which the box may cut
+    serial_port_->setToolTip(serial_port_->currentText()); // may be elided in the box
 }
 
 std::string prefs_view::serial_port() const {

@@ -96,10 +96,11 @@ bool report_screen::takes_time_out(const std::string& text) {
     return true;
 }
 
-void report_screen::ask(const std::string& command, run_loop::milliseconds bound, answered told) {
+void report_screen::ask(const std::string& command, run_loop::milliseconds bound,
+                        answered on_reply) {
     command_ = command;
     command_bound_ = bound;
-    told_ = std::move(told);
+    on_reply_ = std::move(on_reply);
     if (!KS_delegate.replies().owes()) {
         send_now();
         return;
@@ -107,7 +108,7 @@ void report_screen::ask(const std::string& command, run_loop::milliseconds bound
     // A late reply answers an earlier question.
     when_adapter_is_free(std::chrono::seconds(REPLY_TIME_OUT_AT_START), [this](bool) {
         odb_curReplyBuffyMsg.clear();
-        if (told_)
+        if (on_reply_)
             send_now();
     });
 }
@@ -126,13 +127,13 @@ void report_screen::send_now() {
 
 void report_screen::give_up() {
     KS_delegate.doors().loop.cancel(std::exchange(bound_, 0));
-    told_ = nullptr;
+    on_reply_ = nullptr;
 }
 
 void report_screen::answer(std::optional<std::string> reply) {
     KS_delegate.doors().loop.cancel(std::exchange(bound_, 0));
-    if (const answered told = std::exchange(told_, nullptr))
-        told(std::move(reply));
+    if (const answered on_reply = std::exchange(on_reply_, nullptr))
+        on_reply(std::move(reply));
 }
 
 void report_screen::show_progress(topic about, std::size_t asked, std::size_t wanted) {
@@ -145,18 +146,18 @@ void report_screen::show_progress(topic about, std::size_t asked, std::size_t wa
 // An earlier report is kept if nothing was reported.
 void report_screen::finish() {
     view_->show_running(false);
-    if (reader_.made_adapter_patient())
+    if (reader_.extended_wait())
         KS_did_connect_2_car = false; // so that the next handshake resets it
     end_task();
-    if (!reader_.heard().anything_told()) {
+    if (!reader_.transcript().car_answered()) {
         set_status_msg(localized("report_nothing_told"));
         return;
     }
-    last_report() = {report_of(reader_.heard(), toolies), KS_delegate.link_number(), false};
+    last_report() = {report_of(reader_.transcript(), toolies), KS_delegate.link_number(), false};
     has_report_ = true;
     view_->show_report();
     set_status_msg(
-        localized(last_report().report->all_told() ? "report_done" : "report_done_partly"));
+        localized(last_report().report->all_reported() ? "report_done" : "report_done_partly"));
 }
 
 void report_screen::leave_cur_op_gracefully(const std::string&) {
@@ -174,7 +175,7 @@ void report_screen::link_lost() {
 void report_screen::hide_vin() {
     auto& kept = last_report().report;
     if (kept)
-        kept = report_of(without_vin(std::move(kept->heard)), toolies);
+        kept = report_of(without_vin(std::move(kept->transcript)), toolies);
     view_->show_report();
 }
 

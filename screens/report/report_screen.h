@@ -30,7 +30,7 @@ class report_screen final : public obd_screen, private adapter_door {
     // From the last press: nothing while it runs, or if the adapter could not be initialised.
     const car_report* report() const;
     bool reading() const { return reader_.running(); }
-    // In the last report, for good.
+    // Permanently, in the last report.
     void hide_vin();
 
   protected:
@@ -39,7 +39,7 @@ class report_screen final : public obd_screen, private adapter_door {
     bool takes_time_out(const std::string& text) override;
 
   private:
-    void ask(const std::string& command, run_loop::milliseconds bound, answered told) override;
+    void ask(const std::string& command, run_loop::milliseconds bound, answered on_reply) override;
     void give_up() override;
     void send_now();
     void answer(std::optional<std::string> reply);
@@ -53,6 +53,6 @@ class report_screen final : public obd_screen, private adapter_door {
 
     std::string command_;
     run_loop::milliseconds command_bound_{0};
-    answered told_;
+    answered on_reply_;
     run_loop::timer_id bound_ = 0;
 };

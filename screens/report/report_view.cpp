@@ -113,21 +113,21 @@ void report_view::show_report() {
     show_sheet();
 }
 
-// As it is given away: what is shown can be selected and copied.
+// Shown as it would be exported, since it can be selected and copied.
 void report_view::show_sheet() {
     if (last_report().report)
-        sheet_->setHtml(QString::fromStdString(sheet_rich_text(sheet_to_give())));
+        sheet_->setHtml(QString::fromStdString(sheet_rich_text(sheet_to_export())));
     else
         sheet_->clear();
 }
 
-report_sheet report_view::sheet_to_give() const {
-    const car_report report = report_to_give(delegate_, toolies_);
+report_sheet report_view::sheet_to_export() const {
+    const car_report report = report_to_export(delegate_, toolies_);
     const bundle& texts = delegate_.doors().resources;
     if (!before_)
         return sheet_of(report, texts);
     const bool hidden = delegate_.doors().defaults.boolean(HIDE_VIN_KEY);
-    return comparison_of(hidden ? report_of(without_vin(before_->heard), toolies_) : *before_,
+    return comparison_of(hidden ? report_of(without_vin(before_->transcript), toolies_) : *before_,
                          report, texts);
 }
 
@@ -137,18 +137,18 @@ void report_view::tell(const std::string& message) {
 
 void report_view::save() {
     const bool compared = before_.has_value();
-    if (save_sheet(delegate_, root_.get(), report_to_give(delegate_, toolies_), sheet_to_give(),
+    if (save_sheet(delegate_, root_.get(), report_to_export(delegate_, toolies_), sheet_to_export(),
                    compared) &&
         !compared)
         last_report().saved = true;
 }
 
 void report_view::print() {
-    const report_sheet sheet = sheet_to_give();
+    const report_sheet sheet = sheet_to_export();
     const modal_hold hold(delegate_.doors().loop);
     QPrinter printer(QPrinter::HighResolution);
     // Also the name of the file when it is printed into one.
-    printer.setDocName(QString::fromStdString(usual_name(report_to_give(delegate_, toolies_))));
+    printer.setDocName(QString::fromStdString(usual_name(report_to_export(delegate_, toolies_))));
     printer.setPageSize(
         QPageSize(usual_paper() == paper_size::a4 ? QPageSize::A4 : QPageSize::Letter));
     printer.setPageMargins(
@@ -159,7 +159,7 @@ void report_view::print() {
 }
 
 void report_view::copy() {
-    const report_sheet sheet = sheet_to_give();
+    const report_sheet sheet = sheet_to_export();
     auto* both = new QMimeData;
     both->setText(QString::fromStdString(sheet_text(sheet)));
     both->setHtml(QString::fromStdString(sheet_html(sheet)));
@@ -178,12 +178,12 @@ bool report_view::read_report(std::string_view title, car_report& to) {
         return false;
     std::string why;
     const auto document = read_whole(path.toStdString(), why);
-    const auto heard = document ? open_report(*document, why) : std::nullopt;
-    if (!heard) {
+    const auto transcript = document ? open_report(*document, why) : std::nullopt;
+    if (!transcript) {
         tell(delegate_.doors().resources.localized("ui_report_not_opened") + " " + why);
         return false;
     }
-    to = report_of(*heard, toolies_);
+    to = report_of(*transcript, toolies_);
     status_->set_text(ui_text(delegate_, "ui_report_opened").arg(path).toStdString());
     return true;
 }

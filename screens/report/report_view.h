@@ -37,8 +37,8 @@ class report_view {
     QCheckBox* add_switch(const char* name, std::string_view key, const char* setting,
                           bool on_when);
     void show_sheet();
-    // What is shown and given away.
-    report_sheet sheet_to_give() const;
+    // What is shown and exported.
+    report_sheet sheet_to_export() const;
     void save();
     void print();
     void copy();

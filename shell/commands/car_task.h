@@ -25,7 +25,7 @@ class car_task {
     virtual ~car_task() = default;
 
     virtual void start() = 0;
-    // Called whenever something has happened. May begin the next part.
+    // Called after every event. May begin the next part.
     virtual bool over() = 0;
     virtual bool succeeded() const = 0;
     // The reason of failure, if only the task knows it.
@@ -34,12 +34,12 @@ class car_task {
     virtual bool may_be_interrupted() const { return false; }
     // Whether it may last a day: without --timeout nothing ends it, and only the last status is
     // kept.
-    virtual bool has_no_bound() const { return false; }
+    virtual bool has_no_time_limit() const { return false; }
     // Whether it shows its progress itself.
-    virtual bool tells_progress() const { return false; }
+    virtual bool prints_progress() const { return false; }
     // Whether print() will print this message, which must not appear twice.
     virtual bool is_result(const std::string& message) const { return message.empty(); }
-    // What was found, or as much as there is of it. Also stops a task that still goes on.
+    // Prints what was found so far. Also stops a task that is still running.
     virtual void print(bool succeeded, const conversation_log& log) = 0;
 
   protected:

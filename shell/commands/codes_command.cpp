@@ -51,7 +51,7 @@ void print_text(const codes_report& report) {
     for (const readiness_flag& flag : report.readiness)
         std::printf("  %-5s%-48s%s\n", flag.state.c_str(), flag.monitor.c_str(), flag.kind.c_str());
     if (report.readiness.empty())
-        std::printf("  not told\n");
+        std::printf("  not reported\n");
 }
 
 class codes_command final : public car_task {
@@ -80,7 +80,7 @@ class codes_command final : public car_task {
         const codes_report report = screen_->report();
         if (asked_.json) {
             print_conversation(as_json(report), screen_->status(), log);
-        } else if (report.codes_told) {
+        } else if (report.codes_reported) {
             print_text(report);
             if (succeeded && report.count &&
                 static_cast<std::size_t>(*report.count) != report.codes.size())

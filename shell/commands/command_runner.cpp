@@ -33,7 +33,7 @@ command_runner::~command_runner() {
 
 void command_runner::start(std::function<void(int)> done) {
     done_ = std::move(done);
-    if (asked_.timeout_seconds || !task_->has_no_bound())
+    if (asked_.timeout_seconds || !task_->has_no_time_limit())
         bound_.start(static_cast<int>(std::min(
             asked_.timeout_seconds.value_or(DEFAULT_BOUND_SECONDS) * 1000, LONGEST_BOUND_MS)));
     task_->start();
@@ -43,16 +43,16 @@ void command_runner::start(std::function<void(int)> done) {
 void command_runner::take_status(const std::string& text) {
     if (text.empty())
         return;
-    if (!task_->tells_progress())
+    if (!task_->prints_progress())
         show_progress(text);
-    if (task_->has_no_bound() && !told_.statuses.empty()) // it may last a day
-        told_.statuses.back() = text;
+    if (task_->has_no_time_limit() && !output_.statuses.empty()) // it may last a day
+        output_.statuses.back() = text;
     else
-        told_.statuses.push_back(text);
+        output_.statuses.push_back(text);
 }
 
 void command_runner::look() {
-    if (status_ && !delegate_.puts_adapter_back())
+    if (status_ && !delegate_.restoring_adapter())
         leave();
     else if (begun_ && !ended_ && (task_->over() || messages_.endless()))
         finish();
@@ -63,8 +63,8 @@ void command_runner::finish() {
     // A failure reported only in a message box leaves an older text on the status line.
     if (why.empty())
         why = messages_.last_printed();
-    if (why.empty() && !told_.statuses.empty())
-        why = told_.statuses.back();
+    if (why.empty() && !output_.statuses.empty())
+        why = output_.statuses.back();
     end(task_->succeeded(), why);
 }
 
@@ -78,8 +78,8 @@ void command_runner::end(bool succeeded, const std::string& why) {
     ended_ = true;
     bound_.stop();
     clear_progress();
-    told_.messages = messages_.messages();
-    task_->print(succeeded, told_);
+    output_.messages = messages_.messages();
+    task_->print(succeeded, output_);
     status_ = succeeded && !output_lost() ? 0 : 1;
     if (!succeeded && !output_lost()) {
         const bool just_read = !why.empty() && why == messages_.last_printed();
@@ -90,7 +90,7 @@ void command_runner::end(bool succeeded, const std::string& why) {
 }
 
 void command_runner::leave() {
-    delegate_.forget_put_back(); // well or not: it was tried
+    delegate_.forget_restore(); // whatever the result
     if (const auto done = std::exchange(done_, nullptr))
         done(*status_);
 }

@@ -39,7 +39,7 @@ class command_runner final : public QObject {
     std::unique_ptr<car_task> task_;
     std::function<void(int)> done_;
     QTimer bound_;
-    conversation_log told_;
+    conversation_log output_;
     bool begun_ = false, ended_ = false;
     std::optional<int> status_; // once ended
 };

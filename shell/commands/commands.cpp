@@ -13,7 +13,7 @@ constexpr std::size_t MANY = 10'000;
 constexpr command_row COMMANDS[] = {
     {"codes", 0, 0, "", "read lamp, trouble codes and readiness monitors",
      R"(With --json: one object, described in docs/json/codes.schema.json.
-Exit status: 0 when the car told its codes, 1 when it did not or a part could not be read.
+Exit status: 0 when the car reported its codes, 1 when it did not or a part could not be read.
 
 Examples
   kestrom codes                                       the adapter of the settings
@@ -25,8 +25,8 @@ Examples
 )",
      nullptr, nullptr, begin_codes},
     {"clear", 0, 0, "--yes", "clear the trouble codes",
-     R"(Clears the codes and with them the results of the readiness monitors, which the car works out
-anew over the next drives. With --json: the object of the command codes.
+     R"(Clears the codes and the results of the readiness monitors, which the car collects again over the
+next drives. With --json: the object of the command codes.
 Exit status: 0 when the car confirmed it, 1 when it did not.
 
 Example
@@ -44,10 +44,9 @@ Examples
 )",
      check_send, nullptr, begin_send},
     {"pids", 0, 0, "", "list the parameters that the car supports, with names and units",
-     R"(Asks every unit of the car, as far as each group of parameters announces the next. A parameter that
-cannot be told in words or numbers is marked so. With --json: one object, described in
-docs/json/pids.schema.json.
-Exit status: 0 when the car told, 1 when it did not.
+     R"(Asks every unit of the car for its parameters. One that Kestrom cannot decode is marked.
+With --json: one object, described in docs/json/pids.schema.json.
+Exit status: 0 when the car answered, 1 when it did not.
 
 Examples
   kestrom --demo=hybrid pids
@@ -55,12 +54,12 @@ Examples
 )",
      nullptr, nullptr, begin_pids},
     {"report", 0, 2, "[--compare A.json B.json]",
-     "read all that the car tells of itself, on one sheet",
+     "read everything the car reports about itself, on one sheet",
      R"(Lamp, codes of every kind by control unit, freeze frames, readiness, test results, identity and
-counters, and what was not told, with the reason. Without a choice the sheet is printed as text. With
+counters, and what was not reported, with the reason. By default the sheet is printed as text. With
 --json: one object, described in docs/json/report.schema.json, which --open and --compare take.
-Exit status: 0 when the car told anything, with a note on standard error when it did not tell all;
-1 when nothing could be read or written, 2 the arguments make no sense.
+Exit status: 0 when the car reported anything, with a note on standard error when something is
+missing; 1 when nothing could be read or written, 2 invalid arguments.
 
 Examples
   kestrom --demo=diesel report
@@ -70,11 +69,11 @@ Examples
   kestrom report --compare before.json after.json
 )",
      check_report, run_saved_report, begin_report},
-    {"live", 0, 0, "", "sample without pause and print the values of each cycle",
-     R"(Prints CSV with a header, a line for each cycle as it completes; a summary follows on standard error;
-its seconds, and those of --seconds, do not count the way to the car.
+    {"live", 0, 0, "", "sample continuously and print the values of each cycle",
+     R"(Prints CSV: a header, then a line for each cycle as it completes. A summary follows on standard
+error. Its seconds, and those of --seconds, count from the first request, not from connecting.
 With --json: a line of JSON for each cycle and one for the summary (docs/json/live.schema.json).
-Exit status: 0 when it ended as asked after at least one cycle, else 1.
+Exit status: 0 when it ended as requested after at least one cycle, else 1.
 
 Examples
   kestrom --demo live --pids 0C,0D --cycles 20
@@ -85,10 +84,10 @@ Examples
      check_live, nullptr, begin_live},
     {"decode", 1, MANY, "REPLY...", "what replies to service 01 requests mean: text and number",
      R"(A line for each reply: the text, a tab, the number. A reply may write its line ends as \r and \n.
-A run shows some parameters in a way that misleads (the
-pressure of the evaporative system, catalyst temperatures, the commanded ratio, "V" behind trims);
+A run shows some parameters misleadingly (the
+pressure of the evaporative system, catalyst temperatures, the commanded ratio, "V" after trims);
 --standard gives their true values. With --json: docs/json/decode.schema.json.
-Exit status: 0 success, 1 when a reply holds no value or is none, 2 the arguments make no sense.
+Exit status: 0 success, 1 when a reply holds no value or is not a reply, 2 invalid arguments.
 
 Examples
   kestrom decode "41 0C 1A F8" --units metric
@@ -97,17 +96,17 @@ Examples
 )",
      check_decode, run_decode},
     {"vin", 1, 1, "REPLY", "the vehicle identification number in a reply to 09 02",
-     R"(Prints N/A when there is none in it. With --json: docs/json/vin.schema.json.
-Exit status: 0 success, 1 when it is not whole, 2 the arguments make no sense.
+     R"(Prints N/A if there is none. With --json: docs/json/vin.schema.json.
+Exit status: 0 success, 1 when it is incomplete, 2 invalid arguments.
 
 Example
   kestrom vin "014\r0:490201314731\r1:4A4734554A35\r2:3643313132323330\r>"
 )",
      nullptr, run_vin},
     {"mode6", 2, 2, "ID VALUE", "a test result scaled by its unit-and-scaling identifier",
-     R"(Both in hex digits: two, and up to eight. With --standard the value has up to four and identifiers from
-80 on are signed. With --json: docs/json/mode6.schema.json.
-Exit status: 0 success, 2 the arguments make no sense.
+     R"(Both are hex: two digits, and up to eight. With --standard the value has up to four, and identifiers
+from 80 on are signed. With --json: docs/json/mode6.schema.json.
+Exit status: 0 success, 2 invalid arguments.
 
 Example
   kestrom mode6 16 01F4
@@ -115,9 +114,9 @@ Example
      check_mode6, run_mode6},
     {"chart", 1, 1, "LOG.gol --pid PID [--pid PID] -o FILE.png",
      "draw a run log as a chart, or its last value on a dial",
-     R"(Prints the limits of the axes. A plain name that is no file
-here is that of a log in the log folder. A dial shows one parameter.
-Exit status: 0 success, 1 the log or the picture failed, 2 the arguments make no sense.
+     R"(Prints the limits of the axes. A plain name that is not a file
+here names a log in the log folder. A dial shows one parameter.
+Exit status: 0 success, 1 the log or the picture failed, 2 invalid arguments.
 
 Examples
   kestrom chart run.gol --pid 0C --pid 0D -o run.png --scale 2
@@ -125,26 +124,26 @@ Examples
 )",
      check_chart, run_chart},
     {"export", 1, 1, "LOG.gol", "turn a run log into a table (CSV) beside it",
-     R"(A plain name that is no file here is that of a log in the log folder. An export that is there is
-never overwritten. With --json: docs/json/export.schema.json.
-Exit status: 0 success, 1 the log or the export failed, 2 the arguments make no sense.
+     R"(A plain name that is not a file here names a log in the log folder. An existing export is never
+overwritten. With --json: docs/json/export.schema.json.
+Exit status: 0 success, 1 the log or the export failed, 2 invalid arguments.
 
 Examples
   kestrom export log_Nov_15_2026-0254_33.gol
   kestrom export ./run.gol --txt --time
 )",
      nullptr, run_export},
-    {"lookup", 1, MANY, "CODE|TEXT", "what a trouble code means, or which codes speak of something",
-     R"(A code's description, or every code whose description holds all of the words, in letters of any
-case. With --json: docs/json/lookup.schema.json.
-Exit status: 0 success, 1 nothing was found, 2 the arguments make no sense.
+    {"lookup", 1, MANY, "CODE|TEXT", "what a trouble code means, or which codes mention some words",
+     R"(A code's description, or every code whose description contains all of the words, in either case.
+With --json: docs/json/lookup.schema.json.
+Exit status: 0 success, 1 nothing was found, 2 invalid arguments.
 
 Examples
   kestrom lookup P0301
   kestrom lookup "oil pressure"
 )",
      check_lookup, run_lookup},
-    {"bluetooth-scan", 0, 0, "", "list the Bluetooth devices that are paired or in reach",
+    {"bluetooth-scan", 0, 0, "", "list the Bluetooth devices that are paired or in range",
      R"(With --json: docs/json/bluetooth-scan.schema.json.
 Exit status: 0 when a search was made, 1 when Bluetooth cannot be used.
 
@@ -153,7 +152,7 @@ Examples
   kestrom bluetooth-scan --timeout 5 --json
 )",
      nullptr, run_bluetooth_scan},
-    {"serial-ports", 0, 0, "", "list the serial ports that are there, USB cables first",
+    {"serial-ports", 0, 0, "", "list the serial ports, USB cables first",
      R"(With --json: docs/json/serial-ports.schema.json.
 Exit status: 0, also when there is none.
 
@@ -162,7 +161,7 @@ Examples
   kestrom --adapter /dev/ttyUSB0 codes
 )",
      nullptr, run_serial_ports},
-    {HELP, 0, 1, "[COMMAND]", "tell what a command does, and its options",
+    {HELP, 0, 1, "[COMMAND]", "show what a command does, and its options",
      R"(The same as "kestrom COMMAND --help", or "kestrom --help" without a command.
 Exit status: 0, or 2 when there is no such command.
 
@@ -221,16 +220,16 @@ std::string program_help() {
 
 Reads a car's on-board diagnostics through an ELM327-type adapter. Without a command the window opens.
 
-Commands ('kestrom COMMAND --help' tells more)
+Commands (more: kestrom COMMAND --help)
 )" + command_list() +
            R"(
 Options
 )" + option_lines(options_for(nullptr)) +
            R"(
-Progress is told on standard error when that is a terminal.
+Progress is shown on standard error if that is a terminal.
 
-Exit status: 0 success, 1 the task failed or timed out, 2 the arguments make no sense (a recording
-that cannot be made or would overwrite a file among them).
+Exit status: 0 success, 1 the task failed or timed out, 2 invalid arguments (or a recording
+that cannot be created or would overwrite a file).
 
 Examples
   kestrom --demo codes

@@ -46,8 +46,8 @@ std::string reply_of(const std::string& argument) {
 translated decoded(const mac_toolies& toolies, const std::string& reply, bool standard) {
     if (standard) {
         const bool metric = toolies.doors().defaults->boolean(KS_METRIC_UNITS_KEY);
-        if (translated told = standard_value(reply, metric); told.text != NO_ANSWER)
-            return told;
+        if (translated value = standard_value(reply, metric); value.text != NO_ANSWER)
+            return value;
     }
     return parameter_value(toolies, reply);
 }

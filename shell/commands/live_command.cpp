@@ -52,8 +52,8 @@ class live_command final : public car_task {
     bool may_be_interrupted() const override {
         return asked_.cycles == 0 && asked_.seconds <= 0 && sampled();
     }
-    bool has_no_bound() const override { return true; }
-    bool tells_progress() const override { return sampled(); }
+    bool has_no_time_limit() const override { return true; }
+    bool prints_progress() const override { return sampled(); }
     void print(bool succeeded, const conversation_log& log) override;
 
   private:
@@ -76,7 +76,7 @@ class live_command final : public car_task {
     run_loop::milliseconds progress_shown_{0};
     run_loop::timer_id limit_ = 0, begin_ = 0, next_look_ = 0;
     std::string refused_; // why no run began
-    run_loop::milliseconds told_waiting_since_{0};
+    run_loop::milliseconds reported_wait_since_{0};
     bool finished_as_asked_ = false;
     bool finished_ = false;
     std::vector<std::string> header_of_;
@@ -130,8 +130,8 @@ void live_command::tell_of_waiting() {
     const auto now = delegate_.doors().loop.now();
     const auto since = delegate_.replies().stalled_since(now);
     const auto waited = now - since;
-    if (since.count() != 0 && since != told_waiting_since_) {
-        told_waiting_since_ = since;
+    if (since.count() != 0 && since != reported_wait_since_) {
+        reported_wait_since_ = since;
         const std::string began = QTime::currentTime()
                                       .addMSecs(-static_cast<int>(waited.count()))
                                       .toString()
@@ -146,7 +146,7 @@ void live_command::tell_of_waiting() {
 bool live_command::choose_parameters() {
     const auto& known = screen_->car_parameters();
     if (!known) {
-        refused_ = asked_.all_pids ? "the car did not tell what it supports" : "";
+        refused_ = asked_.all_pids ? "the car did not report what it supports" : "";
         return refused_.empty(); // the requested parameters may be supported anyway
     }
     std::vector<std::string> wanted;

@@ -66,16 +66,16 @@ class report_command final : public car_task {
         take_report();
         return true;
     }
-    bool succeeded() const override { return told_ && why_.empty(); }
+    bool succeeded() const override { return reported_ && why_.empty(); }
     std::string what_went_wrong() const override { return why_; }
     // The reader has its own time limits, for each question and overall.
-    bool has_no_bound() const override { return true; }
+    bool has_no_time_limit() const override { return true; }
     void print(bool, const conversation_log&) override {
         if (screen_->reading()) // prints what was read so far
             screen_->cancel_clicked();
         take_report();
         print_bytes(printed_);
-        if (told_ && !all_told_)
+        if (reported_ && !all_reported_)
             std::fputs("kestrom: the car did not tell all; the end of the report says what and "
                        "why\n",
                        stderr);
@@ -84,10 +84,10 @@ class report_command final : public car_task {
   private:
     void take_report() {
         const car_report* report = screen_->report();
-        if (told_ || !report || !report->heard.anything_told())
+        if (reported_ || !report || !report->transcript.car_answered())
             return;
-        told_ = true;
-        all_told_ = report->all_told();
+        reported_ = true;
+        all_reported_ = report->all_reported();
         if (asked_.hide_vin) // in a picture of the window too
             screen_->hide_vin();
         report = screen_->report();
@@ -95,7 +95,7 @@ class report_command final : public car_task {
     }
 
     report_screen* screen_ = nullptr;
-    bool told_ = false, all_told_ = false;
+    bool reported_ = false, all_reported_ = false;
     QByteArray printed_;
     std::string why_;
 };
@@ -103,12 +103,13 @@ class report_command final : public car_task {
 std::optional<car_report> opened(const desk& work, const std::string& file) {
     std::string why;
     const auto document = read_whole(file, why);
-    auto heard = document ? open_report(*document, why) : std::nullopt;
-    if (!heard) {
+    auto transcript = document ? open_report(*document, why) : std::nullopt;
+    if (!transcript) {
         work.err << "kestrom: cannot open " << file << ": " << why << "\n";
         return std::nullopt;
     }
-    return report_of(work.asked.hide_vin ? without_vin(*std::move(heard)) : *std::move(heard),
+    return report_of(work.asked.hide_vin ? without_vin(*std::move(transcript))
+                                         : *std::move(transcript),
                      work.toolies);
 }
 

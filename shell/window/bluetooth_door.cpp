@@ -62,8 +62,8 @@ bluetooth_user user_of_command(alerts& message_boxes, const bundle& texts) {
 std::unique_ptr<serial_port_profile> make_bluetooth_door(run_loop& loop, alerts& message_boxes,
                                                          const bundle& texts,
                                                          const user_defaults& store,
-                                                         bool somebody_to_ask) {
+                                                         bool has_user) {
     return std::make_unique<bluez_serial_port>(
-        loop, somebody_to_ask ? user_at_window(message_boxes, texts, store)
-                              : user_of_command(message_boxes, texts));
+        loop, has_user ? user_at_window(message_boxes, texts, store)
+                       : user_of_command(message_boxes, texts));
 }

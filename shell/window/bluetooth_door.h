@@ -13,5 +13,4 @@ class user_defaults;
 // The arguments outlive the door.
 std::unique_ptr<serial_port_profile> make_bluetooth_door(run_loop& loop, alerts& message_boxes,
                                                          const bundle& texts,
-                                                         const user_defaults& store,
-                                                         bool somebody_to_ask);
+                                                         const user_defaults& store, bool has_user);

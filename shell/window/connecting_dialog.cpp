@@ -33,11 +33,11 @@ connecting_dialog::connecting_dialog(QWidget* parent, const bluez_connection& co
     column->setSpacing(2 * GRID);
     auto* row = new QHBoxLayout;
     const QString sentence = text("bt_connecting").arg(one_line(device));
-    auto* told = new QLabel(sentence, this);
-    told->setObjectName(QStringLiteral("state"));
-    told->setTextFormat(Qt::PlainText);
-    told->setWordWrap(true);
-    row->addWidget(told, 1);
+    auto* label = new QLabel(sentence, this);
+    label->setObjectName(QStringLiteral("state"));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    row->addWidget(label, 1);
     auto* waity = new busy_indicator(this, [] { return true; });
     waity->setAccessibleName(text("ui_busy"));
     row->addWidget(waity);
@@ -50,9 +50,9 @@ connecting_dialog::connecting_dialog(QWidget* parent, const bluez_connection& co
 
     connect(&connection, &bluez_connection::done, this, &QDialog::accept);
     since_.start();
-    connect(&tick_, &QTimer::timeout, this, [this, told, sentence] {
+    connect(&tick_, &QTimer::timeout, this, [this, label, sentence] {
         if (since_.elapsed() > PATIENCE_MS)
-            told->setText(sentence + QStringLiteral(" (%1 s)").arg(since_.elapsed() / 1000));
+            label->setText(sentence + QStringLiteral(" (%1 s)").arg(since_.elapsed() / 1000));
     });
     tick_.start(TICK_MS);
 }

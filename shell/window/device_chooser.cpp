@@ -118,8 +118,8 @@ QWidget* device_chooser::build_foot() {
     auto* column = new QVBoxLayout(foot);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(2 * GRID);
-    auto* told = new QHBoxLayout;
-    told->setSpacing(GRID);
+    auto* state_row = new QHBoxLayout;
+    state_row->setSpacing(GRID);
     waity_ = new busy_indicator(foot, [] { return true; });
     waity_->setAccessibleName(text("ui_busy"));
     state_ = new QLabel(foot);
@@ -128,9 +128,9 @@ QWidget* device_chooser::build_foot() {
     state_->setWordWrap(true);
     state_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     state_->setMinimumHeight(2 * fontMetrics().lineSpacing());
-    told->addWidget(state_, 1);
-    told->addWidget(waity_);
-    column->addLayout(told);
+    state_row->addWidget(state_, 1);
+    state_row->addWidget(waity_);
+    column->addLayout(state_row);
 
     auto* row = new QHBoxLayout;
     row->setSpacing(GRID);
@@ -204,10 +204,10 @@ void device_chooser::refresh() {
 // The state, or the problem, in one or two sentences.
 QString device_chooser::state_text() const {
     if (connection_) {
-        QString told = text("bt_connecting").arg(one_line(connecting_name_));
+        QString sentence = text("bt_connecting").arg(one_line(connecting_name_));
         if (since_.elapsed() > PATIENCE_MS)
-            told += QStringLiteral(" (%1 s)").arg(since_.elapsed() / 1000);
-        return told;
+            sentence += QStringLiteral(" (%1 s)").arg(since_.elapsed() / 1000);
+        return sentence;
     }
     if (const bluetooth_problem problem = devices_.problem(); problem != bluetooth_problem::none)
         return display_text(problem_text(problem, texts_));
@@ -223,13 +223,13 @@ QString device_chooser::state_text() const {
 }
 
 void device_chooser::show_state() {
-    const QString told = state_text();
+    const QString sentence = state_text();
     const bool usable = devices_.problem() == bluetooth_problem::none;
     const bool waiting = connection_ || devices_.starting() || devices_.searching();
     // An empty table says it in the middle; saying it twice is noise.
-    hint_->setText(told);
+    hint_->setText(sentence);
     hint_->setForegroundRole(usable ? QPalette::PlaceholderText : QPalette::Text);
-    state_->setText(entries_.empty() ? QString() : told);
+    state_->setText(entries_.empty() ? QString() : sentence);
     if (waity_->isHidden() == waiting)
         waity_->setVisible(waiting);
     const bluetooth_entry* device = selected();

@@ -99,10 +99,10 @@ void export_window::build_foot(QVBoxLayout* column) {
     progress_->setSizePolicy(keep);
     progress_->hide();
     column->addWidget(progress_);
-    told_ = new status_line(this);
-    told_->setObjectName(QStringLiteral("told"));
-    told_->setAccessibleDescription(ui_text(delegate_, "ui_status"));
-    column->addWidget(told_);
+    status_ = new status_line(this);
+    status_->setObjectName(QStringLiteral("told"));
+    status_->setAccessibleDescription(ui_text(delegate_, "ui_status"));
+    column->addWidget(status_);
 
     auto* buttons = new QHBoxLayout;
     const auto add = [&](const char* name, std::string_view key) {
@@ -127,7 +127,7 @@ void export_window::build_foot(QVBoxLayout* column) {
 void export_window::open_beside() {
     if (!work_) {
         list_logs();
-        told_->set_text({});
+        status_->set_text({});
         progress_->hide();
         open_folder_->hide();
     }
@@ -179,10 +179,10 @@ void export_window::start_export() {
     const std::string name = logs_->item(row, NAME)->text().toStdString();
     output_ = folder + log_export::output_name(name, as_txt_->isChecked());
     if (const auto why = why_no_run_log(folder + name)) {
-        told_->set_text(*why);
+        status_->set_text(*why);
         return;
     }
-    told_->set_text({});
+    status_->set_text({});
     progress_->setValue(0);
     progress_->show();
     start_->setEnabled(false);
@@ -208,9 +208,9 @@ void export_window::take_result(export_result result) {
         const std::string done = ui_text(delegate_, "ui_export_done")
                                      .arg(rows, QString::fromStdString(output_))
                                      .toStdString();
-        told_->set_text(work_->note().empty() ? done : done + "\n" + work_->note());
+        status_->set_text(work_->note().empty() ? done : done + "\n" + work_->note());
     } else {
-        told_->set_text(work_->error());
+        status_->set_text(work_->error());
     }
     open_folder_->show();
     work_.reset();

@@ -56,7 +56,7 @@ class export_window final : public QDialog {
     QRadioButton* as_txt_ = nullptr;
     QCheckBox* with_time_ = nullptr;
     QProgressBar* progress_ = nullptr;
-    status_line* told_ = nullptr;
+    status_line* status_ = nullptr;
     QPushButton* start_ = nullptr;
     QPushButton* open_folder_ = nullptr;
 };

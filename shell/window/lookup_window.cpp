@@ -41,10 +41,10 @@ lookup_window::lookup_window(Ks_lite_delegate& delegate, QWidget* parent)
     build_table();
     column->addWidget(codes_, 1);
     auto* foot = new QHBoxLayout;
-    told_ = new QLabel(this);
-    told_->setObjectName(QStringLiteral("lookupTold"));
-    told_->setTextFormat(Qt::PlainText);
-    foot->addWidget(told_, 1);
+    status_ = new QLabel(this);
+    status_->setObjectName(QStringLiteral("lookupTold"));
+    status_->setTextFormat(Qt::PlainText);
+    foot->addWidget(status_, 1);
     auto* close = new QPushButton(ui_text(delegate_, "ui_lookup_close"), this);
     close->setAutoDefault(false);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
@@ -86,8 +86,8 @@ void lookup_window::look_up(const QString& text) {
         codes_->item(row, DESCRIPTION)->setToolTip(display_text(description).toHtmlEscaped());
     }
     const bool nothing = found.empty();
-    told_->setText(text.trimmed().isEmpty() ? QString()
-                   : nothing                ? ui_text(delegate_, "ui_lookup_none")
-                                            : ui_text(delegate_, "ui_lookup_found")
-                                   .replace(QStringLiteral("%d"), QString::number(found.size())));
+    status_->setText(text.trimmed().isEmpty() ? QString()
+                     : nothing                ? ui_text(delegate_, "ui_lookup_none")
+                                              : ui_text(delegate_, "ui_lookup_found")
+                                     .replace(QStringLiteral("%d"), QString::number(found.size())));
 }

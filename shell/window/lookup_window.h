@@ -22,5 +22,5 @@ class lookup_window final : public QDialog {
     Ks_lite_delegate& delegate_;
     QLineEdit* search_ = nullptr;
     QTableWidget* codes_ = nullptr;
-    QLabel* told_ = nullptr;
+    QLabel* status_ = nullptr;
 };

@@ -212,12 +212,12 @@ void main_window::restore_place() {
 
 void main_window::closeEvent(QCloseEvent* event) {
     // A second close does not wait.
-    if (isEnabled() && delegate_.puts_adapter_back_first([this] { close(); })) {
+    if (isEnabled() && delegate_.restore_adapter_before([this] { close(); })) {
         setEnabled(false); // it takes some replies
         event->ignore();
         return;
     }
-    // A window that nobody saw has no place to remember.
+    // A window that was never shown has no place to remember.
     if (isVisible() && somebody_looks()) {
         delegate_.doors().defaults.set_string(GEOMETRY_KEY,
                                               saveGeometry().toBase64().toStdString());

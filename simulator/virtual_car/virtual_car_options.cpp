@@ -39,22 +39,21 @@ constexpr std::array OPTIONS = {
         [](request& asked, text, text value) { asked.options.address = value; }},
     row{{"--protocol", "NAME", "put the car on another bus of --list", "", "--replay"},
         take_protocol},
-    row{{"--latency", "MS", "every request takes that long, 0 for no time (as on the car's bus)"},
+    row{{"--latency", "MS", "time taken by every request, 0 for none (as on the car's bus)"},
         [](request& asked, text name, text value) {
             asked.options.adapter.latency =
                 std::chrono::milliseconds(read_number(name, value, 0, 600000));
         }},
-    row{{"--timing", "X", "the bus takes X times as long as a genuine one (1)"},
+    row{{"--timing", "X", "the bus takes X times as long as a real one (1)"},
         [](request& asked, text name, text value) {
             asked.options.adapter.timing = read_number(name, value, 0.0, 100.0);
         }},
-    row{{"--baud", "N", "the chip speaks over a serial line of N baud, 0 for none (0)", "",
+    row{{"--baud", "N", "the chip is behind a serial line of N baud, 0 for none (0)", "",
          "--replay"},
         [](request& asked, text name, text value) {
             asked.options.adapter.baud = read_number(name, value, 0, 10'000'000);
         }},
-    row{{"--round-trip", "MS", "the radio takes MS milliseconds there and back (0)", "",
-         "--replay"},
+    row{{"--round-trip", "MS", "round-trip time of the radio (0)", "", "--replay"},
         [](request& asked, text name, text value) {
             asked.options.adapter.round_trip =
                 std::chrono::milliseconds(read_number(name, value, 0, 60000));
@@ -63,24 +62,25 @@ constexpr std::array OPTIONS = {
         [](request& asked, text name, text value) {
             asked.options.adapter.speed = read_number(name, value, 0.0, 1000.0);
         }},
-    row{{"--seed", "N", "another drive, other accidents (1)", "", "--replay"},
+    row{{"--seed", "N", "seed of the drive and of random faults (1)", "", "--replay"},
         [](request& asked, text name, text value) {
             asked.options.adapter.seed = read_number(name, value, std::uint64_t{0},
                                                      std::numeric_limits<std::uint64_t>::max());
         }},
-    row{{"--fault", "NAME[=V]", "what goes wrong, a fault of --list; may be given several times",
-         "", "--replay"},
+    row{{"--fault", "NAME[=V]", "inject a fault of --list; may be given several times", "",
+         "--replay"},
         take_fault},
     row{{"--replay", "FILE", "answer from a recording of kestrom --record instead of a car"},
         [](request& asked, text, text value) { asked.options.replay = value; }},
-    row{{"--stdio", "", "speak on standard input and output instead of TCP"},
+    row{{"--stdio", "", "use standard input and output instead of TCP"},
         [](request& asked, text, text) { asked.options.stdio = true; }},
-    row{{"--pty", "", "be a serial port: make a pseudo-terminal and tell its path", "",
+    row{{"--pty", "", "act as a serial port: create a pseudo-terminal and print its path", "",
          "--stdio --port --address"},
         [](request& asked, text, text) { asked.options.pty = true; }},
     row{{"--list", "", "list cars, protocols and faults"},
         [](request& asked, text, text) { asked.options.list = true; }},
-    row{{"--help", "", "this text"}, [](request& asked, text, text) { asked.options.help = true; }},
+    row{{"--help", "", "show this text"},
+        [](request& asked, text, text) { asked.options.help = true; }},
     row{{"-h", "", "the same"}, [](request& asked, text, text) { asked.options.help = true; }},
     row{{"--version", "", "the version"},
         [](request& asked, text, text) { asked.options.version = true; }},
@@ -101,12 +101,11 @@ virtual_car_options read_options(std::span<const std::string> arguments) {
 
 std::string usage() {
     return "Usage: kestrom-virtual-car [OPTION]...\n\n"
-           "A car with an ELM327-type adapter, for trying Kestrom without "
+           "A car with an ELM327-type adapter, to try Kestrom without "
            "either.\n\nOptions\n" +
            option_lines(texts_of(std::span<const row>(OPTIONS))) +
            R"(
-Exit status: 0 success, 1 it cannot listen or write, 2 the arguments, the car file or the recording make
-no sense.
+Exit status: 0 success, 1 cannot listen or write, 2 invalid arguments, car file or recording.
 
 Examples
   kestrom-virtual-car --car diesel
@@ -114,6 +113,6 @@ Examples
   kestrom-virtual-car --replay talk.jsonl --timing 0.1
 then  kestrom --adapter 127.0.0.1:35000 codes
   kestrom-virtual-car --pty
-then  kestrom --adapter PATH codes, with the path that it tells
+then  kestrom --adapter PATH codes, with the path that it printed
 )";
 }

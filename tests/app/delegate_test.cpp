@@ -106,9 +106,9 @@ TEST(put_back, is_well_when_every_command_was_taken) {
         app.press("sendBtn");
         app.connect();
         EXPECT_EQ(app.sent(), "AT I\r");
-        app.delegate->changed_adapter(BACK);
+        app.delegate->restore_later(BACK);
         std::optional<bool> well;
-        app.delegate->put_adapter_back([&](bool taken) { well = taken; });
+        app.delegate->restore_adapter([&](bool taken) { well = taken; });
         std::string sent;
         std::istringstream replies(row.replies);
         for (std::string reply; std::getline(replies, reply, '>');) {

@@ -247,12 +247,12 @@ TEST(no_bluetooth, a_connection_without_a_system_bus_fails_in_words) {
     };
     user.tell = [&](bluetooth_problem problem, const std::string& name) {
         told = problem;
-        EXPECT_EQ(name, problem == bluetooth_problem::nobody_to_ask ? "" : ADDRESS);
+        EXPECT_EQ(name, problem == bluetooth_problem::no_user ? "" : ADDRESS);
     };
     bluez_serial_port door(loop, user,
                            [] { return QDBusConnection(QStringLiteral("no such bus")); });
     EXPECT_FALSE(door.deviceSelector());
-    EXPECT_EQ(told, bluetooth_problem::nobody_to_ask);
+    EXPECT_EQ(told, bluetooth_problem::no_user);
     const auto chosen = door.device_with_address(ADDRESS);
     ASSERT_TRUE(chosen->getServiceRecordForUUID(SERIAL_PORT_UUID));
     EXPECT_EQ(chosen->connect(), ENODEV);

@@ -74,7 +74,7 @@ TEST_F(log_file_test, an_empty_file_goes_with_its_log_but_not_what_stands_there_
     for (const bool replaced : {false, true}) {
         log_file log;
         ASSERT_EQ(log.create(path()), std::nullopt);
-        log.leave_no_empty_file();
+        log.remove_when_empty();
         if (replaced) {
             std::remove(path().c_str());
             std::ofstream(path()) << "mine";

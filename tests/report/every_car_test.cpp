@@ -24,13 +24,14 @@ struct section_row {
 };
 
 std::string state(const finding& found) {
-    return found.told() ? std::string() : std::string(outcome_name(found.result)) + " " + found.why;
+    return found.reported() ? std::string()
+                            : std::string(outcome_name(found.result)) + " " + found.why;
 }
 
 std::string codes(const unit_report& unit, std::size_t kind) {
     const finding& found = unit.of(CODE_KINDS[kind]);
     std::string text = state(found);
-    for (const told_code& one : unit.codes)
+    for (const reported_code& one : unit.codes)
         if (one.kinds[kind])
             text += one.code + " ";
     return text;
@@ -86,7 +87,7 @@ const section_row SECTIONS[] = {
     {"frame",
      [](const unit_report& unit) {
          std::string text = state(unit.of(part::frame)) + unit.frame_code;
-         for (const told_value& one : unit.frame_values)
+         for (const reported_value& one : unit.frame_values)
              text += " " + one.found.raw.substr(0, 4) + one.found.raw.substr(6);
          return text;
      },
@@ -106,7 +107,7 @@ const section_row SECTIONS[] = {
     {"readiness",
      [](const unit_report& unit) {
          std::string text = unit.compression ? "compression" : "spark";
-         for (const told_monitor& one : unit.monitors)
+         for (const reported_monitor& one : unit.monitors)
              if (one.supported)
                  text += one.complete ? " OK" : " X";
          return text;
@@ -148,7 +149,7 @@ const section_row SECTIONS[] = {
          return text;
      }},
     {"name",
-     [](const unit_report& unit) { return unit.of(part::unit_name).told() ? unit.name : ""; },
+     [](const unit_report& unit) { return unit.of(part::unit_name).reported() ? unit.name : ""; },
      [](const car& one, const control_unit& unit) {
          return unit.short_name.empty() ? is_can(one) ? unit.name : ""
                                         : unit.short_name + " - " + unit.name;
@@ -156,7 +157,7 @@ const section_row SECTIONS[] = {
     {"counters",
      [](const unit_report& unit) {
          std::string text;
-         for (const told_counter& one : unit.counters)
+         for (const reported_counter& one : unit.counters)
              text += std::to_string(one.done) + " " +
                      (one.conditions ? std::to_string(*one.conditions) + " " : "");
          return text;
@@ -170,7 +171,7 @@ const section_row SECTIONS[] = {
     {"tests",
      [](const unit_report& unit) {
          std::vector<std::string> rows;
-         for (const told_test& one : unit.tests)
+         for (const reported_test& one : unit.tests)
              rows.push_back(one.raw + (one.result == verdict::failed ? "!" : " "));
          std::ranges::sort(rows);
          return truth(rows);
@@ -197,7 +198,7 @@ const section_row SECTIONS[] = {
 void expect_truth(car_on_the_bench& bench) {
     const car_report& report = bench.read();
     EXPECT_EQ(report.units.size(), bench.the_car.units.size());
-    EXPECT_EQ(report.heard.end, reading_end::complete);
+    EXPECT_EQ(report.transcript.end, reading_end::complete);
     for (const section_row& section : SECTIONS) {
         for (const unit_report& unit : report.units) {
             const auto real =
@@ -211,8 +212,8 @@ void expect_truth(car_on_the_bench& bench) {
         }
     }
     std::cout << std::setw(12) << bench.the_car.name << std::setw(32) << report.protocol << ", "
-              << report.heard.pieces.size() << " questions, " << report.heard.milliseconds / 1000.0
-              << " s\n";
+              << report.transcript.pieces.size() << " questions, "
+              << report.transcript.milliseconds / 1000.0 << " s\n";
 }
 
 class every_car : public testing::TestWithParam<std::string> {};
@@ -232,13 +233,13 @@ TEST(late_unit, that_the_adapter_cuts_off_is_waited_for) {
 TEST(example, of_the_documentation_is_what_a_car_tells) {
     car_on_the_bench bench("diesel2019");
     bench.read();
-    conversation heard = without_vin(bench.reader.heard());
-    heard.program = "Kestrom"; // of any version
+    conversation transcript = without_vin(bench.reader.transcript());
+    transcript.program = "Kestrom"; // of any version
     QFile kept(QString::fromStdString(source_file("docs/report-example.txt")));
     ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
     const bundle english(":/kestrom", "en_US");
     EXPECT_EQ(kept.readAll().toStdString(),
-              sheet_text(sheet_of(report_of(heard, bench.toolies), english)));
+              sheet_text(sheet_of(report_of(transcript, bench.toolies), english)));
 }
 
 INSTANTIATE_TEST_SUITE_P(cars, every_car, testing::ValuesIn(car_names()),

@@ -78,15 +78,15 @@ class car_on_the_bench {
           reader(loop, door), store(folder.filePath(QStringLiteral("s.conf")).toStdString()),
           toolies({&resources, &store, nullptr, nullptr, folder.path().toStdString()}) {
         store.set_boolean(KS_METRIC_UNITS_KEY, true);
-        conversation heard;
-        heard.read_at = "2026-11-22T18:04:07+01:00";
-        heard.program = "Kestrom test";
-        reader.start(std::move(heard));
+        conversation transcript;
+        transcript.read_at = "2026-11-22T18:04:07+01:00";
+        transcript.program = "Kestrom test";
+        reader.start(std::move(transcript));
     }
     const car_report& read() {
         for (int i = 0; i < 400 && reader.running(); ++i)
             loop.advance(std::chrono::seconds(1));
-        report = report_of(reader.heard(), toolies);
+        report = report_of(reader.transcript(), toolies);
         return report;
     }
 

@@ -34,7 +34,7 @@ TEST(saved_report, opens_as_it_was_and_holds_no_hidden_number) {
         const std::string tail = vin.substr(11);
         ASSERT_TRUE(contains(saved, tail));
         const std::string hidden =
-            report_json(report_of(without_vin(bench.reader.heard()), bench.toolies));
+            report_json(report_of(without_vin(bench.reader.transcript()), bench.toolies));
         EXPECT_FALSE(contains(hidden, tail));
         EXPECT_FALSE(contains(hidden, in_hex(tail.substr(0, 2)) + in_hex(tail.substr(2, 2))));
         EXPECT_TRUE(contains(hidden, vin.substr(0, 11) + "******"));
@@ -42,16 +42,16 @@ TEST(saved_report, opens_as_it_was_and_holds_no_hidden_number) {
 }
 
 TEST(saved_report, hides_the_number_wherever_else_it_came) {
-    conversation heard;
-    heard.pieces.resize(3);
-    heard.pieces[0].request = "0902"; // in vain
-    heard.pieces[1].request = "090A";
-    heard.pieces[1].unread = {{unread_kind::frames_unclear, "2:30313233343536"}};
-    EXPECT_FALSE(contains(without_vin(heard).pieces[1].unread[0].text, "3334"));
-    heard.pieces[0].answers = {{"7E8", "490201" + in_hex("WKED19E0601234567")}};
-    heard.pieces[1].answers = {{"7E9", "490A01" + in_hex("x234567")}};
-    heard.pieces[2].text = "last car: 234567";
-    const std::vector<asked_piece> hidden = without_vin(heard).pieces;
+    conversation transcript;
+    transcript.pieces.resize(3);
+    transcript.pieces[0].request = "0902"; // in vain
+    transcript.pieces[1].request = "090A";
+    transcript.pieces[1].unread = {{unread_kind::frames_unclear, "2:30313233343536"}};
+    EXPECT_FALSE(contains(without_vin(transcript).pieces[1].unread[0].text, "3334"));
+    transcript.pieces[0].answers = {{"7E8", "490201" + in_hex("WKED19E0601234567")}};
+    transcript.pieces[1].answers = {{"7E9", "490A01" + in_hex("x234567")}};
+    transcript.pieces[2].text = "last car: 234567";
+    const std::vector<asked_piece> hidden = without_vin(transcript).pieces;
     EXPECT_FALSE(contains(hidden[1].answers[0].data, in_hex("2345")));
     EXPECT_EQ(hidden[2].text, "last car: ******");
 }

@@ -1,5 +1,5 @@
-// How each piece ends, as the sheet says it: a value, none, not told, refused, or not readable. The
-// car has one unit and answers what a row says; to all else there is no data.
+// How each piece ends, as the sheet says it: a value, none, not reported, refused, or not readable.
+// The car has one unit and answers what a row says; to all else there is no data.
 #include "report_fixture.h"
 #include "rows.h"
 #include "sheet.h"
@@ -57,7 +57,7 @@ class one_unit {
         reader.start({});
         loop.advance(std::chrono::minutes(10));
         EXPECT_FALSE(reader.running());
-        return report_of(reader.heard(), toolies);
+        return report_of(reader.transcript(), toolies);
     }
     std::string text(const car_report& report) { return sheet_text(sheet_of(report, resources)); }
 
@@ -78,7 +78,7 @@ TEST(sheet, tells_how_each_piece_ended) {
         for (; at + 2 < row.fields.size(); at += 2)
             car.door.replies[row.fields[at]] = row.fields[at + 1];
         const car_report report = car.read();
-        EXPECT_EQ(report.heard.end == reading_end::complete, row.heading == "complete");
+        EXPECT_EQ(report.transcript.end == reading_end::complete, row.heading == "complete");
         const std::string text = car.text(report);
         for (; at < row.fields.size(); ++at)
             EXPECT_TRUE(contains(text, row.fields[at])) << row.fields[at] << "\n" << text;
@@ -92,7 +92,7 @@ TEST(sheet, keeps_what_was_read_before_an_end) {
         car.door.replies[request] = "-";
     car.door.replies["020200"] = car.door.replies["0900"] = car.door.replies["0600"] = "-";
     const car_report silent = car.read();
-    EXPECT_EQ(silent.heard.end, reading_end::adapter_silent);
+    EXPECT_EQ(silent.transcript.end, reading_end::adapter_silent);
     EXPECT_TRUE(contains(car.text(silent), "The adapter fell silent"));
     EXPECT_TRUE(contains(car.text(silent), "P0301"));
     EXPECT_FALSE(contains(car.text(silent), "Permanent codes: none"));
@@ -104,8 +104,8 @@ TEST(sheet, keeps_what_was_read_before_an_end) {
             other.reader.cancel();
     };
     const car_report cancelled = other.read();
-    EXPECT_EQ(cancelled.heard.end, reading_end::cancelled);
-    EXPECT_EQ(cancelled.heard.pieces.size(), 7U);
+    EXPECT_EQ(cancelled.transcript.end, reading_end::cancelled);
+    EXPECT_EQ(cancelled.transcript.pieces.size(), 7U);
     EXPECT_TRUE(contains(other.text(cancelled), "not asked"));
 }
 
@@ -117,14 +117,15 @@ TEST(sheet, tells_the_lamp_off_and_cars_apart_only_as_far_as_that_is_known) {
     const car_report all = car.read();
     EXPECT_TRUE(contains(car.text(all), "off\n")) << car.text(all);
     car.door.replies["03"] = "7E8 04 43 01 03 01\r7E9 02 43 00";
-    EXPECT_TRUE(contains(car.text(car.read()), "off, as far as told"));
+    EXPECT_TRUE(contains(car.text(car.read()), "off, as far as reported"));
 
     const auto compared = [&](const car_report& before) {
         return sheet_text(comparison_of(before, all, car.resources));
     };
-    EXPECT_FALSE(contains(compared(report_of(without_vin(all.heard), car.toolies)), "different"));
+    EXPECT_FALSE(
+        contains(compared(report_of(without_vin(all.transcript), car.toolies)), "different"));
     EXPECT_FALSE(contains(compared(one_unit().read()), "different")); // tells no number
-    conversation other = all.heard;
+    conversation other = all.transcript;
     for (asked_piece& piece : other.pieces)
         if (piece.request == "0902")
             piece.answers[0].data.back() = '7';

@@ -139,7 +139,7 @@ TEST(fast_live, adapter_that_does_not_take_what_puts_it_back_counts_as_not_conne
     fast.run(seconds(20));
     fast.app.press("startStopBtn");
     fast.app.loop.advance(seconds(20));
-    EXPECT_FALSE(fast.app.delegate->puts_adapter_back());
+    EXPECT_FALSE(fast.app.delegate->restoring_adapter());
     EXPECT_FALSE(connected_2_KS_interface);
 }
 
@@ -158,7 +158,7 @@ TEST(fast_live, console_and_the_programs_end_find_the_adapter_as_it_was) {
     fast.app.delegate->do_actions();
     fast.run(seconds(5));
     bool ended = false;
-    EXPECT_TRUE(fast.app.delegate->puts_adapter_back_first([&] { ended = true; }));
+    EXPECT_TRUE(fast.app.delegate->restore_adapter_before([&] { ended = true; }));
     fast.app.loop.advance(seconds(1));
     EXPECT_TRUE(ended);
     EXPECT_EQ(fast.says("01 51"), "41 51 01\r\r>");
@@ -167,18 +167,18 @@ TEST(fast_live, console_and_the_programs_end_find_the_adapter_as_it_was) {
 // Nobody waits for ever, and nothing goes on.
 TEST(fast_live, link_lost_while_the_adapter_is_put_back_is_told_to_whoever_waits) {
     const auto lose = [](fast_run& fast) {
-        ASSERT_TRUE(fast.app.delegate->puts_adapter_back());
+        ASSERT_TRUE(fast.app.delegate->restoring_adapter());
         expect_warning("Disconected");
         fast.pair->lose();
         fast.app.loop.settle();
-        EXPECT_FALSE(fast.app.delegate->puts_adapter_back());
+        EXPECT_FALSE(fast.app.delegate->restoring_adapter());
         EXPECT_FALSE(fast.app.delegate->adapter_changed());
     };
     {
         fast_run closed("can29");
         closed.run(seconds(5));
         int ended = 0;
-        EXPECT_TRUE(closed.app.delegate->puts_adapter_back_first([&] { ++ended; }));
+        EXPECT_TRUE(closed.app.delegate->restore_adapter_before([&] { ++ended; }));
         lose(closed);
         EXPECT_EQ(ended, 1);
     }
@@ -193,7 +193,7 @@ TEST(fast_live, link_lost_while_the_adapter_is_put_back_is_told_to_whoever_waits
     }
     fast_run plain("iso9141", {}, milliseconds(2));
     plain.run(seconds(0));
-    for (int wait = 0; wait < 50000 && !plain.app.delegate->puts_adapter_back(); ++wait)
+    for (int wait = 0; wait < 50000 && !plain.app.delegate->restoring_adapter(); ++wait)
         plain.app.loop.advance(milliseconds(1));
     EXPECT_TRUE(plain.screen().running());
     lose(plain);

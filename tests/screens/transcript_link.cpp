@@ -182,13 +182,14 @@ const transcript_verbs LINK_VERBS = {
          t.old_channel = t.app->bluetooth.channel;
      }},
     {"late", late},
-    // The first ... for whatever is to be done over it, without a screen's work
+    // Opened as by a task, without a screen's work
     {"link", [](transcript& t, const std::string&) { t.app->delegate->openInterfaceConnection(); }},
     {"command",
      [](transcript& t, const std::string& text) { t.app->delegate->sendOBDcmd(unescaped(text)); }},
     // TRANSPORT NAME NUMBER: of the last attempt
     {"dialled",
      [](transcript& t, const std::string& text) {
+         ASSERT_FALSE(t.app->wires.empty()) << "no attempt";
          const auto& wire = t.app->wire();
          EXPECT_EQ((wire.serial ? "serial " : "wifi ") + wire.host + " " +
                        std::to_string(wire.port),

@@ -194,9 +194,9 @@ void promises::codes_are_true(readCodes& screen) {
 
 // Once for each reading, when it ends. Old cars say "NO DATA" when nothing is stored.
 void promises::none_means_none(readCodes& screen, const codes_report& shown) {
-    if (end_checked_ == shown.codes_told)
+    if (end_checked_ == shown.codes_reported)
         return;
-    end_checked_ = shown.codes_told;
+    end_checked_ = shown.codes_reported;
     if (!end_checked_)
         return;
     std::multiset<std::string> codes;

@@ -22,10 +22,10 @@ void promises::report_is_true(const report_screen& screen) {
     if (!report || report_checked_)
         return;
     report_checked_ = true;
-    app_.trace.note("shown", "a report of " + std::to_string(report->heard.pieces.size()) +
+    app_.trace.note("shown", "a report of " + std::to_string(report->transcript.pieces.size()) +
                                  " pieces, end " +
-                                 std::to_string(static_cast<int>(report->heard.end)));
-    for (const asked_piece& piece : report->heard.pieces)
+                                 std::to_string(static_cast<int>(report->transcript.end)));
+    for (const asked_piece& piece : report->transcript.pieces)
         if (!is_adapter_command(piece.request)) {
             nothing_is_invented(piece);
             nothing_is_lost(piece);

@@ -107,7 +107,7 @@ void frame_gatherer::assign(std::size_t frame, messages_of_group& so_far,
     }
 }
 
-void frame_gatherer::take_what_is_certain() {
+void frame_gatherer::take_unambiguous() {
     const bool alone = group_.size() == 1;
     for (const std::string& frame : later_)
         if (alone && group_.front().accepts(frame))
@@ -129,7 +129,7 @@ void frame_gatherer::close_group() {
     if (ways.size() == 1 && steps_ <= MOST_STEPS)
         group_ = std::move(ways.front());
     else
-        take_what_is_certain();
+        take_unambiguous();
     std::ranges::move(group_, std::back_inserter(done_));
     group_.clear();
     later_.clear();

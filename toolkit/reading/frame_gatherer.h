@@ -42,7 +42,7 @@ class frame_gatherer {
     void close_group();
     // Tries every way to assign the frames from that one on to messages.
     void assign(std::size_t frame, messages_of_group& so_far, std::vector<messages_of_group>& ways);
-    void take_what_is_certain();
+    void take_unambiguous();
 
     messages_of_group group_; // those that may be interleaved
     std::vector<std::string> later_;

@@ -153,7 +153,7 @@ void reply_reader::take_can(std::size_t number, const headed_line& line, std::st
     case '1':
     case '2': {
         if (data.size() > CAN_FRAME_DIGITS) {
-            unread(unread_kind::too_long, whole); // nobody knows which digit is false
+            unread(unread_kind::too_long, whole); // which digit is wrong is unknown
             break;
         }
         sender& from = senders_[header];

@@ -17,7 +17,7 @@ struct ecu_answer {
     std::string unit;                 // unit_name()
     std::string data;                 // capital hex digits from the service byte on; no padding
     bus_form bus = bus_form::unknown; // by which it was read
-    bool framed = true; // as long as its frame says, and nothing behind it but fill or a checksum
+    bool framed = true;               // as long as its frame says; only fill or a checksum follows
     bool operator==(const ecu_answer&) const = default;
 };
 

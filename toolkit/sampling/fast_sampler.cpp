@@ -1,4 +1,4 @@
-// The order of requests, and how the answers of a cycle are handled.
+// The order of requests and the handling of replies.
 #include "fast_sampler.h"
 
 #include "reply_lines.h"
@@ -60,7 +60,7 @@ fast_sampler::fast_sampler(const std::vector<std::string>& pids, bool can, int m
     plan_ = singles_;
 }
 
-std::span<const std::string_view> fast_sampler::farewell() {
+std::span<const std::string_view> fast_sampler::restoring_commands() {
     return FAREWELL;
 }
 
@@ -147,7 +147,7 @@ bool fast_sampler::due_plain(const request& one, milliseconds now) const {
 }
 
 fast_sampler::outcome fast_sampler::take(std::string_view reply, milliseconds now) {
-    outcome out = std::exchange(held_, {});
+    outcome out = std::exchange(unconfirmed_, {});
     answered_at_ = now;
     switch (asked_) {
     case kind::setup:
@@ -199,7 +199,7 @@ void fast_sampler::take_in_step(std::string_view reply, outcome& out) {
     const bool known = resync_ != resync::none && out.samples.empty();
     discard(out);
     if (++steps_missed_ >= MOST_STEPS_MISSED) {
-        give_the_cycle_up(out);
+        abandon_cycle(out);
         return;
     }
     if (!known && reported_bus_ != '0')
@@ -214,7 +214,7 @@ void fast_sampler::settle_bus(outcome& out) {
         give_up(out);
 }
 
-void fast_sampler::give_the_cycle_up(outcome& out) {
+void fast_sampler::abandon_cycle(outcome& out) {
     resync_ = resync::none;
     give_up(out);
     if (cursor_ == 0)
@@ -234,7 +234,7 @@ void fast_sampler::take_plan(std::string_view reply, outcome& out) {
         if (plan_.size() == 1)
             resync_ = resync::in_step; // a late reply would pass for the next one
     } else if (!asked_digit_ && one.pids.size() == 1 && notice_ == "NODATA") {
-        held_.samples.push_back({one.pids.front(), notice_});
+        unconfirmed_.samples.push_back({one.pids.front(), notice_});
         learn(one, {});
         if (plan_.size() == 1)
             resync_ = resync::flush; // so would a late answer
@@ -244,9 +244,9 @@ void fast_sampler::take_plan(std::string_view reply, outcome& out) {
     advance(out);
 }
 
-// The car's answer comes after an older one that has passed for it, or the adapter was still
-// waiting for it.
-bool fast_sampler::is_behind(const strict_reply& read, const std::vector<sample>& taken) const {
+// An older answer was taken for this one, or the adapter was still waiting for the car.
+bool fast_sampler::is_out_of_step(const strict_reply& read,
+                                  const std::vector<sample>& taken) const {
     return read.notice == "STOPPED" ||
            std::ranges::any_of(read.messages, [&](const unit_message& one) {
                return std::ranges::any_of(taken, [&](const sample& each) {
@@ -264,7 +264,7 @@ void fast_sampler::discard(outcome& out) {
 
 void fast_sampler::file(request& one, const answer& got) {
     for (const parameter_answer& part : got.parts)
-        held_.samples.push_back({part.pid, part.reply});
+        unconfirmed_.samples.push_back({part.pid, part.reply});
     if (asked_digit_)
         return;
     if (one.pids.size() == 1) {
@@ -281,13 +281,13 @@ void fast_sampler::file(request& one, const answer& got) {
 
 void fast_sampler::void_reply(request& one, outcome& out) {
     for (const std::string& pid : one.pids)
-        held_.samples.push_back({pid, "~"});
+        unconfirmed_.samples.push_back({pid, "~"});
     resync_ = resync::flush;
     one.asked_since_plain = CHECKED_EVERY;
     count_void(out);
 }
 
-// Two within so many requests to the car are too many; one that is put off is.
+// Two void replies within VOID_WITHIN requests are too many, and so is one deferred answer.
 void fast_sampler::count_void(outcome& out) {
     const bool again = voided_ && count_ - last_void_ <= VOID_WITHIN;
     voided_ = !again;
@@ -295,13 +295,13 @@ void fast_sampler::count_void(outcome& out) {
     if (deferred_ || (again && is_complaint(notice_)))
         slow_down(out);
     else if (again)
-        one_level_down(out);
+        step_down(out);
 }
 
-// Learns what an answer to a plain request looks like.
+// Learns the shape of the answer to a plain request.
 void fast_sampler::learn(request& one, const shape& form) {
     if (one.known && form != *one.known)
-        learn_anew(one);
+        relearn(one);
     if (one.learnt())
         return;
     one.seen.push_back(form);
@@ -315,24 +315,24 @@ void fast_sampler::learn(request& one, const shape& form) {
 }
 
 // Only once; for a request that changes again the digit is never used.
-void fast_sampler::learn_anew(request& one) {
+void fast_sampler::relearn(request& one) {
     one.known.reset();
     one.seen.clear();
     one.plain_times.clear();
     one.digit_times.clear();
-    one.digit = one.learnt_again ? digit_use::never : digit_use::untried;
-    one.learnt_again = true;
+    one.digit = one.relearned ? digit_use::never : digit_use::untried;
+    one.relearned = true;
 }
 
 void fast_sampler::advance(outcome& out) {
     if (++cursor_ < plan_.size())
         return;
     cursor_ = 0;
-    held_.ends_cycle = true;
+    unconfirmed_.ends_cycle = true;
     if (!ending_)
         cycle_ended(out);
     if (ending_ && resync_ == resync::none)
-        resync_ = resync::in_step; // nothing else would let the last reply go
+        resync_ = resync::in_step; // else the last reply would never be filed
 }
 
 void fast_sampler::cycle_ended(outcome& out) {
@@ -356,7 +356,7 @@ void fast_sampler::cycle_ended(outcome& out) {
     }
 }
 
-// Of what was faster once nobody shall hear that nothing was to be gained.
+// A run that was faster for a while must not end with "nothing gained".
 void fast_sampler::end_when_plain(outcome& out) {
     was_faster_ = was_faster_ || level() > 0;
     const bool plain = level() == 0 && tries_.empty() &&
@@ -366,7 +366,7 @@ void fast_sampler::end_when_plain(outcome& out) {
     ending_ = plain;
 }
 
-void fast_sampler::one_level_down(outcome& out) {
+void fast_sampler::step_down(outcome& out) {
     if (wants_singles_)
         return; // already sent
     if (stage_ != stage::running || level() <= 1) {
@@ -375,7 +375,7 @@ void fast_sampler::one_level_down(outcome& out) {
     }
     level_cap_ = level() - 1;
     wants_singles_ = level_cap_ == 1;
-    out.change = news::a_level_down;
+    out.change = news::stepped_down;
 }
 
 void fast_sampler::give_up(outcome& out) {
@@ -392,7 +392,7 @@ fast_sampler::read_answer(const request& asked, std::string_view reply, outcome&
     deferred_ = std::ranges::any_of(read.messages,
                                     [](const unit_message& one) { return one.data == "7F0178"; });
     std::optional<answer> got = answer_of(asked, read);
-    if (!got && is_behind(read, out.samples))
+    if (!got && is_out_of_step(read, out.samples))
         discard(out);
     return got;
 }
@@ -422,7 +422,7 @@ std::vector<parameter_answer> fast_sampler::parts_of(const request& asked,
                                                      const std::string& data) const {
     const std::string& first = asked.pids.front();
     if (asked.pids.size() == 1 && !lengths_.contains(first)) {
-        // Cars with two banks tell both trims in one answer; that is how long theirs are, then.
+        // Cars with two banks put both trims into one answer, which is longer then.
         const bool whole = answers_parameter(data, first) && !answer_in(data).empty() &&
                            data.size() <= answer_in(data).size() + 2;
         return whole ? std::vector{parameter_answer{first, data}} : std::vector<parameter_answer>{};

@@ -1,13 +1,12 @@
-// Chooses the requests for an adapter that can do better than one plain request at a time, and
-// decides which replies can be filed. It sends nothing and has no clock: given a reply and the
-// time, it returns what to file and what to request next.
+// Chooses the requests of a fast run and decides which replies can be filed. It sends nothing and
+// has no clock: given a reply and the time, it returns what to file and what to request next.
 //
 // It begins like plain sampling, learns what each parameter's answer looks like, and then tries two
-// things, each used only once proven on this connection: a digit after the request that tells the
-// adapter how many frames to expect, so that it does not wait for more, and on CAN up to six
-// parameters in one request. Tries are separate requests between two cycles; their replies are not
-// filed. A reply with anything odd about it is discarded entirely. What is filed is that of the
-// reply before: only the next one shows whether a reply was an older one, out of step.
+// things, each used only once proven on this connection: a digit after the request, by which the
+// adapter stops waiting after that many frames, and on CAN up to six parameters in one request.
+// Tries are separate requests between two cycles; their replies are not filed. A reply with
+// anything odd about it is discarded entirely. Each reply is filed one reply later: only the next
+// one shows whether it was out of step.
 #pragma once
 
 #include "strict_reply.h"
@@ -40,7 +39,7 @@ class fast_sampler {
         std::string pid;
         std::string reply; // as if requested alone, "410C1AF8"; "~" if discarded, or "NODATA"
     };
-    enum class news { none, a_level_down, given_up };
+    enum class news { none, stepped_down, given_up };
     struct outcome {
         std::vector<sample> samples;
         bool ends_cycle = false;
@@ -48,7 +47,7 @@ class fast_sampler {
         news change = news::none;
     };
     outcome take(std::string_view reply, milliseconds now);
-    // No prompt came: whatever still comes is ignored.
+    // No prompt came; anything that still arrives is ignored.
     outcome timed_out(milliseconds now);
 
     // Nothing can be gained, or too much went wrong: the rest of the run is plain. Only at the end
@@ -61,7 +60,7 @@ class fast_sampler {
     // 0 plain, 1 the digit, 2 several parameters per request, 3 both.
     int level() const;
     // Commands that restore the adapter for other tasks.
-    static std::span<const std::string_view> farewell();
+    static std::span<const std::string_view> restoring_commands();
 
   private:
     struct shape {                                       // of a reply
@@ -84,7 +83,7 @@ class fast_sampler {
         digit_use digit = digit_use::untried;
         int asked_since_plain = 0;
         milliseconds plain_at{0};
-        bool learnt_again = false;
+        bool relearned = false;
 
         std::string command() const;
         bool learnt() const { return known || digit == digit_use::never; }
@@ -106,21 +105,21 @@ class fast_sampler {
     bool due_plain(const request& one, milliseconds now) const;
     void take_setup(std::string_view reply, outcome& out);
     void settle_bus(outcome& out);
-    void give_the_cycle_up(outcome& out);
+    void abandon_cycle(outcome& out);
     void take_in_step(std::string_view reply, outcome& out);
     void take_plan(std::string_view reply, outcome& out);
-    bool is_behind(const strict_reply& read, const std::vector<sample>& taken) const;
+    bool is_out_of_step(const strict_reply& read, const std::vector<sample>& taken) const;
     static void discard(outcome& out);
     void file(request& one, const answer& got);
     void void_reply(request& one, outcome& out);
     void count_void(outcome& out);
     void learn(request& one, const shape& form);
-    void learn_anew(request& one);
+    void relearn(request& one);
     milliseconds exchange() const { return answered_at_ - sent_at_; }
     void advance(outcome& out);
     void cycle_ended(outcome& out);
     void end_when_plain(outcome& out);
-    void one_level_down(outcome& out);
+    void step_down(outcome& out);
     void give_up(outcome& out);
     std::optional<answer> read_answer(const request& asked, std::string_view reply, outcome& out);
     std::optional<answer> answer_of(const request& asked, const strict_reply& read) const;
@@ -145,7 +144,7 @@ class fast_sampler {
 
     bool can_;
     int most_a_second_;
-    std::deque<request> requests_; // never removed: plan and tries point into it
+    std::deque<request> requests_; // never erased: plan and tries hold pointers into it
     std::vector<request*> plan_, singles_, groups_;
     std::size_t cursor_ = 0;
     std::deque<attempt> tries_;
@@ -154,13 +153,13 @@ class fast_sampler {
     char reported_bus_ = '0'; // its latest answer, may be "?"
     stage stage_ = stage::learning;
     resync resync_ = resync::none;
-    outcome held_; // of the last reply, until the next one shows that it was no older one
+    outcome unconfirmed_; // of the last reply, until the next shows that it was in step
 
     kind asked_ = kind::setup;
     request* asked_request_ = nullptr;
     bool asked_digit_ = false;
     std::string asked_command_;
-    request* last_of_car_ = nullptr; // since the last command whose answer nothing else resembles
+    request* last_of_car_ = nullptr; // since the last command with an unmistakable answer
     std::string notice_;             // of the last reply to a plan's request or a try
     milliseconds sent_at_{0}, answered_at_{0};
     milliseconds last_request_{0}, last_answer_{0}; // of the car
@@ -177,6 +176,6 @@ class fast_sampler {
     milliseconds afterwards_{0};
     int count_ = 0, last_void_ = 0, // requests to the car, flushes aside
         steps_missed_ = 0;
-    bool voided_ = false;   // not long ago, on this level
+    bool voided_ = false;   // recently, on this level
     bool deferred_ = false; // "7F 01 78"
 };

@@ -23,8 +23,7 @@ constexpr milliseconds LONGEST_PAUSE{300};
 constexpr std::array<std::string_view, 10> SLOW{"05", "0F", "1C", "21", "30",
                                                 "31", "33", "46", "51", "5C"};
 
-// The length of the answer must be known and the same in every car. Bitmaps must not be mixed with
-// values.
+// The answer's length must be known and the same in every car; bitmaps cannot be mixed with values.
 bool may_be_grouped(std::string_view pid) {
     const unsigned number = hex_value(pid);
     const answer_length standard = standard_length(number);
@@ -121,7 +120,7 @@ void fast_sampler::several_fail() {
     }
 }
 
-// Whether a slow parameter was something else among several than it is alone.
+// Whether a slow parameter had another value in a combined request than alone.
 bool fast_sampler::differs(const std::string& pid) const {
     const auto after = after_.find(pid);
     if (std::ranges::find(SLOW, pid) == SLOW.end())
@@ -134,14 +133,14 @@ bool fast_sampler::differs(const std::string& pid) const {
         tried_.at(pid), [&](const std::string& tried) { return tried < low || tried > high; });
 }
 
-// What a void reply has left out the next cycle may tell.
+// A value missing because of a void reply may come in the next cycle.
 void fast_sampler::compare() {
     std::vector<std::string> grouped;
     for (const request* one : groups_)
         grouped.insert(grouped.end(), one->pids.begin(), one->pids.end());
-    const bool all_told = std::ranges::all_of(
+    const bool all_answered = std::ranges::all_of(
         grouped, [this](const std::string& pid) { return after_.contains(pid); });
-    if (!all_told && ++compared_ < TIMES_TRIED)
+    if (!all_answered && ++compared_ < TIMES_TRIED)
         return;
     if (std::ranges::none_of(grouped, [this](const auto& pid) { return differs(pid); })) {
         plan_ = groups_;
@@ -152,12 +151,12 @@ void fast_sampler::compare() {
     run();
 }
 
-// A car that complains, or asks for time, is asked half as often as it would be.
+// Halves the rate for a car that complains or defers its answers.
 void fast_sampler::slow_down(outcome& out) {
     std::vector<milliseconds> times{exchange()};
     for (const request* one : singles_)
         times.insert(times.end(), one->plain_times.begin(), one->plain_times.end());
-    // The exchange that showed it may be the only one, and is longer than usual.
+    // The median, since the failed exchange itself took longer than usual.
     afterwards_ = std::clamp(median(std::move(times)), milliseconds(1), LONGEST_PAUSE);
     tries_.clear();
     give_up(out);
@@ -192,7 +191,7 @@ void fast_sampler::digit_tried(request& one, const std::optional<answer>& got) {
     }
 }
 
-// A first failure is due to the adapter, a later one to this request.
+// The first failure is put down to the adapter, a later one to this request.
 void fast_sampler::digit_fails(request& one) {
     digit_works_ = std::ranges::any_of(
         plan_, [](const request* each) { return each->digit == digit_use::proven; });

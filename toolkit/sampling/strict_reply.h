@@ -1,6 +1,6 @@
-// Reads a reply of fast sampling, which allows no doubt: frame by frame, byte by byte, each unit's
-// answer once, and nothing else (ISO 15765-2, SAE J1979). Headers are on. Other replies are read by
-// reading.h, which makes the best of what came.
+// Strict reading of a reply in fast sampling, with headers on: every frame and byte must fit, each
+// unit answers once, and there is nothing else (ISO 15765-2, SAE J1979). reading.h is the lenient
+// reader for everything else.
 #pragma once
 
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "peers_way.h"
+#include "reference_client.h"
 
 #include <algorithm>
 #include <arpa/inet.h>
@@ -8,14 +8,15 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-peers_way::peers_way(int port, std::vector<std::string> pids) : pids_(std::move(pids)) {
+reference_client::reference_client(int port, std::vector<std::string> pids)
+    : pids_(std::move(pids)) {
     wire_ = ::socket(AF_INET, SOCK_STREAM, 0);
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     address.sin_port = htons(static_cast<std::uint16_t>(port));
     if (::connect(wire_, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0)
-        std::perror("the peer's way");
+        std::perror("the reference client");
     const int on = 1;
     ::setsockopt(wire_, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
     for (const char* command : {"ATZ", "ATE0", "ATH1", "ATL0", "0100"})
@@ -23,16 +24,16 @@ peers_way::peers_way(int port, std::vector<std::string> pids) : pids_(std::move(
     for (const std::string& pid : pids_) {
         const std::string reply = exchange("01" + pid);
         const auto lines = std::count(reply.begin(), reply.end(), '\r') - 1;
-        const bool told = reply.find("NO DATA") == std::string::npos;
-        requests_.push_back("01" + pid + (told ? std::to_string(lines) : ""));
+        const bool has_data = reply.find("NO DATA") == std::string::npos;
+        requests_.push_back("01" + pid + (has_data ? std::to_string(lines) : ""));
     }
 }
 
-peers_way::~peers_way() {
+reference_client::~reference_client() {
     ::close(wire_);
 }
 
-double peers_way::values_a_second(std::chrono::milliseconds span) {
+double reference_client::values_a_second(std::chrono::milliseconds span) {
     using clock = std::chrono::steady_clock;
     const auto start = clock::now();
     long values = 0;
@@ -40,13 +41,13 @@ double peers_way::values_a_second(std::chrono::milliseconds span) {
         const std::string reply = exchange(requests_[next_++ % requests_.size()]);
         if (reply.empty())
             break;
-        values += reply.find("NO DATA") == std::string::npos; // as a fast run counts
+        values += reply.find("NO DATA") == std::string::npos; // a fast run counts the same way
     }
     return static_cast<double>(values) /
            std::chrono::duration<double>(clock::now() - start).count();
 }
 
-std::string peers_way::exchange(const std::string& command) {
+std::string reference_client::exchange(const std::string& command) {
     const std::string line = command + "\r";
     std::string reply;
     if (::send(wire_, line.data(), line.size(), MSG_NOSIGNAL) < 0)

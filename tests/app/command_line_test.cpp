@@ -38,16 +38,20 @@ TEST_F(shell, options_are_read_with_and_without_the_equals_sign) {
     EXPECT_EQ(asked.timeout_seconds, 2.5);
     EXPECT_EQ(asked.arguments, (std::vector<std::string>{"AT I", "01 00"}));
     EXPECT_TRUE(asked.json);
+    EXPECT_EQ(parse_command_line(std::vector<std::string>{"live", "--pids=0d"}).asked.pids,
+              std::vector<std::string>{"0D"});
 }
 
 TEST_F(shell, an_adapter_that_is_a_path_is_a_serial_port) {
     const struct {
         const char *text, *path;
         int speed;
-    } rows[] = {{"/dev/ttyUSB0", "/dev/ttyUSB0", 0},
-                {"/dev/ttyUSB0:115200", "/dev/ttyUSB0", 115200},
-                {"/dev/serial/by-path/pci-0:00:14.0-usb-0:1:1.0-port0",
-                 "/dev/serial/by-path/pci-0:00:14.0-usb-0:1:1.0-port0", 0}};
+    } rows[] = {
+        {"/dev/ttyUSB0", "/dev/ttyUSB0", 0},
+        {"/dev/ttyUSB0:115200", "/dev/ttyUSB0", 115200},
+        {"/dev/serial/by-path/pci-0:00:14.0:9600", "/dev/serial/by-path/pci-0:00:14.0", 9600},
+        {"/dev/serial/by-path/pci-0:00:14.0-usb-0:1:1.0-port0",
+         "/dev/serial/by-path/pci-0:00:14.0-usb-0:1:1.0-port0", 0}};
     for (const auto& row : rows) {
         const auto [asked, error] =
             parse_command_line(std::vector<std::string>{"--adapter", row.text, "codes"});
@@ -81,6 +85,17 @@ TEST_F(shell, a_count_that_differs_from_the_codes_is_told) {
     const outcome result = run({"--demo=three_units", "codes"});
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(result.err, testing::HasSubstr("Codes read...but different no of codes recvd\n"));
+}
+
+TEST_F(shell, codes_that_were_not_read_are_neither_none_nor_0) {
+    car silent = load_car("only_codes");
+    silent.units[0].answers = {{"0101", {}}, {"03", {}}};
+    tcp_adapter_server server(silent, quick());
+    ASSERT_TRUE(server.listen("127.0.0.1", 0));
+    EXPECT_THAT(run({"--adapter", address(server), "codes"}).out,
+                testing::HasSubstr("Trouble codes\n  not read whole\n"));
+    const outcome told = run({"--adapter", address(server), "codes", "--json"});
+    EXPECT_TRUE(told.json().value(QLatin1String("count")).isNull()) << told.out;
 }
 
 TEST_F(shell, a_bluetooth_adapter_named_once_leaves_the_settings_alone) {

@@ -22,6 +22,7 @@ const row_operations<T> OPERATIONS{
          return std::to_string(status);
      }},
     {"printed", [](F, T t) { return t.out.str(); }},
+    {"told", [](F, T t) { return t.err.str(); }},
 };
 
 TEST_F(decode_command_test, prints_and_ends_as_the_rows_say) {

@@ -99,6 +99,7 @@ TEST_F(live_command_line, that_brings_nothing_fails_with_a_reason) {
         std::vector<std::string> arguments;
         const char* reason;
     } cases[] = {{{"--run", "o2", "--cycles", "1"}, "oxygen"},
+                 {{"--pids", "11", "--cycles", "1"}, "none of the parameters asked for"},
                  {{"--cycles", "1000000", "--timeout", "2.5"}, "the time limit has passed"}};
     for (const auto& [arguments, reason] : cases) {
         const outcome told = live(arguments);

@@ -91,6 +91,8 @@ TEST_F(adapter_behind_bluez, the_cause_of_a_failure_is_told_apart) {
         bluez_connection connection(devices, ADDRESS);
         ASSERT_TRUE(QTest::qWaitFor([&] { return connection.finished(); }));
         EXPECT_EQ(connection.problem(), expected.problem);
+        const QDBusPendingCall late = mock.hand_over(bus, device, ends[1]);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return late.isFinished(); }));
         EXPECT_EQ(connection.take_descriptor(), -1);
     }
 }

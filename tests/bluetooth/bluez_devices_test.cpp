@@ -150,8 +150,14 @@ TEST(bluetooth_devices, what_stands_in_the_way_is_told_apart_and_may_go_away) {
     mock.power(false);
     EXPECT_TRUE(problem_becomes(devices, bluetooth_problem::switched_off));
     EXPECT_FALSE(devices.searching());
+    mock.run("objects['/org/bluez/hci0'].AddMethod('org.bluez.Adapter1', 'StartDiscovery', '', '', "
+             "\"raise dbus.exceptions.DBusException('', name='org.bluez.Error.InProgress')\")");
     mock.power(true);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return devices.searching(); }));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return mock.calls("/org/bluez/hci0", "StartDiscovery") == 2; }));
+    mock.add_device("00:00:00:00:00:01", "found by another program's search");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !devices.devices().empty(); }));
+    EXPECT_TRUE(devices.searching());
     mock.stop_service();
     EXPECT_TRUE(problem_becomes(devices, bluetooth_problem::service_missing));
     EXPECT_TRUE(devices.devices().empty());

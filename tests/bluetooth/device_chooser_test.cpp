@@ -105,8 +105,10 @@ TEST_F(choosing, a_failure_is_told_and_the_next_attempt_may_succeed) {
     const std::string device = mock.add_device("00:00:00:00:00:02", "OBDII");
     mock.on_connect(device, "raise dbus.exceptions.DBusException('br-connection-page-timeout', "
                             "name='org.bluez.Error.Failed')");
-    open();
-    ASSERT_TRUE(rows_become(1));
+    mock.set_device(mock.add_device("00:00:00:00:00:01", "Another"),
+                    {{QStringLiteral("Paired"), true}});
+    open("00:00:00:00:00:02");
+    ASSERT_TRUE(rows_become(2));
     QTest::keyClick(dialog.get(), Qt::Key_Return);
     EXPECT_TRUE(state_becomes("OBDII does not answer"));
     EXPECT_TRUE(dialog->isVisible() && button("connectBtn")->isEnabled());

@@ -78,6 +78,19 @@ class low_energy_adapter : public testing::Test {
         mock.set_device(device,
                         {{QStringLiteral("UUIDs"), QStringList{uuid(QStringLiteral("fff0"))}}});
     }
+    void flood(const char* message, const char* patience) {
+        mock.run(std::string("def flood():\n  notify.settimeout(") + patience +
+                 ")\n  for i in range(3000): notify.send(" + message +
+                 ")\nflooding = threading.Thread(target=flood)\nflooding.start()");
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return mock.told("str(flooding.is_alive())") == "False"; }, 20'000));
+    }
+    int descriptor_of(low_energy_port& port) {
+        bool opened = false;
+        QObject::connect(&port, &low_energy_port::opened, [&] { opened = true; });
+        EXPECT_TRUE(QTest::qWaitFor([&] { return opened; }));
+        return port.take_descriptor();
+    }
     int connect() {
         told = bluetooth_problem::none;
         chosen = door.device_with_address(ADDRESS);
@@ -137,10 +150,7 @@ TEST_F(low_energy_adapter, what_comes_while_nothing_is_delivered_is_kept) {
     open();
     {
         const modal_hold hold(loop); // more than two sockets hold
-        mock.run("def flood():\n  for i in range(3000): notify.send(b'x' * 20)\n"
-                 "flooding = threading.Thread(target=flood)\nflooding.start()");
-        EXPECT_TRUE(
-            QTest::qWaitFor([&] { return mock.told("str(flooding.is_alive())") == "False"; }));
+        flood("b'x' * 20", "None");
         EXPECT_EQ(received, "");
     }
     EXPECT_TRUE(QTest::qWaitFor([&] { return received == std::string(60'000, 'x'); }));
@@ -168,15 +178,42 @@ TEST_F(low_energy_adapter,
     }
 }
 
+TEST_F(low_energy_adapter, a_flood_that_is_not_read_ends_the_connection_behind_what_was_kept) {
+    serve(TYPICAL);
+    low_energy_port port(door.devices(), QString::fromStdString(device));
+    const int descriptor = descriptor_of(port);
+    flood("b'x' * 500", "2"); // seconds without anybody who takes it
+    std::string bytes(4096, 0);
+    std::size_t kept = 0;
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        ssize_t count = 0;
+        while ((count = ::recv(descriptor, bytes.data(), bytes.size(), MSG_DONTWAIT)) > 0)
+            kept += static_cast<std::size_t>(count);
+        return count == 0;
+    }));
+    EXPECT_GT(kept, std::size_t{low_energy_port::MOST_UNREAD});
+    ::close(descriptor);
+}
+
+// Of the characteristics that come one by one, the first ones may not be the right ones.
+TEST_F(low_energy_adapter, services_are_looked_for_once_all_are_known) {
+    serve(TYPICAL);
+    mock.run("def serve(known=serve): known(); device.UpdateProperties(DEVICE, "
+             "{'ServicesResolved': NO})");
+    low_energy_port port(door.devices(), QString::fromStdString(device));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return calls("Connect") == 1; }));
+    QTest::qWait(100);
+    EXPECT_FALSE(port.asked());
+    mock.set_device(device, {{QStringLiteral("ServicesResolved"), true}});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return port.asked(); }));
+}
+
 // The service itself would wait for half a minute, and refuse other writes meanwhile.
 TEST_F(low_energy_adapter, a_write_without_an_answer_ends_the_connection_before_the_service_does) {
     serve("fff0 fff1 notify; fff0 fff2 write");
     mock.run("import time\ndef write(*args): time.sleep(60)");
     low_energy_port port(door.devices(), QString::fromStdString(device), 50);
-    bool opened = false;
-    QObject::connect(&port, &low_energy_port::opened, [&] { opened = true; });
-    ASSERT_TRUE(QTest::qWaitFor([&] { return opened; }));
-    const int descriptor = port.take_descriptor();
+    const int descriptor = descriptor_of(port);
     ASSERT_EQ(::write(descriptor, "AT Z\r", 5), 5);
     char byte = 0;
     EXPECT_TRUE(QTest::qWaitFor([&] { return ::recv(descriptor, &byte, 1, MSG_DONTWAIT) == 0; }));

@@ -128,13 +128,14 @@ class mock_bluez {
               QString::fromStdString(code)});
     }
     // Hands a descriptor to the profile that `client` registered last, as BlueZ does.
-    void hand_over(const QDBusConnection& client, const std::string& device, int descriptor) {
+    QDBusPendingCall hand_over(const QDBusConnection& client, const std::string& device,
+                               int descriptor) {
         QDBusMessage message =
             QDBusMessage::createMethodCall(client.baseService(), last_profile(), PROFILE_INTERFACE,
                                            QStringLiteral("NewConnection"));
         message << QVariant::fromValue(QDBusObjectPath(QString::fromStdString(device)))
                 << QVariant::fromValue(QDBusUnixFileDescriptor(descriptor)) << QVariantMap();
-        control_.asyncCall(message);
+        return control_.asyncCall(message);
     }
     // Calls of `method` on an object of the mock so far.
     qsizetype calls(const char* path, const char* method) {

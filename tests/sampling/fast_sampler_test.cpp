@@ -158,4 +158,20 @@ TEST(fast_sampler_test, slow_second_unit_is_waited_for) {
     EXPECT_EQ(car.sampler().level(), 3);
 }
 
+// SAE J1850 before 2002.
+TEST(fast_sampler_test, j1850_gets_its_rests_and_an_adapter_out_of_step_for_good_is_given_up) {
+    for (const auto& [bus, rest] : {std::pair{"A1", 100}, {"A2", 100}, {"A3", 0}}) {
+        fast_sampler sampler(FOUR, false, 0);
+        std::chrono::milliseconds longest{0};
+        for (int i = 0; i < 50 && !sampler.finished(); ++i) {
+            const auto [asked, pause] = sampler.next(seconds(9));
+            longest = std::max(longest, pause);
+            sampler.take((i < 8 && asked == "ATDPN" ? bus : "OK") + std::string("\r\r>"),
+                         seconds(9));
+        }
+        EXPECT_EQ(longest.count(), rest) << bus;
+        EXPECT_TRUE(sampler.finished()) << bus;
+    }
+}
+
 } // namespace

@@ -203,9 +203,9 @@ TEST_F(low_energy_adapter, services_are_looked_for_once_all_are_known) {
     low_energy_port port(door.devices(), QString::fromStdString(device));
     ASSERT_TRUE(QTest::qWaitFor([&] { return calls("Connect") == 1; }));
     QTest::qWait(100);
-    EXPECT_FALSE(port.asked());
+    EXPECT_FALSE(port.has_port());
     mock.set_device(device, {{QStringLiteral("ServicesResolved"), true}});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return port.asked(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return port.has_port(); }));
 }
 
 // The service itself would wait for half a minute, and refuse other writes meanwhile.

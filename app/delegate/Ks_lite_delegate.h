@@ -123,7 +123,7 @@ class Ks_lite_delegate {
     void sendOBDcmd_BT(std::string_view command);
 
     // A task has changed settings of the adapter; these commands restore them.
-    void restore_later(std::span<const std::string_view> put_back) { restore_commands_ = put_back; }
+    void restore_later(std::span<const std::string_view> commands) { restore_commands_ = commands; }
     bool adapter_changed() const { return !restore_commands_.empty(); }
     // Calls `done`, unless a screen sends a command or is replaced. `well`: the adapter accepted
     // every command.
